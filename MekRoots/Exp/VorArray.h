@@ -1,0 +1,604 @@
+// The growable array of this system, its two policies, and the map from texts to values built on it.
+//
+//   VorStringArray tokens;                       // logical length 0, physical length 0, block of 8
+//   tokens.append(VorString(L"%Weight"));        // logical length 1, physical length 8
+//
+// Lengths are signed 32-bit. The logical length counts elements; the physical length follows the block rule below and is
+// what callers see; the capacity, the room there really is, grows by half once it is past a few elements, so that a
+// million appends cost linear time whatever block was chosen. Only the elements below the logical length exist.
+//
+// Physical length: an append at index n beyond it makes it (n / block + 1) * block. setPhysicalLength keeps the storage
+// when the new length is not above the current one and above 0.75 of it; 0 frees the storage; anything else gives
+// exactly that many.
+//
+// Misuse is reported under the path "MekRoots/Exp/VorArray" and survived: an access that has no element goes to a
+// default-constructed one of its own, which the caller may read and write without touching anything else (until the
+// next such access to an array of the same element type on this thread); an invalid length or index changes nothing.
+//
+// Copies equal their source: elements are copy-constructed into fresh places, never assigned over old ones.
+#pragma once
+
+#include "VorAssert.h"
+#include "VorMemoryControllerController.h"
+#include "VorString.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <functional>
+#include <limits>
+#include <new>
+#include <type_traits>
+#include <utility>
+
+namespace VorArrayMisuse
+{
+// Lines under which callers know these reports.
+constexpr int kElementsToAppendLine = 103;
+constexpr int kElementsToDestroyLine = 115;
+constexpr int kFirstElementLine = 474;
+constexpr int kLastElementLine = 494;
+constexpr int kModifiableElementLine = 516;
+constexpr int kConstantElementLine = 526;
+constexpr int kLogicalLengthLine = 606;
+constexpr int kPhysicalLengthLine = 657;
+constexpr int kSwapLine = 1058;
+
+inline void report(const wchar_t* expression, int line)
+{
+    VorAssert::vorAssert(expression, L"MekRoots/Exp/VorArray", line);
+}
+}
+
+// Obtains and frees the storage and ends elements' lives. All operations are for arrays and their policies.
+template <class T>
+class VorArrayMemoryController
+{
+public:
+    static T* allocate(int numElements)
+    {
+        return static_cast<T*>(
+            VorMemoryControllerController::allocateArray(static_cast<std::size_t>(numElements), sizeof(T)));
+    }
+
+    static void deallocate(T* pElements, int numElements)
+    {
+        VorMemoryControllerController::deallocateArray(pElements, static_cast<std::size_t>(numElements), sizeof(T));
+    }
+
+    // Reports and does nothing without elements.
+    static void destroy(T* pElements, int numElements)
+    {
+        if (numElements < 1 || pElements == nullptr)
+        {
+            VorArrayMisuse::report(L"numElements > 0 && pElements != NULL", VorArrayMisuse::kElementsToDestroyLine);
+            return;
+        }
+        for (int i = 0; i < numElements; ++i)
+            pElements[i].~T();
+    }
+};
+
+// Moves elements one by one to a new place; the old ones are destroyed.
+template <class T>
+class VorArrayObjectCopyReallocator
+{
+public:
+    static void relocate(T* pTarget, T* pSource, int numElements)
+    {
+        for (int i = 0; i < numElements; ++i)
+        {
+            ::new (static_cast<void*>(pTarget + i)) T(std::move(pSource[i]));
+            pSource[i].~T();
+        }
+    }
+};
+
+// Moves elements byte by byte. For plain values such as int and pointers.
+template <class T>
+class VorArrayMemCopyReallocator
+{
+    static_assert(std::is_trivially_copyable<T>::value, "only plain values can be copied byte by byte");
+
+public:
+    static void relocate(T* pTarget, const T* pSource, int numElements)
+    {
+        if (numElements > 0)
+            std::memcpy(pTarget, pSource, static_cast<std::size_t>(numElements) * sizeof(T));
+    }
+};
+
+template <class T, class R, class M>
+class VorArray
+{
+public:
+    static constexpr int kDefaultGrowBy = 8;
+
+    // Blocks up to this are taken whole at the first append; larger ones are grown into, since most of the arrays that
+    // ask for blocks of thousands stay short.
+    static constexpr int kLargestWholeBlock = 64;
+
+    VorArray() = default;
+    // A block below 1 counts as 1.
+    explicit VorArray(int growBy) : m_nGrowBy(growBy < 1 ? 1 : growBy) {}
+    VorArray(const VorArray& other) : m_nGrowBy(other.m_nGrowBy) { append(other); }
+    VorArray(VorArray&& other) noexcept { exchange(other); }
+    VorArray& operator=(const VorArray& other);
+    VorArray& operator=(VorArray&& other) noexcept;
+    ~VorArray() { release(); }
+
+    int length() const { return m_nLength; }
+    int physicalLength() const { return m_nPhysicalLength; }
+    int growBy() const { return m_nGrowBy; }
+    void setGrowBy(int growBy) { m_nGrowBy = growBy < 1 ? 1 : growBy; }
+    int isEmpty() const { return m_nLength == 0 ? 1 : 0; }
+    int isValid(int index) const { return index >= 0 && index < m_nLength ? 1 : 0; }
+
+    // Appends a copy; `element` may be an element of this array.
+    void append(const T& element);
+    void append(T&& element);
+    // Appends copies of all elements of `other`, which may be this array.
+    void append(const VorArray& other);
+    // Appends copies of `numElements` elements, which may stand in this array. Reports and appends nothing for a null
+    // pointer or a count below 1.
+    void append(const T* pElements, int numElements);
+
+    T& operator[](int index);
+    const T& operator[](int index) const;
+    T& first();
+    const T& first() const;
+    T& last();
+    const T& last() const;
+
+    // Shortens or extends; new elements are default-constructed. Reports and changes nothing for a negative length.
+    void setLogicalLength(int length);
+    // See the rule above; elements past the new length are destroyed. Reports and changes nothing when negative.
+    void setPhysicalLength(int length);
+    void swap(int first, int second);
+
+    // Logical length 0; the storage is kept.
+    void empty() { shortenTo(0); }
+
+    // Half-open range over the elements.
+    T* begin() { return m_pElements; }
+    T* end() { return m_pElements + m_nLength; }
+    const T* begin() const { return m_pElements; }
+    const T* end() const { return m_pElements + m_nLength; }
+
+private:
+    static T& noElement();
+    bool standsHere(const T* pElement) const;
+    int blockLengthFor(int index) const;
+    int lengthWith(int numMore) const;
+    void makeRoomFor(int length);
+    void moveToCapacity(int capacity);
+    void shortenTo(int length);
+    void release();
+    void exchange(VorArray& other) noexcept;
+
+    int m_nLength = 0;
+    int m_nPhysicalLength = 0;
+    int m_nGrowBy = kDefaultGrowBy;
+    int m_nCapacity = 0;
+    T* m_pElements = nullptr;
+};
+
+template <class T, class R, class M>
+VorArray<T, R, M>& VorArray<T, R, M>::operator=(const VorArray& other)
+{
+    if (this == &other)
+        return *this;
+    shortenTo(0);
+    m_nGrowBy = other.m_nGrowBy;
+    append(other);
+    return *this;
+}
+
+template <class T, class R, class M>
+VorArray<T, R, M>& VorArray<T, R, M>::operator=(VorArray&& other) noexcept
+{
+    if (this == &other)
+        return *this;
+    release();
+    exchange(other);
+    return *this;
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::append(const T& element)
+{
+    if (m_nLength == m_nCapacity && standsHere(&element))
+    {
+        append(T(element)); // growing would move it away
+        return;
+    }
+    makeRoomFor(lengthWith(1));
+    ::new (static_cast<void*>(m_pElements + m_nLength)) T(element);
+    ++m_nLength;
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::append(T&& element)
+{
+    if (m_nLength == m_nCapacity && standsHere(&element))
+    {
+        append(T(std::move(element)));
+        return;
+    }
+    makeRoomFor(lengthWith(1));
+    ::new (static_cast<void*>(m_pElements + m_nLength)) T(std::move(element));
+    ++m_nLength;
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::append(const VorArray& other)
+{
+    if (other.m_nLength > 0)
+        append(other.m_pElements, other.m_nLength);
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::append(const T* pElements, int numElements)
+{
+    if (pElements == nullptr || numElements < 1)
+    {
+        VorArrayMisuse::report(L"pElements != NULL && numElements > 0", VorArrayMisuse::kElementsToAppendLine);
+        return;
+    }
+    const bool isOwn = standsHere(pElements);
+    const std::ptrdiff_t ownIndex = isOwn ? pElements - m_pElements : 0;
+    makeRoomFor(lengthWith(numElements));
+    const T* pSource = isOwn ? m_pElements + ownIndex : pElements;
+    for (int i = 0; i < numElements; ++i, ++m_nLength)
+        ::new (static_cast<void*>(m_pElements + m_nLength)) T(pSource[i]);
+}
+
+template <class T, class R, class M>
+T& VorArray<T, R, M>::operator[](int index)
+{
+    if (isValid(index))
+        return m_pElements[index];
+    VorArrayMisuse::report(L"isValid( index )", VorArrayMisuse::kModifiableElementLine);
+    return noElement();
+}
+
+template <class T, class R, class M>
+const T& VorArray<T, R, M>::operator[](int index) const
+{
+    if (isValid(index))
+        return m_pElements[index];
+    VorArrayMisuse::report(L"isValid( index )", VorArrayMisuse::kConstantElementLine);
+    return noElement();
+}
+
+template <class T, class R, class M>
+T& VorArray<T, R, M>::first()
+{
+    return const_cast<T&>(static_cast<const VorArray&>(*this).first());
+}
+
+template <class T, class R, class M>
+const T& VorArray<T, R, M>::first() const
+{
+    if (!isEmpty())
+        return m_pElements[0];
+    VorArrayMisuse::report(L"!isEmpty()", VorArrayMisuse::kFirstElementLine);
+    return noElement();
+}
+
+template <class T, class R, class M>
+T& VorArray<T, R, M>::last()
+{
+    return const_cast<T&>(static_cast<const VorArray&>(*this).last());
+}
+
+template <class T, class R, class M>
+const T& VorArray<T, R, M>::last() const
+{
+    if (!isEmpty())
+        return m_pElements[m_nLength - 1];
+    VorArrayMisuse::report(L"!isEmpty()", VorArrayMisuse::kLastElementLine);
+    return noElement();
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::setLogicalLength(int length)
+{
+    if (length < 0)
+    {
+        VorArrayMisuse::report(L"len>=0", VorArrayMisuse::kLogicalLengthLine);
+        return;
+    }
+    if (length < m_nLength)
+        shortenTo(length);
+    else if (length > m_nLength)
+        makeRoomFor(length);
+    for (; m_nLength < length; ++m_nLength)
+        ::new (static_cast<void*>(m_pElements + m_nLength)) T();
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::setPhysicalLength(int length)
+{
+    if (length < 0)
+    {
+        VorArrayMisuse::report(L"newPhysicalLen >= 0", VorArrayMisuse::kPhysicalLengthLine);
+        return;
+    }
+    if (length < m_nLength)
+        shortenTo(length);
+    const bool keepsStorage = length <= m_nPhysicalLength && length > 0.75 * m_nPhysicalLength;
+    if (keepsStorage)
+        return;
+    moveToCapacity(length);
+    m_nPhysicalLength = length;
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::swap(int first, int second)
+{
+    if (!isValid(first) || !isValid(second))
+    {
+        VorArrayMisuse::report(L"isValid( i1 ) && isValid( i2 )", VorArrayMisuse::kSwapLine);
+        return;
+    }
+    if (first == second)
+        return;
+    // Not by assignment: an element type may keep part of its old content when an empty one is assigned to it.
+    T held(std::move(m_pElements[first]));
+    m_pElements[first].~T();
+    ::new (static_cast<void*>(m_pElements + first)) T(std::move(m_pElements[second]));
+    m_pElements[second].~T();
+    ::new (static_cast<void*>(m_pElements + second)) T(std::move(held));
+}
+
+// The element that misuse is sent to: made anew each time, so that nothing written to it before is seen.
+template <class T, class R, class M>
+T& VorArray<T, R, M>::noElement()
+{
+    static thread_local T element = T();
+    element.~T();
+    ::new (static_cast<void*>(&element)) T();
+    return element;
+}
+
+template <class T, class R, class M>
+bool VorArray<T, R, M>::standsHere(const T* pElement) const
+{
+    const std::less<const T*> isBefore;
+    return m_pElements != nullptr && !isBefore(pElement, m_pElements) && isBefore(pElement, m_pElements + m_nLength);
+}
+
+// The physical length that the block rule gives for an append at `index`.
+template <class T, class R, class M>
+int VorArray<T, R, M>::blockLengthFor(int index) const
+{
+    const long long length = (static_cast<long long>(index) / m_nGrowBy + 1) * m_nGrowBy;
+    const long long longest = std::numeric_limits<int>::max();
+    return static_cast<int>(length < longest ? length : longest);
+}
+
+// The logical length after `numMore` appends; lengths that 32 bits cannot hold are out of memory.
+template <class T, class R, class M>
+int VorArray<T, R, M>::lengthWith(int numMore) const
+{
+    if (numMore > std::numeric_limits<int>::max() - m_nLength)
+        throw std::bad_alloc();
+    return m_nLength + numMore;
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::makeRoomFor(int length)
+{
+    if (length > m_nPhysicalLength)
+        m_nPhysicalLength = blockLengthFor(length - 1);
+    if (length <= m_nCapacity)
+        return;
+    if (m_nPhysicalLength <= kLargestWholeBlock)
+    {
+        moveToCapacity(m_nPhysicalLength);
+        return;
+    }
+    const long long grown = m_nCapacity + m_nCapacity / 2LL + VorArray::kDefaultGrowBy;
+    const long long wanted = grown > length ? grown : length;
+    const long long longest = std::numeric_limits<int>::max();
+    moveToCapacity(static_cast<int>(wanted < longest ? wanted : longest));
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::moveToCapacity(int capacity)
+{
+    T* pElements = M::allocate(capacity);
+    R::relocate(pElements, m_pElements, m_nLength);
+    M::deallocate(m_pElements, m_nCapacity);
+    m_pElements = pElements;
+    m_nCapacity = capacity;
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::shortenTo(int length)
+{
+    if (length < m_nLength)
+        M::destroy(m_pElements + length, m_nLength - length);
+    m_nLength = length;
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::release()
+{
+    shortenTo(0);
+    M::deallocate(m_pElements, m_nCapacity);
+    m_pElements = nullptr;
+    m_nCapacity = 0;
+    m_nPhysicalLength = 0;
+}
+
+template <class T, class R, class M>
+void VorArray<T, R, M>::exchange(VorArray& other) noexcept
+{
+    std::swap(m_nLength, other.m_nLength);
+    std::swap(m_nPhysicalLength, other.m_nPhysicalLength);
+    std::swap(m_nGrowBy, other.m_nGrowBy);
+    std::swap(m_nCapacity, other.m_nCapacity);
+    std::swap(m_pElements, other.m_pElements);
+}
+
+// A map from texts to 32-bit values: separate chains in a prime number of buckets.
+//
+//   VorStringHashMap<int> types;
+//   bool inserted = false;
+//   types.findOrInsert(VorString(L"%Weight"), 2, inserted)->value  ->  2, inserted
+//   types.findOrInsert(VorString(L"%Weight"), 3, inserted)->value  ->  2, not inserted: the first registration stays
+//
+// Keys are compared exactly. Nodes are owned by the map and stay where they are until the map is destroyed or assigned
+// to. Copies are independent.
+template <class V>
+class VorStringHashMap
+{
+public:
+    struct Node
+    {
+        Node* next;
+        VorString key;
+        V value;
+    };
+
+    VorStringHashMap() { m_buckets.setLogicalLength(kBucketCounts[0]); }
+    VorStringHashMap(const VorStringHashMap& other) : VorStringHashMap() { insertAll(other); }
+    VorStringHashMap& operator=(const VorStringHashMap& other);
+    ~VorStringHashMap() { removeAll(); }
+
+    // The node with an equal key, or a new one with `key` and `value`; `inserted` says which. Never null.
+    Node* findOrInsert(const VorString& key, V value, bool& inserted);
+
+    // The node with an equal key, or null.
+    Node* find(const VorString& key) { return findInBucket(key, bucketOf(key)); }
+    const Node* find(const VorString& key) const { return findInBucket(key, bucketOf(key)); }
+
+    int count() const { return m_nCount; }
+    int bucketCount() const { return m_buckets.length(); }
+
+private:
+    using BucketArray = VorArray<Node*, VorArrayMemCopyReallocator<Node*>>;
+
+    // Primes, each about twice the one before: a bucket holds one node on average just before the map grows. The list
+    // goes on past what 32-bit lengths can address; growing stops there.
+    static constexpr std::int64_t kBucketCounts[] = {
+        53,       97,        193,       389,       769,       1543,       3079,       6151,      12289,    24593,
+        49157,    98317,     196613,    393241,    786433,    1572869,    3145739,    6291469,   12582917, 25165843,
+        50331653, 100663319, 201326611, 402653189, 805306457, 1610612741, 3221225473, 4294967291
+    };
+
+    static std::uint32_t hashOf(const VorString& key);
+    int bucketOf(const VorString& key) const;
+    Node* findInBucket(const VorString& key, int bucket) const;
+    void growFor(int numElements);
+    void insertAll(const VorStringHashMap& other);
+    void removeAll();
+
+    BucketArray m_buckets;
+    int m_nCount = 0;
+};
+
+template <class V>
+VorStringHashMap<V>& VorStringHashMap<V>::operator=(const VorStringHashMap& other)
+{
+    if (this == &other)
+        return *this;
+    removeAll();
+    insertAll(other);
+    return *this;
+}
+
+template <class V>
+typename VorStringHashMap<V>::Node* VorStringHashMap<V>::findOrInsert(const VorString& key, V value, bool& inserted)
+{
+    growFor(m_nCount + 1);
+    const int bucket = bucketOf(key);
+    Node* pNode = findInBucket(key, bucket);
+    inserted = pNode == nullptr;
+    if (!inserted)
+        return pNode;
+    Node*& pHead = m_buckets[bucket];
+    void* pPlace = VorMemoryControllerController::allocateArray(1, sizeof(Node));
+    pHead = ::new (pPlace) Node{ pHead, key, value };
+    ++m_nCount;
+    return pHead;
+}
+
+// h = 5h + c over the key's characters, in unsigned 32-bit arithmetic.
+template <class V>
+std::uint32_t VorStringHashMap<V>::hashOf(const VorString& key)
+{
+    std::uint32_t hash = 0;
+    const wchar_t* pCharacter = key.getStringW();
+    for (int i = key.length(); i > 0; --i, ++pCharacter)
+        hash = hash * 5 + static_cast<std::uint32_t>(*pCharacter);
+    return hash;
+}
+
+template <class V>
+int VorStringHashMap<V>::bucketOf(const VorString& key) const
+{
+    return static_cast<int>(hashOf(key) % static_cast<std::uint32_t>(bucketCount()));
+}
+
+template <class V>
+typename VorStringHashMap<V>::Node* VorStringHashMap<V>::findInBucket(const VorString& key, int bucket) const
+{
+    Node* pNode = m_buckets[bucket];
+    while (pNode != nullptr && pNode->key != key)
+        pNode = pNode->next;
+    return pNode;
+}
+
+template <class V>
+void VorStringHashMap<V>::growFor(int numElements)
+{
+    if (numElements <= bucketCount())
+        return;
+    const std::int64_t* pCount = kBucketCounts;
+    while (*pCount < numElements)
+        ++pCount;
+    if (*pCount > std::numeric_limits<int>::max())
+        return;
+
+    BucketArray old(std::move(m_buckets));
+    m_buckets.setLogicalLength(static_cast<int>(*pCount));
+    for (Node* pNode : old)
+    {
+        while (pNode != nullptr)
+        {
+            Node* pNext = pNode->next;
+            Node*& pHead = m_buckets[bucketOf(pNode->key)];
+            pNode->next = pHead;
+            pHead = pNode;
+            pNode = pNext;
+        }
+    }
+}
+
+template <class V>
+void VorStringHashMap<V>::insertAll(const VorStringHashMap& other)
+{
+    bool inserted = false;
+    for (const Node* pNode : other.m_buckets)
+        for (; pNode != nullptr; pNode = pNode->next)
+            findOrInsert(pNode->key, pNode->value, inserted);
+}
+
+template <class V>
+void VorStringHashMap<V>::removeAll()
+{
+    for (Node*& pHead : m_buckets)
+    {
+        while (pHead != nullptr)
+        {
+            Node* pNode = pHead;
+            pHead = pNode->next;
+            pNode->~Node();
+            VorMemoryControllerController::deallocateArray(pNode, 1, sizeof(Node));
+        }
+    }
+    m_nCount = 0;
+}

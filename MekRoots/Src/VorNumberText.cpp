@@ -1,0 +1,268 @@
+// A scan first finds how far the number reaches, copying its characters to a narrow text, then converts that text with
+// std::from_chars, which knows no locale:
+//   L" -0x1.8p3mm"  ->  negative, hexadecimal, "1.8p3", end at "mm"  ->  -12.0
+#include "VorNumberText.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string>
+
+namespace
+{
+bool isBlank(wchar_t c)
+{
+    return c == L' ' || (c >= L'\t' && c <= L'\r');
+}
+
+bool isDigit(wchar_t c)
+{
+    return c >= L'0' && c <= L'9';
+}
+
+bool isHexDigit(wchar_t c)
+{
+    return isDigit(c) || (c >= L'a' && c <= L'f') || (c >= L'A' && c <= L'F');
+}
+
+wchar_t lower(wchar_t c)
+{
+    return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
+}
+
+int copyWide(const char* pFirst, const char* pEnd, wchar_t* out)
+{
+    int length = 0;
+    for (; pFirst != pEnd; ++pFirst)
+        out[length++] = static_cast<wchar_t>(*pFirst);
+    return length;
+}
+
+// The characters of a text from left to right, zeros past its end.
+class Reader
+{
+public:
+    Reader(const wchar_t* text, const wchar_t* textEnd) : m_pText(text), m_pEnd(textEnd) {}
+
+    wchar_t peek(int ahead = 0) const { return m_pEnd - m_pText > ahead ? m_pText[ahead] : L'\0'; }
+    void skip(int numCharacters) { m_pText += numCharacters; }
+    const wchar_t* position() const { return m_pText; }
+
+    void skipBlanks()
+    {
+        while (isBlank(peek()))
+            skip(1);
+    }
+
+    // Passes over `word`, given in lower case, in any case; false with nothing passed when it does not stand here.
+    bool skipWord(const char* word)
+    {
+        int length = 0;
+        for (; word[length] != '\0'; ++length)
+            if (lower(peek(length)) != static_cast<wchar_t>(word[length]))
+                return false;
+        skip(length);
+        return true;
+    }
+
+private:
+    const wchar_t* m_pText;
+    const wchar_t* m_pEnd;
+};
+
+bool skipSign(Reader& reader)
+{
+    const wchar_t c = reader.peek();
+    if (c != L'-' && c != L'+')
+        return false;
+    reader.skip(1);
+    return c == L'-';
+}
+
+// digits [ point digits ] with at least one digit; copies them with '.' as the point.
+bool copyMantissa(Reader& reader, bool (*isDigitHere)(wchar_t), bool decimalComma, std::string& narrow)
+{
+    bool hasDigits = false;
+    bool hasPoint = false;
+    for (;; reader.skip(1))
+    {
+        const wchar_t c = reader.peek();
+        const bool isPoint = !hasPoint && (c == L'.' || (decimalComma && c == L','));
+        if (!isPoint && !isDigitHere(c))
+            return hasDigits;
+        narrow += isPoint ? '.' : static_cast<char>(c);
+        hasPoint = hasPoint || isPoint;
+        hasDigits = hasDigits || !isPoint;
+    }
+}
+
+// [ mark [ sign ] digits ]; an exponent without digits is left where it stands.
+void copyExponent(Reader& reader, wchar_t mark, std::string& narrow)
+{
+    if (lower(reader.peek()) != mark)
+        return;
+    const bool hasSign = reader.peek(1) == L'-' || reader.peek(1) == L'+';
+    if (!isDigit(reader.peek(hasSign ? 2 : 1)))
+        return;
+    narrow += static_cast<char>(mark);
+    if (reader.peek(1) == L'-')
+        narrow += '-';
+    reader.skip(hasSign ? 2 : 1);
+    for (; isDigit(reader.peek()); reader.skip(1))
+        narrow += static_cast<char>(reader.peek());
+}
+
+// Whether a number too large or too small for its type is the former: the decimal (or hexadecimal) place of its first
+// nonzero digit against its exponent.
+bool isHuge(const std::string& narrow, int exponentPerDigit)
+{
+    const char mark = exponentPerDigit == 1 ? 'e' : 'p';
+    const std::size_t mantissaEnd = std::min(narrow.find(mark), narrow.size());
+    const std::size_t point = std::min(narrow.find('.'), mantissaEnd);
+    const std::size_t firstDigit = narrow.find_first_not_of("0.");
+    const long long place =
+        firstDigit < point ? static_cast<long long>(point - firstDigit) : -static_cast<long long>(firstDigit - point);
+
+    long long exponent = 0;
+    if (mantissaEnd < narrow.size())
+    {
+        const char* pExponent = narrow.data() + mantissaEnd + 1;
+        const std::from_chars_result result = std::from_chars(pExponent, narrow.data() + narrow.size(), exponent);
+        if (result.ec == std::errc::result_out_of_range)
+            return *pExponent != '-';
+    }
+    return exponent > -place * exponentPerDigit;
+}
+
+template <class Number>
+Number convert(const std::string& narrow, bool isHexadecimal)
+{
+    Number value = 0;
+    const std::chars_format format = isHexadecimal ? std::chars_format::hex : std::chars_format::general;
+    const std::from_chars_result result = std::from_chars(narrow.data(), narrow.data() + narrow.size(), value, format);
+    if (result.ec != std::errc::result_out_of_range)
+        return value;
+    return isHuge(narrow, isHexadecimal ? 4 : 1) ? std::numeric_limits<Number>::infinity() : Number(0);
+}
+
+// Digits, with exponent, in either base; false when there are none. "0x" without digits is the number 0 and an "x".
+template <class Number>
+bool scanDigits(Reader& reader, bool decimalComma, Number& value)
+{
+    std::string narrow;
+    Reader hexadecimal = reader;
+    if (hexadecimal.skipWord("0x") && copyMantissa(hexadecimal, isHexDigit, decimalComma, narrow))
+    {
+        copyExponent(hexadecimal, L'p', narrow);
+        value = convert<Number>(narrow, true);
+        reader = hexadecimal;
+        return true;
+    }
+    narrow.clear();
+    Reader decimal = reader;
+    if (!copyMantissa(decimal, isDigit, decimalComma, narrow))
+        return false;
+    copyExponent(decimal, L'e', narrow);
+    value = convert<Number>(narrow, false);
+    reader = decimal;
+    return true;
+}
+
+// "(" letters, digits and underscores ")" after "nan"; passed over when whole.
+void skipNanPayload(Reader& reader)
+{
+    if (reader.peek() != L'(')
+        return;
+    int length = 1;
+    while (isDigit(reader.peek(length)) || reader.peek(length) == L'_' ||
+           (lower(reader.peek(length)) >= L'a' && lower(reader.peek(length)) <= L'z'))
+        ++length;
+    if (reader.peek(length) == L')')
+        reader.skip(length + 1);
+}
+
+bool scanUnsignedDouble(Reader& reader, bool decimalComma, double& value)
+{
+    if (reader.skipWord("infinity") || reader.skipWord("inf"))
+    {
+        value = std::numeric_limits<double>::infinity();
+        return true;
+    }
+    if (reader.skipWord("nan"))
+    {
+        skipNanPayload(reader);
+        value = std::numeric_limits<double>::quiet_NaN();
+        return true;
+    }
+    return scanDigits(reader, decimalComma, value);
+}
+
+// What stream scanning reads differently: it never goes back more than one character, so a text that starts like
+// "infinity" or "0x" and breaks off is no number at all.
+bool scanUnsignedFloat(Reader& reader, float& value)
+{
+    if (reader.skipWord("inf"))
+    {
+        value = std::numeric_limits<float>::infinity();
+        return lower(reader.peek()) != L'i' || reader.skipWord("inity");
+    }
+    if (reader.skipWord("nan"))
+    {
+        value = std::numeric_limits<float>::quiet_NaN();
+        return true;
+    }
+    Reader prefix = reader;
+    if (prefix.skipWord("0x") && !isHexDigit(prefix.peek()) && !(prefix.peek() == L'.' && isHexDigit(prefix.peek(1))))
+        return false;
+    return scanDigits(reader, false, value);
+}
+}
+
+int VorNumberText::writeInteger(long long value, wchar_t* out)
+{
+    char narrow[kIntegerRoom];
+    return copyWide(narrow, std::to_chars(narrow, narrow + sizeof narrow, value).ptr, out);
+}
+
+int VorNumberText::writeGeneral(double value, wchar_t* out)
+{
+    char narrow[kGeneralRoom];
+    const auto result = std::to_chars(narrow, narrow + sizeof narrow, value, std::chars_format::general, 6);
+    return copyWide(narrow, result.ptr, out);
+}
+
+int VorNumberText::writeFixed(double value, int decimals, wchar_t* out)
+{
+    char narrow[fixedRoom(kMostDecimals)];
+    const auto result = std::to_chars(narrow, narrow + sizeof narrow, value, std::chars_format::fixed, decimals);
+    return copyWide(narrow, result.ptr, out);
+}
+
+double VorNumberText::scanDouble(const wchar_t* text, const wchar_t*& end, int decimalComma)
+{
+    Reader reader(text, text + std::char_traits<wchar_t>::length(text));
+    reader.skipBlanks();
+    const bool isNegative = skipSign(reader);
+    double value = 0;
+    if (!scanUnsignedDouble(reader, decimalComma != 0, value))
+    {
+        end = text;
+        return 0;
+    }
+    end = reader.position();
+    return std::copysign(value, isNegative ? -1.0 : 1.0);
+}
+
+VorNumberText::eScanResult VorNumberText::scanFloat(const wchar_t* text, const wchar_t* textEnd, float& value)
+{
+    Reader reader(text, textEnd);
+    reader.skipBlanks();
+    if (reader.peek() == L'\0')
+        return kEndOfText;
+    const bool isNegative = skipSign(reader);
+    float magnitude = 0;
+    if (!scanUnsignedFloat(reader, magnitude))
+        return kNoNumber;
+    value = std::copysign(magnitude, isNegative ? -1.0F : 1.0F);
+    return kNumber;
+}

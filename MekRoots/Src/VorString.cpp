@@ -1,0 +1,326 @@
+#include "VorString.h"
+
+#include "VorArray.h"
+#include "VorNumberText.h"
+
+#include <algorithm>
+#include <functional>
+#include <limits>
+#include <new>
+
+namespace
+{
+bool isDigit(wchar_t c)
+{
+    return c >= L'0' && c <= L'9';
+}
+
+bool isBlank(wchar_t c)
+{
+    return c == L' ' || (c >= L'\t' && c <= L'\r');
+}
+
+wchar_t foldCase(wchar_t c)
+{
+    return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
+}
+
+template <class Number>
+int sign(Number a, Number b)
+{
+    return a < b ? -1 : (b < a ? 1 : 0);
+}
+
+int compareCharacters(const wchar_t* pFirst, int firstLength, const wchar_t* pSecond, int secondLength)
+{
+    const int shared = std::min(firstLength, secondLength);
+    for (int i = 0; i < shared; ++i)
+        if (pFirst[i] != pSecond[i])
+            return sign(pFirst[i], pSecond[i]);
+    return sign(firstLength, secondLength);
+}
+
+// A run of digits without its leading zeros, and where it ends. The terminating zero of the text ends every run.
+struct DigitRun
+{
+    explicit DigitRun(const wchar_t* text)
+    {
+        while (*text == L'0')
+            ++text;
+        pFirst = text;
+        while (isDigit(*text))
+            ++text;
+        pEnd = text;
+    }
+
+    int compare(const DigitRun& other) const
+    {
+        const auto length = pEnd - pFirst;
+        const auto otherLength = other.pEnd - other.pFirst;
+        if (length != otherLength)
+            return sign(length, otherLength); // more digits, larger number
+        return compareCharacters(pFirst, static_cast<int>(length), other.pFirst, static_cast<int>(otherLength));
+    }
+
+    const wchar_t* pFirst;
+    const wchar_t* pEnd;
+};
+
+int textLength(const wchar_t* text)
+{
+    if (text == nullptr)
+        return 0;
+    const std::size_t length = std::wcslen(text);
+    if (length > static_cast<std::size_t>(std::numeric_limits<int>::max()))
+        throw std::bad_alloc();
+    return static_cast<int>(length);
+}
+}
+
+VorString::Block* VorString::createBlock(int capacity)
+{
+    const std::size_t size = sizeof(Block) + (static_cast<std::size_t>(capacity) + 1) * sizeof(wchar_t);
+    Block* pBlock = static_cast<Block*>(VorMemoryControllerController::allocateArray(size, 1));
+    ::new (&pBlock->numUsers) std::atomic<int>(1);
+    pBlock->length = 0;
+    pBlock->capacity = capacity;
+    return pBlock;
+}
+
+void VorString::destroyBlock(Block* pBlock)
+{
+    const std::size_t size = sizeof(Block) + (static_cast<std::size_t>(pBlock->capacity) + 1) * sizeof(wchar_t);
+    VorMemoryControllerController::deallocateArray(pBlock, size, 1);
+}
+
+VorString::VorString(const wchar_t* text) : VorString(text, textLength(text)) {}
+
+VorString::VorString(const wchar_t* text, int length)
+{
+    if (text != nullptr && length > 0)
+        append(text, length);
+}
+
+void VorString::empty()
+{
+    removeUser(m_pBlock);
+    m_pBlock = nullptr;
+}
+
+int VorString::find(const VorString& text, int start) const
+{
+    start = std::max(start, 0);
+    if (start > length())
+        return -1;
+    const wchar_t* pFirst = getStringW();
+    const wchar_t* pEnd = pFirst + length();
+    const wchar_t* pWanted = text.getStringW();
+    const wchar_t* pFound = std::search(pFirst + start, pEnd, pWanted, pWanted + text.length());
+    return pFound == pEnd && !text.isEmpty() ? -1 : static_cast<int>(pFound - pFirst);
+}
+
+int VorString::find(const wchar_t* text, int start) const
+{
+    return find(VorString(text), start);
+}
+
+VorString VorString::left(int n) const
+{
+    const int numKept = std::clamp(n, 0, length());
+    return numKept == length() ? *this : VorString(getStringW(), numKept);
+}
+
+VorString VorString::right(int n) const
+{
+    const int numKept = std::clamp(n, 0, length());
+    return numKept == length() ? *this : VorString(getStringW() + length() - numKept, numKept);
+}
+
+void VorString::removeAll(wchar_t character)
+{
+    const wchar_t* pFirst = getStringW();
+    const wchar_t* pEnd = pFirst + length();
+    if (std::find(pFirst, pEnd, character) == pEnd)
+        return;
+    VorString kept;
+    wchar_t* pKept = kept.makeRoomAtEnd(length());
+    wchar_t* pKeptEnd = std::remove_copy(pFirst, pEnd, pKept, character);
+    if (pKeptEnd == pKept)
+    {
+        empty();
+        return;
+    }
+    *pKeptEnd = L'\0';
+    kept.m_pBlock->length = static_cast<int>(pKeptEnd - pKept);
+    *this = std::move(kept);
+}
+
+int VorString::toInteger() const
+{
+    const wchar_t* pCharacter = getStringW();
+    while (isBlank(*pCharacter))
+        ++pCharacter;
+    const bool isNegative = *pCharacter == L'-';
+    if (*pCharacter == L'-' || *pCharacter == L'+')
+        ++pCharacter;
+    constexpr long long kSmallest = std::numeric_limits<int>::min();
+    constexpr long long kLargest = std::numeric_limits<int>::max();
+    long long value = 0;
+    for (; isDigit(*pCharacter) && value <= kLargest; ++pCharacter)
+        value = value * 10 + (*pCharacter - L'0');
+    return static_cast<int>(isNegative ? std::max(-value, kSmallest) : std::min(value, kLargest));
+}
+
+double VorString::toDouble(const wchar_t* text, int flag)
+{
+    const wchar_t* pEnd = nullptr;
+    return text == nullptr ? 0.0 : VorNumberText::scanDouble(text, pEnd, flag);
+}
+
+VorString& VorString::operator+=(const VorString& other)
+{
+    if (isEmpty())
+        *this = other;
+    else
+        append(other.getStringW(), other.length());
+    return *this;
+}
+
+VorString& VorString::operator+=(const wchar_t* text)
+{
+    append(text, textLength(text));
+    return *this;
+}
+
+VorString& VorString::operator+=(wchar_t character)
+{
+    append(character, 1);
+    return *this;
+}
+
+void VorString::append(const wchar_t* text, int length)
+{
+    if (text == nullptr || length < 1)
+        return;
+    const VorString keepsCharactersAlive = holdsCharacter(text) ? *this : VorString();
+    std::copy_n(text, length, makeRoomAtEnd(length));
+}
+
+void VorString::append(wchar_t character, int count)
+{
+    if (count > 0)
+        std::fill_n(makeRoomAtEnd(count), count, character);
+}
+
+bool VorString::equals(const VorString& other) const
+{
+    return length() == other.length() && std::equal(getStringW(), getStringW() + length(), other.getStringW());
+}
+
+bool VorString::holdsCharacter(const wchar_t* pCharacter) const
+{
+    const std::less<const wchar_t*> isBefore;
+    return !isBefore(pCharacter, getStringW()) && isBefore(pCharacter, getStringW() + length());
+}
+
+// Lengthens the text by `numCharacters`, which the caller writes to the place returned. The block is this text's own
+// afterwards, with room to spare when the text has grown before.
+wchar_t* VorString::makeRoomAtEnd(int numCharacters)
+{
+    const int oldLength = length();
+    if (numCharacters > std::numeric_limits<int>::max() - 1 - oldLength)
+        throw std::bad_alloc();
+    const int newLength = oldLength + numCharacters;
+    const bool isOwn = m_pBlock != nullptr && m_pBlock->numUsers.load(std::memory_order_acquire) == 1;
+    if (!isOwn || m_pBlock->capacity < newLength)
+    {
+        const long long grown = oldLength == 0 ? newLength : newLength + oldLength / 2LL;
+        const long long largest = std::numeric_limits<int>::max() - 1;
+        Block* pBlock = createBlock(static_cast<int>(std::min(grown, largest)));
+        std::copy_n(getStringW(), oldLength, pBlock->characters());
+        removeUser(m_pBlock);
+        m_pBlock = pBlock;
+    }
+    m_pBlock->length = newLength;
+    wchar_t* pPlace = m_pBlock->characters() + oldLength;
+    pPlace[numCharacters] = L'\0';
+    return pPlace;
+}
+
+int VorString::compare(const VorString& a, const VorString& b)
+{
+    if (a.sharesTextWith(b))
+        return 0;
+    return compareCharacters(a.getStringW(), a.length(), b.getStringW(), b.length());
+}
+
+int VorString::compare(const VorString& a, const VorString& b, int n)
+{
+    if (n < 1)
+        return 0;
+    return compareCharacters(a.getStringW(), std::min(a.length(), n), b.getStringW(), std::min(b.length(), n));
+}
+
+int VorString::compareWithNumbers(const VorString& a, const VorString& b)
+{
+    const wchar_t* pFirst = a.getStringW();
+    const wchar_t* pSecond = b.getStringW();
+    const wchar_t* pFirstEnd = pFirst + a.length();
+    const wchar_t* pSecondEnd = pSecond + b.length();
+    while (pFirst != pFirstEnd && pSecond != pSecondEnd)
+    {
+        if (isDigit(*pFirst) && isDigit(*pSecond))
+        {
+            const DigitRun first(pFirst);
+            const DigitRun second(pSecond);
+            if (const int order = first.compare(second))
+                return order;
+            pFirst = first.pEnd;
+            pSecond = second.pEnd;
+        }
+        else if (*pFirst != *pSecond)
+        {
+            return sign(*pFirst, *pSecond);
+        }
+        else
+        {
+            ++pFirst;
+            ++pSecond;
+        }
+    }
+    if (pFirst != pFirstEnd || pSecond != pSecondEnd)
+        return pFirst == pFirstEnd ? -1 : 1;
+    return compare(a, b); // "B02" and "B2" tie so far
+}
+
+int VorString::strCompareNoCase(const void* pFirst, const void* pSecond)
+{
+    const VorString& first = *static_cast<const VorString*>(pFirst);
+    const VorString& second = *static_cast<const VorString*>(pSecond);
+    const wchar_t* pFirstCharacter = first.getStringW();
+    const wchar_t* pSecondCharacter = second.getStringW();
+    const int shared = std::min(first.length(), second.length());
+    for (int i = 0; i < shared; ++i)
+        if (const int order = sign(foldCase(pFirstCharacter[i]), foldCase(pSecondCharacter[i])))
+            return order;
+    return sign(first.length(), second.length());
+}
+
+void VorString::getTokens(const VorString& text, VorStringArray& pieces, const VorString& delimiters)
+{
+    const wchar_t* pDelimiters = delimiters.getStringW();
+    const wchar_t* pDelimitersEnd = pDelimiters + delimiters.length();
+    const auto isDelimiter = [=](wchar_t c) { return std::find(pDelimiters, pDelimitersEnd, c) != pDelimitersEnd; };
+
+    const VorString source = text; // `text` may be one of the pieces
+    pieces.empty();
+    const wchar_t* pCharacter = source.getStringW();
+    const wchar_t* pEnd = pCharacter + source.length();
+    while (pCharacter != pEnd)
+    {
+        const wchar_t* pPiece = std::find_if_not(pCharacter, pEnd, isDelimiter);
+        pCharacter = std::find_if(pPiece, pEnd, isDelimiter);
+        if (pCharacter != pPiece)
+            pieces.append(VorString(pPiece, static_cast<int>(pCharacter - pPiece)));
+    }
+}

@@ -1,0 +1,323 @@
+// VorString::format. One directive, told on "%-8.3f" with 2.5:
+//   flags "-", width 8, precision 3, conversion 'f'  ->  digits "2.500"  ->  padded to "2.500   "
+#include "VorNumberText.h"
+#include "VorString.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdarg>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+
+namespace
+{
+// Widths and precisions stop here, so that a wrong argument cannot ask for gigabytes. Arbitrary.
+constexpr int kLargestWidth = 1000000;
+
+enum class eSize
+{
+    kInt,
+    kChar,
+    kShort,
+    kLong,
+    kLongLong
+};
+
+struct Directive
+{
+    bool isLeftAligned = false;
+    bool showsPlus = false;
+    bool showsBlank = false;
+    bool isAlternate = false;
+    bool isZeroPadded = false;
+    int width = 0;
+    int precision = -1; // -1 when none is given
+    eSize size = eSize::kInt;
+    wchar_t conversion = L'\0';
+};
+
+// The arguments in the order in which the directives take them.
+class Arguments
+{
+public:
+    explicit Arguments(std::va_list& list) { va_copy(m_list, list); }
+    ~Arguments() { va_end(m_list); }
+    Arguments(const Arguments&) = delete;
+    Arguments& operator=(const Arguments&) = delete;
+
+    int takeInt() { return va_arg(m_list, int); }
+    double takeDouble() { return va_arg(m_list, double); }
+    const wchar_t* takeText() { return va_arg(m_list, const wchar_t*); }
+
+    long long takeSigned(eSize size)
+    {
+        switch (size)
+        {
+            case eSize::kChar: return static_cast<signed char>(takeInt());
+            case eSize::kShort: return static_cast<short>(takeInt());
+            case eSize::kLong: return va_arg(m_list, long);
+            case eSize::kLongLong: return va_arg(m_list, long long);
+            default: return takeInt();
+        }
+    }
+
+    unsigned long long takeUnsigned(eSize size)
+    {
+        switch (size)
+        {
+            case eSize::kChar: return static_cast<unsigned char>(takeInt());
+            case eSize::kShort: return static_cast<unsigned short>(takeInt());
+            case eSize::kLong: return va_arg(m_list, unsigned long);
+            case eSize::kLongLong: return va_arg(m_list, unsigned long long);
+            default: return va_arg(m_list, unsigned int);
+        }
+    }
+
+private:
+    std::va_list m_list;
+};
+
+// Reads what stands between '%' and the conversion.
+class DirectiveReader
+{
+public:
+    DirectiveReader(const wchar_t* text, Arguments& arguments) : m_pText(text), m_arguments(arguments) {}
+
+    // The position after the directive, or null when the pattern ends within it.
+    const wchar_t* read(Directive& directive)
+    {
+        while (readFlag(directive))
+            ++m_pText;
+        readWidth(directive);
+        readPrecision(directive);
+        readSize(directive);
+        directive.conversion = *m_pText;
+        return *m_pText == L'\0' ? nullptr : m_pText + 1;
+    }
+
+private:
+    bool readFlag(Directive& directive) const
+    {
+        switch (*m_pText)
+        {
+            case L'-': return directive.isLeftAligned = true;
+            case L'+': return directive.showsPlus = true;
+            case L' ': return directive.showsBlank = true;
+            case L'#': return directive.isAlternate = true;
+            case L'0': return directive.isZeroPadded = true;
+            default: return false;
+        }
+    }
+
+    void readWidth(Directive& directive)
+    {
+        directive.width = readNumber();
+        if (directive.width >= 0)
+            return;
+        directive.isLeftAligned = true; // a negative '*' is a flag and a width
+        directive.width = -directive.width;
+    }
+
+    void readPrecision(Directive& directive)
+    {
+        if (*m_pText != L'.')
+            return;
+        ++m_pText;
+        directive.precision = std::max(readNumber(), -1);
+    }
+
+    int readNumber()
+    {
+        if (*m_pText == L'*')
+        {
+            ++m_pText;
+            return std::clamp(m_arguments.takeInt(), -kLargestWidth, kLargestWidth);
+        }
+        int number = 0;
+        for (; *m_pText >= L'0' && *m_pText <= L'9'; ++m_pText)
+            number = std::min(number * 10 + static_cast<int>(*m_pText - L'0'), kLargestWidth);
+        return number;
+    }
+
+    void readSize(Directive& directive)
+    {
+        for (;; ++m_pText)
+        {
+            switch (*m_pText)
+            {
+                case L'h': directive.size = directive.size == eSize::kShort ? eSize::kChar : eSize::kShort; break;
+                case L'l': directive.size = directive.size == eSize::kLong ? eSize::kLongLong : eSize::kLong; break;
+                case L'j': directive.size = sizeOf(sizeof(std::intmax_t)); break;
+                case L'z': directive.size = sizeOf(sizeof(std::size_t)); break;
+                case L't': directive.size = sizeOf(sizeof(std::ptrdiff_t)); break;
+                default: return;
+            }
+        }
+    }
+
+    static eSize sizeOf(std::size_t numBytes) { return numBytes == sizeof(int) ? eSize::kInt : eSize::kLongLong; }
+
+    const wchar_t* m_pText;
+    Arguments& m_arguments;
+};
+
+void appendPadded(VorString& out, const Directive& directive, const VorString& text)
+{
+    const int padding = directive.width - text.length();
+    if (!directive.isLeftAligned)
+        out.append(L' ', padding);
+    out += text;
+    if (directive.isLeftAligned)
+        out.append(L' ', padding);
+}
+
+// Sign or base mark, zeros up to the width when asked for, digits.
+void appendNumber(VorString& out, const Directive& directive, const std::string& mark, const std::string& digits,
+                  bool mayPadWithZeros)
+{
+    VorString text;
+    for (const char c : mark)
+        text += static_cast<wchar_t>(c);
+    if (directive.isZeroPadded && !directive.isLeftAligned && mayPadWithZeros)
+        text.append(L'0', directive.width - static_cast<int>(mark.size() + digits.size()));
+    for (const char c : digits)
+        text += static_cast<wchar_t>(c);
+    appendPadded(out, directive, text);
+}
+
+std::string signMark(const Directive& directive, bool isNegative)
+{
+    return isNegative ? "-" : (directive.showsPlus ? "+" : (directive.showsBlank ? " " : ""));
+}
+
+void makeUpperCase(std::string& text)
+{
+    for (char& c : text)
+        if (c >= 'a' && c <= 'z')
+            c = static_cast<char>(c - 'a' + 'A');
+}
+
+// The digits of an integer, at least `precision` of them; none at all for 0 with precision 0.
+std::string integerDigits(unsigned long long value, int base, int precision)
+{
+    char buffer[64];
+    std::string digits(buffer, std::to_chars(buffer, buffer + sizeof buffer, value, base).ptr);
+    if (value == 0 && precision == 0)
+        digits.clear();
+    const std::size_t wanted = static_cast<std::size_t>(std::max(precision, 0));
+    return digits.size() < wanted ? std::string(wanted - digits.size(), '0') + digits : digits;
+}
+
+void appendSigned(VorString& out, const Directive& directive, long long value)
+{
+    const auto bits = static_cast<unsigned long long>(value);
+    const std::string digits = integerDigits(value < 0 ? 0 - bits : bits, 10, directive.precision);
+    appendNumber(out, directive, signMark(directive, value < 0), digits, directive.precision < 0);
+}
+
+void appendUnsigned(VorString& out, const Directive& directive, unsigned long long value)
+{
+    const bool isHexadecimal = directive.conversion == L'x' || directive.conversion == L'X';
+    const int base = isHexadecimal ? 16 : (directive.conversion == L'o' ? 8 : 10);
+    std::string mark = directive.isAlternate && isHexadecimal && value != 0 ? "0x" : "";
+    std::string digits = integerDigits(value, base, directive.precision);
+    if (directive.isAlternate && base == 8 && (digits.empty() || digits[0] != '0'))
+        digits.insert(0, 1, '0');
+    if (directive.conversion == L'X')
+    {
+        makeUpperCase(mark);
+        makeUpperCase(digits);
+    }
+    appendNumber(out, directive, mark, digits, directive.precision < 0);
+}
+
+std::string floatDigits(const Directive& directive, double magnitude)
+{
+    const int precision = directive.precision < 0 ? 6 : directive.precision;
+    std::chars_format format = std::chars_format::general;
+    if (directive.conversion == L'f' || directive.conversion == L'F')
+        format = std::chars_format::fixed;
+    else if (directive.conversion == L'e' || directive.conversion == L'E')
+        format = std::chars_format::scientific;
+    const std::size_t room = static_cast<std::size_t>(VorNumberText::kLargestDouble + 10 + precision);
+    std::string digits(room, '\0');
+    const auto result = std::to_chars(digits.data(), digits.data() + room, magnitude, format, precision);
+    digits.resize(static_cast<std::size_t>(result.ptr - digits.data()));
+    return digits;
+}
+
+void appendFloat(VorString& out, const Directive& directive, double value)
+{
+    std::string digits = floatDigits(directive, std::fabs(value));
+    if (directive.conversion == L'F' || directive.conversion == L'E' || directive.conversion == L'G')
+        makeUpperCase(digits);
+    appendNumber(out, directive, signMark(directive, std::signbit(value)), digits, std::isfinite(value));
+}
+
+void appendText(VorString& out, const Directive& directive, const wchar_t* text)
+{
+    const wchar_t* pFirst = text == nullptr ? L"(null)" : text;
+    int length = 0;
+    while ((directive.precision < 0 || length < directive.precision) && pFirst[length] != L'\0')
+        ++length;
+    appendPadded(out, directive, VorString(pFirst, length));
+}
+
+// False when the conversion is unknown; nothing is appended then.
+bool appendConverted(VorString& out, const Directive& directive, Arguments& arguments)
+{
+    switch (directive.conversion)
+    {
+        case L'd':
+        case L'i': appendSigned(out, directive, arguments.takeSigned(directive.size)); return true;
+        case L'u':
+        case L'x':
+        case L'X':
+        case L'o': appendUnsigned(out, directive, arguments.takeUnsigned(directive.size)); return true;
+        case L'f':
+        case L'F':
+        case L'e':
+        case L'E':
+        case L'g':
+        case L'G': appendFloat(out, directive, arguments.takeDouble()); return true;
+        case L's': appendText(out, directive, arguments.takeText()); return true;
+        case L'c':
+        {
+            const wchar_t character = static_cast<wchar_t>(arguments.takeInt());
+            appendPadded(out, directive, VorString(&character, 1));
+            return true;
+        }
+        case L'%': out += L'%'; return true;
+        default: return false;
+    }
+}
+}
+
+void VorString::format(const wchar_t* pattern, ...)
+{
+    VorString formatted; // apart, since the arguments may be characters of this text
+    std::va_list list;
+    va_start(list, pattern);
+    {
+        Arguments arguments(list);
+        while (pattern != nullptr && *pattern != L'\0')
+        {
+            const wchar_t* pDirective = pattern;
+            while (*pDirective != L'\0' && *pDirective != L'%')
+                ++pDirective;
+            formatted.append(pattern, static_cast<int>(pDirective - pattern));
+            pattern = pDirective;
+            if (*pDirective == L'\0')
+                break;
+            Directive directive;
+            const wchar_t* pEnd = DirectiveReader(pDirective + 1, arguments).read(directive);
+            pattern = pEnd == nullptr ? pDirective + std::wcslen(pDirective) : pEnd;
+            if (pEnd == nullptr || !appendConverted(formatted, directive, arguments))
+                formatted.append(pDirective, static_cast<int>(pattern - pDirective));
+        }
+    }
+    va_end(list);
+    *this = std::move(formatted);
+}
