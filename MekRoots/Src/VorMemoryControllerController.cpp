@@ -27,7 +27,8 @@ namespace
 {
 constexpr std::size_t kClassWidth = 8; // multiples of 16 keep 16-byte alignment, since a class is carved aligned to it
 constexpr std::size_t kNumClasses = VorMemoryControllerController::kLargestPooledBlock / kClassWidth + 1;
-constexpr std::size_t kChunkSize = 256 * 1024; // arbitrary; large against a block, small against a report
+// Arbitrary; large against a block, small against a report.
+[[maybe_unused]] constexpr std::size_t kChunkSize = 256 * 1024;
 
 struct FreeBlock
 {

@@ -1,0 +1,32 @@
+// The kinds of quantity that have a unit, and the catalogue of units by their symbols.
+//
+//   int unit = 0;
+//   VorUnitsTransformArray::findUnit(VorUnitsTransformArray::kArea, L"ft2", unit)   ->  1, unit is 3011
+//   MEKUnit(unit, unit, 2).getVorUnitTransform().toInternalUnits(1.0)               ->  92903.04 mm²
+//
+// Immutable; safe from every thread.
+#pragma once
+
+#include "MekExport.h"
+#include "VorString.h"
+
+class MEK_UNITS_API VorUnitsTransformArray
+{
+public:
+    // Kinds of quantity, each with its unit in the model. The gaps are kinds that no list shows.
+    enum eSystems
+    {
+        kDistance = 0,          // mm
+        kAngle = 1,             // rad
+        kWeight = 2,            // kg
+        kArea = 4,              // mm²
+        kWeightPerDistance = 8, // kg/mm
+        kAreaPerDistance = 9,   // mm²/mm
+        kDensity = 15           // kg/mm³
+    };
+
+    // Looks for the unit of kind `system` that is written `symbol`; 0 with `unit` untouched when there is none. Symbols
+    // are taken exactly as written, with the raised digits or signs of print or in plain ASCII: "m²" and "m2", "°" and
+    // "deg".
+    static int findUnit(eSystems system, const VorString& symbol, int& unit);
+};

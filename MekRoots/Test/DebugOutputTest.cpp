@@ -1,0 +1,133 @@
+#include "MekRoots/Exp/DebugOutput.h"
+#include "MekRoots/Test/Support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <thread>
+#include <vector>
+
+#if !defined(_WIN32) // there it is the system's own
+
+namespace
+{
+std::vector<VorString> s_texts;
+thread_local int s_numOnThisThread = 0;
+
+void keep(const wchar_t* text)
+{
+    s_texts.emplace_back(text);
+}
+
+void countHere(const wchar_t*)
+{
+    ++s_numOnThisThread;
+}
+
+// Sends debug output to a sink while it lives.
+class SinkScope
+{
+public:
+    explicit SinkScope(DebugOutputSink sink) : m_pOld(setDebugOutputSink(sink)) { s_texts.clear(); }
+    ~SinkScope()
+    {
+        setDebugOutputSink(m_pOld);
+        std::vector<VorString>().swap(s_texts);
+    }
+    SinkScope(const SinkScope&) = delete;
+    SinkScope& operator=(const SinkScope&) = delete;
+
+private:
+    DebugOutputSink m_pOld;
+};
+
+std::string onStandardError(const wchar_t* text)
+{
+    const SinkScope none(nullptr);
+    testing::internal::CaptureStderr();
+    OutputDebugStringW(text);
+    return testing::internal::GetCapturedStderr();
+}
+}
+
+TEST(DebugOutputTest, ASinkIsGivenEachTextAsItIs)
+{
+    const SinkScope scope(keep);
+
+    OutputDebugStringW(L"push 2\n");
+    OutputDebugStringW(L"");
+    OutputDebugStringW(L"\x20AC%d");
+
+    EXPECT_EQ((std::vector<VorString>{ L"push 2\n", L"", L"\x20AC%d" }), s_texts);
+}
+
+TEST(DebugOutputTest, ANullTextWritesNothing)
+{
+    const SinkScope scope(keep);
+
+    OutputDebugStringW(nullptr);
+
+    EXPECT_TRUE(s_texts.empty());
+    EXPECT_EQ("", onStandardError(nullptr));
+}
+
+TEST(DebugOutputTest, SettingASinkGivesTheOneBefore)
+{
+    const SinkScope scope(nullptr);
+
+    EXPECT_EQ(nullptr, setDebugOutputSink(keep));
+    EXPECT_EQ(&keep, setDebugOutputSink(countHere));
+    EXPECT_EQ(&countHere, setDebugOutputSink(nullptr));
+}
+
+TEST(DebugOutputTest, WithoutASinkTheTextGoesToStandardErrorInUtf8)
+{
+    EXPECT_EQ("push 2\n", onStandardError(L"push 2\n"));
+    EXPECT_EQ("no line break is added", onStandardError(L"no line break is added"));
+    EXPECT_EQ("100%d %s", onStandardError(L"100%d %s"));
+    EXPECT_EQ("", onStandardError(L""));
+    EXPECT_EQ("\x7F|\xC2\x80|\xDF\xBF|\xE0\xA0\x80|\xEF\xBF\xBD", onStandardError(L"\x7F|\x80|\x7FF|\x800|\xFFFD"));
+    EXPECT_EQ("\xF0\x90\x80\x80|\xF4\x8F\xBF\xBF", onStandardError(L"\U00010000|\U0010FFFF"));
+}
+
+TEST(DebugOutputTest, ALongTextIsWrittenWhole)
+{
+    const std::wstring text(100000, L'x');
+
+    EXPECT_EQ(std::string(100000, 'x'), onStandardError(text.c_str()));
+}
+
+TEST(DebugOutputThreadTest, TheSinkIsCalledOnTheWritingThread)
+{
+    const SinkScope scope(countHere);
+    std::vector<std::thread> threads;
+    for (int number = 0; number < 4; ++number)
+        threads.emplace_back(
+            []
+            {
+                for (int i = 0; i < 1000; ++i)
+                    OutputDebugStringW(L"text");
+                EXPECT_EQ(1000, s_numOnThisThread);
+            });
+    for (std::thread& thread : threads)
+        thread.join();
+
+    EXPECT_EQ(0, s_numOnThisThread);
+}
+
+TEST(DebugOutputThreadTest, SinksMayBeChangedWhileOthersWrite)
+{
+    const SinkScope scope(countHere);
+    std::thread writer(
+        []
+        {
+            for (int i = 0; i < 20000; ++i)
+                OutputDebugStringW(L"text");
+        });
+    const DebugOutputSink other = [](const wchar_t*) {};
+    for (int i = 0; i < 2000; ++i)
+        setDebugOutputSink(i % 2 == 0 ? other : countHere);
+    writer.join();
+}
+
+#endif
