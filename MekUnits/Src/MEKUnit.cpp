@@ -1,0 +1,6 @@
+#include "MekRoots/Exp/MEKUnit.h"
+
+MEKUnit::MEKUnit(int unit, int inputUnit, int format)
+    : m_nUnit(unit), m_nInputUnit(inputUnit), m_nFormat(format), m_transform(unit, format)
+{
+}

@@ -1,0 +1,152 @@
+#include "VorDecimalNumber.h"
+
+#include <charconv>
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <system_error>
+
+VorDecimalNumber::VorDecimalNumber(double value)
+{
+    char text[32]; // "1.7976931348623157e+308"
+    const std::to_chars_result end =
+        std::to_chars(text, text + sizeof(text), std::fabs(value), std::chars_format::scientific);
+    const char* p = text;
+    for (; *p != 'e'; ++p)
+        if (*p != '.')
+            m_digits[m_nNumDigits++] = static_cast<unsigned char>(*p - '0');
+
+    int exponent = 0;
+    std::from_chars(p[1] == '+' ? p + 2 : p + 1, end.ptr, exponent);
+    m_nPointPosition = exponent + 1;
+}
+
+void VorDecimalNumber::multiply(std::uint64_t factor)
+{
+    std::uint64_t carry = 0;
+    for (int i = m_nNumDigits - 1; i >= 0; --i)
+    {
+        carry += m_digits[i] * factor;
+        m_digits[i] = static_cast<unsigned char>(carry % 10);
+        carry /= 10;
+    }
+    putInFront(carry);
+}
+
+// Sets the digits of `number` before the first one; those of zero are none.
+void VorDecimalNumber::putInFront(std::uint64_t number)
+{
+    int numNewDigits = 0;
+    for (std::uint64_t rest = number; rest > 0; rest /= 10)
+        ++numNewDigits;
+    std::memmove(m_digits + numNewDigits, m_digits, static_cast<std::size_t>(m_nNumDigits));
+    m_nNumDigits += numNewDigits;
+    m_nPointPosition += numNewDigits;
+    for (int i = numNewDigits - 1; i >= 0; --i, number /= 10)
+        m_digits[i] = static_cast<unsigned char>(number % 10);
+}
+
+// Long division, digit by digit, as on paper.
+void VorDecimalNumber::divide(std::uint64_t divisor)
+{
+    const VorDecimalNumber dividend = *this;
+    std::uint64_t remainder = 0;
+    m_nNumDigits = 0;
+    for (int i = 0; (i < dividend.m_nNumDigits || remainder > 0) && m_nNumDigits < kQuotientDigits; ++i)
+    {
+        remainder = remainder * 10 + (i < dividend.m_nNumDigits ? dividend.m_digits[i] : 0U);
+        const std::uint64_t quotient = remainder / divisor;
+        remainder %= divisor;
+        if (m_nNumDigits == 0 && quotient == 0)
+            --m_nPointPosition;
+        else
+            m_digits[m_nNumDigits++] = static_cast<unsigned char>(quotient);
+    }
+    if (remainder > 0 || m_nNumDigits == 0)
+        m_digits[m_nNumDigits++] = remainder > 0 ? 1 : 0;
+}
+
+void VorDecimalNumber::roundToDigits(int numDigits)
+{
+    if (numDigits >= m_nNumDigits)
+        return;
+    const bool roundsUp = m_digits[numDigits] >= 5;
+    m_nNumDigits = numDigits;
+    if (roundsUp)
+    {
+        int i = numDigits - 1;
+        for (; i >= 0 && m_digits[i] == 9; --i)
+            m_digits[i] = 0;
+        if (i >= 0)
+            ++m_digits[i];
+        else
+            putInFront(1);
+    }
+    dropLastZeros();
+}
+
+void VorDecimalNumber::dropLastZeros()
+{
+    while (m_nNumDigits > 1 && m_digits[m_nNumDigits - 1] == 0)
+        --m_nNumDigits;
+}
+
+int VorDecimalNumber::roundToParts(unsigned int numParts, VorRoundedNumber& rounded) const
+{
+    if (m_nPointPosition > VorRoundedNumber::kMostDigits)
+        return 0;
+
+    VorDecimalNumber parts = fraction();
+    parts.multiply(numParts);
+    const int lastDigit = parts.m_nPointPosition; // the first one behind the whole parts
+    const bool roundsUp = lastDigit >= 0 && lastDigit < parts.m_nNumDigits && parts.m_digits[lastDigit] >= 5;
+
+    std::uint64_t whole = wholePart();
+    std::uint64_t part = parts.wholePart() + (roundsUp ? 1 : 0);
+    if (part == numParts)
+    {
+        part = 0;
+        ++whole;
+    }
+    if (whole >= VorRoundedNumber::kWholeLimit)
+        return 0;
+    rounded.whole = whole;
+    rounded.part = part;
+    return 1;
+}
+
+// What stands behind the point.
+VorDecimalNumber VorDecimalNumber::fraction() const
+{
+    VorDecimalNumber result(0.0);
+    const int numBefore = m_nPointPosition > 0 ? m_nPointPosition : 0;
+    if (numBefore >= m_nNumDigits)
+        return result;
+    result.m_nNumDigits = m_nNumDigits - numBefore;
+    result.m_nPointPosition = m_nPointPosition - numBefore;
+    std::memcpy(result.m_digits, m_digits + numBefore, static_cast<std::size_t>(result.m_nNumDigits));
+    return result;
+}
+
+std::uint64_t VorDecimalNumber::wholePart() const
+{
+    std::uint64_t whole = 0;
+    for (int i = 0; i < m_nPointPosition; ++i)
+        whole = whole * 10 + (i < m_nNumDigits ? m_digits[i] : 0U);
+    return whole;
+}
+
+double VorDecimalNumber::toDouble() const
+{
+    char text[kMostDigits + 16];
+    char* p = text;
+    for (int i = 0; i < m_nNumDigits; ++i)
+        *p++ = static_cast<char>('0' + m_digits[i]);
+    *p++ = 'e';
+    p = std::to_chars(p, text + sizeof(text), m_nPointPosition - m_nNumDigits).ptr;
+
+    double value = 0;
+    if (std::from_chars(text, p, value).ec == std::errc::result_out_of_range)
+        return m_nPointPosition > 0 ? std::numeric_limits<double>::infinity() : 0.0;
+    return value;
+}

@@ -1,0 +1,233 @@
+// Most values are nowhere near the middle between two texts, and one multiplication tells to which they round
+// (roundQuickly). Only the others are converted and rounded on their decimal digits. Both ways agree: the quick one
+// declines wherever the exact one could decide otherwise.
+//
+//   304.00625 mm in feet and inches to 1/16"
+//     quickly   304.00625 * 16/25.4 = 191.5 (nearly)        too close to call
+//     exactly   304.00625 * 10/254 = 11.96875 = 191 1/2 sixteenths, half away from zero: 192 = 12"
+#include "MekRoots/Exp/VorUnitTransform.h"
+
+#include "MekRoots/Exp/VorAssert.h"
+#include "VorDecimalNumber.h"
+#include "VorQuantityText.h"
+#include "VorUnitCatalogue.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace
+{
+const wchar_t kSourcePath[] = L"MekUnits/Src/VorUnitTransform"; // named in assertion reports
+
+// Shown for a number that is not in the catalogue.
+const VorUnitDefinition kModelUnit = {
+    0, VorUnitsTransformArray::kDistance, VorUnitDefinition::kPlainNumber, L"", L"", 1, 1
+};
+
+const int kFirstFraction = 1000; // format of no parts; a rule of the formats, as is the next
+const int kLargestDenominator = 256;
+const int kInchesPerFoot = 12;
+const wchar_t kFootMark = L'\'';
+const wchar_t kInchMark = L'"';
+
+// How far a product of a value and m_dPartsPerInternalUnit, relative to its size, can stand from the decimal number that
+// is shown: 6 roundings of half a unit in the last place, 7e-16 in all, with some room.
+const double kProductTolerance = 4e-15;
+
+// Products from here on have no tolerance below a half left.
+const double kQuickLimit = 0.5 / kProductTolerance;
+
+// Digits that survive a conversion there and back.
+const int kReadDigits = 15;
+
+const VorUnitDefinition& unitOrModelUnit(int unit)
+{
+    const VorUnitDefinition* pUnit = VorUnitCatalogue::findUnit(unit);
+    if (pUnit != nullptr)
+        return *pUnit;
+    VorAssert::vorAssert(L"isUnit( unit )", kSourcePath, __LINE__);
+    return kModelUnit;
+}
+
+int decimalsOf(int format)
+{
+    if (format >= kFirstFraction)
+        return -1;
+    return format > 0 ? format % 10 : 0;
+}
+
+unsigned int partsOf(int format)
+{
+    if (format >= kFirstFraction)
+        return static_cast<unsigned int>(std::clamp(format - kFirstFraction, 1, kLargestDenominator));
+    unsigned int numParts = 1;
+    for (int i = decimalsOf(format); i > 0; --i)
+        numParts *= 10;
+    return numParts;
+}
+
+// |value| * numerator / denominator on the decimal digits, with the sign of `value`.
+double scaleExactly(double value, std::uint64_t numerator, std::uint64_t denominator)
+{
+    if (numerator == denominator || value == 0 || !std::isfinite(value))
+        return value;
+    VorDecimalNumber number(value);
+    number.multiply(numerator);
+    number.divide(denominator);
+    return std::copysign(number.toDouble(), value);
+}
+
+double roundToReadDigits(double value)
+{
+    VorDecimalNumber number(value);
+    number.roundToDigits(kReadDigits);
+    return std::copysign(number.toDouble(), value);
+}
+
+// Rounds `product`, the shown number in parts; 0 with `number` untouched when it is too close to the middle between two
+// parts, too large to be sure, infinite or undefined.
+int roundQuickly(double product, unsigned int numParts, VorRoundedNumber& number)
+{
+    if (!(product < kQuickLimit))
+        return 0;
+    const std::int64_t below = static_cast<std::int64_t>(product);
+    const double rest = product - static_cast<double>(below);
+    if (std::fabs(rest - 0.5) <= product * kProductTolerance)
+        return 0;
+    const std::uint64_t parts = static_cast<std::uint64_t>(below) + (rest > 0.5 ? 1 : 0);
+    number.whole = parts / numParts;
+    number.part = parts % numParts;
+    return 1;
+}
+
+VorString wordFor(double value)
+{
+    if (std::isnan(value))
+        return VorString(L"nan");
+    return VorString(value < 0 ? L"-inf" : L"inf");
+}
+
+// How formatValue was asked to lay out a number.
+struct Layout
+{
+    VorUnitDefinition::eLayout layout;
+    int numDecimals; // -1 for fractions
+    unsigned int numParts;
+    int suppressLastZeros;
+    int suppressZeroFeet;
+    int suppressZeroInch;
+    wchar_t feetInchSeparator;
+};
+
+// "0", "3.41", "3 5/16", "3". Without `showZeroWhole` a fraction stands alone: "5/16".
+void addNumber(VorQuantityText& text, const VorRoundedNumber& number, const Layout& layout, bool showZeroWhole)
+{
+    if (layout.numDecimals >= 0)
+    {
+        text.addInteger(number.whole);
+        text.addDecimals(number.part, layout.numDecimals, layout.suppressLastZeros);
+        return;
+    }
+    const bool showsWhole = number.whole > 0 || number.part == 0 || showZeroWhole;
+    if (showsWhole)
+        text.addInteger(number.whole);
+    if (number.part == 0)
+        return;
+    if (showsWhole)
+        text.addCharacter(L' ');
+    text.addFraction(number.part, layout.numParts);
+}
+
+void addFeetAndInches(VorQuantityText& text, const VorRoundedNumber& number, const Layout& layout)
+{
+    const std::uint64_t feet = number.whole / kInchesPerFoot;
+    VorRoundedNumber inches = number;
+    inches.whole = number.whole % kInchesPerFoot;
+
+    const bool showsFeet = feet > 0 || layout.suppressZeroFeet == 0;
+    const bool showsInches = !inches.isZero() || layout.suppressZeroInch == 0 || !showsFeet;
+    if (showsFeet)
+    {
+        text.addInteger(feet);
+        text.addCharacter(kFootMark);
+    }
+    if (showsFeet && showsInches && layout.feetInchSeparator != 0)
+        text.addCharacter(layout.feetInchSeparator);
+    if (showsInches)
+    {
+        addNumber(text, inches, layout, showsFeet);
+        text.addCharacter(kInchMark);
+    }
+}
+
+void addRounded(VorQuantityText& text, const VorRoundedNumber& number, const Layout& layout)
+{
+    if (layout.layout == VorUnitDefinition::kFeetAndInches)
+        addFeetAndInches(text, number, layout);
+    else
+        addNumber(text, number, layout, false);
+}
+
+void addHuge(VorQuantityText& text, double shown, const Layout& layout)
+{
+    text.addWithExponent(VorDecimalNumber(shown));
+    if (layout.layout == VorUnitDefinition::kFeetAndInches)
+        text.addCharacter(kInchMark);
+}
+}
+
+VorUnitTransform::VorUnitTransform(int unit, int format)
+    : m_pUnit(&unitOrModelUnit(unit)),
+      m_nDecimals(decimalsOf(format)),
+      m_nParts(partsOf(format)),
+      m_dPartsPerInternalUnit(static_cast<double>(m_pUnit->denominator) / static_cast<double>(m_pUnit->numerator) *
+                              m_nParts)
+{
+}
+
+double VorUnitTransform::toDisplayUnits(double internalValue) const
+{
+    const double quotient = scaleExactly(internalValue, m_pUnit->denominator, m_pUnit->numerator);
+    if (m_pUnit->numerator == m_pUnit->denominator || !std::isfinite(quotient))
+        return quotient;
+    const double asRead = roundToReadDigits(quotient);
+    return VorUnitTransform::toInternalUnits(asRead) == internalValue ? asRead : quotient;
+}
+
+double VorUnitTransform::toInternalUnits(double displayValue) const
+{
+    return scaleExactly(displayValue, m_pUnit->numerator, m_pUnit->denominator);
+}
+
+VorString VorUnitTransform::formatValue(double internalValue, int suppressLastZeros, int showUnitSymbol,
+                                        int suppressZeroFeet, int suppressZeroInch, wchar_t feetInchSeparator) const
+{
+    VorRoundedNumber number;
+    int fits = roundQuickly(std::fabs(internalValue) * m_dPartsPerInternalUnit, m_nParts, number);
+    double shown = internalValue;
+    if (fits == 0)
+    {
+        shown = VorUnitTransform::toDisplayUnits(internalValue);
+        if (!std::isfinite(shown))
+            return wordFor(shown);
+        fits = VorDecimalNumber(shown).roundToParts(m_nParts, number);
+    }
+
+    const Layout layout = { m_pUnit->layout,  m_nDecimals,      m_nParts,         suppressLastZeros,
+                            suppressZeroFeet, suppressZeroInch, feetInchSeparator };
+    VorQuantityText text;
+    if (shown < 0 && (fits == 0 || number.isZero() == 0))
+        text.addCharacter(L'-');
+    if (fits != 0)
+        addRounded(text, number, layout);
+    else
+        addHuge(text, shown, layout);
+    if (showUnitSymbol != 0 && layout.layout == VorUnitDefinition::kPlainNumber)
+        text.addSymbol(m_pUnit->symbol);
+    return text.text();
+}
+
+VorUnitsTransformArray::eSystems VorUnitTransform::system() const
+{
+    return m_pUnit->system;
+}

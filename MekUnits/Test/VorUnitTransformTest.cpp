@@ -1,0 +1,368 @@
+// Conversions, and properties that hold for every value. The texts themselves are in the tables of
+// VorUnitTransformNumbersTest and VorUnitTransformFeetAndInchesTest.
+#include "MekRoots/Exp/VorUnitTransform.h"
+
+#include "AllocationCount.h"
+#include "FormatCase.h"
+#include "SlowRounding.h"
+
+#include <atomic>
+#include <clocale>
+#include <cmath>
+#include <limits>
+#include <locale>
+#include <random>
+#include <thread>
+#include <vector>
+
+namespace
+{
+const int kMillimetre = 3;
+const int kInch = 10;
+const int kFeetAndInches = 13;
+const int kPound = 1021;
+const int kDegree = 2006;
+const int kSquareMetre = 3003;
+const int kSquareFoot = 3011;
+const int kPoundPerFoot = 4011;
+const int kPoundPerCubicFoot = 7011;
+const int kAllUnits[] = {
+    3, 6, 10, 11, 13, 1009, 1021, 2000, 2006, 3000, 3003, 3011, 4000, 4011, 4100, 4111, 7001, 7011
+};
+
+double toDisplay(int unit, double value)
+{
+    return VorUnitTransform(unit, 2).toDisplayUnits(value);
+}
+
+double toInternal(int unit, double value)
+{
+    return VorUnitTransform(unit, 2).toInternalUnits(value);
+}
+
+// Values of every size, many of them at a half of a decimal or of a fraction, or one double beside it.
+class ValueSource
+{
+public:
+    explicit ValueSource(unsigned int seed) : m_random(seed) {}
+
+    double next()
+    {
+        const double value = pickSize();
+        switch (m_random() % 4)
+        {
+            case 0: return std::nextafter(value, 1e300);
+            case 1: return std::nextafter(value, -1e300);
+            default: return value;
+        }
+    }
+
+private:
+    double pickSize()
+    {
+        const double sign = m_random() % 2 == 0 ? 1.0 : -1.0;
+        const double number = static_cast<double>(m_random() % 10000000);
+        switch (m_random() % 5)
+        {
+            case 0: return sign * (number + 0.5) / std::pow(10.0, m_random() % 10);
+            case 1: return sign * (number + 0.5) * 25.4 / 16;
+            case 2: return sign * (number + 0.5) * 1000.0;
+            case 3: return sign * number / 1000.0;
+            default: return sign * std::exp(static_cast<double>(m_random() % 800) / 10.0 - 40.0);
+        }
+    }
+
+    std::mt19937 m_random;
+};
+
+VorString wide(const std::string& text)
+{
+    return VorString(std::wstring(text.begin(), text.end()).c_str());
+}
+
+// The text of `value` by hand, from the number that the transform says it shows.
+VorString slowlyFormatted(double value, int numDecimals, bool suppressLastZeros)
+{
+    using namespace SlowRounding;
+    std::string text = rounded(shortestText(value), numDecimals);
+    if (suppressLastZeros)
+        text = withoutLastZeros(text);
+    return wide(withSign(value, text));
+}
+
+// The same in feet and inches to 1/16, with nothing suppressed.
+VorString slowlyFormattedInSixteenths(double inches)
+{
+    const long long numSixteenths =
+        std::stoll(SlowRounding::rounded(SlowRounding::times(SlowRounding::shortestText(inches), 16), 0));
+    std::string text = std::to_string(numSixteenths / 16 / 12) + "'-" + std::to_string(numSixteenths / 16 % 12);
+    const char* const kFractions[] = { "",     " 1/16", " 1/8", " 3/16",  " 1/4", " 5/16",  " 3/8", " 7/16",
+                                       " 1/2", " 9/16", " 5/8", " 11/16", " 3/4", " 13/16", " 7/8", " 15/16" };
+    text += kFractions[numSixteenths % 16];
+    return wide((inches < 0 && numSixteenths > 0 ? "-" : "") + text + "\"");
+}
+
+// The exact factor as somebody else would write it: the model's unit in one display unit.
+struct FactorCase
+{
+    int unit;
+    long double factor;
+};
+const FactorCase kFactors[] = {
+    { 3, 1.0L },
+    { 6, 1000.0L },
+    { 10, 25.4L },
+    { 11, 12 * 25.4L },
+    { 13, 25.4L },
+    { 1009, 1.0L },
+    { 1021, 0.45359237L },
+    { 2000, 1.0L },
+    { 2006, 3.14159265358979323846264338327950288L / 180 },
+    { 3000, 1.0L },
+    { 3003, 1e6L },
+    { 3011, 12 * 25.4L * 12 * 25.4L },
+    { 4000, 1.0L / 1000 },
+    { 4011, 0.45359237L / (12 * 25.4L) },
+    { 4100, 1e6L / 1000 },
+    { 4111, 12 * 25.4L },
+    { 7001, 1.0L / 1e9L },
+    { 7011, 0.45359237L / (12 * 25.4L * 12 * 25.4L * 12 * 25.4L) },
+};
+
+TEST(VorUnitTransformTest, EveryFactorIsThatOfAnIndependentTable)
+{
+    for (const FactorCase& c : kFactors)
+    {
+        const double factor = static_cast<double>(c.factor);
+        EXPECT_DOUBLE_EQ(factor, toInternal(c.unit, 1.0)) << "unit " << c.unit;
+        EXPECT_DOUBLE_EQ(-1000 * factor, toInternal(c.unit, -1000.0)) << "unit " << c.unit;
+        EXPECT_DOUBLE_EQ(static_cast<double>(1 / c.factor), toDisplay(c.unit, 1.0)) << "unit " << c.unit;
+        EXPECT_EQ(1.0, toDisplay(c.unit, toInternal(c.unit, 1.0))) << "unit " << c.unit;
+    }
+    EXPECT_EQ(std::size(kAllUnits), std::size(kFactors));
+}
+
+TEST(VorUnitTransformTest, ConvertsTheDecimalNumberThatIsSeen)
+{
+    EXPECT_EQ(90.0, toDisplay(kInch, 2286.0));
+    EXPECT_EQ(90.0, toDisplay(kFeetAndInches, 2286.0));
+    EXPECT_EQ(11.96875, toDisplay(kInch, 304.00625)); // a division of doubles is one place below
+    EXPECT_EQ(1.005, toDisplay(kInch, 25.527));
+    EXPECT_EQ(167.876533, toDisplay(kSquareMetre, 167876533.0));
+    EXPECT_EQ(1005000.0, toInternal(kSquareMetre, 1.005)); // a product of doubles is one place below
+    EXPECT_EQ(25.4, toInternal(kInch, 1.0));
+    EXPECT_EQ(92903.04, toInternal(kSquareFoot, 1.0));
+    EXPECT_EQ(0.45359237, toInternal(kPound, 1.0));
+    EXPECT_EQ(90.0, toDisplay(kDegree, 1.5707963267948966));
+    EXPECT_EQ(1.5707963267948966, toInternal(kDegree, 90.0));
+}
+
+TEST(VorUnitTransformTest, WhatWasReadInAUnitIsShownAgain)
+{
+    std::mt19937 random(1);
+    for (const int unit : kAllUnits)
+        for (int i = 0; i < 2000; ++i)
+        {
+            const double read = static_cast<double>(random() % 1000000000) / std::pow(10.0, random() % 9);
+            ASSERT_EQ(read, toDisplay(unit, toInternal(unit, read))) << "unit " << unit;
+            ASSERT_EQ(-read, toDisplay(unit, toInternal(unit, -read))) << "unit " << unit;
+        }
+}
+
+TEST(VorUnitTransformTest, ConversionsStayWithinTheLastPlaceOfTheQuotient)
+{
+    ValueSource values(2);
+    for (int i = 0; i < 20000; ++i)
+    {
+        const double value = values.next();
+        for (const FactorCase& c : kFactors)
+        {
+            const double quotient = static_cast<double>(static_cast<long double>(value) / c.factor);
+            const double product = static_cast<double>(static_cast<long double>(value) * c.factor);
+            ASSERT_NEAR(quotient, toDisplay(c.unit, value), std::fabs(quotient) * 5e-16) << value << " " << c.unit;
+            ASSERT_NEAR(product, toInternal(c.unit, value), std::fabs(product) * 5e-16) << value << " " << c.unit;
+        }
+    }
+}
+
+TEST(VorUnitTransformTest, ConversionsKeepZeroInfiniteAndUndefinedValues)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const int unit : kAllUnits)
+    {
+        EXPECT_EQ(0.0, toDisplay(unit, 0.0));
+        EXPECT_EQ(0.0, toInternal(unit, 0.0));
+        EXPECT_EQ(infinity, toDisplay(unit, infinity));
+        EXPECT_EQ(-infinity, toInternal(unit, -infinity));
+        EXPECT_TRUE(std::isnan(toDisplay(unit, std::nan(""))));
+        EXPECT_TRUE(std::isnan(toInternal(unit, std::nan(""))));
+    }
+}
+
+TEST(VorUnitTransformTest, ConversionsPastTheRangeOfDoublesAreInfiniteOrZero)
+{
+    EXPECT_EQ(std::numeric_limits<double>::infinity(), toInternal(kSquareMetre, 1e305));
+    EXPECT_EQ(-std::numeric_limits<double>::infinity(), toDisplay(kPoundPerCubicFoot, -1e305));
+    EXPECT_EQ(0.0, toDisplay(kSquareMetre, 4.9406564584124654e-324));
+    EXPECT_EQ(0.0, toInternal(kPoundPerCubicFoot, 1e-320));
+    EXPECT_EQ(1e-310, toDisplay(kSquareMetre, 1e-304));
+}
+
+TEST(VorUnitTransformTest, RandomNumbersReadAsTheirTextRoundedByHand)
+{
+    ValueSource values(3);
+    for (int i = 0; i < 100000; ++i)
+    {
+        const double value = values.next();
+        const int unit = kAllUnits[static_cast<std::size_t>(i) % std::size(kAllUnits)];
+        const int numDecimals = i % 10;
+        const double shown = toDisplay(unit, value);
+        if (unit == kFeetAndInches || std::fabs(shown) >= 999999999999999.0)
+            continue;
+
+        const FormatCase exact = { value, unit, numDecimals, L"", L' ', L"" };
+        const FormatCase suppressed = { value, unit, numDecimals, L"z", L' ', L"" };
+
+        ASSERT_EQ(slowlyFormatted(shown, numDecimals, false), formatted(exact)) << value << " in " << unit;
+        ASSERT_EQ(slowlyFormatted(shown, numDecimals, true), formatted(suppressed)) << value << " in " << unit;
+    }
+}
+
+TEST(VorUnitTransformTest, RandomLengthsReadAsTheirSixteenthsRoundedByHand)
+{
+    ValueSource values(4);
+    for (int i = 0; i < 100000; ++i)
+    {
+        const double value = values.next();
+        const double inches = toDisplay(kFeetAndInches, value);
+        if (std::fabs(inches) >= 999999999999999.0)
+            continue;
+
+        const FormatCase c = { value, kFeetAndInches, 1016, L"", L'-', L"" };
+
+        ASSERT_EQ(slowlyFormattedInSixteenths(inches), formatted(c)) << value;
+    }
+}
+
+TEST(VorUnitTransformTest, TheSlowRoundingItselfIsRight)
+{
+    using namespace SlowRounding;
+
+    EXPECT_EQ("2.68", rounded(shortestText(2.675), 2));
+    EXPECT_EQ("10.00", rounded("9.995", 2));
+    EXPECT_EQ("1", rounded("0.5", 0));
+    EXPECT_EQ("0", rounded("0.49", 0));
+    EXPECT_EQ("0.00001", shortestText(0.00001));
+    EXPECT_EQ("8.0", times("0.5", 16));
+    EXPECT_EQ("7", withoutLastZeros("7.00"));
+    EXPECT_EQ("0.00", withSign(-0.001, "0.00"));
+}
+
+TEST(VorUnitTransformTest, AnUnknownUnitIsReportedAndShowsTheModelsNumbers)
+{
+    AssertLog log;
+
+    const VorUnitTransform unknown(99999, 2);
+
+    EXPECT_EQ(1, log.count(L"isUnit( unit )", L"MekUnits/Src/VorUnitTransform"));
+    EXPECT_TRUE(log.holdsOnly(L"isUnit( unit )", L"MekUnits/Src/VorUnitTransform"));
+    EXPECT_EQ(VorString(L"12.50"), unknown.formatValue(12.5, 0, 1, 0, 0, L' '));
+    EXPECT_EQ(12.5, unknown.toDisplayUnits(12.5));
+    EXPECT_EQ(VorUnitsTransformArray::kDistance, unknown.system());
+}
+
+TEST(VorUnitTransformTest, OperationsAreVirtual)
+{
+    struct Doubled : VorUnitTransform
+    {
+        Doubled() : VorUnitTransform(kMillimetre, 0) {}
+        double toDisplayUnits(double value) const override { return 2 * value; }
+        double toInternalUnits(double value) const override { return value / 2; }
+        VorString formatValue(double, int, int, int, int, wchar_t) const override { return VorString(L"twice"); }
+    };
+    const Doubled doubled;
+    const VorUnitTransform& transform = doubled;
+
+    EXPECT_EQ(8.0, transform.toDisplayUnits(4.0));
+    EXPECT_EQ(2.0, transform.toInternalUnits(4.0));
+    EXPECT_EQ(VorString(L"twice"), transform.formatValue(4.0, 1, 0, 1, 1, L' '));
+}
+
+TEST(VorUnitTransformTest, FormattingAllocatesNothingButTheText)
+{
+    if (MEK_ALLOCATIONS_ARE_COUNTED == 0)
+        GTEST_SKIP() << "operator new belongs to a sanitizer in this build";
+    EXPECT_EQ(countOfAllocations() + 1, (std::vector<int>(1), countOfAllocations())) << "nothing is counted";
+    const double kValues[] = { 2286.125, 304.00625, 1e300, 2.675, -0.0 };
+    const int kUnits[] = { kMillimetre, kFeetAndInches, kPoundPerFoot };
+    for (const int unit : kUnits)
+        for (const double value : kValues)
+        {
+            const VorUnitTransform transform(unit, 2);
+            const VorString first = transform.formatValue(value, 1, 1, 1, 1, L'-'); // may fill pools
+            const long long numBlocks = VorMemoryControllerController::liveBlocks();
+            const long long numAllocations = countOfAllocations();
+
+            const VorString text = transform.formatValue(value, 1, 1, 1, 1, L'-');
+
+            EXPECT_EQ(numAllocations, countOfAllocations()) << value << " in " << unit;
+            EXPECT_EQ(numBlocks + 1, VorMemoryControllerController::liveBlocks()) << value << " in " << unit;
+            EXPECT_EQ(first, text);
+        }
+}
+
+TEST(VorUnitTransformTest, FormattingLeaksNothing)
+{
+    LeakCheck leaks;
+    for (const int unit : kAllUnits)
+        for (const double value : { 0.0, 1.5, -1e300, std::nan("") })
+            EXPECT_FALSE(VorUnitTransform(unit, 1016).formatValue(value, 1, 1, 0, 0, L'-').isEmpty());
+}
+
+// A decimal comma and grouped thousands, as a host may have made them the global locale.
+class CommaPunctuation : public std::numpunct<char>
+{
+protected:
+    char do_decimal_point() const override { return ','; }
+    char do_thousands_sep() const override { return '.'; }
+    std::string do_grouping() const override { return "\3"; }
+};
+
+TEST(VorUnitTransformTest, TextsAreTheSameInEveryLocale)
+{
+    const std::locale before = std::locale::global(std::locale(std::locale::classic(), new CommaPunctuation));
+    const FormatCase kCases[] = {
+        { 1234567.5, kMillimetre, 2, L"", L' ', L"1234567.50" },
+        { 2.675, kMillimetre, 2, L"", L' ', L"2.68" },
+        { 25.527, kInch, 2, L"", L' ', L"1.01" },
+        { 1.5e20, kMillimetre, 2, L"", L' ', L"1.5e+20" },
+        { 2286.127, kFeetAndInches, 2, L"", L'-', L"7'-6.01\"" },
+    };
+    for (const char* name : { "C", "de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8" })
+    {
+        std::setlocale(LC_ALL, name); // not every machine has them all
+        expectFormatted(kCases);
+    }
+    std::setlocale(LC_ALL, "C");
+    std::locale::global(before);
+}
+
+TEST(VorUnitTransformThreadTest, OneTransformFormatsOnSeveralThreads)
+{
+    const VorUnitTransform transform(kFeetAndInches, 1016);
+    std::atomic<int> numWrong{ 0 };
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 4; ++t)
+        threads.emplace_back(
+            [&]
+            {
+                for (int i = 0; i < 2000; ++i)
+                    if (transform.formatValue(304.00625, 1, 0, 1, 1, L'-') != VorString(L"1'"))
+                        ++numWrong;
+            });
+    for (std::thread& thread : threads)
+        thread.join();
+
+    EXPECT_EQ(0, numWrong.load());
+}
+}
