@@ -1,0 +1,97 @@
+#include "ExpressionsEvaluator.h"
+
+#include "VorExprEvTreeItem.h"
+#include "VorExprEvVariableList.h"
+#include "VorExprEvalErrorHandler.h"
+#include "VorExpressionEvaluator.h"
+
+#include "MekRoots/Exp/DebugOutput.h"
+
+#include <algorithm>
+#include <cwchar>
+#include <limits>
+#include <vector>
+
+int ExpressionsEvaluator::m_nTraceTrees = 0;
+
+namespace
+{
+constexpr unsigned int kMostCharacters = std::numeric_limits<int>::max(); // views count in int
+
+// Every node from the root on, each before its left and then its right side.
+void traceTree(const VorExprEvTreeItem* pRoot)
+{
+    std::vector<const VorExprEvTreeItem*> pending{ pRoot };
+    while (!pending.empty())
+    {
+        const VorExprEvTreeItem* pItem = pending.back();
+        pending.pop_back();
+        if (pItem == nullptr)
+            continue;
+        OutputDebugStringW(L"\n");
+        pItem->print();
+        pending.push_back(pItem->right());
+        pending.push_back(pItem->left());
+    }
+}
+}
+
+ExpressionsEvaluator::ExpressionsEvaluator(const wchar_t* text, unsigned int length)
+    : m_pText(text), m_nLength(text == nullptr ? 0 : std::min(length, kMostCharacters)), m_cSeparator(L';')
+{
+    VorExprEvVariableList::ofThread().clear();
+    VorExprEvalErrorHandler::ofThread().clear();
+}
+
+int ExpressionsEvaluator::addVariable(const VorExprEvTextView& name, VorExprEvValue& value)
+{
+    return VorExprEvVariableList::ofThread().addVariable(name, value);
+}
+
+int ExpressionsEvaluator::evaluate(wchar_t* buffer)
+{
+    const int nFormulaLength = static_cast<int>(m_nLength);
+    int nStart = 0;
+    int nPreviousLength = 0;
+    buffer[0] = L'\0';
+    for (;;)
+    {
+        const int nSeparator = findSeparator(nStart);
+        const int nLength = nSeparator < 0 ? nFormulaLength - nPreviousLength : nSeparator - nStart;
+        const VorExprEvTextView statement(m_pText + nStart, 0, nLength, nFormulaLength - nStart);
+        const int nResult = evaluateStatement(statement, buffer);
+        if (const VorExprEvalError* pError = VorExprEvalErrorHandler::ofThread().oldest())
+        {
+            std::wcscpy(buffer, pError->message());
+            return 0;
+        }
+        if (nSeparator < 0)
+            return nResult;
+        nPreviousLength = nLength;
+        nStart = nSeparator + 1;
+    }
+}
+
+// The text of the statement's value in `buffer`, which a statement without operands leaves as it is.
+int ExpressionsEvaluator::evaluateStatement(const VorExprEvTextView& statement, wchar_t* buffer) const
+{
+    VorExpressionEvaluator parser;
+    const int nParsed = parser.parse(statement);
+    const VorExprEvTreeItem* pRoot = parser.root();
+    if (pRoot == nullptr)
+        return nParsed;
+    if (m_nTraceTrees != 0)
+        traceTree(pRoot);
+    if (!nParsed)
+        return 0;
+    VorExprEvValue value;
+    return pRoot->evaluate(value).toText(buffer);
+}
+
+// The place of the first separator at or after `nStart`, -1 when there is none.
+int ExpressionsEvaluator::findSeparator(int nStart) const
+{
+    const std::wstring_view text(m_pText, m_nLength);
+    const std::size_t nFound = text.find(m_cSeparator, static_cast<std::size_t>(nStart));
+    return nFound == std::wstring_view::npos ? -1 : static_cast<int>(nFound);
+}

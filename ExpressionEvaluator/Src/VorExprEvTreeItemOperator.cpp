@@ -1,0 +1,181 @@
+// Evaluation walks the tree with a stack of the operators that wait for a side, so that no depth of nesting needs a
+// deep call stack. One value passes through the whole walk. "2*(3+a)", with a = 4:
+//   down   * and + wait for their left sides     waiting: *             value 2
+//   up     * keeps 2 and wants its right side    waiting: 2*            down again
+//          + keeps 3 and wants its right side    waiting: 2*, 3+        value 4
+//          nothing wants a side any more         waiting: none          value 7, then 14
+// The left side of an assignment is a name: it waits for its right side alone.
+#include "VorExprEvTreeItemOperator.h"
+
+#include "VorExprEvValue.h"
+#include "VorExprEvVariableList.h"
+#include "VorExprEvalErrorHandler.h"
+
+#include "MekRoots/Exp/VorAssert.h"
+
+#include <array>
+#include <cstddef>
+#include <memory_resource>
+#include <vector>
+
+namespace
+{
+const wchar_t kSourcePath[] = L"ExpressionEvaluator/Src/VorExprEvTreeItemOperator"; // named in assertion reports
+constexpr int kNoPrecedenceLine = 55;                                               // visible to callers
+constexpr int kNoOperationLine = 145;                                               // visible to callers
+
+// Divisors closer to zero than this count as zero. Absolute and on purpose this coarse: existing formulas rely on it.
+constexpr double kSmallestDivisor = 0.0001;
+
+// Operators that wait at once without memory being asked for. Arbitrary; formulas of reports nest a few deep.
+constexpr std::size_t kUsualDepth = 64;
+
+double divide(double dividend, double divisor)
+{
+    if (divisor > -kSmallestDivisor && divisor < kSmallestDivisor)
+    {
+        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kDivisionByZero);
+        return 0.0;
+    }
+    return dividend / divisor;
+}
+
+double calculate(wchar_t operation, double left, double right)
+{
+    switch (operation)
+    {
+        case L'*': return left * right;
+        case L'+': return left + right;
+        case L'-': return left - right;
+        default: return divide(left, right);
+    }
+}
+
+bool isOperation(wchar_t character)
+{
+    return character == L'*' || character == L'+' || character == L'-' || character == L'/' || character == L'=';
+}
+
+// An assigned value keeps its type.
+void assign(const VorExprEvTreeItem* pName, VorExprEvValue& value)
+{
+    if (pName == nullptr)
+    {
+        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kSyntaxError);
+        value.release();
+        return;
+    }
+    VorExprEvVariableList::ofThread().prepend(pName->getText(), value);
+}
+
+// An operator whose value needs that of a side first.
+struct Waiting
+{
+    const VorExprEvTreeItem* pOperator;
+    wchar_t operation;
+    bool hasLeft; // from the start for an assignment
+    double left;
+};
+
+class Walk
+{
+public:
+    explicit Walk(VorExprEvValue& value) : m_value(value) { m_waiting.reserve(kUsualDepth); }
+
+    void run(const VorExprEvTreeItem* pRoot)
+    {
+        goDown(pRoot);
+        while (!m_waiting.empty())
+            goUp();
+    }
+
+private:
+    void goDown(const VorExprEvTreeItem* pItem);
+    void goUp();
+    void finish(const Waiting& waiting);
+
+    VorExprEvValue& m_value; // of the side evaluated last
+    alignas(Waiting) std::array<std::byte, kUsualDepth * sizeof(Waiting)> m_memory;
+    std::pmr::monotonic_buffer_resource m_resource{ m_memory.data(), m_memory.size() };
+    std::pmr::vector<Waiting> m_waiting{ &m_resource };
+};
+
+// Down the left sides to an operand, leaving the operators on the way waiting.
+void Walk::goDown(const VorExprEvTreeItem* pItem)
+{
+    while (pItem != nullptr && pItem->isOperator())
+    {
+        const VorExprEvTextView text = pItem->getText();
+        const wchar_t operation = text.at(text.start());
+        if (!isOperation(operation))
+        {
+            VorAssert::vorAssert(L"false", kSourcePath, kNoOperationLine);
+            m_value.release();
+            return;
+        }
+        const bool isAssignment = operation == L'=';
+        m_waiting.push_back({ pItem, operation, isAssignment, 0.0 });
+        pItem = isAssignment ? pItem->right() : pItem->left();
+    }
+    if (pItem != nullptr)
+        pItem->evaluate(m_value);
+    else
+        m_value.release();
+}
+
+// The operator that waits for the value: with it as its left side goes down the right one, or is finished.
+void Walk::goUp()
+{
+    Waiting& waiting = m_waiting.back();
+    if (!waiting.hasLeft)
+    {
+        waiting.left = m_value.toNumber();
+        waiting.hasLeft = true;
+        goDown(waiting.pOperator->right());
+        return;
+    }
+    finish(waiting);
+    m_waiting.pop_back();
+}
+
+void Walk::finish(const Waiting& waiting)
+{
+    if (waiting.operation == L'=')
+        assign(waiting.pOperator->left(), m_value);
+    else
+        m_value.setDouble(calculate(waiting.operation, waiting.left, m_value.toNumber()));
+}
+}
+
+int VorExprEvTreeItemOperator::precedence(wchar_t character)
+{
+    switch (character)
+    {
+        case L'=': return 0;
+        case L'(':
+        case L')': return 1;
+        case L'+':
+        case L'-': return 2;
+        case L'*':
+        case L'/': return 3;
+        default: break;
+    }
+    VorAssert::vorAssert(L"false", kSourcePath, kNoPrecedenceLine);
+    return 0;
+}
+
+int VorExprEvTreeItemOperator::print() const
+{
+    return printText();
+}
+
+VorExprEvValue& VorExprEvTreeItemOperator::evaluate(VorExprEvValue& value) const
+{
+    Walk(value).run(this);
+    return value;
+}
+
+int VorExprEvTreeItemOperator::isComplete() const
+{
+    return m_pLeft != nullptr && m_pRight != nullptr && m_text.length() == 1 ? 1 : 0;
+}

@@ -1,0 +1,108 @@
+#include "VorExprEvValue.h"
+
+#include "MekRoots/Exp/VorAssert.h"
+#include "MekRoots/Exp/VorMemoryControllerController.h"
+#include "MekRoots/Exp/VorNumberText.h"
+
+#include <cstddef>
+#include <cwchar>
+
+namespace
+{
+const wchar_t kSourcePath[] = L"ExpressionEvaluator/Src/VorExprEvValue"; // named in assertion reports
+constexpr int kImpossibleTypeLine = 172;                                 // visible to callers
+
+constexpr int kDecimals = 6;
+static_assert(VorNumberText::fixedRoom(kDecimals) < VorExprEvValue::kBufferLength, "every double has its text");
+
+std::size_t cellSize(VorExprEvValue::eType type)
+{
+    switch (type)
+    {
+        case VorExprEvValue::kInteger: return sizeof(int);
+        case VorExprEvValue::kDouble: return sizeof(double);
+        case VorExprEvValue::kBoolean: return sizeof(unsigned char);
+        default: return 0;
+    }
+}
+}
+
+VorExprEvValue& VorExprEvValue::operator=(const VorExprEvValue& other)
+{
+    if (this != &other)
+        other.copyTo(*this);
+    return *this;
+}
+
+void VorExprEvValue::setInteger(int value)
+{
+    *static_cast<int*>(makeCell(kInteger)) = value;
+}
+
+void VorExprEvValue::setDouble(double value)
+{
+    *static_cast<double*>(makeCell(kDouble)) = value;
+}
+
+void VorExprEvValue::setBoolean(int value)
+{
+    *static_cast<unsigned char*>(makeCell(kBoolean)) = value != 0 ? 1 : 0;
+}
+
+double VorExprEvValue::toNumber() const
+{
+    switch (m_nType)
+    {
+        case kInteger: return *static_cast<const int*>(m_pData);
+        case kDouble: return *static_cast<const double*>(m_pData);
+        default: return 0.0;
+    }
+}
+
+int VorExprEvValue::toText(wchar_t* buffer) const
+{
+    switch (m_nType)
+    {
+        case kUnknown: std::wcscpy(buffer, L"UnkValue"); return 1;
+        case kInteger: buffer[VorNumberText::writeInteger(*static_cast<const int*>(m_pData), buffer)] = L'\0'; return 1;
+        case kDouble:
+            buffer[VorNumberText::writeFixed(*static_cast<const double*>(m_pData), kDecimals, buffer)] = L'\0';
+            return 1;
+        case kBoolean:
+            std::wcscpy(buffer, *static_cast<const unsigned char*>(m_pData) == 0 ? L"False" : L"True");
+            return 1;
+        default: break;
+    }
+    VorAssert::vorAssert(L"false", kSourcePath, kImpossibleTypeLine);
+    return 0;
+}
+
+void VorExprEvValue::release()
+{
+    VorMemoryControllerController::deallocateArray(m_pData, 1, cellSize(m_nType));
+    m_pData = nullptr;
+    m_nType = kUnknown;
+}
+
+void VorExprEvValue::copyTo(VorExprEvValue& target) const
+{
+    switch (m_nType)
+    {
+        case kInteger: target.setInteger(*static_cast<const int*>(m_pData)); break;
+        case kDouble: target.setDouble(*static_cast<const double*>(m_pData)); break;
+        case kBoolean: target.setBoolean(*static_cast<const unsigned char*>(m_pData)); break;
+        default: target.release(); break;
+    }
+}
+
+// The value's own cell when it already has that type: a formula passes through one value from start to end.
+void* VorExprEvValue::makeCell(eType type)
+{
+    if (m_nType != type)
+    {
+        release();
+        m_pData = VorMemoryControllerController::allocateArray(1, cellSize(type));
+        m_nType = type;
+    }
+    return m_pData;
+}

@@ -1,0 +1,84 @@
+#include "VorExprEvVariableList.h"
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+namespace
+{
+// Lists up to this length are walked. Measured with BM_LookUpAmongVariables: building the index pays from about here.
+constexpr int kLongestWalk = 32;
+}
+
+VorExprEvVariableList& VorExprEvVariableList::ofThread()
+{
+    static thread_local VorExprEvVariableList t_list;
+    return t_list;
+}
+
+int VorExprEvVariableList::addVariable(const VorExprEvTextView& name, VorExprEvValue& value)
+{
+    prepend(name, value);
+    value.release();
+    return 1;
+}
+
+void VorExprEvVariableList::prepend(const VorExprEvTextView& name, const VorExprEvValue& value)
+{
+    auto pVariable = std::make_unique<VorExprEvVariable>(name, value, m_pHead);
+    if (!m_index.empty())
+        m_index.insert_or_assign(name, pVariable.get());
+    m_pHead = pVariable.release();
+    ++m_nCount;
+}
+
+const VorExprEvVariable* VorExprEvVariableList::find(const VorExprEvTextView& name)
+{
+    return m_nCount <= kLongestWalk ? findInList(name) : findInIndex(name);
+}
+
+void VorExprEvVariableList::clear()
+{
+    if (!m_index.empty())
+        m_index = Index(); // its buckets would be wiped for every formula to come
+    while (m_pHead != nullptr)
+    {
+        VorExprEvVariable* pOlder = m_pHead->next();
+        delete m_pHead;
+        m_pHead = pOlder;
+    }
+    m_nCount = 0;
+}
+
+// Names that are equal hash alike: zero characters at the end are left out, whether they exist or not.
+std::size_t VorExprEvVariableList::NameHash::operator()(const VorExprEvTextView& name) const
+{
+    const std::wstring_view text = name.existingPart();
+    const std::size_t nLast = text.find_last_not_of(L'\0');
+    return std::hash<std::wstring_view>()(text.substr(0, nLast + 1)); // npos + 1 is 0
+}
+
+const VorExprEvVariable* VorExprEvVariableList::findInList(const VorExprEvTextView& name) const
+{
+    const VorExprEvVariable* pVariable = m_pHead;
+    while (pVariable != nullptr && !pVariable->name().isEqual(name))
+        pVariable = pVariable->next();
+    return pVariable;
+}
+
+const VorExprEvVariable* VorExprEvVariableList::findInIndex(const VorExprEvTextView& name)
+{
+    if (m_index.empty())
+        buildIndex();
+    const auto found = m_index.find(name);
+    return found == m_index.end() ? nullptr : found->second;
+}
+
+// From the newest on, so that the first of equal names stays.
+void VorExprEvVariableList::buildIndex()
+{
+    Index index(static_cast<std::size_t>(m_nCount));
+    for (const VorExprEvVariable* pVariable = m_pHead; pVariable != nullptr; pVariable = pVariable->next())
+        index.emplace(pVariable->name(), pVariable);
+    m_index = std::move(index);
+}

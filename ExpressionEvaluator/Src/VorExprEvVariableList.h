@@ -1,0 +1,62 @@
+// The variables that formulas see, newest first. A newer variable shadows every older one of the same name.
+//
+//   list.addVariable(VorExprEvTextView(L"a", 0, 1), two);     // two is released
+//   list.addVariable(VorExprEvTextView(L"a", 0, 1), three);
+//   list.find(VorExprEvTextView(L"a", 0, 1))  ->  the 3
+//
+// Each thread has one list (ofThread), emptied when an ExpressionsEvaluator is constructed on that thread and kept
+// until the next one is, whatever happens in between.
+//
+// Invariant: the index is either empty or holds, for every name in the list, its newest variable.
+#pragma once
+
+#include "VorExprEvVariable.h"
+
+#include <cstddef>
+#include <unordered_map>
+
+class MEK_EXPRESSION_API VorExprEvVariableList
+{
+public:
+    VorExprEvVariableList() = default;
+    VorExprEvVariableList(const VorExprEvVariableList&) = delete;
+    VorExprEvVariableList& operator=(const VorExprEvVariableList&) = delete;
+    ~VorExprEvVariableList() { clear(); }
+
+    static VorExprEvVariableList& ofThread();
+
+    // The newest variable, or null.
+    const VorExprEvVariable* head() const { return m_pHead; }
+    int count() const { return m_nCount; }
+
+    // Puts a new variable with a copy of `value` at the head, then releases `value`. An unknown value makes a variable
+    // without one. Returns 1.
+    int addVariable(const VorExprEvTextView& name, VorExprEvValue& value);
+
+    // The same, but leaves `value` to the caller.
+    void prepend(const VorExprEvTextView& name, const VorExprEvValue& value);
+
+    // The newest variable whose name equals `name` over its whole length, case-sensitive; null when there is none.
+    const VorExprEvVariable* find(const VorExprEvTextView& name);
+
+    void clear();
+
+private:
+    struct NameHash
+    {
+        std::size_t operator()(const VorExprEvTextView& name) const;
+    };
+    struct NameEqual
+    {
+        bool operator()(const VorExprEvTextView& a, const VorExprEvTextView& b) const { return a.isEqual(b) != 0; }
+    };
+    using Index = std::unordered_map<VorExprEvTextView, const VorExprEvVariable*, NameHash, NameEqual>;
+
+    const VorExprEvVariable* findInList(const VorExprEvTextView& name) const;
+    const VorExprEvVariable* findInIndex(const VorExprEvTextView& name);
+    void buildIndex();
+
+    VorExprEvVariable* m_pHead = nullptr;
+    int m_nCount = 0;
+    Index m_index;
+};

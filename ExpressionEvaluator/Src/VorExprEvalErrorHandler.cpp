@@ -1,0 +1,37 @@
+#include "VorExprEvalErrorHandler.h"
+
+VorExprEvalErrorHandler::~VorExprEvalErrorHandler()
+{
+    clear();
+}
+
+VorExprEvalErrorHandler& VorExprEvalErrorHandler::ofThread()
+{
+    static thread_local VorExprEvalErrorHandler t_handler;
+    return t_handler;
+}
+
+void VorExprEvalErrorHandler::raise(VorExprEvalError::eCode code)
+{
+    m_pHead = new VorExprEvalError(code, m_pHead);
+    ++m_nCount;
+}
+
+const VorExprEvalError* VorExprEvalErrorHandler::oldest() const
+{
+    const VorExprEvalError* pError = m_pHead;
+    while (pError != nullptr && pError->next() != nullptr)
+        pError = pError->next();
+    return pError;
+}
+
+void VorExprEvalErrorHandler::clear()
+{
+    while (m_pHead != nullptr)
+    {
+        VorExprEvalError* pOlder = m_pHead->next();
+        delete m_pHead;
+        m_pHead = pOlder;
+        --m_nCount;
+    }
+}
