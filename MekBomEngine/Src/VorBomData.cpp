@@ -1,0 +1,86 @@
+#include "VorBomData.h"
+
+#include "VorBomItemWalk.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+
+namespace
+{
+struct SampleRow
+{
+    int posNum;
+    double weight;
+    const wchar_t* material;
+};
+
+// Rows "1" to "12", with repeated and with unique values to group and sum.
+const SampleRow kSampleRows[] = {
+    { 1, 200.2, L"Mat1" }, { 1, 100.1, L"Mat1" }, { 3, 300.2, L"Mat3" }, { 4, 400.3, L"Mat4" },
+    { 1, 123.4, L"Mat1" }, { 2, 200.1, L"Mat2" }, { 3, 300.2, L"Mat3" }, { 4, 400.3, L"Mat4" },
+    { 1, 300.2, L"Mat1" }, { 1, 400.3, L"Mat1" }, { 1, 300.2, L"Mat2" }, { 1, 400.3, L"Mat1" },
+};
+const int kFirstRandomHandle = 13;
+const int kLastRandomHandle = 112;
+const int kNumChoices = 4; // of each random value
+
+VorString numbered(const wchar_t* pattern, int number)
+{
+    VorString text;
+    text.format(pattern, number);
+    return text;
+}
+
+void appendRow(VorBomData& data, int handle, int posNum, double weight, const VorString& material)
+{
+    auto* pRow = new VorBomDataRow;
+    pRow->setObjectHandle(numbered(L"%d", handle));
+    pRow->addData(VorBomDataTuple(L"PosNum", posNum));
+    pRow->addData(VorBomDataTuple(L"Weight", weight));
+    pRow->addData(VorBomDataTuple(L"Material", material));
+    data.addChild(pRow);
+}
+
+void appendFixedRows(VorBomData& data)
+{
+    int handle = 0;
+    for (const SampleRow& row : kSampleRows)
+        appendRow(data, ++handle, row.posNum, row.weight, row.material);
+}
+
+void appendRandomRows(VorBomData& data)
+{
+    for (int handle = kFirstRandomHandle; handle <= kLastRandomHandle; ++handle)
+    {
+        const int position = std::rand() % kNumChoices;
+        const int weight = std::rand() % kNumChoices;
+        const int material = std::rand() % kNumChoices;
+        appendRow(data, handle, position + 1, (weight + 1) * 100.0, numbered(L"Mat%d", material + 1));
+    }
+}
+}
+
+VorBomData* VorBomData::createDefaultData()
+{
+    auto* pData = new VorBomData;
+    appendFixedRows(*pData);
+    std::srand(static_cast<unsigned int>(std::time(nullptr)));
+    appendRandomRows(*pData);
+    return pData;
+}
+
+int VorBomData::depthLevel()
+{
+    int depth = 1;
+    for (VorBomItemWalk walk(child(), 1); walk.item() != nullptr; walk.advance(true, true))
+        depth = std::max(depth, walk.level());
+    return depth;
+}
+
+int VorBomData::getUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens)
+{
+    for (VorBomItemBase* pItem = child(); pItem != nullptr; pItem = pItem->next())
+        static_cast<VorBomDataRow*>(pItem)->appendUsedHandlesAndTokens(handles, tokens);
+    return 1;
+}

@@ -1,0 +1,58 @@
+#include "VorBomDataRow.h"
+
+#include <utility>
+
+namespace
+{
+// As VorBomDataRow::compare, for one token.
+int compareTuples(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
+{
+    if (pFirst != nullptr && pSecond != nullptr)
+        return pFirst->value().compare(pSecond->value());
+    if (pFirst != nullptr)
+        return 1;
+    return pSecond != nullptr ? -1 : 0;
+}
+
+VorStringArray usedTokens(const VorBomDataTupleArray& tuples)
+{
+    VorStringArray tokens;
+    for (const VorBomDataTuple& tuple : tuples)
+        if (tuple.used() == 1)
+            tokens.append(tuple.token().token());
+    return tokens;
+}
+}
+
+void VorBomDataRow::setFrom(VorBomDataRow* pRow)
+{
+    if (pRow == nullptr)
+        return;
+    setData(pRow->getData());
+    m_objectHandle = pRow->m_objectHandle;
+    m_equalPartObjectHandles = pRow->m_equalPartObjectHandles;
+    m_nUseThisDataForSums = pRow->m_nUseThisDataForSums;
+}
+
+int VorBomDataRow::compare(VorBomDataRow* pOther, const VorStringArray& tokens) const
+{
+    for (const VorString& token : tokens)
+    {
+        const int result = compareTuples(getTupleAt(token), pOther->getTupleAt(token));
+        if (result != 0)
+            return result;
+    }
+    return 0;
+}
+
+void VorBomDataRow::appendUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens) const
+{
+    VorStringArray rowTokens = usedTokens(getData());
+    if (rowTokens.isEmpty())
+        return;
+    VorStringArray rowHandles;
+    rowHandles.append(m_objectHandle);
+    rowHandles.append(m_equalPartObjectHandles);
+    handles.append(std::move(rowHandles));
+    tokens.append(std::move(rowTokens));
+}

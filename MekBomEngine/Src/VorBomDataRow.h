@@ -1,0 +1,62 @@
+// What is known of one modelled object, and which objects of the model it stands for: a row of the input.
+//
+//   VorBomDataRow* pRow = new VorBomDataRow;
+//   pRow->setObjectHandle(L"1A7");
+//   pRow->addData(VorBomDataTuple(L"%Name", VorString(L"HEA200")));
+//   pRow->addData(VorBomDataTuple(L"%Weight", 126.9));
+//   data.addChild(pRow);
+//
+// Children are sub-rows, the parts of an assembly, to any depth; the evaluation reads top-level rows only. Ownership and
+// copying are those of VorBomItemBase.
+//
+// One evaluation changes its rows: it reorders and relinks them, marks the tuples it used, appends a tuple for each
+// formula it computed, and clears getUseThisDataForSums() of rows whose line was merged into an equal one. For a fresh
+// start build fresh rows.
+#pragma once
+
+#include "VorBomItemBase.h"
+
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorArray.h"
+#include "MekRoots/Exp/VorString.h"
+
+// Lists of texts side by side, one list per row.
+using VorStringArrayArray = VorArray<VorStringArray>;
+
+class MEK_BOM_API VorBomDataRow : public VorBomItemBase
+{
+public:
+    VorBomDataRow() = default;
+    VorBomDataRow(const VorBomDataRow& other) = default;
+    VorBomDataRow& operator=(const VorBomDataRow& other) = default;
+    ~VorBomDataRow() override = default;
+
+    // The handle, in the model, of the object described.
+    const VorString& objectHandle() const { return m_objectHandle; }
+    void setObjectHandle(const VorString& handle) { m_objectHandle = handle; }
+
+    // The handles of the other objects that equal this one and have no row of their own.
+    const VorStringArray& EqualPartObjectHandles() const { return m_equalPartObjectHandles; }
+    void setEqualPartObjectHandles(const VorStringArray& handles) { m_equalPartObjectHandles = handles; }
+
+    // 1 at first; 0 takes the row out of sums and of the template's report of used data.
+    int getUseThisDataForSums() const { return m_nUseThisDataForSums; }
+    void setUseThisDataForSums(int use) { m_nUseThisDataForSums = use; }
+
+    // Copies everything but the links; null changes nothing.
+    void setFrom(VorBomDataRow* pRow);
+
+    // Orders this row against `pOther`, not null, by the values of `tokens`, the first difference counting: what
+    // VorBomDataValue::compare says of two values; 1 when only this row has one, -1 when only the other has; a token
+    // that both lack is passed over. 0 when nothing differs. Natural order is not looked for here.
+    int compare(VorBomDataRow* pOther, const VorStringArray& tokens) const;
+
+    // Appends one list each to `handles` and `tokens`, at the same index: this row's handle followed by its equal
+    // parts', and the tokens of the tuples whose used flag is exactly 1. Appends nothing when there is no such tuple.
+    void appendUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens) const;
+
+private:
+    VorString m_objectHandle;
+    VorStringArray m_equalPartObjectHandles;
+    int m_nUseThisDataForSums = 1;
+};

@@ -1,0 +1,53 @@
+// A token and its value: one datum of an object, or one column or instruction of a report section.
+//
+//   VorBomDataTuple tuple(L"%Weight", 12.5);
+//   tuple.token().token()      ->  "%Weight"
+//   tuple.value().asString()   ->  "12.5"
+//
+// Owns both; copies are independent. Kept at 32 bytes on 64-bit platforms: a large model has tens of millions of them.
+#pragma once
+
+#include "VorBomDataToken.h"
+#include "VorBomDataValue.h"
+
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorArray.h"
+#include "MekRoots/Exp/VorString.h"
+
+#include <utility>
+
+class MEK_BOM_API VorBomDataTuple
+{
+public:
+    VorBomDataTuple() = default; // empty token, empty value
+    VorBomDataTuple(const VorString& token, int value) : m_token(token), m_value(value) {}
+    VorBomDataTuple(const VorString& token, double value) : m_token(token), m_value(value) {}
+    VorBomDataTuple(const VorString& token, const VorString& value) : m_token(token), m_value(value) {}
+    // Takes a value of any kind as it is, an empty one too.
+    VorBomDataTuple(const VorString& token, VorBomDataValue value) : m_token(token), m_value(std::move(value)) {}
+
+    // Copies carry the used flag. A moved-from tuple has an empty token and an empty value.
+    // On purpose: assigning, by copy or by move, a tuple with an empty value replaces token and flag but keeps the
+    // target's value, as VorBomDataValue::operator= does. Copies made from nothing always equal their source.
+    // Pinned by VorBomDataTupleTest.AssigningATupleWithEmptyValueKeepsTheTargetsValue.
+    VorBomDataTuple(const VorBomDataTuple& other) = default;
+    VorBomDataTuple(VorBomDataTuple&& other) noexcept = default;
+    VorBomDataTuple& operator=(const VorBomDataTuple& other) = default;
+    VorBomDataTuple& operator=(VorBomDataTuple&& other) noexcept = default;
+    ~VorBomDataTuple() = default;
+
+    const VorBomDataToken& token() const { return m_token; }
+    const VorBomDataValue& value() const { return m_value; }
+    VorBomDataValue& value() { return m_value; }
+
+    // 1 when the report uses this datum. The evaluation sets it on what it copies from rows into sections.
+    int used() const { return m_nUsed; }
+    void setUsed(int used) { m_nUsed = used; }
+
+private:
+    VorBomDataToken m_token;
+    VorBomDataValue m_value;
+    int m_nUsed = 0;
+};
+
+using VorBomDataTupleArray = VorArray<VorBomDataTuple>;

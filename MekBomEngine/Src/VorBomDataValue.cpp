@@ -1,0 +1,187 @@
+#include "VorBomDataValue.h"
+
+#include "MekRoots/Exp/VorAssert.h"
+#include "MekRoots/Exp/VorMemoryControllerController.h"
+#include "MekRoots/Exp/VorNumberText.h"
+
+#include <cmath>
+#include <new>
+#include <utility>
+
+namespace
+{
+const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomDataValue";
+
+// Doubles closer than this compare equal. Absolute, whatever their size; grouping in existing reports depends on it.
+const double kEqualTolerance = 1e-6;
+
+void reportMisuse(int line)
+{
+    VorAssert::vorAssert(L"false", kSourcePath, line);
+}
+
+bool holdsPayload(int type)
+{
+    return type >= VorBomDataValue::kIntData && type <= VorBomDataValue::kStringData;
+}
+
+template <class T>
+T* createPayload(const T& value)
+{
+    return ::new (VorMemoryControllerController::allocateArray(1, sizeof(T))) T(value);
+}
+
+// Null is allowed.
+template <class T>
+void destroyPayload(void* pData)
+{
+    if (pData == nullptr)
+        return;
+    static_cast<T*>(pData)->~T();
+    VorMemoryControllerController::deallocateArray(pData, 1, sizeof(T));
+}
+
+int compareInts(int first, int second)
+{
+    if (first == second)
+        return 0;
+    return first < second ? -1 : 1;
+}
+
+int compareDoubles(double first, double second)
+{
+    if (std::fabs(first - second) < kEqualTolerance)
+        return 0;
+    if (second > first)
+        return -1;
+    return first > second ? 1 : 0; // 0 for a NaN, which is neither
+}
+
+VorString textOf(int value)
+{
+    wchar_t text[VorNumberText::kIntegerRoom];
+    return VorString(text, VorNumberText::writeInteger(value, text));
+}
+
+VorString textOf(double value)
+{
+    wchar_t text[VorNumberText::kGeneralRoom];
+    return VorString(text, VorNumberText::writeGeneral(value, text));
+}
+}
+
+VorBomDataValue::VorBomDataValue(VorBomDataValue&& other) noexcept
+{
+    exchange(other);
+}
+
+VorBomDataValue& VorBomDataValue::operator=(const VorBomDataValue& other)
+{
+    switch (other.m_nType)
+    {
+        case kUnknownData: break;
+        case kIntData: set(other.intValue()); break;
+        case kDoubleData: set(other.doubleValue()); break;
+        case kStringData: set(other.textValue()); break;
+        default: reportMisuse(__LINE__); break;
+    }
+    return *this;
+}
+
+VorBomDataValue& VorBomDataValue::operator=(VorBomDataValue&& other) noexcept
+{
+    if (this == &other)
+        return *this;
+    if (!holdsPayload(other.m_nType))
+        return *this = static_cast<const VorBomDataValue&>(other); // keeps this value, reports a corrupt type
+    empty();
+    exchange(other);
+    return *this;
+}
+
+// In each set the new payload exists before the old one goes: the argument may stand in the old one.
+void VorBomDataValue::set(int value)
+{
+    int* pData = createPayload(value);
+    empty();
+    m_pData = pData;
+    m_nType = kIntData;
+}
+
+void VorBomDataValue::set(double value)
+{
+    double* pData = createPayload(value);
+    empty();
+    m_pData = pData;
+    m_nType = kDoubleData;
+}
+
+void VorBomDataValue::set(const VorString& value)
+{
+    VorString* pData = createPayload(value);
+    empty();
+    m_pData = pData;
+    m_nType = kStringData;
+}
+
+int VorBomDataValue::compare(const VorBomDataValue& other) const
+{
+    if (m_nType != other.m_nType)
+    {
+        reportMisuse(__LINE__); // kinds are never converted
+        return -1;
+    }
+    switch (m_nType)
+    {
+        case kIntData: return compareInts(intValue(), other.intValue());
+        case kDoubleData: return compareDoubles(doubleValue(), other.doubleValue());
+        case kStringData: return VorString::compare(textValue(), other.textValue());
+        default: break;
+    }
+    reportMisuse(__LINE__); // empty values have no order
+    return 0;
+}
+
+int VorBomDataValue::compareAlphanumeric(const VorBomDataValue& other) const
+{
+    if (m_nType != other.m_nType)
+    {
+        reportMisuse(__LINE__);
+        return -1;
+    }
+    if (m_nType == kStringData)
+        return VorString::compareWithNumbers(textValue(), other.textValue());
+    reportMisuse(__LINE__); // numbers have no digit runs
+    return 0;
+}
+
+VorString VorBomDataValue::asString() const
+{
+    switch (m_nType)
+    {
+        case kIntData: return textOf(intValue());
+        case kDoubleData: return textOf(doubleValue());
+        case kStringData: return textValue();
+        default: return VorString();
+    }
+}
+
+void VorBomDataValue::empty()
+{
+    switch (m_nType)
+    {
+        case kUnknownData: break;
+        case kIntData: destroyPayload<int>(m_pData); break;
+        case kDoubleData: destroyPayload<double>(m_pData); break;
+        case kStringData: destroyPayload<VorString>(m_pData); break;
+        default: reportMisuse(__LINE__); break; // what the payload is, nobody knows
+    }
+    m_pData = nullptr;
+    m_nType = kUnknownData;
+}
+
+void VorBomDataValue::exchange(VorBomDataValue& other) noexcept
+{
+    std::swap(m_nType, other.m_nType);
+    std::swap(m_pData, other.m_pData);
+}

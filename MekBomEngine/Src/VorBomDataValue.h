@@ -1,0 +1,88 @@
+// The typed value of one datum: a whole number, a number, a text, or nothing yet.
+//
+//   VorBomDataValue weight(12.5);
+//   weight.type()      ->  kDoubleData
+//   weight.asString()  ->  "12.5"
+//
+// Invariants:
+//   1. type() is kUnknownData exactly when data() is null; a value without type is called empty.
+//   2. The payload is a block of its own, owned by this value and shared with no other; copies are independent.
+//   3. Values of different kinds are never converted to each other.
+//
+// Misuse is reported as "false" from "MekBomEngine/Src/VorBomDataValue" and survived with the answers stated below.
+#pragma once
+
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorString.h"
+
+class MEK_BOM_API VorBomDataValue
+{
+public:
+    // The numbers are part of the contract: catalogue, sorting and sums switch on them.
+    enum eBomDataValueType : int
+    {
+        kUnknownData = 0, // no payload
+        kIntData = 1,     // one int
+        kDoubleData = 2,  // one double
+        kStringData = 3   // one VorString
+    };
+
+    VorBomDataValue() noexcept = default;
+    VorBomDataValue(int value) { set(value); }
+    VorBomDataValue(double value) { set(value); }
+    VorBomDataValue(const VorString& value) { set(value); }
+
+    VorBomDataValue(const VorBomDataValue& other) { *this = other; }
+
+    // Takes the payload over; `other` is empty afterwards.
+    VorBomDataValue(VorBomDataValue&& other) noexcept;
+
+    // Copies the payload.
+    // On purpose: assigning an empty value leaves the target exactly as it was, it does not clear it; callers overlay
+    // values and rely on it. Reports and leaves the target alone as well when the other type is none of the four.
+    // Pinned by VorBomDataValueTest.AssigningEmptyKeepsTheTarget.
+    VorBomDataValue& operator=(const VorBomDataValue& other);
+
+    // Takes the payload over; `other` is empty afterwards. An empty `other` leaves the target alone, as above, so that
+    // assigning a temporary means the same as assigning a named value. Assigning a value to itself changes nothing.
+    VorBomDataValue& operator=(VorBomDataValue&& other) noexcept;
+
+    ~VorBomDataValue() { empty(); }
+
+    // Replace payload and type. The text may be this value's own.
+    void set(int value);
+    void set(double value);
+    void set(const VorString& value);
+
+    // The payload, to be cast by type(): int*, double* or VorString*; null for an empty value. It lives until this value
+    // changes.
+    void* data() const { return m_pData; }
+    eBomDataValueType type() const { return m_nType; }
+
+    // Sign of this minus other. Doubles closer than 1e-6 are equal, whatever their size, and so is a NaN and anything;
+    // texts compare as VorString::compare says. Reports and answers -1 for unlike kinds, 0 for two empty values.
+    int compare(const VorBomDataValue& other) const;
+
+    // Natural order of two texts, "B2" before "B10", as VorString::compareWithNumbers says. Reports and answers -1 for
+    // unlike kinds, 0 for two numbers or two empty values.
+    int compareAlphanumeric(const VorBomDataValue& other) const;
+
+    // "%d" of an int, "%g" of a double, the text itself, nothing for an empty value. Units are not applied here.
+    VorString asString() const;
+
+protected:
+    // Frees the payload; the value is empty afterwards. A corrupt type is reported and its payload not touched.
+    void empty();
+
+private:
+    friend class VorBomEvaluator2; // replaces values, sums them up
+    friend struct VorBomDataValueAccess;
+
+    int intValue() const { return *static_cast<const int*>(m_pData); }
+    double doubleValue() const { return *static_cast<const double*>(m_pData); }
+    const VorString& textValue() const { return *static_cast<const VorString*>(m_pData); }
+    void exchange(VorBomDataValue& other) noexcept;
+
+    eBomDataValueType m_nType = kUnknownData;
+    void* m_pData = nullptr;
+};

@@ -1,0 +1,33 @@
+// One level of a report while it is evaluated: which section opens and closes its groups, and the group now open.
+//
+//   level 0   report header, report footer     rows of the whole report
+//   level 1   group header, group footer       rows of the group now open
+//   level 2   details                          the row just being placed
+//
+// Owns nothing it points to. Copies are field by field.
+#pragma once
+
+#include "VorBomDataRow.h"
+#include "VorBomTemplateItem.h"
+
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorArray.h"
+
+using VorBomDataRowPointerArray = VorArray<VorBomDataRow*, VorArrayMemCopyReallocator<VorBomDataRow*>>;
+
+class MEK_BOM_API VorBomEngineState
+{
+public:
+    // A group of a large report holds thousands of rows.
+    static constexpr int kRowsGrowBy = 2000;
+
+    VorBomTemplateItem* m_pHeader = nullptr;             // of the template
+    VorBomTemplateItem* m_pFooter = nullptr;             // of the template; null when the level has none
+    VorBomDataRowPointerArray m_dataRows{ kRowsGrowBy }; // of the group now open, in the order of arrival
+    VorBomTemplateItem* m_pEvaluatedHeader = nullptr;    // made from m_pHeader for the group; null when there is none
+    VorBomTemplateItem* m_pEvaluatedFooter = nullptr;    // made from m_pFooter when the group closed; null when none
+    VorBomItemBase* m_pCollector = nullptr;              // where level 0 hangs its sections; null on all other levels
+    int m_bGroupOpen = 0;                                // 1 while a group is open
+};
+
+using VorBomEngineStateArray = VorArray<VorBomEngineState>;

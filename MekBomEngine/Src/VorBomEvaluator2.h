@@ -1,0 +1,104 @@
+// Turns a template with its data into the evaluated report: sorted, grouped, summed, computed and shown in the
+// template's units.
+//
+//   std::unique_ptr<VorBomTemplate> pTemplate = ...;   // sections as children, rows under getBomData()
+//   pTemplate->setUnitsForTokens(&units);              // 1. the units to show numbers in
+//   pTemplate->findUsedTokens();                       // 2. fills the grouping and sorting caches of the sections
+//   VorBomTemplate result;
+//   VorBomEvaluator2::evaluate(pTemplate.get(), &result);   // 3.
+//
+// Call order. evaluate() reads the sections' grouping and sorting caches as they stand and fills none: without step 2 a
+// report is neither grouped nor sorted. setUnitsForTokens and findUsedTokens may be called in either order.
+//
+// The template is read as a chain of levels: an item's first child is the next level's header, that child's next sibling
+// its footer; further siblings are not evaluated. The deepest level makes one section for every row.
+//
+//   rows  S235 2.5 kg, S235 1.5 kg, S355 4 kg  grouped by material, with a sum of weights in the group footer:
+//     result
+//       report header
+//         group header S235          children: one details section per row
+//         group footer 4.00
+//         group header S355
+//         group footer 4.00
+//       report footer
+//
+// What one evaluation changes in its input, and nothing else:
+//   - the rows are brought into sorted order, by relinking them. On purpose the data's lastChild() goes on naming the row
+//     that was last before; nothing may be appended to the data afterwards.
+//   - tuples that were copied into a header or details section have their used flag set;
+//   - each row gets a tuple "%Formula:..." for every formula computed for it;
+//   - rows whose details section equals the one before under the same parent are merged away: that section is dropped
+//     and getUseThisDataForSums() of the row becomes 0, so that no total counts it;
+//   - the template's units learn the unit of each formula shown.
+// For a second evaluation from the start, build fresh data.
+//
+// Threads: evaluations on different threads may run at once, each with its own template, data and result.
+#pragma once
+
+#include "VorBomEngineState.h"
+#include "VorBomTemplate.h"
+#include "VorHeaderFooterSortingStruct.h"
+
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorArray.h"
+#include "MekRoots/Exp/VorGenericString.h"
+
+class MEK_BOM_API VorBomEvaluator2
+{
+public:
+    // Evaluates pTemplate with its data and units, and appends the evaluated sections of the first level to pResult,
+    // which owns them then. Returns 1; 0 with pResult untouched when pTemplate is null or has no section. Without data,
+    // or with data without rows, nothing is appended. With a null pResult everything made is destroyed again and
+    // "NULL != completedGroup.m_pCollector" is reported.
+    static int evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResult);
+
+private:
+    friend struct VorBomEvaluator2Access; // lets tests call one step at a time
+
+    // One state per level, outermost first.
+    static VorBomEngineStateArray getTemplateStack(VorBomTemplate* pTemplate);
+
+    // A header or details section for one row: a copy of pTemplateItem without links, its values taken from the row
+    // where the row has them. Formulas stay as they are. Marks the row's tuples it took as used. The caller owns it.
+    // Reports "NULL != pTemplateItem" and gives null without one.
+    static VorBomTemplateItem* process(VorBomTemplateItem* pTemplateItem, VorBomDataRow* pRow);
+
+    // A footer for a group: plain tokens end with the value of the last counted row that has them, "%SumBy:" tokens with
+    // their starting value plus those of all counted rows. Marks nothing. The caller owns it.
+    static VorBomTemplateItem* process(VorBomTemplateItem* pTemplateItem, VorBomDataRowPointerArray rows);
+
+    // Grouping. All return 1 but dataMatchGroup.
+    static int evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& stack, VorBomTemplateUnits* pUnits);
+    static int beginGroup(VorBomDataRow* pRow, VorBomEngineStateArray& stack, int level);
+    static int addedInGroup(VorBomDataRow* pRow, VorBomEngineStateArray& stack, int level);
+    static int endGroup(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits);
+    static int groupIsCompleted(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits);
+    // 1 when the row belongs to the group that is open in `state`, or would open its first.
+    static int dataMatchGroup(VorBomDataRow* pRow, VorBomEngineState& state);
+
+    static void dropDuplicateDetails(VorBomEngineStateArray& stack, int level);
+    static void hangSections(VorBomEngineStateArray& stack, int level);
+    static void forgetGroup(VorBomEngineStateArray& stack, int level);
+
+    // Sorting. The comparisons are callbacks over pointers to elements: VorBomDataRow* and
+    // VorHeaderFooterSortingStruct. All return 1 but the comparisons, which answer -1, 0 or 1, and isEqualAsEvaluated.
+    static int sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngineStateArray& stack);
+    static int compareDataRow(const void* pFirst, const void* pSecond);
+    static int sortSubGroupsOnLevels(VorBomTemplateItem* pItem, VorBomEngineStateArray& stack, int level);
+    static int sortItemList(VorBomTemplateItem*& pFirst, const VorStringArray& sortingTokens);
+    static int compareEvaluatedItems(const void* pFirst, const void* pSecond);
+    // 1 when both hold as many tuples and equal values in them, whatever their tokens.
+    static int isEqualAsEvaluated(VorBomTemplateItem* pFirst, VorBomTemplateItem* pSecond);
+
+    // Formulas and display. The row may be null.
+    static void evaluateExpressions(VorBomTemplateItem* pItem, VorBomDataRow* pRow);
+    static void applyUnitsForData(VorBomTemplateUnits* pUnits, VorBomDataTupleArray& tuples);
+    static void fillGenericString(VorGenericString& target, const VorBomDataRow* pRow);
+
+    // What the comparisons sort by: entry i of an order array, 1 ascending or 0 descending, is for token i. Refilled
+    // before each sort, one set per thread.
+    static thread_local VorStringArray m_arrTokensToSortDataRow;
+    static thread_local VorArray<int> m_arrSortOrderForDataRow;
+    static thread_local VorStringArray m_arrTokensToSortEvaluatedItems;
+    static thread_local VorArray<int> m_arrSortOrderForEvaluatedItems;
+};

@@ -1,0 +1,338 @@
+// The sorting operations of VorBomEvaluator2.
+//
+// Input rows, told on the keys "%Material" ascending, "%Length" descending and two rows:
+//   each row's two tuples are looked up once, then merging compares materials, then lengths with the sign turned.
+// A row without the datum stands before those that have it when ascending, after them when descending.
+#include "VorBomEvaluator2.h"
+#include "VorStableMergeSort.h"
+
+#include "MekRoots/Exp/VorAssert.h"
+
+#include <vector>
+
+thread_local VorStringArray VorBomEvaluator2::m_arrTokensToSortDataRow;
+thread_local VorArray<int> VorBomEvaluator2::m_arrSortOrderForDataRow;
+thread_local VorStringArray VorBomEvaluator2::m_arrTokensToSortEvaluatedItems;
+thread_local VorArray<int> VorBomEvaluator2::m_arrSortOrderForEvaluatedItems;
+
+namespace
+{
+const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomEvaluator2"; // named in assertion reports
+
+// Sections sorted at once are counted in thousands.
+constexpr int kSortingPairsGrowBy = 5000;
+
+void reportUnless(bool holds, const wchar_t* expression, int line)
+{
+    if (!holds)
+        VorAssert::vorAssert(expression, kSourcePath, line);
+}
+
+// Appends what `sortingTokens` ask for to the parallel arrays. A token without a prefix sorts in the direction of the
+// one before it, which `ascending` carries.
+void appendSortKeys(const VorStringArray& sortingTokens, int& ascending, VorStringArray& tokens, VorArray<int>& orders)
+{
+    for (const VorString& sortingToken : sortingTokens)
+    {
+        VorString token = sortingToken;
+        VorBomDataToken::removeSortingPrefix(token, ascending);
+        tokens.append(std::move(token));
+        orders.append(ascending);
+    }
+}
+
+// The natural or plain order of two values, as the key's token asks for it. The catalogue is asked at the first
+// comparison, since it reports tokens it does not know, and only then.
+class ValueOrder
+{
+public:
+    explicit ValueOrder(const VorString& token) : m_token(token) {}
+
+    int compare(const VorBomDataValue& first, const VorBomDataValue& second)
+    {
+        if (!m_isKnown)
+        {
+            m_isAlphanumeric = VorBomDataToken::getSortType(m_token) == VorBomDataToken::kSortAlphanumeric;
+            m_isKnown = true;
+        }
+        return m_isAlphanumeric ? first.compareAlphanumeric(second) : first.compare(second);
+    }
+
+private:
+    VorString m_token;
+    bool m_isKnown = false;
+    bool m_isAlphanumeric = false;
+};
+
+// One key of the input sort: -1, 0 or 1 for two rows' tuples, null for a row without the datum.
+int compareByKey(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond, ValueOrder& valueOrder, int ascending)
+{
+    int order = 0;
+    if (pFirst != nullptr && pSecond != nullptr)
+        order = valueOrder.compare(pFirst->value(), pSecond->value());
+    else if (pFirst != pSecond)
+        order = pFirst != nullptr ? 1 : -1;
+    return ascending == 1 ? order : -order;
+}
+
+// The rows of one sort with their keys' tuples looked up once: row i's start at i * number of keys.
+class KeyedRows
+{
+public:
+    KeyedRows(VorBomData& data, const VorStringArray& tokens, const VorArray<int>& orders) : m_orders(orders)
+    {
+        for (const VorString& token : tokens)
+            m_valueOrders.emplace_back(token);
+        for (VorBomItemBase* pItem = data.child(); pItem != nullptr; pItem = pItem->next())
+        {
+            m_rows.push_back(pItem);
+            for (const VorString& token : tokens)
+                m_tuples.push_back(pItem->getTupleAt(token));
+        }
+    }
+
+    // The rows in sorted order.
+    std::vector<VorBomItemBase*> sorted()
+    {
+        std::vector<std::size_t> indices(m_rows.size());
+        for (std::size_t i = 0; i < indices.size(); ++i)
+            indices[i] = i;
+        vorStableMergeSort(indices, [this](std::size_t a, std::size_t b) { return compare(a, b) <= 0; });
+
+        std::vector<VorBomItemBase*> rows;
+        rows.reserve(indices.size());
+        for (const std::size_t index : indices)
+            rows.push_back(m_rows[index]);
+        return rows;
+    }
+
+private:
+    int compare(std::size_t first, std::size_t second)
+    {
+        const std::size_t numKeys = m_valueOrders.size();
+        const VorBomDataTuple* const* pFirst = m_tuples.data() + first * numKeys;
+        const VorBomDataTuple* const* pSecond = m_tuples.data() + second * numKeys;
+        for (std::size_t i = 0; i < numKeys; ++i)
+            if (const int order = compareByKey(pFirst[i], pSecond[i], m_valueOrders[i], m_orders[static_cast<int>(i)]))
+                return order;
+        return 0;
+    }
+
+    const VorArray<int>& m_orders;
+    std::vector<ValueOrder> m_valueOrders;
+    std::vector<VorBomItemBase*> m_rows;
+    std::vector<const VorBomDataTuple*> m_tuples;
+};
+
+VorBomTemplateItem* nextSection(const VorBomTemplateItem* pItem)
+{
+    return static_cast<VorBomTemplateItem*>(pItem->next());
+}
+
+bool opensGroup(const VorBomTemplateItem* pItem)
+{
+    const VorBomTemplateItem::eTemplateItemType type = pItem->type();
+    return type == VorBomTemplateItem::kReportHeader || type == VorBomTemplateItem::kGroupHeader ||
+           type == VorBomTemplateItem::kDetails;
+}
+
+bool closesGroup(const VorBomTemplateItem* pItem)
+{
+    return pItem->type() == VorBomTemplateItem::kGroupFooter || pItem->type() == VorBomTemplateItem::kReportFooter;
+}
+
+bool mayHoldSortedSections(const VorBomTemplateItem* pItem)
+{
+    const VorBomTemplateItem::eTemplateItemType type = pItem->type();
+    return type == VorBomTemplateItem::kBomTemplate || type == VorBomTemplateItem::kReportHeader ||
+           type == VorBomTemplateItem::kGroupHeader;
+}
+
+// Splits a chain of sections into headers with the footers that follow them.
+VorHeaderFooterSortingArray pairSections(VorBomTemplateItem* pItem)
+{
+    VorHeaderFooterSortingArray pairs(kSortingPairsGrowBy);
+    while (pItem != nullptr)
+    {
+        reportUnless(opensGroup(pItem),
+                     L"( VorBomTemplateItem::kReportHeader == pCurrItem->type()) ||"
+                     L"( VorBomTemplateItem::kGroupHeader == pCurrItem->type()) ||"
+                     L"( VorBomTemplateItem::kDetails == pCurrItem->type())",
+                     __LINE__);
+        VorHeaderFooterSortingStruct pair;
+        pair.m_pHeaderItem = pItem;
+        pItem = nextSection(pItem);
+        if (pItem != nullptr && closesGroup(pItem))
+        {
+            pair.m_pFooterItem = pItem;
+            pItem = nextSection(pItem);
+        }
+        pairs.append(pair);
+    }
+    return pairs;
+}
+
+// Chains the sections in the order of `pairs`.
+void relinkSections(const VorHeaderFooterSortingArray& pairs)
+{
+    VorBomItemBase* pLast = nullptr;
+    const auto appendToChain = [&pLast](VorBomItemBase* pItem)
+    {
+        if (pItem == nullptr)
+            return;
+        if (pLast != nullptr)
+            pLast->setNext(pItem);
+        pLast = pItem;
+    };
+    for (const VorHeaderFooterSortingStruct& pair : pairs)
+    {
+        appendToChain(pair.m_pHeaderItem);
+        appendToChain(pair.m_pFooterItem);
+    }
+    if (pLast != nullptr)
+        pLast->setNext(nullptr);
+}
+}
+
+int VorBomEvaluator2::sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngineStateArray& stack)
+{
+    m_arrTokensToSortDataRow.empty();
+    m_arrSortOrderForDataRow.empty();
+    int ascending = 1;
+    for (const VorBomEngineState& state : stack)
+        if (state.m_pHeader != nullptr)
+            appendSortKeys(state.m_pHeader->sortingTokens(), ascending, m_arrTokensToSortDataRow,
+                           m_arrSortOrderForDataRow);
+    const bool hasTwoRows = pData->child() != nullptr && pData->child()->next() != nullptr;
+    if (m_arrTokensToSortDataRow.isEmpty() || !hasTwoRows)
+        return 1;
+
+    const std::vector<VorBomItemBase*> rows =
+        KeyedRows(*pData, m_arrTokensToSortDataRow, m_arrSortOrderForDataRow).sorted();
+    // On purpose before the rows are relinked: lastChild() goes on naming the row that was last before sorting.
+    // Pinned by VorBomEvaluator2SortingTest.LastChildKeepsNamingTheRowThatWasLast.
+    pData->setChild(rows.front());
+    for (std::size_t i = 0; i + 1 < rows.size(); ++i)
+        rows[i]->setNext(rows[i + 1]);
+    rows.back()->setNext(nullptr);
+    return 1;
+}
+
+// Compares one pair of rows by the keys of the last input sort; the sort itself looks the keys up once per row.
+int VorBomEvaluator2::compareDataRow(const void* pFirst, const void* pSecond)
+{
+    const VorBomDataRow* pFirstItemData = *static_cast<VorBomDataRow* const*>(pFirst);
+    const VorBomDataRow* pSecondItemData = *static_cast<VorBomDataRow* const*>(pSecond);
+    reportUnless(pFirstItemData != nullptr, L"NULL != pFirstItemData", __LINE__);
+    reportUnless(pSecondItemData != nullptr, L"NULL != pSecondItemData", __LINE__);
+    if (pFirstItemData == nullptr || pSecondItemData == nullptr)
+        return 0;
+    for (int i = 0; i < m_arrTokensToSortDataRow.length(); ++i)
+    {
+        const VorString& token = m_arrTokensToSortDataRow[i];
+        ValueOrder valueOrder(token);
+        if (const int order = compareByKey(pFirstItemData->getTupleAt(token), pSecondItemData->getTupleAt(token),
+                                           valueOrder, m_arrSortOrderForDataRow[i]))
+            return order;
+    }
+    return 0;
+}
+
+int VorBomEvaluator2::sortSubGroupsOnLevels(VorBomTemplateItem* pItem, VorBomEngineStateArray& stack, int level)
+{
+    struct Place
+    {
+        VorBomTemplateItem* pItem;
+        int level;
+    };
+    std::vector<Place> pending{ { pItem, level } };
+    while (!pending.empty())
+    {
+        const Place place = pending.back();
+        pending.pop_back();
+        if (place.pItem == nullptr || !mayHoldSortedSections(place.pItem))
+            continue;
+        const VorBomTemplateItem* pHeader = stack.isValid(place.level) ? stack[place.level].m_pHeader : nullptr;
+        if (pHeader != nullptr && !pHeader->sortingTokens().isEmpty())
+        {
+            auto* pFirst = static_cast<VorBomTemplateItem*>(place.pItem->child());
+            sortItemList(pFirst, pHeader->sortingTokens());
+            place.pItem->setChild(pFirst);
+        }
+        for (VorBomItemBase* pChild = place.pItem->child(); pChild != nullptr; pChild = pChild->next())
+            pending.push_back({ static_cast<VorBomTemplateItem*>(pChild), place.level + 1 });
+    }
+    return 1;
+}
+
+int VorBomEvaluator2::sortItemList(VorBomTemplateItem*& pFirst, const VorStringArray& sortingTokens)
+{
+    if (pFirst == nullptr)
+    {
+        reportUnless(false, L"false", __LINE__);
+        return 1;
+    }
+    VorHeaderFooterSortingArray pairs = pairSections(pFirst);
+    if (!sortingTokens.isEmpty())
+    {
+        m_arrTokensToSortEvaluatedItems.empty();
+        m_arrSortOrderForEvaluatedItems.empty();
+        int ascending = 1;
+        appendSortKeys(sortingTokens, ascending, m_arrTokensToSortEvaluatedItems, m_arrSortOrderForEvaluatedItems);
+
+        std::vector<VorHeaderFooterSortingStruct> sorted(pairs.begin(), pairs.end());
+        vorStableMergeSort(sorted, [](const VorHeaderFooterSortingStruct& a, const VorHeaderFooterSortingStruct& b)
+                           { return compareEvaluatedItems(&a, &b) <= 0; });
+        std::copy(sorted.begin(), sorted.end(), pairs.begin());
+    }
+    relinkSections(pairs);
+    pFirst = pairs.first().m_pHeaderItem;
+    return 1;
+}
+
+int VorBomEvaluator2::compareEvaluatedItems(const void* pFirst, const void* pSecond)
+{
+    const auto* pFirstSortStruct = static_cast<const VorHeaderFooterSortingStruct*>(pFirst);
+    const auto* pSecondSortStruct = static_cast<const VorHeaderFooterSortingStruct*>(pSecond);
+    reportUnless(pFirstSortStruct != nullptr, L"NULL != pFirstSortStruct", __LINE__);
+    reportUnless(pSecondSortStruct != nullptr, L"NULL != pSecondSortStruct", __LINE__);
+    const VorBomTemplateItem* pFirstItem = pFirstSortStruct == nullptr ? nullptr : pFirstSortStruct->m_pHeaderItem;
+    const VorBomTemplateItem* pSecondItem = pSecondSortStruct == nullptr ? nullptr : pSecondSortStruct->m_pHeaderItem;
+    reportUnless(pFirstItem != nullptr, L"NULL != pFirstItem", __LINE__);
+    reportUnless(pSecondItem != nullptr, L"NULL != pSecondItem", __LINE__);
+    const VorBomDataRow* pFirstItemData = pFirstItem == nullptr ? nullptr : pFirstItem->getFirstDataRow();
+    const VorBomDataRow* pSecondItemData = pSecondItem == nullptr ? nullptr : pSecondItem->getFirstDataRow();
+    reportUnless(pFirstItemData != nullptr, L"NULL != pFirstItemData", __LINE__);
+    reportUnless(pSecondItemData != nullptr, L"NULL != pSecondItemData", __LINE__);
+    if (pFirstItemData == nullptr || pSecondItemData == nullptr)
+        return 0;
+
+    for (int i = 0; i < m_arrTokensToSortEvaluatedItems.length(); ++i)
+    {
+        const VorString& token = m_arrTokensToSortEvaluatedItems[i];
+        const VorBomDataTuple* pFirstTupleToCompare = pFirstItemData->getTupleAt(token);
+        const VorBomDataTuple* pSecondTupleToCompare = pSecondItemData->getTupleAt(token);
+        reportUnless(pFirstTupleToCompare != nullptr, L"NULL != pFirstTupleToCompare", __LINE__);
+        reportUnless(pSecondTupleToCompare != nullptr, L"NULL != pSecondTupleToCompare", __LINE__);
+        int order = 0;
+        if (pFirstTupleToCompare != nullptr && pSecondTupleToCompare != nullptr)
+            order = pFirstTupleToCompare->value().compare(pSecondTupleToCompare->value()); // never in natural order
+        else if (pFirstTupleToCompare != pSecondTupleToCompare)
+            order = pFirstTupleToCompare != nullptr ? 1 : -1;
+        if (order != 0)
+            return m_arrSortOrderForEvaluatedItems[i] == 1 ? order : -order;
+    }
+    return 0;
+}
+
+int VorBomEvaluator2::isEqualAsEvaluated(VorBomTemplateItem* pFirst, VorBomTemplateItem* pSecond)
+{
+    const VorBomDataTupleArray& first = pFirst->getData();
+    const VorBomDataTupleArray& second = pSecond->getData();
+    if (first.length() != second.length())
+        return 0;
+    for (int i = 0; i < first.length(); ++i)
+        if (first[i].value().compare(second[i].value()) != 0)
+            return 0;
+    return 1;
+}

@@ -1,0 +1,76 @@
+// A node of a tree, with a list of tuples: the base of data rows and report sections.
+//
+//   VorBomItemBase item;
+//   item.addData(VorBomDataTuple(L"%PosNum", 12));
+//   item.addData(VorBomDataTuple(L"%Weight", 3.5));
+//   item.list(text, 0, 0, 0)   appends   "[%PosNum:12][%Weight:3.5]"
+//
+// Children are a chain: child() is the first, each one's next() the following, lastChild() where addChild goes on.
+//
+// Ownership: an item owns its tuples. Its children and siblings are not owned: destroying an item leaves them alone.
+// Only empty() destroys them, and the root's owner calls it before it destroys the root. Copies share the children of
+// their source, so only one of the two may be emptied. Everything that is hung in a tree to be emptied must come from
+// `new`.
+//
+// Trees of any depth and width are fine: nothing here recurses.
+#pragma once
+
+#include "VorBomDataTuple.h"
+
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorString.h"
+
+class MEK_BOM_API VorBomItemBase
+{
+public:
+    VorBomItemBase() = default;
+
+    // Copies the three links as they stand, and the tuples with payloads of their own; tuples with empty values too.
+    VorBomItemBase(const VorBomItemBase& other) = default;
+    VorBomItemBase& operator=(const VorBomItemBase& other) = default;
+
+    virtual ~VorBomItemBase() = default;
+
+    // Appends one line per item to `out`: for each tuple "[token:value]", as VorBomDataValue::asString shows the value.
+    // With `withChildren` 1 the children follow on lines of their own, each led by one blank per level; with
+    // `withNext` 1 the siblings do, after the children. The children's siblings are listed only when this item's are.
+    //   list(out, 0, 1, 1)  ->  "[%A:1]\n [%B:2]\n  [%C:3]\n [%D:4]\n[%E:5]"
+    // `level` is the item's own depth, which leads no blanks itself. Returns 1.
+    virtual int list(VorString& out, int level, int withChildren, int withNext);
+
+    VorBomItemBase* next() const { return m_pNext; }
+    VorBomItemBase* child() const { return m_pChild; }
+    VorBomItemBase* lastChild() const { return m_pLastChild; }
+    void setNext(VorBomItemBase* pNext) { m_pNext = pNext; }
+
+    // Makes `pItem` and all its siblings the children, null for none; the former children are not destroyed. Reports
+    // "this != m_pLastChild" when this item is met among them, the last one excepted, and goes on.
+    void setChild(VorBomItemBase* pItem);
+
+    // Appends `pItem` to the children. Null ends the chain after the last child.
+    // On purpose: unlike setChild, lastChild() becomes `pItem` itself even when it already has siblings, so that a
+    // following addChild replaces those. Pinned by VorBomItemBaseTest.AddChildDoesNotFollowTheSiblings.
+    void addChild(VorBomItemBase* pItem);
+
+    // Destroys everything below this item, siblings in their order, each one's descendants before it.
+    // On purpose: child() and lastChild() are left as they were and must not be used again; destroy the item, or give
+    // it children with setChild. The tuples stay. Pinned by VorBomItemBaseTest.EmptyLeavesTheLinksAndTuples.
+    void empty();
+
+    void addData(const VorBomDataTuple& tuple) { m_data.append(tuple); }
+    void addData(VorBomDataTuple&& tuple) { m_data.append(std::move(tuple)); }
+    void setData(const VorBomDataTupleArray& data) { m_data = data; }
+    const VorBomDataTupleArray& getData() const { return m_data; }
+    VorBomDataTupleArray& getData() { return m_data; }
+
+    // The first tuple with exactly this token, or null; it lives until tuples are added. "%Weight" does not find
+    // "%GroupBy:%Weight". Cheapest when `token` is a copy of the tuples' own tokens rather than an equal text.
+    const VorBomDataTuple* getTupleAt(const VorString& token) const;
+    VorBomDataTuple* getTupleAt(const VorString& token);
+
+private:
+    VorBomItemBase* m_pNext = nullptr;
+    VorBomItemBase* m_pChild = nullptr;
+    VorBomItemBase* m_pLastChild = nullptr; // so that appending takes constant time
+    VorBomDataTupleArray m_data;            // in the order of insertion
+};

@@ -1,0 +1,172 @@
+#include "VorBomTemplate.h"
+
+#include "VorBomDefaultTemplate.h"
+#include "VorBomTokenTrace.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace
+{
+struct TokenUnit
+{
+    const wchar_t* token;
+    VorBomTemplateUnits::eTokenUnitType type;
+};
+
+// On purpose: "%contourLength" and the two percent signs of "%%PaintMeter" are how the data are named.
+// Pinned by VorBomTemplateTest.SetUnitsForTokensRegistersTheWholeTable.
+const TokenUnit kTokenUnits[] = {
+    { L"%Length", VorBomTemplateUnits::kDistanceUnit },
+    { L"%SysLength", VorBomTemplateUnits::kDistanceUnit },
+    { L"%SawLength", VorBomTemplateUnits::kDistanceUnit },
+    { L"%CurvedBeamRadius", VorBomTemplateUnits::kDistanceUnit },
+    { L"%Diameter", VorBomTemplateUnits::kDistanceUnit },
+    { L"%Thick", VorBomTemplateUnits::kDistanceUnit },
+    { L"%Width", VorBomTemplateUnits::kDistanceUnit },
+    { L"%contourLength", VorBomTemplateUnits::kDistanceUnit },
+    { L"%LengthInModel", VorBomTemplateUnits::kDistanceUnit },
+    { L"%SawLengthInModel", VorBomTemplateUnits::kDistanceUnit },
+    { L"%EDValue", VorBomTemplateUnits::kDistanceUnit },
+    { L"%WidthExtensionLeft", VorBomTemplateUnits::kDistanceUnit },
+    { L"%WidthExtensionRight", VorBomTemplateUnits::kDistanceUnit },
+    { L"%BarSpacing", VorBomTemplateUnits::kDistanceUnit },
+    { L"%CrossBarSpacing", VorBomTemplateUnits::kDistanceUnit },
+    { L"%ObjectTopLevel", VorBomTemplateUnits::kDistanceUnit },
+    { L"%ObjectBottomLevel", VorBomTemplateUnits::kDistanceUnit },
+    { L"%Weight", VorBomTemplateUnits::kWeightUnit },
+    { L"%WeightInAssembly", VorBomTemplateUnits::kWeightUnit },
+    { L"%WeightInAllAssembly", VorBomTemplateUnits::kWeightUnit },
+    { L"%WeightInAllAssemblyInPhase", VorBomTemplateUnits::kWeightUnit },
+    { L"%WeightInPhase", VorBomTemplateUnits::kWeightUnit },
+    { L"%WeightInModel", VorBomTemplateUnits::kWeightUnit },
+    { L"%AssemblyWeight", VorBomTemplateUnits::kWeightUnit },
+    { L"%ExactWeight", VorBomTemplateUnits::kWeightUnit },
+    { L"%ExactWeightInAssembly", VorBomTemplateUnits::kWeightUnit },
+    { L"%ExactWeightInAllAssembly", VorBomTemplateUnits::kWeightUnit },
+    { L"%ExactWeightInAllAssemblyInPhase", VorBomTemplateUnits::kWeightUnit },
+    { L"%ExactWeightInPhase", VorBomTemplateUnits::kWeightUnit },
+    { L"%ExactWeightInModel", VorBomTemplateUnits::kWeightUnit },
+    { L"%AssemblyExactWeight", VorBomTemplateUnits::kWeightUnit },
+    { L"%Area", VorBomTemplateUnits::kAreaUnit },
+    { L"%Paint", VorBomTemplateUnits::kAreaUnit },
+    { L"%PaintInAssembly", VorBomTemplateUnits::kAreaUnit },
+    { L"%ExactPaintArea", VorBomTemplateUnits::kAreaUnit },
+    { L"%WeightMeter", VorBomTemplateUnits::kWeightPerDistanceUnit },
+    { L"%%PaintMeter", VorBomTemplateUnits::kAreaPerDistanceUnit },
+    { L"%Density", VorBomTemplateUnits::kDensityUnit },
+};
+
+// Every section from `pRoot` down, level by level.
+std::vector<VorBomTemplateItem*> sectionsBreadthFirst(VorBomTemplateItem* pRoot)
+{
+    std::vector<VorBomTemplateItem*> sections{ pRoot };
+    for (std::size_t i = 0; i < sections.size(); ++i)
+        for (VorBomItemBase* pItem = sections[i]->child(); pItem != nullptr; pItem = pItem->next())
+            sections.push_back(static_cast<VorBomTemplateItem*>(pItem));
+    return sections;
+}
+
+void reportUsedData(VorBomTemplateItem& section, VorStringArrayArray& handles, VorStringArrayArray& tokens)
+{
+    for (VorBomItemBase* pItem = section.getFirstDataRow(); pItem != nullptr; pItem = pItem->next())
+    {
+        auto* pRow = static_cast<VorBomDataRow*>(pItem);
+        if (pRow->getUseThisDataForSums())
+            pRow->appendUsedHandlesAndTokens(handles, tokens);
+    }
+}
+}
+
+VorBomTemplate::VorBomTemplate() : m_pUnits(new VorBomTemplateUnits), m_pData(new VorBomData)
+{
+    setType(kBomTemplate);
+}
+
+VorBomTemplate::~VorBomTemplate()
+{
+    empty();
+    delete m_pUnits;
+    m_pUnits = nullptr;
+    if (m_pData != nullptr)
+        m_pData->empty();
+    delete m_pData;
+    m_pData = nullptr;
+}
+
+VorBomTemplate* VorBomTemplate::createDefaultTemplate()
+{
+    auto* pTemplate = new VorBomTemplate;
+    const VorBomDefaultTemplate sections;
+    sections.linkInto(*pTemplate, VorBomDefaultTemplate::s_nLayoutSelector);
+    VorBomDefaultTemplate::registerUnitsWith(*pTemplate->getBomTemplateUnits());
+    return pTemplate;
+}
+
+void VorBomTemplate::setUnitsForTokens(const VorUnitsManager* pManager)
+{
+    if (pManager != nullptr)
+        m_pUnits->setUnits(pManager);
+    for (const TokenUnit& entry : kTokenUnits)
+        m_pUnits->AddTokenType(entry.token, entry.type);
+}
+
+// Every section is visited, so each fills its own caches only: going down the nested group headers from every one of
+// them would cost the square of their depth.
+int VorBomTemplate::findUsedTokens()
+{
+    VorBomTokenTrace trace(m_tokenTrace);
+    for (VorBomTemplateItem* pSection : sectionsBreadthFirst(this))
+    {
+        for (const VorBomDataTuple& tuple : pSection->getData())
+            trace.addTuple(tuple.token().token());
+        pSection->findOwnGroupingTokens();
+        pSection->findOwnSortingTokens();
+        trace.addGroupingTokens(pSection->groupingTokens());
+        trace.addSortingTokens(pSection->sortingTokens());
+    }
+    trace.sort();
+    return 1;
+}
+
+const VorStringArray& VorBomTemplate::getTokenTrace()
+{
+    if (m_tokenTrace.isEmpty())
+        findUsedTokens();
+    return m_tokenTrace;
+}
+
+bool VorBomTemplate::isTokenRequired(const VorString& token) const
+{
+    const auto isBefore = [](const VorString& a, const VorString& b)
+    { return VorString::strCompareNoCase(&a, &b) < 0; };
+    return std::binary_search(m_tokenTrace.begin(), m_tokenTrace.end(), token, isBefore);
+}
+
+int VorBomTemplate::getUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens)
+{
+    for (VorBomItemBase* pItem = child(); pItem != nullptr; pItem = pItem->next())
+    {
+        auto* pSection = static_cast<VorBomTemplateItem*>(pItem);
+        reportUsedData(*pSection, handles, tokens);
+        if (pSection->type() == kReportFooter)
+            break;
+    }
+    return 1;
+}
+
+bool VorBomTemplate::isObjectPresentationOptionOn(eObjectsPresentationOptions option) const
+{
+    return isObjectPresentationOptionOn(m_nObjectPresentationOptions, option);
+}
+
+bool VorBomTemplate::isObjectPresentationOptionOn(int options, eObjectsPresentationOptions option)
+{
+    return (options & option) == option;
+}
+
+void VorBomTemplate::setQueryFilter(VorString filter)
+{
+    m_queryFilter = std::move(filter);
+}

@@ -1,0 +1,107 @@
+// A report template: the tree of its sections, the data to report on, the units to show them in, and which tokens it
+// uses.
+//
+//   VorBomTemplate* pTemplate = VorBomTemplate::createDefaultTemplate();   // 1. sections
+//   pTemplate->getBomData()->addChild(pRow);                               // 2. data, row by row
+//   pTemplate->setUnitsForTokens(&unitsManager);                           // 3. units
+//   pTemplate->findUsedTokens();                                           // 4. what sections group and sort by
+//   VorBomTemplate result;
+//   VorBomEvaluator2::evaluate(pTemplate, &result);                        // 5. `result` holds the report
+//
+// The order of these steps is the host's part: evaluate() reads the caches that findUsedTokens() fills and fills none
+// itself, so without step 4 a report is neither grouped nor sorted. Step 4 may come before step 2, for a host that
+// gathers only the data that isTokenRequired() asks for. A token registered with AddTokenType before step 3 keeps its
+// type.
+//
+// Ownership: a template owns its sections with everything below them, its data with all rows, and its units, and its
+// destructor destroys them. The caller owns the template.
+// On purpose: copies are shallow, they share all three with their source, and only one of two such templates may ever be
+// destroyed. Pinned by VorBomTemplateTest.CopiesShareSectionsUnitsAndData.
+//
+// Sections are VorBomTemplateItem objects from `new` and nothing else. One template is for one thread at a time.
+#pragma once
+
+#include "VorBomData.h"
+#include "VorBomTemplateItem.h"
+#include "VorBomTemplateUnits.h"
+
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorArray.h"
+#include "MekRoots/Exp/VorString.h"
+#include "MekRoots/Exp/VorUnitsManager.h"
+
+class MEK_BOM_API VorBomTemplate : public VorBomTemplateItem
+{
+public:
+    // Bits that the engine stores and its clients define; they cast their own.
+    enum eObjectsPresentationOptions : int
+    {
+        kNoOptions = 0
+    };
+
+    // Without sections; empty data; the current units, no token registered; no options, no filter.
+    VorBomTemplate();
+
+    VorBomTemplate(const VorBomTemplate& other) = default;
+    VorBomTemplate& operator=(const VorBomTemplate& other) = default;
+    ~VorBomTemplate() override;
+
+    // A parts list grouped by position number, then by material, with details and weight totals. The caller deletes it.
+    //   [ kReportHeader]  filter on object types
+    //    [ kGroupHeader ] by %PosNum
+    //     [ kGroupHeader ] by Material
+    //      [ kDetails     ] %posNum, %Weight, %Material
+    //     [ kGroupFooter ] total %Weight
+    //    [ kGroupFooter ] total %Weight
+    //   [ kReportFooter]
+    // On purpose: "%GroupBy:Material", "%SortDescBy:Weight" and "%posNum" are spelled so; existing lists are compared
+    // with this one. Pinned by VorBomTemplateTest.DefaultTemplateIsSpelledAsItAlwaysWas.
+    static VorBomTemplate* createDefaultTemplate();
+
+    VorBomTemplateUnits* getBomTemplateUnits() const { return m_pUnits; }
+    VorBomData* getBomData() { return m_pData; }
+
+    // Takes the units of `pManager` and the display settings of the repository, unless it is null, and registers the
+    // kind of quantity of all known tokens. The first registration of a token wins.
+    void setUnitsForTokens(const VorUnitsManager* pManager);
+
+    // Traces all tokens that the sections name, sorted without regard to case, and fills every section's grouping and
+    // sorting caches on the way. Returns 1.
+    //   "%SumBy:%Weight"         traces itself and "%Weight"
+    //   "%Formula:%A*%B"         traces itself, "%A" and "%B", the latter two even if they are there already
+    //   "%GroupBy:%A,%B"         traces itself, "%A" and "%B"
+    //   "%SortDescBy:%A"         traces itself and "%A"
+    // Tokens are told apart by case. The trace is only added to: sections built since the last call are traced, a
+    // second call for the same sections adds nothing.
+    int findUsedTokens();
+
+    // The trace; runs findUsedTokens first while it is empty, but not when sections have changed since.
+    const VorStringArray& getTokenTrace();
+
+    // Whether the trace holds `token`, in whatever case. Computes nothing: false for every token before findUsedTokens.
+    bool isTokenRequired(const VorString& token) const;
+
+    // Reports the data that the sections use. For each direct child up to and including the first kReportFooter, and
+    // each row from its getFirstDataRow() along the next() links, appends what
+    // VorBomDataRow::appendUsedHandlesAndTokens does, rows that do not count in sums left out. Returns 1.
+    int getUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens);
+
+    void setObjectPresentationOptions(int options) { m_nObjectPresentationOptions = options; }
+    // Whether all bits of `option` are set; true for kNoOptions.
+    bool isObjectPresentationOptionOn(eObjectsPresentationOptions option) const;
+    static bool isObjectPresentationOptionOn(int options, eObjectsPresentationOptions option);
+
+    // Kept for the clients; the engine does not interpret it.
+    void setQueryFilter(VorString filter);
+    VorString getQueryFilter() { return m_queryFilter; }
+
+private:
+    friend struct VorBomTemplateAccess;
+
+    int m_nReserved = 0; // part of the layout; read by nothing
+    VorBomTemplateUnits* m_pUnits;
+    VorString m_queryFilter;
+    int m_nObjectPresentationOptions = kNoOptions;
+    VorBomData* m_pData;
+    VorStringArray m_tokenTrace;
+};

@@ -1,0 +1,90 @@
+// One section of a report template: a header, a details section, a footer, or the template root.
+//
+//   VorBomTemplateItem group(VorBomTemplateItem::kGroupHeader);
+//   group.addData(VorBomDataTuple(L"%GroupBy:%PosNum", VorString()));
+//   group.addData(VorBomDataTuple(L"%PosNum", 0));
+//   group.findGroupingTokens();
+//   group.groupingTokens()  ->  "%PosNum"
+//
+// The tuples are the section's columns and its instructions. Group headers nest: a group header among the children
+// groups again within the group. Children of a section are sections and nothing else. Ownership and copying are those
+// of VorBomItemBase.
+//
+// What the tuples ask for is cached, and the evaluation reads the caches as they stand: they are filled by the find
+// operations, for a whole template by VorBomTemplate::findUsedTokens, which the host calls once the sections are built.
+#pragma once
+
+#include "VorBomDataRow.h"
+#include "VorBomItemBase.h"
+
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorArray.h"
+#include "MekRoots/Exp/VorString.h"
+
+class MEK_BOM_API VorBomTemplateItem : public VorBomItemBase
+{
+public:
+    // The numbers are part of the contract: templates and the evaluation compare them.
+    enum eTemplateItemType : int
+    {
+        kUnkTemplateItemType = 0,
+        kBomTemplate = 1,
+        kReportHeader = 2,
+        kPageHeader = 3,
+        kGroupHeader = 4,
+        kDetails = 5,
+        kGroupFooter = 6,
+        kPageFooter = 7,
+        kReportFooter = 8
+    };
+
+    VorBomTemplateItem() = default; // of type kUnkTemplateItemType
+    explicit VorBomTemplateItem(eTemplateItemType type) : m_nType(type) {}
+
+    // Copies share the children and the first data row; caches and tuples are copied.
+    VorBomTemplateItem(const VorBomTemplateItem& other) = default;
+    VorBomTemplateItem& operator=(const VorBomTemplateItem& other) = default;
+    ~VorBomTemplateItem() override = default;
+
+    eTemplateItemType type() const { return m_nType; }
+
+    // A section's type is meant to be set once: reports "kUnkTemplateItemType == m_nType" when it already has one, and
+    // sets it all the same.
+    void setType(eTemplateItemType type);
+
+    // The first child, not grandchild, of that type; null when there is none.
+    VorBomTemplateItem* getSubItemAt(eTemplateItemType type) const;
+
+    // Fill this section's cache anew with what its tuples ask for, repeated requests repeatedly, then do the same for
+    // the first child of type kGroupHeader, and so on down; other children are left alone. Return 1.
+    int findGroupingTokens();
+    int findSortingTokens();
+    int findFilterObjTypes();
+
+    // The caches as they stand.
+    const VorStringArray& groupingTokens() const { return m_groupingTokens; }
+    const VorStringArray& sortingTokens() const { return m_sortingTokens; } // each with the direction prefix it has
+    const VorArray<int>& filterObjTypes() const { return m_filterObjTypes; }
+
+    // The first row placed in an evaluated section. Not owned, may be null.
+    VorBomDataRow* getFirstDataRow() const { return m_pFirstDataRow; }
+    void setFirstDataRow(VorBomDataRow* pRow) { m_pFirstDataRow = pRow; }
+
+    // As VorBomItemBase::list, every line led by its section's type:  "[ kGroupHeader ][%PosNum:12]"
+    // A type that is none of the nine has no label.
+    int list(VorString& out, int level, int withChildren, int withNext) override;
+
+private:
+    friend class VorBomTemplate; // fills the caches section by section
+
+    void findOwnGroupingTokens();
+    void findOwnSortingTokens();
+    void findOwnFilterObjTypes();
+    int findDownGroups(void (VorBomTemplateItem::*findOwn)());
+
+    eTemplateItemType m_nType = kUnkTemplateItemType;
+    VorStringArray m_groupingTokens;
+    VorStringArray m_sortingTokens;
+    VorArray<int> m_filterObjTypes;
+    VorBomDataRow* m_pFirstDataRow = nullptr;
+};

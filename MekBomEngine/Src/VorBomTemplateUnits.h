@@ -1,0 +1,80 @@
+// What kind of quantity each token of a template shows, in which unit, and how numbers become display text.
+//
+//   VorBomTemplateUnits units;                                          // the current units
+//   units.AddTokenType(L"%Weight", VorBomTemplateUnits::kWeightUnit);
+//   units.getDisplayString(L"%Weight", 12.5)   ->  "12.5", in the weight unit
+//   units.getDisplayString(L"%PosNum", 3.0)    ->  "3": no unit is known for it
+//
+// Values are in the model's internal units: millimetre, kilogram, radian and what follows from them. Tokens are compared
+// exactly, case included. Copies are independent.
+#pragma once
+
+#include "MekRoots/Exp/MEKUnit.h"
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorArray.h"
+#include "MekRoots/Exp/VorString.h"
+#include "MekRoots/Exp/VorUnitsManager.h"
+
+class MEK_BOM_API VorBomTemplateUnits
+{
+public:
+    // The numbers are part of the contract: template files carry them.
+    enum eTokenUnitType : int
+    {
+        kNoUnit = 0, // shown with "%g"
+        kDistanceUnit = 1,
+        kWeightUnit = 2,
+        kAreaUnit = 3,
+        kAngleUnit = 4,
+        kWeightPerDistanceUnit = 5,
+        kAreaPerDistanceUnit = 6,
+        kReservedUnitType = 7, // shown as empty text
+        kDensityUnit = 8
+    };
+
+    // No token registered; the units that MEKUnitsCommon has as current ones; trailing zeros, zero feet and zero inches
+    // suppressed; a blank between feet and inches.
+    VorBomTemplateUnits();
+
+    VorBomTemplateUnits(const VorBomTemplateUnits& other) = default;
+    VorBomTemplateUnits& operator=(const VorBomTemplateUnits& other) = default;
+    virtual ~VorBomTemplateUnits() = default;
+
+    // Takes the units of `pManager`, not null, and reads the display settings from the repository. Settings that are
+    // missing there stay as they are, except that the separator is a minus sign only if it says so.
+    //   "C0_BOMSuppressLastZeros"           1 drops trailing zeros of decimals
+    //   "C40_SuppressZeroFeet"              1 shows 0'-6" as 6"
+    //   "C40_SuppressZeroInch"              1 shows 7'-0" as 7'
+    //   "C40_ShowMinusBetweenFeetAndInch"   nonzero shows 7'-6", 0 shows 7' 6"
+    void setUnits(const VorUnitsManager* pManager);
+
+    // Registers `token`. The first registration wins: a token that has a type keeps it.
+    void AddTokenType(VorString token, eTokenUnitType type);
+
+    // The registered type; kNoUnit for a token that is not registered.
+    eTokenUnitType getUnitType(VorString token) const;
+
+    // The text that a report shows for `value`, a number in internal units: in the unit of the token's kind; as "%g"
+    // prints it for a token without unit.
+    // On purpose: kReservedUnitType, and any type that is none of the nine, gives empty text.
+    // Pinned by VorBomTemplateUnitsTest.ReservedAndUnknownTypesShowNothing.
+    VorString getDisplayString(VorString token, double value) const;
+
+private:
+    void readSettings();
+    const MEKUnit* unitOfType(eTokenUnitType type) const;
+    VorString formatIn(const MEKUnit& unit, double value) const;
+
+    VorStringHashMap<eTokenUnitType> m_tokenTypes;
+    MEKUnit m_distanceUnit;
+    MEKUnit m_weightUnit;
+    MEKUnit m_areaUnit;
+    MEKUnit m_angleUnit;
+    MEKUnit m_weightPerDistanceUnit;
+    MEKUnit m_areaPerDistanceUnit;
+    MEKUnit m_densityUnit;
+    int m_nSuppressLastZeros = 1;
+    int m_nSuppressZeroFeet = 1;
+    int m_nSuppressZeroInch = 1;
+    wchar_t m_feetInchSeparator = L' '; // blank or '-'
+};

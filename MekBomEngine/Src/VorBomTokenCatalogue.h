@@ -1,0 +1,51 @@
+// The data tokens that the engine knows: what kind of value each carries and how it sorts.
+//
+//   VorBomTokenCatalogue::find(L"%Weight")->type   ->  kDoubleData
+//   VorBomTokenCatalogue::find(L"%UserAttr7")      ->  the entry "%UserAttr", which stands for all that start so
+//   VorBomTokenCatalogue::find(L"%PosNum")         ->  null: a template may use it, but nothing is known about it
+//
+// Answers without reporting anything, for callers to whom an unknown token is no mistake; VorBomDataToken::getTokenType
+// reports. The table never changes and may be read by several threads. A new token is one line in the .cpp.
+#pragma once
+
+#include "VorBomDataToken.h"
+#include "VorBomDataValue.h"
+
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorString.h"
+
+#include <cstddef>
+
+class MEK_BOM_API VorBomTokenCatalogue
+{
+public:
+    struct Entry
+    {
+        // Takes the length from the literal.
+        template <std::size_t N>
+        constexpr Entry(const wchar_t (&entryName)[N], VorBomDataValue::eBomDataValueType valueType,
+                        VorBomDataToken::eSortType entrySort, bool entryIsPrefix = false)
+            : name(entryName),
+              length(static_cast<int>(N - 1)),
+              type(valueType),
+              sort(entrySort),
+              isPrefix(entryIsPrefix)
+        {
+        }
+
+        bool matches(const VorString& token) const;
+
+        const wchar_t* name;
+        int length; // of the name, in characters
+        VorBomDataValue::eBomDataValueType type;
+        VorBomDataToken::eSortType sort;
+        bool isPrefix; // any token that starts with the name
+    };
+
+    // The first entry that matches the whole token, its prefix not stripped; null when there is none. Case counts.
+    static const Entry* find(const VorString& token);
+
+    // Half-open range over the table: text tokens, then whole numbers, then numbers.
+    static const Entry* begin();
+    static const Entry* end();
+};

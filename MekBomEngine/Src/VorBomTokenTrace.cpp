@@ -1,0 +1,61 @@
+#include "VorBomTokenTrace.h"
+
+#include "VorBomDataToken.h"
+
+#include <algorithm>
+
+VorBomTokenTrace::VorBomTokenTrace(VorStringArray& tokens) : m_tokens(tokens), m_known(tokens.begin(), tokens.end()) {}
+
+void VorBomTokenTrace::addTuple(const VorString& token)
+{
+    if (!addIfNew(token))
+        return;
+    VorString summed;
+    if (VorBomDataToken(token).getSummingRequest(summed))
+    {
+        addIfNew(summed);
+        addTokensOfFormula(summed);
+    }
+    else
+        addTokensOfFormula(token);
+}
+
+void VorBomTokenTrace::addGroupingTokens(const VorStringArray& tokens)
+{
+    for (const VorString& token : tokens)
+        addIfNew(token);
+}
+
+void VorBomTokenTrace::addSortingTokens(const VorStringArray& tokens)
+{
+    int ascending = 0;
+    for (VorString token : tokens)
+    {
+        VorBomDataToken::removeSortingPrefix(token, ascending);
+        addIfNew(token);
+    }
+}
+
+void VorBomTokenTrace::sort()
+{
+    std::stable_sort(m_tokens.begin(), m_tokens.end(),
+                     [](const VorString& a, const VorString& b) { return VorString::strCompareNoCase(&a, &b) < 0; });
+}
+
+bool VorBomTokenTrace::addIfNew(const VorString& token)
+{
+    if (!m_known.insert(token).second)
+        return false;
+    m_tokens.append(token);
+    return true;
+}
+
+// Nothing for a token that is no formula.
+void VorBomTokenTrace::addTokensOfFormula(VorString token)
+{
+    if (!VorBomDataToken::removeFormulaPrefix(token))
+        return;
+    const VorStringArray tokens = VorBomDataToken::getTokensFromFormula(token);
+    m_known.insert(tokens.begin(), tokens.end());
+    m_tokens.append(tokens);
+}

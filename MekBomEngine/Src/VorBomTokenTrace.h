@@ -1,0 +1,44 @@
+// Collects the tokens that a template names, each once as far as required, for VorBomTemplate::findUsedTokens.
+//
+//   VorBomTokenTrace trace(tokens);                   // goes on with what `tokens` holds
+//   trace.addTuple(L"%SumBy:%Formula:%A*%B");         // itself, "%Formula:%A*%B", "%A", "%B"
+//   trace.addSortingTokens({ "%SortAscBy:%Name" });   // "%Name"
+//   trace.sort();
+//
+// Tokens are told apart exactly. `tokens` is not owned and not touched by others while the trace lives.
+#pragma once
+
+#include "MekRoots/Exp/VorArray.h"
+#include "MekRoots/Exp/VorString.h"
+
+#include <set>
+
+class VorBomTokenTrace
+{
+public:
+    explicit VorBomTokenTrace(VorStringArray& tokens);
+
+    // A tuple's token with what it sums or computes; nothing at all when the token is known already.
+    // On purpose: the tokens of a formula are added even when they are known.
+    // Pinned by VorBomTemplateTest.FormulaTokensMayRepeatInTheTrace.
+    void addTuple(const VorString& token);
+
+    void addGroupingTokens(const VorStringArray& tokens);
+    // Without their direction prefixes.
+    void addSortingTokens(const VorStringArray& tokens);
+
+    // Ascending without regard to case; tokens that differ in case only stay in the order they were found in.
+    void sort();
+
+private:
+    struct IsBefore
+    {
+        bool operator()(const VorString& a, const VorString& b) const { return VorString::compare(a, b) < 0; }
+    };
+
+    bool addIfNew(const VorString& token);
+    void addTokensOfFormula(VorString token);
+
+    VorStringArray& m_tokens;
+    std::set<VorString, IsBefore> m_known; // ordered: no choice of tokens makes the look-up slow
+};
