@@ -14,7 +14,7 @@ int VorExprEvTreeItemOperand::print() const
 VorExprEvValue& VorExprEvTreeItemOperand::evaluate(VorExprEvValue& value) const
 {
     double number = 0.0;
-    if (!m_text.hasText() || scanNumber(number))
+    if (getNumber(number))
     {
         value.setDouble(number);
         return value;
@@ -29,17 +29,19 @@ VorExprEvValue& VorExprEvTreeItemOperand::evaluate(VorExprEvValue& value) const
     return value;
 }
 
-// 0 with `number` untouched when something else than a number stands here. At the end of the text it stands untouched
-// too, but counts as read.
-int VorExprEvTreeItemOperand::scanNumber(double& number) const
+int VorExprEvTreeItemOperand::getNumber(double& number) const
 {
+    if (!m_text.hasText())
+    {
+        number = 0.0;
+        return 1;
+    }
     float scanned = 0.0F;
     const wchar_t* pStart = m_text.text() + m_text.start();
     const wchar_t* pEnd = m_text.text() + m_text.textLength();
     const VorNumberText::eScanResult result = VorNumberText::scanFloat(pStart, pEnd, scanned);
     if (result == VorNumberText::kNoNumber)
         return 0;
-    if (result == VorNumberText::kNumber)
-        number = scanned;
+    number = scanned; // still 0.0 where the text ended before any number, which counts as one
     return 1;
 }

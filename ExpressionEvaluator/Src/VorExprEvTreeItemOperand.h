@@ -20,10 +20,10 @@ public:
     // A text that ends before any number (a vertical tab alone) is 0.0.
     VorExprEvValue& evaluate(VorExprEvValue& value) const override;
 
+    // The number that evaluating gives, 0.0 for no text; 0 with `number` untouched for a name.
+    int getNumber(double& number) const;
+
     VorExprEvTextView getText() const override { return m_text; }
     int isComplete() const override { return 1; }
     int isOperator() const override { return 0; }
-
-private:
-    int scanNumber(double& number) const;
 };

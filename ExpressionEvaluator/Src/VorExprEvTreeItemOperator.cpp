@@ -30,25 +30,9 @@ constexpr double kSmallestDivisor = 0.0001;
 // Operators that wait at once without memory being asked for. Arbitrary; formulas of reports nest a few deep.
 constexpr std::size_t kUsualDepth = 64;
 
-double divide(double dividend, double divisor)
+bool isZeroDivisor(double divisor)
 {
-    if (divisor > -kSmallestDivisor && divisor < kSmallestDivisor)
-    {
-        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kDivisionByZero);
-        return 0.0;
-    }
-    return dividend / divisor;
-}
-
-double calculate(wchar_t operation, double left, double right)
-{
-    switch (operation)
-    {
-        case L'*': return left * right;
-        case L'+': return left + right;
-        case L'-': return left - right;
-        default: return divide(left, right);
-    }
+    return divisor > -kSmallestDivisor && divisor < kSmallestDivisor;
 }
 
 bool isOperation(wchar_t character)
@@ -141,9 +125,14 @@ void Walk::goUp()
 void Walk::finish(const Waiting& waiting)
 {
     if (waiting.operation == L'=')
+    {
         assign(waiting.pOperator->left(), m_value);
-    else
-        m_value.setDouble(calculate(waiting.operation, waiting.left, m_value.toNumber()));
+        return;
+    }
+    double result = 0.0;
+    if (!VorExprEvTreeItemOperator::calculate(waiting.operation, waiting.left, m_value.toNumber(), result))
+        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kDivisionByZero);
+    m_value.setDouble(result);
 }
 }
 
@@ -162,6 +151,20 @@ int VorExprEvTreeItemOperator::precedence(wchar_t character)
     }
     VorAssert::vorAssert(L"false", kSourcePath, kNoPrecedenceLine);
     return 0;
+}
+
+int VorExprEvTreeItemOperator::calculate(wchar_t operation, double left, double right, double& result)
+{
+    switch (operation)
+    {
+        case L'*': result = left * right; return 1;
+        case L'+': result = left + right; return 1;
+        case L'-': result = left - right; return 1;
+        default: break;
+    }
+    const bool canDivide = !isZeroDivisor(right);
+    result = canDivide ? left / right : 0.0;
+    return canDivide ? 1 : 0;
 }
 
 int VorExprEvTreeItemOperator::print() const

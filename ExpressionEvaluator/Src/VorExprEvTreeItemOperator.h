@@ -1,7 +1,7 @@
 // One of the operators "*/+-=()" with its left and right side. Parentheses never get into a tree.
 //
 //   left * right, left + right, left - right    over doubles, whatever the sides' types; always a double
-//   left / right                                a divisor within ±0.0001 is an error and gives 0.0
+//   left / right                                a divisor within 0.0001 of zero is an error and gives 0.0
 //   name = right                                a new variable; the result is the assigned value with its type
 //
 // A missing side counts as an unknown value, and that as 0.0.
@@ -15,6 +15,9 @@ public:
     // How tightly an operator binds: 0 '=', 1 '(' and ')', 2 '+' and '-', 3 '*' and '/'. Anything else reports "false"
     // and answers 0.
     static int precedence(wchar_t character);
+
+    // Computes "*", "+", "-" or "/"; 0 with `result` 0.0 for a division by zero. Raises no error.
+    static int calculate(wchar_t operation, double left, double right, double& result);
 
     explicit VorExprEvTreeItemOperator(const VorExprEvTextView& text) : VorExprEvTreeItem(text) {}
 

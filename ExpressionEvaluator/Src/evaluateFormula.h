@@ -22,6 +22,6 @@
 // Returns 0 with `*result` untouched when
 //   - the formula is null, shorter than four characters (on purpose, however valid), or has none of "*/+-=()",
 //   - `names` or `values` is null, or `count` is negative,
-//   - the parentheses do not balance, a name is unknown, or a divisor lies within ±0.0001.
+//   - the parentheses do not balance, a name is unknown, or a divisor lies within 0.0001 of zero.
 extern "C" MEK_EXPRESSION_API int evaluateFormula(const wchar_t* formula, const wchar_t* const* names,
                                                   const double* values, int count, double* result);

@@ -4,16 +4,6 @@
 
 namespace
 {
-// As VorBomDataRow::compare, for one token.
-int compareTuples(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
-{
-    if (pFirst != nullptr && pSecond != nullptr)
-        return pFirst->value().compare(pSecond->value());
-    if (pFirst != nullptr)
-        return 1;
-    return pSecond != nullptr ? -1 : 0;
-}
-
 VorStringArray usedTokens(const VorBomDataTupleArray& tuples)
 {
     VorStringArray tokens;
@@ -38,7 +28,7 @@ int VorBomDataRow::compare(VorBomDataRow* pOther, const VorStringArray& tokens) 
 {
     for (const VorString& token : tokens)
     {
-        const int result = compareTuples(getTupleAt(token), pOther->getTupleAt(token));
+        const int result = VorBomDataTuple::compareValues(getTupleAt(token), pOther->getTupleAt(token));
         if (result != 0)
             return result;
     }

@@ -26,6 +26,9 @@ public:
     // Takes a value of any kind as it is, an empty one too.
     VorBomDataTuple(const VorString& token, VorBomDataValue value) : m_token(token), m_value(std::move(value)) {}
 
+    // Takes a copy of any value, an empty one too.
+    VorBomDataTuple(const VorBomDataToken& token, const VorBomDataValue& value) : m_token(token), m_value(value) {}
+
     // Copies carry the used flag. A moved-from tuple has an empty token and an empty value.
     // On purpose: assigning, by copy or by move, a tuple with an empty value replaces token and flag but keeps the
     // target's value, as VorBomDataValue::operator= does. Copies made from nothing always equal their source.
@@ -39,6 +42,14 @@ public:
     const VorBomDataToken& token() const { return m_token; }
     const VorBomDataValue& value() const { return m_value; }
     VorBomDataValue& value() { return m_value; }
+
+    // Orders what two rows carry under one token: as VorBomDataValue::compare; a datum after none, and 0 for none twice.
+    static int compareValues(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
+    {
+        if (pFirst != nullptr && pSecond != nullptr)
+            return pFirst->value().compare(pSecond->value());
+        return pFirst == pSecond ? 0 : (pFirst != nullptr ? 1 : -1);
+    }
 
     // 1 when the report uses this datum. The evaluation sets it on what it copies from rows into sections.
     int used() const { return m_nUsed; }

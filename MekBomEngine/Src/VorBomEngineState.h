@@ -4,7 +4,7 @@
 //   level 1   group header, group footer       rows of the group now open
 //   level 2   details                          the row just being placed
 //
-// Owns nothing it points to. Copies are field by field.
+// Owns none of the sections and rows it points to. Copies are field by field and share the plan.
 #pragma once
 
 #include "VorBomDataRow.h"
@@ -12,6 +12,10 @@
 
 #include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorArray.h"
+
+#include <memory>
+
+class VorBomLevelPlan;
 
 using VorBomDataRowPointerArray = VorArray<VorBomDataRow*, VorArrayMemCopyReallocator<VorBomDataRow*>>;
 
@@ -28,6 +32,7 @@ public:
     VorBomTemplateItem* m_pEvaluatedFooter = nullptr;    // made from m_pFooter when the group closed; null when none
     VorBomItemBase* m_pCollector = nullptr;              // where level 0 hangs its sections; null on all other levels
     int m_bGroupOpen = 0;                                // 1 while a group is open
+    std::shared_ptr<VorBomLevelPlan> m_pPlan;            // what the two sections ask of every row, read from them once
 };
 
 using VorBomEngineStateArray = VorArray<VorBomEngineState>;

@@ -7,103 +7,16 @@
 //   end: closes 1, then 0, whose header and footer go to the result.
 #include "VorBomEvaluator2.h"
 
+#include "VorBomLevelPlan.h"
+
 #include "MekRoots/Exp/VorAssert.h"
 
-#include <limits>
 #include <memory>
 #include <utility>
-#include <vector>
 
 namespace
 {
 const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomEvaluator2"; // named in assertion reports
-
-// A copy of a template section that hangs nowhere yet.
-std::unique_ptr<VorBomTemplateItem> copyWithoutLinks(const VorBomTemplateItem& section)
-{
-    auto pCopy = std::make_unique<VorBomTemplateItem>(section);
-    pCopy->setNext(nullptr);
-    pCopy->setChild(nullptr);
-    return pCopy;
-}
-
-int intOf(const VorBomDataValue& value)
-{
-    return *static_cast<const int*>(value.data());
-}
-
-double doubleOf(const VorBomDataValue& value)
-{
-    return *static_cast<const double*>(value.data());
-}
-bool isNumber(const VorBomDataValue& value)
-{
-    return value.type() == VorBomDataValue::kIntData || value.type() == VorBomDataValue::kDoubleData;
-}
-
-double numberOf(const VorBomDataValue& value)
-{
-    return value.type() == VorBomDataValue::kIntData ? intOf(value) : doubleOf(value);
-}
-
-void setToZeroLike(const VorBomDataValue& number, VorBomDataValue& value)
-{
-    if (number.type() == VorBomDataValue::kIntData)
-        value.set(0);
-    else
-        value.set(0.0);
-}
-
-// Totals stay integers while everything added is an integer and the sum fits 32 bits; otherwise they become doubles and
-// stay so. A total that is no number yet starts from zero of the added value's type.
-void addToTotal(VorBomDataValue& total, const VorBomDataValue& added)
-{
-    if (!isNumber(total))
-        setToZeroLike(added, total);
-    if (total.type() == VorBomDataValue::kIntData && added.type() == VorBomDataValue::kIntData)
-    {
-        const long long sum = static_cast<long long>(intOf(total)) + intOf(added);
-        if (sum >= std::numeric_limits<int>::min() && sum <= std::numeric_limits<int>::max())
-            total.set(static_cast<int>(sum));
-        else
-            total.set(static_cast<double>(sum));
-        return;
-    }
-    total.set(numberOf(total) + numberOf(added));
-}
-
-// One column of a footer: which datum of the rows it reads, and whether it adds it up.
-struct FooterColumn
-{
-    explicit FooterColumn(const VorBomDataToken& columnToken)
-        : token(columnToken.token()), isSum(columnToken.getSummingRequest(token) != 0)
-    {
-    }
-
-    VorString token;
-    bool isSum;
-};
-
-// Lets a footer's column take in one row's value.
-void takeInto(VorBomDataValue& columnValue, const VorBomDataValue& rowValue, bool isSum)
-{
-    switch (rowValue.type())
-    {
-        case VorBomDataValue::kIntData:
-        case VorBomDataValue::kDoubleData:
-            if (isSum)
-                addToTotal(columnValue, rowValue);
-            else
-                columnValue = rowValue;
-            break;
-        case VorBomDataValue::kStringData:
-            if (isSum)
-                VorAssert::vorAssert(L"!bIsSummingRequest", kSourcePath, __LINE__);
-            columnValue = rowValue;
-            break;
-        default: break;
-    }
-}
 
 VorBomTemplateItem* sectionAt(VorBomItemBase* pItem)
 {
@@ -140,12 +53,14 @@ int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResul
 
 VorBomEngineStateArray VorBomEvaluator2::getTemplateStack(VorBomTemplate* pTemplate)
 {
+    const auto pLayouts = std::make_shared<VorBomRowLayouts>();
     VorBomEngineStateArray stack;
     for (VorBomTemplateItem* pItem = sectionAt(pTemplate->child()); pItem != nullptr; pItem = sectionAt(pItem->child()))
     {
         VorBomEngineState state;
         state.m_pHeader = pItem;
         state.m_pFooter = sectionAt(pItem->next());
+        state.m_pPlan = std::make_shared<VorBomLevelPlan>(pLayouts, *state.m_pHeader, state.m_pFooter);
         stack.append(std::move(state));
     }
     return stack;
@@ -158,24 +73,7 @@ VorBomTemplateItem* VorBomEvaluator2::process(VorBomTemplateItem* pTemplateItem,
         VorAssert::vorAssert(L"NULL != pTemplateItem", kSourcePath, __LINE__);
         return nullptr;
     }
-    auto pEvaluated = copyWithoutLinks(*pTemplateItem);
-    for (VorBomDataTuple& tuple : pEvaluated->getData())
-    {
-        const VorString& token = tuple.token().token();
-        if (VorBomDataToken::isFormula(token))
-            continue;
-        VorBomDataTuple* pDatum = pRow->getTupleAt(token);
-        if (pDatum == nullptr)
-            continue;
-        if (pDatum->value().type() == VorBomDataValue::kUnknownData)
-        {
-            VorAssert::vorAssert(L"false", kSourcePath, __LINE__);
-            continue;
-        }
-        tuple.value() = pDatum->value();
-        pDatum->setUsed(1);
-    }
-    return pEvaluated.release();
+    return VorBomHeaderPlan(std::make_shared<VorBomRowLayouts>(), *pTemplateItem).process(*pRow).release();
 }
 
 VorBomTemplateItem* VorBomEvaluator2::process(VorBomTemplateItem* pTemplateItem, VorBomDataRowPointerArray rows)
@@ -185,25 +83,7 @@ VorBomTemplateItem* VorBomEvaluator2::process(VorBomTemplateItem* pTemplateItem,
         VorAssert::vorAssert(L"NULL != pTemplateItem", kSourcePath, __LINE__);
         return nullptr;
     }
-    auto pEvaluated = copyWithoutLinks(*pTemplateItem);
-    VorBomDataTupleArray& tuples = pEvaluated->getData();
-    std::vector<FooterColumn> columns;
-    for (const VorBomDataTuple& tuple : tuples)
-        columns.emplace_back(tuple.token());
-
-    for (const VorBomDataRow* pRow : rows)
-    {
-        if (pRow->getUseThisDataForSums() == 0)
-            continue;
-        VorBomDataTuple* pTuple = tuples.begin();
-        for (const FooterColumn& column : columns)
-        {
-            if (const VorBomDataTuple* pDatum = pRow->getTupleAt(column.token))
-                takeInto(pTuple->value(), pDatum->value(), column.isSum);
-            ++pTuple;
-        }
-    }
-    return pEvaluated.release();
+    return VorBomFooterPlan(std::make_shared<VorBomRowLayouts>(), *pTemplateItem).finish(rows).release();
 }
 
 int VorBomEvaluator2::evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& stack, VorBomTemplateUnits* pUnits)
@@ -227,6 +107,10 @@ int VorBomEvaluator2::evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& 
             addedInGroup(pRow, stack, level);
         }
     }
+    // Only now is it settled whether the row counts and which formulas it carries.
+    for (VorBomEngineState& state : stack)
+        if (state.m_pFooter != nullptr)
+            state.m_pPlan->footer->takeNewRows(state.m_dataRows);
     return 1;
 }
 
@@ -235,10 +119,10 @@ int VorBomEvaluator2::beginGroup(VorBomDataRow* pRow, VorBomEngineStateArray& st
     forgetGroup(stack, level);
     VorBomEngineState& state = stack[level];
     state.m_bGroupOpen = 1;
-    VorBomTemplateItem* pEvaluated = process(state.m_pHeader, pRow);
-    evaluateExpressions(pEvaluated, pRow);
+    std::unique_ptr<VorBomTemplateItem> pEvaluated = state.m_pPlan->header.process(*pRow);
+    state.m_pPlan->header.computeFormulas(*pEvaluated, *pRow);
     pEvaluated->setFirstDataRow(pRow);
-    state.m_pEvaluatedHeader = pEvaluated;
+    state.m_pEvaluatedHeader = pEvaluated.release();
     state.m_dataRows.append(pRow);
     return 1;
 }
@@ -261,7 +145,7 @@ int VorBomEvaluator2::endGroup(VorBomEngineStateArray& stack, int level, VorBomT
         return 1;
     state.m_bGroupOpen = 0;
     if (state.m_pFooter != nullptr)
-        state.m_pEvaluatedFooter = process(state.m_pFooter, state.m_dataRows);
+        state.m_pEvaluatedFooter = state.m_pPlan->footer->finish(state.m_dataRows).release();
     return groupIsCompleted(stack, level, pUnits);
 }
 
@@ -269,9 +153,9 @@ int VorBomEvaluator2::groupIsCompleted(VorBomEngineStateArray& stack, int level,
 {
     VorBomEngineState& completedGroup = stack[level];
     if (completedGroup.m_pEvaluatedHeader != nullptr)
-        applyUnitsForData(pUnits, completedGroup.m_pEvaluatedHeader->getData());
+        completedGroup.m_pPlan->header.showInUnits(*pUnits, *completedGroup.m_pEvaluatedHeader);
     if (completedGroup.m_pEvaluatedFooter != nullptr)
-        applyUnitsForData(pUnits, completedGroup.m_pEvaluatedFooter->getData());
+        completedGroup.m_pPlan->footer->showInUnits(*pUnits, *completedGroup.m_pEvaluatedFooter);
     if (level > 0 && isLastLevel(stack, level))
         dropDuplicateDetails(stack, level);
     hangSections(stack, level);
@@ -283,7 +167,7 @@ int VorBomEvaluator2::dataMatchGroup(VorBomDataRow* pRow, VorBomEngineState& sta
 {
     if (state.m_pHeader == nullptr || state.m_dataRows.isEmpty() || state.m_pHeader->groupingTokens().isEmpty())
         return 1;
-    return pRow->compare(state.m_dataRows.last(), state.m_pHeader->groupingTokens()) == 0 ? 1 : 0;
+    return state.m_pPlan->isSameGroup(*pRow, *state.m_dataRows.last());
 }
 
 // Deletes a details section that reads as the one before it under the same parent, and takes its row out of all sums.

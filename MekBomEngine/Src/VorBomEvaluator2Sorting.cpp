@@ -314,12 +314,8 @@ int VorBomEvaluator2::compareEvaluatedItems(const void* pFirst, const void* pSec
         const VorBomDataTuple* pSecondTupleToCompare = pSecondItemData->getTupleAt(token);
         reportUnless(pFirstTupleToCompare != nullptr, L"NULL != pFirstTupleToCompare", __LINE__);
         reportUnless(pSecondTupleToCompare != nullptr, L"NULL != pSecondTupleToCompare", __LINE__);
-        int order = 0;
-        if (pFirstTupleToCompare != nullptr && pSecondTupleToCompare != nullptr)
-            order = pFirstTupleToCompare->value().compare(pSecondTupleToCompare->value()); // never in natural order
-        else if (pFirstTupleToCompare != pSecondTupleToCompare)
-            order = pFirstTupleToCompare != nullptr ? 1 : -1;
-        if (order != 0)
+        // Never in natural order, unlike the rows of the input.
+        if (const int order = VorBomDataTuple::compareValues(pFirstTupleToCompare, pSecondTupleToCompare))
             return m_arrSortOrderForEvaluatedItems[i] == 1 ? order : -order;
     }
     return 0;

@@ -25,6 +25,15 @@ void gatherRequests(const VorBomDataTupleArray& tuples, Cache& cache, int (VorBo
 }
 }
 
+VorBomTemplateItem::VorBomTemplateItem(const VorBomTemplateItem& other, eCopyPart)
+    : m_nType(other.m_nType),
+      m_groupingTokens(other.m_groupingTokens),
+      m_sortingTokens(other.m_sortingTokens),
+      m_filterObjTypes(other.m_filterObjTypes),
+      m_pFirstDataRow(other.m_pFirstDataRow)
+{
+}
+
 void VorBomTemplateItem::setType(eTemplateItemType type)
 {
     if (m_nType != kUnkTemplateItemType)

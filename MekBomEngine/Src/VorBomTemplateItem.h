@@ -41,6 +41,13 @@ public:
     VorBomTemplateItem() = default; // of type kUnkTemplateItemType
     explicit VorBomTemplateItem(eTemplateItemType type) : m_nType(type) {}
 
+    // An evaluated section begins as a copy of its template's that hangs nowhere and whose tuples are still to come.
+    enum eCopyPart
+    {
+        kWithoutLinksAndTuples
+    };
+    VorBomTemplateItem(const VorBomTemplateItem& other, eCopyPart);
+
     // Copies share the children and the first data row; caches and tuples are copied.
     VorBomTemplateItem(const VorBomTemplateItem& other) = default;
     VorBomTemplateItem& operator=(const VorBomTemplateItem& other) = default;

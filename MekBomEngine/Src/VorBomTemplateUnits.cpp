@@ -62,7 +62,11 @@ VorBomTemplateUnits::eTokenUnitType VorBomTemplateUnits::getUnitType(VorString t
 
 VorString VorBomTemplateUnits::getDisplayString(VorString token, double value) const
 {
-    const eTokenUnitType type = getUnitType(std::move(token));
+    return getDisplayString(getUnitType(std::move(token)), value);
+}
+
+VorString VorBomTemplateUnits::getDisplayString(eTokenUnitType type, double value) const
+{
     if (type == kNoUnit)
         return plainText(value);
     const MEKUnit* pUnit = unitOfType(type);

@@ -54,11 +54,15 @@ public:
     // The registered type; kNoUnit for a token that is not registered.
     eTokenUnitType getUnitType(VorString token) const;
 
+    // How many tokens are registered; a type once given stays until this number changes.
+    int numTokenTypes() const { return m_tokenTypes.count(); }
+
     // The text that a report shows for `value`, a number in internal units: in the unit of the token's kind; as "%g"
     // prints it for a token without unit.
     // On purpose: kReservedUnitType, and any type that is none of the nine, gives empty text.
     // Pinned by VorBomTemplateUnitsTest.ReservedAndUnknownTypesShowNothing.
     VorString getDisplayString(VorString token, double value) const;
+    VorString getDisplayString(eTokenUnitType type, double value) const; // for every token of that type
 
 private:
     void readSettings();

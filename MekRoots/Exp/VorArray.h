@@ -55,6 +55,8 @@ template <class T>
 class VorArrayMemoryController
 {
 public:
+    static_assert(alignof(T) <= alignof(std::max_align_t), "the memory controller aligns no further");
+
     static T* allocate(int numElements)
     {
         return static_cast<T*>(
@@ -108,6 +110,53 @@ public:
     }
 };
 
+// The element that misuse of this thread's arrays of `T` is sent to. It may still be asked for while the thread's last
+// objects are destroyed, after its own end; what it is given to hold then is never freed.
+template <class T>
+class VorArrayNoElement
+{
+public:
+    // Made anew each time, so that nothing written to it before is seen.
+    static T& renew()
+    {
+        if (!s_hasEnded)
+            endWithTheThread();
+        destroy();
+        s_pElement = ::new (static_cast<void*>(s_storage)) T();
+        return *s_pElement;
+    }
+
+private:
+    struct End
+    {
+        End() = default;
+        End(const End&) = delete;
+        End& operator=(const End&) = delete;
+        ~End()
+        {
+            s_hasEnded = true;
+            destroy();
+        }
+    };
+
+    static void endWithTheThread()
+    {
+        static thread_local End end;
+        static_cast<void>(end);
+    }
+
+    static void destroy()
+    {
+        if (s_pElement != nullptr)
+            s_pElement->~T();
+        s_pElement = nullptr;
+    }
+
+    alignas(T) static inline thread_local unsigned char s_storage[sizeof(T)] = {};
+    static inline thread_local T* s_pElement = nullptr;
+    static inline thread_local bool s_hasEnded = false;
+};
+
 template <class T, class R, class M>
 class VorArray
 {
@@ -121,7 +170,7 @@ public:
     VorArray() = default;
     // A block below 1 counts as 1.
     explicit VorArray(int growBy) : m_nGrowBy(growBy < 1 ? 1 : growBy) {}
-    VorArray(const VorArray& other) : m_nGrowBy(other.m_nGrowBy) { append(other); }
+    VorArray(const VorArray& other) : VorArray(other.m_nGrowBy) { append(other); }
     VorArray(VorArray&& other) noexcept { exchange(other); }
     VorArray& operator=(const VorArray& other);
     VorArray& operator=(VorArray&& other) noexcept;
@@ -166,9 +215,9 @@ public:
     const T* end() const { return m_pElements + m_nLength; }
 
 private:
-    static T& noElement();
     bool standsHere(const T* pElement) const;
-    int blockLengthFor(int index) const;
+    int physicalLengthWith(int index) const;
+    int capacityFor(int length, int physicalLength) const;
     int lengthWith(int numMore) const;
     void makeRoomFor(int length);
     void moveToCapacity(int capacity);
@@ -259,7 +308,7 @@ T& VorArray<T, R, M>::operator[](int index)
     if (isValid(index))
         return m_pElements[index];
     VorArrayMisuse::report(L"isValid( index )", VorArrayMisuse::kModifiableElementLine);
-    return noElement();
+    return VorArrayNoElement<T>::renew();
 }
 
 template <class T, class R, class M>
@@ -268,7 +317,7 @@ const T& VorArray<T, R, M>::operator[](int index) const
     if (isValid(index))
         return m_pElements[index];
     VorArrayMisuse::report(L"isValid( index )", VorArrayMisuse::kConstantElementLine);
-    return noElement();
+    return VorArrayNoElement<T>::renew();
 }
 
 template <class T, class R, class M>
@@ -283,7 +332,7 @@ const T& VorArray<T, R, M>::first() const
     if (!isEmpty())
         return m_pElements[0];
     VorArrayMisuse::report(L"!isEmpty()", VorArrayMisuse::kFirstElementLine);
-    return noElement();
+    return VorArrayNoElement<T>::renew();
 }
 
 template <class T, class R, class M>
@@ -298,7 +347,7 @@ const T& VorArray<T, R, M>::last() const
     if (!isEmpty())
         return m_pElements[m_nLength - 1];
     VorArrayMisuse::report(L"!isEmpty()", VorArrayMisuse::kLastElementLine);
-    return noElement();
+    return VorArrayNoElement<T>::renew();
 }
 
 template <class T, class R, class M>
@@ -352,16 +401,6 @@ void VorArray<T, R, M>::swap(int first, int second)
     ::new (static_cast<void*>(m_pElements + second)) T(std::move(held));
 }
 
-// The element that misuse is sent to: made anew each time, so that nothing written to it before is seen.
-template <class T, class R, class M>
-T& VorArray<T, R, M>::noElement()
-{
-    static thread_local T element = T();
-    element.~T();
-    ::new (static_cast<void*>(&element)) T();
-    return element;
-}
-
 template <class T, class R, class M>
 bool VorArray<T, R, M>::standsHere(const T* pElement) const
 {
@@ -369,13 +408,27 @@ bool VorArray<T, R, M>::standsHere(const T* pElement) const
     return m_pElements != nullptr && !isBefore(pElement, m_pElements) && isBefore(pElement, m_pElements + m_nLength);
 }
 
-// The physical length that the block rule gives for an append at `index`.
+// The physical length after an append at `index`, by the block rule.
 template <class T, class R, class M>
-int VorArray<T, R, M>::blockLengthFor(int index) const
+int VorArray<T, R, M>::physicalLengthWith(int index) const
 {
+    if (index < m_nPhysicalLength)
+        return m_nPhysicalLength;
     const long long length = (static_cast<long long>(index) / m_nGrowBy + 1) * m_nGrowBy;
     const long long longest = std::numeric_limits<int>::max();
     return static_cast<int>(length < longest ? length : longest);
+}
+
+// The capacity to move to when there is no room for `length` elements.
+template <class T, class R, class M>
+int VorArray<T, R, M>::capacityFor(int length, int physicalLength) const
+{
+    if (physicalLength <= kLargestWholeBlock)
+        return physicalLength;
+    const long long grown = m_nCapacity + m_nCapacity / 2LL + kDefaultGrowBy;
+    const long long wanted = grown > length ? grown : length;
+    const long long longest = std::numeric_limits<int>::max();
+    return static_cast<int>(wanted < longest ? wanted : longest);
 }
 
 // The logical length after `numMore` appends; lengths that 32 bits cannot hold are out of memory.
@@ -390,19 +443,10 @@ int VorArray<T, R, M>::lengthWith(int numMore) const
 template <class T, class R, class M>
 void VorArray<T, R, M>::makeRoomFor(int length)
 {
-    if (length > m_nPhysicalLength)
-        m_nPhysicalLength = blockLengthFor(length - 1);
-    if (length <= m_nCapacity)
-        return;
-    if (m_nPhysicalLength <= kLargestWholeBlock)
-    {
-        moveToCapacity(m_nPhysicalLength);
-        return;
-    }
-    const long long grown = m_nCapacity + m_nCapacity / 2LL + VorArray::kDefaultGrowBy;
-    const long long wanted = grown > length ? grown : length;
-    const long long longest = std::numeric_limits<int>::max();
-    moveToCapacity(static_cast<int>(wanted < longest ? wanted : longest));
+    const int physicalLength = physicalLengthWith(length - 1);
+    if (length > m_nCapacity)
+        moveToCapacity(capacityFor(length, physicalLength));
+    m_nPhysicalLength = physicalLength;
 }
 
 template <class T, class R, class M>
@@ -464,7 +508,7 @@ public:
     };
 
     VorStringHashMap() { m_buckets.setLogicalLength(kBucketCounts[0]); }
-    VorStringHashMap(const VorStringHashMap& other) : VorStringHashMap() { insertAll(other); }
+    VorStringHashMap(const VorStringHashMap& other);
     VorStringHashMap& operator=(const VorStringHashMap& other);
     ~VorStringHashMap() { removeAll(); }
 
@@ -489,24 +533,41 @@ private:
         50331653, 100663319, 201326611, 402653189, 805306457, 1610612741, 3221225473, 4294967291
     };
 
+    static Node* createNode(Node* pNext, const VorString& key, V value);
     static std::uint32_t hashOf(const VorString& key);
     int bucketOf(const VorString& key) const;
     Node* findInBucket(const VorString& key, int bucket) const;
     void growFor(int numElements);
-    void insertAll(const VorStringHashMap& other);
+    void takeNodesFrom(BucketArray& buckets);
     void removeAll();
 
     BucketArray m_buckets;
     int m_nCount = 0;
 };
 
+// Bucket by bucket, each chain in its order.
+template <class V>
+VorStringHashMap<V>::VorStringHashMap(const VorStringHashMap& other) : VorStringHashMap()
+{
+    m_buckets.setLogicalLength(other.bucketCount());
+    for (int i = 0; i < bucketCount(); ++i)
+    {
+        Node** ppLink = &m_buckets[i];
+        for (const Node* pNode = other.m_buckets[i]; pNode != nullptr; pNode = pNode->next)
+        {
+            *ppLink = createNode(nullptr, pNode->key, pNode->value);
+            ppLink = &(*ppLink)->next;
+        }
+    }
+    m_nCount = other.m_nCount;
+}
+
 template <class V>
 VorStringHashMap<V>& VorStringHashMap<V>::operator=(const VorStringHashMap& other)
 {
-    if (this == &other)
-        return *this;
-    removeAll();
-    insertAll(other);
+    VorStringHashMap copy(other);
+    std::swap(m_buckets, copy.m_buckets);
+    std::swap(m_nCount, copy.m_nCount);
     return *this;
 }
 
@@ -520,10 +581,15 @@ typename VorStringHashMap<V>::Node* VorStringHashMap<V>::findOrInsert(const VorS
     if (!inserted)
         return pNode;
     Node*& pHead = m_buckets[bucket];
-    void* pPlace = VorMemoryControllerController::allocateArray(1, sizeof(Node));
-    pHead = ::new (pPlace) Node{ pHead, key, value };
+    pHead = createNode(pHead, key, value);
     ++m_nCount;
     return pHead;
+}
+
+template <class V>
+typename VorStringHashMap<V>::Node* VorStringHashMap<V>::createNode(Node* pNext, const VorString& key, V value)
+{
+    return ::new (VorMemoryControllerController::allocateArray(1, sizeof(Node))) Node{ pNext, key, value };
 }
 
 // h = 5h + c over the key's characters, in unsigned 32-bit arithmetic.
@@ -563,9 +629,16 @@ void VorStringHashMap<V>::growFor(int numElements)
     if (*pCount > std::numeric_limits<int>::max())
         return;
 
-    BucketArray old(std::move(m_buckets));
-    m_buckets.setLogicalLength(static_cast<int>(*pCount));
-    for (Node* pNode : old)
+    BucketArray grown;
+    grown.setLogicalLength(static_cast<int>(*pCount));
+    std::swap(m_buckets, grown);
+    takeNodesFrom(grown);
+}
+
+template <class V>
+void VorStringHashMap<V>::takeNodesFrom(BucketArray& buckets)
+{
+    for (Node* pNode : buckets)
     {
         while (pNode != nullptr)
         {
@@ -576,15 +649,6 @@ void VorStringHashMap<V>::growFor(int numElements)
             pNode = pNext;
         }
     }
-}
-
-template <class V>
-void VorStringHashMap<V>::insertAll(const VorStringHashMap& other)
-{
-    bool inserted = false;
-    for (const Node* pNode : other.m_buckets)
-        for (; pNode != nullptr; pNode = pNode->next)
-            findOrInsert(pNode->key, pNode->value, inserted);
 }
 
 template <class V>

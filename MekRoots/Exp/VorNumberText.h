@@ -46,8 +46,8 @@ enum eScanResult
 MEK_ROOTS_API double scanDouble(const wchar_t* text, const wchar_t*& end, int decimalComma);
 
 // Reads a single-precision number from [text, textEnd) as the GNU C library's swscanf does with "%f": as scanDouble,
-// but a text that stops inside "0x...", "inf..." or "nan" is no number, "infinity" must be whole once it goes past
-// "inf", an incomplete exponent is dropped, and the result says whether the text ended before anything was met. A zero
-// character ends the text. `value` is written for kNumber only.
+// but a text that stops inside "0x...", "inf..." or "nan" is no number ("0x." alone reads as 0), "infinity" must be
+// whole once it goes past "inf", an incomplete exponent is dropped, and the result says whether the text ended before
+// anything was met. A zero character ends the text. `value` is written for kNumber only.
 MEK_ROOTS_API eScanResult scanFloat(const wchar_t* text, const wchar_t* textEnd, float& value);
 }

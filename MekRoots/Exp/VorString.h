@@ -67,12 +67,13 @@ public:
     void empty();
 
     // Replaces the text by what printf gives for `pattern` in the C locale: flags, width and precision (both may be
-    // '*'), the conversions d i u x X o c s f F e E g G % and the length marks h l ll z j t. "%s" takes wide text
-    // (null shows as "(null)"). Anything else after '%' is copied as it stands. The arguments may refer to this text.
+    // '*', and stop at 1,000,000), the conversions d i u x X o c s f F e E g G % and the length marks h hh l ll z j t.
+    // "%c" takes a wide character, "%s" wide text (null shows as "(null)"). Anything else after '%' is copied as it
+    // stands. A null pattern gives the empty text. The arguments may refer to this text.
     void format(const wchar_t* pattern, ...);
 
     // Position of the first `text` at or after `start`; -1 when there is none or `start` is past the end. A negative
-    // start counts as 0. The empty text is found at `start`.
+    // start counts as 0. The empty text, which a null pointer stands for as well, is found at `start`.
     int find(const VorString& text, int start) const;
     int find(const wchar_t* text, int start) const;
 
@@ -117,7 +118,7 @@ public:
     static int strCompareNoCase(const void* pFirst, const void* pSecond);
 
     // Replaces `pieces` by the parts of `text` between runs of the characters of `delimiters`; there are no empty
-    // parts. "a  b+c" at " +" gives "a", "b", "c".
+    // parts. "a  b+c" at " +" gives "a", "b", "c". `text` and `delimiters` may be elements of `pieces`.
     static void getTokens(const VorString& text, VorStringArray& pieces, const VorString& delimiters);
 
 private:

@@ -12,6 +12,8 @@
 #include "MekExport.h"
 #include "VorUnitsTransformArray.h"
 
+#include <array>
+
 class MEK_UNITS_API VorUnitsManager
 {
 public:
@@ -40,5 +42,5 @@ private:
 
     static int indexOf(VorUnitsTransformArray::eSystems system);
 
-    MEKUnit m_units[kNumSystems]; // in the order of the constructor
+    std::array<MEKUnit, kNumSystems> m_units; // in the order of the constructor
 };

@@ -9,38 +9,31 @@ namespace
 {
 std::atomic<DebugOutputSink> s_sink{ nullptr };
 
+// What no text may hold becomes the replacement character.
+unsigned long validCharacter(wchar_t character)
+{
+    const auto value = static_cast<unsigned long>(character);
+    const bool isSurrogate = value >= 0xD800 && value <= 0xDFFF;
+    return value > 0x10FFFF || isSurrogate ? 0xFFFD : value;
+}
+
 void appendUtf8(std::string& bytes, unsigned long character)
 {
-    const auto addTrail = [&](int shift) { bytes += static_cast<char>(0x80 | ((character >> shift) & 0x3F)); };
-    if (character < 0x80)
-    {
-        bytes += static_cast<char>(character);
-    }
-    else if (character < 0x800)
-    {
-        bytes += static_cast<char>(0xC0 | (character >> 6));
-        addTrail(0);
-    }
-    else if (character < 0x10000)
-    {
-        bytes += static_cast<char>(0xE0 | (character >> 12));
-        addTrail(6);
-        addTrail(0);
-    }
-    else
-    {
-        bytes += static_cast<char>(0xF0 | ((character >> 18) & 0x07));
-        addTrail(12);
-        addTrail(6);
-        addTrail(0);
-    }
+    const auto add = [&bytes](unsigned long byte) { bytes += static_cast<char>(static_cast<unsigned char>(byte)); };
+    const auto addTrail = [&](int shift) { add(0x80 | ((character >> shift) & 0x3F)); };
+    const int numTrails = character < 0x80 ? 0 : (character < 0x800 ? 1 : (character < 0x10000 ? 2 : 3));
+    const unsigned long leads[] = { 0, 0xC0, 0xE0, 0xF0 };
+
+    add(leads[numTrails] | (character >> (6 * numTrails)));
+    for (int i = numTrails - 1; i >= 0; --i)
+        addTrail(6 * i);
 }
 
 void writeToStandardError(const wchar_t* text)
 {
     std::string bytes;
     for (; *text != L'\0'; ++text)
-        appendUtf8(bytes, static_cast<unsigned long>(*text));
+        appendUtf8(bytes, validCharacter(*text));
     std::fwrite(bytes.data(), 1, bytes.size(), stderr);
 }
 }

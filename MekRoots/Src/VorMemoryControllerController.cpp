@@ -1,9 +1,9 @@
 // A block's life, for 40 bytes asked for on thread A and given back on thread B:
-//   A takes the head of its free list for 40-byte blocks; when that is empty, the list that a finished thread left; when
-//   there is none, the next 40 bytes of its current chunk. B puts the block at the head of its own list. When B ends, its
-//   lists and the unused rest of its chunk go to the shared lists; what B's last thread-local objects still free then
-//   goes there at once. Chunks are never returned to the system: a process that made one report is about to make the
-//   next.
+//   A takes the head of its free list for 40-byte blocks; when that is empty, the next 40 bytes of its current chunk; when
+//   that is used up, a batch of the blocks that other threads have handed over, and only then a new chunk. B puts the
+//   block at the head of its own list, and hands a batch over when the list has grown to two. When B ends, its lists and
+//   the unused rest of its chunk are handed over too; what B's last thread-local objects still free then goes there at
+//   once. Chunks are never returned to the system: a process that made one report is about to make the next.
 #include "VorMemoryControllerController.h"
 
 #include <array>
@@ -13,7 +13,6 @@
 #include <limits>
 #include <mutex>
 #include <new>
-#include <utility>
 
 #if defined(__SANITIZE_ADDRESS__)
 #define MEK_BYPASS_POOL
@@ -25,10 +24,17 @@
 
 namespace
 {
+#if defined(MEK_BYPASS_POOL)
+constexpr bool kUsesPool = false;
+#else
+constexpr bool kUsesPool = true;
+#endif
+
 constexpr std::size_t kClassWidth = 8; // multiples of 16 keep 16-byte alignment, since a class is carved aligned to it
 constexpr std::size_t kNumClasses = VorMemoryControllerController::kLargestPooledBlock / kClassWidth + 1;
-// Arbitrary; large against a block, small against a report.
-[[maybe_unused]] constexpr std::size_t kChunkSize = 256 * 1024;
+constexpr std::size_t kChunkSize = 256 * 1024; // arbitrary; large against a block, small against a report
+constexpr std::size_t kBatchSize =
+    64 * 1024; // bytes of one class handed over at once; arbitrary, fits the inner caches
 
 struct FreeBlock
 {
@@ -46,6 +52,7 @@ struct UnusedPiece
 struct ThreadPool
 {
     std::array<FreeBlock*, kNumClasses> freeLists;
+    std::array<std::size_t, kNumClasses> freeSizes; // bytes in each list
     char* pUnused;
     std::size_t unusedSize;
     std::atomic<long long> numLive; // written by its thread alone, read by all
@@ -78,16 +85,21 @@ void addLive(ThreadPool& pool, long long change)
     pool.numLive.store(pool.numLive.load(std::memory_order_relaxed) + change, std::memory_order_relaxed);
 }
 
-void handOver(FreeBlock*& pTarget, FreeBlock*& pList)
+// Moves blocks of `blockSize` bytes each from the front of `pSource` to that of `pTarget`, until `size` bytes or all that
+// there are have gone. Returns the bytes moved.
+std::size_t moveBlocks(FreeBlock*& pTarget, FreeBlock*& pSource, std::size_t blockSize, std::size_t size)
 {
-    if (pList == nullptr)
-        return;
-    FreeBlock* pLast = pList;
-    while (pLast->pNext != nullptr)
+    if (pSource == nullptr)
+        return 0;
+    FreeBlock* pFirst = pSource;
+    FreeBlock* pLast = pFirst;
+    std::size_t moved = blockSize;
+    for (; moved < size && pLast->pNext != nullptr; moved += blockSize)
         pLast = pLast->pNext;
+    pSource = pLast->pNext;
     pLast->pNext = pTarget;
-    pTarget = pList;
-    pList = nullptr;
+    pTarget = pFirst;
+    return moved;
 }
 
 void removeFromList(ThreadPool*& pHead, ThreadPool& pool)
@@ -104,7 +116,8 @@ void retire(ThreadPool& pool)
     SharedPool& shared = theSharedPool();
     const std::lock_guard<std::mutex> lock(shared.mutex);
     for (std::size_t i = 0; i < kNumClasses; ++i)
-        handOver(shared.freeLists[i], pool.freeLists[i]);
+        moveBlocks(shared.freeLists[i], pool.freeLists[i], i * kClassWidth, pool.freeSizes[i]);
+    pool.freeSizes.fill(0);
     if (pool.unusedSize >= sizeof(UnusedPiece))
         shared.pUnusedPieces = ::new (pool.pUnused) UnusedPiece{ shared.pUnusedPieces, pool.unusedSize };
     pool.pUnused = nullptr;
@@ -148,32 +161,29 @@ void* allocateFromSystem(std::size_t size)
     return pBlock;
 }
 
+bool isPooled(std::size_t size)
+{
+    return kUsesPool && size <= VorMemoryControllerController::kLargestPooledBlock;
+}
+
 std::size_t classOf(std::size_t size)
 {
     return (size + kClassWidth - 1) / kClassWidth;
 }
 
-#if defined(MEK_BYPASS_POOL)
-void* allocateSmall(ThreadPool&, std::size_t sizeClass)
+void push(ThreadPool& pool, void* pBlock, std::size_t sizeClass)
 {
-    return allocateFromSystem(sizeClass * kClassWidth);
+    pool.freeLists[sizeClass] = ::new (pBlock) FreeBlock{ pool.freeLists[sizeClass] };
+    pool.freeSizes[sizeClass] += sizeClass * kClassWidth;
 }
 
-void freeSmall(ThreadPool&, void* pBlock, std::size_t)
+void* pop(ThreadPool& pool, std::size_t sizeClass)
 {
-    std::free(pBlock);
-}
-#else
-void push(FreeBlock*& pList, void* pBlock)
-{
-    pList = ::new (pBlock) FreeBlock{ pList };
-}
-
-void* pop(FreeBlock*& pList)
-{
-    FreeBlock* pBlock = pList;
-    if (pBlock != nullptr)
-        pList = pBlock->pNext;
+    FreeBlock* pBlock = pool.freeLists[sizeClass];
+    if (pBlock == nullptr)
+        return nullptr;
+    pool.freeLists[sizeClass] = pBlock->pNext;
+    pool.freeSizes[sizeClass] -= sizeClass * kClassWidth;
     return pBlock;
 }
 
@@ -190,7 +200,7 @@ void* cut(ThreadPool& pool, std::size_t size)
 void alignUnused(ThreadPool& pool)
 {
     if (pool.unusedSize >= kClassWidth && reinterpret_cast<std::uintptr_t>(pool.pUnused) % 16 != 0)
-        push(pool.freeLists[1], cut(pool, kClassWidth));
+        push(pool, cut(pool, kClassWidth), 1);
 }
 
 void* carve(ThreadPool& pool, std::size_t size)
@@ -205,7 +215,7 @@ void takeNextPiece(ThreadPool& pool)
 {
     alignUnused(pool);
     if (const std::size_t sizeClass = pool.unusedSize / kClassWidth)
-        push(pool.freeLists[sizeClass], cut(pool, sizeClass * kClassWidth));
+        push(pool, cut(pool, sizeClass * kClassWidth), sizeClass);
 
     SharedPool& shared = theSharedPool();
     const std::lock_guard<std::mutex> lock(shared.mutex);
@@ -223,21 +233,31 @@ void takeNextPiece(ThreadPool& pool)
     pool.unusedSize = kChunkSize - kHeadSize;
 }
 
-void takeSharedList(ThreadPool& pool, std::size_t sizeClass)
+void takeBatch(ThreadPool& pool, std::size_t sizeClass)
 {
     SharedPool& shared = theSharedPool();
     const std::lock_guard<std::mutex> lock(shared.mutex);
-    std::swap(pool.freeLists[sizeClass], shared.freeLists[sizeClass]);
+    pool.freeSizes[sizeClass] +=
+        moveBlocks(pool.freeLists[sizeClass], shared.freeLists[sizeClass], sizeClass * kClassWidth, kBatchSize);
+}
+
+// Without this a thread that frees what another allocates would keep it all, and memory would grow for ever.
+void handOverBatch(ThreadPool& pool, std::size_t sizeClass)
+{
+    SharedPool& shared = theSharedPool();
+    const std::lock_guard<std::mutex> lock(shared.mutex);
+    pool.freeSizes[sizeClass] -=
+        moveBlocks(shared.freeLists[sizeClass], pool.freeLists[sizeClass], sizeClass * kClassWidth, kBatchSize);
 }
 
 void* allocateSmall(ThreadPool& pool, std::size_t sizeClass)
 {
-    if (void* pBlock = pop(pool.freeLists[sizeClass]))
+    if (void* pBlock = pop(pool, sizeClass))
         return pBlock;
     if (void* pBlock = carve(pool, sizeClass * kClassWidth))
         return pBlock;
-    takeSharedList(pool, sizeClass);
-    if (void* pBlock = pop(pool.freeLists[sizeClass]))
+    takeBatch(pool, sizeClass);
+    if (void* pBlock = pop(pool, sizeClass))
         return pBlock;
     for (;;)
     {
@@ -249,9 +269,10 @@ void* allocateSmall(ThreadPool& pool, std::size_t sizeClass)
 
 void freeSmall(ThreadPool& pool, void* pBlock, std::size_t sizeClass)
 {
-    push(pool.freeLists[sizeClass], pBlock);
+    push(pool, pBlock, sizeClass);
+    if (pool.freeSizes[sizeClass] > 2 * kBatchSize)
+        handOverBatch(pool, sizeClass);
 }
-#endif
 
 // After its retirement a thread has no pool: each call enlists it anew and retires it at once.
 class PoolOfThisThread
@@ -285,7 +306,7 @@ void* VorMemoryControllerController::allocateArray(std::size_t numElements, std:
         throw std::bad_alloc();
     const std::size_t size = numElements * elementSize;
     PoolOfThisThread pool;
-    void* pBlock = size <= kLargestPooledBlock ? allocateSmall(*pool, classOf(size)) : allocateFromSystem(size);
+    void* pBlock = isPooled(size) ? allocateSmall(*pool, classOf(size)) : allocateFromSystem(size);
     addLive(*pool, 1);
     return pBlock;
 }
@@ -296,7 +317,7 @@ void VorMemoryControllerController::deallocateArray(void* pBlock, std::size_t nu
         return;
     const std::size_t size = numElements * elementSize;
     PoolOfThisThread pool;
-    if (size <= kLargestPooledBlock)
+    if (isPooled(size))
         freeSmall(*pool, pBlock, classOf(size));
     else
         std::free(pBlock);

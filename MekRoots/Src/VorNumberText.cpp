@@ -3,10 +3,12 @@
 //   L" -0x1.8p3mm"  ->  negative, hexadecimal, "1.8p3", end at "mm"  ->  -12.0
 #include "VorNumberText.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
 #include <string>
+#include <system_error>
 
 namespace
 {
@@ -198,7 +200,7 @@ bool scanUnsignedDouble(Reader& reader, bool decimalComma, double& value)
 }
 
 // What stream scanning reads differently: it never goes back more than one character, so a text that starts like
-// "infinity" or "0x" and breaks off is no number at all.
+// "infinity" or "0x" and breaks off is no number at all. Only "0x." has gone far enough to be the number 0.
 bool scanUnsignedFloat(Reader& reader, float& value)
 {
     if (reader.skipWord("inf"))
@@ -212,7 +214,7 @@ bool scanUnsignedFloat(Reader& reader, float& value)
         return true;
     }
     Reader prefix = reader;
-    if (prefix.skipWord("0x") && !isHexDigit(prefix.peek()) && !(prefix.peek() == L'.' && isHexDigit(prefix.peek(1))))
+    if (prefix.skipWord("0x") && !isHexDigit(prefix.peek()) && prefix.peek() != L'.')
         return false;
     return scanDigits(reader, false, value);
 }

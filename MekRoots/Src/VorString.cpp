@@ -7,6 +7,7 @@
 #include <functional>
 #include <limits>
 #include <new>
+#include <utility>
 
 namespace
 {
@@ -29,6 +30,18 @@ template <class Number>
 int sign(Number a, Number b)
 {
     return a < b ? -1 : (b < a ? 1 : 0);
+}
+
+// Position of the first [pWanted, pWanted + wantedLength) in `text` at or after `start`, or -1.
+int findCharacters(const VorString& text, const wchar_t* pWanted, int wantedLength, int start)
+{
+    start = std::max(start, 0);
+    if (start > text.length())
+        return -1;
+    const wchar_t* pFirst = text.getStringW();
+    const wchar_t* pEnd = pFirst + text.length();
+    const wchar_t* pFound = std::search(pFirst + start, pEnd, pWanted, pWanted + wantedLength);
+    return pFound == pEnd && wantedLength > 0 ? -1 : static_cast<int>(pFound - pFirst);
 }
 
 int compareCharacters(const wchar_t* pFirst, int firstLength, const wchar_t* pSecond, int secondLength)
@@ -80,11 +93,7 @@ int textLength(const wchar_t* text)
 VorString::Block* VorString::createBlock(int capacity)
 {
     const std::size_t size = sizeof(Block) + (static_cast<std::size_t>(capacity) + 1) * sizeof(wchar_t);
-    Block* pBlock = static_cast<Block*>(VorMemoryControllerController::allocateArray(size, 1));
-    ::new (&pBlock->numUsers) std::atomic<int>(1);
-    pBlock->length = 0;
-    pBlock->capacity = capacity;
-    return pBlock;
+    return ::new (VorMemoryControllerController::allocateArray(size, 1)) Block{ { 1 }, 0, capacity };
 }
 
 void VorString::destroyBlock(Block* pBlock)
@@ -109,19 +118,12 @@ void VorString::empty()
 
 int VorString::find(const VorString& text, int start) const
 {
-    start = std::max(start, 0);
-    if (start > length())
-        return -1;
-    const wchar_t* pFirst = getStringW();
-    const wchar_t* pEnd = pFirst + length();
-    const wchar_t* pWanted = text.getStringW();
-    const wchar_t* pFound = std::search(pFirst + start, pEnd, pWanted, pWanted + text.length());
-    return pFound == pEnd && !text.isEmpty() ? -1 : static_cast<int>(pFound - pFirst);
+    return findCharacters(*this, text.getStringW(), text.length(), start);
 }
 
 int VorString::find(const wchar_t* text, int start) const
 {
-    return find(VorString(text), start);
+    return findCharacters(*this, text == nullptr ? L"" : text, textLength(text), start);
 }
 
 VorString VorString::left(int n) const
@@ -263,6 +265,8 @@ int VorString::compare(const VorString& a, const VorString& b, int n)
 
 int VorString::compareWithNumbers(const VorString& a, const VorString& b)
 {
+    if (a.sharesTextWith(b))
+        return 0;
     const wchar_t* pFirst = a.getStringW();
     const wchar_t* pSecond = b.getStringW();
     const wchar_t* pFirstEnd = pFirst + a.length();
@@ -308,11 +312,12 @@ int VorString::strCompareNoCase(const void* pFirst, const void* pSecond)
 
 void VorString::getTokens(const VorString& text, VorStringArray& pieces, const VorString& delimiters)
 {
-    const wchar_t* pDelimiters = delimiters.getStringW();
-    const wchar_t* pDelimitersEnd = pDelimiters + delimiters.length();
+    const VorString source = text; // this and the delimiters may be elements of the pieces
+    const VorString divides = delimiters;
+    const wchar_t* pDelimiters = divides.getStringW();
+    const wchar_t* pDelimitersEnd = pDelimiters + divides.length();
     const auto isDelimiter = [=](wchar_t c) { return std::find(pDelimiters, pDelimitersEnd, c) != pDelimitersEnd; };
 
-    const VorString source = text; // `text` may be one of the pieces
     pieces.empty();
     const wchar_t* pCharacter = source.getStringW();
     const wchar_t* pEnd = pCharacter + source.length();

@@ -9,7 +9,9 @@
 #include <cstdarg>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <string>
+#include <utility>
 
 namespace
 {
@@ -85,7 +87,7 @@ class DirectiveReader
 public:
     DirectiveReader(const wchar_t* text, Arguments& arguments) : m_pText(text), m_arguments(arguments) {}
 
-    // The position after the directive, or null when the pattern ends within it.
+    // The position after the directive. When the pattern ends within it, its conversion is the zero character.
     const wchar_t* read(Directive& directive)
     {
         while (readFlag(directive))
@@ -94,7 +96,7 @@ public:
         readPrecision(directive);
         readSize(directive);
         directive.conversion = *m_pText;
-        return *m_pText == L'\0' ? nullptr : m_pText + 1;
+        return *m_pText == L'\0' ? m_pText : m_pText + 1;
     }
 
 private:
@@ -163,12 +165,12 @@ private:
     Arguments& m_arguments;
 };
 
-void appendPadded(VorString& out, const Directive& directive, const VorString& text)
+void appendPadded(VorString& out, const Directive& directive, const wchar_t* text, int length)
 {
-    const int padding = directive.width - text.length();
+    const int padding = directive.width - length;
     if (!directive.isLeftAligned)
         out.append(L' ', padding);
-    out += text;
+    out.append(text, length);
     if (directive.isLeftAligned)
         out.append(L' ', padding);
 }
@@ -177,14 +179,13 @@ void appendPadded(VorString& out, const Directive& directive, const VorString& t
 void appendNumber(VorString& out, const Directive& directive, const std::string& mark, const std::string& digits,
                   bool mayPadWithZeros)
 {
-    VorString text;
-    for (const char c : mark)
-        text += static_cast<wchar_t>(c);
-    if (directive.isZeroPadded && !directive.isLeftAligned && mayPadWithZeros)
-        text.append(L'0', directive.width - static_cast<int>(mark.size() + digits.size()));
-    for (const char c : digits)
-        text += static_cast<wchar_t>(c);
-    appendPadded(out, directive, text);
+    const std::size_t length = mark.size() + digits.size();
+    const auto width = static_cast<std::size_t>(directive.width);
+    std::wstring text(mark.begin(), mark.end());
+    if (directive.isZeroPadded && !directive.isLeftAligned && mayPadWithZeros && length < width)
+        text.append(width - length, L'0');
+    text.append(digits.begin(), digits.end());
+    appendPadded(out, directive, text.data(), static_cast<int>(text.size()));
 }
 
 std::string signMark(const Directive& directive, bool isNegative)
@@ -202,11 +203,11 @@ void makeUpperCase(std::string& text)
 // The digits of an integer, at least `precision` of them; none at all for 0 with precision 0.
 std::string integerDigits(unsigned long long value, int base, int precision)
 {
-    char buffer[64];
+    char buffer[64]; // enough for base 2
     std::string digits(buffer, std::to_chars(buffer, buffer + sizeof buffer, value, base).ptr);
     if (value == 0 && precision == 0)
         digits.clear();
-    const std::size_t wanted = static_cast<std::size_t>(std::max(precision, 0));
+    const auto wanted = static_cast<std::size_t>(std::max(precision, 0));
     return digits.size() < wanted ? std::string(wanted - digits.size(), '0') + digits : digits;
 }
 
@@ -233,24 +234,57 @@ void appendUnsigned(VorString& out, const Directive& directive, unsigned long lo
     appendNumber(out, directive, mark, digits, directive.precision < 0);
 }
 
-std::string floatDigits(const Directive& directive, double magnitude)
+std::string floatDigits(double magnitude, std::chars_format format, int precision)
 {
-    const int precision = directive.precision < 0 ? 6 : directive.precision;
-    std::chars_format format = std::chars_format::general;
-    if (directive.conversion == L'f' || directive.conversion == L'F')
-        format = std::chars_format::fixed;
-    else if (directive.conversion == L'e' || directive.conversion == L'E')
-        format = std::chars_format::scientific;
-    const std::size_t room = static_cast<std::size_t>(VorNumberText::kLargestDouble + 10 + precision);
+    const auto room = static_cast<std::size_t>(VorNumberText::kLargestDouble + 10 + precision);
     std::string digits(room, '\0');
     const auto result = std::to_chars(digits.data(), digits.data() + room, magnitude, format, precision);
     digits.resize(static_cast<std::size_t>(result.ptr - digits.data()));
     return digits;
 }
 
+// "%#g": all significant digits, trailing zeros too.
+std::string generalDigitsWithZeros(double magnitude, int precision)
+{
+    const int numDigits = std::max(precision, 1);
+    const std::string scientific = floatDigits(magnitude, std::chars_format::scientific, numDigits - 1);
+    const int exponent = std::atoi(scientific.c_str() + scientific.find('e') + 1);
+    if (exponent < -4 || exponent >= numDigits)
+        return scientific;
+    return floatDigits(magnitude, std::chars_format::fixed, numDigits - 1 - exponent);
+}
+
+// The alternate form has a point even when no digit follows it.
+void ensurePoint(std::string& digits)
+{
+    if (digits.find('.') == std::string::npos)
+        digits.insert(std::min(digits.find('e'), digits.size()), 1, '.');
+}
+
+std::string directiveDigits(const Directive& directive, double magnitude)
+{
+    const int precision = directive.precision < 0 ? 6 : directive.precision;
+    const bool isAlternate = directive.isAlternate && std::isfinite(magnitude);
+    std::string digits;
+    switch (directive.conversion)
+    {
+        case L'f':
+        case L'F': digits = floatDigits(magnitude, std::chars_format::fixed, precision); break;
+        case L'e':
+        case L'E': digits = floatDigits(magnitude, std::chars_format::scientific, precision); break;
+        default:
+            digits = isAlternate ? generalDigitsWithZeros(magnitude, precision)
+                                 : floatDigits(magnitude, std::chars_format::general, precision);
+            break;
+    }
+    if (isAlternate)
+        ensurePoint(digits);
+    return digits;
+}
+
 void appendFloat(VorString& out, const Directive& directive, double value)
 {
-    std::string digits = floatDigits(directive, std::fabs(value));
+    std::string digits = directiveDigits(directive, std::fabs(value));
     if (directive.conversion == L'F' || directive.conversion == L'E' || directive.conversion == L'G')
         makeUpperCase(digits);
     appendNumber(out, directive, signMark(directive, std::signbit(value)), digits, std::isfinite(value));
@@ -262,7 +296,7 @@ void appendText(VorString& out, const Directive& directive, const wchar_t* text)
     int length = 0;
     while ((directive.precision < 0 || length < directive.precision) && pFirst[length] != L'\0')
         ++length;
-    appendPadded(out, directive, VorString(pFirst, length));
+    appendPadded(out, directive, pFirst, length);
 }
 
 // False when the conversion is unknown; nothing is appended then.
@@ -285,39 +319,46 @@ bool appendConverted(VorString& out, const Directive& directive, Arguments& argu
         case L's': appendText(out, directive, arguments.takeText()); return true;
         case L'c':
         {
-            const wchar_t character = static_cast<wchar_t>(arguments.takeInt());
-            appendPadded(out, directive, VorString(&character, 1));
+            const auto character = static_cast<wchar_t>(arguments.takeInt());
+            appendPadded(out, directive, &character, 1);
             return true;
         }
         case L'%': out += L'%'; return true;
         default: return false;
     }
 }
+
+// Appends what the directive at `pDirective`, which points to its '%', gives; returns the position after it.
+const wchar_t* appendDirective(VorString& out, const wchar_t* pDirective, Arguments& arguments)
+{
+    Directive directive;
+    const wchar_t* pEnd = DirectiveReader(pDirective + 1, arguments).read(directive);
+    if (!appendConverted(out, directive, arguments))
+        out.append(pDirective, static_cast<int>(pEnd - pDirective));
+    return pEnd;
+}
+
+void appendFormatted(VorString& out, const wchar_t* pattern, Arguments& arguments)
+{
+    while (*pattern != L'\0')
+    {
+        const wchar_t* pDirective = pattern;
+        while (*pDirective != L'\0' && *pDirective != L'%')
+            ++pDirective;
+        out.append(pattern, static_cast<int>(pDirective - pattern));
+        pattern = *pDirective == L'\0' ? pDirective : appendDirective(out, pDirective, arguments);
+    }
+}
 }
 
 void VorString::format(const wchar_t* pattern, ...)
 {
-    VorString formatted; // apart, since the arguments may be characters of this text
+    VorString formatted; // apart, since the pattern and the arguments may be characters of this text
     std::va_list list;
     va_start(list, pattern);
-    {
-        Arguments arguments(list);
-        while (pattern != nullptr && *pattern != L'\0')
-        {
-            const wchar_t* pDirective = pattern;
-            while (*pDirective != L'\0' && *pDirective != L'%')
-                ++pDirective;
-            formatted.append(pattern, static_cast<int>(pDirective - pattern));
-            pattern = pDirective;
-            if (*pDirective == L'\0')
-                break;
-            Directive directive;
-            const wchar_t* pEnd = DirectiveReader(pDirective + 1, arguments).read(directive);
-            pattern = pEnd == nullptr ? pDirective + std::wcslen(pDirective) : pEnd;
-            if (pEnd == nullptr || !appendConverted(formatted, directive, arguments))
-                formatted.append(pDirective, static_cast<int>(pattern - pDirective));
-        }
-    }
+    Arguments arguments(list);
+    if (pattern != nullptr)
+        appendFormatted(formatted, pattern, arguments);
     va_end(list);
     *this = std::move(formatted);
 }

@@ -90,6 +90,17 @@ TEST(DebugOutputTest, WithoutASinkTheTextGoesToStandardErrorInUtf8)
     EXPECT_EQ("\xF0\x90\x80\x80|\xF4\x8F\xBF\xBF", onStandardError(L"\U00010000|\U0010FFFF"));
 }
 
+TEST(DebugOutputTest, WhatIsNoCharacterIsReplaced)
+{
+    const wchar_t text[] = { 0xD800, L'a', 0xDFFF, 0xE000, 0 };
+    EXPECT_EQ("\xEF\xBF\xBD"
+              "a\xEF\xBF\xBD\xEE\x80\x80",
+              onStandardError(text));
+
+    const wchar_t beyond[] = { 0x110000, static_cast<wchar_t>(-1), 0 };
+    EXPECT_EQ("\xEF\xBF\xBD\xEF\xBF\xBD", onStandardError(beyond));
+}
+
 TEST(DebugOutputTest, ALongTextIsWrittenWhole)
 {
     const std::wstring text(100000, L'x');

@@ -161,19 +161,11 @@ TEST(VorArrayLengthTest, TheBoundaryOfThreeQuartersIsExact)
         int wanted;
         int expected;
     } cases[] = {
-        { 8, 8, 8 },
-        { 8, 7, 8 },
-        { 8, 6, 6 },                      // 0.75 itself is not above it
-        { 8, 9, 9 },                      // not a multiple of the block: exactly what was asked for
-        { 1000, 751, 1000 }, { 1000, 750, 750 },
-        { 1001, 751, 1001 }, { 1001, 750, 750 }, // 750.75
-        { 1, 1, 1 },
-        { 2, 1, 1 },
-        { 4, 3, 3 },
-        { 5, 4, 5 },
-        { 0, 1, 1 },
-        { 0, 0, 0 },
-        { 8, 0, 0 },
+        { 8, 8, 8 },         { 8, 7, 8 },        { 8, 6, 6 }, // 0.75 itself is not above it
+        { 8, 9, 9 },                                          // not a multiple of the block: exactly what was asked for
+        { 1000, 751, 1000 }, { 1000, 750, 750 }, { 1001, 751, 1001 }, { 1001, 750, 750 }, // 750.75
+        { 1, 1, 1 },         { 2, 1, 1 },        { 4, 3, 3 },         { 5, 4, 5 },
+        { 0, 1, 1 },         { 0, 0, 0 },        { 8, 0, 0 },
     };
     for (const auto& c : cases)
     {

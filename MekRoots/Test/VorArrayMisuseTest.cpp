@@ -230,6 +230,7 @@ TEST(VorArrayMisuseTest, OrdinaryUseReportsNothing)
 
 TEST(VorArrayMisuseTest, FallbackElementsOfUnlikeTypesAreApart)
 {
+    const AssertLog log;
     VorArray<int> ints;
     VorArray<unsigned> counts;
 
@@ -240,6 +241,41 @@ TEST(VorArrayMisuseTest, FallbackElementsOfUnlikeTypesAreApart)
 
     EXPECT_EQ(5, first);
     EXPECT_EQ(6U, second);
+}
+
+namespace
+{
+// Misuses an array when its thread ends, after the fallback element of the thread has ended.
+struct MisuseAtEndOfThread
+{
+    ~MisuseAtEndOfThread()
+    {
+        array[0] = array[5];
+        s_wasDefault = array[3] == VorString() && array.first() == VorString();
+    }
+
+    VorStringArray array;
+    static bool s_wasDefault;
+};
+bool MisuseAtEndOfThread::s_wasDefault = false;
+thread_local MisuseAtEndOfThread t_misuse;
+}
+
+TEST(VorArrayMisuseThreadTest, MisuseIsSurvivedWhileTheThreadEnds)
+{
+    const LeakCheck leaks;
+    const AssertLog log;
+
+    std::thread(
+        []
+        {
+            t_misuse.array.setGrowBy(4);            // begins its life first, so it ends last
+            t_misuse.array[7] = VorString(L"lost"); // the element goes with its thread
+        })
+        .join();
+
+    EXPECT_TRUE(MisuseAtEndOfThread::s_wasDefault);
+    EXPECT_EQ(1 + 3, log.count(L"isValid( index )", kPath, 516));
 }
 
 TEST(VorArrayMisuseThreadTest, EveryThreadHasFallbackElementsOfItsOwn)

@@ -115,7 +115,7 @@ TEST(VorMemoryControllerControllerThreadTest, WhatOtherThreadsFreedAndEndedWithC
         seen.insert(blocks.begin(), blocks.end());
         std::thread([&blocks] { releaseAll(blocks); }).join();
     }
-    EXPECT_LE(seen.size(), 6000U);
+    EXPECT_LE(seen.size(), 20000U); // the chunk begun on this thread is used up first; 100,000 if nothing came back
 }
 
 TEST(VorMemoryControllerControllerThreadTest, AThreadThatOnlyFreesFeedsOneThatOnlyAllocates)

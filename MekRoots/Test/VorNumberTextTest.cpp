@@ -22,7 +22,6 @@ namespace
 {
 const wchar_t kUntouched = L'#';
 
-
 std::string narrow(const wchar_t* text, std::size_t length)
 {
     std::string result;
@@ -94,10 +93,43 @@ double randomDouble(std::mt19937_64& random)
 }
 
 const double kSpecialDoubles[] = {
-    0.0, -0.0, 1.0, 0.5, 1.5, 2.5, 3.5, 0.125, 0.375, 9.5, 99.5, 0.95, 999999.5, 999999.4999999999, 9999995.0, 100000.0,
-    1000000.0, 0.0001, 0.00001, 0.00009999995, 123456.5, 123457.5, 1e15, 1e16, 1e17, 9007199254740993.0, 1e21, 1e22,
-    1e23, DBL_MAX, DBL_MIN, DBL_EPSILON, 5e-324, 2.2250738585072011e-308, std::numeric_limits<double>::infinity(),
-    -std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN(),
+    0.0,
+    -0.0,
+    1.0,
+    0.5,
+    1.5,
+    2.5,
+    3.5,
+    0.125,
+    0.375,
+    9.5,
+    99.5,
+    0.95,
+    999999.5,
+    999999.4999999999,
+    9999995.0,
+    100000.0,
+    1000000.0,
+    0.0001,
+    0.00001,
+    0.00009999995,
+    123456.5,
+    123457.5,
+    1e15,
+    1e16,
+    1e17,
+    9007199254740993.0,
+    1e21,
+    1e22,
+    1e23,
+    DBL_MAX,
+    DBL_MIN,
+    DBL_EPSILON,
+    5e-324,
+    2.2250738585072011e-308,
+    std::numeric_limits<double>::infinity(),
+    -std::numeric_limits<double>::infinity(),
+    std::numeric_limits<double>::quiet_NaN(),
     -std::numeric_limits<double>::quiet_NaN(),
 };
 }

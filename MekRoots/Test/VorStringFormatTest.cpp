@@ -63,10 +63,11 @@ const double kInfinity = std::numeric_limits<double>::infinity();
 const double kNan = std::numeric_limits<double>::quiet_NaN();
 
 const std::vector<double> kDoubles = {
-    0.0,       -0.0,      1.0,        -1.0,      0.5,        1.5,      2.5,      0.05,   0.15,      -0.25,
-    0.125,     9.5,       9.95,       99.9999,   999999.5,   1e5,      1e6,      123456, 1234567,   1e-4,
-    1e-5,      12345e-10, 1.0 / 3,    2e15,      1e22,       1e23,     1e100,    -1e-99, DBL_MAX,   DBL_MIN,
-    5e-324,    -5e-324,   4503599627370497.5,    kInfinity,  -kInfinity, kNan,   -kNan,  7.8125e-3, 1e-300,
+    0.0,       -0.0,       1.0,    -1.0,    0.5,       1.5,     2.5,     0.05,
+    0.15,      -0.25,      0.125,  9.5,     9.95,      99.9999, 1e5,     1e6,
+    123456,    1234567,    1e-4,   1e-5,    12345e-10, 1.0 / 3, 2e15,    1e22,
+    1e23,      1e100,      -1e-99, DBL_MAX, DBL_MIN,   5e-324,  -5e-324, 4503599627370497.5,
+    kInfinity, -kInfinity, kNan,   -kNan,   7.8125e-3, 1e-300,
 };
 }
 
@@ -169,6 +170,13 @@ TEST(VorStringFormatTest, DoublesComeOutAsPrinted)
         expectAllAsPrinted<double>(conversion, kDoubles);
 }
 
+TEST(VorStringFormatTest, RoundingUpToTheNextPowerKeepsTheZerosAskedFor)
+{
+    for (const wchar_t* pattern : { L"%g", L"%e", L"%f", L"%.5g", L"%#.5g" })
+        EXPECT_AS_PRINTED(pattern, 999999.5);
+    EXPECT_EQ(VorString(L"1.00000e+06"), formatted(L"%#g", 999999.5)); // the GNU C library forgets the zeros here
+}
+
 TEST(VorStringFormatTest, PrecisionHasNoLimitOfItsOwn)
 {
     for (const double value : { 0.1, 1e-5, 5e-324, DBL_MAX, 1.0 / 3 })
@@ -194,7 +202,7 @@ TEST(VorStringFormatTest, CharactersAndTextsComeOutAsPrinted)
 
 TEST(VorStringFormatTest, WidthAndPrecisionMayBeArguments)
 {
-    for (const int width : { 0, 3, 8, -3, -8 }) // a negative width stands for the minus flag
+    for (const int width : { 0, 3, 8, -3, -8 })                  // a negative width stands for the minus flag
         for (const int precision : { 0, 1, 4, -1, -4, INT_MIN }) // a negative precision for none
         {
             EXPECT_AS_PRINTED(L"<%*d>", width, 42);
@@ -214,15 +222,11 @@ TEST(VorStringFormatTest, WhatIsNoConversionIsCopied)
         const wchar_t* pattern;
         const wchar_t* expected;
     } cases[] = {
-        { L"%y", L"%y" },
-        { L"%", L"%" },
-        { L"50%", L"50%" },
-        { L"%5", L"%5" },
-        { L"%-08.3", L"%-08.3" },
-        { L"%ll", L"%ll" },
+        { L"%y", L"%y" },         { L"%", L"%" },
+        { L"50%", L"50%" },       { L"%5", L"%5" },
+        { L"%-08.3", L"%-08.3" }, { L"%ll", L"%ll" },
         { L"%n", L"%n" }, // nothing is ever written to an argument
-        { L"%p", L"%p" },
-        { L"%PosNum", L"%PosNum" },
+        { L"%p", L"%p" },         { L"%PosNum", L"%PosNum" },
         { L"a%-5yb", L"a%-5yb" },
     };
     for (const auto& c : cases)

@@ -214,9 +214,31 @@ TEST(VorStringHashMapTest, CopiesAreEqualAndIndependent)
     insert(source, L"more", 1);
 
     EXPECT_EQ(500, copy.count());
+    EXPECT_EQ(769, copy.bucketCount());
     for (int i = 0; i < 500; ++i)
         ASSERT_EQ(i, copy.find(keyOf(i))->value);
     EXPECT_EQ(nullptr, copy.find(VorString(L"more")));
+}
+
+TEST(VorStringHashMapTest, CopiesKeepTheOrderWithinABucket)
+{
+    Map source;
+    for (const wchar_t* key : { L"aK", L"bF", L"cA" }) // of one hash
+        insert(source, key, 0);
+    Map assigned = mapOf(200);
+
+    const Map copy(source);
+    assigned = source;
+
+    for (const Map* map : { &copy, &static_cast<const Map&>(assigned) })
+    {
+        EXPECT_EQ(53, map->bucketCount());
+        const Map::Node* newest = map->find(L"cA");
+        ASSERT_NE(nullptr, newest->next);
+        EXPECT_EQ(VorString(L"bF"), newest->next->key);
+        EXPECT_EQ(VorString(L"aK"), newest->next->next->key);
+        EXPECT_EQ(nullptr, newest->next->next->next);
+    }
 }
 
 TEST(VorStringHashMapTest, AssignmentReplacesEverything)

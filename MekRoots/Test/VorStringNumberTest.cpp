@@ -57,8 +57,10 @@ const IntegerCase kIntegerCases[] = {
     { L"+-5", 0 },
     { L"--5", 0 },
     { L"1,234", 1 },
-    { L"\xA0" L"5", 0 }, // a no-break space is no white space in the C locale
-    { L"\xFF15", 0 },    // nor is a full-width five a digit
+    { L"\xA0"
+      L"5",
+      0 },            // a no-break space is no white space in the C locale
+    { L"\xFF15", 0 }, // nor is a full-width five a digit
     { L"2147483646", 2147483646 },
     { L"2147483647", 2147483647 },
     { L"2147483648", 2147483647 }, // from here on clamped
@@ -99,7 +101,9 @@ const DoubleCase kDoubleCases[] = {
     { L"1,5e2", 1, 150 },
     { L"1e2,5", 100, 100 },
     { L" \t\n\v\f\r2.5", 2.5, 2.5 },
-    { L"\xA0" L"2.5", 0, 0 },
+    { L"\xA0"
+      L"2.5",
+      0, 0 },
     { L"2.5m", 2.5, 2.5 },
     { L"+.5", 0.5, 0.5 },
     { L"5.", 5, 5 },
@@ -184,8 +188,14 @@ TEST(VorStringNumberTest, ZeroKeepsItsSign)
 
 TEST(VorStringNumberTest, AZeroCharacterEndsTheNumber)
 {
-    EXPECT_EQ(1, VorString(L"1\0" L"2", 3).toInteger());
-    EXPECT_EQ(1.0, VorString(L"1\0" L"2", 3).toDouble());
+    EXPECT_EQ(1, VorString(L"1\0"
+                           L"2",
+                           3)
+                     .toInteger());
+    EXPECT_EQ(1.0, VorString(L"1\0"
+                             L"2",
+                             3)
+                       .toDouble());
 }
 
 TEST(VorStringNumberTest, AHundredThousandDigitsAreReadExactly)

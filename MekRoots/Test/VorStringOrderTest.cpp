@@ -155,31 +155,16 @@ TEST(VorStringOrderTest, NaturalOrderReadsDigitRunsAsNumbers)
 {
     expectAscending(
         {
-            VorString(),
-            VorString(L" 1"),
-            VorString(L"0"),
-            VorString(L"00"),
-            VorString(L"1"),
+            VorString(),        VorString(L" 1"),   VorString(L"0"),     VorString(L"00"),  VorString(L"1"),
             VorString(L"1a"),
             VorString(L"002"), // ties with 2, and then stands by its characters
-            VorString(L"02"),
-            VorString(L"2"),
-            VorString(L"2.9"),
+            VorString(L"02"),   VorString(L"2"),    VorString(L"2.9"),
             VorString(L"2.10"), // no decimal point here: 9 before 10
-            VorString(L"10"),
-            VorString(L"B"),
+            VorString(L"10"),   VorString(L"B"),
             VorString(L"B 2"), // blank, minus, digit: by the character codes
-            VorString(L"B-2"),
-            VorString(L"B-10"),
-            VorString(L"B02"),
-            VorString(L"B2"),
-            VorString(L"B02x"),
+            VorString(L"B-2"),  VorString(L"B-10"), VorString(L"B02"),   VorString(L"B2"),  VorString(L"B02x"),
             VorString(L"B2x"), // the zeros decide only when nothing else does
-            VorString(L"B3"),
-            VorString(L"B10"),
-            VorString(L"B010C"),
-            VorString(L"BA1"),
-            VorString(L"a"),
+            VorString(L"B3"),   VorString(L"B10"),  VorString(L"B010C"), VorString(L"BA1"), VorString(L"a"),
         },
         VorString::compareWithNumbers);
 }
@@ -220,7 +205,12 @@ TEST(VorStringOrderTest, OnlyTheDigitsOfAsciiMakeNumbers)
 
 TEST(VorStringOrderTest, ZeroCharactersTakePartInNaturalOrder)
 {
-    EXPECT_EQ(-1, VorString::compareWithNumbers(VorString(L"a\0" L"2", 3), VorString(L"a\0" L"10", 4)));
+    EXPECT_EQ(-1, VorString::compareWithNumbers(VorString(L"a\0"
+                                                          L"2",
+                                                          3),
+                                                VorString(L"a\0"
+                                                          L"10",
+                                                          4)));
     EXPECT_EQ(-1, VorString::compareWithNumbers(VorString(L"a"), VorString(L"a\0", 2)));
 }
 

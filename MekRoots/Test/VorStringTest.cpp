@@ -80,10 +80,14 @@ TEST(VorStringTest, EveryChangeOfACopyLeavesTheOriginalAlone)
     const LeakCheck leaks;
     const VorString original(L"a-b-c");
     void (*const changes[])(VorString&) = {
-        [](VorString& t) { t += VorString(L"x"); }, [](VorString& t) { t += L"x"; },
-        [](VorString& t) { t += L'x'; },            [](VorString& t) { t.append(L"xyz", 2); },
-        [](VorString& t) { t.append(L'x', 3); },    [](VorString& t) { t.removeAll(L'-'); },
-        [](VorString& t) { t.empty(); },            [](VorString& t) { t.format(L"%d", 5); },
+        [](VorString& t) { t += VorString(L"x"); },
+        [](VorString& t) { t += L"x"; },
+        [](VorString& t) { t += L'x'; },
+        [](VorString& t) { t.append(L"xyz", 2); },
+        [](VorString& t) { t.append(L'x', 3); },
+        [](VorString& t) { t.removeAll(L'-'); },
+        [](VorString& t) { t.empty(); },
+        [](VorString& t) { t.format(L"%d", 5); },
         [](VorString& t) { t = VorString(L"y"); },
     };
     for (const auto change : changes)

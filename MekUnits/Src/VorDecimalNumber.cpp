@@ -62,8 +62,8 @@ void VorDecimalNumber::divide(std::uint64_t divisor)
         else
             m_digits[m_nNumDigits++] = static_cast<unsigned char>(quotient);
     }
-    if (remainder > 0 || m_nNumDigits == 0)
-        m_digits[m_nNumDigits++] = remainder > 0 ? 1 : 0;
+    if (m_nNumDigits == 0)
+        m_digits[m_nNumDigits++] = 0;
 }
 
 void VorDecimalNumber::roundToDigits(int numDigits)

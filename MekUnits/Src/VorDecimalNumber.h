@@ -1,12 +1,12 @@
 // The decimal number that a person sees for a double, with the arithmetic that units need, on its digits.
 //
-//   VorDecimalNumber number(304.00625);     3 0 4 0 0 6 2 5, three of them before the point
-//   number.multiply(5);
-//   number.divide(127);                     1 1 9 6 8 7 5, two before the point
-//   number.toDouble()                   ->  11.96875
+//   VorDecimalNumber number(0.680388555);  kilograms: 6 8 0 3 8 8 5 5 5, none of them before the point
+//   number.multiply(100000000);
+//   number.divide(45359237);               pounds: 1 5, one before the point
+//   number.toDouble()                  ->  1.5
 //
-// Doubles are kept apart by their shortest text; a division of doubles would give 11.968749999999998 here and round the
-// last half of a sixteenth down. Has no sign.
+// Doubles are kept apart by their shortest text; a division of doubles would give 1.4999999999999998 here and round the
+// half pound down. Has no sign.
 //
 // Invariants: at least one digit; the value is 0.d1d2d3... times ten to m_nPointPosition.
 #pragma once
@@ -24,8 +24,8 @@ public:
     // Exact. At most VorUnitDefinition::kLargestFactor, once on a fresh number.
     void multiply(std::uint64_t factor);
 
-    // Exact as far as kQuotientDigits go. What remains after them is marked by one more digit, so that a number a little
-    // above a half is never taken for the half. The divisor is at most VorUnitDefinition::kLargestFactor.
+    // Exact, or cut off after kQuotientDigits digits, far more than tell two doubles apart. The divisor is at most
+    // VorUnitDefinition::kLargestFactor.
     void divide(std::uint64_t divisor);
 
     // Keeps the first `numDigits` digits, rounded half up.

@@ -2,9 +2,9 @@
 // (roundQuickly). Only the others are converted and rounded on their decimal digits. Both ways agree: the quick one
 // declines wherever the exact one could decide otherwise.
 //
-//   304.00625 mm in feet and inches to 1/16"
-//     quickly   304.00625 * 16/25.4 = 191.5 (nearly)        too close to call
-//     exactly   304.00625 * 10/254 = 11.96875 = 191 1/2 sixteenths, half away from zero: 192 = 12"
+//   0.79375 mm in feet and inches to 1/16"
+//     quickly   0.79375 * (16/25.4) = 0.49999999999999994   too close to call
+//     exactly   0.79375 * 10/254 = 0.03125 in, or 0.5 sixteenths; half away from zero: 1/16"
 #include "MekRoots/Exp/VorUnitTransform.h"
 
 #include "MekRoots/Exp/VorAssert.h"

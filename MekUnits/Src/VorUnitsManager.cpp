@@ -2,6 +2,8 @@
 
 #include "MekRoots/Exp/VorAssert.h"
 
+#include <cstddef>
+
 namespace
 {
 const wchar_t kSourcePath[] = L"MekUnits/Src/VorUnitsManager"; // named in assertion reports
@@ -12,7 +14,7 @@ VorUnitsManager::VorUnitsManager() : VorUnitsManager(metric()) {}
 VorUnitsManager::VorUnitsManager(const MEKUnit& distance, const MEKUnit& angle, const MEKUnit& weight,
                                  const MEKUnit& area, const MEKUnit& weightPerDistance, const MEKUnit& areaPerDistance,
                                  const MEKUnit& density)
-    : m_units{ distance, angle, weight, area, weightPerDistance, areaPerDistance, density }
+    : m_units{ { distance, angle, weight, area, weightPerDistance, areaPerDistance, density } }
 {
 }
 
@@ -43,7 +45,7 @@ VorUnitsManager VorUnitsManager::imperial()
 const MEKUnit& VorUnitsManager::getUnit(VorUnitsTransformArray::eSystems system) const
 {
     const int index = indexOf(system);
-    return m_units[index < 0 ? 0 : index];
+    return m_units[static_cast<std::size_t>(index < 0 ? 0 : index)];
 }
 
 void VorUnitsManager::setUnit(VorUnitsTransformArray::eSystems system, const MEKUnit& unit)
@@ -56,7 +58,7 @@ void VorUnitsManager::setUnit(VorUnitsTransformArray::eSystems system, const MEK
         VorAssert::vorAssert(L"unit.system() == system", kSourcePath, __LINE__);
         return;
     }
-    m_units[index] = unit;
+    m_units[static_cast<std::size_t>(index)] = unit;
 }
 
 // Reports a number that is no kind of quantity and answers -1.

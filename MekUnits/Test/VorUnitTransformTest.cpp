@@ -11,6 +11,7 @@
 #include <cmath>
 #include <limits>
 #include <locale>
+#include <new>
 #include <random>
 #include <thread>
 #include <vector>
@@ -146,7 +147,8 @@ TEST(VorUnitTransformTest, ConvertsTheDecimalNumberThatIsSeen)
 {
     EXPECT_EQ(90.0, toDisplay(kInch, 2286.0));
     EXPECT_EQ(90.0, toDisplay(kFeetAndInches, 2286.0));
-    EXPECT_EQ(11.96875, toDisplay(kInch, 304.00625)); // a division of doubles is one place below
+    EXPECT_EQ(11.96875, toDisplay(kInch, 304.00625)); // a division of doubles is one place above
+    EXPECT_EQ(1.5, toDisplay(kPound, 0.680388555));   // one place below
     EXPECT_EQ(1.005, toDisplay(kInch, 25.527));
     EXPECT_EQ(167.876533, toDisplay(kSquareMetre, 167876533.0));
     EXPECT_EQ(1005000.0, toInternal(kSquareMetre, 1.005)); // a product of doubles is one place below
@@ -292,7 +294,10 @@ TEST(VorUnitTransformTest, FormattingAllocatesNothingButTheText)
 {
     if (MEK_ALLOCATIONS_ARE_COUNTED == 0)
         GTEST_SKIP() << "operator new belongs to a sanitizer in this build";
-    EXPECT_EQ(countOfAllocations() + 1, (std::vector<int>(1), countOfAllocations())) << "nothing is counted";
+    const long long numBefore = countOfAllocations();
+    ::operator delete(::operator new(1));
+    ASSERT_EQ(numBefore + 1, countOfAllocations());
+
     const double kValues[] = { 2286.125, 304.00625, 1e300, 2.675, -0.0 };
     const int kUnits[] = { kMillimetre, kFeetAndInches, kPoundPerFoot };
     for (const int unit : kUnits)

@@ -1,0 +1,82 @@
+#include "VorBomHeaderPlan.h"
+
+#include "MekRoots/Exp/VorAssert.h"
+
+#include <utility>
+
+namespace
+{
+const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomEvaluator2"; // whose reports these are
+
+std::vector<VorString> tokensOf(const VorBomDataTupleArray& tuples)
+{
+    std::vector<VorString> tokens;
+    for (const VorBomDataTuple& tuple : tuples)
+        tokens.push_back(tuple.token().token());
+    return tokens;
+}
+
+bool hasValue(const VorBomDataTuple& datum)
+{
+    if (datum.value().type() != VorBomDataValue::kUnknownData)
+        return true;
+    VorAssert::vorAssert(L"false", kSourcePath, __LINE__);
+    return false;
+}
+}
+
+VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section)
+    : m_section(section), m_columns(pLayouts, tokensOf(section.getData()))
+{
+    const VorBomDataTupleArray& tuples = section.getData();
+    for (int i = 0; i < tuples.length(); ++i)
+    {
+        m_isFormula.push_back(VorBomDataToken::isFormula(tuples[i].token().token()) != 0);
+        if (m_isFormula.back())
+            m_formulas.emplace_back(pLayouts, tuples, i);
+        m_displays.emplace_back(tuples[i].token());
+    }
+}
+
+std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row)
+{
+    m_columns.find(row);
+    const VorBomDataTupleArray& columns = m_section.getData();
+    auto pEvaluated = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
+    VorBomDataTupleArray& tuples = pEvaluated->getData();
+    tuples.setPhysicalLength(columns.length());
+    for (int i = 0; i < columns.length(); ++i)
+    {
+        VorBomDataTuple* pDatum = m_isFormula[static_cast<std::size_t>(i)] ? nullptr : m_columns[i];
+        if (pDatum == nullptr || !hasValue(*pDatum))
+        {
+            tuples.append(columns[i]);
+            continue;
+        }
+        tuples.append(VorBomDataTuple(columns[i].token(), pDatum->value()));
+        tuples.last().setUsed(columns[i].used());
+        pDatum->setUsed(1);
+    }
+    return pEvaluated;
+}
+
+void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomDataRow& row)
+{
+    VorBomDataTupleArray& tuples = evaluated.getData();
+    for (VorBomFormulaColumn& formula : m_formulas)
+    {
+        double result = 0;
+        if (!formula.compute(tuples, &row, result))
+            continue;
+        VorBomDataTuple& tuple = tuples[formula.index()];
+        tuple.value().set(result);
+        row.addData(VorBomDataTuple(tuple.token().token(), result));
+    }
+}
+
+void VorBomHeaderPlan::showInUnits(VorBomTemplateUnits& units, VorBomTemplateItem& evaluated)
+{
+    VorBomDataTuple* pTuple = evaluated.getData().begin();
+    for (VorBomDisplayColumn& display : m_displays)
+        display.show(units, pTuple++->value());
+}

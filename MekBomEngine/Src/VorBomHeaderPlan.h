@@ -1,0 +1,35 @@
+// What a header or details section asks of every row, read from the template once: where its columns find their data,
+// how its formulas are computed and its numbers shown.
+#pragma once
+
+#include "VorBomColumns.h"
+#include "VorBomDisplayColumn.h"
+#include "VorBomFormulaColumn.h"
+#include "VorBomTemplateItem.h"
+
+#include <memory>
+#include <vector>
+
+class VorBomHeaderPlan
+{
+public:
+    // The section is not owned and must not change as long as the plan is used.
+    VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section);
+
+    // A copy of the section without links, its values taken from the row where the row has them; formulas stay as they
+    // are. Marks the row's tuples it took as used. Reports "false" for an empty value in the row and passes it over.
+    std::unique_ptr<VorBomTemplateItem> process(VorBomDataRow& row);
+
+    // Computes the formulas of a section that process() made from this row, and appends each result to the row.
+    void computeFormulas(VorBomTemplateItem& evaluated, VorBomDataRow& row);
+
+    // Turns the numbers of such a section into texts.
+    void showInUnits(VorBomTemplateUnits& units, VorBomTemplateItem& evaluated);
+
+private:
+    const VorBomTemplateItem& m_section;
+    VorBomColumns m_columns; // one per tuple of the section
+    std::vector<bool> m_isFormula;
+    std::vector<VorBomFormulaColumn> m_formulas;
+    std::vector<VorBomDisplayColumn> m_displays;
+};
