@@ -11,15 +11,13 @@ std::wstring_view VorExprEvTextView::existingPart() const
     return { m_pText + m_nStart, static_cast<std::size_t>(nEnd - m_nStart) };
 }
 
-int VorExprEvTextView::isEqual(const VorExprEvTextView& other) const
+// For views of the same length.
+bool VorExprEvTextView::hasSameCharacters(const VorExprEvTextView& other) const
 {
-    if (length() != other.length())
-        return 0;
     std::wstring_view shorter = existingPart();
     std::wstring_view longer = other.existingPart();
     if (shorter.size() > longer.size())
         std::swap(shorter, longer);
-    if (longer.compare(0, shorter.size(), shorter) != 0)
-        return 0;
-    return longer.find_first_not_of(L'\0', shorter.size()) == std::wstring_view::npos ? 1 : 0;
+    return longer.compare(0, shorter.size(), shorter) == 0 &&
+           longer.find_first_not_of(L'\0', shorter.size()) == std::wstring_view::npos;
 }

@@ -47,9 +47,14 @@ public:
     std::wstring_view existingPart() const;
 
     // 1 when both have the same length and the same characters over all of it, zero characters included.
-    int isEqual(const VorExprEvTextView& other) const;
+    int isEqual(const VorExprEvTextView& other) const
+    {
+        return length() == other.length() && hasSameCharacters(other) ? 1 : 0;
+    }
 
 private:
+    bool hasSameCharacters(const VorExprEvTextView& other) const;
+
     const wchar_t* m_pText = nullptr;
     int m_nStart = -1;
     int m_nEnd = -1;

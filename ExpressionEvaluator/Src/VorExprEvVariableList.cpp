@@ -7,7 +7,7 @@
 namespace
 {
 // Lists up to this length are walked. Measured with BM_LookUpAmongVariables: building the index pays from about here.
-constexpr int kLongestWalk = 32;
+constexpr int kLongestWalk = 24;
 }
 
 VorExprEvVariableList& VorExprEvVariableList::ofThread()

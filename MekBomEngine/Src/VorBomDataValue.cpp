@@ -77,6 +77,8 @@ VorBomDataValue::VorBomDataValue(VorBomDataValue&& other) noexcept
 
 VorBomDataValue& VorBomDataValue::operator=(const VorBomDataValue& other)
 {
+    if (this == &other)
+        return *this;
     switch (other.m_nType)
     {
         case kUnknownData: break;

@@ -1,13 +1,12 @@
-// The sorting operations of VorBomEvaluator2.
-//
-// Input rows, told on the keys "%Material" ascending, "%Length" descending and two rows:
-//   each row's two tuples are looked up once, then merging compares materials, then lengths with the sign turned.
-// A row without the datum stands before those that have it when ascending, after them when descending.
+// The sorting operations of VorBomEvaluator2. Input rows are put in order by VorBomSortedRows; evaluated sections are
+// sorted here, each header together with the footer that follows it.
 #include "VorBomEvaluator2.h"
+#include "VorBomSortedRows.h"
 #include "VorStableMergeSort.h"
 
 #include "MekRoots/Exp/VorAssert.h"
 
+#include <algorithm>
 #include <vector>
 
 thread_local VorStringArray VorBomEvaluator2::m_arrTokensToSortDataRow;
@@ -40,89 +39,6 @@ void appendSortKeys(const VorStringArray& sortingTokens, int& ascending, VorStri
         orders.append(ascending);
     }
 }
-
-// The natural or plain order of two values, as the key's token asks for it. The catalogue is asked at the first
-// comparison, since it reports tokens it does not know, and only then.
-class ValueOrder
-{
-public:
-    explicit ValueOrder(const VorString& token) : m_token(token) {}
-
-    int compare(const VorBomDataValue& first, const VorBomDataValue& second)
-    {
-        if (!m_isKnown)
-        {
-            m_isAlphanumeric = VorBomDataToken::getSortType(m_token) == VorBomDataToken::kSortAlphanumeric;
-            m_isKnown = true;
-        }
-        return m_isAlphanumeric ? first.compareAlphanumeric(second) : first.compare(second);
-    }
-
-private:
-    VorString m_token;
-    bool m_isKnown = false;
-    bool m_isAlphanumeric = false;
-};
-
-// One key of the input sort: -1, 0 or 1 for two rows' tuples, null for a row without the datum.
-int compareByKey(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond, ValueOrder& valueOrder, int ascending)
-{
-    int order = 0;
-    if (pFirst != nullptr && pSecond != nullptr)
-        order = valueOrder.compare(pFirst->value(), pSecond->value());
-    else if (pFirst != pSecond)
-        order = pFirst != nullptr ? 1 : -1;
-    return ascending == 1 ? order : -order;
-}
-
-// The rows of one sort with their keys' tuples looked up once: row i's start at i * number of keys.
-class KeyedRows
-{
-public:
-    KeyedRows(VorBomData& data, const VorStringArray& tokens, const VorArray<int>& orders) : m_orders(orders)
-    {
-        for (const VorString& token : tokens)
-            m_valueOrders.emplace_back(token);
-        for (VorBomItemBase* pItem = data.child(); pItem != nullptr; pItem = pItem->next())
-        {
-            m_rows.push_back(pItem);
-            for (const VorString& token : tokens)
-                m_tuples.push_back(pItem->getTupleAt(token));
-        }
-    }
-
-    // The rows in sorted order.
-    std::vector<VorBomItemBase*> sorted()
-    {
-        std::vector<std::size_t> indices(m_rows.size());
-        for (std::size_t i = 0; i < indices.size(); ++i)
-            indices[i] = i;
-        vorStableMergeSort(indices, [this](std::size_t a, std::size_t b) { return compare(a, b) <= 0; });
-
-        std::vector<VorBomItemBase*> rows;
-        rows.reserve(indices.size());
-        for (const std::size_t index : indices)
-            rows.push_back(m_rows[index]);
-        return rows;
-    }
-
-private:
-    int compare(std::size_t first, std::size_t second)
-    {
-        const std::size_t numKeys = m_valueOrders.size();
-        const VorBomDataTuple* const* pFirst = m_tuples.data() + first * numKeys;
-        const VorBomDataTuple* const* pSecond = m_tuples.data() + second * numKeys;
-        for (std::size_t i = 0; i < numKeys; ++i)
-            if (const int order = compareByKey(pFirst[i], pSecond[i], m_valueOrders[i], m_orders[static_cast<int>(i)]))
-                return order;
-        return 0;
-    }
-
-    const VorArray<int>& m_orders;
-    std::vector<ValueOrder> m_valueOrders;
-    std::vector<VorBomItemBase*> m_rows;
-    std::vector<const VorBomDataTuple*> m_tuples;
-};
 
 VorBomTemplateItem* nextSection(const VorBomTemplateItem* pItem)
 {
@@ -208,7 +124,7 @@ int VorBomEvaluator2::sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngin
         return 1;
 
     const std::vector<VorBomItemBase*> rows =
-        KeyedRows(*pData, m_arrTokensToSortDataRow, m_arrSortOrderForDataRow).sorted();
+        VorBomSortedRows(*pData, m_arrTokensToSortDataRow, m_arrSortOrderForDataRow).sorted();
     // On purpose before the rows are relinked: lastChild() goes on naming the row that was last before sorting.
     // Pinned by VorBomEvaluator2SortingTest.LastChildKeepsNamingTheRowThatWasLast.
     pData->setChild(rows.front());
@@ -230,9 +146,8 @@ int VorBomEvaluator2::compareDataRow(const void* pFirst, const void* pSecond)
     for (int i = 0; i < m_arrTokensToSortDataRow.length(); ++i)
     {
         const VorString& token = m_arrTokensToSortDataRow[i];
-        ValueOrder valueOrder(token);
-        if (const int order = compareByKey(pFirstItemData->getTupleAt(token), pSecondItemData->getTupleAt(token),
-                                           valueOrder, m_arrSortOrderForDataRow[i]))
+        VorBomSortedRows::KeyComparison key(token, m_arrSortOrderForDataRow[i]);
+        if (const int order = key.compare(pFirstItemData->getTupleAt(token), pSecondItemData->getTupleAt(token)))
             return order;
     }
     return 0;

@@ -48,12 +48,14 @@ void VorBomTemplateUnits::setUnits(const VorUnitsManager* pManager)
     readSettings();
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): existing clients are built against the signature
 void VorBomTemplateUnits::AddTokenType(VorString token, eTokenUnitType type)
 {
     bool inserted = false;
     m_tokenTypes.findOrInsert(token, type, inserted);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): as above
 VorBomTemplateUnits::eTokenUnitType VorBomTemplateUnits::getUnitType(VorString token) const
 {
     const auto* pNode = m_tokenTypes.find(token);

@@ -1,0 +1,30 @@
+// Catches the debug output while it lives.
+#pragma once
+
+#include "MekRoots/Exp/DebugOutput.h"
+#include "MekRoots/Test/Support/TestSupport.h"
+
+class DebugLog
+{
+public:
+    DebugLog() : m_previousSink(setDebugOutputSink(&DebugLog::write)) {}
+    ~DebugLog()
+    {
+        setDebugOutputSink(m_previousSink);
+        written() = VorString();
+    }
+    DebugLog(const DebugLog&) = delete;
+    DebugLog& operator=(const DebugLog&) = delete;
+
+    const VorString& text() const { return written(); }
+
+private:
+    static VorString& written()
+    {
+        static VorString s_written;
+        return s_written;
+    }
+    static void write(const wchar_t* text) { written() += text; }
+
+    DebugOutputSink m_previousSink;
+};

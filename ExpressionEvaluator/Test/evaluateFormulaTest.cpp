@@ -1,0 +1,320 @@
+#include "ExpressionEvaluator/Src/evaluateFormula.h"
+#include "Support/FormulaSupport.h"
+
+#include <cfloat>
+#include <clocale>
+#include <cmath>
+#include <limits>
+#include <vector>
+
+namespace
+{
+class evaluateFormulaTest : public testing::Test
+{
+protected:
+    FormulaLeakCheck m_leaks;
+};
+
+constexpr double kUntouched = -777.0;
+
+struct Outcome
+{
+    int nResult;
+    double result;
+};
+
+// Over the variables a = 2, b = 0.5, my length = 1000.
+Outcome evaluate(const wchar_t* formula)
+{
+    const wchar_t* const names[] = { L"a", L"b", L"my length" };
+    const double values[] = { 2.0, 0.5, 1000.0 };
+    Outcome outcome = { -1, kUntouched };
+    outcome.nResult = evaluateFormula(formula, names, values, 3, &outcome.result);
+    return outcome;
+}
+
+struct ResultCase
+{
+    const wchar_t* formula;
+    double result;
+};
+
+template <int N>
+void expectResults(const ResultCase (&cases)[N])
+{
+    for (const ResultCase& c : cases)
+    {
+        const Outcome outcome = evaluate(c.formula);
+        EXPECT_EQ(1, outcome.nResult) << toUtf8(c.formula);
+        EXPECT_EQ(c.result, outcome.result) << toUtf8(c.formula);
+    }
+}
+
+void expectFailure(const wchar_t* formula)
+{
+    const Outcome outcome = evaluate(formula);
+    EXPECT_EQ(0, outcome.nResult) << VorString(formula);
+    EXPECT_EQ(kUntouched, outcome.result) << VorString(formula);
+}
+}
+
+TEST_F(evaluateFormulaTest, FormulasAreComputed)
+{
+    const ResultCase cases[] = {
+        { L"1 + 2", 3.0 },        { L"a * 3.5", 7.0 },          { L"(a+b)*2", 5.0 },
+        { L"2*3+(4+5)*6", 90.0 }, { L"my length * 2", 2000.0 }, { L"1e+5", 100005.0 },
+        { L"-a+b", -1.5 },
+    };
+    expectResults(cases);
+}
+
+TEST_F(evaluateFormulaTest, StatementsAreComputedFromTheLeft)
+{
+    const ResultCase cases[] = {
+        { L"a=4;a*2", 8.0 },
+        { L"x=my length/1000;x*a*3", 6.0 },
+        { L"x=4;", 4.0 },
+        { L"x=a;y=b;(x+y)", 2.5 },
+    };
+    expectResults(cases);
+}
+
+TEST_F(evaluateFormulaTest, FormulasShorterThanFourCharactersAreRefused)
+{
+    for (const wchar_t* formula : { L"", L"+", L"a", L"1+", L"1+2", L"a*b", L"(1)" })
+        expectFailure(formula);
+    const ResultCase cases[] = { { L"1+ 2", 3.0 }, { L"1+2;", 3.0 } };
+    expectResults(cases);
+}
+
+TEST_F(evaluateFormulaTest, FormulasWithoutOperatorAreRefused)
+{
+    for (const wchar_t* formula : { L"12345", L"my length", L"1;2;3;4", L"    ", L"2^3.5" })
+        expectFailure(formula);
+}
+
+TEST_F(evaluateFormulaTest, EveryOperatorMakesAFormula)
+{
+    const ResultCase cases[] = {
+        { L"2*10", 20.0 }, { L"2/10", 0.2 },  { L"2+10", 12.0 }, { L"2-10", -8.0 },
+        { L"x=10", 10.0 }, { L"(10)", 10.0 }, { L")10(", 10.0 },
+    };
+    expectResults(cases);
+    expectFailure(L"(123");
+    expectFailure(L"123)");
+}
+
+TEST_F(evaluateFormulaTest, FailuresLeaveTheResultUntouched)
+{
+    for (const wchar_t* formula : { L"10/0", L"1/0.00005", L"(1+2", L"1+2)", L"x + 1", L"a=4;2*a", L"=5+1", L"A + 1" })
+        expectFailure(formula);
+}
+
+TEST_F(evaluateFormulaTest, AFormulaWithoutOperandsIsZero)
+{
+    const ResultCase cases[] = { { L"()()", 0.0 }, { L"(());", 0.0 }, { L"  )(", 0.0 }, { L";;;()", 0.0 } };
+    expectResults(cases);
+}
+
+TEST_F(evaluateFormulaTest, MissingOperandsCountAsZero)
+{
+    const ResultCase cases[] = { { L"5*  ", 0.0 }, { L"   +", 0.0 }, { L"5+  ", 5.0 }, { L"5-  ", -5.0 } };
+    expectResults(cases);
+}
+
+TEST_F(evaluateFormulaTest, ResultsAreRoundedToSixDecimals)
+{
+    const ResultCase cases[] = {
+        { L"1/3+0", 0.333333 }, { L"2/3+0", 0.666667 },
+        { L"1/4000000", 0.0 },  { L"3/4000000", 1e-6 },
+        { L"0.1+0", 0.1 },      { L"0.1*10000000", 1000000.014901 }, // here single precision shows, there it does not
+    };
+    expectResults(cases);
+}
+
+TEST_F(evaluateFormulaTest, HalvesAreRoundedAsTheExactBinaryNumberSays)
+{
+    const wchar_t* const names[] = { L"n" };
+    struct
+    {
+        double value;
+        double result;
+    } const cases[] = {
+        { 0.0000152587890625, 0.000015 }, { 0.0000005, 0.0 }, // its double lies a little below the half,
+        { 0.0000015, 0.000002 },                              // and these lie above it
+        { 1.0000005, 1.000001 },          { -0.0000015, -0.000002 },
+        { 0.0078125, 0.007812 }, // 1/128 and 3/128 lie on it: to the even digit
+        { 0.0234375, 0.023438 },          { 1e15 + 0.125, 1e15 + 0.125 },
+    };
+    for (const auto& c : cases)
+    {
+        double result = kUntouched;
+        EXPECT_EQ(1, evaluateFormula(L"n*1+0", names, &c.value, 1, &result));
+        EXPECT_EQ(c.result, result) << c.value;
+    }
+}
+
+TEST_F(evaluateFormulaTest, HugeAndOddNumbersPassThrough)
+{
+    const wchar_t* const names[] = { L"n" };
+    for (const double value : { 1e300, -DBL_MAX, 123456789012345678.0, std::numeric_limits<double>::infinity() })
+    {
+        double result = kUntouched;
+        EXPECT_EQ(1, evaluateFormula(L"n*1+0", names, &value, 1, &result));
+        EXPECT_EQ(value, result);
+    }
+    const double notANumber = std::numeric_limits<double>::quiet_NaN();
+    double result = kUntouched;
+    EXPECT_EQ(1, evaluateFormula(L"n*1+0", names, &notANumber, 1, &result));
+    EXPECT_TRUE(std::isnan(result));
+}
+
+TEST_F(evaluateFormulaTest, NullArgumentsAreRefused)
+{
+    const wchar_t* const names[] = { L"a" };
+    const double values[] = { 2.0 };
+    double result = kUntouched;
+
+    EXPECT_EQ(0, evaluateFormula(nullptr, names, values, 1, &result));
+    EXPECT_EQ(0, evaluateFormula(L"1 + 2", nullptr, values, 1, &result));
+    EXPECT_EQ(0, evaluateFormula(L"1 + 2", names, nullptr, 1, &result));
+    EXPECT_EQ(0, evaluateFormula(L"1 + 2", nullptr, nullptr, 0, &result)); // though there would be nothing to read
+    EXPECT_EQ(kUntouched, result);
+}
+
+TEST_F(evaluateFormulaTest, TheResultMayBeNull)
+{
+    const wchar_t* const names[] = { L"a" };
+    const double values[] = { 2.0 };
+
+    EXPECT_EQ(1, evaluateFormula(L"a * 3.5", names, values, 1, nullptr));
+    EXPECT_EQ(0, evaluateFormula(L"a / 0", names, values, 1, nullptr));
+}
+
+TEST_F(evaluateFormulaTest, ANegativeCountIsRefused)
+{
+    const wchar_t* const names[] = { L"a" };
+    const double values[] = { 2.0 };
+    double result = kUntouched;
+
+    EXPECT_EQ(0, evaluateFormula(L"1 + 2", names, values, -1, &result));
+    EXPECT_EQ(0, evaluateFormula(L"1 + 2", names, values, std::numeric_limits<int>::min(), &result));
+    EXPECT_EQ(kUntouched, result);
+}
+
+TEST_F(evaluateFormulaTest, OnlyTheFirstEntriesAreRead)
+{
+    const wchar_t* const names[] = { L"a", L"b" };
+    const double values[] = { 2.0, 3.0 };
+    double result = kUntouched;
+
+    EXPECT_EQ(1, evaluateFormula(L"1 + 2", names, values, 0, &result));
+    EXPECT_EQ(1, evaluateFormula(L"a + 1", names, values, 1, &result));
+    EXPECT_EQ(0, evaluateFormula(L"b + 1", names, values, 1, &result));
+    EXPECT_EQ(3.0, result);
+}
+
+TEST_F(evaluateFormulaTest, NullNamesArePassedOver)
+{
+    const wchar_t* const names[] = { nullptr, L"b", nullptr };
+    const double values[] = { 2.0, 3.0, 4.0 };
+    double result = kUntouched;
+
+    EXPECT_EQ(1, evaluateFormula(L"b + 1", names, values, 3, &result));
+    EXPECT_EQ(4.0, result);
+}
+
+TEST_F(evaluateFormulaTest, OfEqualNamesTheLastCounts)
+{
+    const wchar_t* const names[] = { L"a", L"a", L"A" };
+    const double values[] = { 2.0, 3.0, 4.0 };
+    double result = kUntouched;
+
+    EXPECT_EQ(1, evaluateFormula(L"a + 0", names, values, 3, &result));
+    EXPECT_EQ(3.0, result);
+}
+
+TEST_F(evaluateFormulaTest, AnAssignmentShadowsTheCallersVariable)
+{
+    const ResultCase cases[] = { { L"a=a*10;a*2", 40.0 }, { L"a+0;", 2.0 } };
+    expectResults(cases);
+}
+
+TEST_F(evaluateFormulaTest, AnEmptyNameIsNeverFound)
+{
+    const wchar_t* const names[] = { L"" };
+    const double values[] = { 2.0 };
+    double result = kUntouched;
+
+    EXPECT_EQ(1, evaluateFormula(L"-1*2", names, values, 1, &result));
+    EXPECT_EQ(-2.0, result);
+}
+
+TEST_F(evaluateFormulaTest, NothingIsKeptFromOneCallToTheNext)
+{
+    evaluate(L"x=4;y=1/0");
+
+    expectFailure(L"x*1+0");
+    const ResultCase cases[] = { { L"1 + 2", 3.0 } };
+    expectResults(cases);
+}
+
+TEST_F(evaluateFormulaTest, RefusedFormulasEmptyTheListsToo)
+{
+    evaluated(L"x=4;1/0");
+
+    expectFailure(L"1+2");
+
+    EXPECT_EQ(VorString(), variables());
+    EXPECT_EQ("", errorCodes());
+}
+
+TEST_F(evaluateFormulaTest, ANullFormulaLeavesTheListsAlone)
+{
+    const wchar_t formula[] = L"x=4;1/0";
+    evaluated(formula);
+
+    expectFailure(nullptr);
+
+    EXPECT_EQ(VorString(L"x=4.000000"), variables());
+    EXPECT_EQ("5", errorCodes());
+}
+
+TEST_F(evaluateFormulaTest, ThousandsOfVariablesAreFound)
+{
+    constexpr int kMany = 20000;
+    std::vector<std::wstring> texts;
+    std::vector<const wchar_t*> names;
+    std::vector<double> values;
+    std::wstring formula;
+    double sum = 0.0;
+    for (int i = 0; i < kMany; ++i)
+        texts.push_back(L"%v" + std::to_wstring(i));
+    for (int i = 0; i < kMany; ++i)
+    {
+        names.push_back(texts[static_cast<std::size_t>(i)].c_str());
+        values.push_back(i);
+        formula += texts[static_cast<std::size_t>(i)] + L"+";
+        sum += i;
+    }
+    formula += L"0";
+    double result = kUntouched;
+
+    EXPECT_EQ(1, evaluateFormula(formula.c_str(), names.data(), values.data(), kMany, &result));
+    EXPECT_EQ(sum, result);
+}
+
+TEST_F(evaluateFormulaTest, TheLocaleHasNoInfluence)
+{
+    bool isSet = false;
+    for (const char* name : { "de_DE.UTF-8", "de_DE.utf8", "de_DE", "fr_FR.UTF-8", "fr_FR.utf8" })
+        isSet = isSet || std::setlocale(LC_ALL, name) != nullptr;
+    if (!isSet)
+        GTEST_SKIP() << "no locale with a decimal comma is installed";
+
+    const Outcome outcome = evaluate(L"1.5 + 0.25");
+
+    std::setlocale(LC_ALL, "C");
+    EXPECT_EQ(1, outcome.nResult);
+    EXPECT_EQ(1.75, outcome.result);
+}

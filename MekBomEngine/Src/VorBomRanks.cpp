@@ -1,0 +1,130 @@
+#include "VorBomRanks.h"
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_map>
+#include <utility>
+
+namespace
+{
+bool isMissing(const VorBomDataTuple* pTuple)
+{
+    return pTuple == nullptr;
+}
+
+// The kind of all values there are; kUnknownData when they are of several kinds, or one is empty.
+VorBomDataValue::eBomDataValueType commonType(const std::vector<const VorBomDataTuple*>& tuples)
+{
+    VorBomDataValue::eBomDataValueType common = VorBomDataValue::kUnknownData;
+    for (const VorBomDataTuple* pTuple : tuples)
+    {
+        if (pTuple == nullptr)
+            continue;
+        const VorBomDataValue::eBomDataValueType type = pTuple->value().type();
+        if (type == VorBomDataValue::kUnknownData || (common != VorBomDataValue::kUnknownData && common != type))
+            return VorBomDataValue::kUnknownData;
+        common = type;
+    }
+    return common;
+}
+
+const VorString& textOf(const VorBomDataTuple& tuple)
+{
+    return *static_cast<const VorString*>(tuple.value().data());
+}
+
+bool canFollow(int, int)
+{
+    return true;
+}
+
+// Whether a double may rank right after a smaller or equal one: when comparing them tells the same.
+bool canFollow(double smaller, double larger)
+{
+    if (std::isnan(smaller) || std::isnan(larger))
+        return false;
+    return smaller == larger || VorBomDataValue(smaller).compare(VorBomDataValue(larger)) != 0;
+}
+}
+
+int VorBomRanks::create(const std::vector<const VorBomDataTuple*>& tuples, VorBomDataToken::eSortType sortType)
+{
+    if (std::all_of(tuples.begin(), tuples.end(), isMissing))
+    {
+        m_ranks.assign(tuples.size(), 0);
+        return 1;
+    }
+    const bool isNatural = sortType == VorBomDataToken::kSortAlphanumeric;
+    switch (commonType(tuples))
+    {
+        case VorBomDataValue::kStringData: return rankTexts(tuples, isNatural);
+        case VorBomDataValue::kIntData: return isNatural ? 0 : rankNumbers<int>(tuples);
+        case VorBomDataValue::kDoubleData: return isNatural ? 0 : rankNumbers<double>(tuples);
+        default: return 0;
+    }
+}
+
+// Counts how many rows have each rank, then puts the rows in their places, from the first on.
+void VorBomRanks::sortStably(std::vector<std::uint32_t>& rows, bool isAscending) const
+{
+    const auto placeOf = [&](std::uint32_t row) { return isAscending ? m_ranks[row] : m_nNumRanks - 1 - m_ranks[row]; };
+    std::vector<std::uint32_t> next(m_nNumRanks + 1);
+    for (const std::uint32_t row : rows)
+        ++next[placeOf(row) + 1];
+    for (std::uint32_t rank = 0; rank < m_nNumRanks; ++rank)
+        next[rank + 1] += next[rank];
+
+    std::vector<std::uint32_t> sorted(rows.size());
+    for (const std::uint32_t row : rows)
+        sorted[next[placeOf(row)]++] = row;
+    rows = std::move(sorted);
+}
+
+// Each text that rows share is looked at once.
+int VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bool naturally)
+{
+    std::unordered_map<const wchar_t*, std::uint32_t> rankOfText;
+    std::vector<const VorString*> texts;
+    for (const VorBomDataTuple* pTuple : tuples)
+        if (pTuple != nullptr && rankOfText.emplace(textOf(*pTuple).getStringW(), 0).second)
+            texts.push_back(&textOf(*pTuple));
+
+    const auto compare = naturally ? &VorString::compareWithNumbers
+                                   : static_cast<int (*)(const VorString&, const VorString&)>(&VorString::compare);
+    std::sort(texts.begin(), texts.end(), [&](const VorString* a, const VorString* b) { return compare(*a, *b) < 0; });
+    for (std::size_t i = 0; i < texts.size(); ++i)
+    {
+        if (i > 0 && compare(*texts[i - 1], *texts[i]) != 0)
+            ++m_nNumRanks;
+        rankOfText[texts[i]->getStringW()] = m_nNumRanks;
+    }
+    ++m_nNumRanks;
+
+    m_ranks.reserve(tuples.size());
+    for (const VorBomDataTuple* pTuple : tuples)
+        m_ranks.push_back(pTuple == nullptr ? 0 : rankOfText.find(textOf(*pTuple).getStringW())->second);
+    return 1;
+}
+
+template <class Number>
+int VorBomRanks::rankNumbers(const std::vector<const VorBomDataTuple*>& tuples)
+{
+    std::vector<std::pair<Number, std::uint32_t>> values; // with their rows
+    for (std::size_t row = 0; row < tuples.size(); ++row)
+        if (tuples[row] != nullptr)
+            values.emplace_back(*static_cast<const Number*>(tuples[row]->value().data()),
+                                static_cast<std::uint32_t>(row));
+    std::sort(values.begin(), values.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+
+    m_ranks.assign(tuples.size(), 0);
+    for (std::size_t i = 0; i < values.size(); ++i)
+    {
+        if (i > 0 && !canFollow(values[i - 1].first, values[i].first))
+            return 0;
+        if (i > 0 && values[i - 1].first != values[i].first)
+            ++m_nNumRanks;
+        m_ranks[values[i].second] = m_nNumRanks;
+    }
+    ++m_nNumRanks;
+    return 1;
+}
