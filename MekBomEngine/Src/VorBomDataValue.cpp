@@ -25,21 +25,9 @@ bool holdsPayload(int type)
     return type >= VorBomDataValue::kIntData && type <= VorBomDataValue::kStringData;
 }
 
-template <class T>
-T* createPayload(const T& value)
-{
-    return ::new (VorMemoryControllerController::allocateArray(1, sizeof(T))) T(value);
-}
-
-// Null is allowed.
-template <class T>
-void destroyPayload(void* pData)
-{
-    if (pData == nullptr)
-        return;
-    static_cast<T*>(pData)->~T();
-    VorMemoryControllerController::deallocateArray(pData, 1, sizeof(T));
-}
+// Payloads of all kinds take cells of one size, so that a value keeps its cell when its kind changes.
+constexpr std::size_t kCellSize = sizeof(double);
+static_assert(sizeof(int) <= kCellSize && sizeof(VorString) <= kCellSize, "a cell holds any payload");
 
 int compareInts(int first, int second)
 {
@@ -70,11 +58,6 @@ VorString textOf(double value)
 }
 }
 
-VorBomDataValue::VorBomDataValue(VorBomDataValue&& other) noexcept
-{
-    exchange(other);
-}
-
 VorBomDataValue& VorBomDataValue::operator=(const VorBomDataValue& other)
 {
     if (this == &other)
@@ -101,28 +84,27 @@ VorBomDataValue& VorBomDataValue::operator=(VorBomDataValue&& other) noexcept
     return *this;
 }
 
-// In each set the new payload exists before the old one goes: the argument may stand in the old one.
 void VorBomDataValue::set(int value)
 {
-    int* pData = createPayload(value);
-    empty();
-    m_pData = pData;
+    ::new (freeCell()) int(value);
     m_nType = kIntData;
 }
 
 void VorBomDataValue::set(double value)
 {
-    double* pData = createPayload(value);
-    empty();
-    m_pData = pData;
+    ::new (freeCell()) double(value);
     m_nType = kDoubleData;
 }
 
 void VorBomDataValue::set(const VorString& value)
 {
-    VorString* pData = createPayload(value);
-    empty();
-    m_pData = pData;
+    set(VorString(value)); // the argument may be this value's own text
+}
+
+void VorBomDataValue::set(VorString&& value)
+{
+    VorString text(std::move(value));
+    ::new (freeCell()) VorString(std::move(text));
     m_nType = kStringData;
 }
 
@@ -170,16 +152,35 @@ VorString VorBomDataValue::asString() const
 
 void VorBomDataValue::empty()
 {
-    switch (m_nType)
-    {
-        case kUnknownData: break;
-        case kIntData: destroyPayload<int>(m_pData); break;
-        case kDoubleData: destroyPayload<double>(m_pData); break;
-        case kStringData: destroyPayload<VorString>(m_pData); break;
-        default: reportMisuse(__LINE__); break; // what the payload is, nobody knows
-    }
+    if (m_nType == kUnknownData)
+        return;
+    endPayload();
+    if (m_pData != nullptr && holdsPayload(m_nType))
+        VorMemoryControllerController::deallocateArray(m_pData, 1, kCellSize);
     m_pData = nullptr;
     m_nType = kUnknownData;
+}
+
+// Ends the payload's life and leaves its cell.
+void VorBomDataValue::endPayload()
+{
+    if (m_nType == kStringData && m_pData != nullptr)
+        static_cast<VorString*>(m_pData)->~VorString();
+    else if (!holdsPayload(m_nType))
+        reportMisuse(__LINE__); // what the payload is, nobody knows
+}
+
+// A cell for the next payload: the present one where there is one.
+void* VorBomDataValue::freeCell()
+{
+    const bool keepsCell = m_pData != nullptr && holdsPayload(m_nType);
+    if (keepsCell)
+        endPayload();
+    else
+        empty();
+    if (m_pData == nullptr)
+        m_pData = VorMemoryControllerController::allocateArray(1, kCellSize);
+    return m_pData;
 }
 
 void VorBomDataValue::exchange(VorBomDataValue& other) noexcept

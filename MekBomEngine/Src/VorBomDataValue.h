@@ -35,7 +35,11 @@ public:
     VorBomDataValue(const VorBomDataValue& other) { *this = other; }
 
     // Takes the payload over; `other` is empty afterwards.
-    VorBomDataValue(VorBomDataValue&& other) noexcept;
+    VorBomDataValue(VorBomDataValue&& other) noexcept : m_nType(other.m_nType), m_pData(other.m_pData)
+    {
+        other.m_nType = kUnknownData;
+        other.m_pData = nullptr;
+    }
 
     // Copies the payload.
     // On purpose: assigning an empty value leaves the target exactly as it was, it does not clear it; callers overlay
@@ -53,6 +57,7 @@ public:
     void set(int value);
     void set(double value);
     void set(const VorString& value);
+    void set(VorString&& value); // takes the text over
 
     // The payload, to be cast by type(): int*, double* or VorString*; null for an empty value. It lives until this value
     // changes.
@@ -82,6 +87,8 @@ private:
     double doubleValue() const { return *static_cast<const double*>(m_pData); }
     const VorString& textValue() const { return *static_cast<const VorString*>(m_pData); }
     void exchange(VorBomDataValue& other) noexcept;
+    void endPayload();
+    void* freeCell();
 
     eBomDataValueType m_nType = kUnknownData;
     void* m_pData = nullptr;

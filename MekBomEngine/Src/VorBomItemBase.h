@@ -18,7 +18,10 @@
 #include "VorBomDataTuple.h"
 
 #include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorMemoryControllerController.h"
 #include "MekRoots/Exp/VorString.h"
+
+#include <cstddef>
 
 class MEK_BOM_API VorBomItemBase
 {
@@ -30,6 +33,13 @@ public:
     VorBomItemBase& operator=(const VorBomItemBase& other) = default;
 
     virtual ~VorBomItemBase() = default;
+
+    // Items come from the pool that tuples and texts come from.
+    static void* operator new(std::size_t size) { return VorMemoryControllerController::allocateArray(1, size); }
+    static void operator delete(void* pItem, std::size_t size)
+    {
+        VorMemoryControllerController::deallocateArray(pItem, 1, size);
+    }
 
     // Appends one line per item to `out`: for each tuple "[token:value]", as VorBomDataValue::asString shows the value.
     // With `withChildren` 1 the children follow on lines of their own, each led by one blank per level; with
