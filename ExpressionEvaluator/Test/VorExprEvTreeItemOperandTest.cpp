@@ -157,6 +157,22 @@ TEST_F(VorExprEvTreeItemOperandTest, NamesAreComparedExactly)
     EXPECT_EQ(VorString(L"1.000000"), valueOf(view(L"My Length*2").part(3, 9)));
 }
 
+TEST_F(VorExprEvTreeItemOperandTest, ItsNumberIsKnownWithoutEvaluating)
+{
+    double number = 99.0;
+
+    EXPECT_EQ(1, VorExprEvTreeItemOperand(view(L"2abc")).getNumber(number));
+    EXPECT_EQ(2.0, number);
+    EXPECT_EQ(0, VorExprEvTreeItemOperand(view(L"abc")).getNumber(number));
+    EXPECT_EQ(2.0, number); // untouched
+    EXPECT_EQ(1, VorExprEvTreeItemOperand(view(L"\v")).getNumber(number));
+    EXPECT_EQ(0.0, number);
+    number = 99.0;
+    EXPECT_EQ(1, VorExprEvTreeItemOperand(VorExprEvTextView()).getNumber(number));
+    EXPECT_EQ(0.0, number);
+    EXPECT_EQ("", errorCodes());
+}
+
 TEST_F(VorExprEvTreeItemOperandTest, ItIsCompleteAndNoOperator)
 {
     const VorExprEvTreeItemOperand operand(view(L"abc").part(1, 2));

@@ -74,6 +74,17 @@ TEST_F(VorExprEvTreeItemOperatorTest, ArithmeticGivesDoubles)
     EXPECT_EQ(VorString(L"5.333333"), valueOf(node(L"/", L"8", L"1.5")));
 }
 
+TEST_F(VorExprEvTreeItemOperatorTest, CalculatingRaisesNoError)
+{
+    double result = 99.0;
+
+    EXPECT_EQ(1, VorExprEvTreeItemOperator::calculate(L'-', 8.0, 1.5, result));
+    EXPECT_EQ(6.5, result);
+    EXPECT_EQ(0, VorExprEvTreeItemOperator::calculate(L'/', 8.0, 0.00005, result));
+    EXPECT_EQ(0.0, result);
+    EXPECT_EQ("", errorCodes());
+}
+
 TEST_F(VorExprEvTreeItemOperatorTest, IntegersAreComputedAsDoubles)
 {
     define(L"a", integerValue(3));
