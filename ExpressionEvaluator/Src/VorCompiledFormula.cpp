@@ -9,42 +9,8 @@
 #include "VorExprEvalErrorHandler.h"
 #include "VorExpressionEvaluator.h"
 
-#include "MekRoots/Exp/VorNumberText.h"
-
-#include <algorithm>
-#include <cmath>
-#include <string_view>
-
 namespace
 {
-constexpr int kDecimals = 6; // of a value's text
-constexpr double kParts = 1e6;
-
-// Below this many millionths the product with 1e6 is off by less than kTooCloseToCall.
-constexpr double kMostParts = 17592186044416.0; // 2^44
-constexpr double kTooCloseToCall = 1.0 / 256;
-
-double roundThroughText(double value)
-{
-    wchar_t text[VorNumberText::fixedRoom(kDecimals) + 1];
-    text[VorNumberText::writeFixed(value, kDecimals, text)] = L'\0';
-    return VorString::toDouble(text, 0);
-}
-
-// The double that a value's text is read as. Unless the value lies about in the middle between two texts, the text is
-// the nearest whole number of millionths, and reading it gives the quotient of two whole numbers, correctly rounded, as
-// a division does.
-double roundToText(double value)
-{
-    const double parts = value * kParts;
-    if (!(std::fabs(parts) < kMostParts))
-        return roundThroughText(value);
-    const double rounded = std::nearbyint(parts);
-    if (std::fabs(std::fabs(parts - rounded) - 0.5) < kTooCloseToCall)
-        return roundThroughText(value);
-    return rounded / kParts;
-}
-
 bool isSingleStatement(std::wstring_view text)
 {
     return text.find_first_of(L";=") == std::wstring_view::npos;
@@ -58,6 +24,8 @@ VorCompiledFormula::VorCompiledFormula(const wchar_t* text, int length)
     VorExpressionEvaluator parser;
     m_bFails = parser.parse(VorExprEvTextView(text, 0, length)) == 0 ? 1 : 0;
     m_bCompiled = m_bFails != 0 || parser.root() == nullptr ? 1 : compile(parser.root());
+    if (!m_bCompiled)
+        m_names.clear();
     VorExprEvalErrorHandler::ofThread().clear();
 }
 
@@ -70,6 +38,7 @@ int VorCompiledFormula::compile(const VorExprEvTreeItem* pRoot)
         bool sidesAreDone;
     };
     std::vector<Pending> pending{ { pRoot, false } };
+    NameIndices indices;
     int depth = 0;
     while (!pending.empty())
     {
@@ -89,7 +58,7 @@ int VorCompiledFormula::compile(const VorExprEvTreeItem* pRoot)
         }
         else
         {
-            addOperand(here.pItem);
+            addOperand(here.pItem, indices);
             if (++depth > kDeepest)
                 return 0;
         }
@@ -98,7 +67,7 @@ int VorCompiledFormula::compile(const VorExprEvTreeItem* pRoot)
 }
 
 // Null for a missing side.
-void VorCompiledFormula::addOperand(const VorExprEvTreeItem* pOperand)
+void VorCompiledFormula::addOperand(const VorExprEvTreeItem* pOperand, NameIndices& indices)
 {
     double number = 0.0;
     if (pOperand == nullptr || static_cast<const VorExprEvTreeItemOperand*>(pOperand)->getNumber(number))
@@ -106,17 +75,15 @@ void VorCompiledFormula::addOperand(const VorExprEvTreeItem* pOperand)
         m_steps.push_back({ kPushNumber, 0, number });
         return;
     }
-    const std::wstring_view name = pOperand->getText().existingPart();
-    m_steps.push_back({ kPushName, indexOfName(VorString(name.data(), static_cast<int>(name.size()))), 0.0 });
+    m_steps.push_back({ kPushName, indexOfName(pOperand->getText().existingPart(), indices), 0.0 });
 }
 
-int VorCompiledFormula::indexOfName(const VorString& name)
+int VorCompiledFormula::indexOfName(std::wstring_view name, NameIndices& indices)
 {
-    const auto found = std::find(m_names.begin(), m_names.end(), name);
-    const auto index = static_cast<int>(found - m_names.begin());
-    if (found == m_names.end())
-        m_names.push_back(name);
-    return index;
+    const auto [found, isNew] = indices.emplace(name, static_cast<int>(m_names.size()));
+    if (isNew)
+        m_names.emplace_back(name.data(), static_cast<int>(name.size()));
+    return found->second;
 }
 
 int VorCompiledFormula::evaluate(const double* values, double& result) const
@@ -139,6 +106,6 @@ int VorCompiledFormula::evaluate(const double* values, double& result) const
                 break;
         }
     }
-    result = roundToText(*pTop);
+    result = VorExprEvValue::readBack(*pTop);
     return 1;
 }

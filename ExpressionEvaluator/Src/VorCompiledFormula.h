@@ -17,6 +17,8 @@
 #include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
+#include <map>
+#include <string_view>
 #include <vector>
 
 class VorExprEvTreeItem;
@@ -26,7 +28,7 @@ class MEK_EXPRESSION_API VorCompiledFormula
 public:
     VorCompiledFormula(const wchar_t* text, int length);
 
-    // 0 for a formula that must go through ExpressionsEvaluator; nothing else may be asked of it.
+    // 0 for a formula that must go through ExpressionsEvaluator; it has no names and may not be evaluated.
     int isCompiled() const { return m_bCompiled; }
 
     // The names to be given a value, each once.
@@ -50,9 +52,11 @@ private:
     static constexpr wchar_t kPushNumber = L'#';
     static constexpr wchar_t kPushName = L'%';
 
+    using NameIndices = std::map<std::wstring_view, int>; // into m_names, while they are gathered
+
     int compile(const VorExprEvTreeItem* pRoot);
-    void addOperand(const VorExprEvTreeItem* pOperand);
-    int indexOfName(const VorString& name);
+    void addOperand(const VorExprEvTreeItem* pOperand, NameIndices& indices);
+    int indexOfName(std::wstring_view name, NameIndices& indices);
 
     std::vector<Step> m_steps; // empty for a formula without operands, whose value is 0
     std::vector<VorString> m_names;

@@ -29,16 +29,16 @@ VorExprEvValue& VorExprEvTreeItemOperand::evaluate(VorExprEvValue& value) const
     return value;
 }
 
-int VorExprEvTreeItemOperand::getNumber(double& number) const
+int VorExprEvTreeItemOperand::scanNumber(const VorExprEvTextView& text, double& number)
 {
-    if (!m_text.hasText())
+    if (!text.hasText())
     {
         number = 0.0;
         return 1;
     }
     float scanned = 0.0F;
-    const wchar_t* pStart = m_text.text() + m_text.start();
-    const wchar_t* pEnd = m_text.text() + m_text.textLength();
+    const wchar_t* pStart = text.text() + text.start();
+    const wchar_t* pEnd = text.text() + text.textLength();
     const VorNumberText::eScanResult result = VorNumberText::scanFloat(pStart, pEnd, scanned);
     if (result == VorNumberText::kNoNumber)
         return 0;

@@ -21,7 +21,8 @@ public:
     VorExprEvValue& evaluate(VorExprEvValue& value) const override;
 
     // The number that evaluating gives, 0.0 for no text; 0 with `number` untouched for a name.
-    int getNumber(double& number) const;
+    int getNumber(double& number) const { return scanNumber(m_text, number); }
+    static int scanNumber(const VorExprEvTextView& text, double& number);
 
     VorExprEvTextView getText() const override { return m_text; }
     int isComplete() const override { return 1; }

@@ -4,6 +4,7 @@
 #include "MekRoots/Exp/VorMemoryControllerController.h"
 #include "MekRoots/Exp/VorNumberText.h"
 
+#include <cmath>
 #include <cstddef>
 #include <cwchar>
 
@@ -13,6 +14,11 @@ const wchar_t kSourcePath[] = L"ExpressionEvaluator/Src/VorExprEvValue"; // name
 constexpr int kImpossibleTypeLine = 172;                                 // visible to callers
 
 constexpr int kDecimals = 6;
+constexpr double kParts = 1e6;
+
+// Below this many millionths the product with 1e6 is off by less than kTooCloseToCall.
+constexpr double kMostParts = 17592186044416.0; // 2^44
+constexpr double kTooCloseToCall = 1.0 / 256;
 static_assert(VorNumberText::fixedRoom(kDecimals) < VorExprEvValue::kBufferLength, "every double has its text");
 
 std::size_t cellSize(VorExprEvValue::eType type)
@@ -24,6 +30,14 @@ std::size_t cellSize(VorExprEvValue::eType type)
         case VorExprEvValue::kBoolean: return sizeof(unsigned char);
         default: return 0;
     }
+}
+
+double readBackText(double value)
+{
+    wchar_t text[VorNumberText::fixedRoom(kDecimals) + 1];
+    text[VorNumberText::writeFixed(value, kDecimals, text)] = L'\0';
+    const wchar_t* pEnd = nullptr;
+    return VorNumberText::scanDouble(text, pEnd, 0);
 }
 }
 
@@ -75,6 +89,19 @@ int VorExprEvValue::toText(wchar_t* buffer) const
     }
     VorAssert::vorAssert(L"false", kSourcePath, kImpossibleTypeLine);
     return 0;
+}
+
+// Unless the value lies about in the middle between two texts, its text is the nearest whole number of millionths, and
+// reading it gives the quotient of two whole numbers, correctly rounded, as a division does.
+double VorExprEvValue::readBack(double value)
+{
+    const double parts = value * kParts;
+    if (!(std::fabs(parts) < kMostParts))
+        return readBackText(value);
+    const double rounded = std::nearbyint(parts);
+    if (std::fabs(std::fabs(parts - rounded) - 0.5) < kTooCloseToCall)
+        return readBackText(value);
+    return rounded / kParts;
 }
 
 void VorExprEvValue::release()

@@ -45,6 +45,9 @@ public:
     // and answers 0.
     int toText(wchar_t* buffer) const;
 
+    // The double that the text of a double is read as: the value rounded to its text's six decimals.
+    static double readBack(double value);
+
     // Frees the cell; the value is unknown then.
     void release();
 

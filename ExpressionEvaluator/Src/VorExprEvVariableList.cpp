@@ -1,5 +1,6 @@
 #include "VorExprEvVariableList.h"
 
+#include <cwchar>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -16,6 +17,42 @@ VorExprEvVariableList& VorExprEvVariableList::ofThread()
     return t_list;
 }
 
+const VorExprEvVariable* VorExprEvVariableList::head()
+{
+    makeAnnounced();
+    return m_pHead;
+}
+
+int VorExprEvVariableList::count()
+{
+    makeAnnounced();
+    return m_nCount;
+}
+
+void VorExprEvVariableList::announce(const wchar_t* const* names, const double* values, int count)
+{
+    for (int i = 0; i < count; ++i)
+    {
+        if (names[i] == nullptr)
+            continue;
+        if (m_nAnnounced == kMostAnnounced)
+            makeAnnounced();
+        const int nLength = static_cast<int>(std::wcslen(names[i]));
+        m_announced[m_nAnnounced++] = { VorExprEvTextView(names[i], 0, nLength), values[i] };
+    }
+}
+
+void VorExprEvVariableList::makeAnnounced()
+{
+    const int nAnnounced = std::exchange(m_nAnnounced, 0);
+    for (int i = 0; i < nAnnounced; ++i)
+    {
+        VorExprEvValue value;
+        value.setDouble(m_announced[i].value);
+        prepend(m_announced[i].name, value);
+    }
+}
+
 int VorExprEvVariableList::addVariable(const VorExprEvTextView& name, VorExprEvValue& value)
 {
     prepend(name, value);
@@ -25,6 +62,7 @@ int VorExprEvVariableList::addVariable(const VorExprEvTextView& name, VorExprEvV
 
 void VorExprEvVariableList::prepend(const VorExprEvTextView& name, const VorExprEvValue& value)
 {
+    makeAnnounced();
     auto pVariable = std::make_unique<VorExprEvVariable>(name, value, m_pHead);
     if (!m_index.empty())
         m_index.insert_or_assign(name, pVariable.get());
@@ -34,6 +72,7 @@ void VorExprEvVariableList::prepend(const VorExprEvTextView& name, const VorExpr
 
 const VorExprEvVariable* VorExprEvVariableList::find(const VorExprEvTextView& name)
 {
+    makeAnnounced();
     return m_nCount <= kLongestWalk ? findInList(name) : findInIndex(name);
 }
 
@@ -48,6 +87,7 @@ void VorExprEvVariableList::clear()
         m_pHead = pOlder;
     }
     m_nCount = 0;
+    m_nAnnounced = 0;
 }
 
 // Names that are equal hash alike: zero characters at the end are left out, whether they exist or not.

@@ -26,8 +26,12 @@ public:
     static VorExprEvVariableList& ofThread();
 
     // The newest variable, or null.
-    const VorExprEvVariable* head() const { return m_pHead; }
-    int count() const { return m_nCount; }
+    const VorExprEvVariable* head();
+    int count();
+
+    // Adds double variables, null names passed over, the last one newest. The numbers are copied now; up to
+    // kMostAnnounced variables are not made before somebody asks for them, which most evaluations never do.
+    void announce(const wchar_t* const* names, const double* values, int count);
 
     // Puts a new variable with a copy of `value` at the head, then releases `value`. An unknown value makes a variable
     // without one. Returns 1.
@@ -52,6 +56,16 @@ private:
     };
     using Index = std::unordered_map<VorExprEvTextView, const VorExprEvVariable*, NameHash, NameEqual>;
 
+    // Formulas of reports use fewer variables. Arbitrary.
+    static constexpr int kMostAnnounced = 16;
+
+    struct Announced
+    {
+        VorExprEvTextView name;
+        double value;
+    };
+
+    void makeAnnounced();
     const VorExprEvVariable* findInList(const VorExprEvTextView& name) const;
     const VorExprEvVariable* findInIndex(const VorExprEvTextView& name);
     void buildIndex();
@@ -59,4 +73,6 @@ private:
     VorExprEvVariable* m_pHead = nullptr;
     int m_nCount = 0;
     Index m_index;
+    Announced m_announced[kMostAnnounced];
+    int m_nAnnounced = 0; // newer than all that are in the list
 };

@@ -1,7 +1,9 @@
 #include "evaluateFormula.h"
 
 #include "ExpressionsEvaluator.h"
+#include "VorExprEvVariableList.h"
 #include "VorExpressionEvaluator.h"
+#include "VorFormulaCalculator.h"
 
 #include "MekRoots/Exp/VorString.h"
 
@@ -19,18 +21,6 @@ bool isFormula(const wchar_t* text, std::size_t nLength)
            std::wcspbrk(text, VorExpressionEvaluator::kOperatorCharacters) != nullptr;
 }
 
-void addVariables(ExpressionsEvaluator& evaluator, const wchar_t* const* names, const double* values, int count)
-{
-    VorExprEvValue value;
-    for (int i = 0; i < count; ++i)
-    {
-        if (names[i] == nullptr)
-            continue;
-        value.setDouble(values[i]);
-        evaluator.addVariable(VorExprEvTextView(names[i], 0, static_cast<int>(std::wcslen(names[i]))), value);
-    }
-}
-
 int evaluateOrThrow(const wchar_t* formula, const wchar_t* const* names, const double* values, int count,
                     double* result)
 {
@@ -40,7 +30,14 @@ int evaluateOrThrow(const wchar_t* formula, const wchar_t* const* names, const d
     ExpressionsEvaluator evaluator(formula, static_cast<unsigned int>(nLength));
     if (!isFormula(formula, nLength) || names == nullptr || values == nullptr || count < 0)
         return 0;
-    addVariables(evaluator, names, values, count);
+    VorExprEvVariableList::ofThread().announce(names, values, count);
+    double quickResult = 0;
+    if (VorFormulaCalculator(names, values, count).calculate(formula, static_cast<int>(nLength), quickResult))
+    {
+        if (result != nullptr)
+            *result = quickResult;
+        return 1;
+    }
     wchar_t buffer[VorExprEvValue::kBufferLength];
     const int nResult = evaluator.evaluate(buffer);
     if (nResult != 0 && result != nullptr)

@@ -21,7 +21,7 @@
 
 namespace
 {
-const unsigned long long kUsualCases = 40000;
+const unsigned long long kUsualCases = 25000;
 
 // What a formula may know; some of them look like numbers and are therefore never seen.
 const wchar_t* const kNames[] = { L"a",      L"b",  L"A",  L"%Weight", L"my length", L"infix", L"nab",

@@ -74,6 +74,36 @@ TEST(VorCompiledFormulaTest, StatementsAssignmentsAndDeepFormulasAreLeftToTheEva
     deep += L"1";
     deep.append(L')', 100);
     EXPECT_EQ(0, compile(deep).isCompiled());
+
+    VorString deepNames;
+    for (int i = 0; i < 100; ++i)
+        deepNames += L"a+(";
+    deepNames += L"a";
+    deepNames.append(L')', 100);
+    EXPECT_EQ(0, compile(deepNames).isCompiled());
+    EXPECT_EQ(0U, compile(deepNames).names().size());
+}
+
+TEST(VorCompiledFormulaTest, VeryManyNamesAreFoundWithoutSearchingThemOneByOne)
+{
+    const int numNames = 200000;
+    VorString sum(L"0");
+    for (int i = 0; i < numNames; ++i)
+    {
+        VorString name;
+        name.format(L"+%%n%d", i);
+        sum += name;
+    }
+
+    const VorCompiledFormula formula = compile(sum);
+
+    ASSERT_EQ(1, formula.isCompiled());
+    ASSERT_EQ(static_cast<std::size_t>(numNames), formula.names().size());
+    EXPECT_EQ(VorString(L"%n199999"), formula.names().back());
+    const std::vector<double> values(formula.names().size(), 0.5);
+    double result = 0.0;
+    EXPECT_EQ(1, formula.evaluate(values.data(), result));
+    EXPECT_EQ(100000.0, result);
 }
 
 TEST(VorCompiledFormulaTest, FormulasGiveWhatTheStatementEvaluatorGives)
