@@ -57,7 +57,7 @@ void splitAtCommas(VorString list, Append append)
     list.removeAll(L' ');
     const wchar_t* pText = list.getStringW();
     int start = 0;
-    for (int comma = list.find(kComma, 0); comma > start; comma = list.find(L",", start))
+    for (int comma = list.find(kComma, 0); comma > start; comma = list.find(kComma, start))
     {
         append(VorString(pText + start, comma - start));
         start = comma + 1;

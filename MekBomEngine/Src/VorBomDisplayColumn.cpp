@@ -37,6 +37,14 @@ void VorBomDisplayColumn::show(VorBomTemplateUnits& units, VorBomDataValue& valu
     }
 }
 
+void VorBomDisplayColumn::showAll(std::vector<VorBomDisplayColumn>& columns, VorBomTemplateUnits& units,
+                                  VorBomDataTupleArray& tuples)
+{
+    VorBomDataTuple* pTuple = tuples.begin();
+    for (VorBomDisplayColumn& column : columns)
+        column.show(units, pTuple++->value());
+}
+
 void VorBomDisplayColumn::lookUpType(VorBomTemplateUnits& units)
 {
     if (m_isFormula)

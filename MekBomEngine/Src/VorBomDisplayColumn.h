@@ -9,12 +9,16 @@
 #pragma once
 
 #include "VorBomDataToken.h"
+#include "VorBomDataTuple.h"
 #include "VorBomDataValue.h"
 #include "VorBomTemplateUnits.h"
 
+#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
-class VorBomDisplayColumn
+#include <vector>
+
+class MEK_BOM_API VorBomDisplayColumn
 {
 public:
     explicit VorBomDisplayColumn(const VorBomDataToken& token);
@@ -22,6 +26,10 @@ public:
     // Replaces a number by its text; texts and empty values stay. Integers get no units. A formula's unit, once found,
     // is registered with `units` under the formula's text.
     void show(VorBomTemplateUnits& units, VorBomDataValue& value);
+
+    // The same for a section's tuples from the first to the last, columns[i] showing tuples[i].
+    static void showAll(std::vector<VorBomDisplayColumn>& columns, VorBomTemplateUnits& units,
+                        VorBomDataTupleArray& tuples);
 
 private:
     static constexpr int kNeverLookedUp = -1;

@@ -17,7 +17,7 @@
 
 class VorBomLevelPlan;
 
-using VorBomDataRowPointerArray = VorArray<VorBomDataRow*, VorArrayMemCopyReallocator<VorBomDataRow*>>;
+using VorBomDataRowPointerArray = VorArray<VorBomDataRow*>;
 
 class MEK_BOM_API VorBomEngineState
 {

@@ -18,7 +18,7 @@ namespace
 {
 const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomEvaluator2"; // named in assertion reports
 
-VorBomTemplateItem* sectionAt(VorBomItemBase* pItem)
+VorBomTemplateItem* asSection(VorBomItemBase* pItem)
 {
     return static_cast<VorBomTemplateItem*>(pItem); // children of sections are sections
 }
@@ -55,11 +55,11 @@ VorBomEngineStateArray VorBomEvaluator2::getTemplateStack(VorBomTemplate* pTempl
 {
     const auto pLayouts = std::make_shared<VorBomRowLayouts>();
     VorBomEngineStateArray stack;
-    for (VorBomTemplateItem* pItem = sectionAt(pTemplate->child()); pItem != nullptr; pItem = sectionAt(pItem->child()))
+    for (VorBomTemplateItem* pItem = asSection(pTemplate->child()); pItem != nullptr; pItem = asSection(pItem->child()))
     {
         VorBomEngineState state;
         state.m_pHeader = pItem;
-        state.m_pFooter = sectionAt(pItem->next());
+        state.m_pFooter = asSection(pItem->next());
         state.m_pPlan = std::make_shared<VorBomLevelPlan>(pLayouts, *state.m_pHeader, state.m_pFooter);
         stack.append(std::move(state));
     }
@@ -179,7 +179,7 @@ void VorBomEvaluator2::dropDuplicateDetails(VorBomEngineStateArray& stack, int l
         return;
     VorBomTemplateItem* pParent = stack[level - 1].m_pEvaluatedHeader;
     if (pParent->child() == nullptr || pParent->lastChild() == nullptr ||
-        isEqualAsEvaluated(pDetails, sectionAt(pParent->lastChild())) == 0)
+        isEqualAsEvaluated(pDetails, asSection(pParent->lastChild())) == 0)
         return;
 
     if (completedGroup.m_dataRows.length() != 1)

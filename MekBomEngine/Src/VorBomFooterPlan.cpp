@@ -102,9 +102,7 @@ std::unique_ptr<VorBomTemplateItem> VorBomFooterPlan::finish(const VorBomDataRow
 
 void VorBomFooterPlan::showInUnits(VorBomTemplateUnits& units, VorBomTemplateItem& evaluated)
 {
-    VorBomDataTuple* pTuple = evaluated.getData().begin();
-    for (VorBomDisplayColumn& display : m_displays)
-        display.show(units, pTuple++->value());
+    VorBomDisplayColumn::showAll(m_displays, units, evaluated.getData());
 }
 
 void VorBomFooterPlan::beginFooter()

@@ -14,10 +14,12 @@
 #include "VorBomEngineState.h"
 #include "VorBomTemplateItem.h"
 
+#include "MekRoots/Exp/MekExport.h"
+
 #include <memory>
 #include <vector>
 
-class VorBomFooterPlan
+class MEK_BOM_API VorBomFooterPlan
 {
 public:
     // The section is not owned and must not change as long as the plan is used.

@@ -3,7 +3,7 @@
 #include "ExpressionEvaluator/Src/ExpressionsEvaluator.h"
 
 #include <algorithm>
-#include <cwchar>
+#include <string_view>
 #include <utility>
 
 namespace
@@ -13,7 +13,22 @@ const wchar_t kOperators[] = L"*/+-=()";
 
 bool isComputable(const VorString& formula)
 {
-    return formula.length() >= kShortestFormula && std::wcspbrk(formula.getStringW(), kOperators) != nullptr;
+    const std::wstring_view text(formula.getStringW(), static_cast<std::size_t>(formula.length()));
+    return formula.length() >= kShortestFormula && text.find_first_of(kOperators) != std::wstring_view::npos;
+}
+
+bool isBefore(const VorString& a, const VorString& b)
+{
+    return VorString::compare(a, b) < 0;
+}
+
+// The tokens that the formula takes from the row, in the order of isBefore.
+std::vector<VorString> sortedRowTokens(const VorString& formula)
+{
+    const VorStringArray tokens = VorBomDataToken::getTokensFromFormula(formula);
+    std::vector<VorString> sorted(tokens.begin(), tokens.end());
+    std::sort(sorted.begin(), sorted.end(), isBefore);
+    return sorted;
 }
 
 // 0 with `number` untouched for a text or an empty value.
@@ -66,8 +81,10 @@ VorBomFormulaColumn::VorBomFormulaColumn(std::shared_ptr<VorBomRowLayouts> pLayo
       m_rowColumns(std::move(pLayouts), m_compiled.names()),
       m_values(m_compiled.names().size())
 {
+    const std::vector<VorString> rowTokens = sortedRowTokens(m_formula);
     for (const VorString& name : m_compiled.names())
-        m_sources.push_back(sourceOf(name, tuples));
+        m_sources.push_back(
+            { std::binary_search(rowTokens.begin(), rowTokens.end(), name, isBefore), tuplesNamed(name, tuples) });
 }
 
 int VorBomFormulaColumn::compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result)
@@ -107,15 +124,14 @@ VorString VorBomFormulaColumn::formulaOf(const VorBomDataTuple& tuple)
     return formula;
 }
 
-VorBomFormulaColumn::Source VorBomFormulaColumn::sourceOf(const VorString& name,
-                                                          const VorBomDataTupleArray& tuples) const
+// The last first, as the formula looks for them. The formula itself is never its own variable.
+std::vector<int> VorBomFormulaColumn::tuplesNamed(const VorString& name, const VorBomDataTupleArray& tuples) const
 {
-    const VorStringArray rowTokens = VorBomDataToken::getTokensFromFormula(m_formula);
-    Source source{ std::find(rowTokens.begin(), rowTokens.end(), name) != rowTokens.end(), {} };
+    std::vector<int> indices;
     for (int i = tuples.length() - 1; i >= 0; --i)
         if (i != m_nIndex && tuples[i].token().token() == name)
-            source.tupleIndices.push_back(i);
-    return source;
+            indices.push_back(i);
+    return indices;
 }
 
 int VorBomFormulaColumn::findValue(std::size_t name, const VorBomDataTupleArray& tuples, const VorBomDataRow* pRow,

@@ -14,10 +14,12 @@
 
 #include "ExpressionEvaluator/Src/VorCompiledFormula.h"
 
+#include "MekRoots/Exp/MekExport.h"
+
 #include <memory>
 #include <vector>
 
-class VorBomFormulaColumn
+class MEK_BOM_API VorBomFormulaColumn
 {
 public:
     // For the tuple at `index` of sections made from one with these tuples; it must be a formula.
@@ -40,7 +42,7 @@ private:
     };
 
     static VorString formulaOf(const VorBomDataTuple& tuple);
-    Source sourceOf(const VorString& name, const VorBomDataTupleArray& tuples) const;
+    std::vector<int> tuplesNamed(const VorString& name, const VorBomDataTupleArray& tuples) const;
     int findValue(std::size_t name, const VorBomDataTupleArray& tuples, const VorBomDataRow* pRow, double& value) const;
 
     int m_nIndex;

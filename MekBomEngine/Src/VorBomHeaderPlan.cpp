@@ -53,7 +53,7 @@ std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row
             tuples.append(columns[i]);
             continue;
         }
-        tuples.append(VorBomDataTuple(columns[i].token(), pDatum->value()));
+        tuples.append(VorBomDataTuple(columns[i].token().token(), pDatum->value()));
         tuples.last().setUsed(columns[i].used());
         pDatum->setUsed(1);
     }
@@ -76,7 +76,5 @@ void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomData
 
 void VorBomHeaderPlan::showInUnits(VorBomTemplateUnits& units, VorBomTemplateItem& evaluated)
 {
-    VorBomDataTuple* pTuple = evaluated.getData().begin();
-    for (VorBomDisplayColumn& display : m_displays)
-        display.show(units, pTuple++->value());
+    VorBomDisplayColumn::showAll(m_displays, units, evaluated.getData());
 }

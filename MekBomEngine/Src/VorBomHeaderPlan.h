@@ -1,5 +1,12 @@
 // What a header or details section asks of every row, read from the template once: where its columns find their data,
 // how its formulas are computed and its numbers shown.
+//
+//   section            %Name "", %Weight 0.0, "%Formula:%Weight*2" ""     row  %Weight 2.5, %Name HEA200
+//   process            %Name HEA200, %Weight 2.5, "%Formula:%Weight*2" ""
+//   computeFormulas    the same with 5.0 under the formula, which the row carries then, too
+//   showInUnits        texts in the units of the report
+//
+// A plan serves rows of any layout, but one evaluation and one thread only.
 #pragma once
 
 #include "VorBomColumns.h"
@@ -7,10 +14,12 @@
 #include "VorBomFormulaColumn.h"
 #include "VorBomTemplateItem.h"
 
+#include "MekRoots/Exp/MekExport.h"
+
 #include <memory>
 #include <vector>
 
-class VorBomHeaderPlan
+class MEK_BOM_API VorBomHeaderPlan
 {
 public:
     // The section is not owned and must not change as long as the plan is used.

@@ -1,4 +1,8 @@
-// What one level of a report asks of every row: its header, its footer, and when a row opens a new group.
+// What one level of a report asks of every row: its header, its footer, and when a row opens a new group. All plans of
+// an evaluation share one set of layouts, so that a row's layout is told once for all levels.
+//
+//   header "%GroupBy:%Material", rows S235, S235, S355
+//   isSameGroup(second, first)  ->  1      isSameGroup(third, second)  ->  0
 #pragma once
 
 #include "VorBomColumns.h"
@@ -6,10 +10,12 @@
 #include "VorBomHeaderPlan.h"
 #include "VorBomTemplateItem.h"
 
+#include "MekRoots/Exp/MekExport.h"
+
 #include <memory>
 #include <optional>
 
-class VorBomLevelPlan
+class MEK_BOM_API VorBomLevelPlan
 {
 public:
     // Neither section is owned; the footer may be null.

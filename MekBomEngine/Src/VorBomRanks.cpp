@@ -33,6 +33,16 @@ const VorString& textOf(const VorBomDataTuple& tuple)
     return *static_cast<const VorString*>(tuple.value().data());
 }
 
+bool isNan(int)
+{
+    return false;
+}
+
+bool isNan(double number)
+{
+    return std::isnan(number);
+}
+
 bool canFollow(int, int)
 {
     return true;
@@ -41,9 +51,37 @@ bool canFollow(int, int)
 // Whether a double may rank right after a smaller or equal one: when comparing them tells the same.
 bool canFollow(double smaller, double larger)
 {
-    if (std::isnan(smaller) || std::isnan(larger))
-        return false;
     return smaller == larger || VorBomDataValue(smaller).compare(VorBomDataValue(larger)) != 0;
+}
+
+template <class Number>
+using NumbersOfRows = std::vector<std::pair<Number, std::uint32_t>>;
+
+// The numbers in ascending order with their rows; nothing when one is a NaN, which no sort can take.
+template <class Number>
+NumbersOfRows<Number> sortedNumbers(const std::vector<const VorBomDataTuple*>& tuples)
+{
+    NumbersOfRows<Number> numbers;
+    for (std::size_t row = 0; row < tuples.size(); ++row)
+    {
+        if (tuples[row] == nullptr)
+            continue;
+        const Number number = *static_cast<const Number*>(tuples[row]->value().data());
+        if (isNan(number))
+            return {};
+        numbers.emplace_back(number, static_cast<std::uint32_t>(row));
+    }
+    std::sort(numbers.begin(), numbers.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    return numbers;
+}
+
+template <class Number>
+bool compareAsTheyAreSorted(const NumbersOfRows<Number>& numbers)
+{
+    for (std::size_t i = 1; i < numbers.size(); ++i)
+        if (!canFollow(numbers[i - 1].first, numbers[i].first))
+            return false;
+    return true;
 }
 }
 
@@ -109,21 +147,16 @@ int VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bo
 template <class Number>
 int VorBomRanks::rankNumbers(const std::vector<const VorBomDataTuple*>& tuples)
 {
-    std::vector<std::pair<Number, std::uint32_t>> values; // with their rows
-    for (std::size_t row = 0; row < tuples.size(); ++row)
-        if (tuples[row] != nullptr)
-            values.emplace_back(*static_cast<const Number*>(tuples[row]->value().data()),
-                                static_cast<std::uint32_t>(row));
-    std::sort(values.begin(), values.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    const NumbersOfRows<Number> numbers = sortedNumbers<Number>(tuples);
+    if (numbers.empty() || !compareAsTheyAreSorted(numbers))
+        return 0;
 
     m_ranks.assign(tuples.size(), 0);
-    for (std::size_t i = 0; i < values.size(); ++i)
+    for (std::size_t i = 0; i < numbers.size(); ++i)
     {
-        if (i > 0 && !canFollow(values[i - 1].first, values[i].first))
-            return 0;
-        if (i > 0 && values[i - 1].first != values[i].first)
+        if (i > 0 && numbers[i - 1].first != numbers[i].first)
             ++m_nNumRanks;
-        m_ranks[values[i].second] = m_nNumRanks;
+        m_ranks[numbers[i].second] = m_nNumRanks;
     }
     ++m_nNumRanks;
     return 1;

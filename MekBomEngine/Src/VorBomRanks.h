@@ -4,17 +4,19 @@
 //   values  "B10" "B2" none "B10", natural order   ->   ranks  2 1 0 2, three of them
 //
 // Not every column can be ranked. Comparing reports unlike kinds and answers -1 both ways; doubles closer than 1e-6 are
-// equal, so that a may equal b and b equal c, but not a equal c; and natural order knows no numbers. For such columns
-// there is no order but what comparisons make of it, and create() gives none.
+// equal, so that a may equal b and b equal c, but not a equal c, and a NaN equals everything; and natural order knows no
+// numbers. For such columns there is no order but what comparisons make of it, and create() gives none.
 #pragma once
 
 #include "VorBomDataToken.h"
 #include "VorBomDataTuple.h"
 
+#include "MekRoots/Exp/MekExport.h"
+
 #include <cstdint>
 #include <vector>
 
-class VorBomRanks
+class MEK_BOM_API VorBomRanks
 {
 public:
     // For one tuple per row, null for a row without the datum, which ranks lowest. 0 with no ranks when the column

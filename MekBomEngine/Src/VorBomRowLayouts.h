@@ -10,13 +10,14 @@
 
 #include "VorBomItemBase.h"
 
+#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <cstddef>
 #include <unordered_map>
 #include <vector>
 
-class VorBomRowLayouts
+class MEK_BOM_API VorBomRowLayouts
 {
 public:
     static constexpr int kNoLayout = -1;

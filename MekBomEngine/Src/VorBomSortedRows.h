@@ -10,13 +10,14 @@
 
 #include "VorBomData.h"
 
+#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <cstdint>
 #include <vector>
 
-class VorBomSortedRows
+class MEK_BOM_API VorBomSortedRows
 {
 public:
     // `orders` holds 1 for ascending or 0 for descending, one for each token.

@@ -6,6 +6,8 @@
 #include "MekRoots/Exp/VorUnitTransform.h"
 #include "MekRoots/Exp/VorUnitsTransformArray.h"
 
+#include <utility>
+
 namespace
 {
 const int kShowUnitSymbol = 0; // columns name their unit once, not in every cell

@@ -99,7 +99,7 @@ TEST(VorBomDataTupleTest, MovingLeavesTokenAndValueEmpty)
     EXPECT_EQ(VorString(L"%Weight"), moved.token().token());
     EXPECT_EQ(VorString(L"12.5"), moved.value().asString());
     EXPECT_EQ(1, moved.used());
-    EXPECT_EQ(VorString(), source.token().token()); // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(VorString(), source.token().token()); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
     EXPECT_EQ(VorBomDataValue::kUnknownData, source.value().type());
 }
 

@@ -123,7 +123,7 @@ TEST(VorBomDataValueTest, CopyOfAnEmptyValueIsEmpty)
 {
     const VorBomDataValue source;
 
-    const VorBomDataValue copy(source);
+    const VorBomDataValue copy(source); // NOLINT(performance-unnecessary-copy-initialization)
 
     EXPECT_EQ(VorBomDataValue::kUnknownData, copy.type());
     EXPECT_EQ(nullptr, copy.data());
@@ -181,13 +181,14 @@ TEST(VorBomDataValueTest, MovedFromIsEmpty)
 
     VorBomDataValue moved(std::move(source));
     EXPECT_EQ(pPayload, moved.data());
-    EXPECT_EQ(nullptr, source.data()); // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(nullptr, source.data()); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
     EXPECT_EQ(VorBomDataValue::kUnknownData, source.type());
 
     VorBomDataValue target(5);
     target = std::move(moved);
     EXPECT_EQ(pPayload, target.data());
-    EXPECT_EQ(VorBomDataValue::kUnknownData, moved.type()); // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(VorBomDataValue::kUnknownData,
+              moved.type()); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
 }
 
 TEST(VorBomDataValueTest, SwappingExchangesEmptyValuesToo)

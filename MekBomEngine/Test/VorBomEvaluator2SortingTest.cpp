@@ -104,7 +104,7 @@ TEST(VorBomEvaluator2SortingTest, EqualRowsKeepTheirOrder)
     EXPECT_EQ(VorString(L"1 2 3 4 5"), sortedNums(report));
 }
 
-TEST(VorBomEvaluator2SortingTest, TokenWithoutPrefixKeepsTheDirectionBeforeItAcrossLevels)
+TEST(VorBomEvaluator2SortingTest, TokenWithoutPrefixKeepsTheDirectionBeforeIt)
 {
     Report report;
     addLevels(report, { L"%SortDescBy:%Material,%Length" });

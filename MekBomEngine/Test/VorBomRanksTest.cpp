@@ -115,6 +115,17 @@ TEST(VorBomRanksTest, DoublesWithinTheToleranceCannotBeRanked)
     EXPECT_EQ("120", Column({ datum(INFINITY), datum(-INFINITY), datum(1.0) }).sorted(VorBomDataToken::kSortNumeric));
 }
 
+// No sort of the standard may see one.
+TEST(VorBomRanksTest, ColumnsFullOfNaNsCannotBeRanked)
+{
+    std::vector<VorBomDataTuple> tuples;
+    for (int i = 0; i < 500; ++i)
+        tuples.push_back(datum(i % 3 == 0 ? std::nan("") : 250.0 - i));
+
+    EXPECT_FALSE(Column(std::move(tuples)).canBeRanked(VorBomDataToken::kSortNumeric));
+    EXPECT_FALSE(Column({ datum(std::nan("")) }).canBeRanked(VorBomDataToken::kSortNumeric));
+}
+
 TEST(VorBomRanksTest, RankedColumnsComeOutAsComparingThemDoes)
 {
     std::mt19937 random(3);

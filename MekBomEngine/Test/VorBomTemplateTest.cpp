@@ -1,6 +1,7 @@
 #include "VorBomTemplate.h"
 
 #include "VorBomDefaultTemplate.h"
+#include "VorBomEvaluator2.h"
 
 #include "Support/BomTestSupport.h"
 
@@ -474,6 +475,20 @@ TEST(VorBomTemplateTest, DestructorToleratesMissingUnitsAndData)
     delete VorBomTemplateAccess::units(bomTemplate);
     VorBomTemplateAccess::data(bomTemplate) = nullptr;
     VorBomTemplateAccess::units(bomTemplate) = nullptr;
+}
+
+TEST(VorBomTemplateTest, EvaluatingWithoutDataAppendsNothing)
+{
+    VorBomTemplate bomTemplate;
+    bomTemplate.addChild(newSection(Item::kReportHeader, { tuple(L"%A", 1) }));
+    bomTemplate.addChild(newSection(Item::kReportFooter, { tuple(L"%A", 1) }));
+    delete VorBomTemplateAccess::data(bomTemplate);
+    VorBomTemplateAccess::data(bomTemplate) = nullptr;
+    VorBomTemplate result;
+
+    EXPECT_EQ(1, VorBomEvaluator2::evaluate(&bomTemplate, &result)); // as for data without rows
+
+    EXPECT_EQ(nullptr, result.child());
 }
 
 TEST(VorBomTemplateTest, DefaultTemplateIsSpelledAsItAlwaysWas)

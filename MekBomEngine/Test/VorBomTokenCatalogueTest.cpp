@@ -15,6 +15,21 @@ long long countOf(VorBomDataValue::eBomDataValueType type)
     return std::count_if(Catalogue::begin(), Catalogue::end(),
                          [type](const Catalogue::Entry& entry) { return entry.type == type; });
 }
+
+// Checks that the catalogue goes on at `pEntry` with these names, all of one type; returns the entry after them.
+template <int N>
+const Catalogue::Entry* expectNames(const Catalogue::Entry* pEntry, const wchar_t* const (&names)[N],
+                                    VorBomDataValue::eBomDataValueType type)
+{
+    for (const wchar_t* name : names)
+    {
+        EXPECT_EQ(VorString(name), VorString(pEntry->name));
+        EXPECT_EQ(type, pEntry->type) << VorString(name);
+        EXPECT_EQ(type, VorBomDataToken::getTokenType(name)) << VorString(name);
+        ++pEntry;
+    }
+    return pEntry;
+}
 }
 
 TEST(VorBomTokenCatalogueTest, HoldsThreeGroupsInOrder)
@@ -29,6 +44,112 @@ TEST(VorBomTokenCatalogueTest, HoldsThreeGroupsInOrder)
     EXPECT_TRUE(std::is_sorted(Catalogue::begin(), Catalogue::end(),
                                [rank](const Catalogue::Entry& a, const Catalogue::Entry& b)
                                { return rank(a) < rank(b); }));
+}
+
+TEST(VorBomTokenCatalogueTest, EveryNameIsSpelledAsDataAndTemplatesSpellIt)
+{
+    const wchar_t* const kTexts[] = { L"%Phase",
+                                      L"%MNum",
+                                      L"%MName",
+                                      L"%PNum",
+                                      L"%Num",
+                                      L"%PreliminaryNum",
+                                      L"%Class",
+                                      L"%Name",
+                                      L"%GratingConnectorName",
+                                      L"%Material",
+                                      L"%Coating",
+                                      L"%InsideCoating",
+                                      L"%OutsideCoating",
+                                      L"%Commodity",
+                                      L"%PreDefinedRemark",
+                                      L"%DStV",
+                                      L"%Role",
+                                      L"%FreeRemark",
+                                      L"%Set",
+                                      L"%BoltName",
+                                      L"%Standard",
+                                      L"%ElementID",
+                                      L"%Level",
+                                      L"%JointName",
+                                      L"%ApprovalComment",
+                                      L"%ApprovalCode",
+                                      L"%LoadNumber",
+                                      L"%Carrier",
+                                      L"%FabricationStation",
+                                      L"%Supplier",
+                                      L"%PONumber",
+                                      L"%RequisitionNumber",
+                                      L"%DeliveryDate",
+                                      L"%GalvanizingConstructionClass",
+                                      L"%GalvanizingDetailClass",
+                                      L"%GalvanizingConfidence",
+                                      L"%HeatNumber",
+                                      L"%ShippedDate",
+                                      L"%ApprovalStatus",
+                                      L"%ShopConnection",
+                                      L"%External",
+                                      L"%UserAttr" };
+    const wchar_t* const kWholeNumbers[] = { L"%MQuantity",
+                                             L"%MQuantityInPhase",
+                                             L"%IsMP",
+                                             L"%Quantity",
+                                             L"%QuantityInModel",
+                                             L"%QuantityInAllAssembly",
+                                             L"%QuantityInPhase",
+                                             L"%QuantityInAllAssemblyInPhase",
+                                             L"%ClassId",
+                                             L"%isUnwidable",
+                                             L"%CompoundId",
+                                             L"%GratingConnectorQuantity",
+                                             L"%CladdingConnectorQuantity",
+                                             L"%CladdingConnectorQuantityInModel",
+                                             L"%BarQuantity",
+                                             L"%CrossBarQuantity" };
+    const wchar_t* const kNumbers[] = { L"%SysLength",
+                                        L"%CurvedBeamRadius",
+                                        L"%Weight",
+                                        L"%WeightInAssembly",
+                                        L"%WeightInAllAssembly",
+                                        L"%WeightInAllAssemblyInPhase",
+                                        L"%WeightInPhase",
+                                        L"%WeightInModel",
+                                        L"%ExactWeight",
+                                        L"%ExactWeightInAssembly",
+                                        L"%ExactWeightInAllAssembly",
+                                        L"%ExactWeightInAllAssemblyInPhase",
+                                        L"%ExactWeightInPhase",
+                                        L"%ExactWeightInModel",
+                                        L"%WeightMeter",
+                                        L"%Length",
+                                        L"%LengthInModel",
+                                        L"%SawLength",
+                                        L"%SawLengthInModel",
+                                        L"%Paint",
+                                        L"%PaintInAssembly",
+                                        L"%%PaintMeter",
+                                        L"%Thick",
+                                        L"%Width",
+                                        L"%Area",
+                                        L"%contourLength",
+                                        L"%Diameter",
+                                        L"%AssemblyWeight",
+                                        L"%AssemblyExactWeight",
+                                        L"%EDValue",
+                                        L"%WidthExtensionLeft",
+                                        L"%WidthExtensionRight",
+                                        L"%BarSpacing",
+                                        L"%CrossBarSpacing",
+                                        L"%ExactPaintArea",
+                                        L"%ObjectTopLevel",
+                                        L"%ObjectBottomLevel",
+                                        L"%Density" };
+
+    const Catalogue::Entry* pEntry = expectNames(Catalogue::begin(), kTexts, VorBomDataValue::kStringData);
+    pEntry = expectNames(pEntry, kWholeNumbers, VorBomDataValue::kIntData);
+    pEntry = expectNames(pEntry, kNumbers, VorBomDataValue::kDoubleData);
+
+    EXPECT_EQ(Catalogue::end(), pEntry);
 }
 
 TEST(VorBomTokenCatalogueTest, EveryEntryIsFoundUnderItsName)
