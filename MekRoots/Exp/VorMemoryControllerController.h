@@ -16,7 +16,7 @@
 class MEK_ROOTS_API VorMemoryControllerController
 {
 public:
-    // Measured on 10^6 rows: text blocks, payloads and tuple arrays of ordinary rows all stay below this.
+    // Holds the tuples of an ordinary row, 16 of 32 bytes; its texts and value payloads are smaller.
     static constexpr std::size_t kLargestPooledBlock = 512;
 
     // Room for `numElements` elements of `elementSize` bytes each, its content undefined; null when that is no bytes at

@@ -22,6 +22,7 @@
 #include <atomic>
 #include <cstddef>
 #include <cwchar>
+#include <utility>
 
 #if defined(__has_include)
 #if __has_include(<sys/single_threaded.h>)
@@ -179,9 +180,8 @@ inline void VorString::removeUser(Block* pBlock) noexcept
 
 inline VorString& VorString::operator=(const VorString& other) noexcept
 {
-    addUser(other.m_pBlock);
-    removeUser(m_pBlock);
-    m_pBlock = other.m_pBlock;
+    VorString copy(other);
+    std::swap(m_pBlock, copy.m_pBlock);
     return *this;
 }
 

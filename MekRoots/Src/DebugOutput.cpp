@@ -10,19 +10,19 @@ namespace
 std::atomic<DebugOutputSink> s_sink{ nullptr };
 
 // What no text may hold becomes the replacement character.
-unsigned long validCharacter(wchar_t character)
+char32_t validCharacter(wchar_t character)
 {
-    const auto value = static_cast<unsigned long>(character);
+    const auto value = static_cast<char32_t>(character);
     const bool isSurrogate = value >= 0xD800 && value <= 0xDFFF;
-    return value > 0x10FFFF || isSurrogate ? 0xFFFD : value;
+    return value > 0x10FFFF || isSurrogate ? U'\xFFFD' : value;
 }
 
-void appendUtf8(std::string& bytes, unsigned long character)
+void appendUtf8(std::string& bytes, char32_t character)
 {
-    const auto add = [&bytes](unsigned long byte) { bytes += static_cast<char>(static_cast<unsigned char>(byte)); };
+    const auto add = [&bytes](char32_t byte) { bytes += static_cast<char>(static_cast<unsigned char>(byte)); };
     const auto addTrail = [&](int shift) { add(0x80 | ((character >> shift) & 0x3F)); };
     const int numTrails = character < 0x80 ? 0 : (character < 0x800 ? 1 : (character < 0x10000 ? 2 : 3));
-    const unsigned long leads[] = { 0, 0xC0, 0xE0, 0xF0 };
+    const char32_t leads[] = { 0, 0xC0, 0xE0, 0xF0 };
 
     add(leads[numTrails] | (character >> (6 * numTrails)));
     for (int i = numTrails - 1; i >= 0; --i)

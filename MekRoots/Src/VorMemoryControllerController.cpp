@@ -32,9 +32,10 @@ constexpr bool kUsesPool = true;
 
 constexpr std::size_t kClassWidth = 8; // multiples of 16 keep 16-byte alignment, since a class is carved aligned to it
 constexpr std::size_t kNumClasses = VorMemoryControllerController::kLargestPooledBlock / kClassWidth + 1;
-constexpr std::size_t kChunkSize = 256 * 1024; // arbitrary; large against a block, small against a report
-constexpr std::size_t kBatchSize =
-    64 * 1024; // bytes of one class handed over at once; arbitrary, fits the inner caches
+// Both arbitrary: a chunk is large against a block and small against a report; a batch, the bytes of one class that are
+// handed over at once, fits the inner caches.
+constexpr std::size_t kChunkSize = std::size_t{ 256 } * 1024;
+constexpr std::size_t kBatchSize = std::size_t{ 64 } * 1024;
 
 struct FreeBlock
 {

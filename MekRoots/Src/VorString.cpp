@@ -312,8 +312,10 @@ int VorString::strCompareNoCase(const void* pFirst, const void* pSecond)
 
 void VorString::getTokens(const VorString& text, VorStringArray& pieces, const VorString& delimiters)
 {
-    const VorString source = text; // this and the delimiters may be elements of the pieces
+    // Copies, since both may be elements of `pieces`. NOLINTBEGIN(performance-unnecessary-copy-initialization)
+    const VorString source = text;
     const VorString divides = delimiters;
+    // NOLINTEND(performance-unnecessary-copy-initialization)
     const wchar_t* pDelimiters = divides.getStringW();
     const wchar_t* pDelimitersEnd = pDelimiters + divides.length();
     const auto isDelimiter = [=](wchar_t c) { return std::find(pDelimiters, pDelimitersEnd, c) != pDelimitersEnd; };

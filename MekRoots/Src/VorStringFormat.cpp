@@ -49,6 +49,7 @@ public:
     Arguments(const Arguments&) = delete;
     Arguments& operator=(const Arguments&) = delete;
 
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): the constructor has copied the list
     int takeInt() { return va_arg(m_list, int); }
     double takeDouble() { return va_arg(m_list, double); }
     const wchar_t* takeText() { return va_arg(m_list, const wchar_t*); }
@@ -236,7 +237,7 @@ void appendUnsigned(VorString& out, const Directive& directive, unsigned long lo
 
 std::string floatDigits(double magnitude, std::chars_format format, int precision)
 {
-    const auto room = static_cast<std::size_t>(VorNumberText::kLargestDouble + 10 + precision);
+    const auto room = std::size_t{ VorNumberText::kLargestDouble } + 10 + static_cast<std::size_t>(precision);
     std::string digits(room, '\0');
     const auto result = std::to_chars(digits.data(), digits.data() + room, magnitude, format, precision);
     digits.resize(static_cast<std::size_t>(result.ptr - digits.data()));
@@ -247,7 +248,7 @@ std::string floatDigits(double magnitude, std::chars_format format, int precisio
 std::string generalDigitsWithZeros(double magnitude, int precision)
 {
     const int numDigits = std::max(precision, 1);
-    const std::string scientific = floatDigits(magnitude, std::chars_format::scientific, numDigits - 1);
+    std::string scientific = floatDigits(magnitude, std::chars_format::scientific, numDigits - 1);
     const int exponent = std::atoi(scientific.c_str() + scientific.find('e') + 1);
     if (exponent < -4 || exponent >= numDigits)
         return scientific;

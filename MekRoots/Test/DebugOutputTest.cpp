@@ -112,6 +112,7 @@ TEST(DebugOutputThreadTest, TheSinkIsCalledOnTheWritingThread)
 {
     const SinkScope scope(countHere);
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int number = 0; number < 4; ++number)
         threads.emplace_back(
             []

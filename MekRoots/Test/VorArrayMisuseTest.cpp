@@ -283,6 +283,7 @@ TEST(VorArrayMisuseThreadTest, EveryThreadHasFallbackElementsOfItsOwn)
     const LeakCheck leaks;
     const AssertLog log;
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int number = 0; number < 4; ++number)
         threads.emplace_back(
             [number]

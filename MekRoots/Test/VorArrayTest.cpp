@@ -273,14 +273,14 @@ TEST(VorArrayTest, AMoveTakesTheElementsAlong)
     VorStringArray target(std::move(source));
     EXPECT_EQ(element, target.begin());
     EXPECT_EQ(5, target.growBy());
-    EXPECT_EQ(0, source.length()); // NOLINT(bugprone-use-after-move): a moved-from array is empty and usable
+    EXPECT_EQ(0, source.length()); // NOLINT(bugprone-*,clang-analyzer-*): moved from, it is empty and usable
     source.append(VorString(L"b"));
     EXPECT_EQ(VorString(L"b"), source[0]);
 
     source = std::move(target);
     ASSERT_EQ(1, source.length());
     EXPECT_EQ(VorString(L"a"), source[0]);
-    EXPECT_EQ(0, target.length()); // NOLINT(bugprone-use-after-move)
+    EXPECT_EQ(0, target.length()); // NOLINT(bugprone-*,clang-analyzer-*)
 }
 
 TEST(VorArrayTest, SwapExchangesWholeElements)

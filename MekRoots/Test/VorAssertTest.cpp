@@ -254,6 +254,7 @@ TEST(VorAssertThreadTest, ReportsOfSeveralThreadsAreAllCounted)
     const LeakCheck leaks;
     const AssertLog log;
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int number = 0; number < 4; ++number)
         threads.emplace_back(
             [number]

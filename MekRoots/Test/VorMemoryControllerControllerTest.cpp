@@ -27,6 +27,7 @@ void release(void* pBlock, std::size_t size)
 std::vector<void*> allocateMany(int numBlocks, std::size_t size)
 {
     std::vector<void*> blocks;
+    blocks.reserve(static_cast<std::size_t>(numBlocks));
     for (int i = 0; i < numBlocks; ++i)
         blocks.push_back(allocate(size));
     return blocks;

@@ -21,6 +21,7 @@ const std::size_t kSize = 48;
 std::vector<void*> allocateMany(int numBlocks, std::size_t size = kSize)
 {
     std::vector<void*> blocks;
+    blocks.reserve(static_cast<std::size_t>(numBlocks));
     for (int i = 0; i < numBlocks; ++i)
     {
         blocks.push_back(Memory::allocateArray(1, size));
@@ -242,6 +243,7 @@ TEST(VorMemoryControllerControllerThreadTest, ManyShortThreadsAtOnceLoseNothing)
     for (int round = 0; round < 30; ++round)
     {
         std::vector<std::thread> threads;
+        threads.reserve(8);
         for (int number = 0; number < 8; ++number)
             threads.emplace_back(
                 []

@@ -45,7 +45,9 @@ std::vector<std::wstring> patternsFor(const std::wstring& conversion)
                 for (unsigned i = 0; i < 5; ++i)
                     if ((subset >> i) & 1U)
                         pattern += flags[i];
-                patterns.push_back(pattern + width + precision + conversion + L">");
+                pattern += width;
+                pattern += precision;
+                patterns.push_back(pattern + conversion + L'>');
             }
     return patterns;
 }

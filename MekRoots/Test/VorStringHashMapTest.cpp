@@ -186,6 +186,7 @@ TEST(VorStringHashMapTest, GrowingKeepsTheNodesAndDealsThemOutAnew)
 {
     Map map;
     std::vector<Map::Node*> nodes;
+    nodes.reserve(1000);
     for (int i = 0; i < 1000; ++i)
         nodes.push_back(insert(map, keyOf(i), i));
 

@@ -231,6 +231,7 @@ TEST(VorStringOrderTest, NaturalOrderIsATotalOrder)
 {
     std::mt19937 random(99);
     std::vector<VorString> texts;
+    texts.reserve(120);
     for (int i = 0; i < 120; ++i)
         texts.push_back(naturalOf(randomText(random)));
 
