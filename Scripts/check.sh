@@ -1,0 +1,23 @@
+#!/bin/sh
+# The slower checks: format, linter, ThreadSanitizer over the threading tests, then all tests under Address-, Leak- and
+# UndefinedBehaviorSanitizer. Arguments go to each configuration, as with Scripts/test.sh.
+set -eu
+cd "$(dirname "$0")/.."
+sh Scripts/setup.sh --checks
+jobs=$(nproc)
+
+echo "== clang-format"
+git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+
+echo "== clang-tidy"
+cmake --preset sanitize "$@"
+git ls-files '*/Src/*.cpp' | xargs -P "$jobs" -n 4 clang-tidy -p build/sanitize --quiet --warnings-as-errors='*'
+
+echo "== ThreadSanitizer over the threading tests"
+cmake --preset threads "$@"
+cmake --build --preset threads
+ctest --preset threads -j "$jobs"
+
+echo "== clang++ with Address-, Leak- and UndefinedBehaviorSanitizer"
+cmake --build --preset sanitize
+ctest --preset sanitize -j "$jobs"

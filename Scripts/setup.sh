@@ -1,0 +1,42 @@
+#!/bin/sh
+# Installs what the build needs from Debian's packages, when it may; says exactly what is missing otherwise.
+#   sh Scripts/setup.sh            compiler, cmake, ninja, python, and the host program's libraries
+#   sh Scripts/setup.sh --checks   also clang, its sanitizer runtime, clang-format and clang-tidy
+#   sh Scripts/setup.sh --bench    also Google Benchmark
+# Also makes the locale de_DE.UTF-8 where it may: tests hold numbers against its decimal comma, and skip without it.
+set -eu
+
+packages="g++ cmake ninja-build python3 locales libgtest-dev libcli11-dev nlohmann-json3-dev libcsv-dev libutf8proc-dev"
+for argument in "$@"; do
+    case "$argument" in
+        --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy" ;;
+        --bench) packages="$packages libbenchmark-dev" ;;
+        *) echo "setup.sh: unknown argument '$argument'; expected --checks or --bench" >&2; exit 2 ;;
+    esac
+done
+
+missing=""
+for package in $packages; do
+    status=$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null || true)
+    [ "$status" = "install ok installed" ] || missing="$missing $package"
+done
+
+if [ "$(id -u)" = 0 ]; then
+    as_root=""
+elif command -v sudo >/dev/null 2>&1 && sudo -n true 2>/dev/null; then
+    as_root="sudo"
+elif [ -n "$missing" ]; then
+    echo "setup.sh: these Debian packages are missing:$missing" >&2
+    echo "setup.sh: install them with: sudo apt-get install$missing" >&2
+    exit 1
+else
+    exit 0
+fi
+
+if [ -n "$missing" ]; then
+    echo "Installing$missing"
+    $as_root apt-get update -qq
+    # shellcheck disable=SC2086  # the list is meant to be split
+    $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing >/dev/null
+fi
+locale -a | grep -qi '^de_DE.utf-\?8$' || $as_root localedef -i de_DE -f UTF-8 de_DE.UTF-8
