@@ -57,8 +57,8 @@ const int kNumKinds = 4;
 void RandomReport::fill(RefReport& report)
 {
     chooseColumns();
-    addRows(report);
     addLevels(report);
+    addRows(report);
 }
 
 std::wstring RandomReport::someTokenWithUnit()
@@ -70,7 +70,7 @@ std::wstring RandomReport::someTokenWithUnit()
 
 void RandomReport::chooseColumns()
 {
-    const int numColumns = 2 + m_dice.below(5);
+    const int numColumns = 2 + m_dice.below(4);
     for (int i = 0; i < numColumns; ++i)
     {
         const KnownToken& known = m_dice.pick(kTokens);
@@ -94,18 +94,23 @@ RefValue RandomReport::randomValue(int kind)
     {
         case RefValue::kInt:
             return RefValue::ofInt(m_dice.oneIn(20) ? std::numeric_limits<int>::min() : m_dice.pick(kInts));
-        case RefValue::kDouble:
-            return RefValue::ofDouble(m_dice.oneIn(40) ? std::numeric_limits<double>::infinity()
-                                                       : m_dice.pick(kDoubles));
+        case RefValue::kDouble: return RefValue::ofDouble(randomDouble());
         case RefValue::kText: return RefValue::ofText(m_dice.pick(kTexts));
         default: return RefValue();
     }
 }
 
+double RandomReport::randomDouble()
+{
+    if (m_dice.oneIn(40))
+        return m_dice.oneIn(2) ? std::numeric_limits<double>::infinity() : std::numeric_limits<double>::quiet_NaN();
+    return m_dice.pick(kDoubles);
+}
+
 void RandomReport::addRows(RefReport& report)
 {
-    const int most[] = { 1, 3, 3, 6, 6, 6, 10, 10, 15, m_dice.oneIn(3) ? 61 : 8 };
-    const int numRows = m_dice.below(m_dice.pick(most) + 1);
+    const int most[] = { 1, 2, 3, 4, 4, 5, 5, 6, 8, m_dice.oneIn(20) ? 60 : 8 };
+    const int numRows = m_dice.oneIn(30) ? 0 : 1 + m_dice.below(m_dice.pick(most));
     for (int i = 0; i < numRows; ++i)
     {
         RefRow row;
@@ -132,21 +137,23 @@ std::vector<RefTuple> RandomReport::randomTuples()
         if (m_dice.oneIn(30))
             tuples.push_back(RefTuple{ L"%SumBy:" + column.token, m_dice.pickFrom(column.values), 0 });
     }
+    if (!m_formulas.empty() && m_dice.oneIn(30))
+        tuples.push_back(RefTuple{ m_dice.pickFrom(m_formulas), randomValue(m_dice.below(kNumKinds)), 0 });
     return tuples;
 }
 
 void RandomReport::addLevels(RefReport& report)
 {
-    const int depths[] = { 1, 2, 2, 3, 3, 3, 3, 4, 4, 5 };
+    const int depths[] = { 1, 2, 2, 2, 2, 3, 3, 3, 3, 4, 4, 5 };
     const int numLevels = m_dice.oneIn(200) ? 0 : m_dice.pick(depths);
     std::vector<RefReport::SectionPtr>* siblings = &report.root.children;
     for (int level = 0; level < numLevels; ++level)
     {
         const RefReport::SectionPtr section = header(level, numLevels);
         siblings->push_back(section);
-        if (m_dice.percent(level + 1 < numLevels ? 75 : 12))
+        if (m_dice.percent(level + 1 < numLevels ? 65 : 10))
             siblings->push_back(footer(section->type));
-        if (m_dice.oneIn(12))
+        if (m_dice.oneIn(20))
         {
             siblings->push_back(header(level, numLevels));
             siblings->back()->children.push_back(footer(section->type));
@@ -166,11 +173,11 @@ RefReport::SectionPtr RandomReport::header(int level, int numLevels)
     auto section = std::make_shared<RefSection>(type);
     if (m_dice.percent(isDeepest ? 12 : level == 0 ? 20 : 80))
         addTuple(*section, list(L"%GroupBy:", false));
-    for (int i = m_dice.below(4); i > 0; --i)
+    for (int i = m_dice.below(3); i > 0; --i)
         addTuple(*section, anyToken());
-    if (m_dice.oneIn(2))
+    if (m_dice.oneIn(3))
         addTuple(*section, list(m_dice.oneIn(2) ? L"%SortAscBy:" : L"%SortDescBy:", true));
-    for (int i = m_dice.below(5); i > 2; --i)
+    for (int i = m_dice.below(7); i > 4; --i)
         addTuple(*section, formula());
     if (m_dice.oneIn(12))
         addTuple(*section, list(m_dice.oneIn(2) ? L"%GroupBy:" : L"%SortDescBy:", true));
@@ -188,9 +195,9 @@ RefReport::SectionPtr RandomReport::footer(RefSection::Type headerType)
     if (m_dice.oneIn(10))
         type = m_dice.pick(kAnyType);
     auto section = std::make_shared<RefSection>(type);
-    for (int i = m_dice.below(4); i > 0; --i)
-        addTuple(*section, L"%SumBy:" + columnToken());
     for (int i = m_dice.below(3); i > 0; --i)
+        addTuple(*section, L"%SumBy:" + columnToken());
+    if (m_dice.oneIn(2))
         addTuple(*section, anyToken());
     if (m_dice.oneIn(4))
     {

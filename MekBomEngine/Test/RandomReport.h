@@ -35,6 +35,7 @@ private:
 
     void chooseColumns();
     RefValue randomValue(int kind);
+    double randomDouble();
     void addRows(RefReport& report);
     std::vector<RefTuple> randomTuples();
 

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdio>
+#include <map>
+#include <string>
 
 namespace
 {
@@ -95,6 +97,50 @@ void addOnce(std::vector<RefValue>& values, const RefValue& value)
             return;
     values.push_back(value);
 }
+
+// What a template knows by itself.
+const std::map<std::wstring, int>& usualTokens()
+{
+    static const std::map<std::wstring, int> kTypes = { { L"%Length", RefUnits::kDistance },
+                                                        { L"%SysLength", RefUnits::kDistance },
+                                                        { L"%SawLength", RefUnits::kDistance },
+                                                        { L"%CurvedBeamRadius", RefUnits::kDistance },
+                                                        { L"%Diameter", RefUnits::kDistance },
+                                                        { L"%Thick", RefUnits::kDistance },
+                                                        { L"%Width", RefUnits::kDistance },
+                                                        { L"%contourLength", RefUnits::kDistance },
+                                                        { L"%LengthInModel", RefUnits::kDistance },
+                                                        { L"%SawLengthInModel", RefUnits::kDistance },
+                                                        { L"%EDValue", RefUnits::kDistance },
+                                                        { L"%WidthExtensionLeft", RefUnits::kDistance },
+                                                        { L"%WidthExtensionRight", RefUnits::kDistance },
+                                                        { L"%BarSpacing", RefUnits::kDistance },
+                                                        { L"%CrossBarSpacing", RefUnits::kDistance },
+                                                        { L"%ObjectTopLevel", RefUnits::kDistance },
+                                                        { L"%ObjectBottomLevel", RefUnits::kDistance },
+                                                        { L"%Weight", RefUnits::kWeight },
+                                                        { L"%WeightInAssembly", RefUnits::kWeight },
+                                                        { L"%WeightInAllAssembly", RefUnits::kWeight },
+                                                        { L"%WeightInAllAssemblyInPhase", RefUnits::kWeight },
+                                                        { L"%WeightInPhase", RefUnits::kWeight },
+                                                        { L"%WeightInModel", RefUnits::kWeight },
+                                                        { L"%AssemblyWeight", RefUnits::kWeight },
+                                                        { L"%ExactWeight", RefUnits::kWeight },
+                                                        { L"%ExactWeightInAssembly", RefUnits::kWeight },
+                                                        { L"%ExactWeightInAllAssembly", RefUnits::kWeight },
+                                                        { L"%ExactWeightInAllAssemblyInPhase", RefUnits::kWeight },
+                                                        { L"%ExactWeightInPhase", RefUnits::kWeight },
+                                                        { L"%ExactWeightInModel", RefUnits::kWeight },
+                                                        { L"%AssemblyExactWeight", RefUnits::kWeight },
+                                                        { L"%Area", RefUnits::kArea },
+                                                        { L"%Paint", RefUnits::kArea },
+                                                        { L"%PaintInAssembly", RefUnits::kArea },
+                                                        { L"%ExactPaintArea", RefUnits::kArea },
+                                                        { L"%WeightMeter", RefUnits::kWeightPerDistance },
+                                                        { L"%%PaintMeter", RefUnits::kAreaPerDistance },
+                                                        { L"%Density", RefUnits::kDensity } };
+    return kTypes;
+}
 }
 
 std::wstring RefValue::asText() const
@@ -154,40 +200,50 @@ RefTuple* findTuple(std::vector<RefTuple>& tuples, const std::wstring& token)
     return nullptr;
 }
 
-std::wstring RefSection::listing(int level) const
+std::wstring RefSection::listing() const
 {
-    std::wstring text = labelOf(type);
-    for (const RefTuple& tuple : tuples)
-        text += L"[" + tuple.token + L":" + tuple.value.asText() + L"]";
-    for (const std::shared_ptr<RefSection>& child : children)
-        text += L"\n" + std::wstring(static_cast<std::size_t>(level + 1), L' ') + child->listing(level + 1);
+    std::wstring text;
+    appendListing(text, 0);
     return text;
+}
+
+void RefSection::appendListing(std::wstring& text, std::size_t level) const
+{
+    text += labelOf(type);
+    for (const RefTuple& tuple : tuples)
+    {
+        text += L'[';
+        text += tuple.token;
+        text += L':';
+        text += tuple.value.asText();
+        text += L']';
+    }
+    for (const std::shared_ptr<RefSection>& child : children)
+    {
+        text += L'\n';
+        text.append(level + 1, L' ');
+        child->appendListing(text, level + 1);
+    }
+}
+
+void RefUnits::add(const std::wstring& token, int type)
+{
+    if (!hasUsualTokens || usualTokens().count(token) == 0)
+        types.emplace(token, type);
 }
 
 void RefUnits::addUsualTokens()
 {
-    for (const wchar_t* token :
-         { L"%Length", L"%SysLength", L"%SawLength", L"%CurvedBeamRadius", L"%Diameter", L"%Thick", L"%Width",
-           L"%contourLength", L"%LengthInModel", L"%SawLengthInModel", L"%EDValue", L"%WidthExtensionLeft",
-           L"%WidthExtensionRight", L"%BarSpacing", L"%CrossBarSpacing", L"%ObjectTopLevel", L"%ObjectBottomLevel" })
-        add(token, kDistance);
-    for (const wchar_t* token :
-         { L"%Weight", L"%WeightInAssembly", L"%WeightInAllAssembly", L"%WeightInAllAssemblyInPhase", L"%WeightInPhase",
-           L"%WeightInModel", L"%AssemblyWeight", L"%ExactWeight", L"%ExactWeightInAssembly",
-           L"%ExactWeightInAllAssembly", L"%ExactWeightInAllAssemblyInPhase", L"%ExactWeightInPhase",
-           L"%ExactWeightInModel", L"%AssemblyExactWeight" })
-        add(token, kWeight);
-    for (const wchar_t* token : { L"%Area", L"%Paint", L"%PaintInAssembly", L"%ExactPaintArea" })
-        add(token, kArea);
-    add(L"%WeightMeter", kWeightPerDistance);
-    add(L"%%PaintMeter", kAreaPerDistance);
-    add(L"%Density", kDensity);
+    hasUsualTokens = true;
 }
 
 int RefUnits::typeOf(const std::wstring& token) const
 {
     const auto found = types.find(token);
-    return found == types.end() ? kNoUnit : found->second;
+    if (found != types.end())
+        return found->second;
+    const auto usual = usualTokens().find(token);
+    return hasUsualTokens && usual != usualTokens().end() ? usual->second : kNoUnit;
 }
 
 std::wstring RefUnits::display(const std::wstring& token, double value) const

@@ -2,6 +2,7 @@
 // open to everyone. What they compare, split and show is written out here in the most obvious way.
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <map>
 #include <memory>
@@ -77,13 +78,14 @@ struct RefSection
     explicit RefSection(Type sectionType) : type(sectionType) {}
 
     // This section and everything under it, one line each, indented by one blank per level.
-    std::wstring listing(int level = 0) const;
+    std::wstring listing() const;
+    void appendListing(std::wstring& text, std::size_t level) const;
 
     Type type;
     std::vector<RefTuple> tuples;
     std::vector<std::wstring> groupingTokens;
     std::vector<std::wstring> sortingTokens;
-    const RefRow* firstRow = nullptr;
+    RefRow* firstRow = nullptr;
     std::vector<std::shared_ptr<RefSection>> children;
 };
 
@@ -103,11 +105,14 @@ struct RefUnits
         kDensity
     };
 
-    void add(const std::wstring& token, int type) { types.emplace(token, type); } // the first one stays
-    void addUsualTokens();                                                        // what a template knows by itself
+    // The first registration of a token stays.
+    void add(const std::wstring& token, int type);
+    // Registers what a template knows by itself.
+    void addUsualTokens();
     int typeOf(const std::wstring& token) const;
     std::wstring display(const std::wstring& token, double value) const;
 
-    std::map<std::wstring, int> types;
+    std::map<std::wstring, int> types; // without the usual tokens
+    bool hasUsualTokens = false;
     std::function<std::wstring(int type, double value)> format; // asked for real units only
 };

@@ -46,64 +46,35 @@ void RefReport::prepare()
     prepareSection(root);
 }
 
-std::vector<RefReport::SortKey> RefReport::sortKeys() const
+std::vector<std::vector<std::wstring>> RefReport::sortingRequests() const
+{
+    std::vector<std::vector<std::wstring>> requests;
+    for (const RefSection* parent = &root; !parent->children.empty(); parent = parent->children[0].get())
+        requests.push_back(parent->children[0]->sortingTokens);
+    return requests;
+}
+
+// The outer levels' keys come first.
+std::vector<SortKey> RefReport::sortKeys() const
 {
     std::vector<SortKey> keys;
     bool ascending = true;
-    for (const RefSection* parent = &root; !parent->children.empty(); parent = parent->children[0].get())
-        for (std::wstring token : parent->children[0]->sortingTokens)
-        {
-            if (startsWith(token, L"%SortAscBy:"))
-                ascending = true;
-            else if (startsWith(token, L"%SortDescBy:"))
-                ascending = false;
-            token = without(ascending ? L"%SortAscBy:" : L"%SortDescBy:", token);
-            keys.push_back(SortKey{ token, ascending });
-        }
+    for (const std::vector<std::wstring>& requests : sortingRequests())
+        addSortKeys(keys, requests, ascending);
     return keys;
 }
 
-int RefReport::compareRows(RefRow& a, RefRow& b, const std::vector<SortKey>& keys)
+bool RefReport::hasOneOrder() const
 {
-    for (const SortKey& key : keys)
-    {
-        const RefTuple* first = findTuple(a.tuples, key.token);
-        const RefTuple* second = findTuple(b.tuples, key.token);
-        int result = 0;
-        if (first != nullptr && second != nullptr)
-            result = isOrderedNaturally(key.token) ? RefValue::compareNaturally(first->value, second->value)
-                                                   : RefValue::compare(first->value, second->value);
-        else if (first != nullptr || second != nullptr)
-            result = first != nullptr ? 1 : -1;
-        if (result != 0)
-            return key.ascending ? result : -result;
-    }
-    return 0;
+    return haveOneOrder(order, sortKeys());
 }
 
-bool RefReport::hasOneOrder()
+void RefReport::sort()
 {
-    for (const SortKey& key : sortKeys())
-    {
-        std::vector<RefValue> values;
-        for (RefRow& row : rows)
-            if (const RefTuple* tuple = findTuple(row.tuples, key.token))
-                values.push_back(tuple->value);
-        if (!RefValue::areOrdered(values, isOrderedNaturally(key.token)))
-            return false;
-    }
-    return true;
-}
-
-void RefReport::sortRows()
-{
-    const std::vector<SortKey> keys = sortKeys();
-    if (keys.empty() || order.size() < 2)
+    if (sortKeys().empty() || order.size() < 2)
         return;
     lastChild = order.back(); // on purpose: the link keeps naming the row that was last before the sort
-    for (std::size_t i = 1; i < order.size(); ++i)
-        for (std::size_t j = i; j > 0 && compareRows(*order[j - 1], *order[j], keys) > 0; --j)
-            std::swap(order[j - 1], order[j]);
+    sortRows(order, sortKeys());
 }
 
 int RefReport::evaluate(RefSection* result)

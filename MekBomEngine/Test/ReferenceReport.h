@@ -3,12 +3,13 @@
 // engine; only lengths, weights and the like are formatted by a function from outside.
 //   RefReport report;                        // fill report.root (the template), report.rows, order and units
 //   report.prepare();                        // finds what to group and sort by, as hosts do
-//   report.sortRows();
+//   report.sort();
 //   RefSection result(RefSection::kBomTemplate);
 //   report.evaluate(&result);                // result.listing() is then what list() of the engine's result says
 #pragma once
 
 #include "ReferenceData.h"
+#include "ReferenceSorting.h"
 
 #include <cstddef>
 #include <map>
@@ -22,13 +23,16 @@ public:
     using SectionPtr = std::shared_ptr<RefSection>;
 
     // Whether the template's sorting requests give the rows one order, whatever the way of sorting.
-    bool hasOneOrder();
+    bool hasOneOrder() const;
 
     // Fills every section's grouping and sorting tokens.
     void prepare();
 
     // Puts `order` into the order that the template asks for; equal rows stay as they stand.
-    void sortRows();
+    void sort();
+
+    // What each level sorts by, outermost first.
+    std::vector<std::vector<std::wstring>> sortingRequests() const;
 
     // Evaluates the rows in their present order and appends to `result`, which may be null.
     int evaluate(RefSection* result);
@@ -50,14 +54,8 @@ private:
         SectionPtr evaluatedFooter;
         bool isOpen = false;
     };
-    struct SortKey
-    {
-        std::wstring token;
-        bool ascending;
-    };
 
     std::vector<SortKey> sortKeys() const;
-    static int compareRows(RefRow& a, RefRow& b, const std::vector<SortKey>& keys);
     static bool differ(RefRow& a, RefRow& b, const std::vector<std::wstring>& tokens);
 
     void evaluateRow(RefRow& row);

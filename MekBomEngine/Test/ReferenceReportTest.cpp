@@ -60,7 +60,7 @@ TEST(ReferenceReportTest, WorkedReportComesOutAsWorkedOutByHand)
     RefSection result(RefSection::kBomTemplate);
 
     report.prepare();
-    report.sortRows();
+    report.sort();
     EXPECT_EQ(1, report.evaluate(&result));
 
     EXPECT_EQ(L"[ kBomTemplate ]\n"

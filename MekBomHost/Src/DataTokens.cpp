@@ -1,0 +1,31 @@
+#include "DataTokens.h"
+
+#include "Utf8.h"
+
+#include "VorBomDataToken.h"
+
+#include <algorithm>
+
+namespace mekbom::DataTokens
+{
+namespace
+{
+bool isDatum(const VorString& token)
+{
+    return VorBomDataToken::isToken(token) == 1 && VorBomDataToken::isInvisibleToken(token) == 0 &&
+           VorBomDataToken::isFormula(token) == 0 && token.find(VorBomDataToken::kSumPrefix, 0) != 0;
+}
+}
+
+std::vector<std::string> of(VorBomTemplate& reportTemplate)
+{
+    std::vector<std::string> tokens;
+    for (const VorString& token : reportTemplate.getTokenTrace())
+    {
+        const std::string name = Utf8::toBytes(token);
+        if (isDatum(token) && name != "%Handle" && std::find(tokens.begin(), tokens.end(), name) == tokens.end())
+            tokens.push_back(name);
+    }
+    return tokens;
+}
+}

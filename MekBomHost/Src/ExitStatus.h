@@ -1,0 +1,14 @@
+// What the program tells its caller. Scripts rely on the numbers; `mekbom --help` lists them.
+#pragma once
+
+namespace mekbom
+{
+enum ExitStatus : int
+{
+    kDone = 0,
+    kWrongUsage = 2,       // the command line
+    kInvalidInput = 3,     // parts list or template unreadable or wrong
+    kOutputNotWritten = 4, // the report could not be written; what stood there before still does
+    kInternalFault = 70    // the program's own mistake, or no memory left
+};
+}

@@ -1,0 +1,37 @@
+#include "FileSource.h"
+
+#include "Fault.h"
+
+#include <cerrno>
+#include <system_error>
+
+namespace mekbom
+{
+FileSource::FileSource(const std::string& path) : m_name(path), m_pFile(std::fopen(path.c_str(), "rb"))
+{
+    if (m_pFile == nullptr)
+        failToRead(errno);
+}
+
+FileSource::FileSource() : m_name("standard input"), m_pFile(stdin) {}
+
+std::size_t FileSource::read(char* pBytes, std::size_t size)
+{
+    errno = 0;
+    const std::size_t numRead = std::fread(pBytes, 1, size, m_pFile.get());
+    if (numRead == 0 && std::ferror(m_pFile.get()) != 0)
+        failToRead(errno);
+    return numRead;
+}
+
+void FileSource::Closer::operator()(std::FILE* pFile) const
+{
+    if (pFile != stdin)
+        std::fclose(pFile);
+}
+
+void FileSource::failToRead(int error) const
+{
+    throw Fault(kInvalidInput, m_name + ": cannot be read: " + std::generic_category().message(error));
+}
+}

@@ -1,0 +1,45 @@
+#include "JsonNode.h"
+
+#include "MessageText.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace mekbom
+{
+namespace
+{
+const int kLongestNumber = 400; // the digits of any double, written out
+
+std::string textOf(double number, bool isWhole)
+{
+    char text[kLongestNumber];
+    const std::to_chars_result result =
+        isWhole ? std::to_chars(text, text + kLongestNumber, number, std::chars_format::fixed)
+                : std::to_chars(text, text + kLongestNumber, number);
+    return std::string(text, result.ptr);
+}
+}
+
+const JsonNode* JsonNode::find(const std::string& memberKey) const
+{
+    const auto found = std::find_if(children.begin(), children.end(),
+                                    [&memberKey](const JsonNode& child) { return child.key == memberKey; });
+    return found == children.end() ? nullptr : &*found;
+}
+
+std::string JsonNode::description() const
+{
+    switch (kind)
+    {
+        case kNull: return "null";
+        case kBoolean: return boolean ? "true" : "false";
+        case kInteger:
+        case kNumber: return "the number " + textOf(number, kind == kInteger);
+        case kText: return inQuotes(text);
+        case kArray: return "an array";
+        case kObject: break;
+    }
+    return "an object";
+}
+}

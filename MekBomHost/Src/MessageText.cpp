@@ -1,0 +1,25 @@
+#include "MessageText.h"
+
+#include "Utf8.h"
+
+namespace mekbom
+{
+namespace
+{
+bool isControl(int codePoint)
+{
+    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+}
+}
+
+std::string inQuotes(std::string_view text)
+{
+    std::string result = "\"";
+    for (int n = 0; n < kMostQuoted && !text.empty(); ++n)
+    {
+        const int codePoint = Utf8::takeCodePoint(text);
+        Utf8::appendCodePoint(result, isControl(codePoint) ? '?' : codePoint);
+    }
+    return result + (text.empty() ? "\"" : "...\"");
+}
+}

@@ -1,0 +1,150 @@
+#include "OutputFile.h"
+
+#include "Fault.h"
+
+#include <cerrno>
+#include <system_error>
+
+#if defined(_WIN32)
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+namespace mekbom
+{
+namespace
+{
+namespace fs = std::filesystem;
+
+const int kMostAttempts = 1000; // arbitrary: that many leftovers of aborted runs beside one file
+
+// Has the system put the file on the disk, so that a crash after the renaming leaves the old text or the new one.
+int synchronize(std::FILE* pFile)
+{
+#if defined(_WIN32)
+    return _commit(_fileno(pFile));
+#else
+    return fsync(fileno(pFile));
+#endif
+}
+}
+
+OutputFile::Temporary::~Temporary()
+{
+    std::error_code error;
+    if (!path.empty())
+        fs::remove(path, error);
+}
+
+OutputFile::OutputFile(const std::string& path) : m_name(path), m_target(path)
+{
+    std::error_code error;
+    const fs::file_status status = fs::status(m_target, error);
+    if (status.type() == fs::file_type::directory)
+        fail("is a directory");
+    if (!m_target.has_filename())
+        fail("is no file name");
+    const bool exists = fs::exists(status);
+    if (exists && status.type() != fs::file_type::regular)
+        openDirectly();
+    else if (exists)
+        openReplacement();
+    else
+        openTemporary();
+}
+
+void OutputFile::write(std::string_view text)
+{
+    if (std::fwrite(text.data(), 1, text.size(), m_pFile.get()) != text.size())
+        failWithSystemReason();
+}
+
+void OutputFile::finish()
+{
+    const bool isDirect = m_temporary.path.empty();
+    if (std::fflush(m_pFile.get()) != 0 || (!isDirect && synchronize(m_pFile.get()) != 0))
+        failWithSystemReason();
+    close();
+    if (!isDirect)
+        replaceTarget();
+}
+
+void OutputFile::openDirectly()
+{
+    m_pFile.reset(std::fopen(m_name.c_str(), "wb"));
+    if (m_pFile == nullptr)
+        failWithSystemReason();
+}
+
+void OutputFile::openReplacement()
+{
+    std::error_code error;
+    m_target = fs::canonical(m_target, error);
+    if (error)
+        fail(error.message());
+    checkIsWritable();
+    openTemporary();
+    keepAccessRights();
+}
+
+// A write-protected file could be replaced all the same, against its owner's will.
+void OutputFile::checkIsWritable()
+{
+    const FilePointer pFile(std::fopen(m_target.string().c_str(), "r+b"));
+    if (pFile == nullptr)
+        failWithSystemReason();
+}
+
+// "x" makes sure that the file is a new one.
+void OutputFile::openTemporary()
+{
+    for (int attempt = 0; attempt < kMostAttempts && m_pFile == nullptr; ++attempt)
+    {
+        fs::path candidate = m_target;
+        candidate += ".mekbom" + std::to_string(attempt) + ".tmp";
+        m_pFile.reset(std::fopen(candidate.string().c_str(), "wbx"));
+        if (m_pFile != nullptr)
+            m_temporary.path = candidate;
+        else if (errno != EEXIST)
+            failWithSystemReason();
+    }
+    if (m_pFile == nullptr)
+        failWithSystemReason();
+}
+
+void OutputFile::keepAccessRights()
+{
+    std::error_code error;
+    const fs::perms rights = fs::status(m_target, error).permissions();
+    if (!error)
+        fs::permissions(m_temporary.path, rights, error);
+    if (error)
+        fail(error.message());
+}
+
+void OutputFile::close()
+{
+    if (std::fclose(m_pFile.release()) != 0)
+        failWithSystemReason();
+}
+
+void OutputFile::replaceTarget()
+{
+    std::error_code error;
+    fs::rename(m_temporary.path, m_target, error);
+    if (error)
+        fail(error.message());
+    m_temporary.path.clear();
+}
+
+void OutputFile::fail(const std::string& reason) const
+{
+    throw Fault(kOutputNotWritten, m_name + ": cannot be written: " + reason);
+}
+
+void OutputFile::failWithSystemReason() const
+{
+    fail(std::generic_category().message(errno));
+}
+}

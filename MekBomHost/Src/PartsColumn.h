@@ -1,0 +1,29 @@
+// One column of a parts list: which datum it carries, of which type, and in which unit its numbers are given.
+#pragma once
+
+#include "VorBomDataValue.h"
+
+#include "MekRoots/Exp/MEKUnit.h"
+#include "MekRoots/Exp/VorString.h"
+
+#include <optional>
+#include <string>
+
+namespace mekbom
+{
+struct PartsColumn
+{
+    std::string name;       // as the header row has it, for messages
+    std::string token;      // "%Length"
+    VorString tupleToken;   // the same; every tuple of the column copies this one, so that all share its characters
+    std::string unitSymbol; // "ft", empty for numbers in internal units
+    bool unitIsFromUser = false; // by --input-unit, not by the header row
+
+    // The rest follows from the token and the template. kUnknownData until the content has been seen, for a column that
+    // the catalogue of tokens does not know and that has no unit.
+    VorBomDataValue::eBomDataValueType type = VorBomDataValue::kUnknownData;
+    std::optional<MEKUnit> unit;
+    bool isHandle = false; // the identity of the object, beside being a datum
+    bool isWanted = false; // some section asks for it; cells of other columns are only checked
+};
+}

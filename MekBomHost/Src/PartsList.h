@@ -1,0 +1,54 @@
+// A parts list on disk: comma-separated, its header row naming the tokens of the columns.
+//
+//   FileSource file("parts.csv");
+//   PartsList parts(file);                 reads the header row
+//   parts.setInputUnit("%Paint", "m2");
+//   parts.readRows(*pTemplate, filter);    into the template's data
+//
+// The catalogue of tokens decides what type a column has; a column it does not know has the type of its content
+// (ContentColumn). "Handle" is the identity of the object. Everything that is wrong is thrown as one Fault.
+#pragma once
+
+#include "ByteSource.h"
+#include "CsvReader.h"
+#include "PartsColumn.h"
+#include "QueryFilter.h"
+
+#include "VorBomTemplate.h"
+
+#include <string>
+#include <vector>
+
+namespace mekbom
+{
+class PartsList
+{
+public:
+    // Reads the header row. `source` is not owned and outlives the list.
+    explicit PartsList(ByteSource& source);
+
+    const std::vector<PartsColumn>& columns() const { return m_columns; }
+
+    // The column with this token, or null.
+    const PartsColumn* find(const std::string& token) const;
+
+    // Says in which unit a column is given whose header row does not. Throws a Fault of status kWrongUsage when there is
+    // no such column, or when its header row names another unit.
+    void setInputUnit(const std::string& token, const std::string& unit);
+
+    // Appends one row for each record to the template's data. Rows carry the data that the template asks for, whose
+    // tokens must have been found already, and those that `filter` names. To be called once.
+    void readRows(VorBomTemplate& reportTemplate, const QueryFilter& filter);
+
+private:
+    void readHeader();
+    void addColumn(const std::string& field);
+    void resolveColumn(PartsColumn& column, const VorBomTemplateUnits& units) const;
+    void resolveUnit(PartsColumn& column, const VorBomTemplateUnits& units) const;
+    std::string placeOfUnit(const PartsColumn& column) const;
+
+    CsvReader m_reader;
+    std::vector<PartsColumn> m_columns;
+    std::string m_headerPlace; // "parts.csv:1: "
+};
+}

@@ -1,0 +1,73 @@
+#include "Program.h"
+
+#include "CommandLine.h"
+#include "Fault.h"
+#include "ReportCommand.h"
+#include "StandardOutput.h"
+
+#include <cstdio>
+#include <exception>
+#include <new>
+#include <string>
+
+namespace mekbom::Program
+{
+namespace
+{
+void printMessage(const std::string& message)
+{
+    std::fputs(("mekbom: " + message + "\n").c_str(), stderr);
+}
+
+void runReport(const ReportOptions& options)
+{
+    ReportCommand command(options);
+    command.run();
+    for (const std::string& note : command.notes())
+        printMessage("note: " + note);
+}
+
+void runArguments(int numArguments, const char* const* arguments)
+{
+    const CommandLine::Outcome outcome = CommandLine::parse(numArguments, arguments);
+    if (outcome.isReport)
+        return runReport(outcome.options);
+    StandardOutput output;
+    output.write(outcome.text);
+    output.finish();
+}
+}
+
+ExitStatus run(int numArguments, const char* const* arguments)
+{
+    return runGuarded([numArguments, arguments] { runArguments(numArguments, arguments); });
+}
+
+ExitStatus runGuarded(const std::function<void()>& command)
+{
+    try
+    {
+        command();
+        return kDone;
+    }
+    catch (const Fault& fault)
+    {
+        for (const std::string& message : fault.messages())
+            printMessage(message);
+        return fault.status();
+    }
+    catch (const std::bad_alloc&)
+    {
+        printMessage("internal fault: no memory left");
+    }
+    catch (const std::exception& exception)
+    {
+        printMessage(std::string("internal fault: ") + exception.what());
+    }
+    catch (...)
+    {
+        printMessage("internal fault");
+    }
+    return kInternalFault;
+}
+}

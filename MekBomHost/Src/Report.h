@@ -1,0 +1,47 @@
+// One report, from a template and rows of data to the text of its table.
+//
+//   Report report(TemplateReader::read(name, text), VorUnitsManager::metric());
+//   parts.readRows(report.engineTemplate(), report.queryFilter());
+//   report.evaluate();
+//   report.writeTable(sink);
+//
+// Takes the engine's steps in the order it asks for: what the template groups and sorts by is found, and units are set,
+// when the report is made, so that rows can be read with no more than the data it needs.
+#pragma once
+
+#include "ReportTemplate.h"
+#include "TextSink.h"
+
+#include "VorBomTemplate.h"
+
+#include "MekRoots/Exp/VorUnitsManager.h"
+
+#include <string>
+
+namespace mekbom
+{
+class Report
+{
+public:
+    Report(ReportTemplate reportTemplate, const VorUnitsManager& units);
+
+    // The template whose data the rows go to.
+    VorBomTemplate& engineTemplate() { return *m_template.pTemplate; }
+    const QueryFilter& queryFilter() const { return m_template.queryFilter; }
+
+    // Leaves out the rows that the template is not about, then evaluates. To be called once.
+    void evaluate();
+
+    // How many rows had a line equal to the one before it, were merged into that and count in no total.
+    int numMergedRows() const;
+
+    // The evaluated sections as VorBomItemBase::list writes them, in UTF-8.
+    std::string list();
+
+    void writeTable(TextSink& sink);
+
+private:
+    ReportTemplate m_template;
+    VorBomTemplate m_result; // its sections refer to the rows of m_template
+};
+}

@@ -1,0 +1,32 @@
+#include "ReportTemplate.h"
+
+#include "VorBomDataToken.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace mekbom
+{
+const SectionStyle& ReportTemplate::styleOf(const VorBomItemBase* pSection) const
+{
+    static const SectionStyle usual;
+    const auto found = sectionStyles.find(pSection);
+    return found == sectionStyles.end() ? usual : found->second;
+}
+
+VorString ReportTemplate::columnTokenOf(const VorBomItemBase& section, int tupleIndex) const
+{
+    const VorBomDataToken& token = section.getData()[tupleIndex].token();
+    const std::vector<VorString>& named = styleOf(&section).columnTokens;
+    const auto index = static_cast<std::size_t>(tupleIndex);
+    VorString summed;
+    if (VorBomDataToken::isInvisibleToken(token.token()) == 1)
+        return VorString();
+    if (index < named.size() && named[index].isEmpty() == 0)
+        return named[index];
+    const auto isOwn = [&token](const ColumnStyle& column) { return column.token == token.token(); };
+    if (std::any_of(columns.begin(), columns.end(), isOwn) || token.getSummingRequest(summed) == 0)
+        return token.token();
+    return summed;
+}
+}

@@ -1,0 +1,51 @@
+#include "ShippedFiles.h"
+
+#include "Fault.h"
+
+#include <filesystem>
+#include <system_error>
+
+#if defined(_WIN32)
+#include <windows.h>
+#endif
+
+namespace mekbom::ShippedFiles
+{
+namespace
+{
+namespace fs = std::filesystem;
+
+// The folder of the running program; empty where the system does not tell.
+fs::path programFolder()
+{
+#if defined(_WIN32)
+    wchar_t path[MAX_PATH];
+    const DWORD length = GetModuleFileNameW(nullptr, path, MAX_PATH);
+    return fs::path(std::wstring(path, length)).parent_path();
+#else
+    std::error_code error;
+    return fs::read_symlink("/proc/self/exe", error).parent_path();
+#endif
+}
+}
+
+const char* const kPartsList = "hall.csv";
+
+const std::vector<std::string>& templates()
+{
+    static const std::vector<std::string> files = { "Templates/cutting-list.json", "Templates/assembly-list.json",
+                                                    "Templates/bolt-list.json", "Templates/parts-list.json" };
+    return files;
+}
+
+std::string find(const std::string& relativePath)
+{
+    const fs::path installed = (programFolder() / ".." / "share" / "mekbom").lexically_normal();
+    std::error_code error;
+    for (const fs::path& folder : { installed, fs::path(MEK_SHIPPED_DIR) })
+        if (fs::exists(folder / relativePath, error))
+            return (folder / relativePath).string();
+    throw Fault(kInvalidInput, relativePath + ": found neither in " + installed.string() + " nor in " +
+                                   MEK_SHIPPED_DIR + ", expected as part of the installation");
+}
+}

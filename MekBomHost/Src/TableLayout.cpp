@@ -1,0 +1,175 @@
+#include "TableLayout.h"
+
+#include "Utf8.h"
+
+#include "VorBomDataToken.h"
+#include "VorBomDataTuple.h"
+#include "VorBomTokenCatalogue.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace mekbom
+{
+namespace
+{
+using Value = VorBomDataValue;
+
+// Of the first row that has the datum.
+Value::eBomDataValueType typeInData(const VorBomData& data, const VorString& token)
+{
+    for (const VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
+        if (const VorBomDataTuple* const pTuple = pRow->getTupleAt(token))
+            return pTuple->value().type();
+    return Value::kUnknownData;
+}
+
+VorString withoutSumPrefix(const VorString& token)
+{
+    VorString summed;
+    return VorBomDataToken(token).getSummingRequest(summed) == 1 ? summed : token;
+}
+
+bool isNumeric(const VorBomData& data, const VorString& token)
+{
+    const VorString datum = withoutSumPrefix(token);
+    if (VorBomDataToken::isFormula(datum) == 1)
+        return true;
+    const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(datum);
+    const Value::eBomDataValueType type = pEntry != nullptr ? pEntry->type : typeInData(data, datum);
+    return type == Value::kIntData || type == Value::kDoubleData;
+}
+
+// "%Weight" -> "Weight", "%Formula:%Length/1000" -> "%Length/1000"
+std::string labelOf(const VorString& token)
+{
+    VorString label = withoutSumPrefix(token);
+    if (VorBomDataToken::removeFormulaPrefix(label) == 0 && label.find(VorBomDataToken::kTokenPrefix, 0) == 0)
+        label = label.right(label.length() - 1);
+    return Utf8::toBytes(label);
+}
+
+bool holds(const std::vector<int>& columns, int column)
+{
+    return std::find(columns.begin(), columns.end(), column) != columns.end();
+}
+
+bool canShareLine(const TableSection& header, const TableSection& footer)
+{
+    const auto isShownByFooter = [&footer](int column) { return column >= 0 && holds(footer.columnOfTuple, column); };
+    return footer.label.empty() && header.label.empty() &&
+           std::none_of(header.columnOfTuple.begin(), header.columnOfTuple.end(), isShownByFooter);
+}
+
+// A label stands where the line shows nothing else.
+void placeLabel(TableSection& section, std::size_t numColumns)
+{
+    for (int column = 0; column < static_cast<int>(numColumns) && section.labelColumn < 0; ++column)
+        if (!holds(section.columnOfTuple, column))
+            section.labelColumn = column;
+}
+}
+
+TableLayout::TableLayout(const ReportTemplate& reportTemplate, const VorBomData& data) : m_template(reportTemplate)
+{
+    for (const ColumnStyle& style : m_template.columns)
+        addColumn(style.token);
+    layOutLevels();
+    for (TableLevel& level : m_levels)
+    {
+        placeLabel(level.header, m_columns.size());
+        placeLabel(level.footer, m_columns.size());
+        level.canShareLine = canShareLine(level.header, level.footer);
+    }
+    for (TableColumn& column : m_columns)
+        completeColumn(column, data);
+}
+
+// In the order in which the lines of one group come: headers from the outside in, footers from the inside out.
+void TableLayout::layOutLevels()
+{
+    std::vector<const VorBomItemBase*> footers;
+    for (const VorBomItemBase* pHeader = m_template.pTemplate->child(); pHeader != nullptr; pHeader = pHeader->child())
+    {
+        m_levels.push_back({});
+        m_levels.back().header = layOut(pHeader);
+        footers.push_back(pHeader->next());
+    }
+    for (std::size_t i = footers.size(); i-- > 0;)
+        m_levels[i].footer = layOut(footers[i]);
+}
+
+// A level may lack its footer.
+TableSection TableLayout::layOut(const VorBomItemBase* pSection)
+{
+    TableSection section;
+    if (pSection == nullptr || !m_template.styleOf(pSection).isPrinted)
+        return section;
+    section.label = m_template.styleOf(pSection).label;
+    for (int i = 0; i < pSection->getData().length(); ++i)
+        section.columnOfTuple.push_back(columnOfTuple(*pSection, i, section.columnOfTuple));
+    const auto isShown = [](int column) { return column >= 0; };
+    section.showsAnything =
+        !section.label.empty() || std::any_of(section.columnOfTuple.begin(), section.columnOfTuple.end(), isShown);
+    return section;
+}
+
+// -1 for a tuple that is not shown.
+int TableLayout::columnOfTuple(const VorBomItemBase& section, int tupleIndex, const std::vector<int>& taken)
+{
+    const VorString token = m_template.columnTokenOf(section, tupleIndex);
+    if (token.isEmpty() == 1)
+        return -1;
+    const VorString& tupleToken = section.getData()[tupleIndex].token().token();
+    const int column = columnFor(token, tupleToken, taken);
+    VorString& shownToken = m_columns[static_cast<std::size_t>(column)].shownToken;
+    if (shownToken.isEmpty() == 1)
+        shownToken = tupleToken;
+    return column;
+}
+
+// The column of `token`, or, when the section has taken that already, one of the tuple's own.
+int TableLayout::columnFor(const VorString& token, const VorString& tupleToken, const std::vector<int>& taken)
+{
+    const int column = findColumn(token);
+    if (column < 0)
+        return addColumn(token);
+    if (!holds(taken, column))
+        return column;
+    const int own = findColumn(tupleToken);
+    return own < 0 || holds(taken, own) ? addColumn(tupleToken) : own;
+}
+
+// -1 when there is none.
+int TableLayout::findColumn(const VorString& token) const
+{
+    const auto found = std::find_if(m_columns.begin(), m_columns.end(),
+                                    [&token](const TableColumn& column) { return column.token == token; });
+    return found == m_columns.end() ? -1 : static_cast<int>(found - m_columns.begin());
+}
+
+int TableLayout::addColumn(const VorString& token)
+{
+    TableColumn column;
+    column.token = token;
+    m_columns.push_back(column);
+    return static_cast<int>(m_columns.size()) - 1;
+}
+
+void TableLayout::completeColumn(TableColumn& column, const VorBomData& data) const
+{
+    const auto style =
+        std::find_if(m_template.columns.begin(), m_template.columns.end(),
+                     [&column](const ColumnStyle& candidate) { return candidate.token == column.token; });
+    column.isNumeric = isNumeric(data, column.shownToken);
+    column.isAlignedRight = column.isNumeric;
+    column.label = labelOf(column.token);
+    if (style == m_template.columns.end())
+        return;
+    column.fixedWidth = style->width;
+    if (!style->label.empty())
+        column.label = style->label;
+    if (style->alignment != ColumnStyle::kByType)
+        column.isAlignedRight = style->alignment == ColumnStyle::kRight;
+}
+}

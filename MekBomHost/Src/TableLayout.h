@@ -1,0 +1,68 @@
+// Which columns the table of a report has, and in which of them each section shows its tuples.
+//
+// Every tuple that is shown has a column: that of ReportTemplate::columnTokenOf. Columns that the template describes come
+// first, in its order, then the others as the sections name them: headers from the outside in, footers from the inside
+// out. Two tuples of one section never share a column; the second one gets one of its own.
+#pragma once
+
+#include "ReportTemplate.h"
+
+#include "VorBomData.h"
+
+#include "MekRoots/Exp/VorString.h"
+
+#include <string>
+#include <vector>
+
+namespace mekbom
+{
+struct TableColumn
+{
+    VorString token;
+    VorString shownToken; // of the first tuple that is shown in it
+    std::string label;    // UTF-8
+    int fixedWidth = 0;
+    bool isNumeric = false; // its texts are never broken: half a number would be another number
+    bool isAlignedRight = false;
+};
+
+// One section of the template: what the table shows of it.
+struct TableSection
+{
+    std::string label;
+    int labelColumn = -1;           // the first that shows no tuple; -1 when there is none
+    std::vector<int> columnOfTuple; // -1 for a tuple that is not shown
+    bool showsAnything = false;     // false makes no line at all
+};
+
+// A header section and the footer after it. Level 0 is the report's outermost.
+struct TableLevel
+{
+    TableSection header;
+    TableSection footer;
+    bool canShareLine = false; // they show different columns, and neither has a label
+};
+
+class TableLayout
+{
+public:
+    // The data say what type the columns have that the catalogue of tokens does not know.
+    TableLayout(const ReportTemplate& reportTemplate, const VorBomData& data);
+
+    const std::vector<TableColumn>& columns() const { return m_columns; }
+    const std::vector<TableLevel>& levels() const { return m_levels; }
+
+private:
+    void layOutLevels();
+    TableSection layOut(const VorBomItemBase* pSection);
+    int columnOfTuple(const VorBomItemBase& section, int tupleIndex, const std::vector<int>& taken);
+    int columnFor(const VorString& token, const VorString& tupleToken, const std::vector<int>& taken);
+    int findColumn(const VorString& token) const;
+    int addColumn(const VorString& token);
+    void completeColumn(TableColumn& column, const VorBomData& data) const;
+
+    const ReportTemplate& m_template;
+    std::vector<TableColumn> m_columns;
+    std::vector<TableLevel> m_levels;
+};
+}

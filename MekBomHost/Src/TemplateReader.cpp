@@ -1,0 +1,218 @@
+#include "TemplateReader.h"
+
+#include "JsonReader.h"
+#include "MessageText.h"
+#include "Utf8.h"
+
+#include "VorBomDataTuple.h"
+#include "VorBomTemplateUnits.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace mekbom
+{
+namespace
+{
+using Section = VorBomTemplateItem;
+using Units = VorBomTemplateUnits;
+
+template <class T>
+struct Named
+{
+    const char* name;
+    T value;
+};
+
+const Named<Section::eTemplateItemType> kSectionTypes[] = {
+    { "kReportHeader", Section::kReportHeader }, { "kPageHeader", Section::kPageHeader },
+    { "kGroupHeader", Section::kGroupHeader },   { "kDetails", Section::kDetails },
+    { "kGroupFooter", Section::kGroupFooter },   { "kPageFooter", Section::kPageFooter },
+    { "kReportFooter", Section::kReportFooter },
+};
+
+const Named<Units::eTokenUnitType> kUnitTypes[] = {
+    { "kNoUnit", Units::kNoUnit },
+    { "kDistanceUnit", Units::kDistanceUnit },
+    { "kWeightUnit", Units::kWeightUnit },
+    { "kAreaUnit", Units::kAreaUnit },
+    { "kAngleUnit", Units::kAngleUnit },
+    { "kWeightPerDistanceUnit", Units::kWeightPerDistanceUnit },
+    { "kAreaPerDistanceUnit", Units::kAreaPerDistanceUnit },
+    { "kReservedUnitType", Units::kReservedUnitType },
+    { "kDensityUnit", Units::kDensityUnit },
+};
+
+const Named<ColumnStyle::eAlignment> kAlignments[] = { { "left", ColumnStyle::kLeft },
+                                                       { "right", ColumnStyle::kRight } };
+
+const int kLeastInt = std::numeric_limits<int>::min();
+const int kGreatestInt = std::numeric_limits<int>::max();
+const std::size_t kNumUsedSiblings = 2;
+const int kWidestColumn = 200; // arbitrary: wider than any terminal line that one would read
+
+// Sets `value` to that of the entry whose name the member is. Leaves it alone when the member is missing or wrong.
+template <class T, std::size_t N>
+void readChoice(JsonChecker& json, const JsonItem& object, const std::string& key, const Named<T> (&table)[N], T& value)
+{
+    std::vector<std::string> names;
+    for (const Named<T>& entry : table)
+        names.push_back(entry.name);
+    const int choice = json.choiceOf(object, key, names);
+    if (choice >= 0)
+        value = table[choice].value;
+}
+}
+
+ReportTemplate TemplateReader::read(const std::string& name, std::string_view text)
+{
+    const JsonNode root = JsonReader(name, text).read();
+    return TemplateReader(name).build(root);
+}
+
+ReportTemplate TemplateReader::build(const JsonNode& root)
+{
+    m_template.pTemplate = std::make_unique<VorBomTemplate>();
+    const JsonItem item{ root, std::string() };
+    if (m_json.isObjectOf(
+            item, { "$schema", "title", "queryFilter", "presentationOptions", "tokenUnits", "columns", "sections" }))
+    {
+        m_json.textOf(item, "$schema"); // of use to editors only
+        m_template.title = m_json.textOf(item, "title");
+        m_template.pTemplate->setObjectPresentationOptions(
+            m_json.integerOf(item, "presentationOptions", kLeastInt, kGreatestInt, 0));
+        readQueryFilter(item);
+        readTokenUnits(item);
+        readColumns(item);
+        readSections(item, "sections", *m_template.pTemplate);
+        if (m_template.pTemplate->child() == nullptr)
+            m_json.add(root.place, item.path, "found no section, expected at least one in \"sections\"");
+    }
+    m_json.throwIfAny();
+    checkColumns(item);
+    m_json.throwIfAny();
+    return std::move(m_template);
+}
+
+void TemplateReader::readQueryFilter(const JsonItem& root)
+{
+    const std::string filter = m_json.textOf(root, "queryFilter");
+    m_template.pTemplate->setQueryFilter(Utf8::toWide(filter));
+    if (QueryFilter::parse(filter, m_template.queryFilter) == 0)
+        m_json.add(root.node.find("queryFilter")->place, "/queryFilter",
+                   "found " + inQuotes(filter) + ", expected tokens such as \"%Weight, !%BoltName\"");
+}
+
+void TemplateReader::readTokenUnits(const JsonItem& root)
+{
+    const JsonNode* const pUnits = root.node.find("tokenUnits");
+    if (pUnits == nullptr || !m_json.isOfKind({ *pUnits, "/tokenUnits" }, JsonNode::kObject))
+        return;
+    for (const JsonNode& member : pUnits->children)
+    {
+        Units::eTokenUnitType type = Units::kNoUnit;
+        readChoice(m_json, { *pUnits, "/tokenUnits" }, member.key, kUnitTypes, type);
+        m_template.pTemplate->getBomTemplateUnits()->AddTokenType(Utf8::toWide(member.key), type);
+    }
+}
+
+void TemplateReader::readColumns(const JsonItem& root)
+{
+    for (const JsonItem& column : m_json.elementsOf(root, "columns"))
+        if (m_json.isObjectOf(column, { "token", "label", "width", "align" }))
+            readColumn(column);
+}
+
+void TemplateReader::readColumn(const JsonItem& column)
+{
+    ColumnStyle style;
+    const std::string token = m_json.requiredTextOf(column, "token");
+    style.token = Utf8::toWide(token);
+    style.label = m_json.textOf(column, "label");
+    style.width = m_json.integerOf(column, "width", 1, kWidestColumn, 0);
+    readChoice(m_json, column, "align", kAlignments, style.alignment);
+    for (const ColumnStyle& other : m_template.columns)
+        if (other.token == style.token)
+            m_json.add(column.node.place, column.path, "found column " + inQuotes(token) + " a second time");
+    m_template.columns.push_back(style);
+}
+
+void TemplateReader::readSections(const JsonItem& parent, const std::string& key, VorBomItemBase& parentItem)
+{
+    const std::vector<JsonItem> sections = m_json.elementsOf(parent, key);
+    for (const JsonItem& section : sections)
+        if (m_json.isObjectOf(section, { "type", "print", "label", "tuples", "children" }))
+            readSection(section, parentItem);
+    noteUnused(sections);
+}
+
+// Of siblings the first is a level's header and the second its footer, which has no levels below it.
+void TemplateReader::noteUnused(const std::vector<JsonItem>& siblings)
+{
+    for (std::size_t i = kNumUsedSiblings; i < siblings.size(); ++i)
+        m_template.notes.push_back(
+            m_json.message(siblings[i].node.place, siblings[i].path,
+                           "is not evaluated: the first two sections of a level are its header and footer"));
+    if (siblings.size() >= kNumUsedSiblings && siblings[1].node.find("children") != nullptr)
+        m_template.notes.push_back(m_json.message(siblings[1].node.find("children")->place,
+                                                  siblings[1].path + "/children",
+                                                  "are not evaluated: the section is a footer"));
+}
+
+void TemplateReader::readSection(const JsonItem& section, VorBomItemBase& parentItem)
+{
+    Section::eTemplateItemType type = Section::kUnkTemplateItemType;
+    if (m_json.has(section, "type"))
+        readChoice(m_json, section, "type", kSectionTypes, type);
+    auto* const pSection = new Section(type);
+    parentItem.addChild(pSection);
+    SectionStyle& style = m_template.sectionStyles[pSection];
+    style.isPrinted = m_json.booleanOf(section, "print", true);
+    style.label = m_json.textOf(section, "label");
+    for (const JsonItem& tuple : m_json.elementsOf(section, "tuples"))
+        if (m_json.isObjectOf(tuple, { "token", "value", "column" }))
+            readTuple(tuple, *pSection, style);
+    readSections(section, "children", *pSection);
+}
+
+void TemplateReader::readTuple(const JsonItem& tuple, VorBomItemBase& sectionItem, SectionStyle& style)
+{
+    const VorString token = Utf8::toWide(m_json.requiredTextOf(tuple, "token"));
+    style.columnTokens.push_back(Utf8::toWide(m_json.textOf(tuple, "column")));
+    const JsonNode* const pValue = tuple.node.find("value");
+    switch (pValue == nullptr ? JsonNode::kNull : pValue->kind)
+    {
+        case JsonNode::kNull: sectionItem.addData(VorBomDataTuple(token, VorBomDataValue())); break;
+        case JsonNode::kInteger:
+            sectionItem.addData(VorBomDataTuple(token, m_json.integerOf(tuple, "value", kLeastInt, kGreatestInt, 0)));
+            break;
+        case JsonNode::kNumber: sectionItem.addData(VorBomDataTuple(token, pValue->number)); break;
+        case JsonNode::kText: sectionItem.addData(VorBomDataTuple(token, Utf8::toWide(pValue->text))); break;
+        default:
+            m_json.add(pValue->place, tuple.path + "/value",
+                       "found " + pValue->description() + ", expected a number, a text or null");
+            break;
+    }
+}
+
+// A column that nothing is shown in is most likely misspelled.
+void TemplateReader::checkColumns(const JsonItem& root)
+{
+    const std::vector<JsonItem> columns = m_json.elementsOf(root, "columns");
+    for (std::size_t i = 0; i < columns.size() && i < m_template.columns.size(); ++i)
+        if (!isShown(m_template.columns[i].token))
+            m_json.add(columns[i].node.place, columns[i].path,
+                       "found column " + inQuotes(Utf8::toBytes(m_template.columns[i].token)) +
+                           ", which no printed section shows");
+}
+
+bool TemplateReader::isShown(const VorString& columnToken) const
+{
+    for (const auto& [pSection, style] : m_template.sectionStyles)
+        for (int i = 0; style.isPrinted && i < pSection->getData().length(); ++i)
+            if (m_template.columnTokenOf(*pSection, i) == columnToken)
+                return true;
+    return false;
+}
+}

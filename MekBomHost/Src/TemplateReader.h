@@ -1,0 +1,43 @@
+// Reads a template file: JSON with comments, described by MekBomHost/Schema/mekbom-template.schema.json.
+//
+//   ReportTemplate list = TemplateReader::read("list.json", text);
+//
+// Throws a Fault of status kInvalidInput with a message for every mistake: "list.json:12:15: /sections/0/tuples/1/token:
+// found the number 5, expected a text". Unknown keys are mistakes.
+#pragma once
+
+#include "JsonChecker.h"
+#include "JsonNode.h"
+#include "ReportTemplate.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace mekbom
+{
+class TemplateReader
+{
+public:
+    // `name` is the file's, for messages.
+    static ReportTemplate read(const std::string& name, std::string_view text);
+
+private:
+    explicit TemplateReader(const std::string& name) : m_json(name) {}
+
+    ReportTemplate build(const JsonNode& root);
+    void readQueryFilter(const JsonItem& root);
+    void readTokenUnits(const JsonItem& root);
+    void readColumns(const JsonItem& root);
+    void readColumn(const JsonItem& column);
+    void readSections(const JsonItem& parent, const std::string& key, VorBomItemBase& parentItem);
+    void readSection(const JsonItem& section, VorBomItemBase& parentItem);
+    void readTuple(const JsonItem& tuple, VorBomItemBase& sectionItem, SectionStyle& style);
+    void noteUnused(const std::vector<JsonItem>& siblings);
+    void checkColumns(const JsonItem& root);
+    bool isShown(const VorString& columnToken) const;
+
+    JsonChecker m_json;
+    ReportTemplate m_template;
+};
+}

@@ -1,0 +1,27 @@
+#include "TextCache.h"
+
+#include "Utf8.h"
+
+#include <cstddef>
+#include <functional>
+
+namespace mekbom
+{
+namespace
+{
+const std::size_t kNumEntries = 1024; // a power of two; a frame has some hundred different marks and profiles
+}
+
+const VorString& TextCache::textOf(std::string_view bytes)
+{
+    if (m_entries.empty())
+        m_entries.resize(kNumEntries);
+    Entry& entry = m_entries[std::hash<std::string_view>()(bytes) & (kNumEntries - 1)];
+    if (entry.bytes != bytes)
+    {
+        entry.bytes = bytes;
+        entry.text = Utf8::toWide(bytes);
+    }
+    return entry.text;
+}
+}

@@ -1,0 +1,155 @@
+#include "Utf8.h"
+
+#include <utf8proc.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace mekbom::Utf8
+{
+namespace
+{
+const int kReplacement = 0xFFFD;
+const int kMostBytes = 4; // of one sequence
+
+bool isAscii(char byte)
+{
+    return static_cast<unsigned char>(byte) < 0x80;
+}
+
+std::size_t asciiLength(std::string_view bytes)
+{
+    return static_cast<std::size_t>(std::find_if_not(bytes.begin(), bytes.end(), isAscii) - bytes.begin());
+}
+
+// The code point at the start of `bytes` and its length in bytes; length 0 where there is no valid one.
+int decode(std::string_view bytes, std::size_t& length)
+{
+    const auto* pBytes = reinterpret_cast<const utf8proc_uint8_t*>(bytes.data());
+    utf8proc_int32_t codePoint = kReplacement;
+    const utf8proc_ssize_t numRead = utf8proc_iterate(
+        pBytes, static_cast<utf8proc_ssize_t>(std::min<std::size_t>(bytes.size(), kMostBytes)), &codePoint);
+    length = numRead > 0 ? static_cast<std::size_t>(numRead) : 0;
+    return codePoint;
+}
+
+bool isSurrogate(unsigned codePoint, unsigned first)
+{
+    return codePoint >= first && codePoint < first + 0x400;
+}
+
+// The code point that starts at `pText`; a pair of surrogates, where wchar_t has 16 bits, is one. Moves `pText` past it.
+int takeWide(const wchar_t*& pText, const wchar_t* pEnd)
+{
+    const auto unit = static_cast<unsigned>(*pText++);
+    if (sizeof(wchar_t) == 2 && isSurrogate(unit, 0xD800) && pText != pEnd)
+    {
+        const auto low = static_cast<unsigned>(*pText);
+        if (isSurrogate(low, 0xDC00))
+        {
+            ++pText;
+            return static_cast<int>(0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00));
+        }
+    }
+    const auto codePoint = static_cast<utf8proc_int32_t>(unit);
+    return utf8proc_codepoint_valid(codePoint) ? codePoint : kReplacement;
+}
+
+void appendWide(std::vector<wchar_t>& text, int codePoint)
+{
+    if (sizeof(wchar_t) == 2 && codePoint > 0xFFFF)
+    {
+        const auto offset = static_cast<unsigned>(codePoint - 0x10000);
+        text.push_back(static_cast<wchar_t>(0xD800 + (offset >> 10)));
+        text.push_back(static_cast<wchar_t>(0xDC00 + (offset & 0x3FF)));
+        return;
+    }
+    text.push_back(static_cast<wchar_t>(codePoint));
+}
+}
+
+std::size_t findInvalid(std::string_view bytes)
+{
+    std::size_t pos = asciiLength(bytes);
+    while (pos < bytes.size())
+    {
+        std::size_t length = 0;
+        decode(bytes.substr(pos), length);
+        if (length == 0)
+            return pos;
+        pos += length;
+        pos += asciiLength(bytes.substr(pos));
+    }
+    return pos;
+}
+
+std::size_t countCharacters(std::string_view bytes)
+{
+    const auto continues = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; };
+    return bytes.size() - static_cast<std::size_t>(std::count_if(bytes.begin(), bytes.end(), continues));
+}
+
+VorString toWide(std::string_view bytes)
+{
+    std::vector<wchar_t> text;
+    text.reserve(bytes.size());
+    while (!bytes.empty())
+        appendWide(text, takeCodePoint(bytes));
+    return VorString(text.data(), static_cast<int>(text.size()));
+}
+
+std::string toBytes(const VorString& text)
+{
+    std::string bytes;
+    append(bytes, text);
+    return bytes;
+}
+
+void append(std::string& bytes, const VorString& text)
+{
+    const wchar_t* pText = text.getStringW();
+    const wchar_t* const pEnd = pText + text.length();
+    while (pText != pEnd)
+        appendCodePoint(bytes, takeWide(pText, pEnd));
+}
+
+int displayWidth(int codePoint)
+{
+    return codePoint < 0x7F ? 1 : utf8proc_charwidth(codePoint);
+}
+
+int displayWidth(std::string_view bytes)
+{
+    const std::size_t numAscii = asciiLength(bytes);
+    int width = static_cast<int>(numAscii);
+    for (bytes.remove_prefix(numAscii); !bytes.empty();)
+        width += displayWidth(takeCodePoint(bytes));
+    return width;
+}
+
+int takeCodePoint(std::string_view& bytes)
+{
+    if (isAscii(bytes.front()))
+    {
+        const int codePoint = bytes.front();
+        bytes.remove_prefix(1);
+        return codePoint;
+    }
+    std::size_t length = 0;
+    const int codePoint = decode(bytes, length);
+    bytes.remove_prefix(std::max<std::size_t>(length, 1));
+    return length == 0 ? kReplacement : codePoint;
+}
+
+void appendCodePoint(std::string& bytes, int codePoint)
+{
+    if (codePoint < 0x80)
+    {
+        bytes += static_cast<char>(codePoint);
+        return;
+    }
+    utf8proc_uint8_t encoded[kMostBytes];
+    const utf8proc_ssize_t length = utf8proc_encode_char(codePoint, encoded);
+    bytes.append(reinterpret_cast<const char*>(encoded), static_cast<std::size_t>(length));
+}
+}

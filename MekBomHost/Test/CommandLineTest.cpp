@@ -1,0 +1,94 @@
+#include "CommandLine.h"
+
+#include "Support/HostTestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace mekbom
+{
+namespace
+{
+CommandLine::Outcome parse(std::vector<const char*> arguments)
+{
+    arguments.insert(arguments.begin(), "mekbom");
+    return CommandLine::parse(static_cast<int>(arguments.size()), arguments.data());
+}
+
+std::string faultWith(const std::vector<const char*>& arguments)
+{
+    return faultOf([&arguments] { parse(arguments); });
+}
+}
+
+TEST(CommandLineTest, WithoutOptionsEverythingIsAsShipped)
+{
+    const CommandLine::Outcome outcome = parse({ "report" });
+
+    EXPECT_TRUE(outcome.isReport);
+    EXPECT_EQ("", outcome.options.data);
+    EXPECT_EQ("", outcome.options.templateName);
+    EXPECT_EQ("-", outcome.options.output);
+    EXPECT_FALSE(outcome.options.isImperial);
+    EXPECT_TRUE(outcome.options.inputUnits.empty());
+}
+
+TEST(CommandLineTest, OptionsAreRead)
+{
+    const ReportOptions options = parse({ "report", "--data", "-", "--template", "list.json", "--units", "imperial",
+                                          "-o", "a.txt", "--input-unit", "%Paint=m2", "--input-unit=Length=ft" })
+                                      .options;
+
+    EXPECT_EQ("-", options.data);
+    EXPECT_EQ("list.json", options.templateName);
+    EXPECT_TRUE(options.isImperial);
+    EXPECT_EQ("a.txt", options.output);
+    EXPECT_EQ((std::vector<std::pair<std::string, std::string>>{ { "%Paint", "m2" }, { "%Length", "ft" } }),
+              options.inputUnits);
+    EXPECT_EQ("b.txt", parse({ "report", "--output", "b.txt" }).options.output);
+    EXPECT_FALSE(parse({ "report", "--units", "metric" }).options.isImperial);
+}
+
+TEST(CommandLineTest, HelpShowsExamplesAndStatuses)
+{
+    for (const std::vector<const char*>& arguments :
+         { std::vector<const char*>{ "--help" }, { "report", "--help" }, { "-h" }, { "report", "-h" } })
+    {
+        const CommandLine::Outcome outcome = parse(arguments);
+        EXPECT_FALSE(outcome.isReport);
+        for (const char* const text :
+             { "mekbom report --data parts.csv", "Exit status", " 70  internal fault", "cutting-list" })
+            EXPECT_NE(std::string::npos, outcome.text.find(text)) << text;
+    }
+    EXPECT_NE(std::string::npos, parse({ "report", "--help" }).text.find("Usage: mekbom report [OPTIONS]"));
+}
+
+TEST(CommandLineTest, TheVersionIsShown)
+{
+    EXPECT_EQ(0u, parse({ "--version" }).text.find("mekbom "));
+}
+
+TEST(CommandLineTest, WrongUsageIsNamed)
+{
+    EXPECT_EQ("2 A subcommand is required; see mekbom --help\n", faultWith({}));
+    EXPECT_EQ("2 --units: metres not in {metric,imperial}; see mekbom --help\n",
+              faultWith({ "report", "--units", "metres" }));
+    for (const std::vector<const char*>& arguments : { std::vector<const char*>{ "print" },
+                                                       { "report", "--dta", "x" },
+                                                       { "report", "parts.csv" },
+                                                       { "report", "--data" },
+                                                       { "report", "--data", "a", "--data", "b" },
+                                                       { "report", "--input-unit", "%Paint=m2", "b" } })
+        EXPECT_EQ(0u, faultWith(arguments).find("2 ")) << faultWith(arguments);
+}
+
+TEST(CommandLineTest, InputUnitsNameTokenAndUnit)
+{
+    for (const char* const text : { "Paint", "=m2", "Paint=", "=" })
+        EXPECT_EQ("2 --input-unit: found \"" + std::string(text) + "\", expected TOKEN=UNIT such as %Paint=m2\n",
+                  faultWith({ "report", "--input-unit", text }));
+}
+}

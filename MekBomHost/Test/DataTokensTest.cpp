@@ -1,0 +1,20 @@
+#include "DataTokens.h"
+
+#include <gtest/gtest.h>
+
+namespace mekbom
+{
+TEST(DataTokensTest, WhatSteersSumsAndComputesIsNoDatum)
+{
+    VorBomTemplate reportTemplate;
+    auto* const pDetails = new VorBomTemplateItem(VorBomTemplateItem::kDetails);
+    for (const wchar_t* const token :
+         { L"%GroupBy:%Name,%Material", L"%SortDescBy:%Class", L"%FilterBy:1", L"%SumBy:%Weight", L"%Weight",
+           L"%Formula:%Length/1000+%Length", L"%SumBy:%Formula:%Paint*2", L"%Handle", L"Weight", L"%%PaintMeter" })
+        pDetails->addData(VorBomDataTuple(token, 0));
+    reportTemplate.addChild(pDetails);
+
+    EXPECT_EQ((std::vector<std::string>{ "%Class", "%Length", "%Material", "%Name", "%Paint", "%Weight" }),
+              DataTokens::of(reportTemplate));
+}
+}

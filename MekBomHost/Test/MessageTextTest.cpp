@@ -1,0 +1,32 @@
+#include "MessageText.h"
+
+#include <gtest/gtest.h>
+
+namespace mekbom
+{
+TEST(MessageTextTest, TextsStandInQuotes)
+{
+    EXPECT_EQ("\"HEA200\"", inQuotes("HEA200"));
+    EXPECT_EQ("\"\"", inQuotes(""));
+    EXPECT_EQ("\"Träger\"", inQuotes("Träger"));
+}
+
+TEST(MessageTextTest, ControlCharactersReachNoTerminal)
+{
+    EXPECT_EQ("\"a?b?[31m?c\"", inQuotes("a\nb\x1B[31m\xC2\x9B"
+                                         "c"));
+}
+
+TEST(MessageTextTest, LongTextsAreCut)
+{
+    const std::string fits(kMostQuoted, 'x');
+
+    EXPECT_EQ("\"" + fits + "\"", inQuotes(fits));
+    EXPECT_EQ("\"" + fits + "...\"", inQuotes(fits + "y"));
+}
+
+TEST(MessageTextTest, BrokenCharactersAreReplaced)
+{
+    EXPECT_EQ("\"\xEF\xBF\xBD\"", inQuotes("\xC3"));
+}
+}

@@ -1,0 +1,364 @@
+#include "Program.h"
+
+#include "Support/ProgramRun.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <new>
+#include <stdexcept>
+#include <string>
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define MEK_TEST_IS_SANITIZED
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define MEK_TEST_IS_SANITIZED
+#endif
+#endif
+
+// The whole program, run as its users run it.
+
+namespace mekbom
+{
+namespace
+{
+namespace fs = std::filesystem;
+
+const char* const kParts = "%Name,%Weight\nHEA200,2.5\nHEA200,2.5\nIPE360,4\n";
+
+const char* const kTemplate = R"({ "sections": [
+    { "type": "kReportHeader", "children": [ { "type": "kDetails", "tuples": [ { "token": "%Name" }, { "token": "%Weight" } ] } ] },
+    { "type": "kReportFooter", "tuples": [ { "token": "%SumBy:%Weight", "value": 0.0 } ] } ] })";
+
+const char* const kTable = "Name    Weight\n"
+                           "------  ------\n"
+                           "HEA200     2.5\n"
+                           "IPE360       4\n"
+                           "------  ------\n"
+                           "           6.5\n";
+
+const char* const kMergedNote =
+    "mekbom: note: 1 line equal to the one before it was merged into it and is not counted in totals; "
+    "details that show %Handle stay apart\n";
+
+// A folder with a parts list and a template.
+class Job
+{
+public:
+    Job(const std::string& parts, const std::string& templateText)
+        : m_parts(m_folder.file("parts.csv", parts)), m_template(m_folder.file("list.json", templateText))
+    {
+    }
+
+    ProgramRun run(const std::string& options = std::string()) const
+    {
+        return runProgram("report --data \"" + m_parts + "\" --template \"" + m_template + "\" " + options);
+    }
+
+    const ScratchFolder& folder() const { return m_folder; }
+    const std::string& parts() const { return m_parts; }
+    const std::string& templateFile() const { return m_template; }
+
+private:
+    ScratchFolder m_folder;
+    std::string m_parts;
+    std::string m_template;
+};
+
+std::string firstLine(const std::string& text)
+{
+    return text.substr(0, text.find('\n'));
+}
+}
+
+TEST(ProgramTest, AReportIsPrinted)
+{
+    const ProgramRun run = Job(kParts, kTemplate).run();
+
+    EXPECT_EQ(0, run.status);
+    EXPECT_EQ(kTable, run.output);
+    EXPECT_EQ(kMergedNote, run.errors);
+}
+
+TEST(ProgramTest, ManyMergedLinesAreCounted)
+{
+    const ProgramRun run = Job("%Name,%Weight\nA,1\nA,1\nA,1\n", kTemplate).run();
+
+    EXPECT_EQ("mekbom: note: 2 lines equal to the one before them were merged into it and are not counted in totals; "
+              "details that "
+              "show %Handle stay apart\n",
+              run.errors);
+}
+
+TEST(ProgramTest, AReportIsWrittenToAFile)
+{
+    const Job job(kParts, kTemplate);
+    const std::string path = (job.folder() / "list.txt").string();
+
+    const ProgramRun run = job.run("-o \"" + path + "\"");
+
+    EXPECT_EQ(0, run.status);
+    EXPECT_EQ("", run.output);
+    EXPECT_EQ(kTable, readFile(path));
+}
+
+TEST(ProgramTest, StandardInputIsRead)
+{
+    const Job job(kParts, kTemplate);
+
+    const ProgramRun run =
+        runProgram("report --data - --template \"" + job.templateFile() + "\" <\"" + job.parts() + "\"");
+
+    EXPECT_EQ(0, run.status);
+    EXPECT_EQ(kTable, run.output);
+}
+
+TEST(ProgramTest, FaultsOfStandardInputNameIt)
+{
+    const Job job("%Weight\nabc\n", kTemplate);
+
+    const ProgramRun run =
+        runProgram("report --data - --template \"" + job.templateFile() + "\" <\"" + job.parts() + "\"");
+
+    EXPECT_EQ(3, run.status);
+    EXPECT_EQ("mekbom: standard input:2: column \"%Weight\": found \"abc\", expected a number\n", run.errors);
+}
+
+TEST(ProgramTest, WithoutOptionsTheShippedHallIsPrintedAsACuttingList)
+{
+    const ProgramRun run = runProgram("report");
+
+    EXPECT_EQ(0, run.status);
+    EXPECT_EQ("Cutting list", firstLine(run.output));
+    EXPECT_NE(std::string::npos, run.output.find("\nHEA200  "));
+    EXPECT_EQ("", run.errors);
+}
+
+TEST(ProgramTest, EveryShippedTemplatePrintsTheHall)
+{
+    for (const char* const name : { "cutting-list", "assembly-list", "bolt-list", "parts-list" })
+    {
+        const ProgramRun run =
+            runProgram("report --template \"" MEK_EXAMPLES_DIR "/Templates/" + std::string(name) + ".json\"");
+        EXPECT_EQ(0, run.status) << run.errors;
+        EXPECT_EQ("", run.errors);
+    }
+}
+
+TEST(ProgramTest, SampleDataAndDefaultTemplateAreBuiltIn)
+{
+    for (const char* const arguments :
+         { "report --data sample", "report --data sample --template default", "report --template default" })
+    {
+        const ProgramRun run = runProgram(arguments);
+        EXPECT_EQ(0, run.status) << run.errors;
+        EXPECT_EQ(0u, firstLine(run.output).find("PosNum  Material  posNum  ")) << firstLine(run.output);
+    }
+}
+
+TEST(ProgramTest, SampleDataGoWithTemplatesOfTheUser)
+{
+    const ScratchFolder folder;
+    const std::string path = folder.file("list.json", R"({ "sections": [ { "type": "kDetails", "tuples": [
+        { "token": "PosNum" }, { "token": "Weight" }, { "token": "Material" } ] } ] })");
+
+    const ProgramRun run = runProgram("report --data sample --template \"" + path + "\"");
+
+    EXPECT_EQ(0u, run.output.find("PosNum  Weight  Material\n"
+                                  "------  ------  --------\n"
+                                  "     1   200.2  Mat1\n"
+                                  "     1   100.1  Mat1\n"));
+}
+
+TEST(ProgramTest, UnitsAreThoseAskedFor)
+{
+    const Job job("%Name,%Weight\nA,10\n", kTemplate);
+
+    EXPECT_NE(std::string::npos, job.run("--units metric").output.find("A         10\n"));
+    EXPECT_NE(std::string::npos, job.run("--units imperial").output.find("A         22\n"));
+}
+
+TEST(ProgramTest, UnitsOfTheDataConvert)
+{
+    EXPECT_NE(std::string::npos,
+              Job("%Name,%Weight\nA,10\n", kTemplate).run("--input-unit %Weight=lb").output.find("A       4.54\n"));
+    EXPECT_NE(std::string::npos,
+              Job("%Name,%Weight\nA,10\n", kTemplate).run("--input-unit Weight=lb").output.find("A       4.54\n"));
+    EXPECT_NE(std::string::npos, Job("%Name,Weight [lb]\nA,10\n", kTemplate).run().output.find("A       4.54\n"));
+}
+
+TEST(ProgramTest, DataThatTheTemplateAsksForInVainAreNoted)
+{
+    EXPECT_EQ("mekbom: note: ", Job("%Name\nA\n", kTemplate).run().errors.substr(0, 14));
+    EXPECT_NE(std::string::npos,
+              Job("%Name,%Lenght\nA,1\n", kTemplate)
+                  .run()
+                  .errors.find("parts.csv has no column for %Weight, which the template asks for\n"));
+}
+
+TEST(ProgramTest, SectionsThatAreNeverEvaluatedAreNoted)
+{
+    const Job job(kParts, R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Name" } ] },
+        { "type": "kReportFooter" }, { "type": "kPageFooter" } ] })");
+
+    EXPECT_NE(std::string::npos, job.run().errors.find("list.json:2:38: /sections/2: is not evaluated"));
+}
+
+TEST(ProgramTest, WrongUsageIsStatusTwo)
+{
+    const Job job(kParts, kTemplate);
+    for (const std::string arguments : { "", "print", "report --units metres", "report --dta x", "report extra",
+                                         "report --input-unit Paint", "report --data sample --input-unit %Paint=m2" })
+    {
+        const ProgramRun run = runProgram(arguments);
+        EXPECT_EQ(2, run.status) << arguments;
+        EXPECT_EQ("", run.output) << arguments;
+        EXPECT_EQ("mekbom: ", run.errors.substr(0, 8)) << arguments;
+    }
+    EXPECT_EQ(2, job.run("--input-unit %Paint=m2").status);
+    EXPECT_EQ(2, job.run("--input-unit %Weight=m2").status);
+}
+
+TEST(ProgramTest, InputIsNotOverwritten)
+{
+    const Job job(kParts, kTemplate);
+
+    const ProgramRun run = job.run("-o \"" + job.parts() + "\"");
+
+    EXPECT_EQ(2, run.status);
+    EXPECT_EQ("mekbom: --output " + job.parts() + ": is the same file as the input " + job.parts() + "\n", run.errors);
+    EXPECT_EQ(kParts, readFile(job.parts()));
+    EXPECT_EQ(2, job.run("-o \"" + job.templateFile() + "\"").status);
+}
+
+TEST(ProgramTest, UnreadableInputIsStatusThree)
+{
+    const ScratchFolder folder;
+    const std::string missing = (folder / "missing.csv").string();
+
+    const ProgramRun run = runProgram("report --data \"" + missing + "\"");
+    EXPECT_EQ(3, run.status);
+    EXPECT_EQ("mekbom: " + missing + ": cannot be read: No such file or directory\n", run.errors);
+
+    EXPECT_EQ(3, runProgram("report --template \"" + missing + "\"").status);
+
+    const ProgramRun folderRun = runProgram("report --data \"" + folder.path().string() + "\"");
+    EXPECT_EQ(3, folderRun.status);
+    EXPECT_EQ("mekbom: " + folder.path().string() + ": cannot be read: Is a directory\n", folderRun.errors);
+}
+
+TEST(ProgramTest, InvalidInputIsStatusThree)
+{
+    const Job badParts("%Name,%Weight\nA,abc\nB\n", kTemplate);
+    const ProgramRun run = badParts.run();
+    EXPECT_EQ(3, run.status);
+    EXPECT_EQ("", run.output);
+    EXPECT_EQ("mekbom: " + badParts.parts() + ":2: column \"%Weight\": found \"abc\", expected a number\n" +
+                  "mekbom: " + badParts.parts() + ":3: found 1 field, expected 2 as in the header row\n",
+              run.errors);
+
+    const Job badTemplate(kParts, "{ \"sections\": [ { \"type\": \"kNone\" } ] }");
+    EXPECT_EQ(3, badTemplate.run().status);
+    EXPECT_EQ(0u, badTemplate.run().errors.find("mekbom: " + badTemplate.templateFile() +
+                                                ":1:27: /sections/0/type: found \"kNone\""));
+}
+
+TEST(ProgramTest, NothingIsWrittenOnBadInput)
+{
+    const Job job("%Name,%Weight\nA,abc\n", kTemplate);
+    const std::string path = job.folder().file("list.txt", "old");
+
+    EXPECT_EQ(3, job.run("-o \"" + path + "\"").status);
+
+    EXPECT_EQ("old", readFile(path));
+    EXPECT_EQ(3, std::distance(fs::directory_iterator(job.folder().path()), fs::directory_iterator()));
+}
+
+TEST(ProgramTest, OutputThatCannotBeWrittenIsStatusFour)
+{
+    const Job job(kParts, kTemplate);
+    const std::string path = (job.folder() / "missing" / "list.txt").string();
+
+    const ProgramRun run = job.run("-o \"" + path + "\"");
+
+    EXPECT_EQ(4, run.status);
+    EXPECT_EQ("mekbom: " + path + ": cannot be written: No such file or directory\n", run.errors);
+}
+
+TEST(ProgramTest, AFullDeviceIsStatusFour)
+{
+    if (!fs::exists("/dev/full"))
+        GTEST_SKIP() << "no /dev/full here";
+
+    const Job job(kParts, kTemplate);
+    const ScratchFolder folder;
+    const std::string errors = (folder / "errors").string();
+    const std::string command = "\"" MEK_PROGRAM "\" report --data \"" + job.parts() + "\" --template \"" +
+                                job.templateFile() + "\" >/dev/full 2>\"" + errors + "\"";
+
+    const int result = std::system(command.c_str());
+
+    EXPECT_EQ(4, statusOf(result));
+    EXPECT_EQ("mekbom: standard output: cannot be written: No space left on device\n", readFile(errors));
+}
+
+TEST(ProgramTest, FaultsOfTheProgramItselfAreStatusSeventy)
+{
+    testing::internal::CaptureStderr();
+
+    EXPECT_EQ(kInternalFault, Program::runGuarded([] { throw std::logic_error("broken"); }));
+    EXPECT_EQ(kInternalFault, Program::runGuarded([] { throw std::bad_alloc(); }));
+    EXPECT_EQ(kInternalFault, Program::runGuarded([] { throw 5; }));
+    EXPECT_EQ(kDone, Program::runGuarded([] {}));
+
+    EXPECT_EQ("mekbom: internal fault: broken\nmekbom: internal fault: no memory left\nmekbom: internal fault\n",
+              testing::internal::GetCapturedStderr());
+}
+
+TEST(ProgramTest, RunningOutOfMemoryIsStatusSeventy)
+{
+#if defined(_WIN32) || defined(MEK_TEST_IS_SANITIZED)
+    GTEST_SKIP() << "a process's memory cannot be limited here";
+#endif
+    std::string parts = "%Name,%Weight\n";
+    for (int i = 0; i < 300'000; ++i)
+        parts += "HEA200," + std::to_string(i) + "\n";
+    const Job job(parts, kTemplate);
+    const std::string path = job.folder().file("list.txt", "old");
+
+    const ProgramRun run = runProgram("report --data \"" + job.parts() + "\" --template \"" + job.templateFile() +
+                                          "\" -o \"" + path + "\"",
+                                      "ulimit -v 60000; ");
+
+    EXPECT_EQ(70, run.status);
+    EXPECT_EQ("mekbom: internal fault: no memory left\n", run.errors);
+    EXPECT_EQ("old", readFile(path));
+}
+
+TEST(ProgramTest, HelpIsNoFault)
+{
+    for (const char* const arguments : { "--help", "report --help", "--version" })
+    {
+        const ProgramRun run = runProgram(arguments);
+        EXPECT_EQ(0, run.status);
+        EXPECT_NE("", run.output);
+        EXPECT_EQ("", run.errors);
+    }
+}
+
+TEST(ProgramTest, TheOutputIsTheSameInEveryLocale)
+{
+    const Job job("%Name,%Weight\nTräger,2.5\n", kTemplate);
+
+    for (const char* const locale : { "C", "de_DE.UTF-8", "tr_TR.UTF-8" })
+    {
+        const ScratchFolder folder;
+        const std::string path = (folder / "list.txt").string();
+        const std::string command = std::string("LC_ALL=") + locale + " \"" MEK_PROGRAM "\" report --data \"" +
+                                    job.parts() + "\" --template \"" + job.templateFile() + "\" -o \"" + path + "\"";
+        ASSERT_EQ(0, std::system(command.c_str()));
+        EXPECT_EQ("Name    Weight\n------  ------\nTräger     2.5\n------  ------\n           2.5\n", readFile(path));
+    }
+}
+}

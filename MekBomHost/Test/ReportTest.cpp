@@ -1,0 +1,72 @@
+#include "Report.h"
+
+#include "Support/ReportTestSupport.h"
+
+#include "MekRoots/Test/Support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+namespace mekbom
+{
+namespace
+{
+const char* const kByMaterial = R"({ "queryFilter": "!%BoltName", "sections": [
+    { "type": "kReportHeader", "children": [
+      { "type": "kGroupHeader",
+        "tuples": [ { "token": "%GroupBy:%Material" }, { "token": "%SortAscBy:%Material" }, { "token": "%Material" } ],
+        "children": [ { "type": "kDetails", "tuples": [ { "token": "%Name" } ] } ] },
+      { "type": "kGroupFooter", "tuples": [ { "token": "%SumBy:%Weight", "value": 0.0 } ] } ] } ] })";
+
+const char* const kParts = "%Name,%Material,%Weight,%BoltName\n"
+                           "HEA200,S355,10.5,\n"
+                           ",,,M16\n"
+                           "HEA200,S355,10.5,\n"
+                           "IPE360,S235,2,\n";
+}
+
+TEST(ReportTest, SectionsAreGroupedAndSorted)
+{
+    EXPECT_EQ("[ kBomTemplate ]\n"
+              " [ kReportHeader]\n"
+              "  [ kGroupHeader ][%GroupBy:%Material:][%SortAscBy:%Material:][%Material:S235]\n"
+              "   [ kDetails     ][%Name:IPE360]\n"
+              "  [ kGroupFooter ][%SumBy:%Weight:2]\n"
+              "  [ kGroupHeader ][%GroupBy:%Material:][%SortAscBy:%Material:][%Material:S355]\n"
+              "   [ kDetails     ][%Name:HEA200]\n"
+              "  [ kGroupFooter ][%SumBy:%Weight:10.5]\n",
+              evaluatedReport(kByMaterial, kParts)->list());
+}
+
+TEST(ReportTest, MergedRowsAreCounted)
+{
+    EXPECT_EQ(1, evaluatedReport(kByMaterial, kParts)->numMergedRows());
+    EXPECT_EQ(0, evaluatedReport(kByMaterial, "%Name,%Weight\nA,1\nB,1\n")->numMergedRows());
+}
+
+TEST(ReportTest, NumbersAreShownInTheAskedUnits)
+{
+    const char* const details = R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Length" } ] } ] })";
+
+    EXPECT_EQ("[ kBomTemplate ]\n [ kDetails     ][%Length:2286]\n",
+              evaluatedReport(details, "%Length\n2286\n")->list());
+    EXPECT_EQ("[ kBomTemplate ]\n [ kDetails     ][%Length:7' 6\"]\n",
+              evaluatedReport(details, "%Length\n2286\n", VorUnitsManager::imperial())->list());
+}
+
+TEST(ReportTest, UnitTypesOfTheTemplateComeBeforeTheUsualOnes)
+{
+    EXPECT_EQ("[ kBomTemplate ]\n [ kDetails     ][%Length:1.23457e+06]\n",
+              evaluatedReport(R"({ "tokenUnits": { "%Length": "kNoUnit" },
+                                   "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Length" } ] } ] })",
+                              "%Length\n1234567\n")
+                  ->list());
+}
+
+TEST(ReportTest, NothingIsLeaked)
+{
+    evaluatedReport(kByMaterial, kParts)->list(); // the engine keeps what it sorted by last
+    const LeakCheck leakCheck;
+
+    evaluatedReport(kByMaterial, kParts)->list();
+}
+}
