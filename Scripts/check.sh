@@ -20,4 +20,4 @@ ctest --preset threads -j "$jobs"
 
 echo "== clang++ with Address-, Leak- and UndefinedBehaviorSanitizer"
 cmake --build --preset sanitize
-ctest --preset sanitize -j "$jobs"
+MEK_RANDOM_CASES=${MEK_RANDOM_CASES:-5000} ctest --preset sanitize -j "$jobs" # the release tests run them all

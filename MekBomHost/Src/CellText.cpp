@@ -15,8 +15,8 @@ bool isControl(int codePoint)
     return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
 }
 
-// Fills lines up to the width; a line that grows too wide is cut at its last blank, or before the character that went too
-// far.
+// Fills lines up to the width; a line that grows too wide is cut at its last blank, or before the character that went
+// too far.
 class LineFiller
 {
 public:

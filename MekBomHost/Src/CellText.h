@@ -1,4 +1,5 @@
-// A text as it stands in a table: in lines no wider than its column, without anything that would move a terminal's cursor.
+// A text as it stands in a table: in lines no wider than its column, without anything that would move a terminal's
+// cursor.
 //
 //   CellText::wrap("Base plate, corner", 10)   ->   "Base" | "plate," | "corner"      words stay whole where they fit
 //   CellText::wrap("PL20*300*400", 6)          ->   "PL20*3" | "00*400"

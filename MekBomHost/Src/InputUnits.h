@@ -1,7 +1,7 @@
 // The units in which a parts list may give its numbers: those of the units catalogue, by their symbols.
 //
-//   InputUnits::find("ft", VorBomTemplateUnits::kDistanceUnit)->getVorUnitTransform().toInternalUnits(7.5)   ->  2286 mm
-//   InputUnits::find("ft", VorBomTemplateUnits::kWeightUnit)                                                 ->  nothing
+//   InputUnits::find("ft", kDistanceUnit)->getVorUnitTransform().toInternalUnits(7.5)   ->  2286 mm
+//   InputUnits::find("ft", kWeightUnit)                                                 ->  nothing
 //
 // "ft-in" is none of them: it is a way to write lengths, not a unit of plain numbers.
 #pragma once

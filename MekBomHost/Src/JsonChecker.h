@@ -30,7 +30,8 @@ public:
     // Whether `object` has such a member. Adds a message when not.
     bool has(const JsonItem& object, const std::string& key);
 
-    // Members of `object`: the fallback, or an empty text, when they are missing or, after a message, of the wrong kind.
+    // Members of `object`: the fallback, or an empty text, when they are missing or, after a message, of the wrong
+    // kind.
     std::string textOf(const JsonItem& object, const std::string& key);
     std::string requiredTextOf(const JsonItem& object, const std::string& key);
     int integerOf(const JsonItem& object, const std::string& key, int least, int most, int fallback);

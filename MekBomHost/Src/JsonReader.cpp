@@ -1,6 +1,6 @@
-// The parser reports values but not where they stand. It is given an iterator that counts the characters it has taken, so
-// that each report comes when the count is at the end of its token; the token starts at the first character after the
-// token before it that is no blank, comment or punctuation:
+// The parser reports values but not where they stand. It is given an iterator that counts the characters it has taken,
+// so that each report comes when the count is at the end of its token; the token starts at the first character after
+// the token before it that is no blank, comment or punctuation:
 //
 //   { "title": /* shown on top */ "Cutting list" }
 //            ^ end of the key      ^ start of the value

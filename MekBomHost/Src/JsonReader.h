@@ -2,8 +2,8 @@
 //
 //   JsonReader("list.json", "{ \"title\": 5 }").read().find("title")->place   ->  line 1, column 12
 //
-// Throws a Fault of status kInvalidInput that names the place for what is no JSON, for a key that an object has twice and
-// for nesting deeper than kDeepest.
+// Throws a Fault of status kInvalidInput that names the place for what is no JSON, for a key that an object has twice
+// and for nesting deeper than kDeepest.
 #pragma once
 
 #include "JsonNode.h"

@@ -6,7 +6,8 @@
 
 namespace mekbom
 {
-// `text`, UTF-8, in double quotes; control characters become '?', and what goes past kMostQuoted characters is cut to "...".
+// `text`, UTF-8, in double quotes; control characters become '?', and what goes past kMostQuoted characters is cut to
+// "...".
 //   inQuotes("HEA200")  ->  "\"HEA200\""
 std::string inQuotes(std::string_view text);
 

@@ -5,8 +5,8 @@
 //   file.write(text);
 //   file.finish();          without it nothing has happened
 //
-// An existing file keeps its access rights and must be writable; a symbolic link stays and its target is replaced. What is no regular file,
-// such as a pipe or a terminal, cannot be replaced and is written to directly.
+// An existing file keeps its access rights and must be writable; a symbolic link stays and its target is replaced. What
+// is no regular file, such as a pipe or a terminal, cannot be replaced and is written to directly.
 #pragma once
 
 #include "TextSink.h"

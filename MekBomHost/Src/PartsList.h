@@ -32,8 +32,8 @@ public:
     // The column with this token, or null.
     const PartsColumn* find(const std::string& token) const;
 
-    // Says in which unit a column is given whose header row does not. Throws a Fault of status kWrongUsage when there is
-    // no such column, or when its header row names another unit.
+    // Says in which unit a column is given whose header row does not. Throws a Fault of status kWrongUsage when there
+    // is no such column, or when its header row names another unit.
     void setInputUnit(const std::string& token, const std::string& unit);
 
     // Appends one row for each record to the template's data. Rows carry the data that the template asks for, whose

@@ -1,5 +1,5 @@
-// Which rows of the data a list is about, by the data they have. The engine keeps a template's query filter as text; this
-// is how the program reads it.
+// Which rows of the data a list is about, by the data they have. The engine keeps a template's query filter as text;
+// this is how the program reads it.
 //
 //   ""                       all rows
 //   "%BoltName"              rows that have a bolt name

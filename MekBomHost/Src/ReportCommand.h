@@ -1,5 +1,5 @@
-// `mekbom report`: reads parts list and template, evaluates, prints the table. Throws a Fault when it cannot; nothing has
-// been written then.
+// `mekbom report`: reads parts list and template, evaluates, prints the table. Throws a Fault when it cannot; nothing
+// has been written then.
 #pragma once
 
 #include "FileSource.h"

@@ -50,8 +50,8 @@ struct ReportTemplate
     // The style of a section of pTemplate; the usual one for a section without.
     const SectionStyle& styleOf(const VorBomItemBase* pSection) const;
 
-    // The column that shows a section's tuple: the one the file names for it, else the one that has its very token, else
-    // the column of what it sums. Empty for a tuple that steers the evaluation and is not shown.
+    // The column that shows a section's tuple: the one the file names for it, else the one that has its very token,
+    // else the column of what it sums. Empty for a tuple that steers the evaluation and is not shown.
     //   "%Weight"         ->  "%Weight"
     //   "%SumBy:%Weight"  ->  "%Weight", unless there is a column "%SumBy:%Weight"
     VorString columnTokenOf(const VorBomItemBase& section, int tupleIndex) const;

@@ -1,7 +1,7 @@
 // The parts list and the templates that come with the program.
 //
-// They lie in "../share/mekbom" beside the program's folder once it is installed; a program that runs where it was built
-// finds them in the source tree, whose place was compiled in.
+// They lie in "../share/mekbom" beside the program's folder once it is installed; a program that runs where it was
+// built finds them in the source tree, whose place was compiled in.
 #pragma once
 
 #include <string>
@@ -9,8 +9,8 @@
 
 namespace mekbom::ShippedFiles
 {
-// "hall.csv", "Templates/cutting-list.json"  ->  the file's path. Throws a Fault of status kInvalidInput, which names the
-// folders looked at, when it is in none of them.
+// "hall.csv", "Templates/cutting-list.json"  ->  the file's path. Throws a Fault of status kInvalidInput, which names
+// the folders looked at, when it is in none of them.
 std::string find(const std::string& relativePath);
 
 // The templates that a list may be printed with when the user names none, in order of preference.

@@ -1,8 +1,8 @@
 // Which columns the table of a report has, and in which of them each section shows its tuples.
 //
-// Every tuple that is shown has a column: that of ReportTemplate::columnTokenOf. Columns that the template describes come
-// first, in its order, then the others as the sections name them: headers from the outside in, footers from the inside
-// out. Two tuples of one section never share a column; the second one gets one of its own.
+// Every tuple that is shown has a column: that of ReportTemplate::columnTokenOf. Columns that the template describes
+// come first, in its order, then the others as the sections name them: headers from the outside in, footers from the
+// inside out. Two tuples of one section never share a column; the second one gets one of its own.
 #pragma once
 
 #include "ReportTemplate.h"

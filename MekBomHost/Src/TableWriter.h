@@ -9,9 +9,9 @@
 //   -------  --------  ------  ------
 //   Total                  20  9169.9
 //
-// A blank line sets off groups of several lines, a rule the report's own footer. A column is as wide as its widest text,
-// or as the template says: texts that are wider go on in the next line, numbers widen the column. Lines have no blanks at
-// their end. The whole table is in UTF-8, whatever the locale.
+// A blank line sets off groups of several lines, a rule the report's own footer. A column is as wide as its widest
+// text, or as the template says: texts that are wider go on in the next line, numbers widen the column. Lines have no
+// blanks at their end. The whole table is in UTF-8, whatever the locale.
 #pragma once
 
 #include "TableLayout.h"

@@ -1,5 +1,5 @@
-// Which shipped template suits a parts list whose user names none: the one the greatest part of whose data the list has as
-// columns; of equals the first in ShippedFiles::templates(). A template that finds less than half of its data suits
+// Which shipped template suits a parts list whose user names none: the one the greatest part of whose data the list has
+// as columns; of equals the first in ShippedFiles::templates(). A template that finds less than half of its data suits
 // nothing.
 //
 //   columns %BoltName, %Standard, %Material, %Diameter, %Length, %Quantity   ->   bolt-list.json, all six of six

@@ -2,8 +2,8 @@
 //
 //   ReportTemplate list = TemplateReader::read("list.json", text);
 //
-// Throws a Fault of status kInvalidInput with a message for every mistake: "list.json:12:15: /sections/0/tuples/1/token:
-// found the number 5, expected a text". Unknown keys are mistakes.
+// Throws a Fault of status kInvalidInput with a message for every mistake: "list.json:12:15:
+// /sections/0/tuples/1/token: found the number 5, expected a text". Unknown keys are mistakes.
 #pragma once
 
 #include "JsonChecker.h"

@@ -1,7 +1,8 @@
 // Gives equal cells of a column one and the same text, so that a million rows of "S355J2" hold its characters once.
 //
-// Remembers a fixed number of texts, the newest at each place: columns of few different texts are shared in full, columns
-// of many cost no more than without. One for each column, so that a column of marks does not drive out one of materials.
+// Remembers a fixed number of texts, the newest at each place: columns of few different texts are shared in full,
+// columns of many cost no more than without. One for each column, so that a column of marks does not drive out one of
+// materials.
 #pragma once
 
 #include "MekRoots/Exp/VorString.h"

@@ -38,7 +38,8 @@ bool isSurrogate(unsigned codePoint, unsigned first)
     return codePoint >= first && codePoint < first + 0x400;
 }
 
-// The code point that starts at `pText`; a pair of surrogates, where wchar_t has 16 bits, is one. Moves `pText` past it.
+// The code point that starts at `pText`; a pair of surrogates, where wchar_t has 16 bits, is one. Moves `pText` past
+// it.
 int takeWide(const wchar_t*& pText, const wchar_t* pEnd)
 {
     const auto unit = static_cast<unsigned>(*pText++);

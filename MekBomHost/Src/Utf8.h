@@ -1,5 +1,5 @@
-// UTF-8 bytes, as files hold them, to the wide text of the libraries and back; and how wide a text stands on a terminal.
-// Independent of the locale and of the width of wchar_t.
+// UTF-8 bytes, as files hold them, to the wide text of the libraries and back; and how wide a text stands on a
+// terminal. Independent of the locale and of the width of wchar_t.
 #pragma once
 
 #include "MekRoots/Exp/VorString.h"
@@ -25,8 +25,8 @@ void append(std::string& bytes, const VorString& text);
 int displayWidth(int codePoint);
 int displayWidth(std::string_view bytes);
 
-// Reads the code point at the start of `bytes`, which is not empty, and removes it; U+FFFD, one byte removed, where none
-// is.
+// Reads the code point at the start of `bytes`, which is not empty, and removes it; U+FFFD, one byte removed, where
+// none is.
 int takeCodePoint(std::string_view& bytes);
 void appendCodePoint(std::string& bytes, int codePoint);
 }

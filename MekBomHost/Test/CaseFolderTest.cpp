@@ -24,8 +24,8 @@
 //   expected.list.txt    the evaluated sections
 //   expected.table.txt   the printed table
 //
-// With MEK_REWRITE_CASES=1 in the environment the expected files are written anew. Read the difference before you believe
-// it.
+// With MEK_REWRITE_CASES=1 in the environment the expected files are written anew. Read the difference before you
+// believe it.
 
 namespace mekbom
 {

@@ -14,8 +14,8 @@
 #include <string>
 #include <vector>
 
-// A fabricator's own frame: 965 objects with missing data, odd digits and equal parts. Its folder is named when the build
-// is configured (MEK_REAL_DATA_DIR); without it these tests are skipped.
+// A fabricator's own frame: 965 objects with missing data, odd digits and equal parts. Its folder is named when the
+// build is configured (MEK_REAL_DATA_DIR); without it these tests are skipped.
 
 namespace mekbom
 {

@@ -9,8 +9,8 @@
 #include <set>
 #include <string>
 
-// The JSON Schema is for editors; the program does not read it. These tests keep it in step with the reader, by asking the
-// reader itself what it knows: its messages name the keys and names it expects.
+// The JSON Schema is for editors; the program does not read it. These tests keep it in step with the reader, by asking
+// the reader itself what it knows: its messages name the keys and names it expects.
 
 namespace mekbom
 {

@@ -53,8 +53,8 @@ public:
     bool isFinished = false;
 };
 
-// The messages of the Fault that `action` throws, one per line, led by its status: "3 parts.csv:1: ...\n". Empty when it
-// throws none.
+// The messages of the Fault that `action` throws, one per line, led by its status: "3 parts.csv:1: ...\n". Empty when
+// it throws none.
 inline std::string faultOf(const std::function<void()>& action)
 {
     std::string text;
