@@ -76,6 +76,7 @@ VorBomTemplateItem* VorBomEvaluator2::process(VorBomTemplateItem* pTemplateItem,
     return VorBomHeaderPlan(std::make_shared<VorBomRowLayouts>(), *pTemplateItem).process(*pRow).release();
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): a caller may empty its array meanwhile
 VorBomTemplateItem* VorBomEvaluator2::process(VorBomTemplateItem* pTemplateItem, VorBomDataRowPointerArray rows)
 {
     if (pTemplateItem == nullptr)
