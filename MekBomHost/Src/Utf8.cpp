@@ -3,7 +3,6 @@
 #include <utf8proc.h>
 
 #include <algorithm>
-#include <type_traits>
 #include <vector>
 
 namespace mekbom::Utf8
@@ -39,16 +38,14 @@ bool isSurrogate(unsigned codePoint, unsigned first)
     return codePoint >= first && codePoint < first + 0x400;
 }
 
-using WideUnit = std::make_unsigned_t<wchar_t>;
-
 // The code point that starts at `pText`; a pair of surrogates, where wchar_t has 16 bits, is one. Moves `pText` past
 // it.
 int takeWide(const wchar_t*& pText, const wchar_t* pEnd)
 {
-    const auto unit = static_cast<WideUnit>(*pText++);
+    const auto unit = static_cast<unsigned>(*pText++); // NOLINT(bugprone-signed-char-misuse): a wchar_t is no char
     if (sizeof(wchar_t) == 2 && isSurrogate(unit, 0xD800) && pText != pEnd)
     {
-        const auto low = static_cast<WideUnit>(*pText);
+        const auto low = static_cast<unsigned>(*pText); // NOLINT(bugprone-signed-char-misuse): as above
         if (isSurrogate(low, 0xDC00))
         {
             ++pText;
