@@ -147,10 +147,49 @@ Number convert(const std::string& narrow, bool isHexadecimal)
     return isHuge(narrow, isHexadecimal ? 4 : 1) ? std::numeric_limits<Number>::infinity() : Number(0);
 }
 
+// Decimal numbers so short that their digits and the power of ten behind the point are exact: the quotient of the two is
+// the number nearest to the text. False with nothing passed for all others.
+template <class Number>
+bool scanShortDecimal(Reader& reader, Number& value)
+{
+    constexpr int kMostDigits = sizeof(Number) == sizeof(float) ? 7 : 15; // 10^7 is below 2^24, 10^15 below 2^53
+    static constexpr Number kPowersOfTen[] = {
+        1,           Number(1e1), Number(1e2),  Number(1e3),  Number(1e4),  Number(1e5),  Number(1e6),  Number(1e7),
+        Number(1e8), Number(1e9), Number(1e10), Number(1e11), Number(1e12), Number(1e13), Number(1e14), Number(1e15)
+    };
+    Reader digits = reader;
+    long long mantissa = 0;
+    int numDigits = 0;
+    int numDecimals = 0;
+    bool hasPoint = false;
+    for (;; digits.skip(1))
+    {
+        const wchar_t c = digits.peek();
+        if (isDigit(c) && numDigits < kMostDigits)
+        {
+            mantissa = mantissa * 10 + (c - L'0');
+            ++numDigits;
+            numDecimals += hasPoint ? 1 : 0;
+        }
+        else if (c == L'.' && !hasPoint)
+            hasPoint = true;
+        else
+            break;
+    }
+    const wchar_t next = lower(digits.peek());
+    if (numDigits == 0 || isDigit(next) || next == L'e' || next == L'x' || next == L',')
+        return false;
+    value = static_cast<Number>(mantissa) / kPowersOfTen[numDecimals];
+    reader = digits;
+    return true;
+}
+
 // Digits, with exponent, in either base; false when there are none. "0x" without digits is the number 0 and an "x".
 template <class Number>
 bool scanDigits(Reader& reader, bool decimalComma, Number& value)
 {
+    if (scanShortDecimal(reader, value))
+        return true;
     std::string narrow;
     Reader hexadecimal = reader;
     if (hexadecimal.skipWord("0x") && copyMantissa(hexadecimal, isHexDigit, decimalComma, narrow))
