@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 
@@ -118,29 +120,38 @@ void VorBomRanks::sortStably(std::vector<std::uint32_t>& rows, bool isAscending)
     rows = std::move(sorted);
 }
 
-// Each text that rows share is looked at once.
+// Equal texts are found by their characters first: a column has far fewer texts than rows, and only those are compared.
 int VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bool naturally)
 {
-    std::unordered_map<const wchar_t*, std::uint32_t> rankOfText;
+    std::unordered_map<std::wstring_view, std::uint32_t> indexOfText;
     std::vector<const VorString*> texts;
-    for (const VorBomDataTuple* pTuple : tuples)
-        if (pTuple != nullptr && rankOfText.emplace(textOf(*pTuple).getStringW(), 0).second)
-            texts.push_back(&textOf(*pTuple));
+    std::vector<std::uint32_t> textOfRow(tuples.size());
+    for (std::size_t row = 0; row < tuples.size(); ++row)
+    {
+        if (isMissing(tuples[row]))
+            continue;
+        const VorString& text = textOf(*tuples[row]);
+        const std::wstring_view characters(text.getStringW(), static_cast<std::size_t>(text.length()));
+        const auto [found, isNew] = indexOfText.emplace(characters, static_cast<std::uint32_t>(texts.size()));
+        if (isNew)
+            texts.push_back(&text);
+        textOfRow[row] = found->second;
+    }
 
     const auto compare = naturally ? &VorString::compareWithNumbers
                                    : static_cast<int (*)(const VorString&, const VorString&)>(&VorString::compare);
-    std::sort(texts.begin(), texts.end(), [&](const VorString* a, const VorString* b) { return compare(*a, *b) < 0; });
-    for (std::size_t i = 0; i < texts.size(); ++i)
-    {
-        if (i > 0 && compare(*texts[i - 1], *texts[i]) != 0)
-            ++m_nNumRanks;
-        rankOfText[texts[i]->getStringW()] = m_nNumRanks;
-    }
-    ++m_nNumRanks;
+    std::vector<std::uint32_t> order(texts.size());
+    std::iota(order.begin(), order.end(), 0U);
+    std::sort(order.begin(), order.end(),
+              [&](std::uint32_t a, std::uint32_t b) { return compare(*texts[a], *texts[b]) < 0; });
+    std::vector<std::uint32_t> rankOfText(texts.size());
+    for (const std::uint32_t text : order)
+        rankOfText[text] = m_nNumRanks++;
 
-    m_ranks.reserve(tuples.size());
-    for (const VorBomDataTuple* pTuple : tuples)
-        m_ranks.push_back(pTuple == nullptr ? 0 : rankOfText.find(textOf(*pTuple).getStringW())->second);
+    m_ranks.assign(tuples.size(), 0);
+    for (std::size_t row = 0; row < tuples.size(); ++row)
+        if (!isMissing(tuples[row]))
+            m_ranks[row] = rankOfText[textOfRow[row]];
     return 1;
 }
 
