@@ -1,7 +1,8 @@
 // A block's life, for 40 bytes asked for on thread A and given back on thread B:
-//   A takes the head of its free list for 40-byte blocks; when that is empty, the next 40 bytes of its current chunk; when
-//   that is used up, a batch of the blocks that other threads have handed over, and only then a new chunk. B puts the
-//   block at the head of its own list, and hands a batch over when the list has grown to two. When B ends, its lists and
+//   A takes the first block of its magazine for 40-byte blocks; when both of its magazines are empty, the next 40 bytes of
+//   its current chunk; when that is used up, a magazine that some thread has handed over, and only then a new chunk. B
+//   puts the block into its own magazine; when that is full it becomes the spare one, and the spare one of before is
+//   handed over as it is, without a look at its blocks, which are no longer in any cache. When B ends, its magazines and
 //   the unused rest of its chunk are handed over too; what B's last thread-local objects still free then goes there at
 //   once. Chunks are never returned to the system: a process that made one report is about to make the next.
 #include "VorMemoryControllerController.h"
@@ -13,6 +14,8 @@
 #include <limits>
 #include <mutex>
 #include <new>
+#include <utility>
+#include <vector>
 
 #if defined(__SANITIZE_ADDRESS__)
 #define MEK_BYPASS_POOL
@@ -32,14 +35,21 @@ constexpr bool kUsesPool = true;
 
 constexpr std::size_t kClassWidth = 8; // multiples of 16 keep 16-byte alignment, since a class is carved aligned to it
 constexpr std::size_t kNumClasses = VorMemoryControllerController::kLargestPooledBlock / kClassWidth + 1;
-// Both arbitrary: a chunk is large against a block and small against a report; a batch, the bytes of one class that are
-// handed over at once, fits the inner caches.
+// Both arbitrary: a chunk is large against a block and small against a report; a magazine, the bytes of one class that
+// are handed over at once, fits the inner caches.
 constexpr std::size_t kChunkSize = std::size_t{ 256 } * 1024;
-constexpr std::size_t kBatchSize = std::size_t{ 64 } * 1024;
+constexpr std::size_t kMagazineSize = std::size_t{ 64 } * 1024;
 
 struct FreeBlock
 {
     FreeBlock* pNext;
+};
+
+// Free blocks of one class.
+struct Magazine
+{
+    FreeBlock* pBlocks;
+    std::size_t size; // in bytes, all of them
 };
 
 // A piece of chunk that a finished thread left unused. Stands in that very piece.
@@ -52,8 +62,8 @@ struct UnusedPiece
 // One per thread, constant-initialised and without destructor: blocks may be freed until the very end of a thread.
 struct ThreadPool
 {
-    std::array<FreeBlock*, kNumClasses> freeLists;
-    std::array<std::size_t, kNumClasses> freeSizes; // bytes in each list
+    std::array<Magazine, kNumClasses> current;
+    std::array<Magazine, kNumClasses> spare; // full or empty
     char* pUnused;
     std::size_t unusedSize;
     std::atomic<long long> numLive; // written by its thread alone, read by all
@@ -68,7 +78,7 @@ thread_local ThreadPool t_pool = {};
 struct SharedPool
 {
     std::mutex mutex;
-    std::array<FreeBlock*, kNumClasses> freeLists = {};
+    std::array<std::vector<Magazine>, kNumClasses> magazines;
     UnusedPiece* pUnusedPieces = nullptr;
     void* pChunks = nullptr; // each chunk's first pointer names the one before, so that all stay reachable
     ThreadPool* pThreads = nullptr;
@@ -86,21 +96,20 @@ void addLive(ThreadPool& pool, long long change)
     pool.numLive.store(pool.numLive.load(std::memory_order_relaxed) + change, std::memory_order_relaxed);
 }
 
-// Moves blocks of `blockSize` bytes each from the front of `pSource` to that of `pTarget`, until `size` bytes or all that
-// there are have gone. Returns the bytes moved.
-std::size_t moveBlocks(FreeBlock*& pTarget, FreeBlock*& pSource, std::size_t blockSize, std::size_t size)
+// Gives a magazine to the shared pool; 0 with nothing changed when there is no memory to note it in. Under the mutex.
+int handOver(SharedPool& shared, Magazine& magazine, std::size_t sizeClass) noexcept
 {
-    if (pSource == nullptr)
+    try
+    {
+        if (magazine.pBlocks != nullptr)
+            shared.magazines[sizeClass].push_back(magazine);
+    }
+    catch (const std::bad_alloc&)
+    {
         return 0;
-    FreeBlock* pFirst = pSource;
-    FreeBlock* pLast = pFirst;
-    std::size_t moved = blockSize;
-    for (; moved < size && pLast->pNext != nullptr; moved += blockSize)
-        pLast = pLast->pNext;
-    pSource = pLast->pNext;
-    pLast->pNext = pTarget;
-    pTarget = pFirst;
-    return moved;
+    }
+    magazine = Magazine();
+    return 1;
 }
 
 void removeFromList(ThreadPool*& pHead, ThreadPool& pool)
@@ -117,8 +126,10 @@ void retire(ThreadPool& pool)
     SharedPool& shared = theSharedPool();
     const std::lock_guard<std::mutex> lock(shared.mutex);
     for (std::size_t i = 0; i < kNumClasses; ++i)
-        moveBlocks(shared.freeLists[i], pool.freeLists[i], i * kClassWidth, pool.freeSizes[i]);
-    pool.freeSizes.fill(0);
+    {
+        handOver(shared, pool.current[i], i);
+        handOver(shared, pool.spare[i], i);
+    }
     if (pool.unusedSize >= sizeof(UnusedPiece))
         shared.pUnusedPieces = ::new (pool.pUnused) UnusedPiece{ shared.pUnusedPieces, pool.unusedSize };
     pool.pUnused = nullptr;
@@ -174,17 +185,22 @@ std::size_t classOf(std::size_t size)
 
 void push(ThreadPool& pool, void* pBlock, std::size_t sizeClass)
 {
-    pool.freeLists[sizeClass] = ::new (pBlock) FreeBlock{ pool.freeLists[sizeClass] };
-    pool.freeSizes[sizeClass] += sizeClass * kClassWidth;
+    Magazine& magazine = pool.current[sizeClass];
+    magazine.pBlocks = ::new (pBlock) FreeBlock{ magazine.pBlocks };
+    magazine.size += sizeClass * kClassWidth;
 }
 
+// Null when both magazines are empty.
 void* pop(ThreadPool& pool, std::size_t sizeClass)
 {
-    FreeBlock* pBlock = pool.freeLists[sizeClass];
+    Magazine& magazine = pool.current[sizeClass];
+    if (magazine.pBlocks == nullptr)
+        std::swap(magazine, pool.spare[sizeClass]);
+    FreeBlock* pBlock = magazine.pBlocks;
     if (pBlock == nullptr)
         return nullptr;
-    pool.freeLists[sizeClass] = pBlock->pNext;
-    pool.freeSizes[sizeClass] -= sizeClass * kClassWidth;
+    magazine.pBlocks = pBlock->pNext;
+    magazine.size -= sizeClass * kClassWidth;
     return pBlock;
 }
 
@@ -234,21 +250,25 @@ void takeNextPiece(ThreadPool& pool)
     pool.unusedSize = kChunkSize - kHeadSize;
 }
 
-void takeBatch(ThreadPool& pool, std::size_t sizeClass)
+void takeMagazine(ThreadPool& pool, std::size_t sizeClass)
 {
     SharedPool& shared = theSharedPool();
     const std::lock_guard<std::mutex> lock(shared.mutex);
-    pool.freeSizes[sizeClass] +=
-        moveBlocks(pool.freeLists[sizeClass], shared.freeLists[sizeClass], sizeClass * kClassWidth, kBatchSize);
+    std::vector<Magazine>& magazines = shared.magazines[sizeClass];
+    if (magazines.empty())
+        return;
+    pool.current[sizeClass] = magazines.back();
+    magazines.pop_back();
 }
 
-// Without this a thread that frees what another allocates would keep it all, and memory would grow for ever.
-void handOverBatch(ThreadPool& pool, std::size_t sizeClass)
+// Makes the full magazine the spare one, and gives the spare one of before to the shared pool: a thread that only frees
+// what another allocates would keep it all otherwise, and memory would grow for ever.
+void setFullMagazineAside(ThreadPool& pool, std::size_t sizeClass)
 {
     SharedPool& shared = theSharedPool();
     const std::lock_guard<std::mutex> lock(shared.mutex);
-    pool.freeSizes[sizeClass] -=
-        moveBlocks(shared.freeLists[sizeClass], pool.freeLists[sizeClass], sizeClass * kClassWidth, kBatchSize);
+    if (handOver(shared, pool.spare[sizeClass], sizeClass))
+        std::swap(pool.current[sizeClass], pool.spare[sizeClass]);
 }
 
 void* allocateSmall(ThreadPool& pool, std::size_t sizeClass)
@@ -257,7 +277,7 @@ void* allocateSmall(ThreadPool& pool, std::size_t sizeClass)
         return pBlock;
     if (void* pBlock = carve(pool, sizeClass * kClassWidth))
         return pBlock;
-    takeBatch(pool, sizeClass);
+    takeMagazine(pool, sizeClass);
     if (void* pBlock = pop(pool, sizeClass))
         return pBlock;
     for (;;)
@@ -271,8 +291,8 @@ void* allocateSmall(ThreadPool& pool, std::size_t sizeClass)
 void freeSmall(ThreadPool& pool, void* pBlock, std::size_t sizeClass)
 {
     push(pool, pBlock, sizeClass);
-    if (pool.freeSizes[sizeClass] > 2 * kBatchSize)
-        handOverBatch(pool, sizeClass);
+    if (pool.current[sizeClass].size > kMagazineSize)
+        setFullMagazineAside(pool, sizeClass);
 }
 
 // After its retirement a thread has no pool: each call enlists it anew and retires it at once.
