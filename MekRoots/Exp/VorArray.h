@@ -192,6 +192,10 @@ public:
     // pointer or a count below 1.
     void append(const T* pElements, int numElements);
 
+    // Appends an element constructed from `arguments`, which must not refer to elements of this array.
+    template <class... Arguments>
+    T& emplace(Arguments&&... arguments);
+
     T& operator[](int index);
     const T& operator[](int index) const;
     T& first();
@@ -300,6 +304,17 @@ void VorArray<T, R, M>::append(const T* pElements, int numElements)
     const T* pSource = isOwn ? m_pElements + ownIndex : pElements;
     for (int i = 0; i < numElements; ++i, ++m_nLength)
         ::new (static_cast<void*>(m_pElements + m_nLength)) T(pSource[i]);
+}
+
+template <class T, class R, class M>
+template <class... Arguments>
+T& VorArray<T, R, M>::emplace(Arguments&&... arguments)
+{
+    if (m_nLength >= m_nPhysicalLength || m_nLength >= m_nCapacity)
+        makeRoomFor(lengthWith(1));
+    T* pElement = ::new (static_cast<void*>(m_pElements + m_nLength)) T(std::forward<Arguments>(arguments)...);
+    ++m_nLength;
+    return *pElement;
 }
 
 template <class T, class R, class M>

@@ -106,8 +106,12 @@ VorString::VorString(const wchar_t* text) : VorString(text, textLength(text)) {}
 
 VorString::VorString(const wchar_t* text, int length)
 {
-    if (text != nullptr && length > 0)
-        append(text, length);
+    if (text == nullptr || length < 1)
+        return;
+    m_pBlock = createBlock(length);
+    m_pBlock->length = length;
+    std::copy_n(text, length, m_pBlock->characters());
+    m_pBlock->characters()[length] = L'\0';
 }
 
 void VorString::empty()

@@ -1,0 +1,108 @@
+#include "VorMemoryPage.h"
+
+#include <algorithm>
+#include <new>
+
+namespace
+{
+// The number of the lowest bit set in `word`, which is not 0.
+std::size_t lowestBit(std::uint64_t word)
+{
+    std::size_t bit = 0;
+    for (std::size_t half = 32; half > 0; half /= 2)
+    {
+        const std::uint64_t low = word & ((std::uint64_t{ 1 } << half) - 1);
+        if (low != 0)
+            continue;
+        word >>= half;
+        bit += half;
+    }
+    return bit;
+}
+}
+
+const std::size_t VorMemoryPage::kFirstGranule = (sizeof(VorMemoryPage) + kGranule - 1) / kGranule;
+
+VorMemoryPage* VorMemoryPage::create(void* pMemory, VorMemoryHeap& owner)
+{
+    return ::new (pMemory) VorMemoryPage(owner);
+}
+
+VorMemoryPage::VorMemoryPage(VorMemoryHeap& owner) : m_pOwner(&owner)
+{
+    m_freeBits.fill(0);
+    markFree(kFirstGranule, kNumGranules - kFirstGranule);
+}
+
+bool VorMemoryPage::takeRun(std::size_t size, char*& pFirst, char*& pEnd)
+{
+    if (m_nNumReturned * kGranule >= kRunSize)
+        rewind();
+    const std::size_t numWanted = size / kGranule;
+    const std::size_t longest = std::max(numWanted, kRunSize / kGranule);
+    for (;;)
+    {
+        const std::size_t first = findFree(m_nNext);
+        const std::size_t end = findUsed(first, std::min(first + longest, kNumGranules));
+        m_nNext = end;
+        if (first == kNumGranules)
+            return false;
+        if (end - first < numWanted)
+            continue;
+        markUsed(first, end - first);
+        pFirst = addressOf(first);
+        pEnd = addressOf(end);
+        return true;
+    }
+}
+
+void VorMemoryPage::rewind()
+{
+    m_nNext = 0;
+    m_nNumReturned = 0;
+}
+
+void VorMemoryPage::putBackRest(char* pFirst, char* pEnd)
+{
+    m_nNext = granuleAt(pFirst);
+    putBackGap(pFirst, pEnd);
+}
+
+void VorMemoryPage::markUsed(std::size_t granule, std::size_t numGranules)
+{
+    m_nNumFree -= numGranules;
+    while (numGranules > 0)
+    {
+        const std::size_t bit = granule % kBitsPerWord;
+        const std::size_t numHere = std::min(numGranules, kBitsPerWord - bit);
+        m_freeBits[granule / kBitsPerWord] &= ~((kAllFree >> (kBitsPerWord - numHere)) << bit);
+        granule += numHere;
+        numGranules -= numHere;
+    }
+}
+
+// The first free granule from `granule` on, or kNumGranules.
+std::size_t VorMemoryPage::findFree(std::size_t granule) const
+{
+    while (granule < kNumGranules)
+    {
+        const Word rest = m_freeBits[granule / kBitsPerWord] >> granule % kBitsPerWord;
+        if (rest != 0)
+            return granule + lowestBit(rest);
+        granule = (granule / kBitsPerWord + 1) * kBitsPerWord;
+    }
+    return kNumGranules;
+}
+
+// The first granule from `granule` on that is not free, at most `end`.
+std::size_t VorMemoryPage::findUsed(std::size_t granule, std::size_t end) const
+{
+    while (granule < end)
+    {
+        const Word rest = ~m_freeBits[granule / kBitsPerWord] >> granule % kBitsPerWord;
+        if (rest != 0)
+            return std::min(granule + lowestBit(rest), end);
+        granule = (granule / kBitsPerWord + 1) * kBitsPerWord;
+    }
+    return end;
+}

@@ -1,0 +1,116 @@
+// A page of the pool: 64 KB in which blocks of all sizes lie side by side, and one bit for each 8 bytes, a granule, that
+// says whether it is free.
+//
+//   0 ------------------------- page ------------------------- kSize
+//   | head, bits | item | tuples ... | 8 | 8 | 8 | text | item | ...
+//
+// Memory is handed out in runs of free granules and in the order of their addresses, whatever the order in which they
+// came back: what is allocated one after the other lies side by side and is met again in that order. Freeing a block
+// writes to the page's head alone, not to the block, which may long have left the caches.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+class VorMemoryHeap;
+
+class VorMemoryPage
+{
+public:
+    // In bytes; pages start at multiples of it, so that a block tells its page. Arbitrary: large against blocks, small
+    // against a report.
+    static constexpr std::size_t kSize = std::size_t{ 64 } * 1024;
+    static constexpr std::size_t kGranule = 8;
+
+    // A run ends after so many bytes even if more are free, and this many must come back before memory at the start of
+    // the page is looked at again: a search costs less than freeing them did.
+    static constexpr std::size_t kRunSize = 4096;
+
+    // The page in which a block lies.
+    static VorMemoryPage& of(void* pBlock)
+    {
+        const auto address = reinterpret_cast<std::uintptr_t>(pBlock);
+        return *reinterpret_cast<VorMemoryPage*>(static_cast<char*>(pBlock) - address % kSize);
+    }
+
+    // Lays a page out, all of it free, in kSize bytes of raw memory.
+    static VorMemoryPage* create(void* pMemory, VorMemoryHeap& owner);
+
+    VorMemoryPage(const VorMemoryPage&) = delete;
+    VorMemoryPage& operator=(const VorMemoryPage&) = delete;
+
+    VorMemoryHeap& owner() const { return *m_pOwner; }
+
+    // Takes a run of at least `size` free bytes: [pFirst, pEnd). Goes on from where the last one was taken, and from the
+    // start again once enough has come back. False with both untouched when the end of the page is reached.
+    bool takeRun(std::size_t size, char*& pFirst, char*& pEnd);
+
+    // Lets takeRun() go on from the start.
+    void rewind();
+
+    // Makes the rest of a run free again; takeRun() goes on from there.
+    void putBackRest(char* pFirst, char* pEnd);
+
+    // Makes a piece free that was cut off a run to align the next block.
+    void putBackGap(char* pFirst, char* pEnd)
+    {
+        markFree(granuleAt(pFirst), static_cast<std::size_t>(pEnd - pFirst) / kGranule);
+    }
+
+    // Makes a block of this page free.
+    void putBack(void* pBlock, std::size_t size)
+    {
+        const std::size_t numGranules = size / kGranule;
+        markFree(granuleAt(pBlock), numGranules);
+        m_nNumReturned += numGranules;
+    }
+
+    bool isEmpty() const { return m_nNumFree == kNumGranules - kFirstGranule; }
+
+    // Whether a search for runs is worth while: an eighth of the page has come back since the last one began.
+    bool isWorthOffering() const { return m_nNumReturned >= kNumGranules / 8; }
+
+    // Links and mark for the heap's list of pages; the page itself looks at none of them.
+    VorMemoryPage* pPrevious = nullptr;
+    VorMemoryPage* pNext = nullptr;
+    bool isInUse = false; // the heap takes runs from it, or lists it
+
+private:
+    using Word = std::uint64_t;
+    static constexpr std::size_t kBitsPerWord = 64;
+    static constexpr std::size_t kNumGranules = kSize / kGranule;
+    static constexpr Word kAllFree = ~Word{ 0 };
+    static const std::size_t kFirstGranule; // the first past the head
+
+    explicit VorMemoryPage(VorMemoryHeap& owner);
+
+    char* addressOf(std::size_t granule) { return reinterpret_cast<char*>(this) + granule * kGranule; }
+    std::size_t granuleAt(void* pBlock)
+    {
+        return static_cast<std::size_t>(static_cast<char*>(pBlock) - reinterpret_cast<char*>(this)) / kGranule;
+    }
+    void markFree(std::size_t granule, std::size_t numGranules);
+    void markUsed(std::size_t granule, std::size_t numGranules);
+    std::size_t findFree(std::size_t granule) const;
+    std::size_t findUsed(std::size_t granule, std::size_t end) const;
+
+    VorMemoryHeap* m_pOwner;
+    std::size_t m_nNumFree = 0;     // in granules, as the next three
+    std::size_t m_nNumReturned = 0; // since the last rewind
+    std::size_t m_nNext = 0;        // where takeRun() goes on
+    std::array<Word, kNumGranules / kBitsPerWord> m_freeBits;
+};
+
+inline void VorMemoryPage::markFree(std::size_t granule, std::size_t numGranules)
+{
+    m_nNumFree += numGranules;
+    while (numGranules > 0)
+    {
+        const std::size_t bit = granule % kBitsPerWord;
+        const std::size_t numHere = numGranules < kBitsPerWord - bit ? numGranules : kBitsPerWord - bit;
+        m_freeBits[granule / kBitsPerWord] |= (kAllFree >> (kBitsPerWord - numHere)) << bit;
+        granule += numHere;
+        numGranules -= numHere;
+    }
+}

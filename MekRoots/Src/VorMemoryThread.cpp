@@ -1,0 +1,78 @@
+#include "VorMemoryThread.h"
+
+#include <cstdlib>
+#include <new>
+
+// Destroyed with its thread.
+struct VorMemoryThread::End
+{
+    End() = default;
+    End(const End&) = delete;
+    End& operator=(const End&) = delete;
+    ~End()
+    {
+        s_hasEnded = true;
+        endUseOfHeap();
+    }
+};
+
+// The thread's heap; after the thread's end one that is handed back at once.
+class VorMemoryThread::HeapForOneCall
+{
+public:
+    HeapForOneCall()
+    {
+        if (s_pHeap == nullptr)
+            beginUseOfHeap();
+    }
+    ~HeapForOneCall()
+    {
+        if (s_hasEnded)
+            endUseOfHeap();
+    }
+    HeapForOneCall(const HeapForOneCall&) = delete;
+    HeapForOneCall& operator=(const HeapForOneCall&) = delete;
+
+    VorMemoryHeap* operator->() const { return s_pHeap; }
+};
+
+void VorMemoryThread::beginUseOfHeap()
+{
+    s_pHeap = &VorMemoryHeap::takeOne();
+    if (s_hasEnded)
+        return;
+    static thread_local End end;
+    static_cast<void>(end);
+}
+
+void VorMemoryThread::endUseOfHeap()
+{
+    VorMemoryHeap::handBack(*s_pHeap);
+    s_pHeap = nullptr;
+}
+
+void* VorMemoryThread::allocate(std::size_t size, bool isAlignedTo16)
+{
+    if (size == 0)
+        return nullptr;
+    const HeapForOneCall heap;
+    if (isPooled(size))
+        return heap->allocate(size, isAlignedTo16);
+    void* pBlock = std::malloc(size);
+    if (pBlock == nullptr)
+        throw std::bad_alloc();
+    heap->addLive(1);
+    return pBlock;
+}
+
+void VorMemoryThread::release(void* pBlock, std::size_t size)
+{
+    const HeapForOneCall heap;
+    if (isPooled(size))
+    {
+        heap->release(pBlock, size);
+        return;
+    }
+    std::free(pBlock);
+    heap->addLive(-1);
+}
