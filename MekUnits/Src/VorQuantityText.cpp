@@ -19,6 +19,22 @@ void writeDigits(std::uint64_t number, int numDigits, wchar_t* end)
         *--end = static_cast<wchar_t>(L'0' + number % 10);
 }
 
+// Writes `number` before `end`, two digits at a time, and at least `numDigits` of them; where the digits begin.
+wchar_t* writeBackwards(std::uint64_t number, int numDigits, wchar_t* end)
+{
+    wchar_t* const pLatest = end - numDigits;
+    while (number >= 100)
+    {
+        const auto pair = static_cast<wchar_t>(number % 100);
+        number /= 100;
+        *--end = static_cast<wchar_t>(L'0' + pair % 10);
+        *--end = static_cast<wchar_t>(L'0' + pair / 10);
+    }
+    for (; number > 0 || end > pLatest; number /= 10)
+        *--end = static_cast<wchar_t>(L'0' + number % 10);
+    return end;
+}
+
 int countDigits(std::uint64_t number)
 {
     int numDigits = 1;
@@ -26,6 +42,28 @@ int countDigits(std::uint64_t number)
         ++numDigits;
     return numDigits;
 }
+}
+
+VorString VorQuantityText::ofDecimal(bool isNegative, std::uint64_t parts, int numDecimals, int suppressLastZeros)
+{
+    constexpr int kDecimalRoom = 24; // sign, point and the digits of 64 bits
+    wchar_t text[kDecimalRoom];
+    wchar_t* pEnd = text + kDecimalRoom;
+    wchar_t* pFirst = writeBackwards(parts, numDecimals + 1, pEnd);
+    wchar_t* const pFirstDecimal = pEnd - numDecimals;
+    if (suppressLastZeros != 0)
+        while (pEnd != pFirstDecimal && pEnd[-1] == L'0')
+            --pEnd;
+    if (pEnd != pFirstDecimal)
+    {
+        --pFirst;
+        for (wchar_t* pDigit = pFirst; pDigit != pFirstDecimal - 1; ++pDigit)
+            pDigit[0] = pDigit[1];
+        pFirstDecimal[-1] = L'.';
+    }
+    if (isNegative)
+        *--pFirst = L'-';
+    return VorString(pFirst, static_cast<int>(pEnd - pFirst));
 }
 
 void VorQuantityText::addInteger(std::uint64_t number)

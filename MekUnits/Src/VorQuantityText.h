@@ -12,6 +12,10 @@ class VorDecimalNumber;
 class VorQuantityText
 {
 public:
+    // "-12.5": `parts` of ten to `numDecimals`, of which there are 9 at most. What most numbers of a report need, in one
+    // go: the same text as a sign, addInteger and addDecimals make.
+    static VorString ofDecimal(bool isNegative, std::uint64_t parts, int numDecimals, int suppressLastZeros);
+
     void addCharacter(wchar_t character) { m_text[m_nLength++] = character; }
     void addInteger(std::uint64_t number);
 

@@ -84,19 +84,34 @@ double roundToReadDigits(double value)
     return std::copysign(number.toDouble(), value);
 }
 
-// Rounds `product`, the shown number in parts; 0 with `number` untouched when it is too close to the middle between two
-// parts, too large to be sure, infinite or undefined.
-int roundQuickly(double product, unsigned int numParts, VorRoundedNumber& number)
+// Whether `size`, a value without its sign, is the double of (below + 1/2) / numParts of the unit: its text is that very
+// number then, which has few digits. One division of two exact numbers tells; no when they could be inexact.
+bool isHalfway(double size, std::uint64_t below, unsigned int numParts, const VorUnitDefinition& unit)
+{
+    constexpr std::uint64_t kLargestExact = std::uint64_t{ 1 } << 53;
+    constexpr std::uint64_t kMostHalves = 50000000; // with 2 * 256 parts, 14 digits at most
+    const std::uint64_t numHalves = 2 * below + 1;
+    const std::uint64_t halvesPerUnit = std::uint64_t{ 2 } * numParts;
+    if (numHalves > kMostHalves || unit.numerator > kLargestExact / numHalves ||
+        unit.denominator > kLargestExact / halvesPerUnit)
+        return false;
+    return size ==
+           static_cast<double>(numHalves * unit.numerator) / static_cast<double>(halvesPerUnit * unit.denominator);
+}
+
+// Rounds `size`, a value without its sign, to the parts that are shown, of which it has `product`; 0 with `parts`
+// untouched when it is too close to the middle between two parts, too large to be sure, infinite or undefined.
+int roundQuickly(double size, double product, unsigned int numParts, const VorUnitDefinition& unit,
+                 std::uint64_t& parts)
 {
     if (!(product < kQuickLimit))
         return 0;
-    const std::int64_t below = static_cast<std::int64_t>(product);
-    const double rest = product - static_cast<double>(below);
-    if (std::fabs(rest - 0.5) <= product * kProductTolerance)
+    const auto below = static_cast<std::uint64_t>(static_cast<std::int64_t>(product));
+    const double rest = product - static_cast<double>(static_cast<std::int64_t>(below));
+    const bool isNearMiddle = std::fabs(rest - 0.5) <= product * kProductTolerance;
+    if (isNearMiddle && !isHalfway(size, below, numParts, unit))
         return 0;
-    const std::uint64_t parts = static_cast<std::uint64_t>(below) + (rest > 0.5 ? 1 : 0);
-    number.whole = parts / numParts;
-    number.part = parts % numParts;
+    parts = below + (isNearMiddle || rest > 0.5 ? 1 : 0); // half away from zero
     return 1;
 }
 
@@ -202,8 +217,14 @@ double VorUnitTransform::toInternalUnits(double displayValue) const
 VorString VorUnitTransform::formatValue(double internalValue, int suppressLastZeros, int showUnitSymbol,
                                         int suppressZeroFeet, int suppressZeroInch, wchar_t feetInchSeparator) const
 {
-    VorRoundedNumber number;
-    int fits = roundQuickly(std::fabs(internalValue) * m_dPartsPerInternalUnit, m_nParts, number);
+    const double size = std::fabs(internalValue);
+    std::uint64_t parts = 0;
+    int fits = roundQuickly(size, size * m_dPartsPerInternalUnit, m_nParts, *m_pUnit, parts);
+    const bool isPlainDecimal = m_pUnit->layout == VorUnitDefinition::kPlainNumber && m_nDecimals >= 0;
+    if (fits != 0 && isPlainDecimal && showUnitSymbol == 0)
+        return VorQuantityText::ofDecimal(internalValue < 0 && parts > 0, parts, m_nDecimals, suppressLastZeros);
+
+    VorRoundedNumber number{ parts / m_nParts, parts % m_nParts };
     double shown = internalValue;
     if (fits == 0)
     {
