@@ -11,7 +11,6 @@ void VorBomColumns::find(VorBomItemBase& row)
 {
     if (m_tokens.empty())
         return;
-    VorBomDataTupleArray& tuples = row.getData();
     const int layout = m_pLayouts->layoutOf(row);
     if (layout == VorBomRowLayouts::kNoLayout)
     {
@@ -19,10 +18,15 @@ void VorBomColumns::find(VorBomItemBase& row)
             m_found[i] = row.getTupleAt(m_tokens[i]);
         return;
     }
-    const Positions& positions = positionsFor(layout, tuples);
+    VorBomDataTupleArray& tuples = row.getData();
+    if (layout != m_nLatestLayout)
+    {
+        m_pLatestPositions = positionsFor(layout, tuples).data();
+        m_nLatestLayout = layout;
+    }
     VorBomDataTuple* pFirst = tuples.begin();
-    for (std::size_t i = 0; i < positions.size(); ++i)
-        m_found[i] = positions[i] == kNone ? nullptr : pFirst + positions[i];
+    for (std::size_t i = 0; i < m_found.size(); ++i)
+        m_found[i] = m_pLatestPositions[i] == kNone ? nullptr : pFirst + m_pLatestPositions[i];
 }
 
 const VorBomColumns::Positions& VorBomColumns::positionsFor(int layout, const VorBomDataTupleArray& tuples)

@@ -37,4 +37,6 @@ private:
     std::vector<VorString> m_tokens;
     std::vector<VorBomDataTuple*> m_found;
     std::vector<Positions> m_positions; // per layout; empty where none was asked for
+    int m_nLatestLayout = VorBomRowLayouts::kNoLayout;
+    const int* m_pLatestPositions = nullptr;
 };

@@ -25,7 +25,8 @@ public:
     VorBomDataTuple(const VorString& token, const VorString& value) : m_token(token), m_value(value) {}
 
     // Takes a value of any kind as it is, an empty one too.
-    VorBomDataTuple(const VorString& token, VorBomDataValue value) : m_token(token), m_value(std::move(value)) {}
+    VorBomDataTuple(const VorString& token, const VorBomDataValue& value) : m_token(token), m_value(value) {}
+    VorBomDataTuple(const VorString& token, VorBomDataValue&& value) : m_token(token), m_value(std::move(value)) {}
 
     // Copies carry the used flag. A moved-from tuple has an empty token and an empty value.
     // On purpose: assigning, by copy or by move, a tuple with an empty value replaces token and flag but keeps the

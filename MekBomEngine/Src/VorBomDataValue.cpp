@@ -1,11 +1,9 @@
 #include "VorBomDataValue.h"
 
 #include "MekRoots/Exp/VorAssert.h"
-#include "MekRoots/Exp/VorMemoryControllerController.h"
 #include "MekRoots/Exp/VorNumberText.h"
 
 #include <cmath>
-#include <new>
 #include <utility>
 
 namespace
@@ -25,24 +23,11 @@ bool holdsPayload(int type)
     return type >= VorBomDataValue::kIntData && type <= VorBomDataValue::kStringData;
 }
 
-// Payloads of all kinds take cells of one size, so that a value keeps its cell when its kind changes.
-constexpr std::size_t kCellSize = sizeof(double);
-static_assert(sizeof(int) <= kCellSize && sizeof(VorString) <= kCellSize, "a cell holds any payload");
-
 int compareInts(int first, int second)
 {
     if (first == second)
         return 0;
     return first < second ? -1 : 1;
-}
-
-int compareDoubles(double first, double second)
-{
-    if (std::fabs(first - second) < kEqualTolerance)
-        return 0;
-    if (second > first)
-        return -1;
-    return first > second ? 1 : 0; // 0 for a NaN, which is neither
 }
 
 VorString textOf(int value)
@@ -124,6 +109,15 @@ int VorBomDataValue::compare(const VorBomDataValue& other) const
     }
     reportMisuse(__LINE__); // empty values have no order
     return 0;
+}
+
+int VorBomDataValue::compareDoubles(double first, double second)
+{
+    if (std::fabs(first - second) < kEqualTolerance)
+        return 0;
+    if (second > first)
+        return -1;
+    return first > second ? 1 : 0; // 0 for a NaN, which is neither
 }
 
 int VorBomDataValue::compareAlphanumeric(const VorBomDataValue& other) const

@@ -13,7 +13,11 @@
 #pragma once
 
 #include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorMemoryControllerController.h"
 #include "MekRoots/Exp/VorString.h"
+
+#include <cstddef>
+#include <new>
 
 class MEK_BOM_API VorBomDataValue
 {
@@ -28,11 +32,12 @@ public:
     };
 
     VorBomDataValue() noexcept = default;
-    VorBomDataValue(int value) { set(value); }
-    VorBomDataValue(double value) { set(value); }
-    VorBomDataValue(const VorString& value) { set(value); }
+    VorBomDataValue(int value) { create<int>(kIntData, value); }
+    VorBomDataValue(double value) { create<double>(kDoubleData, value); }
+    VorBomDataValue(const VorString& value) { create<VorString>(kStringData, value); }
 
-    VorBomDataValue(const VorBomDataValue& other) { *this = other; }
+    // Reports a type that is none of the four; the copy is empty then.
+    VorBomDataValue(const VorBomDataValue& other);
 
     // Takes the payload over; `other` is empty afterwards.
     VorBomDataValue(VorBomDataValue&& other) noexcept : m_nType(other.m_nType), m_pData(other.m_pData)
@@ -51,7 +56,11 @@ public:
     // assigning a temporary means the same as assigning a named value. Assigning a value to itself changes nothing.
     VorBomDataValue& operator=(VorBomDataValue&& other) noexcept;
 
-    ~VorBomDataValue() { empty(); }
+    ~VorBomDataValue()
+    {
+        if (m_nType != kUnknownData)
+            empty();
+    }
 
     // Replace payload and type. The text may be this value's own.
     void set(int value);
@@ -67,6 +76,9 @@ public:
     // Sign of this minus other. Doubles closer than 1e-6 are equal, whatever their size, and so is a NaN and anything;
     // texts compare as VorString::compare says. Reports and answers -1 for unlike kinds, 0 for two empty values.
     int compare(const VorBomDataValue& other) const;
+
+    // The same for two numbers that are in no value.
+    static int compareDoubles(double first, double second);
 
     // Natural order of two texts, "B2" before "B10", as VorString::compareWithNumbers says. Reports and answers -1 for
     // unlike kinds, 0 for two numbers or two empty values.
@@ -90,6 +102,29 @@ private:
     void endPayload();
     void* freeCell();
 
+    // Payloads of all kinds take cells of one size, so that a value keeps its cell when its kind changes.
+    static constexpr std::size_t kCellSize = sizeof(double);
+    static_assert(sizeof(int) <= kCellSize && sizeof(VorString) <= kCellSize, "a cell holds any payload");
+
+    // Gives a value that is empty its payload.
+    template <class Payload>
+    void create(eBomDataValueType type, const Payload& value)
+    {
+        m_pData = ::new (VorMemoryControllerController::allocateArray(1, kCellSize)) Payload(value);
+        m_nType = type;
+    }
+
     eBomDataValueType m_nType = kUnknownData;
     void* m_pData = nullptr;
 };
+
+inline VorBomDataValue::VorBomDataValue(const VorBomDataValue& other)
+{
+    switch (other.m_nType)
+    {
+        case kIntData: create<int>(kIntData, other.intValue()); break;
+        case kDoubleData: create<double>(kDoubleData, other.doubleValue()); break;
+        case kStringData: create<VorString>(kStringData, other.textValue()); break;
+        default: *this = other; break; // empty, or corrupt and reported
+    }
+}

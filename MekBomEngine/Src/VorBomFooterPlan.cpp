@@ -108,6 +108,7 @@ void VorBomFooterPlan::showInUnits(VorBomTemplateUnits& units, VorBomTemplateIte
 void VorBomFooterPlan::beginFooter()
 {
     m_pFooter = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
+    m_pFooter->getData().setPhysicalLength(m_section.getData().length());
     m_pFooter->setData(m_section.getData());
     m_nTakenRows = 0;
 }

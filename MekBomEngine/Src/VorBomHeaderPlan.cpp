@@ -45,17 +45,18 @@ std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row
     auto pEvaluated = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
     VorBomDataTupleArray& tuples = pEvaluated->getData();
     tuples.setPhysicalLength(columns.length());
-    for (int i = 0; i < columns.length(); ++i)
+    const VorBomDataTuple* pColumn = columns.begin();
+    for (int i = 0; i < columns.length(); ++i, ++pColumn)
     {
         VorBomDataTuple* pDatum = m_isFormula[static_cast<std::size_t>(i)] ? nullptr : m_columns[i];
         if (pDatum == nullptr || !hasValue(*pDatum))
         {
-            tuples.append(columns[i]);
+            tuples.emplace(*pColumn);
             continue;
         }
-        tuples.append(VorBomDataTuple(columns[i].token().token(), pDatum->value()));
-        tuples.last().setUsed(columns[i].used());
-        pDatum->setUsed(1);
+        tuples.emplace(pColumn->token().token(), pDatum->value()).setUsed(pColumn->used());
+        if (pDatum->used() != 1)
+            pDatum->setUsed(1); // rows of an earlier evaluation are marked: their memory need not be written
     }
     return pEvaluated;
 }

@@ -4,13 +4,14 @@
 
 namespace
 {
-bool hasLayout(const VorBomDataTupleArray& tuples, const std::vector<VorString>& layout)
+// The first `numKnown` tuples are known to agree.
+bool hasLayout(const VorBomDataTupleArray& tuples, const std::vector<VorString>& layout, int numKnown = 0)
 {
     if (static_cast<std::size_t>(tuples.length()) != layout.size())
         return false;
-    const VorString* pToken = layout.data();
-    for (const VorBomDataTuple& tuple : tuples)
-        if (!tuple.token().token().sharesTextWith(*pToken++))
+    const VorString* pToken = layout.data() + numKnown;
+    for (const VorBomDataTuple* pTuple = tuples.begin() + numKnown; pTuple != tuples.end(); ++pTuple)
+        if (!pTuple->token().token().sharesTextWith(*pToken++))
             return false;
     return true;
 }
@@ -25,24 +26,32 @@ std::size_t hashOf(const VorBomDataTupleArray& tuples)
 }
 }
 
-int VorBomRowLayouts::layoutOf(const VorBomItemBase& row)
+int VorBomRowLayouts::findLayout(const VorBomItemBase& row)
 {
     const VorBomDataTupleArray& tuples = row.getData();
-    for (const Remembered& remembered : m_remembered)
-        if (remembered.pRow == &row && remembered.numTuples == tuples.length())
-            return remembered.layout;
-    if (m_remembered[0].pRow != &row)
-        m_remembered[1] = m_remembered[0];
-    m_remembered[0] = { &row, tuples.length(), findLayout(tuples) };
-    return m_remembered[0].layout;
+    Remembered& latest = m_remembered[0];
+    if (latest.pRow == &row && latest.layout != kNoLayout && latest.numTuples < tuples.length())
+    {
+        latest = { &row, tuples.length(), findLonger(latest, tuples) };
+        return latest.layout;
+    }
+    if (m_nLatest == kNoLayout || !hasLayout(tuples, layoutAt(m_nLatest).tokens))
+        m_nLatest = findOrAddLayout(tuples);
+    if (latest.pRow != &row)
+        m_remembered[1] = latest;
+    latest = { &row, tuples.length(), m_nLatest };
+    return m_nLatest;
 }
 
-int VorBomRowLayouts::findLayout(const VorBomDataTupleArray& tuples)
+// The layout of a row that got further tuples since it was remembered.
+int VorBomRowLayouts::findLonger(const Remembered& shorter, const VorBomDataTupleArray& tuples)
 {
-    const bool isAsBefore = m_nLatest != kNoLayout && hasLayout(tuples, m_layouts[static_cast<std::size_t>(m_nLatest)]);
-    if (!isAsBefore)
-        m_nLatest = findOrAddLayout(tuples);
-    return m_nLatest;
+    const int latest = layoutAt(shorter.layout).latestLonger;
+    if (latest != kNoLayout && hasLayout(tuples, layoutAt(latest).tokens, shorter.numTuples))
+        return latest;
+    const int longer = findOrAddLayout(tuples);
+    layoutAt(shorter.layout).latestLonger = longer;
+    return longer;
 }
 
 int VorBomRowLayouts::findOrAddLayout(const VorBomDataTupleArray& tuples)
@@ -50,14 +59,14 @@ int VorBomRowLayouts::findOrAddLayout(const VorBomDataTupleArray& tuples)
     const std::size_t hash = hashOf(tuples);
     const auto [first, end] = m_byHash.equal_range(hash);
     for (auto it = first; it != end; ++it)
-        if (hasLayout(tuples, m_layouts[static_cast<std::size_t>(it->second)]))
+        if (hasLayout(tuples, layoutAt(it->second).tokens))
             return it->second;
     if (m_layouts.size() == kMostLayouts)
         return kNoLayout;
     const int number = static_cast<int>(m_layouts.size());
     m_layouts.emplace_back();
     for (const VorBomDataTuple& tuple : tuples)
-        m_layouts.back().push_back(tuple.token().token());
+        m_layouts.back().tokens.push_back(tuple.token().token());
     m_byHash.emplace(hash, number);
     return number;
 }

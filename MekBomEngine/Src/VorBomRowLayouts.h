@@ -26,11 +26,21 @@ public:
     static constexpr int kMostLayouts = 1000;
 
     // The number of the row's layout, counted from 0, or kNoLayout. A row that was asked for just before and has as many
-    // tuples still is taken to have the same layout.
-    int layoutOf(const VorBomItemBase& row);
+    // tuples still is taken to have the same layout; if it has more, only those are looked at.
+    int layoutOf(const VorBomItemBase& row)
+    {
+        for (const Remembered& remembered : m_remembered)
+            if (remembered.pRow == &row && remembered.numTuples == row.getData().length())
+                return remembered.layout;
+        return findLayout(row);
+    }
 
 private:
-    using Layout = std::vector<VorString>;
+    struct Layout
+    {
+        std::vector<VorString> tokens;
+        int latestLonger = kNoLayout; // the layout that a row last had which had this one and got a tuple more
+    };
 
     struct Remembered
     {
@@ -39,11 +49,13 @@ private:
         int layout = kNoLayout;
     };
 
-    int findLayout(const VorBomDataTupleArray& tuples);
+    int findLayout(const VorBomItemBase& row);
+    int findLonger(const Remembered& shorter, const VorBomDataTupleArray& tuples);
     int findOrAddLayout(const VorBomDataTupleArray& tuples);
+    Layout& layoutAt(int number) { return m_layouts[static_cast<std::size_t>(number)]; }
 
     std::vector<Layout> m_layouts;
     std::unordered_multimap<std::size_t, int> m_byHash;
-    int m_nLatest = kNoLayout;
+    int m_nLatest = kNoLayout;  // of a row that was met for the first time
     Remembered m_remembered[2]; // latest first: a row and the one before it are compared level by level
 };

@@ -25,12 +25,10 @@ void gatherRequests(const VorBomDataTupleArray& tuples, Cache& cache, int (VorBo
 }
 }
 
+const VorBomTemplateItem::Requests VorBomTemplateItem::kNoRequests;
+
 VorBomTemplateItem::VorBomTemplateItem(const VorBomTemplateItem& other, eCopyPart)
-    : m_nType(other.m_nType),
-      m_groupingTokens(other.m_groupingTokens),
-      m_sortingTokens(other.m_sortingTokens),
-      m_filterObjTypes(other.m_filterObjTypes),
-      m_pFirstDataRow(other.m_pFirstDataRow)
+    : m_nType(other.m_nType), m_pRequests(other.m_pRequests), m_pFirstDataRow(other.m_pFirstDataRow)
 {
 }
 
@@ -71,19 +69,27 @@ int VorBomTemplateItem::list(VorString& out, int level, int withChildren, int wi
     return VorBomItemBase::list(out, level, withChildren, withNext);
 }
 
+// To be written to: shared with no copy.
+VorBomTemplateItem::Requests& VorBomTemplateItem::ownRequests()
+{
+    if (m_pRequests == nullptr || m_pRequests.use_count() > 1)
+        m_pRequests = std::make_shared<Requests>(requests());
+    return *m_pRequests;
+}
+
 void VorBomTemplateItem::findOwnGroupingTokens()
 {
-    gatherRequests(getData(), m_groupingTokens, &VorBomDataToken::getGroupingRequest);
+    gatherRequests(getData(), ownRequests().groupingTokens, &VorBomDataToken::getGroupingRequest);
 }
 
 void VorBomTemplateItem::findOwnSortingTokens()
 {
-    gatherRequests(getData(), m_sortingTokens, &VorBomDataToken::getSortingRequest);
+    gatherRequests(getData(), ownRequests().sortingTokens, &VorBomDataToken::getSortingRequest);
 }
 
 void VorBomTemplateItem::findOwnFilterObjTypes()
 {
-    gatherRequests(getData(), m_filterObjTypes, &VorBomDataToken::getFilteringRequest);
+    gatherRequests(getData(), ownRequests().filterObjTypes, &VorBomDataToken::getFilteringRequest);
 }
 
 int VorBomTemplateItem::findDownGroups(void (VorBomTemplateItem::*findOwn)())

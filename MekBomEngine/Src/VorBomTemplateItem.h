@@ -21,6 +21,8 @@
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
 
+#include <memory>
+
 class MEK_BOM_API VorBomTemplateItem : public VorBomItemBase
 {
 public:
@@ -69,9 +71,9 @@ public:
     int findFilterObjTypes();
 
     // The caches as they stand.
-    const VorStringArray& groupingTokens() const { return m_groupingTokens; }
-    const VorStringArray& sortingTokens() const { return m_sortingTokens; } // each with the direction prefix it has
-    const VorArray<int>& filterObjTypes() const { return m_filterObjTypes; }
+    const VorStringArray& groupingTokens() const { return requests().groupingTokens; }
+    const VorStringArray& sortingTokens() const { return requests().sortingTokens; } // each with its direction prefix
+    const VorArray<int>& filterObjTypes() const { return requests().filterObjTypes; }
 
     // The first row placed in an evaluated section. Not owned, may be null.
     VorBomDataRow* getFirstDataRow() const { return m_pFirstDataRow; }
@@ -84,14 +86,26 @@ public:
 private:
     friend class VorBomTemplate; // fills the caches section by section
 
+    // What the tuples of a section ask for. Shared by copies, of which a report has one per line, and never changed
+    // once it is shared.
+    struct Requests
+    {
+        VorStringArray groupingTokens;
+        VorStringArray sortingTokens;
+        VorArray<int> filterObjTypes;
+    };
+
+    const Requests& requests() const { return m_pRequests != nullptr ? *m_pRequests : kNoRequests; }
+    Requests& ownRequests();
+
     void findOwnGroupingTokens();
     void findOwnSortingTokens();
     void findOwnFilterObjTypes();
     int findDownGroups(void (VorBomTemplateItem::*findOwn)());
 
+    static const Requests kNoRequests;
+
     eTemplateItemType m_nType = kUnkTemplateItemType;
-    VorStringArray m_groupingTokens;
-    VorStringArray m_sortingTokens;
-    VorArray<int> m_filterObjTypes;
+    std::shared_ptr<Requests> m_pRequests; // null as long as nothing was asked for
     VorBomDataRow* m_pFirstDataRow = nullptr;
 };
