@@ -1,10 +1,13 @@
 #include "VorBomRanks.h"
 
+#include "VorBomDistinctTexts.h"
+
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstring>
+#include <limits>
 #include <numeric>
-#include <string_view>
-#include <unordered_map>
 #include <utility>
 
 namespace
@@ -53,17 +56,69 @@ bool canFollow(int, int)
 // Whether a double may rank right after a smaller or equal one: when comparing them tells the same.
 bool canFollow(double smaller, double larger)
 {
-    return smaller == larger || VorBomDataValue(smaller).compare(VorBomDataValue(larger)) != 0;
+    return smaller == larger || VorBomDataValue::compareDoubles(smaller, larger) != 0;
+}
+
+// A number with its row, and whole numbers that are in the order of the numbers.
+template <class Number>
+struct NumberOfRow
+{
+    Number number;
+    std::uint32_t row;
+};
+
+std::uint64_t sortKey(int number)
+{
+    return static_cast<std::uint64_t>(static_cast<std::int64_t>(number) - std::numeric_limits<int>::min());
+}
+
+// The bits of a positive double are in its order, those of a negative one against it. Both zeros give one key.
+std::uint64_t sortKey(double number)
+{
+    constexpr std::uint64_t kSign = std::uint64_t{ 1 } << 63;
+    const double withoutNegativeZero = number + 0.0;
+    std::uint64_t bits = 0;
+    std::memcpy(&bits, &withoutNegativeZero, sizeof bits);
+    return (bits & kSign) != 0 ? ~bits : bits | kSign;
 }
 
 template <class Number>
-using NumbersOfRows = std::vector<std::pair<Number, std::uint32_t>>;
+using NumbersOfRows = std::vector<NumberOfRow<Number>>;
+
+// Byte by byte of the keys from the lowest, each time stably; a byte that all keys share is passed over.
+template <class Number>
+void sortByKeys(NumbersOfRows<Number>& numbers)
+{
+    constexpr std::size_t kNumBytes = sizeof(std::uint64_t);
+    std::array<std::array<std::size_t, 256>, kNumBytes> places = {};
+    for (const NumberOfRow<Number>& entry : numbers)
+    {
+        std::uint64_t key = sortKey(entry.number);
+        for (std::size_t byte = 0; byte < kNumBytes; ++byte, key >>= 8)
+            ++places[byte][key & 255];
+    }
+    NumbersOfRows<Number> sorted(numbers.size());
+    for (std::size_t byte = 0; byte < kNumBytes; ++byte)
+    {
+        const auto valueOf = [byte](const NumberOfRow<Number>& e) { return (sortKey(e.number) >> (8 * byte)) & 255; };
+        std::array<std::size_t, 256>& place = places[byte];
+        if (numbers.empty() || place[valueOf(numbers.front())] == numbers.size())
+            continue;
+        std::size_t begin = 0;
+        for (std::size_t& count : place)
+            begin += std::exchange(count, begin);
+        for (const NumberOfRow<Number>& entry : numbers)
+            sorted[place[valueOf(entry)]++] = entry;
+        numbers.swap(sorted);
+    }
+}
 
 // The numbers in ascending order with their rows; nothing when one is a NaN, which no sort can take.
 template <class Number>
 NumbersOfRows<Number> sortedNumbers(const std::vector<const VorBomDataTuple*>& tuples)
 {
     NumbersOfRows<Number> numbers;
+    numbers.reserve(tuples.size());
     for (std::size_t row = 0; row < tuples.size(); ++row)
     {
         if (tuples[row] == nullptr)
@@ -71,9 +126,9 @@ NumbersOfRows<Number> sortedNumbers(const std::vector<const VorBomDataTuple*>& t
         const Number number = *static_cast<const Number*>(tuples[row]->value().data());
         if (isNan(number))
             return {};
-        numbers.emplace_back(number, static_cast<std::uint32_t>(row));
+        numbers.push_back({ number, static_cast<std::uint32_t>(row) });
     }
-    std::sort(numbers.begin(), numbers.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    sortByKeys(numbers);
     return numbers;
 }
 
@@ -81,7 +136,7 @@ template <class Number>
 bool compareAsTheyAreSorted(const NumbersOfRows<Number>& numbers)
 {
     for (std::size_t i = 1; i < numbers.size(); ++i)
-        if (!canFollow(numbers[i - 1].first, numbers[i].first))
+        if (!canFollow(numbers[i - 1].number, numbers[i].number))
             return false;
     return true;
 }
@@ -123,20 +178,12 @@ void VorBomRanks::sortStably(std::vector<std::uint32_t>& rows, bool isAscending)
 // Equal texts are found by their characters first: a column has far fewer texts than rows, and only those are compared.
 int VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bool naturally)
 {
-    std::unordered_map<std::wstring_view, std::uint32_t> indexOfText;
-    std::vector<const VorString*> texts;
-    std::vector<std::uint32_t> textOfRow(tuples.size());
+    VorBomDistinctTexts distinct;
+    m_ranks.assign(tuples.size(), 0);
     for (std::size_t row = 0; row < tuples.size(); ++row)
-    {
-        if (isMissing(tuples[row]))
-            continue;
-        const VorString& text = textOf(*tuples[row]);
-        const std::wstring_view characters(text.getStringW(), static_cast<std::size_t>(text.length()));
-        const auto [found, isNew] = indexOfText.emplace(characters, static_cast<std::uint32_t>(texts.size()));
-        if (isNew)
-            texts.push_back(&text);
-        textOfRow[row] = found->second;
-    }
+        if (!isMissing(tuples[row]))
+            m_ranks[row] = distinct.indexOf(textOf(*tuples[row]));
+    const std::vector<const VorString*>& texts = distinct.texts();
 
     const auto compare = naturally ? &VorString::compareWithNumbers
                                    : static_cast<int (*)(const VorString&, const VorString&)>(&VorString::compare);
@@ -148,10 +195,9 @@ int VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bo
     for (const std::uint32_t text : order)
         rankOfText[text] = m_nNumRanks++;
 
-    m_ranks.assign(tuples.size(), 0);
     for (std::size_t row = 0; row < tuples.size(); ++row)
         if (!isMissing(tuples[row]))
-            m_ranks[row] = rankOfText[textOfRow[row]];
+            m_ranks[row] = rankOfText[m_ranks[row]];
     return 1;
 }
 
@@ -165,9 +211,9 @@ int VorBomRanks::rankNumbers(const std::vector<const VorBomDataTuple*>& tuples)
     m_ranks.assign(tuples.size(), 0);
     for (std::size_t i = 0; i < numbers.size(); ++i)
     {
-        if (i > 0 && numbers[i - 1].first != numbers[i].first)
+        if (i > 0 && numbers[i - 1].number != numbers[i].number)
             ++m_nNumRanks;
-        m_ranks[numbers[i].second] = m_nNumRanks;
+        m_ranks[numbers[i].row] = m_nNumRanks;
     }
     ++m_nNumRanks;
     return 1;

@@ -1,0 +1,55 @@
+#include "VorBomDistinctTexts.h"
+
+namespace
+{
+// FNV-1a over the characters, its upper half mixed into the lower.
+std::uint32_t hashOf(const VorString& text)
+{
+    std::uint64_t hash = 14695981039346656037U;
+    const wchar_t* pCharacter = text.getStringW();
+    for (int i = text.length(); i > 0; --i)
+        hash = (hash ^ static_cast<std::uint32_t>(*pCharacter++)) * 1099511628211U;
+    return static_cast<std::uint32_t>(hash ^ (hash >> 32));
+}
+}
+
+std::uint32_t VorBomDistinctTexts::indexOf(const VorString& text)
+{
+    const wchar_t* pCharacters = text.getStringW();
+    constexpr std::uintptr_t kBlockWidth = 16; // neighbouring texts lie about so far apart
+    Recent& recent = m_recent[reinterpret_cast<std::uintptr_t>(pCharacters) / kBlockWidth % kNumRecent];
+    if (recent.pCharacters != pCharacters)
+        recent = { pCharacters, findOrAdd(text) };
+    return recent.number;
+}
+
+std::uint32_t VorBomDistinctTexts::findOrAdd(const VorString& text)
+{
+    const std::uint32_t hash = hashOf(text);
+    std::size_t i = hash % m_slots.size();
+    for (; m_slots[i].number != kNone; i = (i + 1) % m_slots.size())
+        if (m_slots[i].hash == hash && *m_texts[m_slots[i].number] == text)
+            return m_slots[i].number;
+
+    const auto number = static_cast<std::uint32_t>(m_texts.size());
+    m_slots[i] = { hash, number };
+    m_texts.push_back(&text);
+    if (m_texts.size() * 2 > m_slots.size())
+        grow();
+    return number;
+}
+
+void VorBomDistinctTexts::grow()
+{
+    std::vector<Slot> slots(m_slots.size() * 2);
+    for (const Slot& slot : m_slots)
+    {
+        if (slot.number == kNone)
+            continue;
+        std::size_t i = slot.hash % slots.size();
+        while (slots[i].number != kNone)
+            i = (i + 1) % slots.size();
+        slots[i] = slot;
+    }
+    m_slots.swap(slots);
+}
