@@ -8,6 +8,7 @@
 #include "VorBomEvaluator2.h"
 
 #include "VorBomLevelPlan.h"
+#include "VorBomRowsAhead.h"
 
 #include "MekRoots/Exp/VorAssert.h"
 
@@ -43,8 +44,12 @@ int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResul
 
     VorBomTemplateUnits* pUnits = pTemplate->getBomTemplateUnits();
     sortInpuDataBySortingTokens(pData, stack);
+    VorBomRowsAhead ahead(pData->child());
     for (VorBomItemBase* pRow = pData->child(); pRow != nullptr; pRow = pRow->next())
+    {
+        ahead.advance();
         evaluateData(static_cast<VorBomDataRow*>(pRow), stack, pUnits);
+    }
     for (int level = stack.length() - 1; level >= 0; --level)
         endGroup(stack, level, pUnits);
     forgetGroup(stack, 0);
@@ -89,15 +94,16 @@ VorBomTemplateItem* VorBomEvaluator2::process(VorBomTemplateItem* pTemplateItem,
 
 int VorBomEvaluator2::evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& stack, VorBomTemplateUnits* pUnits)
 {
+    VorBomEngineState* pStates = stack.begin();
     for (int level = 0; level < stack.length(); ++level)
     {
-        if (stack[level].m_dataRows.isEmpty())
+        if (pStates[level].m_dataRows.isEmpty())
         {
             beginGroup(pRow, stack, level);
             if (isLastLevel(stack, level))
                 endGroup(stack, level, pUnits);
         }
-        else if (!dataMatchGroup(pRow, stack[level]))
+        else if (!dataMatchGroup(pRow, pStates[level]))
         {
             for (int inner = level; inner < stack.length(); ++inner)
                 endGroup(stack, inner, pUnits);

@@ -123,11 +123,12 @@ int VorBomEvaluator2::sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngin
     if (m_arrTokensToSortDataRow.isEmpty() || !hasTwoRows)
         return 1;
 
-    const std::vector<VorBomItemBase*> rows =
-        VorBomSortedRows(*pData, m_arrTokensToSortDataRow, m_arrSortOrderForDataRow).sorted();
-    // On purpose before the rows are relinked: lastChild() goes on naming the row that was last before sorting.
+    VorBomSortedRows sortedRows(*pData, m_arrTokensToSortDataRow, m_arrSortOrderForDataRow);
+    VorBomItemBase* pLastBefore = sortedRows.lastInList();
+    const std::vector<VorBomItemBase*> rows = sortedRows.sorted();
+    // On purpose lastChild() goes on naming the row that was last before sorting.
     // Pinned by VorBomEvaluator2SortingTest.LastChildKeepsNamingTheRowThatWasLast.
-    pData->setChild(rows.front());
+    pData->setChildren(rows.front(), pLastBefore);
     for (std::size_t i = 0; i + 1 < rows.size(); ++i)
         rows[i]->setNext(rows[i + 1]);
     rows.back()->setNext(nullptr);

@@ -79,6 +79,15 @@ public:
     VorBomDataTuple* getTupleAt(const VorString& token);
 
 private:
+    friend class VorBomEvaluator2; // relinks rows
+
+    // Makes a chain whose last item is known the children, without a walk along it.
+    void setChildren(VorBomItemBase* pFirst, VorBomItemBase* pLast)
+    {
+        m_pChild = pFirst;
+        m_pLastChild = pLast;
+    }
+
     VorBomItemBase* m_pNext = nullptr;
     VorBomItemBase* m_pChild = nullptr;
     VorBomItemBase* m_pLastChild = nullptr; // so that appending takes constant time

@@ -25,6 +25,9 @@ public:
 
     std::vector<VorBomItemBase*> sorted();
 
+    // The row that was last when the rows were looked up; null without rows.
+    VorBomItemBase* lastInList() const { return m_rows.empty() ? nullptr : m_rows.back(); }
+
     // One key's comparison of two rows' tuples: natural or plain, as the token's sort type asks for.
     class KeyComparison
     {
