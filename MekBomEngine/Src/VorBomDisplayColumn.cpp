@@ -2,6 +2,8 @@
 
 #include "MekRoots/Exp/VorNumberText.h"
 
+#include <cstring>
+
 namespace
 {
 VorString integerText(int value)
@@ -26,15 +28,9 @@ VorBomDisplayColumn::VorBomDisplayColumn(const VorBomDataToken& token)
 void VorBomDisplayColumn::show(VorBomTemplateUnits& units, VorBomDataValue& value)
 {
     if (value.type() == VorBomDataValue::kIntData)
-    {
-        value.set(integerText(*static_cast<const int*>(value.data())));
-    }
+        value.set(textOf(*static_cast<const int*>(value.data())));
     else if (value.type() == VorBomDataValue::kDoubleData)
-    {
-        if (m_nTypesKnown != units.numTokenTypes())
-            lookUpType(units);
-        value.set(units.getDisplayString(m_type, *static_cast<const double*>(value.data())));
-    }
+        value.set(textOf(*static_cast<const double*>(value.data()), units));
 }
 
 void VorBomDisplayColumn::showAll(std::vector<VorBomDisplayColumn>& columns, VorBomTemplateUnits& units,
@@ -45,11 +41,36 @@ void VorBomDisplayColumn::showAll(std::vector<VorBomDisplayColumn>& columns, Vor
         column.show(units, pTuple++->value());
 }
 
+VorString VorBomDisplayColumn::textOf(int value)
+{
+    const auto key = static_cast<std::uint64_t>(value);
+    if (const VorString* pText = m_integerTexts.find(key))
+        return *pText;
+    VorString text = integerText(value);
+    m_integerTexts.remember(key, text);
+    return text;
+}
+
+VorString VorBomDisplayColumn::textOf(double value, VorBomTemplateUnits& units)
+{
+    if (m_nTypesKnown != units.numTokenTypes())
+        lookUpType(units);
+    std::uint64_t key = 0;
+    static_assert(sizeof key == sizeof value, "the bits of a double tell it from all others");
+    std::memcpy(&key, &value, sizeof key);
+    if (const VorString* pText = m_texts.find(key))
+        return *pText;
+    VorString text = units.getDisplayString(m_type, value);
+    m_texts.remember(key, text);
+    return text;
+}
+
 void VorBomDisplayColumn::lookUpType(VorBomTemplateUnits& units)
 {
     if (m_isFormula)
         registerFormulaUnit(units);
     m_type = units.getUnitType(m_name);
+    m_texts.clear();
     m_nTypesKnown = units.numTokenTypes();
 }
 

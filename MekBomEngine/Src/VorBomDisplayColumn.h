@@ -12,6 +12,7 @@
 #include "VorBomDataTuple.h"
 #include "VorBomDataValue.h"
 #include "VorBomTemplateUnits.h"
+#include "VorBomTextMemo.h"
 
 #include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
@@ -34,6 +35,8 @@ public:
 private:
     static constexpr int kNeverLookedUp = -1;
 
+    VorString textOf(int value);
+    VorString textOf(double value, VorBomTemplateUnits& units);
     void lookUpType(VorBomTemplateUnits& units);
     void registerFormulaUnit(VorBomTemplateUnits& units) const;
 
@@ -41,4 +44,6 @@ private:
     bool m_isFormula;
     VorBomTemplateUnits::eTokenUnitType m_type = VorBomTemplateUnits::kNoUnit;
     int m_nTypesKnown = kNeverLookedUp; // how many tokens the units knew when the type was looked up
+    VorBomTextMemo m_texts;             // of doubles, in the units of m_type
+    VorBomTextMemo m_integerTexts;
 };

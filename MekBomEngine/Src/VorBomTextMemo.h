@@ -1,0 +1,58 @@
+// The texts that the numbers of one column were lately shown as. Equal parts are many in a model, so most columns hold
+// few different numbers, and a text that is known needs neither rounding nor memory of its own: texts are shared.
+//
+//   const VorString* pText = memo.find(key);      null: not known, so
+//   memo.remember(key, text);
+//
+// Keys are any 64 bits that tell the numbers apart. A column whose numbers hardly ever repeat is found out after
+// kNumTrials of them: from then on nothing is remembered.
+#pragma once
+
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorString.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+class MEK_BOM_API VorBomTextMemo
+{
+public:
+    const VorString* find(std::uint64_t key)
+    {
+        if (m_entries.empty())
+            return nullptr;
+        const Entry& entry = m_entries[slotOf(key)];
+        if (entry.text.isEmpty() || entry.key != key)
+            return nullptr;
+        ++m_nNumFound;
+        return &entry.text;
+    }
+
+    // After find() gave null. An empty text is not remembered.
+    void remember(std::uint64_t key, const VorString& text);
+
+    // Forgets all texts.
+    void clear();
+
+private:
+    struct Entry
+    {
+        std::uint64_t key = 0;
+        VorString text;
+    };
+
+    static constexpr int kNumTrials = 1024;  // arbitrary: enough to tell
+    static constexpr int kSlotBits = 9;      // 8 KB, so that those of all columns fit the inner caches
+    static constexpr int kFewestFoundIn = 4; // one of so many, or remembering costs more than it saves
+
+    static std::size_t slotOf(std::uint64_t key)
+    {
+        return static_cast<std::size_t>(key * 0x9E3779B97F4A7C15U >> (64 - kSlotBits)); // Fibonacci hashing
+    }
+
+    std::vector<Entry> m_entries; // none before the first text, and once remembering has proved useless
+    int m_nNumFound = 0;
+    int m_nNumRemembered = 0;
+    bool m_isUseless = false;
+};
