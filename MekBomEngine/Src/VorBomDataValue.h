@@ -40,7 +40,7 @@ public:
     VorBomDataValue(const VorBomDataValue& other);
 
     // Takes the payload over; `other` is empty afterwards.
-    VorBomDataValue(VorBomDataValue&& other) noexcept : m_nType(other.m_nType), m_pData(other.m_pData)
+    VorBomDataValue(VorBomDataValue&& other) noexcept : m_pData(other.m_pData), m_nType(other.m_nType)
     {
         other.m_nType = kUnknownData;
         other.m_pData = nullptr;
@@ -114,8 +114,8 @@ private:
         m_nType = type;
     }
 
-    eBomDataValueType m_nType = kUnknownData;
     void* m_pData = nullptr;
+    eBomDataValueType m_nType = kUnknownData;
 };
 
 inline VorBomDataValue::VorBomDataValue(const VorBomDataValue& other)

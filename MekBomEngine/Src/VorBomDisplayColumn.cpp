@@ -38,7 +38,11 @@ void VorBomDisplayColumn::showAll(std::vector<VorBomDisplayColumn>& columns, Vor
 {
     VorBomDataTuple* pTuple = tuples.begin();
     for (VorBomDisplayColumn& column : columns)
-        column.show(units, pTuple++->value());
+    {
+        VorBomDataValue& value = pTuple++->value();
+        if (value.type() == VorBomDataValue::kIntData || value.type() == VorBomDataValue::kDoubleData)
+            column.show(units, value);
+    }
 }
 
 VorString VorBomDisplayColumn::textOf(int value)
