@@ -3,40 +3,31 @@
 #include <utility>
 
 VorBomColumns::VorBomColumns(std::shared_ptr<VorBomRowLayouts> pLayouts, std::vector<VorString> tokens)
-    : m_pLayouts(std::move(pLayouts)), m_tokens(std::move(tokens)), m_found(m_tokens.size())
+    : m_pLayouts(std::move(pLayouts)), m_tokens(std::move(tokens))
 {
 }
 
-void VorBomColumns::find(VorBomItemBase& row)
+void VorBomColumns::usePositionsOf(int layout, const VorBomDataTupleArray& tuples)
 {
-    if (m_tokens.empty())
-        return;
-    const int layout = m_pLayouts->layoutOf(row);
+    m_nLayout = layout;
     if (layout == VorBomRowLayouts::kNoLayout)
     {
-        for (std::size_t i = 0; i < m_tokens.size(); ++i)
-            m_found[i] = row.getTupleAt(m_tokens[i]);
+        m_positionsOfRow = positionsIn(tuples);
+        m_pPositions = m_positionsOfRow.data();
         return;
     }
-    VorBomDataTupleArray& tuples = row.getData();
-    if (layout != m_nLatestLayout)
-    {
-        m_pLatestPositions = positionsFor(layout, tuples).data();
-        m_nLatestLayout = layout;
-    }
-    VorBomDataTuple* pFirst = tuples.begin();
-    for (std::size_t i = 0; i < m_found.size(); ++i)
-        m_found[i] = m_pLatestPositions[i] == kNone ? nullptr : pFirst + m_pLatestPositions[i];
-}
-
-const VorBomColumns::Positions& VorBomColumns::positionsFor(int layout, const VorBomDataTupleArray& tuples)
-{
     const auto index = static_cast<std::size_t>(layout);
     if (index >= m_positions.size())
         m_positions.resize(index + 1);
-    Positions& positions = m_positions[index];
-    if (!positions.empty())
-        return positions;
+    if (m_positions[index].empty())
+        m_positions[index] = positionsIn(tuples);
+    m_pPositions = m_positions[index].data();
+}
+
+VorBomColumns::Positions VorBomColumns::positionsIn(const VorBomDataTupleArray& tuples) const
+{
+    Positions positions;
+    positions.reserve(m_tokens.size());
     for (const VorString& token : m_tokens)
     {
         int position = 0;

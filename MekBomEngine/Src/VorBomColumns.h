@@ -13,6 +13,7 @@
 #include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -22,21 +23,36 @@ public:
     VorBomColumns(std::shared_ptr<VorBomRowLayouts> pLayouts, std::vector<VorString> tokens);
 
     // Looks all tokens up in `row`.
-    void find(VorBomItemBase& row);
+    void find(VorBomItemBase& row)
+    {
+        m_pTuples = row.getData().begin();
+        const int layout = m_pLayouts->layoutOf(row);
+        if (layout != m_nLayout || layout == VorBomRowLayouts::kNoLayout)
+            usePositionsOf(layout, row.getData());
+    }
 
     int count() const { return static_cast<int>(m_tokens.size()); }
-    VorBomDataTuple* operator[](int column) const { return m_found[static_cast<std::size_t>(column)]; }
+
+    VorBomDataTuple* operator[](int column) const
+    {
+        const int position = m_pPositions[column];
+        return position == kNone ? nullptr : m_pTuples + position;
+    }
 
 private:
     using Positions = std::vector<int>; // per token; kNone where the layout lacks it
     static constexpr int kNone = -1;
 
-    const Positions& positionsFor(int layout, const VorBomDataTupleArray& tuples);
+    void usePositionsOf(int layout, const VorBomDataTupleArray& tuples);
+    Positions positionsIn(const VorBomDataTupleArray& tuples) const;
 
     std::shared_ptr<VorBomRowLayouts> m_pLayouts;
     std::vector<VorString> m_tokens;
-    std::vector<VorBomDataTuple*> m_found;
     std::vector<Positions> m_positions; // per layout; empty where none was asked for
-    int m_nLatestLayout = VorBomRowLayouts::kNoLayout;
-    const int* m_pLatestPositions = nullptr;
+    Positions m_positionsOfRow;         // of a row that has no layout
+
+    // Of the row asked for last.
+    int m_nLayout = VorBomRowLayouts::kNoLayout;
+    const int* m_pPositions = nullptr;
+    VorBomDataTuple* m_pTuples = nullptr;
 };

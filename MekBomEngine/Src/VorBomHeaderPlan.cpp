@@ -31,8 +31,8 @@ VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLay
     const VorBomDataTupleArray& tuples = section.getData();
     for (int i = 0; i < tuples.length(); ++i)
     {
-        m_isFormula.push_back(VorBomDataToken::isFormula(tuples[i].token().token()) != 0);
-        if (m_isFormula.back())
+        m_isFormula.push_back(VorBomDataToken::isFormula(tuples[i].token().token()) != 0 ? 1 : 0);
+        if (m_isFormula.back() != 0)
             m_formulas.emplace_back(pLayouts, tuples, i);
         m_displays.emplace_back(tuples[i].token());
     }
@@ -48,7 +48,7 @@ std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row
     const VorBomDataTuple* pColumn = columns.begin();
     for (int i = 0; i < columns.length(); ++i, ++pColumn)
     {
-        VorBomDataTuple* pDatum = m_isFormula[static_cast<std::size_t>(i)] ? nullptr : m_columns[i];
+        VorBomDataTuple* pDatum = m_isFormula[static_cast<std::size_t>(i)] != 0 ? nullptr : m_columns[i];
         if (pDatum == nullptr || !hasValue(*pDatum))
         {
             tuples.emplace(*pColumn);

@@ -37,8 +37,8 @@ public:
 
 private:
     const VorBomTemplateItem& m_section;
-    VorBomColumns m_columns; // one per tuple of the section
-    std::vector<bool> m_isFormula;
+    VorBomColumns m_columns;       // one per tuple of the section
+    std::vector<char> m_isFormula; // 1 or 0; bits would cost more than they save
     std::vector<VorBomFormulaColumn> m_formulas;
     std::vector<VorBomDisplayColumn> m_displays;
 };

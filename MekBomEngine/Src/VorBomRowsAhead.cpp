@@ -1,5 +1,9 @@
 #include "VorBomRowsAhead.h"
 
+#include "VorBomDataRow.h"
+
+#include <cstddef>
+
 namespace
 {
 void bringIn(const void* pMemory)
@@ -20,10 +24,17 @@ void bringIn(const void* pMemory, std::size_t size)
         bringIn(pLine + offset);
 }
 
+void bringInNext(const VorBomItemBase& row)
+{
+    if (row.next() != nullptr)
+        bringIn(row.next(), sizeof(VorBomDataRow));
+}
+
 void bringInTuples(const VorBomItemBase& row)
 {
     const VorBomDataTupleArray& tuples = row.getData();
-    bringIn(tuples.begin(), static_cast<std::size_t>(tuples.length() + 1) * sizeof(VorBomDataTuple));
+    constexpr int kNumAppended = 1; // for a formula, mostly
+    bringIn(tuples.begin(), static_cast<std::size_t>(tuples.length() + kNumAppended) * sizeof(VorBomDataTuple));
 }
 
 void bringInPayloads(const VorBomItemBase& row)
@@ -42,24 +53,24 @@ void bringInTexts(const VorBomItemBase& row)
 
 VorBomRowsAhead::VorBomRowsAhead(VorBomItemBase* pFirst)
 {
-    for (VorBomItemBase*& pRow : m_pRows)
-        pRow = pFirst;
-    for (int step = 0; step < kNumSteps; ++step)
-        for (int i = 0; i < (kNumSteps - step) * kRowsPerStep && m_pRows[step] != nullptr; ++i)
-            m_pRows[step] = m_pRows[step]->next();
+    VorBomItemBase* pRow = pFirst;
+    for (int step = kNumSteps; step-- > 0;)
+    {
+        if (pRow != nullptr)
+            pRow = pRow->next();
+        m_pRows[step] = pRow;
+    }
 }
 
 void VorBomRowsAhead::advance()
 {
-    if (m_pRows[0] != nullptr && m_pRows[0]->next() != nullptr)
-        bringIn(m_pRows[0]->next(), sizeof(VorBomItemBase));
-    if (m_pRows[1] != nullptr)
-        bringInTuples(*m_pRows[1]);
-    if (m_pRows[2] != nullptr)
-        bringInPayloads(*m_pRows[2]);
-    if (m_pRows[3] != nullptr)
-        bringInTexts(*m_pRows[3]);
-    for (VorBomItemBase*& pRow : m_pRows)
-        if (pRow != nullptr)
-            pRow = pRow->next();
+    using Step = void (*)(const VorBomItemBase& row);
+    static constexpr Step kSteps[kNumSteps] = { bringInNext, bringInTuples, bringInPayloads, bringInTexts };
+    for (int step = 0; step < kNumSteps; ++step)
+    {
+        if (m_pRows[step] == nullptr)
+            continue;
+        kSteps[step](*m_pRows[step]);
+        m_pRows[step] = m_pRows[step]->next();
+    }
 }

@@ -18,8 +18,6 @@ public:
 
 private:
     static constexpr int kNumSteps = 4;
-    static constexpr int kRowsPerStep = 1; // how many rows are evaluated while a row takes one step
 
-    // The rows that take each step next, the foremost first; null past the end.
-    VorBomItemBase* m_pRows[kNumSteps];
+    VorBomItemBase* m_pRows[kNumSteps]; // the rows that take each step next, the foremost first; null past the end
 };
