@@ -1,10 +1,15 @@
 // What does one formula cost, from text to number, as evaluateFormula computes it?
 //   BM_TypicalFormula       eight formulas of the kind that templates hold, with three to eight variables: nanoseconds
 //                           each, reading the text included. The first is the one that most reports have.
+//   BM_CompiledFormula      a formula read once: what each row pays for it within a report.
 //   BM_FormulaWithError     the same for a formula that fails at its end.
 //   BM_FormulaLength        does the time grow with the length alone? Characters per second should stay the same from 10
-//                           to 100,000 terms. Not representative: nobody writes such sums.
+//                           to 100,000 characters. Not representative: nobody writes such sums.
+//   BM_NestedFormula        the same for parentheses as deep as there are characters to close them.
 //   BM_LookUpAmongVariables does a name cost more among many? Every name is looked up once.
+#include "TypicalFormulas.h"
+
+#include "ExpressionEvaluator/Src/VorCompiledFormula.h"
 #include "ExpressionEvaluator/Src/VorExprEvVariableList.h"
 #include "ExpressionEvaluator/Src/evaluateFormula.h"
 
@@ -14,64 +19,75 @@
 #include <string>
 #include <vector>
 
-namespace
-{
-struct Typical
-{
-    const char* name;
-    const wchar_t* formula;
-    int numVariables; // of those below, from the first on
-};
-
-const wchar_t* const kNames[] = { L"%Weight", L"%Length",    L"%Paint",    L"%Width",
-                                  L"%Height", L"%Thickness", L"%Quantity", L"%Price" };
-const double kValues[] = { 12.5, 6000.0, 3.2, 150.0, 300.0, 7.1, 4.0, 1.85 };
-
-const Typical kTypical[] = {
-    { "sum of two, doubled", L"(%Weight+%Paint)*2", 3 },
-    { "change of unit", L"%Length/1000", 3 },
-    { "weight per metre", L"%Weight/(%Length/1000)", 3 },
-    { "price of a part", L"%Weight*%Price*1.19", 8 },
-    { "plate area", L"2*(%Length*%Width+%Length*%Thickness+%Width*%Thickness)/1000000", 6 },
-    { "steel weight", L"%Length*%Width*%Height*0.00000785*%Quantity", 7 },
-    { "with a name for a step", L"area=%Length*%Width/1000000;area*%Paint*%Quantity*1", 7 },
-    { "weighted mean", L"(%Weight*0.5+%Paint*0.3+%Width*0.15+%Height*0.05)/(1-%Thickness/100)", 6 },
-};
-}
-
 static void BM_TypicalFormula(benchmark::State& state)
 {
-    const Typical& typical = kTypical[state.range(0)];
+    const TypicalFormula& typical = kTypicalFormulas[state.range(0)];
     double result = 0.0;
-    if (!evaluateFormula(typical.formula, kNames, kValues, typical.numVariables, &result))
+    if (!evaluateFormula(typical.formula, kTypicalNames, kTypicalValues, typical.numVariables, &result))
         state.SkipWithError("the formula fails");
     for (auto _ : state)
-        benchmark::DoNotOptimize(evaluateFormula(typical.formula, kNames, kValues, typical.numVariables, &result));
+        benchmark::DoNotOptimize(
+            evaluateFormula(typical.formula, kTypicalNames, kTypicalValues, typical.numVariables, &result));
     state.SetItemsProcessed(state.iterations()); // formulas per second
     state.SetLabel(typical.name);
 }
-BENCHMARK(BM_TypicalFormula)->DenseRange(0, 7);
+BENCHMARK(BM_TypicalFormula)->DenseRange(0, kNumTypicalFormulas - 1);
+
+static void BM_CompiledFormula(benchmark::State& state)
+{
+    const VorCompiledFormula formula(L"%Length*%Quantity/1000", 22);
+    const double values[] = { 6000.0, 4.0 };
+    double result = 0.0;
+    if (!formula.isCompiled() || formula.names().size() != 2)
+        state.SkipWithError("the formula is not compiled as expected");
+    for (auto _ : state)
+    {
+        benchmark::DoNotOptimize(formula.evaluate(values, result));
+        benchmark::DoNotOptimize(result);
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_CompiledFormula);
 
 static void BM_FormulaWithError(benchmark::State& state)
 {
     double result = 0.0;
     for (auto _ : state)
-        benchmark::DoNotOptimize(evaluateFormula(L"(%Weight+%Paint)*%Stranger", kNames, kValues, 3, &result));
+        benchmark::DoNotOptimize(
+            evaluateFormula(L"(%Weight+%Paint)*%Stranger", kTypicalNames, kTypicalValues, 3, &result));
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BM_FormulaWithError);
 
+static void evaluateForTime(benchmark::State& state, const std::wstring& formula)
+{
+    double result = 0.0;
+    if (!evaluateFormula(formula.c_str(), kTypicalNames, kTypicalValues, kNumTypicalNames, &result))
+        state.SkipWithError("the formula fails");
+    for (auto _ : state)
+        benchmark::DoNotOptimize(
+            evaluateFormula(formula.c_str(), kTypicalNames, kTypicalValues, kNumTypicalNames, &result));
+    state.SetItemsProcessed(state.iterations() * static_cast<long long>(formula.size())); // characters per second
+}
+
 static void BM_FormulaLength(benchmark::State& state)
 {
     std::wstring formula = L"1";
-    for (int i = 0; i < state.range(0); ++i)
+    for (int i = 0; static_cast<int>(formula.size()) < state.range(0); ++i)
         formula += i % 2 == 0 ? L"+%Weight" : L"*0.5";
-    double result = 0.0;
-    for (auto _ : state)
-        benchmark::DoNotOptimize(evaluateFormula(formula.c_str(), kNames, kValues, 8, &result));
-    state.SetItemsProcessed(state.iterations() * static_cast<long long>(formula.size())); // characters per second
+    evaluateForTime(state, formula);
 }
-BENCHMARK(BM_FormulaLength)->RangeMultiplier(10)->Range(1, 100000);
+BENCHMARK(BM_FormulaLength)->RangeMultiplier(10)->Range(10, 100000);
+
+static void BM_NestedFormula(benchmark::State& state)
+{
+    const auto nDepth = static_cast<std::size_t>(state.range(0) / 4);
+    std::wstring formula;
+    for (std::size_t i = 0; i < nDepth; ++i)
+        formula += L"1+(";
+    evaluateForTime(state, formula + L"1" + std::wstring(nDepth, L')'));
+}
+BENCHMARK(BM_NestedFormula)->RangeMultiplier(10)->Range(10, 100000);
 
 static void BM_LookUpAmongVariables(benchmark::State& state)
 {

@@ -1,15 +1,6 @@
 #include "VorExprEvTextView.h"
 
-#include <algorithm>
 #include <utility>
-
-std::wstring_view VorExprEvTextView::existingPart() const
-{
-    const int nEnd = std::min(m_nEnd, m_nTextLength);
-    if (m_pText == nullptr || nEnd <= m_nStart)
-        return {};
-    return { m_pText + m_nStart, static_cast<std::size_t>(nEnd - m_nStart) };
-}
 
 // For views of the same length.
 bool VorExprEvTextView::hasSameCharacters(const VorExprEvTextView& other) const

@@ -10,6 +10,7 @@
 
 #include "MekRoots/Exp/MekExport.h"
 
+#include <cstddef>
 #include <string_view>
 
 class MEK_EXPRESSION_API VorExprEvTextView
@@ -44,7 +45,13 @@ public:
     VorExprEvTextView part(int start, int end) const { return VorExprEvTextView(m_pText, start, end, m_nTextLength); }
 
     // The characters of the view that exist; the length() - size() zero characters beyond them are left out.
-    std::wstring_view existingPart() const;
+    std::wstring_view existingPart() const
+    {
+        const int nEnd = m_nEnd < m_nTextLength ? m_nEnd : m_nTextLength;
+        if (m_pText == nullptr || nEnd <= m_nStart)
+            return {};
+        return { m_pText + m_nStart, static_cast<std::size_t>(nEnd - m_nStart) };
+    }
 
     // 1 when both have the same length and the same characters over all of it, zero characters included.
     int isEqual(const VorExprEvTextView& other) const

@@ -3,6 +3,7 @@
 #include "VorExprEvValue.h"
 #include "VorExprEvVariableList.h"
 #include "VorExprEvalErrorHandler.h"
+#include "VorFormulaNumber.h"
 
 #include "MekRoots/Exp/VorNumberText.h"
 
@@ -36,11 +37,12 @@ int VorExprEvTreeItemOperand::scanNumber(const VorExprEvTextView& text, double& 
         number = 0.0;
         return 1;
     }
-    float scanned = 0.0F;
     const wchar_t* pStart = text.text() + text.start();
     const wchar_t* pEnd = text.text() + text.textLength();
-    const VorNumberText::eScanResult result = VorNumberText::scanFloat(pStart, pEnd, scanned);
-    if (result == VorNumberText::kNoNumber)
+    if (pStart < pEnd && !VorFormulaNumber::canStart(*pStart))
+        return 0;
+    float scanned = 0.0F;
+    if (VorNumberText::scanFloat(pStart, pEnd, scanned) == VorNumberText::kNoNumber)
         return 0;
     number = scanned; // still 0.0 where the text ended before any number, which counts as one
     return 1;

@@ -10,6 +10,7 @@
 #include "VorExprEvValue.h"
 #include "VorExprEvVariableList.h"
 #include "VorExprEvalErrorHandler.h"
+#include "VorFormulaCharacters.h"
 
 #include "MekRoots/Exp/VorAssert.h"
 
@@ -24,16 +25,8 @@ const wchar_t kSourcePath[] = L"ExpressionEvaluator/Src/VorExprEvTreeItemOperato
 constexpr int kNoPrecedenceLine = 55;                                               // visible to callers
 constexpr int kNoOperationLine = 145;                                               // visible to callers
 
-// Divisors closer to zero than this count as zero. Absolute and on purpose this coarse: existing formulas rely on it.
-constexpr double kSmallestDivisor = 0.0001;
-
 // Operators that wait at once without memory being asked for. Arbitrary; formulas of reports nest a few deep.
 constexpr std::size_t kUsualDepth = 64;
-
-bool isZeroDivisor(double divisor)
-{
-    return divisor > -kSmallestDivisor && divisor < kSmallestDivisor;
-}
 
 bool isOperation(wchar_t character)
 {
@@ -138,33 +131,10 @@ void Walk::finish(const Waiting& waiting)
 
 int VorExprEvTreeItemOperator::precedence(wchar_t character)
 {
-    switch (character)
-    {
-        case L'=': return 0;
-        case L'(':
-        case L')': return 1;
-        case L'+':
-        case L'-': return 2;
-        case L'*':
-        case L'/': return 3;
-        default: break;
-    }
+    if (VorFormulaCharacters::kOperators.holds(character))
+        return VorFormulaCharacters::kKindsInStatement[character];
     VorAssert::vorAssert(L"false", kSourcePath, kNoPrecedenceLine);
     return 0;
-}
-
-int VorExprEvTreeItemOperator::calculate(wchar_t operation, double left, double right, double& result)
-{
-    switch (operation)
-    {
-        case L'*': result = left * right; return 1;
-        case L'+': result = left + right; return 1;
-        case L'-': result = left - right; return 1;
-        default: break;
-    }
-    const bool canDivide = !isZeroDivisor(right);
-    result = canDivide ? left / right : 0.0;
-    return canDivide ? 1 : 0;
 }
 
 int VorExprEvTreeItemOperator::print() const

@@ -16,8 +16,25 @@ public:
     // and answers 0.
     static int precedence(wchar_t character);
 
-    // Computes "*", "+", "-" or "/"; 0 with `result` 0.0 for a division by zero. Raises no error.
-    static int calculate(wchar_t operation, double left, double right, double& result);
+    // Divisors closer to zero than this count as zero. Absolute and on purpose this coarse: existing formulas rely on
+    // it.
+    static constexpr double kSmallestDivisor = 0.0001;
+
+    // Computes "*", "+", "-" or "/"; 0 with `result` 0.0 for a division by zero. Raises no error. Takes any character
+    // but the first three for a division.
+    static int calculate(wchar_t operation, double left, double right, double& result)
+    {
+        switch (operation)
+        {
+            case L'*': result = left * right; return 1;
+            case L'+': result = left + right; return 1;
+            case L'-': result = left - right; return 1;
+            default: break;
+        }
+        const bool canDivide = !(right > -kSmallestDivisor && right < kSmallestDivisor);
+        result = canDivide ? left / right : 0.0;
+        return canDivide ? 1 : 0;
+    }
 
     explicit VorExprEvTreeItemOperator(const VorExprEvTextView& text) : VorExprEvTreeItem(text) {}
 

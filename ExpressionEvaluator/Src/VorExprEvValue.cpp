@@ -19,6 +19,10 @@ constexpr double kParts = 1e6;
 // Below this many millionths the product with 1e6 is off by less than kTooCloseToCall.
 constexpr double kMostParts = 17592186044416.0; // 2^44
 constexpr double kTooCloseToCall = 1.0 / 256;
+
+// 2^52: from here on there are only whole numbers, so that a sum with it is rounded to one, ties to even. A library call
+// for that would cost as much as the rest.
+constexpr double kWholeNumbers = 4503599627370496.0;
 static_assert(VorNumberText::fixedRoom(kDecimals) < VorExprEvValue::kBufferLength, "every double has its text");
 
 std::size_t cellSize(VorExprEvValue::eType type)
@@ -98,7 +102,7 @@ double VorExprEvValue::readBack(double value)
     const double parts = value * kParts;
     if (!(std::fabs(parts) < kMostParts))
         return readBackText(value);
-    const double rounded = std::nearbyint(parts);
+    const double rounded = std::copysign(std::fabs(parts) + kWholeNumbers - kWholeNumbers, parts);
     if (std::fabs(std::fabs(parts - rounded) - 0.5) < kTooCloseToCall)
         return readBackText(value);
     return rounded / kParts;

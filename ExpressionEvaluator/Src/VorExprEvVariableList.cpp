@@ -2,6 +2,7 @@
 
 #include <cwchar>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -23,23 +24,29 @@ const VorExprEvVariable* VorExprEvVariableList::head()
     return m_pHead;
 }
 
-int VorExprEvVariableList::count()
-{
-    makeAnnounced();
-    return m_nCount;
-}
-
 void VorExprEvVariableList::announce(const wchar_t* const* names, const double* values, int count)
 {
+    Announced* pNext = m_announced + m_nAnnounced;
     for (int i = 0; i < count; ++i)
     {
         if (names[i] == nullptr)
             continue;
-        if (m_nAnnounced == kMostAnnounced)
+        if (pNext == std::end(m_announced))
+        {
+            m_nAnnounced = kMostAnnounced;
             makeAnnounced();
-        const int nLength = static_cast<int>(std::wcslen(names[i]));
-        m_announced[m_nAnnounced++] = { VorExprEvTextView(names[i], 0, nLength), values[i] };
+            pNext = m_announced;
+        }
+        *pNext++ = { names[i], kNotMeasured, values[i] };
     }
+    m_nAnnounced = static_cast<int>(pNext - m_announced);
+}
+
+void VorExprEvVariableList::announce(std::wstring_view name, double value)
+{
+    if (m_nAnnounced == kMostAnnounced)
+        makeAnnounced();
+    m_announced[m_nAnnounced++] = { name.data(), static_cast<int>(name.size()), value };
 }
 
 void VorExprEvVariableList::makeAnnounced()
@@ -47,9 +54,11 @@ void VorExprEvVariableList::makeAnnounced()
     const int nAnnounced = std::exchange(m_nAnnounced, 0);
     for (int i = 0; i < nAnnounced; ++i)
     {
+        const Announced& here = m_announced[i];
+        const int nLength = here.nLength == kNotMeasured ? static_cast<int>(std::wcslen(here.pName)) : here.nLength;
         VorExprEvValue value;
-        value.setDouble(m_announced[i].value);
-        prepend(m_announced[i].name, value);
+        value.setDouble(here.value);
+        prepend(VorExprEvTextView(here.pName, 0, nLength), value);
     }
 }
 
@@ -76,7 +85,7 @@ const VorExprEvVariable* VorExprEvVariableList::find(const VorExprEvTextView& na
     return m_nCount <= kLongestWalk ? findInList(name) : findInIndex(name);
 }
 
-void VorExprEvVariableList::clear()
+void VorExprEvVariableList::deleteVariables()
 {
     if (!m_index.empty())
         m_index = Index(); // its buckets would be wiped for every formula to come
@@ -87,7 +96,6 @@ void VorExprEvVariableList::clear()
         m_pHead = pOlder;
     }
     m_nCount = 0;
-    m_nAnnounced = 0;
 }
 
 // Names that are equal hash alike: zero characters at the end are left out, whether they exist or not.

@@ -13,11 +13,15 @@
 #include "VorExprEvVariable.h"
 
 #include <cstddef>
+#include <string_view>
 #include <unordered_map>
 
 class MEK_EXPRESSION_API VorExprEvVariableList
 {
 public:
+    // Formulas of reports use fewer variables. Arbitrary.
+    static constexpr int kMostAnnounced = 32;
+
     VorExprEvVariableList() = default;
     VorExprEvVariableList(const VorExprEvVariableList&) = delete;
     VorExprEvVariableList& operator=(const VorExprEvVariableList&) = delete;
@@ -27,11 +31,28 @@ public:
 
     // The newest variable, or null.
     const VorExprEvVariable* head();
-    int count();
+    int count() const { return m_nCount + m_nAnnounced; }
 
     // Adds double variables, null names passed over, the last one newest. The numbers are copied now; up to
-    // kMostAnnounced variables are not made before somebody asks for them, which most evaluations never do.
+    // kMostAnnounced variables are not made, nor the ends of their names looked for, before somebody asks for them,
+    // which most evaluations never do. Names must stay until then at least.
     void announce(const wchar_t* const* names, const double* values, int count);
+    void announce(std::wstring_view name, double value);
+
+    // A variable that is not made yet.
+    struct Announced
+    {
+        const wchar_t* pName;
+        int nLength; // kNotMeasured for zero-terminated names
+        double value;
+    };
+    static constexpr int kNotMeasured = -1;
+
+    // Those not made yet, which are newer than all others, the oldest of them first. withdraw takes back all but the
+    // oldest `numKept`.
+    const Announced* announced() const { return m_announced; }
+    int numAnnounced() const { return m_nAnnounced; }
+    void withdraw(int numKept) { m_nAnnounced = numKept; }
 
     // Puts a new variable with a copy of `value` at the head, then releases `value`. An unknown value makes a variable
     // without one. Returns 1.
@@ -43,7 +64,12 @@ public:
     // The newest variable whose name equals `name` over its whole length, case-sensitive; null when there is none.
     const VorExprEvVariable* find(const VorExprEvTextView& name);
 
-    void clear();
+    void clear()
+    {
+        m_nAnnounced = 0;
+        if (m_nCount > 0)
+            deleteVariables();
+    }
 
 private:
     struct NameHash
@@ -56,16 +82,8 @@ private:
     };
     using Index = std::unordered_map<VorExprEvTextView, const VorExprEvVariable*, NameHash, NameEqual>;
 
-    // Formulas of reports use fewer variables. Arbitrary.
-    static constexpr int kMostAnnounced = 16;
-
-    struct Announced
-    {
-        VorExprEvTextView name;
-        double value;
-    };
-
     void makeAnnounced();
+    void deleteVariables();
     const VorExprEvVariable* findInList(const VorExprEvTextView& name) const;
     const VorExprEvVariable* findInIndex(const VorExprEvTextView& name);
     void buildIndex();

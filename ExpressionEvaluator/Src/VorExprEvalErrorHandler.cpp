@@ -25,7 +25,7 @@ const VorExprEvalError* VorExprEvalErrorHandler::oldest() const
     return pError;
 }
 
-void VorExprEvalErrorHandler::clear()
+void VorExprEvalErrorHandler::deleteErrors()
 {
     while (m_pHead != nullptr)
     {

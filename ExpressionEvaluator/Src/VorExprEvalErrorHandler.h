@@ -29,9 +29,15 @@ public:
     int count() const { return m_nCount; }
     int isEmpty() const { return m_pHead == nullptr ? 1 : 0; }
 
-    void clear();
+    void clear()
+    {
+        if (m_pHead != nullptr)
+            deleteErrors();
+    }
 
 private:
+    void deleteErrors();
+
     VorExprEvalError* m_pHead = nullptr;
     int m_nCount = 0;
 };

@@ -25,8 +25,6 @@
 class MEK_EXPRESSION_API VorExpressionEvaluator
 {
 public:
-    static constexpr const wchar_t* kOperatorCharacters = L"*/+-=()";
-
     // A debugging build sets this to see the stacks at every reduction, in the debug output. 0 or 1, process-wide,
     // read by every parse: set it while none runs.
     static int m_nTraceStacks;

@@ -9,140 +9,113 @@
 //   4      addOperand                  waiting +
 //   end    reduce '+'                  waiting
 //
-// A Builder has
+// A Builder derives from its reader, VorStatementReader<Builder, Stack>, and has
+//   eKind kindAt(const wchar_t* pText)      what begins there; kEnd where the statement ends
 //   void addNothing()                       the left side of a negation
-//   void addOperand(int start, int end)     a number or a name, half-open, trimmed of blanks
-//   void reduce(int position)               the operator there takes the two operands made last, or what there is
+//   const wchar_t* readOperand(const wchar_t* pText)
+//                                           a number or a name begins here; answers where it ends, at an operator or
+//                                           the statement's end
+//   void reduce(const VorWaitingOperator&)  it takes the two operands made last, or what there is
 //   void trace(const OperatorStack&)        called around every run of reductions, with the operators that wait
 // Parentheses are never reduced: they fall away. How statements are read is told in VorExpressionEvaluator.h.
 #pragma once
 
-#include "VorExprEvTextView.h"
-#include "VorExprEvTreeItemOperator.h"
-#include "VorShortStack.h"
+#include "VorFormulaCharacters.h"
 
-#include <algorithm>
-
-// An operator that waits, by its place in the statement's text.
+// An operator that waits, with its place in the statement's text.
 struct VorWaitingOperator
 {
-    int position;
-    int precedence;
-    bool isParenthesis;
+    const wchar_t* pText;
+    VorFormulaCharacters::eKind kind;
+
+    wchar_t character() const { return *pText; }
 };
 
-template <class Builder>
+// `Stack` is a stack of VorWaitingOperator.
+template <class Builder, class Stack>
 class VorStatementReader
 {
 public:
-    // Deeper nesting asks for memory. Arbitrary; formulas of reports nest a few deep.
-    static constexpr int kUsualDepth = 32;
-    using OperatorStack = VorShortStack<VorWaitingOperator, kUsualDepth>;
+    using OperatorStack = Stack;
 
-    VorStatementReader(const VorExprEvTextView& statement, Builder& builder)
-        : m_statement(statement),
-          m_builder(builder),
-          m_nPosition(statement.start()),
-          m_nTextEnd(statement.hasText() ? std::min(statement.end(), statement.textLength()) : statement.start())
+    template <class... Room>
+    explicit VorStatementReader(Room&... room) : m_operators(room...)
     {
     }
 
-    // 0 when there are more '(' than ')' or the reverse; what still waits is not reduced then.
-    int read()
+    // Reads from `pText`, which goes on to the statement's end. 0 when there are more '(' than ')' or the reverse; what
+    // still waits is not reduced then.
+    int read(const wchar_t*& pText)
     {
-        while (m_nPosition < m_nTextEnd)
+        for (eKind kind; (kind = builder().kindAt(pText)) != VorFormulaCharacters::kEnd;)
         {
-            const wchar_t character = m_statement.text()[m_nPosition];
-            if (isWhiteSpace(character) || character == L'\0')
-                ++m_nPosition;
-            else if (isOperatorCharacter(character))
-                readOperator(character);
-            else
-                readOperand();
+            if (kind == VorFormulaCharacters::kOperand)
+            {
+                pText = builder().readOperand(pText);
+                m_bMinusNegates = false;
+                continue;
+            }
+            if (kind != VorFormulaCharacters::kNothing)
+                readOperator({ pText, kind });
+            ++pText;
         }
+        return finish();
+    }
+
+    bool hasOperators() const { return m_bHasOperators; }
+    const Stack& operators() const { return m_operators; }
+
+private:
+    using eKind = VorFormulaCharacters::eKind;
+
+    void readOperator(VorWaitingOperator here)
+    {
+        if (here.character() == L'-' && m_bMinusNegates)
+            builder().addNothing();
+        else if (here.character() != L'(')
+            reduceFor(here.kind);
+
+        m_operators.push(here);
+        m_bMinusNegates = here.character() != L')';
+        if (here.kind == VorFormulaCharacters::kParenthesis)
+            m_nDepth += here.character() == L'(' ? 1 : -1;
+    }
+
+    int finish()
+    {
         const bool isBalanced = m_nDepth == 0;
-        m_builder.trace(m_operators);
+        m_bHasOperators = !m_operators.isEmpty(); // the last one always waits
+        builder().trace(m_operators);
         while (isBalanced && !m_operators.isEmpty())
             reduceTop();
-        m_builder.trace(m_operators);
+        builder().trace(m_operators);
         return isBalanced ? 1 : 0;
     }
 
-private:
-    static bool isWhiteSpace(wchar_t character)
+    // Kinds of operators are ordered by how tightly they bind.
+    bool mustReduceFor(eKind kind) const { return !m_operators.isEmpty() && m_operators.top().kind >= kind; }
+
+    void reduceFor(eKind kind)
     {
-        return character == L' ' || character == L'\t' || character == L'\n' || character == L'\r';
-    }
-
-    // One of "*/+-=()".
-    static bool isOperatorCharacter(wchar_t character)
-    {
-        return (character >= L'(' && character <= L'/' && character != L',' && character != L'.') || character == L'=';
-    }
-
-    void readOperator(wchar_t character)
-    {
-        const bool isParenthesis = character == L'(' || character == L')';
-        const int precedence = VorExprEvTreeItemOperator::precedence(character);
-        m_nDepth += character == L'(' ? 1 : character == L')' ? -1 : 0;
-
-        if (character == L'-' && m_bMinusNegates)
-            m_builder.addNothing();
-        else if (character != L'(')
-            reduceFor(precedence);
-
-        m_operators.push({ m_nPosition, precedence, isParenthesis });
-        m_bMinusNegates = character != L')';
-        ++m_nPosition;
-    }
-
-    void readOperand()
-    {
-        const int nNext = findOperandEnd();
-        int nEnd = nNext;
-        while (isWhiteSpace(m_statement.at(nEnd - 1)))
-            --nEnd;
-        m_builder.addOperand(m_nPosition, nEnd);
-        m_bMinusNegates = false;
-        m_nPosition = nNext;
-    }
-
-    // The operand that reaches the end of the text takes in the zero characters beyond it.
-    int findOperandEnd() const
-    {
-        int nEnd = m_nPosition;
-        while (nEnd < m_nTextEnd && !isOperatorCharacter(m_statement.text()[nEnd]))
-            ++nEnd;
-        return nEnd == m_nTextEnd ? m_statement.end() : nEnd;
-    }
-
-    bool mustReduceFor(int precedence) const
-    {
-        return !m_operators.isEmpty() && m_operators.top().precedence >= precedence;
-    }
-
-    void reduceFor(int precedence)
-    {
-        if (!mustReduceFor(precedence))
+        if (!mustReduceFor(kind))
             return;
-        m_builder.trace(m_operators);
-        while (mustReduceFor(precedence))
+        builder().trace(m_operators);
+        while (mustReduceFor(kind))
             reduceTop();
-        m_builder.trace(m_operators);
+        builder().trace(m_operators);
     }
 
     void reduceTop()
     {
-        const VorWaitingOperator waiting = m_operators.pop();
-        if (!waiting.isParenthesis)
-            m_builder.reduce(waiting.position);
+        if (m_operators.top().kind != VorFormulaCharacters::kParenthesis)
+            builder().reduce(m_operators.top());
+        m_operators.pop();
     }
 
-    VorExprEvTextView m_statement;
-    Builder& m_builder;
-    int m_nPosition;
-    int m_nTextEnd; // of what exists; up to the statement's end there are zero characters
+    Builder& builder() { return static_cast<Builder&>(*this); }
+
+    Stack m_operators;
     int m_nDepth = 0;
+    bool m_bHasOperators = false;
     bool m_bMinusNegates = true; // here: nothing stands before, or an operator other than ')'
-    OperatorStack m_operators;
 };

@@ -2,23 +2,64 @@
 
 #include "ExpressionsEvaluator.h"
 #include "VorExprEvVariableList.h"
+#include "VorExprEvalErrorHandler.h"
 #include "VorExpressionEvaluator.h"
 #include "VorFormulaCalculator.h"
+#include "VorFormulaCharacters.h"
 
 #include "MekRoots/Exp/VorString.h"
 
-#include <cwchar>
+#include <algorithm>
 #include <limits>
+#include <string_view>
 
 namespace
 {
 constexpr std::size_t kShortestFormula = 4; // arbitrary, but visible to callers
 constexpr std::size_t kLongestFormula = std::numeric_limits<int>::max();
 
-bool isFormula(const wchar_t* text, std::size_t nLength)
+bool isTooShort(const wchar_t* formula)
 {
-    return nLength >= kShortestFormula && nLength <= kLongestFormula &&
-           std::wcspbrk(text, VorExpressionEvaluator::kOperatorCharacters) != nullptr;
+    std::size_t nLength = 0;
+    while (nLength < kShortestFormula && formula[nLength] != L'\0')
+        ++nLength;
+    return nLength < kShortestFormula;
+}
+
+bool isFormula(std::wstring_view text)
+{
+    return text.size() <= kLongestFormula &&
+           std::any_of(text.begin(), text.end(),
+                       [](wchar_t character) { return VorFormulaCharacters::kOperators.holds(character); });
+}
+
+// The trees of a traced formula are wanted, and the quick way has none.
+bool isTraced()
+{
+    return ExpressionsEvaluator::m_nTraceTrees != 0 || VorExpressionEvaluator::m_nTraceStacks != 0;
+}
+
+int evaluateQuickly(const wchar_t* formula, const wchar_t* const* names, const double* values, int count,
+                    VorExprEvVariableList& variables, double& result)
+{
+    if (count > VorExprEvVariableList::kMostAnnounced || isTraced())
+        return 0;
+    variables.announce(names, values, count);
+    return VorFormulaCalculator(variables).calculate(formula, result);
+}
+
+int evaluateByTree(const wchar_t* formula, const wchar_t* const* names, const double* values, int count, double& result)
+{
+    const std::wstring_view text(formula);
+    ExpressionsEvaluator evaluator(formula, static_cast<unsigned int>(text.size()));
+    if (!isFormula(text))
+        return 0;
+    VorExprEvVariableList::ofThread().announce(names, values, count);
+    wchar_t buffer[VorExprEvValue::kBufferLength];
+    if (!evaluator.evaluate(buffer))
+        return 0;
+    result = VorString::toDouble(buffer, 0);
+    return 1;
 }
 
 int evaluateOrThrow(const wchar_t* formula, const wchar_t* const* names, const double* values, int count,
@@ -26,23 +67,18 @@ int evaluateOrThrow(const wchar_t* formula, const wchar_t* const* names, const d
 {
     if (formula == nullptr)
         return 0;
-    const std::size_t nLength = std::wcslen(formula);
-    ExpressionsEvaluator evaluator(formula, static_cast<unsigned int>(nLength));
-    if (!isFormula(formula, nLength) || names == nullptr || values == nullptr || count < 0)
+    VorExprEvVariableList& variables = VorExprEvVariableList::ofThread();
+    variables.clear();
+    VorExprEvalErrorHandler::ofThread().clear();
+    if (isTooShort(formula) || names == nullptr || values == nullptr || count < 0)
         return 0;
-    VorExprEvVariableList::ofThread().announce(names, values, count);
-    double quickResult = 0;
-    if (VorFormulaCalculator(names, values, count).calculate(formula, static_cast<int>(nLength), quickResult))
-    {
-        if (result != nullptr)
-            *result = quickResult;
-        return 1;
-    }
-    wchar_t buffer[VorExprEvValue::kBufferLength];
-    const int nResult = evaluator.evaluate(buffer);
-    if (nResult != 0 && result != nullptr)
-        *result = VorString::toDouble(buffer, 0);
-    return nResult;
+    double value = 0.0;
+    if (!evaluateQuickly(formula, names, values, count, variables, value) &&
+        !evaluateByTree(formula, names, values, count, value))
+        return 0;
+    if (result != nullptr)
+        *result = value;
+    return 1;
 }
 }
 

@@ -1,4 +1,5 @@
 #include "ExpressionEvaluator/Src/evaluateFormula.h"
+#include "Support/DebugLog.h"
 #include "Support/FormulaSupport.h"
 
 #include <cfloat>
@@ -267,6 +268,70 @@ TEST_F(evaluateFormulaTest, RefusedFormulasEmptyTheListsToo)
 
     EXPECT_EQ(VorString(), variables());
     EXPECT_EQ("", errorCodes());
+}
+
+TEST_F(evaluateFormulaTest, GivenAndAssignedVariablesStayInTheList)
+{
+    evaluate(L"x=a*2; my y =x+1;my y*1");
+    EXPECT_EQ(VorString(L"my y=5.000000 x=4.000000 my length=1000.000000 b=0.500000 a=2.000000"), variables());
+
+    evaluate(L"x=a*2;nobody+1");
+    EXPECT_EQ(VorString(L"x=4.000000 my length=1000.000000 b=0.500000 a=2.000000"), variables());
+    EXPECT_EQ("0", errorCodes());
+}
+
+TEST_F(evaluateFormulaTest, AssignmentsThatAreNotPlainTakeTheirNamesFromTheTree)
+{
+    const ResultCase cases[] = {
+        { L"x=b=3;", 3.0 },     { L"x==3;", 3.0 },        { L"=x=3;", 3.0 },           { L"x=(5)(6);", 6.0 },
+        { L"x=*(5)(6);", 6.0 }, { L"1(x=a+3);", 5.0 },    { L"(x=5)+3;x*1", 8.0 },     { L"5=3;5*1", 5.0 },
+        { L"-a=3;", 3.0 },      { L"x = 4 ;x * 1", 4.0 }, { L"a=b;b=a*4;a+b*1", 2.5 },
+    };
+    expectResults(cases);
+    for (const wchar_t* formula : { L"x=b=;", L"x=*5;", L"x=1;y=x", L"x=+;" })
+        expectFailure(formula);
+}
+
+TEST_F(evaluateFormulaTest, NamesWithOperatorsOrBlanksAtTheirEndsAreNeverFound)
+{
+    const wchar_t* const names[] = { L"a+b", L"a ", L" a", L"a", L"", L"a;", L"ab" };
+    const double values[] = { 2.0, 3.0, 4.0, 5.0, 6.0, 7.0, 8.0 };
+    double result = kUntouched;
+
+    EXPECT_EQ(1, evaluateFormula(L"a+ab+0", names, values, 7, &result));
+    EXPECT_EQ(13.0, result);
+    EXPECT_EQ(1, evaluateFormula(L" a *a;", names, values, 7, &result));
+    EXPECT_EQ(25.0, result);
+    EXPECT_EQ(0, evaluateFormula(L"a+abc", names, values, 7, &result));
+}
+
+TEST_F(evaluateFormulaTest, AsManyAssignmentsAsThereIsRoomForAndOneMore)
+{
+    for (const int numAssigned : { 28, 29, 30, 100 })
+    {
+        std::wstring formula;
+        for (int i = 0; i < numAssigned; ++i)
+            formula += L"x" + std::to_wstring(i) + L"=" + std::to_wstring(i) + L";";
+        formula += L"(x0+x" + std::to_wstring(numAssigned - 1) + L")";
+        const Outcome outcome = evaluate(formula.c_str());
+        EXPECT_EQ(1, outcome.nResult);
+        EXPECT_EQ(numAssigned - 1.0, outcome.result);
+        EXPECT_EQ(numAssigned + 3, VorExprEvVariableList::ofThread().count());
+    }
+}
+
+TEST_F(evaluateFormulaTest, TracedFormulasShowTheirTrees)
+{
+    VorString written;
+    ExpressionsEvaluator::m_nTraceTrees = 1;
+    {
+        const DebugLog log;
+        evaluate(L"a + 1");
+        written = log.text();
+    }
+    ExpressionsEvaluator::m_nTraceTrees = 0;
+
+    EXPECT_EQ(VorString(L"\n\n+\n\na\n\n1"), written);
 }
 
 TEST_F(evaluateFormulaTest, ANullFormulaLeavesTheListsAlone)

@@ -1,0 +1,122 @@
+// Reads operands of a zero-terminated formula: numbers, and names that stand for announced variables.
+//
+//   variables.announce(names, values, 2);             // a = 2, b = 3
+//   VorFormulaOperands operands(formula, variables);
+//   operands.read(L"b * 2", value)   ->  "* 2", value 3
+//   operands.read(L"2", value)       ->  "", value 2
+//   operands.read(L"c+1", value)     ->  null: nothing is known of c
+//
+// Owns nothing. Makes no variable, but announces those that are assigned.
+#pragma once
+
+#include "VorExprEvVariableList.h"
+#include "VorFormulaCharacters.h"
+#include "VorFormulaNumber.h"
+
+#include <cstddef>
+#include <string_view>
+
+class VorFormulaOperands
+{
+public:
+    // All variables in the list must be announced ones.
+    VorFormulaOperands(const wchar_t* formula, VorExprEvVariableList& variables)
+        : m_pFormula(formula),
+          m_variables(variables),
+          m_pGiven(variables.announced()),
+          m_pGivenEnd(m_pGiven + variables.numAnnounced()),
+          m_pEnd(m_pGivenEnd)
+    {
+    }
+
+    // Reads the operand at `pText` and answers where it ends, the blanks behind it passed over; null, with `value`
+    // undefined, when it has no value.
+    const wchar_t* read(const wchar_t* pText, double& value)
+    {
+        const wchar_t* pNext = nullptr;
+        if (VorFormulaNumber::isDigit(*pText))
+            pNext = VorFormulaNumber::scanShort(pText, value);
+        else if (!VorFormulaNumber::canStart(*pText))
+            return findName(pText, value);
+        if (pNext != nullptr)
+            return pNext;
+        double unusual = 0.0; // a variable of its own, so that the usual value stays in a register
+        pNext = readUnusual(pText, unusual);
+        value = unusual;
+        return pNext;
+    }
+
+    // The characters of the operand at `pText`, without the blanks behind it; `pNext` is where those end.
+    static std::wstring_view textAt(const wchar_t* pText, const wchar_t*& pNext);
+
+    // Makes a variable, whose name views the formula; 0 when there are too many. Later statements may take it back.
+    int assign(std::wstring_view name, double value);
+    void forgetAssigned();
+
+    void beginNextStatement() { m_bReachesPastEnd = true; }
+
+private:
+    using Variable = VorExprEvVariableList::Announced;
+
+    // The newest first. Most names differ in their first two characters.
+    const wchar_t* findName(const wchar_t* pText, double& value) const
+    {
+        if (m_pEnd != m_pGivenEnd)
+        {
+            double assigned = 0.0; // for the reason that read has
+            if (const wchar_t* pNext = findAssigned(pText, assigned))
+            {
+                value = assigned;
+                return pNext;
+            }
+        }
+        const wchar_t first = pText[0];
+        const wchar_t second = pText[1];
+        for (const Variable* pVariable = m_pGivenEnd; pVariable != m_pGiven;)
+        {
+            const wchar_t* pName = (--pVariable)->pName;
+            if (pName[0] != first || (pName[1] != second && pName[1] != L'\0'))
+                continue;
+            const wchar_t* pNext = readGiven(pText, pName);
+            if (pNext == nullptr)
+                continue;
+            value = pVariable->value;
+            return canBeName(pNext) ? pNext : nullptr;
+        }
+        return nullptr;
+    }
+
+    // An operand has neither an operator in it nor a blank at its end; a given name that has is never found.
+    static const wchar_t* readGiven(const wchar_t* pText, const wchar_t* pName)
+    {
+        std::size_t i = 1; // the first characters are the same
+        while (pText[i] == pName[i] && !VorFormulaCharacters::kOperandEnds.holds(pText[i]))
+            ++i;
+        if (pName[i] != L'\0' || VorFormulaCharacters::kBlanks.holds(pText[i - 1]))
+            return nullptr;
+        return endOperand(pText + i);
+    }
+
+    // The last of several statements reaches past the end of the formula: a name there has a zero character, and no
+    // variable has that.
+    bool canBeName(const wchar_t* pEnd) const { return !m_bReachesPastEnd || *pEnd != L'\0'; }
+
+    const wchar_t* findAssigned(const wchar_t* pText, double& value) const;
+    const wchar_t* readUnusual(const wchar_t* pText, double& value);
+
+    // Passes over the blanks behind an operand; null if it does not end here.
+    static const wchar_t* endOperand(const wchar_t* pText)
+    {
+        while (VorFormulaCharacters::kBlanks.holds(*pText))
+            ++pText;
+        return VorFormulaCharacters::kOperandEnds.holds(*pText) ? pText : nullptr;
+    }
+
+    const wchar_t* m_pFormula;
+    const wchar_t* m_pFormulaEnd = nullptr; // not looked for before it is needed
+    VorExprEvVariableList& m_variables;
+    const Variable* m_pGiven;
+    const Variable* m_pGivenEnd;
+    const Variable* m_pEnd; // the assigned ones stand between
+    bool m_bReachesPastEnd = false;
+};
