@@ -33,15 +33,21 @@ std::string_view withoutSign(std::string_view text)
 }
 
 template <class T>
-bool parseAll(std::string_view text, T& value)
+bool parseBare(std::string_view text, T& value)
 {
-    text = withoutPlus(withoutBlanks(text));
     T parsed = 0;
     const std::from_chars_result result = std::from_chars(text.data(), text.data() + text.size(), parsed);
     if (text.empty() || result.ec != std::errc() || result.ptr != text.data() + text.size())
         return false;
     value = parsed;
     return true;
+}
+
+// Nearly all numbers stand bare; only the others are looked at for what may surround them.
+template <class T>
+bool parseAll(std::string_view text, T& value)
+{
+    return parseBare(text, value) || parseBare(withoutPlus(withoutBlanks(text)), value);
 }
 }
 

@@ -4,6 +4,8 @@
 #include "MessageText.h"
 #include "Utf8.h"
 
+#include <algorithm>
+#include <cstring>
 #include <new>
 
 namespace mekbom
@@ -18,9 +20,21 @@ int isNoBlank(unsigned char)
     return 0;
 }
 
-bool isEmptyLine(std::string_view line)
+bool endsLine(char byte)
 {
-    return line.front() == '\n' || line.front() == '\r';
+    return byte == '\n' || byte == '\r';
+}
+
+std::string_view withoutLineEnd(std::string_view line)
+{
+    while (!line.empty() && endsLine(line.back()))
+        line.remove_suffix(1);
+    return line;
+}
+
+bool holdsQuote(std::string_view line)
+{
+    return std::memchr(line.data(), '"', line.size()) != nullptr;
 }
 }
 
@@ -44,9 +58,12 @@ bool CsvReader::next()
     std::string_view line;
     while (!m_isAtEnd && m_lines.next(line))
     {
-        if (!m_isWithinRecord && isEmptyLine(line))
+        if (!m_isWithinRecord && endsLine(line.front()))
             continue;
-        parse(line);
+        if (m_isWithinRecord || holdsQuote(line))
+            parse(line);
+        else
+            split(line);
         if (!m_isWithinRecord)
             return true;
     }
@@ -59,7 +76,7 @@ bool CsvReader::next()
 std::string_view CsvReader::field(std::size_t index) const
 {
     const Field& field = m_fields[index];
-    return std::string_view(m_bytes).substr(field.begin, field.length);
+    return std::string_view(m_pBytes + field.begin, field.length);
 }
 
 void CsvReader::fieldRead(void* pBytes, std::size_t length, void* pReader) noexcept
@@ -76,8 +93,9 @@ void CsvReader::addField(const char* pBytes, std::size_t length) noexcept
 {
     try
     {
-        m_fields.push_back({ m_bytes.size(), length, m_fieldLine });
-        m_bytes.append(pBytes, length);
+        m_fields.push_back({ m_unquoted.size(), length, m_fieldLine });
+        m_unquoted.append(pBytes, length);
+        m_pBytes = m_unquoted.data();
         m_fieldLine = m_lines.lineNumber();
     }
     catch (...)
@@ -88,8 +106,21 @@ void CsvReader::addField(const char* pBytes, std::size_t length) noexcept
 
 void CsvReader::beginRecord()
 {
-    m_bytes.clear();
+    m_unquoted.clear();
     m_fields.clear();
+}
+
+// record := field { ',' field }
+void CsvReader::split(std::string_view line)
+{
+    line = withoutLineEnd(line);
+    m_recordLine = m_lines.lineNumber();
+    m_pBytes = line.data();
+    for (std::size_t begin = 0, end = 0; end < line.size(); begin = end + 1)
+    {
+        end = std::min(line.find(',', begin), line.size());
+        m_fields.push_back({ begin, end - begin, m_recordLine });
+    }
 }
 
 void CsvReader::parse(std::string_view line)

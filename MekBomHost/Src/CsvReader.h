@@ -4,6 +4,9 @@
 //   while (reader.next())
 //       use(reader.field(0), reader.line());
 //
+// Lines without any quote, which are nearly all, are split at their commas right here, three times as fast as libcsv
+// (CsvReaderBench), which gets the others.
+//
 // A quote where none may stand, a quoted field without its end, bytes that are not UTF-8 and zero bytes end the reading
 // with a Fault that names the place. How many fields a record has is left to the caller.
 #pragma once
@@ -56,6 +59,7 @@ private:
     void addField(const char* pBytes, std::size_t length) noexcept;
 
     void beginRecord();
+    void split(std::string_view line);
     void parse(std::string_view line);
     void finish();
     void rethrowFailure();
@@ -64,7 +68,8 @@ private:
     ByteSource& m_source;
     LineReader m_lines;
     csv_parser m_parser;
-    std::string m_bytes; // of all fields of the record
+    std::string m_unquoted;         // the fields of a record that libcsv has read
+    const char* m_pBytes = nullptr; // what fields count their positions from: m_unquoted or the line itself
     std::vector<Field> m_fields;
     std::exception_ptr m_failure; // from within the parser's callbacks, which must not throw through it
     int m_recordLine = 0;

@@ -6,6 +6,7 @@
 
 #include "VorBomEvaluator2.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace mekbom
@@ -19,15 +20,15 @@ Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units) : m_
 void Report::evaluate()
 {
     m_template.queryFilter.apply(*engineTemplate().getBomData());
+    for (const VorBomItemBase* pRow = engineTemplate().getBomData()->child(); pRow != nullptr; pRow = pRow->next())
+        m_rows.push_back(static_cast<const VorBomDataRow*>(pRow));
     VorBomEvaluator2::evaluate(&engineTemplate(), &m_result);
 }
 
 int Report::numMergedRows() const
 {
-    int numRows = 0;
-    for (const VorBomItemBase* pRow = m_template.pTemplate->getBomData()->child(); pRow != nullptr; pRow = pRow->next())
-        numRows += static_cast<const VorBomDataRow*>(pRow)->getUseThisDataForSums() == 0 ? 1 : 0;
-    return numRows;
+    const auto isMerged = [](const VorBomDataRow* pRow) { return pRow->getUseThisDataForSums() == 0; };
+    return static_cast<int>(std::count_if(m_rows.begin(), m_rows.end(), isMerged));
 }
 
 std::string Report::list()

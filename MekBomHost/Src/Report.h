@@ -12,11 +12,13 @@
 #include "ReportTemplate.h"
 #include "TextSink.h"
 
+#include "VorBomDataRow.h"
 #include "VorBomTemplate.h"
 
 #include "MekRoots/Exp/VorUnitsManager.h"
 
 #include <string>
+#include <vector>
 
 namespace mekbom
 {
@@ -42,6 +44,7 @@ public:
 
 private:
     ReportTemplate m_template;
-    VorBomTemplate m_result; // its sections refer to the rows of m_template
+    std::vector<const VorBomDataRow*> m_rows; // as they came and lie in memory, where the evaluation chains them anew
+    VorBomTemplate m_result;                  // its sections refer to the rows of m_template
 };
 }

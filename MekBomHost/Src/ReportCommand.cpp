@@ -22,12 +22,12 @@ void ReportCommand::run()
     openParts();
     ReportTemplate reportTemplate = readTemplate();
     m_notes = reportTemplate.notes;
-    Report report(std::move(reportTemplate),
-                  m_options.isImperial ? VorUnitsManager::imperial() : VorUnitsManager::metric());
-    readData(report);
-    report.evaluate();
-    noteMergedRows(report);
-    write(report);
+    m_pReport = std::make_unique<Report>(std::move(reportTemplate), m_options.isImperial ? VorUnitsManager::imperial()
+                                                                                         : VorUnitsManager::metric());
+    readData(*m_pReport);
+    m_pReport->evaluate();
+    noteMergedRows(*m_pReport);
+    write(*m_pReport);
 }
 
 // A slip such as `-o parts.csv` must not cost the parts list.

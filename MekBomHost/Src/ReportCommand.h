@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace mekbom
@@ -17,7 +18,7 @@ namespace mekbom
 class ReportCommand
 {
 public:
-    explicit ReportCommand(const ReportOptions& options) : m_options(options) {}
+    explicit ReportCommand(ReportOptions options) : m_options(std::move(options)) {}
 
     void run();
 
@@ -37,7 +38,8 @@ private:
     void write(Report& report) const;
     bool isSample() const { return m_options.data == ReportOptions::kSampleData; }
 
-    const ReportOptions& m_options;
+    ReportOptions m_options;
+    std::unique_ptr<Report> m_pReport;
     std::unique_ptr<FileSource> m_pFile; // null for the sample data, as m_pParts is
     std::unique_ptr<PartsList> m_pParts;
     std::vector<std::string> m_notes;

@@ -6,6 +6,7 @@
 #include "VorBomDataTuple.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace mekbom
 {
@@ -14,21 +15,33 @@ namespace
 const int kNumBlanksBetween = 2;
 const std::size_t kBlockSize = 1 << 16;
 
-// Texts as almost all are: each character one column wide, and none that needs care. Without an early way out, which
-// would keep the loop from being vectorised.
+// Texts as almost all are: each character one column wide, and none that needs care. A character below ' ' or above '~'
+// sets the highest bit of one of the differences; looking at all of them once is cheaper than at each.
 bool isPlainAscii(const VorString& text)
 {
     const wchar_t* const pText = text.getStringW();
-    bool isPlain = true;
+    std::uint32_t differences = 0;
     for (int i = 0; i < text.length(); ++i)
-        isPlain &= pText[i] >= L' ' && pText[i] < 0x7F;
-    return isPlain;
+    {
+        const auto character = static_cast<std::uint32_t>(pText[i]);
+        differences |= (character - U' ') | (U'~' - character);
+    }
+    return differences >> 31 == 0;
 }
 
 // An evaluated section shows texts alone; whatever has no value shows nothing.
 const VorString* textOfValue(const VorBomDataValue& value)
 {
     return value.type() == VorBomDataValue::kStringData ? static_cast<const VorString*>(value.data()) : nullptr;
+}
+
+// Plain text as bytes to `pBytes`; returns their end.
+char* narrow(const VorString& text, char* pBytes)
+{
+    const wchar_t* const pText = text.getStringW();
+    for (int i = 0; i < text.length(); ++i)
+        pBytes[i] = static_cast<char>(pText[i]);
+    return pBytes + text.length();
 }
 
 bool isUnsharedFooter(const TableLine& line)
@@ -41,6 +54,7 @@ TableWriter::TableWriter(const std::string& title, const TableLayout& layout, co
     : m_title(title),
       m_layout(layout),
       m_result(result),
+      m_isPlainThroughout(layout.columns().size(), 1),
       m_cells(layout.columns().size()),
       m_wrapped(layout.columns().size())
 {
@@ -78,18 +92,26 @@ void TableWriter::measure()
         fillWith(line);
         measureCells();
     }
+    for (const int width : m_widths)
+        m_lineWidth += static_cast<std::size_t>(width + kNumBlanksBetween);
 }
 
 void TableWriter::measureCells()
 {
     for (std::size_t i = 0; i < m_cells.size(); ++i)
-        m_widths[i] = std::max(m_widths[i], widthOf(i));
+        measureCell(i);
 }
 
-int TableWriter::widthOf(std::size_t column) const
+void TableWriter::measureCell(std::size_t column)
 {
-    if (isPlain(column))
-        return lengthOf(column);
+    const bool isAsLongAsWide = isPlain(column);
+    m_widths[column] = std::max(m_widths[column], isAsLongAsWide ? lengthOf(column) : wrappedWidthOf(column));
+    if (!isAsLongAsWide && m_cells[column].pText != nullptr)
+        m_isPlainThroughout[column] = 0;
+}
+
+int TableWriter::wrappedWidthOf(std::size_t column) const
+{
     int width = 0;
     for (const std::string& line : CellText::wrap(textOf(column), wrapWidthOf(column)))
         width = std::max(width, Utf8::displayWidth(line));
@@ -111,6 +133,12 @@ bool TableWriter::isPlain(std::size_t column) const
         return m_cells[column].pLabel == nullptr;
     const int limit = wrapWidthOf(column);
     return (limit == 0 || pText->length() <= limit) && isPlainAscii(*pText);
+}
+
+// The same without a look at the text, once all have been measured.
+bool TableWriter::isKnownAsPlain(std::size_t column) const
+{
+    return m_cells[column].pText != nullptr ? m_isPlainThroughout[column] != 0 : m_cells[column].pLabel == nullptr;
 }
 
 // Of a plain cell.
@@ -191,29 +219,51 @@ void TableWriter::writeLooseLabel(const TableLine& line)
 
 void TableWriter::writeCells()
 {
+    bool areAllPlain = true;
+    for (std::size_t i = 0; i < m_cells.size() && areAllPlain; ++i)
+        areAllPlain = isKnownAsPlain(i);
+    if (areAllPlain)
+        writePlainLine();
+    else
+        writeWrappedLines();
+}
+
+// Each text straight into its place among blanks, which are then cut off after the last one.
+void TableWriter::writePlainLine()
+{
+    const std::size_t begin = m_text.size();
+    m_text.append(m_lineWidth, ' ');
+    char* pPlace = &m_text[begin];
+    const char* pEnd = pPlace;
+    for (std::size_t i = 0; i < m_cells.size(); ++i)
+    {
+        const int length = lengthOf(i);
+        if (length > 0)
+            pEnd =
+                narrow(*m_cells[i].pText, pPlace + (m_layout.columns()[i].isAlignedRight ? m_widths[i] - length : 0));
+        pPlace += m_widths[i] + kNumBlanksBetween;
+    }
+    m_text.resize(static_cast<std::size_t>(pEnd - m_text.data()));
+    m_text += '\n';
+}
+
+void TableWriter::writeWrappedLines()
+{
     std::size_t numLines = 1;
     for (std::size_t i = 0; i < m_cells.size(); ++i)
     {
-        m_wrapped[i].clear();
-        if (isPlain(i))
-            continue;
         m_wrapped[i] = CellText::wrap(textOf(i), wrapWidthOf(i));
         numLines = std::max(numLines, m_wrapped[i].size());
     }
     for (std::size_t index = 0; index < numLines; ++index)
-        writeCellLine(index);
+        writeWrappedLine(index);
 }
 
-void TableWriter::writeCellLine(std::size_t index)
+void TableWriter::writeWrappedLine(std::size_t index)
 {
     for (std::size_t i = 0; i < m_cells.size(); ++i)
     {
-        if (index < m_wrapped[i].size())
-            writeText(i, m_wrapped[i][index]);
-        else if (m_wrapped[i].empty() && index == 0)
-            writePlain(i);
-        else
-            writeText(i, std::string());
+        writeText(i, index < m_wrapped[i].size() ? m_wrapped[i][index] : std::string());
         m_numBlanks += kNumBlanksBetween;
     }
     endLine();
@@ -229,20 +279,6 @@ void TableWriter::writeText(std::size_t column, const std::string& text)
         m_numBlanks = 0;
     }
     pad(column, width, false);
-}
-
-void TableWriter::writePlain(std::size_t column)
-{
-    const int length = lengthOf(column);
-    pad(column, length, true);
-    if (length > 0)
-    {
-        m_text.append(static_cast<std::size_t>(m_numBlanks), ' ');
-        m_numBlanks = 0;
-        for (const wchar_t* pText = m_cells[column].pText->getStringW(); *pText != 0; ++pText)
-            m_text += static_cast<char>(*pText);
-    }
-    pad(column, length, false);
 }
 
 // Counts the blanks that align a text of that width: before it or after it.

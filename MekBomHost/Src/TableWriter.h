@@ -42,9 +42,11 @@ private:
 
     void measure();
     void measureCells();
-    int widthOf(std::size_t column) const;
+    void measureCell(std::size_t column);
+    int wrappedWidthOf(std::size_t column) const;
     int wrapWidthOf(std::size_t column) const;
     bool isPlain(std::size_t column) const;
+    bool isKnownAsPlain(std::size_t column) const;
     int lengthOf(std::size_t column) const;
     std::string textOf(std::size_t column) const;
 
@@ -56,9 +58,10 @@ private:
     void writeSeparation(const TableLine& line, const TableLine& previous);
     void writeLooseLabel(const TableLine& line);
     void writeCells();
-    void writeCellLine(std::size_t index);
+    void writePlainLine();
+    void writeWrappedLines();
+    void writeWrappedLine(std::size_t index);
     void writeText(std::size_t column, const std::string& text);
-    void writePlain(std::size_t column);
     void pad(std::size_t column, int width, bool isBefore);
     void endLine();
     void passOn(TextSink& sink, std::size_t least);
@@ -67,8 +70,10 @@ private:
     const TableLayout& m_layout;
     const VorBomItemBase& m_result;
     std::vector<int> m_widths;
-    std::vector<Cell> m_cells;                       // of the line in progress
-    std::vector<std::vector<std::string>> m_wrapped; // of its cells that are not plain
+    std::size_t m_lineWidth = 0;           // of all columns, each with the blanks after it
+    std::vector<char> m_isPlainThroughout; // for each column whether all of its texts, not its label, are plain
+    std::vector<Cell> m_cells;             // of the line in progress
+    std::vector<std::vector<std::string>> m_wrapped; // of its cells when they are not all plain
     int m_numBlanks = 0;                             // that stand before the next text, if there is one
     std::string m_text;                              // written but not passed on
 };

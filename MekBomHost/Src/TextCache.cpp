@@ -9,7 +9,9 @@ namespace mekbom
 {
 namespace
 {
-const std::size_t kNumEntries = 1024; // a power of two; a frame has some hundred different marks and profiles
+// A power of two. A frame has some hundred different marks and profiles. Measured: places for all of 50,000 different
+// marks make a report of a million rows a sixth slower, since each look then misses the processor's caches.
+const std::size_t kNumEntries = 1024;
 }
 
 const VorString& TextCache::textOf(std::string_view bytes)

@@ -10,7 +10,8 @@ namespace mekbom::Utf8
 namespace
 {
 const int kReplacement = 0xFFFD;
-const int kMostBytes = 4; // of one sequence
+const int kMostBytes = 4;          // of one sequence
+const std::size_t kMostShort = 64; // characters of texts as nearly all cells are; arbitrary
 
 bool isAscii(char byte)
 {
@@ -92,6 +93,12 @@ std::size_t countCharacters(std::string_view bytes)
 
 VorString toWide(std::string_view bytes)
 {
+    wchar_t characters[kMostShort];
+    if (bytes.size() <= kMostShort && asciiLength(bytes) == bytes.size())
+    {
+        std::copy(bytes.begin(), bytes.end(), characters);
+        return VorString(characters, static_cast<int>(bytes.size()));
+    }
     std::vector<wchar_t> text;
     text.reserve(bytes.size());
     while (!bytes.empty())

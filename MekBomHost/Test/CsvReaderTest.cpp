@@ -47,6 +47,8 @@ const RecordCase kRecords[] = {
     { "\xEF\xBB\xBF\"a\",b\n", "1: [a][b]\n" },
     { ",\n", "1: [][]\n" },
     { "a,\n", "1: [a][]\n" },
+    { "a,,\r\n,b\r\n", "1: [a][][]\n2: [][b]\n" },
+    { "a,b\n\"c\",d\ne,f", "1: [a][b]\n2: [c][d]\n3: [e][f]\n" }, // with quotes and without in turn
     { "\"\"\n", "1: []\n" },
     { " a , b \n", "1: [ a ][ b ]\n" }, // blanks belong to the field
     { "\t\n", "1: [\t]\n" },
