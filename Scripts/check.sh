@@ -1,6 +1,6 @@
 #!/bin/sh
-# The slower checks: format, linter, ThreadSanitizer over the threading tests, then all tests under Address-, Leak- and
-# UndefinedBehaviorSanitizer. Arguments go to each configuration, as with Scripts/test.sh.
+# The slower checks: format, linter, instruction count, ThreadSanitizer over the threading tests, then all tests under
+# Address-, Leak- and UndefinedBehaviorSanitizer. Arguments go to each configuration, as with Scripts/test.sh.
 set -eu
 cd "$(dirname "$0")/.."
 sh Scripts/setup.sh --checks
@@ -12,6 +12,9 @@ git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
 echo "== clang-tidy"
 cmake --preset sanitize "$@"
 git ls-files '*/Src/*.cpp' | xargs -P "$jobs" -n 4 clang-tidy -p build/sanitize --quiet --warnings-as-errors='*'
+
+echo "== instructions that a report takes"
+sh Scripts/check_instructions.sh
 
 echo "== ThreadSanitizer over the threading tests"
 cmake --preset threads "$@"

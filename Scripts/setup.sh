@@ -1,16 +1,19 @@
 #!/bin/sh
 # Installs what the build needs from Debian's packages, when it may; says exactly what is missing otherwise.
 #   sh Scripts/setup.sh            compiler, cmake, ninja, python, and the host program's libraries
-#   sh Scripts/setup.sh --checks   also clang, its sanitizer runtime, clang-format and clang-tidy
-#   sh Scripts/setup.sh --bench    also Google Benchmark
+#   sh Scripts/setup.sh --checks   also clang, its sanitizer runtime, clang-format and -tidy, valgrind, Google Benchmark
+#   sh Scripts/setup.sh --bench    also Google Benchmark, and the tools and libraries that the benchmarks compare with
 # Also makes the locale de_DE.UTF-8 where it may: tests hold numbers against its decimal comma, and skip without it.
 set -eu
 
 packages="g++ cmake ninja-build python3 locales libgtest-dev libcli11-dev nlohmann-json3-dev libcsv-dev libutf8proc-dev"
 for argument in "$@"; do
     case "$argument" in
-        --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy" ;;
-        --bench) packages="$packages libbenchmark-dev" ;;
+        --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy valgrind libbenchmark-dev" ;;
+        --bench)
+            packages="$packages libbenchmark-dev sqlite3 libsqlite3-dev python3-pandas libfparser-dev libmuparser-dev"
+            packages="$packages liblua5.4-dev miller time"
+            ;;
         *) echo "setup.sh: unknown argument '$argument'; expected --checks or --bench" >&2; exit 2 ;;
     esac
 done

@@ -2,6 +2,8 @@
 // mark, a details line with a formula for each row, weight totals at every level: the ordinary list of a large model.
 //   BM_Evaluate          from evaluate() to the finished tree; data and template are there before the clock starts
 //   BM_FreeResult        destroying that tree
+//   BM_EvaluateLevels    100 rows under more and more group levels, each row a group of its own in all of them
+//   BM_EvaluateColumns   100 rows with more and more columns in the details line
 // Sizes 10^2 to 10^5 show the curve; -DMEK_BUILD_BENCHMARKS=ON, then --benchmark_filter=Evaluate.
 #include "MekBomEngine/Src/VorBomEvaluator2.h"
 #include "MekRoots/Exp/VorUnitsManager.h"
@@ -104,29 +106,68 @@ std::unique_ptr<VorBomTemplate> makeReport(int numRows)
     return pTemplate;
 }
 
+constexpr int kNumColumns = 14;
+
 // What an evaluation appended to the rows is taken off again, so that every run meets the same rows.
 void removeFormulas(VorBomTemplate& report)
 {
-    constexpr int kNumColumns = 14;
     for (VorBomItemBase* pRow = report.getBomData()->child(); pRow != nullptr; pRow = pRow->next())
         pRow->getData().setLogicalLength(kNumColumns);
+}
+
+// Prepares a report of 100 rows that has its sections.
+void addFewRows(VorBomTemplate& report)
+{
+    addRows(*report.getBomData(), 100);
+    const VorUnitsManager units;
+    report.setUnitsForTokens(&units);
+    report.findUsedTokens();
+}
+
+std::unique_ptr<VorBomTemplate> makeReportOfLevels(int numLevels)
+{
+    auto pTemplate = std::make_unique<VorBomTemplate>();
+    const Columns c;
+    VorBomItemBase* pParent = addSection(*pTemplate, Item::kReportHeader, {});
+    for (int i = 0; i < numLevels; ++i)
+        pParent = addSection(*pParent, Item::kGroupHeader,
+                             { { L"%GroupBy:%Handle", VorString() }, { c.handle, VorString() } });
+    addFewRows(*pTemplate);
+    return pTemplate;
+}
+
+std::unique_ptr<VorBomTemplate> makeReportOfColumns(int numColumns)
+{
+    auto pTemplate = std::make_unique<VorBomTemplate>();
+    const Columns c;
+    Item* pReport = addSection(*pTemplate, Item::kReportHeader, {});
+    Item* pDetails = addSection(*pReport, Item::kDetails, {});
+    for (int i = 0; i < numColumns; ++i)
+        pDetails->addData(VorBomDataTuple(i % 2 == 0 ? c.length : c.profile, VorString()));
+    addFewRows(*pTemplate);
+    return pTemplate;
+}
+
+void evaluateRepeatedly(benchmark::State& state, VorBomTemplate& report)
+{
+    for (auto _ : state)
+    {
+        state.PauseTiming();
+        removeFormulas(report);
+        auto pResult = std::make_unique<VorBomTemplate>();
+        state.ResumeTiming();
+        benchmark::DoNotOptimize(VorBomEvaluator2::evaluate(&report, pResult.get()));
+        state.PauseTiming();
+        pResult.reset();
+        state.ResumeTiming();
+    }
 }
 }
 
 static void BM_Evaluate(benchmark::State& state)
 {
     const auto pReport = makeReport(static_cast<int>(state.range(0)));
-    for (auto _ : state)
-    {
-        state.PauseTiming();
-        removeFormulas(*pReport);
-        auto pResult = std::make_unique<VorBomTemplate>();
-        state.ResumeTiming();
-        benchmark::DoNotOptimize(VorBomEvaluator2::evaluate(pReport.get(), pResult.get()));
-        state.PauseTiming();
-        pResult.reset();
-        state.ResumeTiming();
-    }
+    evaluateRepeatedly(state, *pReport);
     state.SetItemsProcessed(state.iterations() * state.range(0)); // rows per second
 }
 BENCHMARK(BM_Evaluate)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark::kMillisecond);
@@ -146,3 +187,15 @@ static void BM_FreeResult(benchmark::State& state)
     state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 BENCHMARK(BM_FreeResult)->RangeMultiplier(10)->Range(100, 100000)->Unit(benchmark::kMillisecond);
+
+static void BM_EvaluateLevels(benchmark::State& state)
+{
+    evaluateRepeatedly(state, *makeReportOfLevels(static_cast<int>(state.range(0))));
+}
+BENCHMARK(BM_EvaluateLevels)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+
+static void BM_EvaluateColumns(benchmark::State& state)
+{
+    evaluateRepeatedly(state, *makeReportOfColumns(static_cast<int>(state.range(0))));
+}
+BENCHMARK(BM_EvaluateColumns)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);

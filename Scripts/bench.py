@@ -1,0 +1,235 @@
+"""Runs the benchmarks of a build on the same rows, prints tables with medians and ratios, and writes them as JSON.
+
+    python3 Scripts/bench.py --build build/bench [--sizes 10000,100000,1000000]
+                             [--sections evaluate,formulas,job,curves]
+                             [--rounds 3] [--json build/bench/bench.json] [--document Docs/PERFORMANCE.md]
+
+All programs get the same environment, in which freed memory stays in the process. Each is started --rounds times for
+each size, the programs taking turns; each start makes several reports and tells the times of all but the first. With
+--document the tables replace those in that file, between the two comments that mark them.
+"""
+
+import argparse
+import json
+import os
+import platform
+import subprocess
+import sys
+from pathlib import Path
+from statistics import median
+
+import bench_tables
+
+ROOT = Path(__file__).resolve().parent.parent
+COMPARISON = ROOT / "MekBomEngine/Bench/Comparison"
+GENERATOR = ROOT / "MekBomHost/Bench/generate_parts.py"
+WHOLE_JOB = ROOT / "MekBomHost/Bench/whole_job.py"
+SECTIONS = ["evaluate", "formulas", "job", "curves"]
+
+# Fresh pages are dear on virtual machines: nothing is given back to the system, and what is asked for comes in plenty.
+MEMORY_STAYS = {
+    "MALLOC_TRIM_THRESHOLD_": str(64 << 30),
+    "MALLOC_MMAP_THRESHOLD_": str(64 << 30),
+    "MALLOC_TOP_PAD_": str(64 << 20),
+}
+ONE_THREAD = {"POLARS_MAX_THREADS": "1", "OMP_NUM_THREADS": "1", "OPENBLAS_NUM_THREADS": "1"}
+ENVIRONMENT = {**os.environ, **MEMORY_STAYS, **ONE_THREAD, "PYTHONDONTWRITEBYTECODE": "1"}
+
+
+# What must not grow faster than n log n: with the length of texts and formulas, the number of rows, tuples, sections,
+# levels and columns.
+CURVES = {
+    "MekRoots/MekRootsBench": "CopyTexts|AppendCharacters|CompareTextsNaturally|SplitList|InsertTokens|AppendTexts",
+    "ExpressionEvaluator/ExpressionEvaluatorBench": "FormulaLength|LookUpAmongVariables",
+    "MekBomEngine/MekBomEngineBench":
+        "TupleOfManyRows|TupleAmongMany|CompareWithNextRow|CompareByManyTokens|UsedTokensOf.*|Display.*|Evaluate.+",
+}
+
+
+def run(command):
+    """The standard output of a program; ends this one when it fails."""
+    result = subprocess.run([str(part) for part in command], env=ENVIRONMENT, stdout=subprocess.PIPE, text=True,
+                            check=False)
+    if result.returncode != 0:
+        sys.exit(f"bench.py: {' '.join(map(str, command))} ended with {result.returncode}")
+    return result.stdout
+
+
+def run_json_lines(command):
+    return [json.loads(line) for line in run(command).splitlines()]
+
+
+def succeeds(command):
+    try:
+        return subprocess.run(command, capture_output=True, check=False).returncode == 0
+    except OSError:
+        return False
+
+
+def python_with_pandas():
+    """Debian's Python has it, which need not be the one that runs this script."""
+    pythons = ("python3", "/usr/bin/python3")
+    return next((python for python in pythons if succeeds([python, "-c", "import pandas"])), None)
+
+
+def report_programs(build):
+    """Name to command of the programs that make the compared report; those that cannot run are named on stderr."""
+    folder = build / "MekBomEngine/Bench"
+    programs = {
+        "limit": [folder / "LimitReport"],
+        bench_tables.LIMIT_AHEAD: [folder / "LimitReport", "--rows-ahead", "12"],
+        "engine": [folder / "EngineReport"],
+    }
+    if (folder / "SqliteReport").exists():
+        programs["SQLite"] = [folder / "SqliteReport"]
+    else:
+        print("SQLite is skipped: libsqlite3-dev was not installed when the benchmarks were built", file=sys.stderr)
+    peers = build.resolve() / "peers"
+    for name, package, script in (("DuckDB", "@duckdb/node-api", "duckdb_report.mjs"),
+                                  ("Polars", "nodejs-polars", "polars_report.mjs")):
+        if succeeds(["node", "-e", f"require('{peers}/node_modules/{package}')"]):
+            programs[name] = ["node", COMPARISON / script, "--modules", peers]
+        else:
+            print(f"{name} is skipped: npm has not installed {package}, or not for this machine", file=sys.stderr)
+    if python_with_pandas():
+        programs["pandas"] = [python_with_pandas(), COMPARISON / "pandas_report.py"]
+    else:
+        print("pandas is skipped: python3-pandas is not installed", file=sys.stderr)
+    return programs
+
+
+def generate_rows(build, size):
+    path = build / f"parts-{size}.csv"
+    if not path.exists():
+        path.write_text(run([sys.executable, GENERATOR, size]), encoding="utf-8")
+    return path
+
+
+def runs_per_start(size):
+    """Small reports are made more often; the first is discarded."""
+    return {10_000: 30, 100_000: 8}.get(size, 3)
+
+
+def check_texts(build, programs, data):
+    """Ends this program unless the engine's text is the limit's, and the others' the same but for rounding."""
+    expected = build / "limit.txt"
+    found = build / "found.txt"
+    run(programs["limit"] + ["--data", data, "--runs", 1, "--text", expected])
+    for name, command in programs.items():
+        run(command + ["--data", data, "--runs", 1, "--text", found])
+        if name == "engine":
+            run(["cmp", expected, found])
+        elif not name.startswith("limit"):
+            run([sys.executable, COMPARISON / "check_text.py", expected, found])
+    expected.unlink()
+    found.unlink()
+
+
+def merged(lines):
+    """The results of a program's starts as one: medians of all lists, and of all numbers."""
+    result = {"program": lines[0]["program"]}
+    for key in lines[0].keys() - {"program", "rows"}:
+        values = [line[key] for line in lines]
+        result[key] = median(sum(values, []) if isinstance(values[0], list) else values)
+    return result
+
+
+def compare_reports(build, sizes, rounds):
+    programs = report_programs(build)
+    share = [build / "MekBomEngine/Bench/FormulaShare", "--runs"]
+    results = {}
+    for size in sizes:
+        data = generate_rows(build, size)
+        print(f"{size} rows: checking the texts", file=sys.stderr)
+        check_texts(build, programs, data)
+        lines = {name: [] for name in [*programs, "formula share"]}
+        for number in range(1, rounds + 1):
+            print(f"{size} rows: round {number} of {rounds}", file=sys.stderr)
+            for name, command in programs.items():
+                lines[name] += run_json_lines(command + ["--data", data, "--runs", runs_per_start(size)])
+            lines["formula share"] += run_json_lines(share + [2 * runs_per_start(size) - 2, "--data", data])
+        results[size] = {name: merged(found) for name, found in lines.items()}
+    return results
+
+
+def compare_formulas(build):
+    program = build / "ExpressionEvaluator/FormulaComparison"
+    print("formulas", file=sys.stderr)
+    return run_json_lines([program])
+
+
+def compare_jobs(build, size, rounds):
+    print(f"{size} rows: the whole job", file=sys.stderr)
+    python = python_with_pandas() or sys.executable
+    return run_json_lines([python, WHOLE_JOB, "--program", build / "MekBomHost/mekbom", "--data",
+                           generate_rows(build, size), "--runs", rounds + 1])
+
+
+def run_curves(build):
+    """Benchmarks of single operations, each with a series of sizes."""
+    results = []
+    for program, benchmarks in CURVES.items():
+        print(program, file=sys.stderr)
+        output = run([build / program, "--benchmark_format=json", "--benchmark_min_time=0.1",
+                      f"--benchmark_filter=BM_({benchmarks})/"])
+        results += json.loads(output)["benchmarks"]
+    return results
+
+
+def machine():
+    compiler = subprocess.run(["c++", "--version"], stdout=subprocess.PIPE, text=True, check=False).stdout
+    return {"processor": bench_tables.processor_name(), "processors": os.cpu_count(), "system": platform.platform(),
+            "compiler": compiler.splitlines()[0] if compiler else "unknown"}
+
+
+def replace_figures(document, tables):
+    text = document.read_text(encoding="utf-8")
+    before, start, rest = text.partition("<!-- figures -->\n")
+    _, end, after = rest.partition("<!-- end of figures -->\n")
+    if not start or not end:
+        sys.exit(f"bench.py: {document} has no place for figures")
+    document.write_text(f"{before}{start}\n{tables}\n\n{end}{after}", encoding="utf-8")
+
+
+def read_arguments():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--build", type=Path, required=True)
+    parser.add_argument("--sizes", default="10000,100000,1000000")
+    parser.add_argument("--sections", default=",".join(SECTIONS))
+    parser.add_argument("--rounds", type=int, default=3)
+    parser.add_argument("--json", type=Path)
+    parser.add_argument("--document", type=Path)
+    arguments = parser.parse_args()
+    arguments.sizes = [int(size) for size in arguments.sizes.split(",")]
+    arguments.sections = arguments.sections.split(",")
+    if not set(arguments.sections) <= set(SECTIONS):
+        parser.error(f"--sections: expected some of {','.join(SECTIONS)}")
+    return arguments
+
+
+def run_sections(build, sections, sizes, rounds):
+    measure = {
+        "evaluate": lambda: compare_reports(build, sizes, rounds),
+        "formulas": lambda: compare_formulas(build),
+        "job": lambda: {"rows": max(sizes), "programs": compare_jobs(build, max(sizes), rounds)},
+        "curves": lambda: run_curves(build),
+    }
+    return {section: measure[section]() for section in SECTIONS if section in sections}
+
+
+def main():
+    arguments = read_arguments()
+    results = run_sections(arguments.build, arguments.sections, arguments.sizes, arguments.rounds)
+    results["machine"] = machine()
+    results["bounds"] = bench_tables.bounds(results)
+    path = arguments.json or arguments.build / "bench.json"
+    path.write_text(json.dumps(results, indent=1) + "\n", encoding="utf-8")
+    print(f"Written to {path}", file=sys.stderr)
+    tables = bench_tables.all_tables(results)
+    print(tables)
+    if arguments.document:
+        replace_figures(arguments.document, tables)
+
+
+if __name__ == "__main__":
+    main()

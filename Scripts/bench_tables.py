@@ -1,0 +1,194 @@
+"""What Scripts/bench.py measured, as Markdown tables, and whether it keeps within the bounds the engine is held to."""
+
+import math
+from pathlib import Path
+
+LIMIT_AHEAD = "limit, rows fetched ahead"
+NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
+SLOWEST_GROWTH = 4  # times n log n from a size to the next: data that leave the caches cost 3, a square 6 and more
+
+
+def processor_name():
+    info = Path("/proc/cpuinfo")
+    lines = info.read_text(encoding="utf-8").splitlines() if info.exists() else []
+    return next((line.partition(":")[2].strip() for line in lines if line.startswith("model name")), "unknown")
+
+
+def number(value):
+    """Three significant digits, no exponent."""
+    return f"{value:.0f}" if value >= 100 else f"{value:.3g}"
+
+
+def table(header, rows):
+    lines = [header, ["---"] + ["---:"] * (len(header) - 1)] + rows
+    return "\n".join("| " + " | ".join(line) + " |" for line in lines)
+
+
+def geometric_mean(values):
+    return math.exp(sum(math.log(value) for value in values) / len(values))
+
+
+def milliseconds(evaluate, name):
+    return [evaluate[size][name]["milliseconds"] for size in evaluate]
+
+
+def ratios(evaluate, slower, faster):
+    return [a / b for a, b in zip(milliseconds(evaluate, slower), milliseconds(evaluate, faster))]
+
+
+def peers(evaluate):
+    programs = next(iter(evaluate.values()))
+    return [name for name in programs if not name.startswith("limit") and name not in ("engine", "formula share")]
+
+
+def label(evaluate, name):
+    return name if name.startswith("limit") else next(iter(evaluate.values()))[name]["program"]
+
+
+def evaluate_table(evaluate):
+    header = ["milliseconds"] + [f"{size} rows" for size in evaluate] + ["to the engine"]
+    rows = []
+    for name in ["limit", LIMIT_AHEAD, "engine", *peers(evaluate)]:
+        to_engine = ratios(evaluate, name, "engine")
+        rows.append([label(evaluate, name), *map(number, milliseconds(evaluate, name)),
+                     " / ".join(map(number, to_engine))])
+    return table(header, rows)
+
+
+def engine_table(evaluate):
+    sizes = list(evaluate)
+    engine = [evaluate[size]["engine"] for size in sizes]
+    share = [evaluate[size]["formula share"] for size in sizes]
+    rows = [
+        ["evaluate, ns per row", *(number(e["milliseconds"] * 1e6 / n) for e, n in zip(engine, sizes))],
+        ["free the result, ns per row", *(number(e["freeMilliseconds"] * 1e6 / n) for e, n in zip(engine, sizes))],
+        ["bytes of the result per details row", *(number(e["resultBytes"]) for e in engine)],
+        ["bytes of a loaded row", *(number(e["rowBytes"]) for e in engine)],
+        ["compute a formula and append it to the row, ns", *(number(s["formulaNanoseconds"]) for s in share)],
+        ["one more number in the line, ns", *(number(s["columnNanoseconds"]) for s in share)],
+    ]
+    return table(["the engine at"] + [f"{size} rows" for size in sizes], rows)
+
+
+def formulas_of(results):
+    """Name to nanoseconds, of programs that were not skipped."""
+    return {line["name"]: line["ns"] for line in results["formulas"] if "ns" in line and "formula" not in line}
+
+
+def formulas_table(results):
+    found = formulas_of(results)
+    rows = [[name, number(ns), number(ns / found["engine"])] for name, ns in sorted(found.items(), key=lambda i: i[1])]
+    return table(["one formula, parsed and evaluated", "ns", "to the engine"], rows)
+
+
+def jobs_of(results):
+    return {line["name"]: line for line in results["job"]["programs"] if "seconds" in line}
+
+
+def job_table(results):
+    found = jobs_of(results)
+    rows = [[name, number(job["seconds"]), number(job["peak_mib"]),
+             number(job["seconds"] / found["mekbom"]["seconds"])] for name, job in found.items()]
+    return table([f"file of {results['job']['rows']} rows to report", "seconds", "peak MiB", "to mekbom"], rows)
+
+
+def curves_of(results):
+    """Benchmark to {size: ns per iteration}; the last argument is the size."""
+    curves = {}
+    for line in results["curves"]:
+        family, _, size = line["name"].rpartition("/")
+        curves.setdefault(family, {})[int(size)] = line["cpu_time"] * NANOSECONDS[line["time_unit"]]
+    return {family: dict(sorted(curve.items())) for family, curve in curves.items()}
+
+
+def worst_growth(curve):
+    """The largest growth from one size to the next, as a multiple of what n log n allows."""
+    sizes = list(curve)
+    return max(curve[b] / curve[a] / (b * math.log2(b) / (a * max(math.log2(a), 1))) for a, b in zip(sizes, sizes[1:]))
+
+
+def curves_table(results):
+    rows = [[family, " / ".join(map(str, curve)), " / ".join(map(number, curve.values())), number(worst_growth(curve))]
+            for family, curve in curves_of(results).items()]
+    return table(["benchmark", "sizes", "ns", "growth to n log n"], rows)
+
+
+def at_most(what, value, bound):
+    return {"what": what, "measured": value, "bound": f"at most {bound}", "isMet": value <= bound}
+
+
+def at_least(what, value, bound):
+    return {"what": what, "measured": value, "bound": f"at least {bound}", "isMet": value >= bound}
+
+
+def evaluate_bounds(evaluate):
+    sizes = list(evaluate)
+    engine = [evaluate[size]["engine"] for size in sizes]
+    formula = evaluate[sizes[0]]["formula share"]["formulaNanoseconds"]
+    per_row = [time / size for time, size in zip(milliseconds(evaluate, "engine"), sizes)]
+    free = max(e["freeMilliseconds"] * 1e6 / size for e, size in zip(engine, sizes))
+    found = [at_most("engine to limit, geometric mean", geometric_mean(ratios(evaluate, "engine", "limit")), 7)]
+    for name in peers(evaluate):
+        for size, ratio in zip(sizes, ratios(evaluate, name, "engine")):
+            wanted = {10_000: 3, 100_000: 3, 1_000_000: 1.5}.get(size, 1) if name == "SQLite" else 1
+            found.append(at_least(f"{name} to engine, {size} rows", ratio, wanted))
+    return found + [
+        at_most(f"time per row at {sizes[-1]} to that at {sizes[0]}", per_row[-1] / per_row[0], 4),
+        at_most(f"formula per row at {sizes[0]} rows, ns", formula, 25),
+        at_most("bytes of the result per details row", max(e["resultBytes"] for e in engine), 1200),
+        at_most("bytes of a loaded row", max(e["rowBytes"] for e in engine), 1100),
+        at_most("free the result, ns per row", free, 700),
+    ]
+
+
+def formulas_bounds(results):
+    found = formulas_of(results)
+    fastest = min((ns for name, ns in found.items() if name not in ("engine", "limit")), default=math.inf)
+    return [at_most("formula: engine to limit", found["engine"] / found["limit"], 2),
+            at_least("formula: fastest peer to engine", fastest / found["engine"], 1.5)]
+
+
+def job_bounds(results):
+    found = jobs_of(results)
+    mekbom = found.pop("mekbom")
+    bounds_found = [at_least(f"whole job: {name} to mekbom", job["seconds"] / mekbom["seconds"], 2)
+                    for name, job in found.items()]
+    if "pandas" in found:
+        bounds_found.append(at_most("whole job: peak memory to that of pandas",
+                                    mekbom["peak_mib"] / found["pandas"]["peak_mib"], 1))
+    return bounds_found
+
+
+def bounds(results):
+    found = []
+    if "evaluate" in results:
+        found += evaluate_bounds(results["evaluate"])
+    if "formulas" in results:
+        found += formulas_bounds(results)
+    if "job" in results:
+        found += job_bounds(results)
+    if "curves" in results:
+        growths = {family: worst_growth(curve) for family, curve in curves_of(results).items()}
+        worst = max(growths, key=growths.get)
+        found.append(at_most(f"growth to n log n, at worst {worst}", growths[worst], SLOWEST_GROWTH))
+    return found
+
+
+def bounds_table(results):
+    rows = [[bound["what"], number(bound["measured"]), bound["bound"], "met" if bound["isMet"] else "MISSED"]
+            for bound in results["bounds"]]
+    return table(["bound", "measured", "wanted", ""], rows)
+
+
+def all_tables(results):
+    machine = results["machine"]
+    parts = [f"{machine['processor']}, {machine['processors']} processors, {machine['system']}, {machine['compiler']}"]
+    if "evaluate" in results:
+        parts += [evaluate_table(results["evaluate"]), engine_table(results["evaluate"])]
+    if "formulas" in results:
+        parts.append(formulas_table(results))
+    if "job" in results:
+        parts.append(job_table(results))
+    if "curves" in results:
+        parts.append(curves_table(results))
+    return "\n\n".join([*parts, bounds_table(results)])
