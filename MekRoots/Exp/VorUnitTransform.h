@@ -16,8 +16,8 @@
 //      two decimals. Rounding carries: 11 31/32" is 1' at sixteenths.
 //   3. A negative number has one leading minus; what rounds to zero has none.
 //   4. Up to 15 digits stand before the point. A number with more is written with an exponent and as many of 15 digits
-//      as are not trailing zeros ("1.5e+20"); in feet and inches it is that number of inches. Small numbers round to
-//      zero and never need an exponent.
+//      as are not trailing zeros ("1.5e+20"); in feet and inches it is that number of inches, in degrees, minutes and
+//      seconds that of seconds. Small numbers round to zero and never need an exponent.
 //   5. Infinite and undefined values are "inf", "-inf" and "nan", without a symbol. So is a number that is too large
 //      for a double in this unit.
 // The characters are the same in every locale. Only the resulting text is allocated.
@@ -34,14 +34,15 @@ struct VorUnitDefinition;
 class MEK_UNITS_API VorUnitTransform
 {
 public:
-    // `unit` is a number of the catalogue (MekUnits/Src/VorUnitCatalogue.h). Reports "isUnit( unit )" for any other and
+    // `unit` is a number of the catalogue (VorUnitsTransformArray). Reports "isUnit( unit )" for any other and
     // then shows the model's own numbers, without a symbol.
     // `format` is how precisely values are shown:
     //   0...999      decimals, as many as the last digit says: 2, 112 and 552 are two, 81 is one. The other digits
     //                have no effect. A negative format is 0.
     //   1000 + d     a whole number and a fraction, reduced, with denominator d from 1 (whole numbers alone) to 256:
     //                1016 is to the sixteenth. 1000 counts as 1001, anything past 1256 as 1256.
-    // In feet and inches both are parts of an inch: 2286.127 mm is 7'-6.01" with format 2 and 7'-6" with 1016.
+    // In feet and inches both are parts of an inch: 2286.127 mm is 7'-6.01" with format 2 and 7'-6" with 1016. In
+    // degrees, minutes and seconds they are parts of a second.
     VorUnitTransform(int unit, int format);
     VorUnitTransform(const VorUnitTransform&) = default;
     VorUnitTransform& operator=(const VorUnitTransform&) = default;
@@ -51,17 +52,20 @@ public:
 
     // The double next to the exact quotient of the value's shortest decimal text and the unit's exact factor; of the
     // neighbours the one with at most 15 digits, if toInternalUnits gives the very same value for it: what was read as
-    // 1 13/32" or as 0.25 lb/ft is 1.40625 and 0.25 again. Feet and inches convert to inches. Infinite and undefined
-    // values stay.
+    // 1 13/32" or as 0.25 lb/ft is 1.40625 and 0.25 again. Feet and inches convert to inches; degrees, minutes and
+    // seconds to seconds. Infinite and undefined values stay.
     virtual double toDisplayUnits(double internalValue) const;
 
     // The double next to the exact product of the value's shortest decimal text and the unit's exact factor: 1.005 m²
-    // is 1005000 mm². Feet and inches convert from inches. Infinite and undefined values stay.
+    // is 1005000 mm². Feet and inches convert from inches, degrees, minutes and seconds from seconds. Infinite and
+    // undefined values stay.
     virtual double toInternalUnits(double displayValue) const;
 
     // The text of a value of the model. All flags are 0 or 1.
-    //   suppressLastZeros   drops trailing zeros of decimals, and the point after them: "7.50" is "7.5", "7.00" is "7"
-    //   showUnitSymbol      appends the symbol: "2286 mm", "90°". Feet and inches carry their marks anyway.
+    //   suppressLastZeros   drops trailing zeros of decimals, and the point after them: "7.50" is "7.5", "7.00" is "7";
+    //                       and of angles the seconds, then the minutes, that are zero: 12°30'0" is 12°30'
+    //   showUnitSymbol      appends the symbol: "2286 mm", "90°". Feet and inches, degrees, minutes and seconds carry
+    //                       their marks anyway.
     //   suppressZeroFeet    0'-6" is 6", 0'-0 1/2" is 1/2"
     //   suppressZeroInch    7'-0" is 7'; inches with a fraction stay: 7'-0 1/2"
     //   feetInchSeparator   stands between feet and inches: 7'-6", 7' 6"; nothing does when it is a zero character

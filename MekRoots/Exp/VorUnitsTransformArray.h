@@ -10,6 +10,8 @@
 #include "MekExport.h"
 #include "VorString.h"
 
+struct VorUnitDefinition;
+
 class MEK_UNITS_API VorUnitsTransformArray
 {
 public:
@@ -27,6 +29,18 @@ public:
 
     // Looks for the unit of kind `system` that is written `symbol`; 0 with `unit` untouched when there is none. Symbols
     // are taken exactly as written, with the raised digits or signs of print or in plain ASCII: "m²" and "m2", "°" and
-    // "deg".
+    // "deg"; names are too: "feet", "plf".
     static int findUnit(eSystems system, const VorString& symbol, int& unit);
+
+    // The unit of whatever kind that is written `symbol`, or with this number; null when there is none. No two units
+    // share a symbol or a name.
+    static const VorUnitDefinition* findUnit(const VorString& symbol);
+    static const VorUnitDefinition* findUnit(int number);
+
+    // The unit in which the model keeps values of this kind. Null for a number that is no kind of quantity.
+    static const VorUnitDefinition* findUnitOfModel(eSystems system);
+
+    // The catalogue, kind by kind; `index` from 0 to numUnits() - 1.
+    static int numUnits();
+    static const VorUnitDefinition& unitAt(int index);
 };

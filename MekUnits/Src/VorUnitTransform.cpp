@@ -21,14 +21,19 @@ const wchar_t kSourcePath[] = L"MekUnits/Src/VorUnitTransform"; // named in asse
 
 // Shown for a number that is not in the catalogue.
 const VorUnitDefinition kModelUnit = {
-    0, VorUnitsTransformArray::kDistance, VorUnitDefinition::kPlainNumber, L"", L"", 1, 1
+    0, VorUnitsTransformArray::kDistance, VorUnitDefinition::kPlainNumber, L"", L"", L"", 0, 1, 1, L""
 };
 
 const int kFirstFraction = 1000; // format of no parts; a rule of the formats, as is the next
 const int kLargestDenominator = 256;
 const int kInchesPerFoot = 12;
+const int kSecondsPerMinute = 60;
+const int kMinutesPerDegree = 60;
 const wchar_t kFootMark = L'\'';
 const wchar_t kInchMark = L'"';
+const wchar_t kDegreeSign = L'\u00B0';
+const wchar_t kMinuteMark = L'\'';
+const wchar_t kSecondMark = L'"'; // the last mark of either layout; huge values are seconds or inches alone
 
 // How far a product of a value and m_dPartsPerInternalUnit, relative to its size, can stand from the decimal number that
 // is shown: 6 roundings of half a unit in the last place, 7e-16 in all, with some room.
@@ -175,19 +180,44 @@ void addFeetAndInches(VorQuantityText& text, const VorRoundedNumber& number, con
     }
 }
 
+// Seconds of zero, and then minutes of zero, are the last zeros of an angle.
+void addDegreesAndMinutes(VorQuantityText& text, const VorRoundedNumber& number, const Layout& layout)
+{
+    const std::uint64_t minutes = number.whole / kSecondsPerMinute;
+    VorRoundedNumber seconds = number;
+    seconds.whole = number.whole % kSecondsPerMinute;
+
+    const bool showsSeconds = !seconds.isZero() || layout.suppressLastZeros == 0;
+    const bool showsMinutes = showsSeconds || minutes % kMinutesPerDegree != 0;
+    text.addInteger(minutes / kMinutesPerDegree);
+    text.addCharacter(kDegreeSign);
+    if (showsMinutes)
+    {
+        text.addInteger(minutes % kMinutesPerDegree);
+        text.addCharacter(kMinuteMark);
+    }
+    if (showsSeconds)
+    {
+        addNumber(text, seconds, layout, true);
+        text.addCharacter(kSecondMark);
+    }
+}
+
 void addRounded(VorQuantityText& text, const VorRoundedNumber& number, const Layout& layout)
 {
-    if (layout.layout == VorUnitDefinition::kFeetAndInches)
-        addFeetAndInches(text, number, layout);
-    else
-        addNumber(text, number, layout, false);
+    switch (layout.layout)
+    {
+        case VorUnitDefinition::kPlainNumber: addNumber(text, number, layout, false); break;
+        case VorUnitDefinition::kFeetAndInches: addFeetAndInches(text, number, layout); break;
+        case VorUnitDefinition::kDegreesAndMinutes: addDegreesAndMinutes(text, number, layout); break;
+    }
 }
 
 void addHuge(VorQuantityText& text, double shown, const Layout& layout)
 {
     text.addWithExponent(VorDecimalNumber(shown));
-    if (layout.layout == VorUnitDefinition::kFeetAndInches)
-        text.addCharacter(kInchMark);
+    if (layout.layout != VorUnitDefinition::kPlainNumber)
+        text.addCharacter(kSecondMark);
 }
 }
 

@@ -4,8 +4,10 @@
 
 #include "AllocationCount.h"
 #include "FormatCase.h"
+#include "IndependentFactors.h"
 #include "SlowRounding.h"
 
+#include <algorithm>
 #include <atomic>
 #include <clocale>
 #include <cmath>
@@ -19,17 +21,15 @@
 namespace
 {
 const int kMillimetre = 3;
-const int kInch = 10;
+const int kInches = 10;
 const int kFeetAndInches = 13;
-const int kPound = 1021;
+const int kPounds = 1021;
 const int kDegree = 2006;
+const int kDegreesAndMinutes = 2008;
 const int kSquareMetre = 3003;
 const int kSquareFoot = 3011;
 const int kPoundPerFoot = 4011;
 const int kPoundPerCubicFoot = 7011;
-const int kAllUnits[] = {
-    3, 6, 10, 11, 13, 1009, 1021, 2000, 2006, 3000, 3003, 3011, 4000, 4011, 4100, 4111, 7001, 7011
-};
 
 double toDisplay(int unit, double value)
 {
@@ -103,33 +103,6 @@ VorString slowlyFormattedInSixteenths(double inches)
     return wide((inches < 0 && numSixteenths > 0 ? "-" : "") + text + "\"");
 }
 
-// The exact factor as somebody else would write it: the model's unit in one display unit.
-struct FactorCase
-{
-    int unit;
-    long double factor;
-};
-const FactorCase kFactors[] = {
-    { 3, 1.0L },
-    { 6, 1000.0L },
-    { 10, 25.4L },
-    { 11, 12 * 25.4L },
-    { 13, 25.4L },
-    { 1009, 1.0L },
-    { 1021, 0.45359237L },
-    { 2000, 1.0L },
-    { 2006, 3.14159265358979323846264338327950288L / 180 },
-    { 3000, 1.0L },
-    { 3003, 1e6L },
-    { 3011, 12 * 25.4L * 12 * 25.4L },
-    { 4000, 1.0L / 1000 },
-    { 4011, 0.45359237L / (12 * 25.4L) },
-    { 4100, 1e6L / 1000 },
-    { 4111, 12 * 25.4L },
-    { 7001, 1.0L / 1e9L },
-    { 7011, 0.45359237L / (12 * 25.4L * 12 * 25.4L * 12 * 25.4L) },
-};
-
 TEST(VorUnitTransformTest, EveryFactorIsThatOfAnIndependentTable)
 {
     for (const FactorCase& c : kFactors)
@@ -140,21 +113,32 @@ TEST(VorUnitTransformTest, EveryFactorIsThatOfAnIndependentTable)
         EXPECT_DOUBLE_EQ(static_cast<double>(1 / c.factor), toDisplay(c.unit, 1.0)) << "unit " << c.unit;
         EXPECT_EQ(1.0, toDisplay(c.unit, toInternal(c.unit, 1.0))) << "unit " << c.unit;
     }
-    EXPECT_EQ(std::size(kAllUnits), std::size(kFactors));
+}
+
+TEST(VorUnitTransformTest, TheIndependentTableHasEveryUnit)
+{
+    const auto isInTable = [](int unit)
+    {
+        return std::any_of(std::begin(kFactors), std::end(kFactors),
+                           [unit](const FactorCase& c) { return c.unit == unit; });
+    };
+    for (const int unit : allUnits())
+        EXPECT_TRUE(isInTable(unit)) << unit;
+    EXPECT_EQ(allUnits().size(), std::size(kFactors));
 }
 
 TEST(VorUnitTransformTest, ConvertsTheDecimalNumberThatIsSeen)
 {
-    EXPECT_EQ(90.0, toDisplay(kInch, 2286.0));
+    EXPECT_EQ(90.0, toDisplay(kInches, 2286.0));
     EXPECT_EQ(90.0, toDisplay(kFeetAndInches, 2286.0));
-    EXPECT_EQ(11.96875, toDisplay(kInch, 304.00625)); // a division of doubles is one place above
-    EXPECT_EQ(1.5, toDisplay(kPound, 0.680388555));   // one place below
-    EXPECT_EQ(1.005, toDisplay(kInch, 25.527));
+    EXPECT_EQ(11.96875, toDisplay(kInches, 304.00625)); // a division of doubles is one place above
+    EXPECT_EQ(1.5, toDisplay(kPounds, 0.680388555));    // one place below
+    EXPECT_EQ(1.005, toDisplay(kInches, 25.527));
     EXPECT_EQ(167.876533, toDisplay(kSquareMetre, 167876533.0));
     EXPECT_EQ(1005000.0, toInternal(kSquareMetre, 1.005)); // a product of doubles is one place below
-    EXPECT_EQ(25.4, toInternal(kInch, 1.0));
+    EXPECT_EQ(25.4, toInternal(kInches, 1.0));
     EXPECT_EQ(92903.04, toInternal(kSquareFoot, 1.0));
-    EXPECT_EQ(0.45359237, toInternal(kPound, 1.0));
+    EXPECT_EQ(0.45359237, toInternal(kPounds, 1.0));
     EXPECT_EQ(90.0, toDisplay(kDegree, 1.5707963267948966));
     EXPECT_EQ(1.5707963267948966, toInternal(kDegree, 90.0));
 }
@@ -162,7 +146,7 @@ TEST(VorUnitTransformTest, ConvertsTheDecimalNumberThatIsSeen)
 TEST(VorUnitTransformTest, WhatWasReadInAUnitIsShownAgain)
 {
     std::mt19937 random(1);
-    for (const int unit : kAllUnits)
+    for (const int unit : allUnits())
         for (int i = 0; i < 2000; ++i)
         {
             const double read = static_cast<double>(random() % 1000000000) / std::pow(10.0, random() % 9);
@@ -190,7 +174,7 @@ TEST(VorUnitTransformTest, ConversionsStayWithinTheLastPlaceOfTheQuotient)
 TEST(VorUnitTransformTest, ConversionsKeepZeroInfiniteAndUndefinedValues)
 {
     const double infinity = std::numeric_limits<double>::infinity();
-    for (const int unit : kAllUnits)
+    for (const int unit : allUnits())
     {
         EXPECT_EQ(0.0, toDisplay(unit, 0.0));
         EXPECT_EQ(0.0, toInternal(unit, 0.0));
@@ -216,10 +200,10 @@ TEST(VorUnitTransformTest, RandomNumbersReadAsTheirTextRoundedByHand)
     for (int i = 0; i < 100000; ++i)
     {
         const double value = values.next();
-        const int unit = kAllUnits[static_cast<std::size_t>(i) % std::size(kAllUnits)];
+        const int unit = kFactors[static_cast<std::size_t>(i) % std::size(kFactors)].unit;
         const int numDecimals = i % 10;
         const double shown = toDisplay(unit, value);
-        if (unit == kFeetAndInches || std::fabs(shown) >= 999999999999999.0)
+        if (unit == kFeetAndInches || unit == kDegreesAndMinutes || std::fabs(shown) >= 999999999999999.0)
             continue;
 
         const FormatCase exact = { value, unit, numDecimals, L"", L' ', L"" };
@@ -319,7 +303,7 @@ TEST(VorUnitTransformTest, FormattingAllocatesNothingButTheText)
 TEST(VorUnitTransformTest, FormattingLeaksNothing)
 {
     LeakCheck leaks;
-    for (const int unit : kAllUnits)
+    for (const int unit : allUnits())
         for (const double value : { 0.0, 1.5, -1e300, std::nan("") })
             EXPECT_FALSE(VorUnitTransform(unit, 1016).formatValue(value, 1, 1, 0, 0, L'-').isEmpty());
 }
@@ -339,7 +323,7 @@ TEST(VorUnitTransformTest, TextsAreTheSameInEveryLocale)
     const FormatCase kCases[] = {
         { 1234567.5, kMillimetre, 2, L"", L' ', L"1234567.50" },
         { 2.675, kMillimetre, 2, L"", L' ', L"2.68" },
-        { 25.527, kInch, 2, L"", L' ', L"1.01" },
+        { 25.527, kInches, 2, L"", L' ', L"1.01" },
         { 1.5e20, kMillimetre, 2, L"", L' ', L"1.5e+20" },
         { 2286.127, kFeetAndInches, 2, L"", L'-', L"7'-6.01\"" },
     };

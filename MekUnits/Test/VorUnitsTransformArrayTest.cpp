@@ -1,11 +1,14 @@
 #include "MekRoots/Exp/VorUnitsTransformArray.h"
 
+#include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Test/Support/TestSupport.h"
 #include "MekUnits/Src/VorUnitCatalogue.h"
 
-#include <numeric>
+#include <iterator>
 #include <set>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace
 {
@@ -17,6 +20,16 @@ int unitOf(Systems::eSystems system, const wchar_t* symbol)
     const int isFound = Systems::findUnit(system, symbol, unit);
     EXPECT_EQ(isFound, unit != -1 ? 1 : 0);
     return unit;
+}
+
+std::vector<std::wstring> namesOf(const VorUnitDefinition& unit)
+{
+    VorStringArray pieces;
+    VorString::getTokens(unit.names, pieces, L",");
+    std::vector<std::wstring> names;
+    for (const VorString& piece : pieces)
+        names.push_back(piece.getStringW() + (piece.find(L" ", 0) == 0 ? 1 : 0));
+    return names;
 }
 
 TEST(VorUnitsTransformArrayTest, KindsHaveTheNumbersThatClientsPass)
@@ -55,17 +68,68 @@ TEST(VorUnitsTransformArrayTest, OtherSymbolsAndOtherKindsAreNotFound)
     EXPECT_EQ(-1, unitOf(Systems::kArea, L"m"));
 }
 
-TEST(VorUnitsTransformArrayTest, NumbersAndSymbolsOfTheCatalogueAreUnique)
+TEST(VorUnitsTransformArrayTest, UnitsAreFoundByName)
+{
+    EXPECT_EQ(11, unitOf(Systems::kDistance, L"foot"));
+    EXPECT_EQ(11, unitOf(Systems::kDistance, L"feet"));
+    EXPECT_EQ(4011, unitOf(Systems::kWeightPerDistance, L"plf"));
+    EXPECT_EQ(7011, unitOf(Systems::kDensity, L"pcf"));
+    EXPECT_EQ(1022, unitOf(Systems::kWeight, L"short ton"));
+    EXPECT_EQ(-1, unitOf(Systems::kDistance, L"foot, feet"));
+    EXPECT_EQ(-1, unitOf(Systems::kDistance, L"foo"));
+    EXPECT_EQ(-1, unitOf(Systems::kDistance, L"feets"));
+}
+
+TEST(VorUnitsTransformArrayTest, UnitsOfAnyKindAreFoundBySymbolAndNumber)
+{
+    EXPECT_EQ(3003, Systems::findUnit(L"m2")->number);
+    EXPECT_EQ(1009, Systems::findUnit(L"kilograms")->number);
+    EXPECT_EQ(nullptr, Systems::findUnit(L"furlong"));
+    EXPECT_EQ(nullptr, Systems::findUnit(VorString()));
+    EXPECT_EQ(std::wstring(L"lb"), Systems::findUnit(1021)->symbol);
+    EXPECT_EQ(nullptr, Systems::findUnit(2));
+}
+
+TEST(VorUnitsTransformArrayTest, EveryKindHasItsUnitOfTheModel)
+{
+    const std::pair<Systems::eSystems, int> kUnits[] = {
+        { Systems::kDistance, 3 },
+        { Systems::kAngle, 2000 },
+        { Systems::kWeight, 1009 },
+        { Systems::kArea, 3000 },
+        { Systems::kWeightPerDistance, 4001 },
+        { Systems::kAreaPerDistance, 4101 },
+        { Systems::kDensity, 7000 },
+    };
+    for (const auto& [system, unit] : kUnits)
+        EXPECT_EQ(unit, Systems::findUnitOfModel(system)->number);
+    EXPECT_EQ(nullptr, Systems::findUnitOfModel(static_cast<Systems::eSystems>(3)));
+}
+
+// Whatever is written in a cell or on the command line says which unit, and thereby which kind, is meant.
+TEST(VorUnitsTransformArrayTest, NumbersSymbolsAndNamesOfTheCatalogueAreUnique)
 {
     std::set<int> numbers;
-    std::set<std::pair<int, std::wstring>> symbols;
+    std::set<std::wstring> words;
     for (const VorUnitDefinition& unit : VorUnitCatalogue::kUnits)
     {
         EXPECT_TRUE(numbers.insert(unit.number).second) << unit.number;
-        EXPECT_TRUE(symbols.insert({ unit.system, unit.symbol }).second) << unit.number;
+        EXPECT_TRUE(words.insert(unit.symbol).second) << unit.number;
         const bool isSpelledTwice = std::wstring(unit.symbol) != unit.asciiSymbol;
-        EXPECT_EQ(isSpelledTwice, symbols.insert({ unit.system, unit.asciiSymbol }).second) << unit.number;
+        EXPECT_EQ(isSpelledTwice, words.insert(unit.asciiSymbol).second) << unit.number;
+        for (const std::wstring& name : namesOf(unit))
+        {
+            EXPECT_TRUE(words.insert(name).second) << unit.number;
+            EXPECT_EQ(unit.number, unitOf(unit.system, name.c_str()));
+        }
     }
+}
+
+TEST(VorUnitsTransformArrayTest, TheCatalogueIsListedByIndex)
+{
+    EXPECT_EQ(static_cast<int>(std::size(VorUnitCatalogue::kUnits)), Systems::numUnits());
+    for (int i = 0; i < Systems::numUnits(); ++i)
+        EXPECT_EQ(&VorUnitCatalogue::kUnits[i], &Systems::unitAt(i));
 }
 
 TEST(VorUnitsTransformArrayTest, EveryRowOfTheCatalogueIsFoundAndWithinTheRangesOfItsParts)
@@ -80,6 +144,8 @@ TEST(VorUnitsTransformArrayTest, EveryRowOfTheCatalogueIsFoundAndWithinTheRanges
         EXPECT_LE(unit.numerator, VorUnitDefinition::kLargestFactor);
         EXPECT_LE(unit.denominator, VorUnitDefinition::kLargestFactor);
         EXPECT_NE(0, unit.number);
+        EXPECT_TRUE(unit.format >= 0 && unit.format <= 1256) << unit.number;
+        EXPECT_NE(0, *unit.source) << unit.number;
     }
 }
 
