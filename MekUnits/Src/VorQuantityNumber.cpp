@@ -1,0 +1,110 @@
+#include "VorQuantityNumber.h"
+
+#include "MekRoots/Exp/VorNumberText.h"
+
+namespace
+{
+bool isDigit(wchar_t character)
+{
+    return character >= L'0' && character <= L'9';
+}
+
+std::wstring takeDigits(const wchar_t*& pText)
+{
+    const wchar_t* const pBegin = pText;
+    while (isDigit(*pText))
+        ++pText;
+    return std::wstring(pBegin, pText);
+}
+
+std::uint64_t numberOf(const std::wstring& digits)
+{
+    std::uint64_t number = 0;
+    for (const wchar_t digit : digits)
+        number = number * 10 + static_cast<std::uint64_t>(digit - L'0');
+    return number;
+}
+}
+
+bool VorQuantityNumber::scan(const wchar_t*& pText)
+{
+    const wchar_t* p = pText;
+    if (!scanFraction(p))
+    {
+        m_whole = takeDigits(p);
+        if (m_whole.empty() && (*p != L'.' || !isDigit(p[1])))
+            return false;
+        if (!scanFractionBehindWhole(p))
+            scanRest(p);
+    }
+    pText = p;
+    return true;
+}
+
+// Alone; a whole number of zero then.
+bool VorQuantityNumber::scanFraction(const wchar_t*& pText)
+{
+    const wchar_t* p = pText;
+    const std::wstring numerator = takeDigits(p);
+    if (*p != L'/')
+        return false;
+    const std::wstring denominator = takeDigits(++p);
+    if (numerator.empty() || numerator.size() > kMostDigits || denominator.size() > kMostDigits ||
+        numberOf(denominator) == 0)
+        return false;
+    m_whole = L"0";
+    m_numerator = numberOf(numerator);
+    m_denominator = numberOf(denominator);
+    pText = p;
+    return true;
+}
+
+bool VorQuantityNumber::scanFractionBehindWhole(const wchar_t*& pText)
+{
+    const wchar_t* p = pText;
+    if (*p == L'-')
+        ++p;
+    else
+        while (*p == L' ')
+            ++p;
+    VorQuantityNumber fraction;
+    if (p == pText || m_whole.empty() || m_whole.size() > kMostDigits || !fraction.scanFraction(p) ||
+        fraction.m_numerator >= fraction.m_denominator)
+        return false;
+    m_numerator = fraction.m_numerator;
+    m_denominator = fraction.m_denominator;
+    pText = p;
+    return true;
+}
+
+void VorQuantityNumber::scanRest(const wchar_t*& pText)
+{
+    const wchar_t* const pBegin = pText;
+    if (*pText == L'.')
+        takeDigits(++pText);
+    if (*pText == L'e' || *pText == L'E')
+    {
+        const wchar_t* p = pText + 1;
+        if (*p == L'+' || *p == L'-')
+            ++p;
+        if (!takeDigits(p).empty())
+            pText = p;
+    }
+    m_rest.assign(pBegin, pText);
+}
+
+std::uint64_t VorQuantityNumber::wholeNumber() const
+{
+    return numberOf(m_whole);
+}
+
+double VorQuantityNumber::toDouble(std::uint64_t carried) const
+{
+    if (m_denominator != 0)
+        return static_cast<double>(carried + wholeNumber()) +
+               static_cast<double>(m_numerator) / static_cast<double>(m_denominator);
+    const bool isCarriedTo = carried > 0 && m_whole.size() <= kMostDigits;
+    const std::wstring text = (isCarriedTo ? std::to_wstring(carried + wholeNumber()) : m_whole) + m_rest;
+    const wchar_t* pEnd = nullptr;
+    return VorNumberText::scanDouble(text.c_str(), pEnd, 0);
+}

@@ -1,0 +1,242 @@
+#include "MekRoots/Exp/VorQuantityReader.h"
+
+#include "MekRoots/Exp/VorAssert.h"
+#include "MekRoots/Exp/VorUnitDefinition.h"
+#include "MekRoots/Exp/VorUnitTransform.h"
+#include "VorDecimalNumber.h"
+#include "VorQuantityNumber.h"
+
+#include <cmath>
+#include <cstdint>
+#include <cwchar>
+#include <string>
+
+namespace
+{
+const wchar_t kSourcePath[] = L"MekUnits/Src/VorQuantityReader"; // named in assertion reports
+
+enum eFault
+{
+    kNoFault,
+    kNoQuantity,
+    kGrouped,
+    kUnknownUnit,
+    kOtherKind,
+    kNoMark,
+    kInnerNotWhole,
+    kInnerTooLarge,
+    kTooLarge
+};
+
+// A mark behind a number, in each of its spellings, and how many of the smallest marked unit it stands for.
+struct Mark
+{
+    const wchar_t* characters;
+    unsigned int size;
+};
+struct Marks
+{
+    int unit; // that of the smallest mark
+    const Mark* pMarks;
+    int numMarks; // from the largest to the smallest
+};
+const wchar_t kSingleMarks[] = L"'\u2019\u2032";
+const wchar_t kDoubleMarks[] = L"\"\u201D\u2033";
+const wchar_t kDegreeMarks[] = L"\u00B0\u00BA"; // the degree sign and the ordinal that some keyboards have for it
+const Mark kLengthMarks[] = { { kSingleMarks, 12 }, { kDoubleMarks, 1 } };
+const Mark kAngleMarks[] = { { kDegreeMarks, 3600 }, { kSingleMarks, 60 }, { kDoubleMarks, 1 } };
+
+// No marks for the other kinds.
+Marks marksOf(VorUnitsTransformArray::eSystems system)
+{
+    const int feetAndInches = 13;
+    const int degreesAndMinutes = 2008;
+    switch (system)
+    {
+        case VorUnitsTransformArray::kDistance: return { feetAndInches, kLengthMarks, 2 };
+        case VorUnitsTransformArray::kAngle: return { degreesAndMinutes, kAngleMarks, 3 };
+        default: return { 0, nullptr, 0 };
+    }
+}
+
+bool isBlank(wchar_t character)
+{
+    return character == L' ' || character == L'\t' || character == L'\u00A0';
+}
+
+void skipBlanks(const wchar_t*& p)
+{
+    while (isBlank(*p))
+        ++p;
+}
+
+// One quantity from its first character to its last.
+class Parser
+{
+public:
+    Parser(const VorUnitDefinition& unit, const VorString& text)
+        : m_unit(unit), m_marks(marksOf(unit.system)), m_p(text.getStringW()), m_pEnd(m_p + text.length())
+    {
+    }
+
+    // Sets `value` only where nothing is wrong.
+    eFault parse(double& value)
+    {
+        if (m_p + std::wcslen(m_p) != m_pEnd)
+            return kNoQuantity; // a zero character would hide what is behind it
+        skipBlanks(m_p);
+        const bool isNegative = *m_p == L'-';
+        if (isNegative || *m_p == L'+')
+            ++m_p;
+        double size = 0;
+        const eFault fault = parseSize(size);
+        if (fault != kNoFault)
+            return fault;
+        if (!std::isfinite(size))
+            return kTooLarge;
+        value = isNegative ? -size : size;
+        return kNoFault;
+    }
+
+    // What stands behind the number; the unit, where that is at fault.
+    const std::wstring& symbol() const { return m_symbol; }
+
+private:
+    eFault parseSize(double& size)
+    {
+        VorQuantityNumber number;
+        if (!number.scan(m_p))
+            return kNoQuantity;
+        if (*m_p == L',')
+            return kGrouped;
+        skipBlanks(m_p);
+        return findMark(0) < m_marks.numMarks ? parseMarked(number, size) : parsePlain(number, size);
+    }
+
+    // plain := number [ unit ]
+    eFault parsePlain(const VorQuantityNumber& number, double& size)
+    {
+        m_symbol = m_p;
+        while (!m_symbol.empty() && isBlank(m_symbol.back()))
+            m_symbol.pop_back();
+        if (!m_symbol.empty() && m_symbol[0] >= L'0' && m_symbol[0] <= L'9')
+            return kGrouped;
+        const VorUnitDefinition* const pUnit =
+            m_symbol.empty() ? &m_unit : VorUnitsTransformArray::findUnit(VorString(m_symbol.c_str()));
+        if (pUnit == nullptr)
+            return kUnknownUnit;
+        if (pUnit->system != m_unit.system)
+            return kOtherKind;
+        if (pUnit->layout != VorUnitDefinition::kPlainNumber)
+            return kNoMark;
+        size = VorUnitTransform(pUnit->number, 0).toInternalUnits(number.toDouble(0));
+        return kNoFault;
+    }
+
+    // marked := number mark { [ blanks | '-' ] number mark }, each mark smaller than the one before it
+    eFault parseMarked(VorQuantityNumber number, double& size)
+    {
+        int mark = findMark(0);
+        std::uint64_t carried = 0; // what the larger marks were, in units of this one
+        ++m_p;
+        for (skipSeparator(); *m_p != 0; skipSeparator())
+        {
+            if (!number.isWhole())
+                return kInnerNotWhole;
+            carried += number.wholeNumber();
+            number = VorQuantityNumber();
+            if (!number.scan(m_p))
+                return kNoQuantity;
+            skipBlanks(m_p);
+            const int next = findMark(mark + 1);
+            if (next == m_marks.numMarks)
+                return *m_p == 0 ? kNoMark : kNoQuantity;
+            ++m_p;
+            const unsigned int ratio = m_marks.pMarks[mark].size / m_marks.pMarks[next].size;
+            if (!(number.toDouble(0) < ratio))
+                return kInnerTooLarge;
+            carried *= ratio;
+            mark = next;
+        }
+        size = toModel(number.toDouble(carried), m_marks.pMarks[mark].size);
+        return kNoFault;
+    }
+
+    // The first mark from `first` on that stands here; the number of marks when none does.
+    int findMark(int first) const
+    {
+        for (int i = first; i < m_marks.numMarks; ++i)
+            if (*m_p != 0 && std::wcschr(m_marks.pMarks[i].characters, *m_p) != nullptr)
+                return i;
+        return m_marks.numMarks;
+    }
+
+    // A minus belongs to what follows it.
+    void skipSeparator()
+    {
+        skipBlanks(m_p);
+        const wchar_t* p = m_p;
+        if (*p == L'-')
+            skipBlanks(++p);
+        if (*p != 0)
+            m_p = p;
+    }
+
+    // On the decimal digits, as conversions are: 7.1' is 85.2", which a product of doubles misses.
+    double toModel(double number, unsigned int size) const
+    {
+        if (!std::isfinite(number))
+            return number;
+        VorDecimalNumber smallest(number);
+        smallest.multiply(size);
+        return VorUnitTransform(m_marks.unit, 0).toInternalUnits(smallest.toDouble());
+    }
+
+    const VorUnitDefinition& m_unit;
+    const Marks m_marks;
+    const wchar_t* m_p; // what is not read yet, up to a zero character
+    const wchar_t* m_pEnd;
+    std::wstring m_symbol;
+};
+
+const VorUnitDefinition& unitOrMillimetre(int unit)
+{
+    const VorUnitDefinition* const pUnit = VorUnitsTransformArray::findUnit(unit);
+    if (pUnit != nullptr)
+        return *pUnit;
+    VorAssert::vorAssert(L"isUnit( unit )", kSourcePath, __LINE__);
+    return *VorUnitsTransformArray::findUnitOfModel(VorUnitsTransformArray::kDistance);
+}
+
+std::wstring explanationOf(eFault fault, const std::wstring& symbol)
+{
+    switch (fault)
+    {
+        case kGrouped: return L"digits are not grouped, and the decimal sign is a point";
+        case kUnknownUnit: return L"\"" + symbol + L"\" is no unit";
+        case kOtherKind: return L"\"" + symbol + L"\" is a unit of another kind";
+        case kNoMark: return L"every number needs its mark";
+        case kInnerNotWhole: return L"only the last number may have decimals or a fraction";
+        case kInnerTooLarge: return L"inches after feet stay below 12, minutes and seconds below 60";
+        case kTooLarge: return L"the number is too large";
+        case kNoFault:
+        case kNoQuantity: break;
+    }
+    return std::wstring();
+}
+}
+
+VorQuantityReader::VorQuantityReader(int unit) : m_pUnit(&unitOrMillimetre(unit)) {}
+
+int VorQuantityReader::read(const VorString& text, double& value) const
+{
+    return Parser(*m_pUnit, text).parse(value) == kNoFault ? 1 : 0;
+}
+
+VorString VorQuantityReader::explain(const VorString& text) const
+{
+    Parser parser(*m_pUnit, text);
+    double value = 0;
+    const eFault fault = parser.parse(value);
+    return VorString(explanationOf(fault, parser.symbol()).c_str());
+}
