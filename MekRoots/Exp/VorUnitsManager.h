@@ -1,7 +1,7 @@
 // One unit for each kind of quantity: the units in which somebody reads a list.
 //
 //   VorUnitsManager units = VorUnitsManager::imperial();
-//   units.setUnit(VorUnitsTransformArray::kWeight, MEKUnit(1009, 1009, 1));     kilograms all the same
+//   units.setUnit(VorUnitsTransformArray::kWeight, L"kg/1");     kilograms all the same, to one decimal
 //   units.getUnit(VorUnitsTransformArray::kDistance)                        ->  feet and inches to 1/16"
 //
 // A plain value: copies are independent, and one object is for one thread at a time. The units that all threads share
@@ -33,6 +33,10 @@ public:
     // Reports "unit.system() == system" for a unit of another kind, and "isSystem( system )" as getUnit does; nothing
     // changes then.
     void setUnit(VorUnitsTransformArray::eSystems system, const MEKUnit& unit);
+
+    // Takes the unit and the precision that VorUnitNotation reads; 0 with nothing changed, and nothing reported, when
+    // there is no such unit of this kind.
+    int setUnit(VorUnitsTransformArray::eSystems system, const VorString& notation);
 
 private:
     static constexpr int kNumSystems = 7;

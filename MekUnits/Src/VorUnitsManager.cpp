@@ -1,6 +1,7 @@
 #include "MekRoots/Exp/VorUnitsManager.h"
 
 #include "MekRoots/Exp/VorAssert.h"
+#include "MekRoots/Exp/VorUnitNotation.h"
 
 #include <cstddef>
 
@@ -59,6 +60,15 @@ void VorUnitsManager::setUnit(VorUnitsTransformArray::eSystems system, const MEK
         return;
     }
     m_units[static_cast<std::size_t>(index)] = unit;
+}
+
+int VorUnitsManager::setUnit(VorUnitsTransformArray::eSystems system, const VorString& notation)
+{
+    MEKUnit unit = getUnit(system);
+    if (VorUnitNotation::read(notation, unit) == 0 || unit.getVorUnitTransform().system() != system)
+        return 0;
+    setUnit(system, unit);
+    return 1;
 }
 
 // Reports a number that is no kind of quantity and answers -1.

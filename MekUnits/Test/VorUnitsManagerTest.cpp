@@ -1,6 +1,10 @@
 #include "MekRoots/Exp/VorUnitsManager.h"
 
+#include "MekRoots/Exp/VorUnitDefinition.h"
+#include "MekRoots/Exp/VorUnitNotation.h"
 #include "MekRoots/Test/Support/TestSupport.h"
+
+#include <utility>
 
 namespace
 {
@@ -76,6 +80,49 @@ TEST(VorUnitsManagerTest, OneUnitIsReplacedAndTheOthersStay)
     EXPECT_EQ(VorString(L"12.5 kg"), shown(units, Systems::kWeight, 12.5));
     EXPECT_EQ(VorString(L"7'-6\""), shown(units, Systems::kDistance, 2286.0));
     expectSameUnits(VorUnitsManager::imperial(), copy);
+}
+
+TEST(VorUnitsManagerTest, EveryKindIsSetBySymbolAndPrecision)
+{
+    const std::pair<Systems::eSystems, const wchar_t*> kNotations[] = {
+        { Systems::kDistance, L"in/.2" },          { Systems::kAngle, L"gon/3" },
+        { Systems::kWeight, L"short ton/2" },      { Systems::kArea, L"yd2/1" },
+        { Systems::kWeightPerDistance, L"plf/0" }, { Systems::kAreaPerDistance, L"in2/ft/4" },
+        { Systems::kDensity, L"lb/in³/5" },
+    };
+    VorUnitsManager units;
+    for (const auto& [system, notation] : kNotations)
+    {
+        MEKUnit expected(3, 3, 0);
+        ASSERT_EQ(1, VorUnitNotation::read(notation, expected));
+        EXPECT_EQ(1, units.setUnit(system, notation)) << VorString(notation);
+        EXPECT_EQ(expected.unit(), units.getUnit(system).unit());
+        EXPECT_EQ(expected.format(), units.getUnit(system).format());
+    }
+}
+
+TEST(VorUnitsManagerTest, WordsThatAreNoUnitOfTheKindChangeNothing)
+{
+    AssertLog log;
+    VorUnitsManager units;
+
+    EXPECT_EQ(0, units.setUnit(Systems::kWeight, L"mm/1"));
+    EXPECT_EQ(0, units.setUnit(Systems::kWeight, L"kg/10"));
+    EXPECT_EQ(0, units.setUnit(Systems::kWeight, L"furlong"));
+    EXPECT_EQ(0, units.setUnit(Systems::kWeight, L""));
+
+    expectSameUnits(VorUnitsManager::metric(), units);
+    EXPECT_TRUE(log.isEmpty());
+}
+
+TEST(VorUnitsManagerTest, PresetsAreAsPreciseAsTheirUnitsUsuallyAre)
+{
+    for (const VorUnitsManager& units : { VorUnitsManager::metric(), VorUnitsManager::imperial() })
+        for (const Systems::eSystems system : kAllSystems)
+        {
+            const MEKUnit& unit = units.getUnit(system);
+            EXPECT_EQ(Systems::findUnit(unit.unit())->format, unit.format()) << unit.unit();
+        }
 }
 
 TEST(VorUnitsManagerTest, AUnitOfAnotherKindIsReportedAndNotTaken)

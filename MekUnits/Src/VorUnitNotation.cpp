@@ -1,0 +1,101 @@
+#include "MekRoots/Exp/VorUnitNotation.h"
+
+#include "MekRoots/Exp/VorUnitDefinition.h"
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace
+{
+const int kFirstFraction = 1000; // format of a fraction is this and its denominator, as VorUnitTransform takes it
+const int kLargestDenominator = 256;
+const int kMostDecimals = 9;
+const std::size_t kMostDigits = 3; // of a denominator
+
+// A word cut into what names the unit and what is behind the slash.
+struct Pieces
+{
+    std::wstring_view symbol;
+    std::wstring_view precision;
+};
+
+Pieces cutAtLast(std::wstring_view text, std::wstring_view separator)
+{
+    const std::size_t position = text.rfind(separator);
+    if (position == std::wstring_view::npos)
+        return { text, std::wstring_view() };
+    return { text.substr(0, position), text.substr(position + separator.size()) };
+}
+
+// -1 for what is no number of at most kMostDigits digits.
+int numberOf(std::wstring_view text)
+{
+    if (text.empty() || text.size() > kMostDigits)
+        return -1;
+    int number = 0;
+    for (const wchar_t character : text)
+    {
+        if (character < L'0' || character > L'9')
+            return -1;
+        number = number * 10 + static_cast<int>(character - L'0');
+    }
+    return number;
+}
+
+const VorUnitDefinition* findUnit(std::wstring_view symbol)
+{
+    return VorUnitsTransformArray::findUnit(VorString(symbol.data(), static_cast<int>(symbol.size())));
+}
+
+int setDecimals(const VorUnitDefinition* pUnit, int numDecimals, MEKUnit& unit)
+{
+    if (pUnit == nullptr || numDecimals < 0 || numDecimals > kMostDecimals)
+        return 0;
+    unit = MEKUnit(pUnit->number, pUnit->number, numDecimals);
+    return 1;
+}
+
+int setFraction(const VorUnitDefinition* pUnit, int denominator, MEKUnit& unit)
+{
+    if (pUnit == nullptr || denominator < 1 || denominator > kLargestDenominator)
+        return 0;
+    unit = MEKUnit(pUnit->number, pUnit->number, kFirstFraction + denominator);
+    return 1;
+}
+}
+
+// word := unit | unit '/' number | unit '/.' decimals | unit '/1/' denominator
+int VorUnitNotation::read(const VorString& text, MEKUnit& unit)
+{
+    const std::wstring_view word(text.getStringW(), static_cast<std::size_t>(text.length()));
+    if (const VorUnitDefinition* const pUnit = findUnit(word)) // before its own slash is taken for that of a precision
+    {
+        unit = MEKUnit(pUnit->number, pUnit->number, pUnit->format);
+        return 1;
+    }
+    const Pieces decimals = cutAtLast(word, L"/.");
+    if (setDecimals(findUnit(decimals.symbol), numberOf(decimals.precision), unit) == 1)
+        return 1;
+    const Pieces fraction = cutAtLast(word, L"/1/");
+    if (setFraction(findUnit(fraction.symbol), numberOf(fraction.precision), unit) == 1)
+        return 1;
+    const Pieces usual = cutAtLast(word, L"/");
+    const VorUnitDefinition* const pUnit = findUnit(usual.symbol);
+    if (pUnit != nullptr && pUnit->layout == VorUnitDefinition::kFeetAndInches)
+        return setFraction(pUnit, numberOf(usual.precision), unit);
+    return setDecimals(pUnit, numberOf(usual.precision), unit);
+}
+
+VorString VorUnitNotation::write(const MEKUnit& unit)
+{
+    const VorUnitDefinition* const pUnit = VorUnitsTransformArray::findUnit(unit.unit());
+    if (pUnit == nullptr)
+        return VorString();
+    const bool isFraction = unit.format() >= kFirstFraction;
+    const bool isUsual = isFraction == (pUnit->layout == VorUnitDefinition::kFeetAndInches);
+    std::wstring text = pUnit->asciiSymbol;
+    text += isUsual ? L"/" : isFraction ? L"/1/" : L"/.";
+    text += std::to_wstring(isFraction ? unit.format() - kFirstFraction : unit.format() % 10);
+    return VorString(text.c_str());
+}
