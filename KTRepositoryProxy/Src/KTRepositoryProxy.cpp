@@ -1,8 +1,13 @@
 #include "MekRoots/Exp/KTRepositoryProxy.h"
 
+#include "MekRoots/Exp/KTIniReader.h"
+
+#include <cstdlib>
+#include <limits>
 #include <map>
 #include <mutex>
 #include <shared_mutex>
+#include <string>
 
 namespace
 {
@@ -11,10 +16,12 @@ struct OrderedByText
     bool operator()(const VorString& a, const VorString& b) const { return VorString::compare(a, b) < 0; }
 };
 
+using Settings = std::map<VorString, int, OrderedByText>;
+
 struct Repository
 {
     std::shared_mutex mutex;
-    std::map<VorString, int, OrderedByText> values; // guarded by mutex
+    Settings values; // guarded by mutex
 };
 
 // Made at the first call, which may come from the initialisation of another library.
@@ -22,6 +29,62 @@ Repository& repository()
 {
     static Repository theRepository;
     return theRepository;
+}
+
+void setDefaults(const Settings& settings)
+{
+    Repository& theRepository = repository();
+    const std::unique_lock<std::shared_mutex> lock(theRepository.mutex);
+    for (const auto& [key, value] : settings)
+        theRepository.values[key] = value;
+}
+
+// False, with `number` untouched, for anything but digits with an optional sign, and for what 32 bits cannot hold.
+bool readWholeNumber(const wchar_t* pText, int& number)
+{
+    const bool isNegative = *pText == L'-';
+    if (isNegative || *pText == L'+')
+        ++pText;
+    const wchar_t* const pDigits = pText;
+    long long read = 0;
+    for (; *pText >= L'0' && *pText <= L'9' && read <= std::numeric_limits<int>::max(); ++pText)
+        read = read * 10 + (*pText - L'0');
+    read = isNegative ? -read : read;
+    if (*pText != 0 || pText == pDigits || read > std::numeric_limits<int>::max() ||
+        read < std::numeric_limits<int>::min())
+        return false;
+    number = static_cast<int>(read);
+    return true;
+}
+
+// Adds the setting; false with a fault for a value that is no whole number.
+bool addSetting(const VorString& key, const VorString& value, Settings& settings, VorString& fault)
+{
+    if (readWholeNumber(value.getStringW(), settings[key]))
+        return true;
+    fault = L"found \"";
+    fault += value;
+    fault += L"\" for ";
+    fault += key;
+    fault += L", expected a whole number";
+    return false;
+}
+
+// The value of an environment variable; whole numbers are ASCII, and other bytes need only stay other characters.
+VorString variableOf(const char* pValue)
+{
+    std::wstring text;
+    for (; *pValue != 0; ++pValue)
+        text += *pValue > 0 ? static_cast<wchar_t>(*pValue) : L'?';
+    return VorString(text.c_str());
+}
+
+const char* findVariable(const wchar_t* pKey)
+{
+    std::string name;
+    for (; *pKey != 0; ++pKey)
+        name += static_cast<char>(*pKey);
+    return std::getenv(name.c_str()); // NOLINT(concurrency-mt-unsafe): the header tells
 }
 }
 
@@ -55,4 +118,37 @@ void KTRepositoryProxy::clear()
     Repository& theRepository = repository();
     const std::unique_lock<std::shared_mutex> lock(theRepository.mutex);
     theRepository.values.clear();
+}
+
+int KTRepositoryProxy::readIni(const VorString& text, int& line, VorString& fault)
+{
+    Settings settings;
+    KTIniReader reader(text);
+    VorString found;
+    while (reader.next() == 1 && addSetting(reader.key(), reader.value(), settings, found))
+    {
+    }
+    if (found.isEmpty())
+        found = reader.fault();
+    if (!found.isEmpty())
+    {
+        line = reader.line();
+        fault = found;
+        return 0;
+    }
+    setDefaults(settings);
+    return 1;
+}
+
+int KTRepositoryProxy::readEnvironment(VorString& fault)
+{
+    Settings settings;
+    for (const wchar_t* const key : kDisplayKeys)
+    {
+        const char* const pValue = findVariable(key);
+        if (pValue != nullptr && !addSetting(key, variableOf(pValue), settings, fault))
+            return 0;
+    }
+    setDefaults(settings);
+    return 1;
 }

@@ -1,0 +1,76 @@
+#include "MekRoots/Exp/KTIniReader.h"
+
+#include <algorithm>
+
+namespace
+{
+const wchar_t kByteOrderMark = L'\uFEFF';
+
+std::wstring trimmed(const std::wstring& text)
+{
+    const wchar_t* const blanks = L" \t\r";
+    const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());
+    return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
+}
+
+bool isComment(const std::wstring& line)
+{
+    return line.empty() || line[0] == L';' || line[0] == L'#';
+}
+
+bool isSection(const std::wstring& line)
+{
+    return line.size() > 2 && line.front() == L'[' && line.back() == L']';
+}
+
+VorString textOf(const std::wstring& text)
+{
+    return VorString(text.data(), static_cast<int>(text.size()));
+}
+}
+
+KTIniReader::KTIniReader(const VorString& text) : m_text(text.getStringW(), static_cast<std::size_t>(text.length()))
+{
+    if (!m_text.empty() && m_text[0] == kByteOrderMark)
+        m_nNext = 1;
+}
+
+int KTIniReader::next()
+{
+    while (m_fault.isEmpty() && m_nNext < m_text.size())
+    {
+        const std::wstring line = trimmed(takeLine());
+        if (!isComment(line) && !isSection(line))
+            return readEntry(line);
+    }
+    return 0;
+}
+
+std::wstring KTIniReader::takeLine()
+{
+    const std::size_t begin = m_nNext;
+    const std::size_t end = std::min(m_text.find(L'\n', begin), m_text.size());
+    m_nNext = end + 1;
+    ++m_nLine;
+    return m_text.substr(begin, end - begin);
+}
+
+// entry := key '=' value
+int KTIniReader::readEntry(const std::wstring& line)
+{
+    const std::size_t equals = line.find(L'=');
+    const std::wstring key = trimmed(line.substr(0, equals));
+    if (equals == std::wstring::npos || key.empty())
+        return fail(line, L"a line such as key = value");
+    if (!m_lineOfKey.emplace(key, m_nLine).second)
+        return fail(key, (L"it once, as in line " + std::to_wstring(m_lineOfKey[key])).c_str());
+    m_key = textOf(key);
+    m_value = textOf(trimmed(line.substr(equals + 1)));
+    return 1;
+}
+
+int KTIniReader::fail(const std::wstring& found, const wchar_t* expected)
+{
+    m_fault = textOf(L"found \"" + found + L"\", expected " + expected);
+    return 0;
+}
