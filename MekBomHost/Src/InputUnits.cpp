@@ -1,55 +1,63 @@
 #include "InputUnits.h"
 
+#include "UnitKinds.h"
 #include "Utf8.h"
 
-#include "MekRoots/Exp/VorUnitsTransformArray.h"
-
-#include <string_view>
+#include "MekRoots/Exp/VorUnitDefinition.h"
 
 namespace mekbom::InputUnits
 {
 namespace
 {
 using Units = VorBomTemplateUnits;
-using Systems = VorUnitsTransformArray;
+using Catalogue = VorUnitsTransformArray;
 
-struct Kind
+MEKUnit unitOf(const VorUnitDefinition& definition)
 {
-    Units::eTokenUnitType kind;
-    Systems::eSystems system;
-    std::string_view expectation;
-};
+    return MEKUnit(definition.number, definition.number, definition.format);
+}
 
-const Kind kKinds[] = {
-    { Units::kDistanceUnit, Systems::kDistance, "a unit of distance such as mm, m, in or ft" },
-    { Units::kWeightUnit, Systems::kWeight, "a unit of weight such as kg or lb" },
-    { Units::kAreaUnit, Systems::kArea, "a unit of area such as mm2, m2 or ft2" },
-    { Units::kAngleUnit, Systems::kAngle, "a unit of angle such as rad or deg" },
-    { Units::kWeightPerDistanceUnit, Systems::kWeightPerDistance,
-      "a unit of weight per distance such as kg/m or lb/ft" },
-    { Units::kAreaPerDistanceUnit, Systems::kAreaPerDistance, "a unit of area per distance such as m2/m or ft2/ft" },
-    { Units::kDensityUnit, Systems::kDensity, "a unit of density such as kg/m3 or lb/ft3" },
-};
-
-const int kAnyDecimals = 2; // nothing is shown through an input unit
+VorUnitDefinition::eLayout layoutOf(const MEKUnit& unit)
+{
+    return Catalogue::findUnit(unit.unit())->layout;
+}
 }
 
 std::optional<MEKUnit> find(const std::string& symbol, Units::eTokenUnitType kind)
 {
-    const VorString wideSymbol = Utf8::toWide(symbol);
-    int unit = 0;
-    for (const Kind& known : kKinds)
-        if ((kind == Units::kNoUnit || kind == known.kind) && symbol != "ft-in" &&
-            Systems::findUnit(known.system, wideSymbol, unit) == 1)
-            return MEKUnit(unit, unit, kAnyDecimals);
-    return std::nullopt;
+    const VorUnitDefinition* const pUnit = Catalogue::findUnit(Utf8::toWide(symbol));
+    const UnitKind* const pKind = UnitKinds::find(kind);
+    if (pUnit == nullptr || (kind != Units::kNoUnit && (pKind == nullptr || pKind->system != pUnit->system)))
+        return std::nullopt;
+    return unitOf(*pUnit);
+}
+
+std::optional<MEKUnit> ofModel(Units::eTokenUnitType kind)
+{
+    const UnitKind* const pKind = UnitKinds::find(kind);
+    if (pKind == nullptr)
+        return std::nullopt;
+    return unitOf(*Catalogue::findUnitOfModel(pKind->system));
+}
+
+bool takesPlainNumbers(const MEKUnit& unit)
+{
+    return layoutOf(unit) == VorUnitDefinition::kPlainNumber;
 }
 
 std::string expectation(Units::eTokenUnitType kind)
 {
-    for (const Kind& known : kKinds)
-        if (known.kind == kind)
-            return std::string(known.expectation);
-    return "a unit such as mm, m, ft, kg, lb or m2";
+    const UnitKind* const pKind = UnitKinds::find(kind);
+    return pKind != nullptr ? pKind->expectation : "a unit such as mm, m, ft, kg, lb or m2";
+}
+
+std::string cellExpectation(const MEKUnit& unit)
+{
+    switch (layoutOf(unit))
+    {
+        case VorUnitDefinition::kFeetAndInches: return "feet and inches such as 7'-6 1/2\"";
+        case VorUnitDefinition::kDegreesAndMinutes: return "degrees and minutes such as 12°30'";
+        default: return "a number";
+    }
 }
 }

@@ -1,9 +1,8 @@
-// The units in which a parts list may give its numbers: those of the units catalogue, by their symbols.
+// The units in which a parts list may give its numbers: those of the units catalogue, by their symbols and names.
 //
 //   InputUnits::find("ft", kDistanceUnit)->getVorUnitTransform().toInternalUnits(7.5)   ->  2286 mm
 //   InputUnits::find("ft", kWeightUnit)                                                 ->  nothing
-//
-// "ft-in" is none of them: it is a way to write lengths, not a unit of plain numbers.
+//   InputUnits::ofModel(kWeightUnit)                                                    ->  kg
 #pragma once
 
 #include "VorBomTemplateUnits.h"
@@ -18,6 +17,15 @@ namespace mekbom::InputUnits
 // The unit written `symbol` that measures `kind`; of any kind for kNoUnit, since nothing is known then.
 std::optional<MEKUnit> find(const std::string& symbol, VorBomTemplateUnits::eTokenUnitType kind);
 
+// The unit that numbers of this kind are in when nobody names one; nothing for a type that has no unit.
+std::optional<MEKUnit> ofModel(VorBomTemplateUnits::eTokenUnitType kind);
+
+// Whether numbers alone are quantities in the unit: not in feet and inches, nor in degrees, minutes and seconds.
+bool takesPlainNumbers(const MEKUnit& unit);
+
 // What a message says was expected:  "a unit of distance such as mm, m, in or ft"
 std::string expectation(VorBomTemplateUnits::eTokenUnitType kind);
+
+// What a message says was expected in a cell:  "a number", "feet and inches such as 7'-6 1/2\""
+std::string cellExpectation(const MEKUnit& unit);
 }

@@ -4,6 +4,7 @@
 #include "VorBomDataValue.h"
 
 #include "MekRoots/Exp/MEKUnit.h"
+#include "MekRoots/Exp/VorQuantityReader.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <optional>
@@ -23,6 +24,8 @@ struct PartsColumn
     // the catalogue of tokens does not know and that has no unit.
     VorBomDataValue::eBomDataValueType type = VorBomDataValue::kUnknownData;
     std::optional<MEKUnit> unit;
+    std::optional<VorQuantityReader> quantities; // for cells of numbers whose kind is known; else they name no unit
+    bool takesPlainNumbers = true;
     bool isHandle = false; // the identity of the object, beside being a datum
     bool isWanted = false; // some section asks for it; cells of other columns are only checked
 };

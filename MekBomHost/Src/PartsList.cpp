@@ -122,7 +122,7 @@ void PartsList::resolveColumn(PartsColumn& column, const VorBomTemplateUnits& un
 {
     column.type = column.isHandle ? VorBomDataValue::kStringData : typeInCatalogue(column.tupleToken);
     if (column.unitSymbol.empty())
-        return;
+        return resolveQuantities(column, InputUnits::ofModel(units.getUnitType(column.tupleToken)));
     if (column.type == VorBomDataValue::kUnknownData)
         column.type = VorBomDataValue::kDoubleData;
     resolveUnit(column, units);
@@ -139,6 +139,15 @@ void PartsList::resolveUnit(PartsColumn& column, const VorBomTemplateUnits& unit
     column.unit = InputUnits::find(column.unitSymbol, kind);
     if (!column.unit)
         throw Fault(status, found + InputUnits::expectation(kind));
+    column.takesPlainNumbers = InputUnits::takesPlainNumbers(*column.unit);
+    resolveQuantities(column, column.unit);
+}
+
+// A cell may name another unit than its column, as long as it is of the same kind.
+void PartsList::resolveQuantities(PartsColumn& column, const std::optional<MEKUnit>& unit)
+{
+    if (unit && column.type == VorBomDataValue::kDoubleData)
+        column.quantities.emplace(unit->unit());
 }
 
 std::string PartsList::placeOfUnit(const PartsColumn& column) const

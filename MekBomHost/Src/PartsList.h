@@ -6,7 +6,8 @@
 //   parts.readRows(*pTemplate, filter);    into the template's data
 //
 // The catalogue of tokens decides what type a column has; a column it does not know has the type of its content
-// (ContentColumn). "Handle" is the identity of the object. Everything that is wrong is thrown as one Fault.
+// (ContentColumn). A cell of lengths, weights and other quantities may carry a unit of its own, as in "7'-6 1/2\"" and
+// "7.5 ft". "Handle" is the identity of the object. Everything that is wrong is thrown as one Fault.
 #pragma once
 
 #include "ByteSource.h"
@@ -16,6 +17,7 @@
 
 #include "VorBomTemplate.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -45,6 +47,7 @@ private:
     void addColumn(const std::string& field);
     void resolveColumn(PartsColumn& column, const VorBomTemplateUnits& units) const;
     void resolveUnit(PartsColumn& column, const VorBomTemplateUnits& units) const;
+    static void resolveQuantities(PartsColumn& column, const std::optional<MEKUnit>& unit);
     std::string placeOfUnit(const PartsColumn& column) const;
 
     CsvReader m_reader;

@@ -1,6 +1,7 @@
 #include "PartsRows.h"
 
 #include "CellNumber.h"
+#include "InputUnits.h"
 #include "MessageText.h"
 #include "Utf8.h"
 
@@ -81,12 +82,25 @@ void PartsRows::checkCell(const CsvReader& reader, std::size_t column)
                  CellNumber::isWhole(text) ? "a whole number from -2147483648 to 2147483647" : "a whole number");
     if (m_columns[column].type != VorBomDataValue::kDoubleData)
         return;
-    if (!CellNumber::parse(text, cell.number))
-        return addFault(reader, column, "a number");
+    if (!m_columns[column].takesPlainNumbers || !CellNumber::parse(text, cell.number))
+        return checkQuantity(reader, column);
     if (m_columns[column].unit)
         cell.number = m_columns[column].unit->getVorUnitTransform().toInternalUnits(cell.number);
     if (!std::isfinite(cell.number))
         addFault(reader, column, "a smaller number");
+}
+
+// A cell that is more than a number.
+void PartsRows::checkQuantity(const CsvReader& reader, std::size_t column)
+{
+    const PartsColumn& properties = m_columns[column];
+    const VorString text = Utf8::toWide(reader.field(column));
+    if (properties.quantities && properties.quantities->read(text, m_cells[column].number) == 1)
+        return;
+    const std::string hint = properties.quantities ? Utf8::toBytes(properties.quantities->explain(text)) : "";
+    addFault(reader, column,
+             (properties.unit ? InputUnits::cellExpectation(*properties.unit) : "a number") +
+                 (hint.empty() ? "" : ": " + hint));
 }
 
 void PartsRows::addFault(const CsvReader& reader, std::size_t column, const std::string& expected)

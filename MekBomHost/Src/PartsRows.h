@@ -49,6 +49,7 @@ private:
 
     bool checkNumFields(const CsvReader& reader);
     void checkCell(const CsvReader& reader, std::size_t column);
+    void checkQuantity(const CsvReader& reader, std::size_t column);
     void addFault(const CsvReader& reader, std::size_t column, const std::string& expected);
     void buildRow(const CsvReader& reader);
     void addDatum(VorBomDataRow& row, std::string_view text, std::size_t column);

@@ -1,5 +1,7 @@
 #include "InputUnits.h"
 
+#include "UnitKinds.h"
+
 #include <gtest/gtest.h>
 
 namespace mekbom
@@ -57,10 +59,28 @@ TEST(InputUnitsTest, UnitsOfAnotherKindAreNotFound)
     EXPECT_FALSE(InputUnits::find("", Units::kNoUnit));
 }
 
-TEST(InputUnitsTest, FeetAndInchesAreNoUnitOfPlainNumbers)
+TEST(InputUnitsTest, FeetAndInchesTakeNoPlainNumbers)
 {
-    EXPECT_FALSE(InputUnits::find("ft-in", Units::kDistanceUnit));
-    EXPECT_FALSE(InputUnits::find("ft-in", Units::kNoUnit));
+    EXPECT_FALSE(InputUnits::takesPlainNumbers(*InputUnits::find("ft-in", Units::kDistanceUnit)));
+    EXPECT_FALSE(InputUnits::takesPlainNumbers(*InputUnits::find("deg-min-sec", Units::kAngleUnit)));
+    EXPECT_TRUE(InputUnits::takesPlainNumbers(*InputUnits::find("ft", Units::kDistanceUnit)));
+}
+
+TEST(InputUnitsTest, EveryKindHasItsUnitOfTheModel)
+{
+    for (const UnitKind& kind : UnitKinds::all())
+        EXPECT_EQ(2.5, InputUnits::ofModel(kind.type)->getVorUnitTransform().toInternalUnits(2.5)) << kind.name;
+    EXPECT_FALSE(InputUnits::ofModel(Units::kNoUnit));
+    EXPECT_FALSE(InputUnits::ofModel(Units::kReservedUnitType));
+}
+
+TEST(InputUnitsTest, MessagesSayWhatACellIsExpectedToHold)
+{
+    EXPECT_EQ("a number", InputUnits::cellExpectation(*InputUnits::find("ft", Units::kNoUnit)));
+    EXPECT_EQ("feet and inches such as 7'-6 1/2\"",
+              InputUnits::cellExpectation(*InputUnits::find("ft-in", Units::kNoUnit)));
+    EXPECT_EQ("degrees and minutes such as 12°30'",
+              InputUnits::cellExpectation(*InputUnits::find("dms", Units::kNoUnit)));
 }
 
 TEST(InputUnitsTest, MessagesSayWhatKindIsExpected)

@@ -163,6 +163,46 @@ TEST(PartsListTest, UnitsOfTheUserConvert)
     EXPECT_EQ(VorString(L"2.5e+06"), shown.pTemplate->getBomData()->child()->getData()[0].value().asString());
 }
 
+TEST(PartsListTest, CellsMayCarryUnitsOfTheirOwn)
+{
+    EXPECT_EQ(": [%Length d 2298.7] [%Weight d 45.3592]\n"
+              ": [%Length d 2286] [%Weight d 5]\n"
+              ": [%Length d 6000] [%Weight d 1000]\n",
+              rowsOf("Length,Weight\n\"7'-6 1/2\"\"\",100 lb\n7.5 ft,5\n6000,1 t\n"));
+    EXPECT_EQ(": [%Length d 304.8]\n: [%Length d 25.4]\n: [%Length d 10]\n", rowsOf("Length [ft]\n1\n1 in\n10 mm\n"));
+    EXPECT_EQ(": [%Cut d 25.4]\n: [%Cut d 304.8]\n", rowsOf("Cut [in]\n1\n1'\n"));
+}
+
+TEST(PartsListTest, ColumnsOfFeetAndInchesTakeMarksAndOtherUnits)
+{
+    EXPECT_EQ(": [%Length d 2286]\n: [%Length d 2000]\n", rowsOf("Length [ft-in]\n\"7'-6\"\"\"\n2 m\n"));
+    EXPECT_EQ("3 parts.csv:2: column \"Length [ft-in]\": found \"90\", expected feet and inches such as 7'-6 1/2\": "
+              "every number needs its mark\n",
+              faultIn("Length [ft-in]\n90\n"));
+    EXPECT_EQ("3 parts.csv:2: column \"Bevel [deg-min-sec]\": found \"x\", expected degrees and minutes such as "
+              "12\u00B030'\n",
+              faultIn("Bevel [deg-min-sec]\nx\n"));
+}
+
+TEST(PartsListTest, CellsThatAreNoQuantitiesAreNamedWithTheirPlace)
+{
+    EXPECT_EQ("3 parts.csv:2: column \"Length\": found \"7.5 fot\", expected a number: \"fot\" is no unit\n"
+              "3 parts.csv:3: column \"Length\": found \"7.5 kg\", expected a number: \"kg\" is a unit of another "
+              "kind\n"
+              "3 parts.csv:4: column \"Length\": found \"1,234.5\", expected a number: digits are not grouped, and the "
+              "decimal sign is a point\n"
+              "3 parts.csv:5: column \"Length\": found \"7'-6\", expected a number: every number needs its mark\n"
+              "3 parts.csv:6: column \"Length\": found \"nan\", expected a number\n",
+              faultIn("Length\n7.5 fot\n7.5 kg\n\"1,234.5\"\n7'-6\nnan\n"));
+}
+
+TEST(PartsListTest, NumbersOfNoKindCarryNoUnits)
+{
+    EXPECT_EQ(": [%Cut t 7.5 ft]\n", rowsOf("Cut\n7.5 ft\n"));
+    EXPECT_EQ("3 parts.csv:2: column \"Quantity\": found \"4 kg\", expected a whole number\n",
+              faultIn("Quantity\n4 kg\n"));
+}
+
 TEST(PartsListTest, UnitsThatDoNotFitAreNamed)
 {
     EXPECT_EQ("3 parts.csv:1: column \"Length [kg]\": found unit \"kg\", expected a unit of distance such as mm, m, in "
@@ -201,7 +241,8 @@ TEST(PartsListTest, CellsThatAreNoNumbersAreNamedWithTheirPlace)
               "3 parts.csv:4: column \"%Quantity\": found \"2.5\", expected a whole number\n"
               "3 parts.csv:5: column \"%Quantity\": found \"3000000000\", expected a whole number from -2147483648 to "
               "2147483647\n"
-              "3 parts.csv:6: column \"Weight\": found \"1,5\", expected a number\n",
+              "3 parts.csv:6: column \"Weight\": found \"1,5\", expected a number: digits are not grouped, and the "
+              "decimal sign is a point\n",
               faultIn("Weight,%Quantity\n1,1\nabc,1\n1,2.5\n1,3000000000\n\"1,5\",1\n"));
 }
 

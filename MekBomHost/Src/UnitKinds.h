@@ -1,0 +1,39 @@
+// The kinds of quantity that parts lists carry and lists show, by the words that users have for them.
+//
+//   UnitKinds::find("length")->system              ->  VorUnitsTransformArray::kDistance
+//   UnitKinds::find(kWeightUnit)->expectation      ->  "a unit of weight such as kg or lb"
+#pragma once
+
+#include "VorBomTemplateUnits.h"
+
+#include "MekRoots/Exp/VorUnitsTransformArray.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace mekbom
+{
+struct UnitKind
+{
+    const char* name;      // as the command line and units files have it
+    const char* otherName; // a second word for the same; empty without one
+    VorBomTemplateUnits::eTokenUnitType type;
+    VorUnitsTransformArray::eSystems system;
+    const char* expectation; // what a message says was expected
+};
+
+namespace UnitKinds
+{
+// In the order in which they are listed to users.
+const std::vector<UnitKind>& all();
+
+// Null when there is none; kNoUnit and kReservedUnitType have none.
+const UnitKind* find(std::string_view name);
+const UnitKind* find(VorBomTemplateUnits::eTokenUnitType type);
+const UnitKind* find(VorUnitsTransformArray::eSystems system);
+
+// "length, angle, weight ..."
+std::string names();
+}
+}
