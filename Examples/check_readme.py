@@ -35,7 +35,7 @@ def main():
     text = pathlib.Path(readme).read_text(encoding="utf-8")
     code = [line.strip() for line in pathlib.Path(source).read_text(encoding="utf-8").splitlines()]
     hall = [mekbom, "report", "--data", here / "hall.csv", "--template", here / "Templates/cutting-list.json"]
-    printed = [subprocess.run(command, check=True, capture_output=True, text=True).stdout.splitlines()
+    printed = [subprocess.run(command, check=True, capture_output=True, encoding="utf-8").stdout.splitlines()
                for command in ([embed], hall)]
 
     wrong = [block for block in blocks(text, "cpp")

@@ -11,9 +11,10 @@
 
 namespace mekbom
 {
-Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units) : m_template(std::move(reportTemplate))
+Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units)
+    : m_template(std::move(reportTemplate)), m_units(units)
 {
-    engineTemplate().setUnitsForTokens(&units);
+    engineTemplate().setUnitsForTokens(&m_units);
     engineTemplate().findUsedTokens();
 }
 
@@ -40,7 +41,7 @@ std::string Report::list()
 
 void Report::writeTable(TextSink& sink)
 {
-    const TableLayout layout(m_template, *engineTemplate().getBomData());
+    const TableLayout layout(m_template, m_units);
     TableWriter(m_template.title, layout, m_result).write(sink);
 }
 }

@@ -1,10 +1,11 @@
 #include "TableLayout.h"
 
+#include "ColumnType.h"
+#include "ColumnUnit.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
 #include "VorBomDataTuple.h"
-#include "VorBomTokenCatalogue.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -13,40 +14,26 @@ namespace mekbom
 {
 namespace
 {
-using Value = VorBomDataValue;
-
-// Of the first row that has the datum.
-Value::eBomDataValueType typeInData(const VorBomData& data, const VorString& token)
-{
-    for (const VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
-        if (const VorBomDataTuple* const pTuple = pRow->getTupleAt(token))
-            return pTuple->value().type();
-    return Value::kUnknownData;
-}
-
-VorString withoutSumPrefix(const VorString& token)
-{
-    VorString summed;
-    return VorBomDataToken(token).getSummingRequest(summed) == 1 ? summed : token;
-}
-
 bool isNumeric(const VorBomData& data, const VorString& token)
 {
-    const VorString datum = withoutSumPrefix(token);
-    if (VorBomDataToken::isFormula(datum) == 1)
-        return true;
-    const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(datum);
-    const Value::eBomDataValueType type = pEntry != nullptr ? pEntry->type : typeInData(data, datum);
-    return type == Value::kIntData || type == Value::kDoubleData;
+    const VorBomDataValue::eBomDataValueType type = ColumnType::typeOf(data, token);
+    return type == VorBomDataValue::kIntData || type == VorBomDataValue::kDoubleData;
 }
 
 // "%Weight" -> "Weight", "%Formula:%Length/1000" -> "%Length/1000"
 std::string labelOf(const VorString& token)
 {
-    VorString label = withoutSumPrefix(token);
+    VorString label = ColumnType::datumOf(token);
     if (VorBomDataToken::removeFormulaPrefix(label) == 0 && label.find(VorBomDataToken::kTokenPrefix, 0) == 0)
         label = label.right(label.length() - 1);
     return Utf8::toBytes(label);
+}
+
+// Half a unit would be another unit: the column has room for it, as it has for its numbers.
+int fixedWidthOf(const ColumnStyle& style, const std::string& symbol)
+{
+    const int symbolWidth = symbol.empty() ? 0 : Utf8::displayWidth("[" + symbol + "]");
+    return style.width == 0 ? 0 : std::max(style.width, symbolWidth);
 }
 
 bool holds(const std::vector<int>& columns, int column)
@@ -70,7 +57,8 @@ void placeLabel(TableSection& section, std::size_t numColumns)
 }
 }
 
-TableLayout::TableLayout(const ReportTemplate& reportTemplate, const VorBomData& data) : m_template(reportTemplate)
+TableLayout::TableLayout(const ReportTemplate& reportTemplate, const VorUnitsManager& units)
+    : m_template(reportTemplate)
 {
     for (const ColumnStyle& style : m_template.columns)
         addColumn(style.token);
@@ -82,7 +70,7 @@ TableLayout::TableLayout(const ReportTemplate& reportTemplate, const VorBomData&
         level.canShareLine = canShareLine(level.header, level.footer);
     }
     for (TableColumn& column : m_columns)
-        completeColumn(column, data);
+        completeColumn(column, units);
 }
 
 // In the order in which the lines of one group come: headers from the outside in, footers from the inside out.
@@ -122,9 +110,7 @@ int TableLayout::columnOfTuple(const VorBomItemBase& section, int tupleIndex, co
         return -1;
     const VorString& tupleToken = section.getData()[tupleIndex].token().token();
     const int column = columnFor(token, tupleToken, taken);
-    VorString& shownToken = m_columns[static_cast<std::size_t>(column)].shownToken;
-    if (shownToken.isEmpty() == 1)
-        shownToken = tupleToken;
+    m_columns[static_cast<std::size_t>(column)].shownTokens.push_back(tupleToken);
     return column;
 }
 
@@ -156,19 +142,22 @@ int TableLayout::addColumn(const VorString& token)
     return static_cast<int>(m_columns.size()) - 1;
 }
 
-void TableLayout::completeColumn(TableColumn& column, const VorBomData& data) const
+void TableLayout::completeColumn(TableColumn& column, const VorUnitsManager& units) const
 {
+    VorBomTemplate& reportTemplate = *m_template.pTemplate;
     const auto style =
         std::find_if(m_template.columns.begin(), m_template.columns.end(),
                      [&column](const ColumnStyle& candidate) { return candidate.token == column.token; });
-    column.isNumeric = isNumeric(data, column.shownToken);
+    const std::string symbol = ColumnUnit(*reportTemplate.getBomData(), *reportTemplate.getBomTemplateUnits(), units)
+                                   .symbolOf(column.shownTokens);
+    const bool hasLabel = style != m_template.columns.end() && !style->label.empty();
+    column.isNumeric =
+        !column.shownTokens.empty() && isNumeric(*reportTemplate.getBomData(), column.shownTokens.front());
     column.isAlignedRight = column.isNumeric;
-    column.label = labelOf(column.token);
+    column.label = ColumnUnit::headingOf(hasLabel ? style->label : labelOf(column.token), symbol);
     if (style == m_template.columns.end())
         return;
-    column.fixedWidth = style->width;
-    if (!style->label.empty())
-        column.label = style->label;
+    column.fixedWidth = fixedWidthOf(*style, symbol);
     if (style->alignment != ColumnStyle::kByType)
         column.isAlignedRight = style->alignment == ColumnStyle::kRight;
 }

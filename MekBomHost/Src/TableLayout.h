@@ -7,9 +7,8 @@
 
 #include "ReportTemplate.h"
 
-#include "VorBomData.h"
-
 #include "MekRoots/Exp/VorString.h"
+#include "MekRoots/Exp/VorUnitsManager.h"
 
 #include <string>
 #include <vector>
@@ -19,8 +18,8 @@ namespace mekbom
 struct TableColumn
 {
     VorString token;
-    VorString shownToken; // of the first tuple that is shown in it
-    std::string label;    // UTF-8
+    std::vector<VorString> shownTokens; // of the tuples that are shown in it, as the sections come
+    std::string label;                  // UTF-8, with the unit of its numbers
     int fixedWidth = 0;
     bool isNumeric = false; // its texts are never broken: half a number would be another number
     bool isAlignedRight = false;
@@ -46,8 +45,9 @@ struct TableLevel
 class TableLayout
 {
 public:
-    // The data say what type the columns have that the catalogue of tokens does not know.
-    TableLayout(const ReportTemplate& reportTemplate, const VorBomData& data);
+    // The template's data say what type the columns have that the catalogue of tokens does not know. `units` are those
+    // that the template's numbers are shown in.
+    TableLayout(const ReportTemplate& reportTemplate, const VorUnitsManager& units);
 
     const std::vector<TableColumn>& columns() const { return m_columns; }
     const std::vector<TableLevel>& levels() const { return m_levels; }
@@ -59,7 +59,7 @@ private:
     int columnFor(const VorString& token, const VorString& tupleToken, const std::vector<int>& taken);
     int findColumn(const VorString& token) const;
     int addColumn(const VorString& token);
-    void completeColumn(TableColumn& column, const VorBomData& data) const;
+    void completeColumn(TableColumn& column, const VorUnitsManager& units) const;
 
     const ReportTemplate& m_template;
     std::vector<TableColumn> m_columns;

@@ -31,12 +31,12 @@ const char* const kTemplate = R"({ "sections": [
     { "type": "kReportHeader", "children": [ { "type": "kDetails", "tuples": [ { "token": "%Name" }, { "token": "%Weight" } ] } ] },
     { "type": "kReportFooter", "tuples": [ { "token": "%SumBy:%Weight", "value": 0.0 } ] } ] })";
 
-const char* const kTable = "Name    Weight\n"
-                           "------  ------\n"
-                           "HEA200     2.5\n"
-                           "IPE360       4\n"
-                           "------  ------\n"
-                           "           6.5\n";
+const char* const kTable = "Name    Weight [kg]\n"
+                           "------  -----------\n"
+                           "HEA200          2.5\n"
+                           "IPE360            4\n"
+                           "------  -----------\n"
+                           "                6.5\n";
 
 const char* const kMergedNote =
     "mekbom: note: 1 line equal to the one before it was merged into it and is not counted in totals; "
@@ -175,17 +175,18 @@ TEST(ProgramTest, UnitsAreThoseAskedFor)
 {
     const Job job("%Name,%Weight\nA,10\n", kTemplate);
 
-    EXPECT_NE(std::string::npos, job.run("--units metric").output.find("A         10\n"));
-    EXPECT_NE(std::string::npos, job.run("--units imperial").output.find("A         22\n"));
+    EXPECT_NE(std::string::npos, job.run("--units metric").output.find("A              10\n"));
+    EXPECT_NE(std::string::npos, job.run("--units imperial").output.find("A              22\n"));
 }
 
 TEST(ProgramTest, UnitsOfTheDataConvert)
 {
+    EXPECT_NE(
+        std::string::npos,
+        Job("%Name,%Weight\nA,10\n", kTemplate).run("--input-unit %Weight=lb").output.find("A            4.54\n"));
     EXPECT_NE(std::string::npos,
-              Job("%Name,%Weight\nA,10\n", kTemplate).run("--input-unit %Weight=lb").output.find("A       4.54\n"));
-    EXPECT_NE(std::string::npos,
-              Job("%Name,%Weight\nA,10\n", kTemplate).run("--input-unit Weight=lb").output.find("A       4.54\n"));
-    EXPECT_NE(std::string::npos, Job("%Name,Weight [lb]\nA,10\n", kTemplate).run().output.find("A       4.54\n"));
+              Job("%Name,%Weight\nA,10\n", kTemplate).run("--input-unit Weight=lb").output.find("A            4.54\n"));
+    EXPECT_NE(std::string::npos, Job("%Name,Weight [lb]\nA,10\n", kTemplate).run().output.find("A            4.54\n"));
 }
 
 TEST(ProgramTest, DataThatTheTemplateAsksForInVainAreNoted)
@@ -358,7 +359,9 @@ TEST(ProgramTest, TheOutputIsTheSameInEveryLocale)
         const std::string command = std::string("LC_ALL=") + locale + " \"" MEK_PROGRAM "\" report --data \"" +
                                     job.parts() + "\" --template \"" + job.templateFile() + "\" -o \"" + path + "\"";
         ASSERT_EQ(0, std::system(command.c_str()));
-        EXPECT_EQ("Name    Weight\n------  ------\nTräger     2.5\n------  ------\n           2.5\n", readFile(path));
+        EXPECT_EQ(
+            "Name    Weight [kg]\n------  -----------\nTräger          2.5\n------  -----------\n                2.5\n",
+            readFile(path));
     }
 }
 }

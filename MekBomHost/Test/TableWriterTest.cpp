@@ -50,10 +50,10 @@ const char* const kSummary = R"({
 
 TEST(TableWriterTest, TextsStandLeftAndNumbersRight)
 {
-    EXPECT_EQ("Name    Weight\n"
-              "------  ------\n"
-              "HEA200     2.5\n"
-              "L50      100.5\n",
+    EXPECT_EQ("Name    Weight [kg]\n"
+              "------  -----------\n"
+              "HEA200          2.5\n"
+              "L50           100.5\n",
               tableOf(details(kNameAndWeight), "%Name,%Weight\nHEA200,2.5\nL50,100.5\n"));
 }
 
@@ -61,29 +61,29 @@ TEST(TableWriterTest, GroupsOfSeveralLinesAreSetApart)
 {
     EXPECT_EQ("Weights\n"
               "\n"
-              "Material  Name    Weight\n"
-              "--------  ------  ------\n"
+              "Material  Name    Weight [kg]\n"
+              "--------  ------  -----------\n"
               "S235\n"
-              "          IPE360       2\n"
-              "                       2\n"
+              "          IPE360            2\n"
+              "                            2\n"
               "\n"
               "S355\n"
-              "          HEA200    10.5\n"
-              "          IPE450     100\n"
-              "                   110.5\n"
-              "--------  ------  ------\n"
-              "Total              112.5\n",
+              "          HEA200         10.5\n"
+              "          IPE450          100\n"
+              "                        110.5\n"
+              "--------  ------  -----------\n"
+              "Total                   112.5\n",
               tableOf(kGrouped, kParts));
 }
 
 TEST(TableWriterTest, HeaderAndFooterShareALineWhenNothingStandsBetween)
 {
-    EXPECT_EQ("Material  Weight\n"
-              "--------  ------\n"
-              "S235           2\n"
-              "S355       110.5\n"
-              "--------  ------\n"
-              "           112.5\n",
+    EXPECT_EQ("Material  Weight [kg]\n"
+              "--------  -----------\n"
+              "S235                2\n"
+              "S355            110.5\n"
+              "--------  -----------\n"
+              "                112.5\n",
               tableOf(kSummary, kParts));
 }
 
@@ -93,15 +93,15 @@ TEST(TableWriterTest, HeaderAndFooterThatWantTheSameColumnDoNotShareALine)
     both.replace(both.find("{ \"token\": \"%Material\" }"), 24,
                  "{ \"token\": \"%Material\" }, { \"token\": \"%Weight\" }");
 
-    EXPECT_EQ("Material  Weight\n"
-              "--------  ------\n"
-              "S235           2\n"
-              "               2\n"
+    EXPECT_EQ("Material  Weight [kg]\n"
+              "--------  -----------\n"
+              "S235                2\n"
+              "                    2\n"
               "\n"
-              "S355        10.5\n"
-              "           110.5\n"
-              "--------  ------\n"
-              "           112.5\n",
+              "S355             10.5\n"
+              "                110.5\n"
+              "--------  -----------\n"
+              "                112.5\n",
               tableOf(both, kParts));
 }
 
@@ -113,12 +113,12 @@ TEST(TableWriterTest, ATotalCanHaveAColumnOfItsOwn)
         std::string(kNameAndWeight) +
         R"( ] } ] }, { "type": "kReportFooter", "tuples": [ { "token": "%SumBy:%Weight", "value": 0.0 } ] } ] })";
 
-    EXPECT_EQ("Sum  Name  Weight\n"
-              "---  ----  ------\n"
-              "     A          1\n"
-              "     B          2\n"
-              "---  ----  ------\n"
-              "  3\n",
+    EXPECT_EQ("Sum [kg]  Name  Weight [kg]\n"
+              "--------  ----  -----------\n"
+              "          A               1\n"
+              "          B               2\n"
+              "--------  ----  -----------\n"
+              "       3\n",
               tableOf(own, "%Name,%Weight\nA,1\nB,2\n"));
 }
 
@@ -135,9 +135,9 @@ TEST(TableWriterTest, ATupleCanBeShownInAColumnThatItsTemplateNames)
 TEST(TableWriterTest, TwoTuplesOfOneSectionNeverShareAColumn)
 {
     EXPECT_EQ(
-        "Weight  Weight\n"
-        "------  ------\n"
-        "     1       1\n",
+        "Weight [kg]  Weight [kg]\n"
+        "-----------  -----------\n"
+        "          1            1\n",
         tableOf(details(R"({ "token": "%Weight" }, { "token": "%SumBy:%Weight", "value": 1.0 })"), "%Weight\n1\n"));
     EXPECT_EQ("Name  Name\n"
               "----  ----\n"
@@ -173,13 +173,13 @@ TEST(TableWriterTest, ColumnsOfUnknownTokensAreAlignedByTheirData)
 
 TEST(TableWriterTest, TextsWiderThanTheirColumnGoOnBelow)
 {
-    EXPECT_EQ("Name of   Weight\n"
+    EXPECT_EQ("Name of   Weight [kg]\n"
               "the part\n"
-              "--------  ------\n"
-              "Base           1\n"
+              "--------  -----------\n"
+              "Base                1\n"
               "plate,\n"
               "corner\n"
-              "PL20*300       2\n"
+              "PL20*300            2\n"
               "*400\n",
               tableOf(details(kNameAndWeight,
                               R"("columns": [ { "token": "%Name", "label": "Name of the part", "width": 8 } ])"),
@@ -197,6 +197,17 @@ TEST(TableWriterTest, NumbersAreNeverCut)
                       "%Weight\n1234.56\n12\n"));
 }
 
+TEST(TableWriterTest, UnitsInHeadingsAreNeverCut)
+{
+    EXPECT_EQ("   W\n"
+              "[kg]\n"
+              "----\n"
+              "   1\n",
+              tableOf(details(R"({ "token": "%Weight" })",
+                              R"("columns": [ { "token": "%Weight", "label": "W", "width": 2 } ])"),
+                      "%Weight\n1\n"));
+}
+
 TEST(TableWriterTest, FixedColumnsKeepTheirWidth)
 {
     EXPECT_EQ("Name            kg\n"
@@ -209,21 +220,21 @@ TEST(TableWriterTest, FixedColumnsKeepTheirWidth)
 
 TEST(TableWriterTest, WidthsAreThoseOfATerminal)
 {
-    EXPECT_EQ("Name    Weight\n"
-              "------  ------\n"
-              "柱脚板       1\n"
-              "Träger       2\n"
-              "e\xCC\x81            3\n",
+    EXPECT_EQ("Name    Weight [kg]\n"
+              "------  -----------\n"
+              "柱脚板            1\n"
+              "Träger            2\n"
+              "e\xCC\x81                 3\n",
               tableOf(details(kNameAndWeight), "%Name,%Weight\n柱脚板,1\nTräger,2\ne\xCC\x81,3\n"));
 }
 
 TEST(TableWriterTest, LineBreaksInACellStayInItsColumn)
 {
-    EXPECT_EQ("Name  Weight\n"
-              "----  ------\n"
-              "one        1\n"
+    EXPECT_EQ("Name  Weight [kg]\n"
+              "----  -----------\n"
+              "one             1\n"
               "two\n"
-              "a b        2\n",
+              "a b             2\n",
               tableOf(details(kNameAndWeight), "%Name,%Weight\n\"one\r\ntwo\",1\na\tb,2\n"));
 }
 
@@ -241,11 +252,11 @@ TEST(TableWriterTest, ALabelStandsInTheFirstColumnThatIsFree)
         { "type": "kReportHeader", "children": [ { "type": "kDetails", "tuples": [ { "token": "%Weight" }, { "token": "%Name" } ] } ] },
         { "type": "kReportFooter", "label": "All of it", "tuples": [ { "token": "%SumBy:%Weight", "value": 0.0 } ] } ] })";
 
-    EXPECT_EQ("Weight  Name\n"
-              "------  ---------\n"
-              "     1  A\n"
-              "------  ---------\n"
-              "     1  All of it\n",
+    EXPECT_EQ("Weight [kg]  Name\n"
+              "-----------  ---------\n"
+              "          1  A\n"
+              "-----------  ---------\n"
+              "          1  All of it\n",
               tableOf(labelled, "%Name,%Weight\nA,1\n"));
 }
 
@@ -255,12 +266,12 @@ TEST(TableWriterTest, ALabelWithoutFreeColumnStandsAbove)
         { "type": "kReportHeader", "children": [ { "type": "kDetails", "tuples": [ { "token": "%Weight" } ] } ] },
         { "type": "kReportFooter", "label": "Total", "tuples": [ { "token": "%SumBy:%Weight", "value": 0.0 } ] } ] })";
 
-    EXPECT_EQ("Weight\n"
-              "------\n"
-              "     1\n"
-              "------\n"
+    EXPECT_EQ("Weight [kg]\n"
+              "-----------\n"
+              "          1\n"
+              "-----------\n"
               "Total\n"
-              "     1\n",
+              "          1\n",
               tableOf(labelled, "%Weight\n1\n"));
 }
 
@@ -278,8 +289,8 @@ TEST(TableWriterTest, AListWithoutRowsHasItsHeading)
 {
     EXPECT_EQ("Weights\n"
               "\n"
-              "Material  Name  Weight\n"
-              "--------  ----  ------\n",
+              "Material  Name  Weight [kg]\n"
+              "--------  ----  -----------\n",
               tableOf(kGrouped, "%Name,%Material,%Weight\n"));
 }
 
@@ -296,18 +307,18 @@ TEST(TableWriterTest, AFooterWhoseHeaderWasMergedAwayHasALineOfItsOwn)
         { "type": "kDetails", "tuples": [ { "token": "%Weight" } ] },
         { "type": "kGroupFooter", "tuples": [ { "token": "%SumBy:%Weight", "value": 0.0, "column": "%Sum" } ] } ] } ] })";
 
-    EXPECT_EQ("Weight  Sum\n"
-              "------  ---\n"
-              "     1    1\n"
-              "          1\n",
+    EXPECT_EQ("Weight [kg]  Sum [kg]\n"
+              "-----------  --------\n"
+              "          1         1\n"
+              "                    1\n",
               tableOf(footered, "%Name,%Weight\nA,1\nB,1\n"));
 }
 
 TEST(TableWriterTest, LinesHaveNoBlanksAtTheirEnd)
 {
-    EXPECT_EQ("Weight  Name\n"
-              "------  ----\n"
-              "     1\n",
+    EXPECT_EQ("Weight [kg]  Name\n"
+              "-----------  ----\n"
+              "          1\n",
               tableOf(details(R"({ "token": "%Weight" }, { "token": "%Name" })"), "%Name,%Weight\n,1\n"));
 }
 
