@@ -45,7 +45,7 @@ public:
 private:
     ReportTemplate m_template;
     std::vector<const VorBomDataRow*> m_rows; // as they came and lie in memory, where the evaluation chains them anew
-    VorUnitsManager m_units; // that its numbers are shown in
-    VorBomTemplate m_result; // its sections refer to the rows of m_template
+    VorUnitsManager m_units;                  // that its numbers are shown in
+    VorBomTemplate m_result;                  // its sections refer to the rows of m_template
 };
 }

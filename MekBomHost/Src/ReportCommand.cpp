@@ -1,12 +1,14 @@
 #include "ReportCommand.h"
 
 #include "DataTokens.h"
+#include "DisplaySettings.h"
 #include "Fault.h"
 #include "OutputFile.h"
 #include "ShippedFiles.h"
 #include "StandardOutput.h"
 #include "TemplateChoice.h"
 #include "TemplateReader.h"
+#include "UnitChoice.h"
 
 #include "VorBomData.h"
 
@@ -22,8 +24,9 @@ void ReportCommand::run()
     openParts();
     ReportTemplate reportTemplate = readTemplate();
     m_notes = reportTemplate.notes;
-    m_pReport = std::make_unique<Report>(std::move(reportTemplate), m_options.isImperial ? VorUnitsManager::imperial()
-                                                                                         : VorUnitsManager::metric());
+    loadSettings();
+    m_pReport = std::make_unique<Report>(std::move(reportTemplate),
+                                         UnitChoice::unitsOf(m_options.units, m_options.unitChoices));
     readData(*m_pReport);
     m_pReport->evaluate();
     noteMergedRows(*m_pReport);
@@ -36,7 +39,7 @@ void ReportCommand::checkOutput() const
     if (m_options.output == ReportOptions::kStandardStream)
         return;
     std::error_code error;
-    for (const std::string& input : { m_options.data, m_options.templateName })
+    for (const std::string& input : { m_options.data, m_options.templateName, m_options.units, m_options.settingsFile })
         if (std::filesystem::equivalent(input, m_options.output, error))
             throw Fault(kWrongUsage, "--output " + m_options.output + ": is the same file as the input " + input);
 }
@@ -81,6 +84,12 @@ std::string ReportCommand::templatePath() const
     const PartsList& parts = *m_pParts;
     return TemplateChoice::choose(m_pFile->name(),
                                   [&parts](const std::string& token) { return parts.find(token) != nullptr; });
+}
+
+void ReportCommand::loadSettings()
+{
+    for (const std::string& name : DisplaySettings::load(m_options.settingsFile, m_options.settings))
+        m_notes.push_back(m_options.settingsFile + " sets " + name + ", which lists do not use");
 }
 
 void ReportCommand::readData(Report& report)

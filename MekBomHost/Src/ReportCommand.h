@@ -31,6 +31,7 @@ private:
     ReportTemplate readTemplate() const;
     ReportTemplate readTemplateFile(const std::string& path) const;
     std::string templatePath() const;
+    void loadSettings();
     void readData(Report& report);
     void takeSampleData(VorBomTemplate& reportTemplate) const;
     void noteMissingColumns(Report& report);

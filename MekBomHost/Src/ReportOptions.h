@@ -13,10 +13,13 @@ struct ReportOptions
     static constexpr const char* kSampleData = "sample";
     static constexpr const char* kDefaultTemplate = "default";
 
-    std::string data;         // a file or one of the above; empty for the shipped parts list
-    std::string templateName; // a file or kDefaultTemplate; empty for a shipped template that suits the data
-    bool isImperial = false;
-    std::string output = kStandardStream;                        // a file or kStandardStream
-    std::vector<std::pair<std::string, std::string>> inputUnits; // "%Paint", "m2"
+    std::string data;             // a file or one of the above; empty for the shipped parts list
+    std::string templateName;     // a file or kDefaultTemplate; empty for a shipped template that suits the data
+    std::string units = "metric"; // to print in, as UnitChoice takes them
+    std::vector<std::pair<std::string, std::string>> unitChoices; // "length", "ft-in/16"
+    std::string settingsFile;                                     // empty for none
+    std::vector<std::pair<std::string, std::string>> settings;    // "C40_ShowMinusBetweenFeetAndInch", "1"
+    std::string output = kStandardStream;                         // a file or kStandardStream
+    std::vector<std::pair<std::string, std::string>> inputUnits;  // "%Paint", "m2"
 };
 }

@@ -1,10 +1,14 @@
 #include "CommandLine.h"
+#include "DisplaySettings.h"
 #include "FileSource.h"
 #include "PartsList.h"
 #include "Report.h"
 #include "TemplateReader.h"
+#include "UnitChoice.h"
 
 #include "Support/HostTestSupport.h"
+
+#include "MekRoots/Exp/KTRepositoryProxy.h"
 
 #include <gtest/gtest.h>
 
@@ -77,8 +81,11 @@ void hold(const fs::path& file, const std::string& text)
     EXPECT_EQ(readFile(file), text) << file;
 }
 
+// The settings repository is shared by the process: every case ends with an empty one.
 class CaseFolderTest : public testing::TestWithParam<std::string>
 {
+protected:
+    ~CaseFolderTest() override { KTRepositoryProxy::clear(); }
 };
 }
 
@@ -86,8 +93,9 @@ TEST_P(CaseFolderTest, GivesTheExpectedTexts)
 {
     const fs::path folder = fs::path(MEK_CASES_DIR) / GetParam();
     const ReportOptions options = optionsOf(folder);
+    DisplaySettings::load(options.settingsFile, options.settings);
     Report report(TemplateReader::read("template.json", readFile(folder / "template.json")),
-                  options.isImperial ? VorUnitsManager::imperial() : VorUnitsManager::metric());
+                  UnitChoice::unitsOf(options.units, options.unitChoices));
     FileSource file((folder / "data.csv").string());
     PartsList parts(file);
     for (const auto& [token, unit] : options.inputUnits)

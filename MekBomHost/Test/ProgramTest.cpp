@@ -179,6 +179,34 @@ TEST(ProgramTest, UnitsAreThoseAskedFor)
     EXPECT_NE(std::string::npos, job.run("--units imperial").output.find("A              22\n"));
 }
 
+TEST(ProgramTest, UnitsAndSettingsOfTheUserAreTaken)
+{
+    const char* const details = R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Length" } ] } ] })";
+    const Job job("%Length\n2286\n152.4\n", details);
+    const std::string settings = job.folder().file("settings.ini", "C40_SuppressZeroFeet=0\nC7_Other=1\n");
+    const std::string units = job.folder().file("units.ini", "length=ft/3\n");
+
+    EXPECT_EQ("Length [m]\n----------\n     2.286\n     0.152\n", job.run("--unit length=m/3").output);
+    EXPECT_EQ("Length [ft]\n-----------\n        7.5\n        0.5\n", job.run("--units \"" + units + "\"").output);
+    EXPECT_EQ("Length [ft-in]\n--------------\n         7'-6\"\n            6\"\n",
+              job.run("--units imperial --setting C40_ShowMinusBetweenFeetAndInch=1").output);
+    const ProgramRun run = job.run("--units imperial --settings \"" + settings + "\"");
+    EXPECT_EQ("Length [ft-in]\n--------------\n         7' 6\"\n         0' 6\"\n", run.output);
+    EXPECT_EQ("mekbom: note: " + settings + " sets C7_Other, which lists do not use\n", run.errors);
+}
+
+TEST(ProgramTest, SettingsOfTheEnvironmentAreTaken)
+{
+    const char* const details = R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Length" } ] } ] })";
+    const Job job("%Length\n2286\n", details);
+
+    const ProgramRun run =
+        runProgram("report --data \"" + job.parts() + "\" --template \"" + job.templateFile() + "\" --units imperial",
+                   "C40_ShowMinusBetweenFeetAndInch=1 ");
+
+    EXPECT_EQ("Length [ft-in]\n--------------\n         7'-6\"\n", run.output);
+}
+
 TEST(ProgramTest, UnitsOfTheDataConvert)
 {
     EXPECT_NE(

@@ -1,0 +1,12 @@
+// A text file as a whole, checked to be text: UTF-8 without zero bytes, as LineReader has it.
+#pragma once
+
+#include "MekRoots/Exp/VorString.h"
+
+#include <string>
+
+namespace mekbom::TextFile
+{
+// Throws a Fault of status kInvalidInput when it cannot be read or is no text.
+VorString read(const std::string& path);
+}

@@ -1,0 +1,112 @@
+#include "UnitChoice.h"
+
+#include "Support/HostTestSupport.h"
+
+#include "MekRoots/Exp/VorUnitNotation.h"
+#include "MekRoots/Test/Support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace mekbom
+{
+namespace
+{
+using Choices = std::vector<std::pair<std::string, std::string>>;
+using Systems = VorUnitsTransformArray;
+
+// The units of all kinds as words: "mm/1 kg/2 m2/2 deg/1 kg/m/2 m2/m/3 kg/m3/0".
+std::string wordsOf(const VorUnitsManager& units)
+{
+    std::string words;
+    for (const Systems::eSystems system : { Systems::kDistance, Systems::kWeight, Systems::kArea, Systems::kAngle,
+                                            Systems::kWeightPerDistance, Systems::kAreaPerDistance, Systems::kDensity })
+        words += (words.empty() ? "" : " ") + toUtf8(VorUnitNotation::write(units.getUnit(system)));
+    return words;
+}
+
+const char* const kMetricWords = "mm/1 kg/2 m2/2 deg/1 kg/m/2 m2/m/3 kg/m3/0";
+const char* const kImperialWords = "ft-in/16 lb/1 ft2/2 deg/1 lb/ft/2 ft2/ft/2 lb/ft3/1";
+
+std::string wordsOf(const std::string& base, const Choices& choices = Choices())
+{
+    return wordsOf(UnitChoice::unitsOf(base, choices));
+}
+
+std::string faultWith(const std::string& base, const Choices& choices = Choices())
+{
+    return faultOf([&] { UnitChoice::unitsOf(base, choices); });
+}
+}
+
+TEST(UnitChoiceTest, PresetsHaveTheirNames)
+{
+    EXPECT_EQ(kMetricWords, wordsOf("metric"));
+    EXPECT_EQ(kImperialWords, wordsOf("imperial"));
+}
+
+TEST(UnitChoiceTest, SingleKindsAreChosenOverTheRest)
+{
+    EXPECT_EQ("ft-in/32 kg/0 ft2/2 deg/1 lb/ft/2 ft2/ft/2 lb/ft3/1",
+              wordsOf("imperial", { { "length", "ft-in/32" }, { "weight", "t" }, { "weight", "kg/0" } }));
+    EXPECT_EQ("mm/1 kg/2 m2/2 dms/0 t/m/4 in2/ft/1 lb/in3/4",
+              []
+              {
+                  std::string words = wordsOf("metric", { { "angle", "dms" },
+                                                          { "weight-per-distance", "t/m" },
+                                                          { "area-per-length", "in2/ft/1" },
+                                                          { "density", "lb/in3" } });
+                  const std::size_t at = words.find("deg-min-sec");
+                  return words.replace(at, 11, "dms");
+              }());
+}
+
+TEST(UnitChoiceTest, WordsThatAreNoChoiceAreNamed)
+{
+    EXPECT_EQ("2 --unit lenght=mm: found \"lenght\", expected one of length, angle, weight, area, weight-per-length, "
+              "area-per-length, density\n",
+              faultWith("metric", { { "lenght", "mm" } }));
+    EXPECT_EQ("2 --unit weight=mm: found \"mm\", expected a unit of weight such as kg or lb, and after a slash a "
+              "precision if need be: lb/1, ft-in/16\n",
+              faultWith("metric", { { "weight", "mm" } }));
+    EXPECT_EQ(0U, faultWith("metric", { { "length", "mm/10" } }).find("2 --unit length=mm/10: found \"mm/10\""));
+    EXPECT_EQ("2 --units: found \"metres\", expected metric, imperial or a file of units\n", faultWith("metres"));
+}
+
+TEST(UnitChoiceTest, AFileNamesUnitsOverABase)
+{
+    const ScratchFolder folder;
+    const std::string path = folder.file(
+        "shop.ini", "\xEF\xBB\xBF; ours\r\n[units]\r\nlength = ft-in/32\r\narea=m²/1\r\nbase = imperial\r\n");
+
+    EXPECT_EQ("ft-in/32 lb/1 m2/1 deg/1 lb/ft/2 ft2/ft/2 lb/ft3/1", wordsOf(path));
+    EXPECT_EQ("m/3 lb/1 m2/1 deg/1 lb/ft/2 ft2/ft/2 lb/ft3/1", wordsOf(path, { { "length", "m" } }));
+    EXPECT_EQ("cm/2 kg/2 m2/2 deg/1 kg/m/2 m2/m/3 kg/m3/0", wordsOf(folder.file("cm.ini", "length=cm")));
+    EXPECT_EQ(kMetricWords, wordsOf(folder.file("empty.ini", "")));
+}
+
+TEST(UnitChoiceTest, AMalformedFileIsNamedWithItsLine)
+{
+    const ScratchFolder folder;
+    const auto faultIn = [&folder](const std::string& text)
+    {
+        const std::string path = folder.file("shop.ini", text);
+        const std::string fault = faultWith(path);
+        return fault.substr(0, 2) + fault.substr(2 + path.size());
+    };
+
+    EXPECT_EQ("3 :2: found \"abc\", expected a line such as key = value\n", faultIn("length=mm\nabc\n"));
+    EXPECT_EQ("3 :1: found \"lenght\", expected one of length, angle, weight, area, weight-per-length, "
+              "area-per-length, density\n",
+              faultIn("lenght=mm\n"));
+    EXPECT_EQ("3 :3: found \"metrical\", expected metric or imperial\n", faultIn("\n\nbase=metrical\n"));
+    EXPECT_EQ("3 :2: found \"\", expected a unit of distance such as mm, m, in or ft, and after a slash a precision if "
+              "need be: lb/1, ft-in/16\n",
+              faultIn("; ours\nlength=\n"));
+    EXPECT_EQ("3 :2: found \"length\", expected it once, as in line 1\n", faultIn("length=mm\nlength=m\n"));
+    EXPECT_EQ("3 :1:1", faultIn("\xFF\n").substr(0, 6));
+}
+}
