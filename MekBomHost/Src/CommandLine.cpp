@@ -50,6 +50,7 @@ Examples
   mekbom report --data frame.csv --input-unit %Paint=m2
   sed 1d export.csv | mekbom report --data -
   mekbom report --data sample --template default
+  mekbom units convert 2286 mm ft-in/16
 
 Exit status
    0  done
@@ -57,6 +58,12 @@ Exit status
    3  input unreadable or invalid
    4  output not written; what stood there before still does
   70  internal fault)";
+
+const char* const kUnitsNotes = R"(Examples
+  mekbom units
+  mekbom units convert 2286 mm ft-in/16
+  mekbom units convert "7'-6 1/2\"" ft-in mm --suppress-zeros 0
+  mekbom units read "7'-6 1/2\"")";
 
 // The two sides of an equals sign, neither of them empty.
 std::pair<std::string, std::string> parsePair(const std::string& argument, const std::string& option,
@@ -122,6 +129,50 @@ void takePairs(const ReportPairs& pairs, ReportOptions& options)
         options.settings.push_back(parsePair(pair, "--setting", "NAME=NUMBER such as C40_SuppressZeroFeet=0"));
 }
 
+CLI::App& addTask(CLI::App& units, UnitsOptions& options, UnitsOptions::eTask task, const std::string& name,
+                  const std::string& help)
+{
+    CLI::App& command = *units.add_subcommand(name, help);
+    command.callback([&options, task] { options.task = task; });
+    return command;
+}
+
+void addUnits(CLI::App& app, UnitsOptions& options)
+{
+    CLI::App& units = *app.add_subcommand("units", "List the units, or convert a quantity");
+    units.require_subcommand(0, 1);
+    units.footer(kUnitsNotes);
+    CLI::App& convert = addTask(units, options, UnitsOptions::kConvert, "convert", "Print a quantity in another unit");
+    convert.footer(kUnitsNotes);
+    convert.add_option("value", options.value, "A number, or a quantity with its unit or marks")->required();
+    convert.add_option("from", options.from, "Unit of the number")->required();
+    convert.add_option("to", options.to, "Unit to print in, with a precision if need be")->required();
+    const std::pair<const char*, int*> flags[] = { { "--suppress-zeros", &options.suppressLastZeros },
+                                                   { "--suppress-zero-feet", &options.suppressZeroFeet },
+                                                   { "--suppress-zero-inch", &options.suppressZeroInch } };
+    for (const auto& [name, pFlag] : flags)
+        convert.add_option(name, *pFlag, "0 or 1 [1]")->check(CLI::IsMember({ 0, 1 }))->type_name("FLAG");
+    convert.add_option("--separator", options.separator, "Between feet and inches: blank or minus [blank]")
+        ->check(CLI::IsMember({ UnitsOptions::kBlank, UnitsOptions::kMinus }))
+        ->type_name("WORD");
+    CLI::App& read = addTask(units, options, UnitsOptions::kRead, "read", "Print a quantity in mm, kg, rad ...");
+    read.footer(kUnitsNotes);
+    read.add_option("value", options.value, "A quantity; a length where it says no kind")->required();
+}
+
+// The help of the command that was asked for, be it one within another.
+std::string helpOf(const CLI::App& app)
+{
+    const CLI::App* pCommand = &app;
+    std::string parents;
+    while (!pCommand->get_subcommands().empty())
+    {
+        parents += (parents.empty() ? "" : " ") + pCommand->get_name();
+        pCommand = pCommand->get_subcommands().front();
+    }
+    return pCommand->help(parents);
+}
+
 // Parses and gives the text to print instead of a report, if that is what was asked for.
 std::string parse(CLI::App& app, int numArguments, const char* const* arguments)
 {
@@ -131,8 +182,7 @@ std::string parse(CLI::App& app, int numArguments, const char* const* arguments)
     }
     catch (const CLI::CallForHelp&)
     {
-        const std::vector<CLI::App*> commands = app.get_subcommands();
-        return commands.empty() ? app.help() : commands.front()->help("mekbom");
+        return helpOf(app);
     }
     catch (const CLI::CallForVersion& version)
     {
@@ -156,9 +206,11 @@ CommandLine::Outcome CommandLine::parse(int numArguments, const char* const* arg
     app.require_subcommand(1);
     app.footer(kNotes);
     addReport(app, outcome.options, pairs);
+    addUnits(app, outcome.units);
 
     outcome.text = mekbom::parse(app, numArguments, arguments);
-    outcome.isReport = outcome.text.empty();
+    outcome.isReport = outcome.text.empty() && app.got_subcommand("report");
+    outcome.isAboutUnits = outcome.text.empty() && !outcome.isReport;
     takePairs(pairs, outcome.options);
     return outcome;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ReportOptions.h"
+#include "UnitsOptions.h"
 
 #include <string>
 
@@ -10,12 +11,14 @@ namespace mekbom
 class CommandLine
 {
 public:
-    // What the arguments ask for.
+    // What the arguments ask for: a report, something about units, or nothing but that `text` is printed.
     struct Outcome
     {
-        bool isReport = false; // else there is nothing to be done but print `text`
+        bool isReport = false;
         ReportOptions options;
-        std::string text; // help or version; empty for a report
+        bool isAboutUnits = false;
+        UnitsOptions units;
+        std::string text; // help or version
     };
 
     // Throws a Fault of status kWrongUsage for arguments that cannot be understood.

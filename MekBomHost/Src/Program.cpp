@@ -4,6 +4,7 @@
 #include "Fault.h"
 #include "ReportCommand.h"
 #include "StandardOutput.h"
+#include "UnitsCommand.h"
 
 #include <cstdio>
 #include <exception>
@@ -36,7 +37,7 @@ void runArguments(int numArguments, const char* const* arguments)
     if (outcome.isReport)
         return runReport(outcome.options);
     StandardOutput output;
-    output.write(outcome.text);
+    output.write(outcome.isAboutUnits ? UnitsCommand::textOf(outcome.units) : outcome.text);
     output.finish();
 }
 }

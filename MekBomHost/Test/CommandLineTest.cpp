@@ -85,6 +85,41 @@ TEST(CommandLineTest, HelpShowsExamplesAndStatuses)
     EXPECT_NE(std::string::npos, parse({ "report", "--help" }).text.find("Usage: mekbom report [OPTIONS]"));
 }
 
+TEST(CommandLineTest, UnitsAreAskedFor)
+{
+    EXPECT_TRUE(parse({ "units" }).isAboutUnits);
+    EXPECT_FALSE(parse({ "units" }).isReport);
+    EXPECT_FALSE(parse({ "report" }).isAboutUnits);
+    EXPECT_EQ(UnitsOptions::kList, parse({ "units" }).units.task);
+    EXPECT_EQ(UnitsOptions::kRead, parse({ "units", "read", "7'" }).units.task);
+    EXPECT_EQ("7'", parse({ "units", "read", "7'" }).units.value);
+
+    const UnitsOptions units = parse({ "units", "convert", "-2286", "mm", "ft-in/16", "--suppress-zeros", "0",
+                                       "--suppress-zero-feet=0", "--suppress-zero-inch", "0", "--separator", "minus" })
+                                   .units;
+    EXPECT_EQ(UnitsOptions::kConvert, units.task);
+    EXPECT_EQ("-2286", units.value);
+    EXPECT_EQ("mm", units.from);
+    EXPECT_EQ("ft-in/16", units.to);
+    EXPECT_EQ(0, units.suppressLastZeros);
+    EXPECT_EQ(0, units.suppressZeroFeet);
+    EXPECT_EQ(0, units.suppressZeroInch);
+    EXPECT_EQ("minus", units.separator);
+}
+
+TEST(CommandLineTest, EveryCommandHasItsHelp)
+{
+    for (const std::vector<const char*>& arguments :
+         { std::vector<const char*>{ "units", "--help" }, { "units", "convert", "--help" }, { "units", "read", "-h" } })
+    {
+        const CommandLine::Outcome outcome = parse(arguments);
+        EXPECT_FALSE(outcome.isAboutUnits);
+        EXPECT_NE(std::string::npos, outcome.text.find("mekbom units read")) << outcome.text;
+    }
+    EXPECT_NE(std::string::npos,
+              parse({ "units", "convert", "-h" }).text.find("Usage: mekbom units convert [OPTIONS]"));
+}
+
 TEST(CommandLineTest, TheVersionIsShown)
 {
     EXPECT_EQ(0u, parse({ "--version" }).text.find("mekbom "));

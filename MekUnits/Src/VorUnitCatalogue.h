@@ -10,12 +10,12 @@ namespace VorUnitCatalogue
 using Systems = VorUnitsTransformArray;
 using Unit = VorUnitDefinition;
 
-// Where factors come from. The yard is 0.9144 m, so the inch is 25.4 mm and the foot 304.8 mm, and the pound is
+// Where factors come from. The international yard is 0.9144 m, so the inch is 25.4 mm and the foot 304.8 mm, and the pound is
 // 0.45359237 kg, all exactly.
-inline constexpr wchar_t kSi[] = L"SI; NIST SP 811, chapters 4 and 5";
-inline constexpr wchar_t kBesideSi[] = L"accepted beside the SI; NIST SP 811, table 6";
+inline constexpr wchar_t kSi[] = L"SI (NIST SP 811)";
+inline constexpr wchar_t kBesideSi[] = L"beside the SI (NIST SP 811, table 6)";
 inline constexpr wchar_t kAppendixB[] = L"NIST SP 811, appendix B";
-inline constexpr wchar_t kYardAndPound[] = L"international yard and pound of 1959; NIST SP 811, appendix B";
+inline constexpr wchar_t kYardAndPound[] = L"yard and pound of 1959 (NIST SP 811, appendix B)";
 
 // The degree is pi/180 rad, with pi as 428224593349304 / 136308121570117, a convergent of its continued fraction. It is
 // off by 4e-30, far below what a double tells apart.
