@@ -4,11 +4,12 @@
 //   FormatValue           the same numbers as texts of their own: rounding, allocation and release included
 //   FormatConvertedValue  the same in pounds
 //   FormatFeetAndInches   lengths to 1/16", which to_chars has no answer for
-//   FormatHalves...       not representative: only numbers halfway between two texts, which take the exact way; those
-//                         of inches are converted too
+//   ...Halves             only numbers halfway between two texts, again with to_chars as the yardstick
+//   FormatHalvesOfInches  not representative: the same converted, which alone take the exact way
 //   ToInternalUnits       one number of a parts list that is given in mm, in or m²
 //
-// ToChars and FormatValue are to be compared within one run; the argument is the number of decimals.
+// ToChars and FormatValue, ToCharsHalves and FormatHalves are to be compared within one run; the argument is the number
+// of decimals.
 #include "MekRoots/Exp/MEKUnit.h"
 
 #include <benchmark/benchmark.h>
@@ -51,10 +52,8 @@ void formatAll(benchmark::State& state, const MEKUnit& unit, const std::vector<d
     state.SetItemsProcessed(state.iterations()); // texts per second
 }
 
-void ToChars(benchmark::State& state)
+void writeAll(benchmark::State& state, int numDecimals, const std::vector<double>& values)
 {
-    const std::vector<double> values = modelValues();
-    const int numDecimals = static_cast<int>(state.range(0));
     char text[64];
     std::size_t i = 0;
     for (auto _ : state)
@@ -63,7 +62,12 @@ void ToChars(benchmark::State& state)
                                                std::chars_format::fixed, numDecimals));
         benchmark::ClobberMemory();
     }
-    state.SetItemsProcessed(state.iterations());
+    state.SetItemsProcessed(state.iterations()); // texts per second
+}
+
+void ToChars(benchmark::State& state)
+{
+    writeAll(state, static_cast<int>(state.range(0)), modelValues());
 }
 BENCHMARK(ToChars)->DenseRange(0, 4)->Arg(9);
 
@@ -84,6 +88,12 @@ void FormatFeetAndInches(benchmark::State& state)
     formatAll(state, MEKUnit(13, 13, 1016), modelValues());
 }
 BENCHMARK(FormatFeetAndInches);
+
+void ToCharsHalves(benchmark::State& state)
+{
+    writeAll(state, 2, halves(1.0));
+}
+BENCHMARK(ToCharsHalves);
 
 void FormatHalves(benchmark::State& state)
 {

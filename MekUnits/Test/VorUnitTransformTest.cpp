@@ -214,6 +214,24 @@ TEST(VorUnitTransformTest, RandomNumbersReadAsTheirTextRoundedByHand)
     }
 }
 
+TEST(VorUnitTransformTest, HalvesOfTheModelsNumbersAndTheirNeighboursReadAsRoundedByHand)
+{
+    std::mt19937_64 random(7);
+    for (int i = 0; i < 20000; ++i)
+    {
+        const int numDecimals = i % 10;
+        const double whole = static_cast<double>(random() >> (14 + random() % 50));
+        const double half = (whole + 0.5) / std::pow(10.0, numDecimals);
+        for (const double value : { half, std::nextafter(half, 0.0), std::nextafter(half, 1e300), -half })
+        {
+            if (value < -999999999999998.0 || value > 999999999999998.0)
+                continue;
+            const FormatCase c = { value, kMillimetre, numDecimals, L"", L' ', L"" };
+            ASSERT_EQ(slowlyFormatted(value, numDecimals, false), formatted(c)) << numDecimals << " decimals";
+        }
+    }
+}
+
 TEST(VorUnitTransformTest, RandomLengthsReadAsTheirSixteenthsRoundedByHand)
 {
     ValueSource values(4);
