@@ -54,6 +54,12 @@ TEST(KTIniReaderTest, AMalformedLineEndsTheReading)
     EXPECT_EQ(L"1! found \"[a\", expected a line such as key = value", entriesOf(L"[a"));
 }
 
+TEST(KTIniReaderTest, ZeroCharactersAreRefused)
+{
+    EXPECT_EQ(L"1 a=1|2! found \"b=1\", expected a line without zero characters",
+              entriesOf(VorString(L"a=1\nb=1\0x\n", 10)));
+}
+
 TEST(KTIniReaderTest, AKeyStandsOnceWhateverItsSection)
 {
     EXPECT_EQ(L"2 a=1|4! found \"a\", expected it once, as in line 2", entriesOf(L"[x]\na=1\n[y]\na=1"));
