@@ -3,11 +3,12 @@
     python3 check_readme.py README.md EmbedEngine.cpp path/to/EmbedEngine path/to/mekbom
 
 C++ blocks must stand in the source, line by line; text blocks must be what one of the programs prints, "..." standing for
-lines left out.
+lines left out; console blocks are runs of mekbom, each "$ mekbom ..." followed by what it prints.
 """
 
 import pathlib
 import re
+import shlex
 import subprocess
 import sys
 
@@ -29,21 +30,32 @@ def stands_in(block, lines):
     return True
 
 
+def run(command):
+    return subprocess.run(command, check=True, capture_output=True, encoding="utf-8").stdout.splitlines()
+
+
+def untrue_runs(block, mekbom):
+    """The runs of a console block that print something else."""
+    runs = re.findall(r"^\$ mekbom (.*)\n((?:(?!\$ ).*\n)*)", block, re.MULTILINE)
+    return [f"$ mekbom {arguments}\n{shown}" for arguments, shown in runs
+            if not stands_in(shown, run([mekbom, *shlex.split(arguments)]))]
+
+
 def main():
     readme, source, embed, mekbom = sys.argv[1:]
     here = pathlib.Path(__file__).parent
     text = pathlib.Path(readme).read_text(encoding="utf-8")
     code = [line.strip() for line in pathlib.Path(source).read_text(encoding="utf-8").splitlines()]
     hall = [mekbom, "report", "--data", here / "hall.csv", "--template", here / "Templates/cutting-list.json"]
-    printed = [subprocess.run(command, check=True, capture_output=True, encoding="utf-8").stdout.splitlines()
-               for command in ([embed], hall)]
+    printed = [run(command) for command in ([embed], hall)]
 
     wrong = [block for block in blocks(text, "cpp")
              if not stands_in("\n".join(line.strip() for line in block.splitlines()), code)]
     wrong += [block for block in blocks(text, "text") if not any(stands_in(block, lines) for lines in printed)]
+    wrong += [untrue for block in blocks(text, "console") for untrue in untrue_runs(block, mekbom)]
     for block in wrong:
         print(f"{readme}: no longer true:\n{block}")
-    found = len(blocks(text, "cpp")) and len(blocks(text, "text"))
+    found = all(blocks(text, language) for language in ("cpp", "text", "console"))
     sys.exit(0 if found and not wrong else 1)
 
 
