@@ -75,7 +75,7 @@ VorString variableOf(const char* pValue)
 {
     std::wstring text;
     for (; *pValue != 0; ++pValue)
-        text += *pValue > 0 ? static_cast<wchar_t>(*pValue) : L'?';
+        text += static_cast<unsigned char>(*pValue) < 0x80 ? static_cast<wchar_t>(*pValue) : L'?';
     return VorString(text.c_str());
 }
 
