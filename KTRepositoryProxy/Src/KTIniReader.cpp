@@ -58,8 +58,9 @@ std::wstring KTIniReader::takeLine()
 // entry := key '=' value
 int KTIniReader::readEntry(const std::wstring& line)
 {
-    if (line.find(L'\0') != std::wstring::npos)
-        return fail(line.c_str(), L"a line without zero characters");
+    const std::size_t zero = line.find(L'\0');
+    if (zero != std::wstring::npos)
+        return fail(line.substr(0, zero), L"a line without zero characters");
     const std::size_t equals = line.find(L'=');
     const std::wstring key = trimmed(line.substr(0, equals));
     if (equals == std::wstring::npos || key.empty())

@@ -37,6 +37,13 @@ std::string chooseBase(VorUnitsManager& units, const std::string& base)
     return std::string();
 }
 
+void chooseOption(VorUnitsManager& units, const std::string& kind, const std::string& unit)
+{
+    const std::string fault = choose(units, kind, unit);
+    if (!fault.empty())
+        throw Fault(kWrongUsage, "--unit " + kind + "=" + unit + ": " + fault);
+}
+
 // The base counts wherever its line stands.
 VorUnitsManager unitsOfFile(const std::string& path)
 {
@@ -82,11 +89,7 @@ VorUnitsManager unitsOf(const std::string& base, const std::vector<std::pair<std
 {
     VorUnitsManager units = unitsOfBase(base);
     for (const auto& [kind, unit] : choices)
-    {
-        const std::string fault = choose(units, kind, unit);
-        if (!fault.empty())
-            throw Fault(kWrongUsage, "--unit " + kind + "=" + unit + ": " + fault);
-    }
+        chooseOption(units, kind, unit);
     return units;
 }
 }
