@@ -12,7 +12,7 @@
 namespace mekbom
 {
 Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units)
-    : m_template(std::move(reportTemplate)), m_units(units)
+    : m_units(units), m_template(std::move(reportTemplate))
 {
     engineTemplate().setUnitsForTokens(&m_units);
     engineTemplate().findUsedTokens();

@@ -43,9 +43,9 @@ public:
     void writeTable(TextSink& sink);
 
 private:
+    VorUnitsManager m_units; // that numbers are shown in
     ReportTemplate m_template;
     std::vector<const VorBomDataRow*> m_rows; // as they came and lie in memory, where the evaluation chains them anew
-    VorUnitsManager m_units;                  // that its numbers are shown in
     VorBomTemplate m_result;                  // its sections refer to the rows of m_template
 };
 }
