@@ -5,7 +5,7 @@
 //   FormatConvertedValue  the same in pounds
 //   FormatFeetAndInches   lengths to 1/16", which to_chars has no answer for
 //   ...Halves             only numbers halfway between two texts, again with to_chars as the yardstick
-//   FormatHalvesOfInches  not representative: the same converted, which alone take the exact way
+//   FormatHalvesOfInches  the same converted
 //   ToInternalUnits       one number of a parts list that is given in mm, in or m²
 //
 // ToChars and FormatValue, ToCharsHalves and FormatHalves are to be compared within one run; the argument is the number
