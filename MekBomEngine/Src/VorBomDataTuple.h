@@ -29,6 +29,12 @@ public:
     VorBomDataTuple(const VorString& token, const VorBomDataValue& value) : m_token(token), m_value(value) {}
     VorBomDataTuple(const VorString& token, VorBomDataValue&& value) : m_token(token), m_value(std::move(value)) {}
 
+    // The same with the payload in one of `cells`.
+    VorBomDataTuple(const VorString& token, const VorBomDataValue& value, VorBomPayloadCells& cells)
+        : m_token(token), m_value(value, cells)
+    {
+    }
+
     // Copies carry the used flag. A moved-from tuple has an empty token and an empty value.
     // On purpose: assigning, by copy or by move, a tuple with an empty value replaces token and flag but keeps the
     // target's value, as VorBomDataValue::operator= does. Copies made from nothing always equal their source.

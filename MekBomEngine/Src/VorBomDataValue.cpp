@@ -150,7 +150,7 @@ void VorBomDataValue::empty()
         return;
     endPayload();
     if (m_pData != nullptr && holdsPayload(m_nType))
-        VorMemoryControllerController::deallocateArray(m_pData, 1, kCellSize);
+        VorBomPayloadCells::release(m_pData);
     m_pData = nullptr;
     m_nType = kUnknownData;
 }
@@ -173,7 +173,7 @@ void* VorBomDataValue::freeCell()
     else
         empty();
     if (m_pData == nullptr)
-        m_pData = VorMemoryControllerController::allocateArray(1, kCellSize);
+        m_pData = VorBomPayloadCells::takeOne();
     return m_pData;
 }
 

@@ -12,11 +12,11 @@
 // Misuse is reported as "false" from "MekBomEngine/Src/VorBomDataValue" and survived with the answers stated below.
 #pragma once
 
+#include "VorBomPayloadCells.h"
+
 #include "MekRoots/Exp/MekExport.h"
-#include "MekRoots/Exp/VorMemoryControllerController.h"
 #include "MekRoots/Exp/VorString.h"
 
-#include <cstddef>
 #include <new>
 
 class MEK_BOM_API VorBomDataValue
@@ -32,12 +32,18 @@ public:
     };
 
     VorBomDataValue() noexcept = default;
-    VorBomDataValue(int value) { create<int>(kIntData, value); }
-    VorBomDataValue(double value) { create<double>(kDoubleData, value); }
-    VorBomDataValue(const VorString& value) { create<VorString>(kStringData, value); }
+    VorBomDataValue(int value) { create<int>(VorBomPayloadCells::takeOne(), kIntData, value); }
+    VorBomDataValue(double value) { create<double>(VorBomPayloadCells::takeOne(), kDoubleData, value); }
+    VorBomDataValue(const VorString& value) { create<VorString>(VorBomPayloadCells::takeOne(), kStringData, value); }
 
     // Reports a type that is none of the four; the copy is empty then.
-    VorBomDataValue(const VorBomDataValue& other);
+    VorBomDataValue(const VorBomDataValue& other) { copy(other, VorBomPayloadCells::takeOne); }
+
+    // The same with a payload in one of `cells`.
+    VorBomDataValue(const VorBomDataValue& other, VorBomPayloadCells& cells)
+    {
+        copy(other, [&cells] { return cells.take(); });
+    }
 
     // Takes the payload over; `other` is empty afterwards.
     VorBomDataValue(VorBomDataValue&& other) noexcept : m_pData(other.m_pData), m_nType(other.m_nType)
@@ -102,29 +108,28 @@ private:
     void endPayload();
     void* freeCell();
 
-    // Payloads of all kinds take cells of one size, so that a value keeps its cell when its kind changes.
-    static constexpr std::size_t kCellSize = sizeof(double);
-    static_assert(sizeof(int) <= kCellSize && sizeof(VorString) <= kCellSize, "a cell holds any payload");
+    static_assert(sizeof(int) <= VorBomPayloadCells::kCellSize && sizeof(VorString) <= VorBomPayloadCells::kCellSize,
+                  "a value keeps its cell when its kind changes");
 
-    // Gives a value that is empty its payload.
+    // Give a value that is empty its payload.
     template <class Payload>
-    void create(eBomDataValueType type, const Payload& value)
+    void create(void* pCell, eBomDataValueType type, const Payload& value)
     {
-        m_pData = ::new (VorMemoryControllerController::allocateArray(1, kCellSize)) Payload(value);
+        m_pData = ::new (pCell) Payload(value);
         m_nType = type;
+    }
+    template <class TakeCell>
+    void copy(const VorBomDataValue& other, TakeCell takeCell)
+    {
+        switch (other.m_nType)
+        {
+            case kIntData: create<int>(takeCell(), kIntData, other.intValue()); break;
+            case kDoubleData: create<double>(takeCell(), kDoubleData, other.doubleValue()); break;
+            case kStringData: create<VorString>(takeCell(), kStringData, other.textValue()); break;
+            default: *this = other; break; // empty, or corrupt and reported
+        }
     }
 
     void* m_pData = nullptr;
     eBomDataValueType m_nType = kUnknownData;
 };
-
-inline VorBomDataValue::VorBomDataValue(const VorBomDataValue& other)
-{
-    switch (other.m_nType)
-    {
-        case kIntData: create<int>(kIntData, other.intValue()); break;
-        case kDoubleData: create<double>(kDoubleData, other.doubleValue()); break;
-        case kStringData: create<VorString>(kStringData, other.textValue()); break;
-        default: *this = other; break; // empty, or corrupt and reported
-    }
-}

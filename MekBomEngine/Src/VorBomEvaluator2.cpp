@@ -124,7 +124,7 @@ int VorBomEvaluator2::evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& 
 int VorBomEvaluator2::beginGroup(VorBomDataRow* pRow, VorBomEngineStateArray& stack, int level)
 {
     forgetGroup(stack, level);
-    VorBomEngineState& state = stack[level];
+    VorBomEngineState& state = stack.begin()[level];
     state.m_bGroupOpen = 1;
     std::unique_ptr<VorBomTemplateItem> pEvaluated = state.m_pPlan->header.process(*pRow);
     state.m_pPlan->header.computeFormulas(*pEvaluated, *pRow);
@@ -136,7 +136,7 @@ int VorBomEvaluator2::beginGroup(VorBomDataRow* pRow, VorBomEngineStateArray& st
 
 int VorBomEvaluator2::addedInGroup(VorBomDataRow* pRow, VorBomEngineStateArray& stack, int level)
 {
-    VorBomEngineState& state = stack[level];
+    VorBomEngineState& state = stack.begin()[level];
     if (state.m_pHeader->type() == VorBomTemplateItem::kDetails) // details that are not the deepest level
         VorAssert::vorAssert(L"VorBomTemplateItem::kDetails != state.m_pHeader->type()", kSourcePath, __LINE__);
     state.m_dataRows.append(pRow);
@@ -147,7 +147,7 @@ int VorBomEvaluator2::addedInGroup(VorBomDataRow* pRow, VorBomEngineStateArray& 
 // Pinned by VorBomEvaluator2Test.FooterFormulasAreNotComputed.
 int VorBomEvaluator2::endGroup(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits)
 {
-    VorBomEngineState& state = stack[level];
+    VorBomEngineState& state = stack.begin()[level];
     if (state.m_bGroupOpen != 1)
         return 1;
     state.m_bGroupOpen = 0;
@@ -158,7 +158,7 @@ int VorBomEvaluator2::endGroup(VorBomEngineStateArray& stack, int level, VorBomT
 
 int VorBomEvaluator2::groupIsCompleted(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits)
 {
-    VorBomEngineState& completedGroup = stack[level];
+    VorBomEngineState& completedGroup = stack.begin()[level];
     if (completedGroup.m_pEvaluatedHeader != nullptr)
         completedGroup.m_pPlan->header.showInUnits(*pUnits, *completedGroup.m_pEvaluatedHeader);
     if (completedGroup.m_pEvaluatedFooter != nullptr)
@@ -180,7 +180,7 @@ int VorBomEvaluator2::dataMatchGroup(VorBomDataRow* pRow, VorBomEngineState& sta
 // Deletes a details section that reads as the one before it under the same parent, and takes its row out of all sums.
 void VorBomEvaluator2::dropDuplicateDetails(VorBomEngineStateArray& stack, int level)
 {
-    VorBomEngineState& completedGroup = stack[level];
+    VorBomEngineState& completedGroup = stack.begin()[level];
     VorBomTemplateItem* pDetails = completedGroup.m_pEvaluatedHeader;
     if (pDetails == nullptr || pDetails->type() != VorBomTemplateItem::kDetails)
         return;
@@ -200,7 +200,7 @@ void VorBomEvaluator2::dropDuplicateDetails(VorBomEngineStateArray& stack, int l
 // Appends the level's header, then its footer, to the sections of the level above, or at level 0 to the collector.
 void VorBomEvaluator2::hangSections(VorBomEngineStateArray& stack, int level)
 {
-    const VorBomEngineState& completedGroup = stack[level];
+    const VorBomEngineState& completedGroup = stack.begin()[level];
     VorBomItemBase* pTarget = level == 0 ? completedGroup.m_pCollector : stack[level - 1].m_pEvaluatedHeader;
     if (pTarget == nullptr)
     {
@@ -215,7 +215,7 @@ void VorBomEvaluator2::hangSections(VorBomEngineStateArray& stack, int level)
 // then it is destroyed with everything under it, only now, since inner groups are hung in it after it was closed.
 void VorBomEvaluator2::forgetGroup(VorBomEngineStateArray& stack, int level)
 {
-    VorBomEngineState& state = stack[level];
+    VorBomEngineState& state = stack.begin()[level];
     if (level == 0 && state.m_pCollector == nullptr)
     {
         if (state.m_pEvaluatedHeader != nullptr)

@@ -45,16 +45,17 @@ std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row
     auto pEvaluated = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
     VorBomDataTupleArray& tuples = pEvaluated->getData();
     tuples.setPhysicalLength(columns.length());
+    VorBomPayloadCells cells(columns.length());
     const VorBomDataTuple* pColumn = columns.begin();
     for (int i = 0; i < columns.length(); ++i, ++pColumn)
     {
         VorBomDataTuple* pDatum = m_isFormula[static_cast<std::size_t>(i)] != 0 ? nullptr : m_columns[i];
         if (pDatum == nullptr || !hasValue(*pDatum))
         {
-            tuples.emplace(*pColumn);
+            tuples.emplace(pColumn->token().token(), pColumn->value(), cells).setUsed(pColumn->used());
             continue;
         }
-        tuples.emplace(pColumn->token().token(), pDatum->value()).setUsed(pColumn->used());
+        tuples.emplace(pColumn->token().token(), pDatum->value(), cells).setUsed(pColumn->used());
         if (pDatum->used() != 1)
             pDatum->setUsed(1); // rows of an earlier evaluation are marked: their memory need not be written
     }

@@ -2,7 +2,6 @@
 
 #include "VorBomColumns.h"
 #include "VorBomRanks.h"
-#include "VorBomRowsAhead.h"
 #include "VorBomTokenCatalogue.h"
 #include "VorStableMergeSort.h"
 
@@ -34,10 +33,8 @@ VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorStringArray& token
     for (int i = 0; i < tokens.length(); ++i)
         m_keys.emplace_back(tokens[i], orders[i]);
     VorBomColumns columns(std::make_shared<VorBomRowLayouts>(), std::vector<VorString>(tokens.begin(), tokens.end()));
-    VorBomRowsAhead ahead(data.child());
     for (VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
     {
-        ahead.advance();
         m_rows.push_back(pRow);
         columns.find(*pRow);
         for (int i = 0; i < columns.count(); ++i)

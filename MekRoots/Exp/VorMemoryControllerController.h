@@ -28,6 +28,10 @@ public:
         return allocate(sizeOf(numElements, elementSize), elementSize % 16 == 0);
     }
 
+    // `numBlocks` blocks of `blockSize` bytes, a multiple of 8, side by side for the price of one; each is given back by
+    // itself, as deallocateArray(pBlock, 1, blockSize). Null when the pool does not serve so much at once.
+    static void* allocateNeighbours(std::size_t numBlocks, std::size_t blockSize);
+
     // Gives back what allocateArray returned for the same two numbers. Null is allowed.
     static void deallocateArray(void* pBlock, std::size_t numElements, std::size_t elementSize)
     {

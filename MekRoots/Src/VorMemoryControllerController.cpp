@@ -12,6 +12,16 @@ void* VorMemoryControllerController::allocate(std::size_t size, bool isAlignedTo
     return pHeap->allocate(size, isAlignedTo16);
 }
 
+void* VorMemoryControllerController::allocateNeighbours(std::size_t numBlocks, std::size_t blockSize)
+{
+    VorMemoryHeap* pHeap = VorMemoryThread::heap();
+    if (pHeap == nullptr || numBlocks > kLargestPooledBlock || !VorMemoryThread::isPooled(numBlocks * blockSize))
+        return nullptr;
+    void* pBlocks = pHeap->allocate(numBlocks * blockSize, false);
+    pHeap->addLive(static_cast<long long>(numBlocks) - 1);
+    return pBlocks;
+}
+
 void VorMemoryControllerController::release(void* pBlock, std::size_t size)
 {
     VorMemoryHeap* pHeap = VorMemoryThread::heap();
