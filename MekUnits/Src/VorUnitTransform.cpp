@@ -89,8 +89,16 @@ double roundToReadDigits(double value)
     return std::copysign(number.toDouble(), value);
 }
 
-// Whether `size`, a value without its sign, is the double of (below + 1/2) / numParts of the unit: its text is that very
-// number then, which has few digits. One division of two exact numbers tells; no when they could be inexact.
+// Whether (below + 1/2) / numParts has a decimal text that ends, as the half of a third has not. True of all decimals,
+// and of fractions like 1/16.
+bool isDecimal(unsigned int numParts)
+{
+    constexpr unsigned int kTwosAndFives = 1000000000; // of each as many as any number of parts can have
+    return kTwosAndFives % numParts == 0;
+}
+
+// Whether `size`, a value without its sign, is the double of (below + 1/2) / numParts of the unit: it is shown as that
+// very number then, which has few digits. One division of two exact numbers tells; no when they could be inexact.
 bool isHalfway(double size, std::uint64_t below, unsigned int numParts, const VorUnitDefinition& unit)
 {
     constexpr std::uint64_t kLargestExact = std::uint64_t{ 1 } << 53;
@@ -98,7 +106,7 @@ bool isHalfway(double size, std::uint64_t below, unsigned int numParts, const Vo
     const std::uint64_t numHalves = 2 * below + 1;
     const std::uint64_t halvesPerUnit = std::uint64_t{ 2 } * numParts;
     if (numHalves > kMostHalves || unit.numerator > kLargestExact / numHalves ||
-        unit.denominator > kLargestExact / halvesPerUnit)
+        unit.denominator > kLargestExact / halvesPerUnit || !isDecimal(numParts))
         return false;
     return size ==
            static_cast<double>(numHalves * unit.numerator) / static_cast<double>(halvesPerUnit * unit.denominator);
