@@ -3,9 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
+#include <initializer_list>
+#include <limits>
 #include <numeric>
 #include <random>
+#include <utility>
 
 namespace
 {
@@ -149,5 +153,125 @@ TEST(VorBomRanksTest, RankedColumnsComeOutAsComparingThemDoes)
         ranks.sortStably(rows, true);
 
         EXPECT_EQ(expected, rows);
+    }
+}
+
+namespace
+{
+template <class Number>
+Column columnOf(std::initializer_list<Number> numbers)
+{
+    std::vector<VorBomDataTuple> tuples;
+    for (const Number number : numbers)
+        tuples.push_back(datum(number));
+    return Column(std::move(tuples));
+}
+
+// Random numbers and rows without one, ranked and sorted by a stable sort, in both directions.
+template <class Number, class Source>
+void expectAsAStableSort(Source next, int numRows, std::mt19937& random)
+{
+    std::vector<VorBomDataTuple> tuples;
+    for (int i = 0; i < numRows; ++i)
+        tuples.push_back(datum(static_cast<Number>(next())));
+    std::vector<const VorBomDataTuple*> pointers;
+    for (const VorBomDataTuple& tuple : tuples)
+        pointers.push_back(random() % 7 == 0 ? nullptr : &tuple);
+    VorBomRanks ranks;
+    ASSERT_EQ(1, ranks.create(pointers, VorBomDataToken::kSortNumeric));
+
+    for (const int sign : { 1, -1 })
+    {
+        std::vector<std::uint32_t> rows(pointers.size());
+        std::iota(rows.begin(), rows.end(), 0U);
+        std::shuffle(rows.begin(), rows.end(), random);
+        std::vector<std::uint32_t> expected = rows;
+        std::stable_sort(expected.begin(), expected.end(),
+                         [&](std::uint32_t a, std::uint32_t b)
+                         { return sign * VorBomDataTuple::compareValues(pointers[a], pointers[b]) < 0; });
+
+        ranks.sortStably(rows, sign > 0);
+
+        ASSERT_EQ(expected, rows);
+    }
+}
+}
+
+TEST(VorBomRanksTest, NegativeDoublesComeBeforePositiveOnes)
+{
+    EXPECT_EQ("3025146",
+              columnOf({ -1.5, 0.25, -0.25, -1e300, 1.5, 0.0, 1e300 }).sorted(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("6415203",
+              columnOf({ -1.5, 0.25, -0.25, -1e300, 1.5, 0.0, 1e300 }).sorted(VorBomDataToken::kSortNumeric, false));
+}
+
+TEST(VorBomRanksTest, BothZerosAreEqualAndKeepTheirOrder)
+{
+    const Column column = columnOf({ 0.0, -0.0, 1.0, -0.0, 0.0, -1.0 });
+
+    EXPECT_EQ("501342", column.sorted(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("201345", column.sorted(VorBomDataToken::kSortNumeric, false));
+}
+
+TEST(VorBomRanksTest, InfinitiesStandAtTheEndsAndEqualThemselves)
+{
+    const Column column = columnOf<double>({ INFINITY, 1e308, -INFINITY, -1e308, INFINITY, -INFINITY, 0.0 });
+
+    EXPECT_EQ("2536104", column.sorted(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("0416325", column.sorted(VorBomDataToken::kSortNumeric, false));
+}
+
+TEST(VorBomRanksTest, TheLargestAndSmallestIntegersAreRanked)
+{
+    const int largest = std::numeric_limits<int>::max();
+    const int smallest = std::numeric_limits<int>::min();
+    const Column column = columnOf({ largest, 0, smallest, -1, largest - 1, smallest + 1, 1, smallest });
+
+    EXPECT_EQ("27531640", column.sorted(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("04613527", column.sorted(VorBomDataToken::kSortNumeric, false));
+}
+
+TEST(VorBomRanksTest, NumbersSmallerThanTheToleranceCannotBeToldFromZero)
+{
+    const double smallest = std::numeric_limits<double>::denorm_min();
+
+    EXPECT_FALSE(columnOf({ 0.0, smallest }).canBeRanked(VorBomDataToken::kSortNumeric));
+    EXPECT_FALSE(columnOf({ -smallest, 5.0, smallest }).canBeRanked(VorBomDataToken::kSortNumeric));
+    EXPECT_TRUE(columnOf({ smallest, smallest }).canBeRanked(VorBomDataToken::kSortNumeric));
+}
+
+TEST(VorBomRanksTest, ManyEqualNumbersKeepTheirOrder)
+{
+    std::mt19937 random(11);
+    for (const unsigned int numDifferent : { 1U, 2U, 3U })
+    {
+        expectAsAStableSort<int>([&] { return random() % numDifferent; }, 3000, random);
+        expectAsAStableSort<double>([&] { return -0.5 * static_cast<int>(random() % numDifferent); }, 3000, random);
+    }
+}
+
+TEST(VorBomRanksTest, RandomIntegersComeOutAsFromAStableSort)
+{
+    std::mt19937 random(12);
+    for (int round = 0; round < 30; ++round)
+    {
+        const unsigned int shift = random() % 32;
+        expectAsAStableSort<int>([&] { return static_cast<std::int32_t>(random()) / (1LL << shift); }, 400, random);
+    }
+}
+
+TEST(VorBomRanksTest, RandomDoublesComeOutAsFromAStableSort)
+{
+    std::mt19937 random(13);
+    const auto ofAnySize = [&random]
+    {
+        const double number =
+            std::ldexp(1.0 + static_cast<int>(random() % 8) / 8.0, static_cast<int>(random() % 1030) - 8);
+        return random() % 2 == 0 ? number : -number;
+    };
+    for (int round = 0; round < 30; ++round)
+    {
+        expectAsAStableSort<double>(ofAnySize, 400, random);
+        expectAsAStableSort<double>([&] { return static_cast<std::int32_t>(random()) / 1024.0; }, 400, random);
     }
 }

@@ -1,6 +1,7 @@
 #include "VorBomTemplateItem.h"
 
 #include "Support/BomTestSupport.h"
+#include "Support/ReportBuilders.h"
 
 #include <gtest/gtest.h>
 
@@ -216,6 +217,82 @@ TEST(VorBomTemplateItemTest, CopiesShareChildrenAndRowAndOwnTheRest)
         EXPECT_EQ(4, pItem->getData().length());
         EXPECT_EQ(VorBomDataValue::kUnknownData, pItem->getData().last().value().type());
     }
+}
+
+TEST(VorBomTemplateItemTest, CachesOfCopiesAreFilledEachOnItsOwn)
+{
+    const LeakCheck leaks;
+    Item source(Item::kGroupHeader);
+    addTuples(source, { tuple(L"%GroupBy:%A", L""), tuple(L"%SortAscBy:%B", L""), tuple(L"%FilterBy:3", L"") });
+    findAll(source);
+    Item first(source);
+    Item second(first);
+    Item third;
+    third = source;
+
+    first.addData(tuple(L"%GroupBy:%First", L""));
+    first.findGroupingTokens();
+    second.addData(tuple(L"%SortDescBy:%Second", L""));
+    second.findSortingTokens();
+    source.addData(tuple(L"%FilterBy:7", L""));
+    source.findFilterObjTypes();
+
+    expectCaches(source, { L"%A" }, { L"%SortAscBy:%B" }, { 3, 7 });
+    expectCaches(first, { L"%A", L"%First" }, { L"%SortAscBy:%B" }, { 3 });
+    expectCaches(second, { L"%A" }, { L"%SortAscBy:%B", L"%SortDescBy:%Second" }, { 3 });
+    expectCaches(third, { L"%A" }, { L"%SortAscBy:%B" }, { 3 });
+}
+
+TEST(VorBomTemplateItemTest, CachesFilledOnceTheCopiesAreGoneAreTheItemsOwn)
+{
+    const LeakCheck leaks;
+    Item item(Item::kGroupHeader);
+    item.addData(tuple(L"%GroupBy:%A", L""));
+    findAll(item);
+    for (int i = 0; i < 3; ++i)
+    {
+        const Item copy(item);
+        expectCaches(copy, { L"%A" }, {}, {});
+    }
+
+    item.setData(VorBomDataTupleArray());
+    findAll(item);
+
+    expectCaches(item, {}, {}, {});
+}
+
+TEST(VorBomTemplateItemTest, CopiesOfItemsWithoutCachesFillTheirOwn)
+{
+    Item source(Item::kGroupHeader);
+    source.addData(tuple(L"%GroupBy:%A", L""));
+    Item copy(source);
+
+    copy.findGroupingTokens();
+
+    expectCaches(source, {}, {}, {});
+    expectCaches(copy, { L"%A" }, {}, {});
+    EXPECT_TRUE(Item().groupingTokens().isEmpty()) << "what items without caches share stays empty";
+}
+
+TEST(VorBomTemplateItemTest, AnEvaluatedSectionKeepsWhatItsTemplateAskedForThen)
+{
+    const LeakCheck leaks;
+    Report report;
+    Item* pHeader = report.addSection(nullptr, Item::kGroupHeader, { tuple(L"%GroupBy:%A", L""), tuple(L"%A", L"") });
+    report.addRow({ tuple(L"%A", L"x") });
+    report.evaluate();
+    auto* pEvaluated = static_cast<Item*>(report.result().child());
+    ASSERT_NE(nullptr, pEvaluated);
+    expectCaches(*pEvaluated, { L"%A" }, {}, {});
+
+    pHeader->setData(VorBomDataTupleArray());
+    pHeader->addData(tuple(L"%GroupBy:%B", L""));
+    pHeader->findGroupingTokens();
+
+    expectCaches(*pHeader, { L"%B" }, {}, {});
+    expectCaches(*pEvaluated, { L"%A" }, {}, {});
+    pEvaluated->findGroupingTokens();
+    expectCaches(*pHeader, { L"%B" }, {}, {});
 }
 
 TEST(VorBomTemplateItemTest, AssigningToItselfChangesNothing)
