@@ -73,6 +73,25 @@ TEST(VorArrayLengthTest, EachAppendFollowsTheBlockRule)
     }
 }
 
+TEST(VorArrayLengthTest, EmplacingFollowsTheBlockRuleAsAppendingDoes)
+{
+    const LeakCheck leaks;
+    for (const int growBy : { 1, 3, 8, 64, 65, 2000, INT_MAX }) // past 64 lengths and capacities part
+    {
+        IntArray array(growBy);
+        IntArray appended(growBy);
+        for (int index = 0; index < 6100; ++index)
+        {
+            const int& element = array.emplace(index);
+            ASSERT_EQ(&array.last(), &element);
+            appended.append(index);
+            ASSERT_EQ(appended.physicalLength(), array.physicalLength()) << "block " << growBy << " at " << index;
+        }
+        for (int index = 0; index < 6100; ++index)
+            ASSERT_EQ(index, array[index]);
+    }
+}
+
 TEST(VorArrayLengthTest, TheFirstAppendsWithABlockOfEight)
 {
     IntArray array;
@@ -263,6 +282,46 @@ TEST(VorArrayLengthTest, EveryElementIsDestroyedOnce)
         EXPECT_EQ(100, Counted::s_numLiving);
         copy = std::move(array);
         EXPECT_EQ(100, Counted::s_numLiving);
+    }
+    EXPECT_EQ(0, Counted::s_numLiving);
+}
+
+TEST(VorArrayLengthTest, EmplacingGoesOnAtEveryLengthThatWasSet)
+{
+    const LeakCheck leaks;
+    for (const int growBy : { 1, 8, 65, 2000 })
+        for (const int length : { 0, 1, 5, 63, 64, 65, 100, 3000 })
+        {
+            IntArray array(growBy);
+            IntArray appended(growBy);
+            for (IntArray* pArray : { &array, &appended })
+            {
+                pArray->setPhysicalLength(length); // capacity and physical length agree, whatever the block
+                pArray->setLogicalLength(length);
+                pArray->setLogicalLength(length - length / 3);
+            }
+            for (int i = 0; i < 200; ++i)
+            {
+                EXPECT_EQ(i, array.emplace(i));
+                appended.append(i);
+                ASSERT_EQ(appended.physicalLength(), array.physicalLength()) << growBy << ", " << length;
+            }
+            ASSERT_TRUE(std::equal(array.begin(), array.end(), appended.begin(), appended.end()));
+        }
+}
+
+TEST(VorArrayLengthTest, EmplacingCopiesNothingAndCostsLinearTime)
+{
+    const int numElements = 100000;
+    for (const int growBy : { 1, 8, 2000, INT_MAX })
+    {
+        Counted::reset();
+        VorArray<Counted> array(growBy);
+        for (int i = 0; i < numElements; ++i)
+            array.emplace();
+        EXPECT_EQ(numElements, Counted::s_numLiving);
+        EXPECT_EQ(0, Counted::s_numCopied) << "block " << growBy;
+        EXPECT_LE(Counted::s_numMoved, 4LL * numElements) << "block " << growBy;
     }
     EXPECT_EQ(0, Counted::s_numLiving);
 }

@@ -1,5 +1,6 @@
 #include "MekRoots/Test/Support/TestSupport.h"
 
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -89,6 +90,54 @@ TEST(VorArrayTest, AppendedElementsStandInOrder)
     EXPECT_EQ(VorString(L"%Name"), array.first());
     EXPECT_EQ(VorString(L"%Length"), array.last());
     EXPECT_EQ(VorString(L"%Name"), name);
+}
+
+TEST(VorArrayTest, EmplacedElementsAreConstructedFromTheArguments)
+{
+    const LeakCheck leaks;
+    VorArray<std::pair<VorString, int>> array;
+
+    array.emplace(VorString(L"%Weight"), 5).second += 2;
+    array.emplace();
+    array.emplace(std::make_pair(VorString(L"%Name"), 1));
+
+    ASSERT_EQ(3, array.length());
+    EXPECT_EQ(VorString(L"%Weight"), array[0].first);
+    EXPECT_EQ(7, array[0].second);
+    EXPECT_EQ(VorString(), array[1].first);
+    EXPECT_EQ(VorString(L"%Name"), array[2].first);
+}
+
+namespace
+{
+// Cannot be made of a negative number.
+struct Fastidious
+{
+    explicit Fastidious(int number) : text(L"made")
+    {
+        if (number < 0)
+            throw std::invalid_argument("negative");
+    }
+
+    VorString text;
+};
+}
+
+TEST(VorArrayTest, AnElementThatCannotBeConstructedIsNotEmplaced)
+{
+    const LeakCheck leaks;
+    for (const int growBy : { 1, 8, 2000 })
+    {
+        VorArray<Fastidious> array(growBy);
+        for (int i = 0; i < 200; ++i)
+        {
+            array.emplace(i);
+            ASSERT_THROW(array.emplace(-1), std::invalid_argument); // also where the array has just grown
+            ASSERT_EQ(i + 1, array.length());
+        }
+        for (const Fastidious& element : array)
+            ASSERT_EQ(VorString(L"made"), element.text);
+    }
 }
 
 TEST(VorArrayTest, ElementsMayBeWritten)
