@@ -9,13 +9,15 @@
 // writes to the page's head alone, not to the block, which may long have left the caches.
 #pragma once
 
+#include "MekRoots/Exp/MekExport.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
 
 class VorMemoryHeap;
 
-class VorMemoryPage
+class MEK_ROOTS_API VorMemoryPage
 {
 public:
     // In bytes; pages start at multiples of it, so that a block tells its page. Arbitrary: large against blocks, small

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstring>
 #include <mutex>
+#include <random>
 #include <set>
 #include <thread>
 #include <utility>
@@ -144,6 +145,101 @@ TEST(VorMemoryControllerControllerThreadTest, AThreadThatOnlyFreesFeedsOneThatOn
     consumer.join();
 
     EXPECT_LE(seen.size(), 40000U); // 400,000 if nothing came back
+}
+
+TEST(VorMemoryControllerControllerThreadTest, BlocksOfEverySizeFreedElsewhereComeBackWhileTheirThreadLives)
+{
+    if (kPoolIsBypassed)
+        GTEST_SKIP() << "every block comes from the system here";
+    const LeakCheck leaks;
+    for (const std::size_t size : { std::size_t{ 1 }, std::size_t{ 8 }, std::size_t{ 9 }, std::size_t{ 16 },
+                                    std::size_t{ 200 }, Memory::kLargestPooledBlock })
+    {
+        std::set<void*> seen;
+        for (int round = 0; round < 40; ++round)
+        {
+            const std::vector<void*> blocks = allocateMany(1000, size);
+            seen.insert(blocks.begin(), blocks.end());
+            std::thread([&blocks, size] { releaseAll(blocks, size); }).join();
+        }
+        EXPECT_LE(seen.size(), 13000U) << size; // 40,000 if nothing came back
+    }
+}
+
+namespace
+{
+// Where two threads leave blocks for each other.
+struct Marked
+{
+    std::size_t size;
+
+    // A block of `size` bytes, the first of which say so, the others are its lowest byte.
+    static Marked* create(std::size_t size)
+    {
+        auto* pMarked = static_cast<Marked*>(Memory::allocateArray(size, 1));
+        std::memset(static_cast<void*>(pMarked), static_cast<int>(size & 255), size);
+        pMarked->size = size;
+        return pMarked;
+    }
+
+    static void checkAndRelease(Marked* pMarked)
+    {
+        if (pMarked == nullptr)
+            return;
+        const std::size_t size = pMarked->size;
+        const auto* pBytes = reinterpret_cast<const unsigned char*>(pMarked);
+        std::size_t numRight = sizeof(Marked);
+        while (numRight < size && pBytes[numRight] == (size & 255))
+            ++numRight;
+        EXPECT_EQ(size, numRight) << "somebody else wrote to this block";
+        Memory::deallocateArray(pMarked, size, 1);
+    }
+};
+
+void swapBlocks(std::vector<std::atomic<Marked*>>& places, unsigned int seed)
+{
+    std::mt19937 random(seed);
+    for (int i = 0; i < 60000; ++i)
+    {
+        const std::size_t size = sizeof(Marked) + random() % (random() % 20 == 0 ? 1500 : 120);
+        Marked* pNew = Marked::create(random() % 4 == 0 ? sizeof(Marked) : size);
+        Marked::checkAndRelease(places[random() % places.size()].exchange(pNew));
+    }
+}
+}
+
+TEST(VorMemoryControllerControllerThreadTest, ThreadsThatSwapBlocksKeepThemApart)
+{
+    const LeakCheck leaks;
+    std::vector<std::atomic<Marked*>> places(2000);
+    std::thread other([&places] { swapBlocks(places, 1); });
+    swapBlocks(places, 2);
+    other.join();
+
+    for (std::atomic<Marked*>& place : places)
+        Marked::checkAndRelease(place);
+}
+
+TEST(VorMemoryControllerControllerThreadTest, MemoryOfEndedThreadsIsTakenOverWithTheirBlocksStillLiving)
+{
+    if (kPoolIsBypassed)
+        GTEST_SKIP() << "every block comes from the system here";
+    const LeakCheck leaks;
+    std::set<void*> seen;
+    std::vector<void*> kept;
+    for (int round = 0; round < 100; ++round)
+        std::thread(
+            [&]
+            {
+                std::vector<void*> blocks = allocateMany(2000);
+                seen.insert(blocks.begin(), blocks.end());
+                kept.push_back(blocks.back());
+                blocks.pop_back();
+                releaseAll(blocks);
+            })
+            .join();
+    EXPECT_LE(seen.size(), 6000U); // 200,000 if the threads' blocks kept their memory from others
+    releaseAll(kept);
 }
 
 TEST(VorMemoryControllerControllerThreadTest, LiveBlocksAreExactOnceTheThreadsHaveEnded)
