@@ -2,6 +2,8 @@
 
 #include "MekRoots/Exp/VorAssert.h"
 
+#include <utility>
+
 namespace
 {
 const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomTemplateItem";
@@ -69,12 +71,14 @@ int VorBomTemplateItem::list(VorString& out, int level, int withChildren, int wi
     return VorBomItemBase::list(out, level, withChildren, withNext);
 }
 
-// To be written to: shared with no copy.
+// To be written to. New each time: that no copy shares the present ones now does not say that one on another thread,
+// just destroyed, has been read to its end.
 VorBomTemplateItem::Requests& VorBomTemplateItem::ownRequests()
 {
-    if (m_pRequests == nullptr || m_pRequests.use_count() > 1)
-        m_pRequests = std::make_shared<Requests>(requests());
-    return *m_pRequests;
+    auto pRequests = std::make_shared<Requests>(requests());
+    Requests& own = *pRequests;
+    m_pRequests = std::move(pRequests);
+    return own;
 }
 
 void VorBomTemplateItem::findOwnGroupingTokens()

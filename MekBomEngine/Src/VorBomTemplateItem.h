@@ -106,6 +106,6 @@ private:
     static const Requests kNoRequests;
 
     eTemplateItemType m_nType = kUnkTemplateItemType;
-    std::shared_ptr<Requests> m_pRequests; // null as long as nothing was asked for
+    std::shared_ptr<const Requests> m_pRequests; // null as long as nothing was asked for
     VorBomDataRow* m_pFirstDataRow = nullptr;
 };

@@ -1,0 +1,38 @@
+// Sections whose copies are read and destroyed on other threads.
+#include "VorBomTemplateItem.h"
+
+#include "Support/BomTestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <memory>
+#include <thread>
+#include <utility>
+
+TEST(VorBomTemplateItemThreadTest, CachesMayBeFilledAnewWhileCopiesAreReadAndDestroyedElsewhere)
+{
+    const LeakCheck leaks;
+    VorBomTemplateItem item(VorBomTemplateItem::kGroupHeader);
+    item.addData(tuple(L"%GroupBy:%A", L""));
+    item.findGroupingTokens();
+    for (int round = 0; round < 200; ++round)
+    {
+        auto pCopy = std::make_unique<VorBomTemplateItem>(item);
+        std::atomic<bool> isRead{ false };
+        std::thread reader(
+            [&isRead, pRead = std::move(pCopy)]() mutable
+            {
+                EXPECT_EQ(VorString(L"%A"), pRead->groupingTokens().first());
+                pRead.reset();
+                isRead.store(true, std::memory_order_relaxed); // says when, and orders nothing
+            });
+        while (round % 2 == 0 && !isRead.load(std::memory_order_relaxed))
+            std::this_thread::yield();
+
+        item.findGroupingTokens();
+
+        reader.join();
+        ASSERT_EQ(VorString(L"%A"), item.groupingTokens().first());
+    }
+}
