@@ -139,28 +139,30 @@ void VorMemoryHeap::takeNextRun(std::size_t size)
     }
     while (m_pPage == nullptr || !m_pPage->takeRun(size, m_pNext, m_pEnd))
     {
-        leavePage();
-        enterNextPage();
+        leavePage(size);
+        enterNextPage(size);
     }
 }
 
-void VorMemoryHeap::leavePage()
+// For want of `size` bytes.
+void VorMemoryHeap::leavePage(std::size_t size)
 {
     VorMemoryPage* pPage = m_pPage;
     if (pPage == nullptr)
         return;
     m_pPage = nullptr;
     pPage->isInUse = false;
+    if (size > kLargestSmallBlock && pPage->hasShortStretches())
+        pPage->insertBehind(m_offeredToSmall);
     review(*pPage);
 }
 
-void VorMemoryHeap::enterNextPage()
+void VorMemoryHeap::enterNextPage(std::size_t size)
 {
-    VorMemoryPage* pPage = m_pOffered;
-    if (pPage != nullptr)
-        withdraw(*pPage);
-    else
-        pPage = VorMemoryPage::create(takeMemory(), *this);
+    VorMemoryPageLink& offered = size > kLargestSmallBlock || !m_offered.isAlone() ? m_offered : m_offeredToSmall;
+    VorMemoryPage* pPage =
+        offered.isAlone() ? VorMemoryPage::create(takeMemory(), *this) : static_cast<VorMemoryPage*>(offered.pNext);
+    pPage->remove();
     pPage->rewind();
     pPage->isInUse = true;
     m_pPage = pPage;
@@ -189,40 +191,18 @@ void* VorMemoryHeap::takeMemory()
 // Decides what becomes of a page that is empty, or that nobody takes runs from, after memory came back to it.
 void VorMemoryHeap::review(VorMemoryPage& page)
 {
-    if (&page == m_pPage)
+    if (&page == m_pPage || (!page.isEmpty() && !page.isWorthOffering()))
         return;
+    page.remove();
     if (!page.isEmpty())
     {
-        if (page.isWorthOffering())
-            offer(page);
+        page.isInUse = true;
+        page.insertBehind(m_offered);
         return;
     }
-    if (page.isInUse)
-        withdraw(page);
     Shared& all = shared();
     const std::lock_guard<std::mutex> lock(all.mutex);
     all.addEmptyPage(&page);
-}
-
-void VorMemoryHeap::offer(VorMemoryPage& page)
-{
-    page.isInUse = true;
-    page.pPrevious = nullptr;
-    page.pNext = m_pOffered;
-    if (page.pNext != nullptr)
-        page.pNext->pPrevious = &page;
-    m_pOffered = &page;
-}
-
-void VorMemoryHeap::withdraw(VorMemoryPage& page)
-{
-    if (page.pPrevious != nullptr)
-        page.pPrevious->pNext = page.pNext;
-    else
-        m_pOffered = page.pNext;
-    if (page.pNext != nullptr)
-        page.pNext->pPrevious = page.pPrevious;
-    page.isInUse = false;
 }
 
 void VorMemoryHeap::takeFromElsewhere(void* pBlock, std::size_t size)

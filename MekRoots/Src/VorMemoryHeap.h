@@ -19,6 +19,10 @@ class VorMemoryHeap
 public:
     static constexpr std::size_t kLargestBlock = 1024; // 32 tuples of 32 bytes: the columns of a wide report
 
+    // Blocks up to this are tried in what larger ones passed over, so that one large block does not hide from all
+    // others the holes that were too small for it. Arbitrary: holds most texts and every payload.
+    static constexpr std::size_t kLargestSmallBlock = 128;
+
     // The heap of a thread that begins, and its return when the thread ends.
     static VorMemoryHeap& takeOne();
     static void handBack(VorMemoryHeap& heap);
@@ -86,8 +90,8 @@ private:
     }
     void* allocateSlowly(std::size_t size, bool isAlignedTo16);
     void takeNextRun(std::size_t size);
-    void enterNextPage();
-    void leavePage();
+    void enterNextPage(std::size_t size);
+    void leavePage(std::size_t size);
     static void* takeMemory();
 
     void putBack(VorMemoryPage& page, void* pBlock, std::size_t size)
@@ -97,8 +101,6 @@ private:
             review(page);
     }
     void review(VorMemoryPage& page);
-    void offer(VorMemoryPage& page);
-    void withdraw(VorMemoryPage& page);
 
     bool hasBlocksFromElsewhere() const
     {
@@ -111,7 +113,8 @@ private:
     char* m_pNext = nullptr; // the run [m_pNext, m_pEnd), in *m_pPage
     char* m_pEnd = nullptr;
     VorMemoryPage* m_pPage = nullptr;
-    VorMemoryPage* m_pOffered = nullptr; // pages with memory to be had, the latest first
+    VorMemoryPageLink m_offered;        // pages with memory to be had, the latest first
+    VorMemoryPageLink m_offeredToSmall; // pages that a block larger than kLargestSmallBlock left with short stretches
     std::atomic<ForeignBlock*> m_pFromElsewhere{ nullptr };
     std::atomic<LargeForeignBlock*> m_pLargeFromElsewhere{ nullptr };
     std::atomic<long long> m_nNumLive{ 0 }; // written by the heap's thread alone, read by all

@@ -48,7 +48,10 @@ bool VorMemoryPage::takeRun(std::size_t size, char*& pFirst, char*& pEnd)
         if (first == kNumGranules)
             return false;
         if (end - first < numWanted)
+        {
+            m_nNumPassedOver += end - first;
             continue;
+        }
         markUsed(first, end - first);
         pFirst = addressOf(first);
         pEnd = addressOf(end);
@@ -60,6 +63,7 @@ void VorMemoryPage::rewind()
 {
     m_nNext = 0;
     m_nNumReturned = 0;
+    m_nNumPassedOver = 0;
 }
 
 void VorMemoryPage::putBackRest(char* pFirst, char* pEnd)

@@ -17,7 +17,38 @@
 
 class VorMemoryHeap;
 
-class MEK_ROOTS_API VorMemoryPage
+// A page's place in a list of pages. A list is a ring with one place more, its head, which is no page's; a page that is
+// in no list is a ring of its own.
+struct MEK_ROOTS_API VorMemoryPageLink
+{
+    VorMemoryPageLink() = default;
+    VorMemoryPageLink(const VorMemoryPageLink&) = delete;
+    VorMemoryPageLink& operator=(const VorMemoryPageLink&) = delete;
+
+    bool isAlone() const { return pNext == this; }
+
+    void remove()
+    {
+        pPrevious->pNext = pNext;
+        pNext->pPrevious = pPrevious;
+        pPrevious = this;
+        pNext = this;
+    }
+
+    // Puts this link, which is alone, behind `head`.
+    void insertBehind(VorMemoryPageLink& head)
+    {
+        pPrevious = &head;
+        pNext = head.pNext;
+        pNext->pPrevious = this;
+        head.pNext = this;
+    }
+
+    VorMemoryPageLink* pPrevious = this;
+    VorMemoryPageLink* pNext = this;
+};
+
+class MEK_ROOTS_API VorMemoryPage : public VorMemoryPageLink
 {
 public:
     // In bytes; pages start at multiples of it, so that a block tells its page. Arbitrary: large against blocks, small
@@ -73,10 +104,10 @@ public:
     // Whether a search for runs is worth while: an eighth of the page has come back since the last one began.
     bool isWorthOffering() const { return m_nNumReturned >= kNumGranules / 8; }
 
-    // Links and mark for the heap's list of pages; the page itself looks at none of them.
-    VorMemoryPage* pPrevious = nullptr;
-    VorMemoryPage* pNext = nullptr;
-    bool isInUse = false; // the heap takes runs from it, or lists it
+    // Whether as much was passed over since then because it lay in stretches too short for what was asked for.
+    bool hasShortStretches() const { return m_nNumPassedOver >= kNumGranules / 8; }
+
+    bool isInUse = false; // for the heap: it takes runs from this page, or offers it to blocks of all sizes
 
 private:
     using Word = std::uint64_t;
@@ -98,9 +129,10 @@ private:
     std::size_t findUsed(std::size_t granule, std::size_t end) const;
 
     VorMemoryHeap* m_pOwner;
-    std::size_t m_nNumFree = 0;     // in granules, as the next three
-    std::size_t m_nNumReturned = 0; // since the last rewind
-    std::size_t m_nNext = 0;        // where takeRun() goes on
+    std::size_t m_nNumFree = 0;       // in granules, as the next three
+    std::size_t m_nNumReturned = 0;   // since the last rewind, as the next
+    std::size_t m_nNumPassedOver = 0; // free, but in too short stretches
+    std::size_t m_nNext = 0;          // where takeRun() goes on
     std::array<Word, kNumGranules / kBitsPerWord> m_freeBits;
 };
 

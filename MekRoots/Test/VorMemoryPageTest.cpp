@@ -264,6 +264,26 @@ TEST(VorMemoryPageTest, APageIsWorthOfferingOnceAnEighthOfItCameBack)
     EXPECT_FALSE(page->isWorthOffering()) << "looked at again";
 }
 
+TEST(VorMemoryPageTest, WhatIsPassedOverCountsUntilTheStartIsLookedAtAgain)
+{
+    const TestPage page;
+    page.takeAll();
+    const std::size_t hole = 16 * kGranule;
+    for (std::size_t i = 0; i < VorMemoryPage::kSize / 8 / hole; ++i) // an eighth of the page
+        page->putBack(page.at(2 * kRunSize + 2 * i * hole), hole);
+    page->rewind();
+    EXPECT_FALSE(page->hasShortStretches()) << "nobody looked";
+
+    EXPECT_EQ(0U, page.take(hole + kGranule).size());
+    EXPECT_TRUE(page->hasShortStretches());
+
+    page->rewind();
+    EXPECT_FALSE(page->hasShortStretches());
+    EXPECT_EQ(hole, page.take(hole).size());
+    EXPECT_EQ(0U, page.take(hole + kGranule).size());
+    EXPECT_FALSE(page->hasShortStretches()) << "one hole less";
+}
+
 TEST(VorMemoryPageTest, APageFullOfBlocksIsEmptyAfterTheLastInAnyOrder)
 {
     std::mt19937 random(7);
