@@ -22,6 +22,13 @@ class MEK_BOM_API VorBomColumns
 public:
     VorBomColumns(std::shared_ptr<VorBomRowLayouts> pLayouts, std::vector<VorString> tokens);
 
+    // To be moved only: it points into its own list of positions.
+    VorBomColumns(const VorBomColumns&) = delete;
+    VorBomColumns& operator=(const VorBomColumns&) = delete;
+    VorBomColumns(VorBomColumns&&) noexcept = default;
+    VorBomColumns& operator=(VorBomColumns&&) noexcept = default;
+    ~VorBomColumns() = default;
+
     // Looks all tokens up in `row`.
     void find(VorBomItemBase& row)
     {

@@ -5,6 +5,8 @@
 
 #include <memory>
 #include <random>
+#include <type_traits>
+#include <utility>
 
 namespace
 {
@@ -124,4 +126,19 @@ TEST(VorBomColumnsTest, RandomRowsAreReadAsLookingUpTokenByTokenDoes)
         for (int i = 0; i < columns.count(); ++i)
             ASSERT_EQ(row.getTupleAt(asked[i]), columns[i]) << step;
     }
+}
+
+TEST(VorBomColumnsTest, ColumnsThatWereMovedGoOnFinding)
+{
+    static_assert(!std::is_copy_constructible<VorBomColumns>::value,
+                  "copies would point into the original's positions");
+    static_assert(std::is_nothrow_move_constructible<VorBomColumns>::value, "lists of columns grow by moving");
+    VorBomDataRow row;
+    addTuples(row, { VorBomDataTuple(kWeight, 1), VorBomDataTuple(kName, 2) });
+    VorBomColumns columns = nameAndWeight();
+    ASSERT_EQ(VorString(L"2 1"), found(columns, row));
+
+    VorBomColumns moved(std::move(columns));
+
+    EXPECT_EQ(VorString(L"2 1"), found(moved, row));
 }
