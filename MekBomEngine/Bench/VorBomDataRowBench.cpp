@@ -1,8 +1,7 @@
 // What does grouping pay to hold a row against the one before it? Both grouping tokens stand among fourteen columns and
 // are equal in most neighbours, so that the second one is usually compared too.
 //   BM_CompareWithNextRow       10 to 100,000 rows
-//   BM_CompareByManyTokens      two equal rows of 10 to 1,000 columns by all of them: what a hostile template costs.
-//                               Quadratic by nature (every token is looked up), hence no larger size.
+//   BM_CompareByManyTokens      two equal rows of 10 to 1,000 columns by all of them: what a hostile template costs
 #include "VorBomDataRow.h"
 
 #include <benchmark/benchmark.h>

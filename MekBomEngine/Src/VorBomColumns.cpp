@@ -1,5 +1,7 @@
 #include "VorBomColumns.h"
 
+#include "VorBomTupleFinder.h"
+
 #include <utility>
 
 VorBomColumns::VorBomColumns(std::shared_ptr<VorBomRowLayouts> pLayouts, std::vector<VorString> tokens)
@@ -26,14 +28,10 @@ void VorBomColumns::usePositionsOf(int layout, const VorBomDataTupleArray& tuple
 
 VorBomColumns::Positions VorBomColumns::positionsIn(const VorBomDataTupleArray& tuples) const
 {
+    const VorBomTupleFinder finder(tuples, count());
     Positions positions;
     positions.reserve(m_tokens.size());
     for (const VorString& token : m_tokens)
-    {
-        int position = 0;
-        while (position < tuples.length() && tuples[position].token().token() != token)
-            ++position;
-        positions.push_back(position < tuples.length() ? position : kNone);
-    }
+        positions.push_back(finder.indexOf(token));
     return positions;
 }

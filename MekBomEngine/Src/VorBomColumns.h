@@ -43,12 +43,11 @@ public:
     VorBomDataTuple* operator[](int column) const
     {
         const int position = m_pPositions[column];
-        return position == kNone ? nullptr : m_pTuples + position;
+        return position < 0 ? nullptr : m_pTuples + position;
     }
 
 private:
-    using Positions = std::vector<int>; // per token; kNone where the layout lacks it
-    static constexpr int kNone = -1;
+    using Positions = std::vector<int>; // per token; VorBomTupleFinder::kNone where the layout lacks it
 
     void usePositionsOf(int layout, const VorBomDataTupleArray& tuples);
     Positions positionsIn(const VorBomDataTupleArray& tuples) const;

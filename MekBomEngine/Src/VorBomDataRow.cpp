@@ -1,5 +1,7 @@
 #include "VorBomDataRow.h"
 
+#include "VorBomTupleFinder.h"
+
 #include <utility>
 
 namespace
@@ -26,9 +28,11 @@ void VorBomDataRow::setFrom(VorBomDataRow* pRow)
 
 int VorBomDataRow::compare(VorBomDataRow* pOther, const VorStringArray& tokens) const
 {
+    const VorBomTupleFinder finder(getData(), tokens.length());
+    const VorBomTupleFinder otherFinder(pOther->getData(), tokens.length());
     for (const VorString& token : tokens)
     {
-        const int result = VorBomDataTuple::compareValues(getTupleAt(token), pOther->getTupleAt(token));
+        const int result = VorBomDataTuple::compareValues(finder.find(token), otherFinder.find(token));
         if (result != 0)
             return result;
     }

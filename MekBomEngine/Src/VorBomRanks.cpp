@@ -144,6 +144,7 @@ bool compareAsTheyAreSorted(const NumbersOfRows<Number>& numbers)
 
 int VorBomRanks::create(const std::vector<const VorBomDataTuple*>& tuples, VorBomDataToken::eSortType sortType)
 {
+    m_nNumRanks = 1;
     if (std::all_of(tuples.begin(), tuples.end(), isMissing))
     {
         m_ranks.assign(tuples.size(), 0);

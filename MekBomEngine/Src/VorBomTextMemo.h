@@ -32,7 +32,7 @@ public:
     // After find() gave null. An empty text is not remembered.
     void remember(std::uint64_t key, const VorString& text);
 
-    // Forgets all texts.
+    // Forgets the texts, not what was found out about the column.
     void clear();
 
 private:
@@ -42,7 +42,7 @@ private:
         VorString text;
     };
 
-    static constexpr int kNumTrials = 1024;  // arbitrary: enough to tell
+    static constexpr int kNumTrials = 256;   // arbitrary: enough to tell
     static constexpr int kSlotBits = 9;      // 8 KB, so that those of all columns fit the inner caches
     static constexpr int kFewestFoundIn = 4; // one of so many, or remembering costs more than it saves
 

@@ -108,7 +108,7 @@ TEST(VorBomTextMemoTest, AColumnThatCeasesToRepeatIsGivenUpAfterAWhile)
 TEST(VorBomTextMemoTest, AFewNumbersThatDifferAreNoReasonToGiveUp)
 {
     VorBomTextMemo memo;
-    for (std::uint64_t key = 0; key < 900; ++key) // a short column, or the start of a long one
+    for (std::uint64_t key = 0; key < 200; ++key) // a short column, or the start of a long one
         look(memo, key);
 
     look(memo, 77777);
@@ -120,13 +120,13 @@ TEST(VorBomTextMemoTest, ClearForgetsAllTextsAndRemembersNewOnes)
     const long long before = VorMemoryControllerController::liveBlocks();
     VorBomTextMemo memo;
     memo.clear();
-    for (std::uint64_t key = 1; key <= 300; ++key)
+    for (std::uint64_t key = 1; key <= 200; ++key)
         look(memo, key);
 
     memo.clear();
 
     EXPECT_EQ(before, VorMemoryControllerController::liveBlocks());
-    for (std::uint64_t key = 1; key <= 300; ++key)
+    for (std::uint64_t key = 1; key <= 200; ++key)
         EXPECT_EQ(nullptr, memo.find(key));
     EXPECT_FALSE(look(memo, 5));
     EXPECT_TRUE(look(memo, 5));

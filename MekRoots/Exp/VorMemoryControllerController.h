@@ -22,7 +22,8 @@ public:
     static constexpr std::size_t kLargestPooledBlock = 1024;
 
     // Room for `numElements` elements of `elementSize` bytes each, its content undefined; null when that is no bytes at
-    // all. Aligned for any type of that size: to 16 bytes if it is a multiple of 16, else to 8.
+    // all. Aligned for any type of that size: to 16 bytes if it is a multiple of 16, as far as the system's own blocks
+    // are, else to 8.
     static void* allocateArray(std::size_t numElements, std::size_t elementSize)
     {
         return allocate(sizeOf(numElements, elementSize), elementSize % 16 == 0);

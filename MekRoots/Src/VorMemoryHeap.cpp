@@ -50,8 +50,8 @@ struct VorMemoryHeap::Shared
 
 void VorMemoryHeap::Shared::addChunk()
 {
-    chunks.reserve(chunks.size() + 1);
-    chunks.push_back(::operator new(kPagesPerChunk* VorMemoryPage::kSize, kPageAlignment));
+    chunks.push_back(nullptr); // before there is a chunk to lose
+    chunks.back() = ::operator new(kPagesPerChunk* VorMemoryPage::kSize, kPageAlignment);
     for (std::size_t i = kPagesPerChunk; i-- > 0;)
         addEmptyPage(static_cast<char*>(chunks.back()) + i * VorMemoryPage::kSize);
 }

@@ -4,7 +4,8 @@
 //   heap.release(pBlock, 40)   back to its page; to the heap it came from when that is another thread's
 //
 // A heap is used by one thread at a time. When the thread ends, the heap stays as it is, with the blocks that others
-// still hold, and goes to the next thread that begins. Heaps and their memory are never given back to the system: a
+// still hold, and goes to the next thread that begins. Blocks that other threads freed come back when the heap is next
+// short of memory: a thread that sleeps keeps them. Heaps and their memory are never given back to the system: a
 // process that made one report is about to make the next.
 #pragma once
 

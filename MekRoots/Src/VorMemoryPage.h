@@ -6,7 +6,7 @@
 //
 // Memory is handed out in runs of free granules and in the order of their addresses, whatever the order in which they
 // came back: what is allocated one after the other lies side by side and is met again in that order. Freeing a block
-// writes to the page's head alone, not to the block, which may long have left the caches.
+// on its thread writes to the page's head alone, not to the block, which may long have left the caches.
 #pragma once
 
 #include "MekRoots/Exp/MekExport.h"

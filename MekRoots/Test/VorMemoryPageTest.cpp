@@ -155,7 +155,7 @@ TEST(VorMemoryPageTest, AStretchThatEndsWithThePageIsTakenWhole)
 {
     const TestPage page;
     page.takeAll();
-    for (const std::size_t length : { 1U, 63U, 64U, 65U, 511U })
+    for (const std::size_t length : { 1U, 63U, 64U, 65U, 255U })
     {
         const std::size_t offset = VorMemoryPage::kSize - length * kGranule;
         page->putBack(page.at(offset), length * kGranule);
