@@ -72,7 +72,7 @@ void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomData
             continue;
         VorBomDataTuple& tuple = tuples[formula.index()];
         tuple.value().set(result);
-        row.addData(VorBomDataTuple(tuple.token().token(), result));
+        row.getData().emplace(tuple.token().token(), result);
     }
 }
 
