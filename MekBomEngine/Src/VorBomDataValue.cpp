@@ -75,12 +75,6 @@ void VorBomDataValue::set(int value)
     m_nType = kIntData;
 }
 
-void VorBomDataValue::set(double value)
-{
-    ::new (freeCell()) double(value);
-    m_nType = kDoubleData;
-}
-
 void VorBomDataValue::set(const VorString& value)
 {
     set(VorString(value)); // the argument may be this value's own text
@@ -153,6 +147,12 @@ void VorBomDataValue::empty()
         VorBomPayloadCells::release(m_pData);
     m_pData = nullptr;
     m_nType = kUnknownData;
+}
+
+void VorBomDataValue::replaceBy(double value)
+{
+    ::new (freeCell()) double(value);
+    m_nType = kDoubleData;
 }
 
 // Ends the payload's life and leaves its cell.

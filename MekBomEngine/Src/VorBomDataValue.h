@@ -70,7 +70,13 @@ public:
 
     // Replace payload and type. The text may be this value's own.
     void set(int value);
-    void set(double value);
+    void set(double value)
+    {
+        if (m_nType == kDoubleData)
+            *static_cast<double*>(m_pData) = value;
+        else
+            replaceBy(value);
+    }
     void set(const VorString& value);
     void set(VorString&& value); // takes the text over
 
@@ -105,6 +111,7 @@ private:
     double doubleValue() const { return *static_cast<const double*>(m_pData); }
     const VorString& textValue() const { return *static_cast<const VorString*>(m_pData); }
     void exchange(VorBomDataValue& other) noexcept;
+    void replaceBy(double value);
     void endPayload();
     void* freeCell();
 

@@ -58,7 +58,7 @@ public:
 
     // A run ends after so many bytes even if more are free, and this many must come back before memory at the start of
     // the page is looked at again: a search costs less than freeing them did.
-    static constexpr std::size_t kRunSize = 2048;
+    static constexpr std::size_t kRunSize = 3072;
 
     // The page in which a block lies.
     static VorMemoryPage& of(void* pBlock)

@@ -19,17 +19,10 @@ void writeDigits(std::uint64_t number, int numDigits, wchar_t* end)
         *--end = static_cast<wchar_t>(L'0' + number % 10);
 }
 
-// Writes `number` before `end`, two digits at a time, and at least `numDigits` of them; where the digits begin.
+// Writes `number` before `end`, and at least `numDigits` digits of it; where the digits begin.
 wchar_t* writeBackwards(std::uint64_t number, int numDigits, wchar_t* end)
 {
     wchar_t* const pLatest = end - numDigits;
-    while (number >= 100)
-    {
-        const auto pair = static_cast<wchar_t>(number % 100);
-        number /= 100;
-        *--end = static_cast<wchar_t>(L'0' + pair % 10);
-        *--end = static_cast<wchar_t>(L'0' + pair / 10);
-    }
     for (; number > 0 || end > pLatest; number /= 10)
         *--end = static_cast<wchar_t>(L'0' + number % 10);
     return end;
