@@ -27,4 +27,19 @@ TEST(TextCacheTest, EveryTextIsRightHoweverManyThereAre)
         for (int i = 0; i < 10'000; ++i)
             ASSERT_EQ(std::to_string(i), toUtf8(cache.textOf(std::to_string(i))));
 }
+
+TEST(TextCacheTest, UniqueTextsAreNotLookedForButTextsThatComeBackLaterAre)
+{
+    TextCache cache;
+    for (int i = 0; i < 5'000; ++i)
+        cache.textOf(std::to_string(i));
+    const VorString unshared = cache.textOf("S355J2");
+    EXPECT_FALSE(unshared.sharesTextWith(cache.textOf("S355J2")));
+
+    for (int i = 0; i < 100'000; ++i)
+        cache.textOf("S235JR");
+
+    const VorString shared = cache.textOf("S355J2");
+    EXPECT_TRUE(shared.sharesTextWith(cache.textOf("S355J2")));
+}
 }
