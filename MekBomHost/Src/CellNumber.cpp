@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 
 namespace mekbom::CellNumber
 {
@@ -43,6 +44,34 @@ bool parseBare(std::string_view text, T& value)
     return true;
 }
 
+// Ten to the power of up to kMostDigits, as doubles all exact.
+const double kPowersOfTen[] = { 1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15 };
+const std::size_t kMostDigits = 15;
+
+// digits [ '.' digits ], as nearly all numbers are written; false for any other text, which may be a number all the same.
+// So few digits are an exact double, and the quotient of two exact doubles is the double next to the number, which
+// std::from_chars finds by a longer way.
+bool parseShort(std::string_view text, double& value)
+{
+    std::int64_t digits = 0;
+    std::size_t numDecimals = 0;
+    std::size_t pos = 0;
+    if (text.empty() || text.size() > kMostDigits)
+        return false;
+    for (; pos < text.size() && isDigit(text[pos]); ++pos)
+        digits = digits * 10 + (text[pos] - '0');
+    if (pos > 0 && pos + 1 < text.size() && text[pos] == '.')
+    {
+        numDecimals = text.size() - pos - 1;
+        for (++pos; pos < text.size() && isDigit(text[pos]); ++pos)
+            digits = digits * 10 + (text[pos] - '0');
+    }
+    if (pos < text.size())
+        return false;
+    value = static_cast<double>(digits) / kPowersOfTen[numDecimals];
+    return true;
+}
+
 // Nearly all numbers stand bare; only the others are looked at for what may surround them.
 template <class T>
 bool parseAll(std::string_view text, T& value)
@@ -58,6 +87,8 @@ bool parse(std::string_view text, int& value)
 
 bool parse(std::string_view text, double& value)
 {
+    if (parseShort(text, value))
+        return true;
     double parsed = 0;
     if (!parseAll(text, parsed) || !std::isfinite(parsed))
         return false;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <cstdlib>
 #include <optional>
 #include <string>
 
@@ -34,10 +36,27 @@ TEST(CellNumberTest, NumbersAreReadWithSignPointAndExponent)
     EXPECT_EQ(2.5, numberOf(" 2.5\t"));
 }
 
+// Short numbers are read in another way than long ones: both must give the double next to the number.
+TEST(CellNumberTest, NumbersOfAnyLengthAreTheNearestDouble)
+{
+    const std::string digits = "9071992547409931";
+    for (std::size_t length = 1; length <= digits.size(); ++length)
+        for (std::size_t point = 0; point <= length; ++point)
+        {
+            const std::string text = digits.substr(0, point) + "." + digits.substr(point, length - point);
+            ASSERT_EQ(std::strtod(text.c_str(), nullptr), numberOf(text)) << text;
+        }
+    for (const char* const text : { "0", "0.0", "000.100", "999999999999999", "99999999999999.9", "0.00000000000001",
+                                    "1000000000000000", "0.30000000000000004" })
+        EXPECT_EQ(std::strtod(text, nullptr), numberOf(text)) << text;
+    EXPECT_TRUE(std::signbit(*numberOf("-0")));
+}
+
 TEST(CellNumberTest, WhatIsNoNumberIsNotRead)
 {
-    for (const char* const text : { "",  " ", "abc", "2,5",  "1 000", "2.5kg", "+-2",  "-+2",      "--2",   "+",
-                                    "-", ".", "e5",  "0x10", "inf",   "nan",   "-INF", "infinity", "1e999", "2.5 3" })
+    for (const char* const text :
+         { "",     " ",   "abc", "2,5",  "1 000",    "2.5kg", "+-2",   "-+2",   "--2",  "+",    "-",   ".",  "e5",
+           "0x10", "inf", "nan", "-INF", "infinity", "1e999", "2.5 3", "1.2.3", "1..2", "1.-2", "1/2", "1:2" })
         EXPECT_FALSE(numberOf(text)) << text;
 }
 
