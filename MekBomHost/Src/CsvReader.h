@@ -40,7 +40,10 @@ public:
 
     // The record read last. Fields are good until the next call of next().
     std::size_t numFields() const { return m_fields.size(); }
-    std::string_view field(std::size_t index) const;
+    std::string_view field(std::size_t index) const
+    {
+        return std::string_view(m_pBytes + m_fields[index].begin, m_fields[index].length);
+    }
 
     // The physical line, from 1, on which the record or one of its fields starts.
     int line() const { return m_recordLine; }
@@ -60,6 +63,7 @@ private:
 
     void beginRecord();
     void split(std::string_view line);
+    void takeFields(std::string_view line, std::size_t numFields);
     void parse(std::string_view line);
     void finish();
     void rethrowFailure();
@@ -71,7 +75,8 @@ private:
     std::string m_unquoted;         // the fields of a record that libcsv has read
     const char* m_pBytes = nullptr; // what fields count their positions from: m_unquoted or the line itself
     std::vector<Field> m_fields;
-    std::exception_ptr m_failure; // from within the parser's callbacks, which must not throw through it
+    std::vector<std::size_t> m_commas; // of the line in progress; has room for as many as it has bytes
+    std::exception_ptr m_failure;      // from within the parser's callbacks, which must not throw through it
     int m_recordLine = 0;
     int m_fieldLine = 0; // where the field in progress starts
     bool m_isWithinRecord = false;

@@ -18,8 +18,19 @@ bool isAscii(char byte)
     return static_cast<unsigned char>(byte) < 0x80;
 }
 
+// Without a look at where the first other byte is, so that many bytes are looked at together.
+bool isAllAscii(std::string_view bytes)
+{
+    unsigned char allBits = 0;
+    for (const char byte : bytes)
+        allBits = static_cast<unsigned char>(allBits | static_cast<unsigned char>(byte));
+    return allBits < 0x80;
+}
+
 std::size_t asciiLength(std::string_view bytes)
 {
+    if (isAllAscii(bytes))
+        return bytes.size();
     return static_cast<std::size_t>(std::find_if_not(bytes.begin(), bytes.end(), isAscii) - bytes.begin());
 }
 
@@ -94,7 +105,7 @@ std::size_t countCharacters(std::string_view bytes)
 VorString toWide(std::string_view bytes)
 {
     wchar_t characters[kMostShort];
-    if (bytes.size() <= kMostShort && asciiLength(bytes) == bytes.size())
+    if (bytes.size() <= kMostShort && isAllAscii(bytes))
     {
         std::copy(bytes.begin(), bytes.end(), characters);
         return VorString(characters, static_cast<int>(bytes.size()));
