@@ -40,11 +40,16 @@ void PartsRows::add(const CsvReader& reader)
 {
     if (!checkNumFields(reader))
         return;
+    int numTuples = m_numberToken.isEmpty() == 1 ? 0 : 1;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
-        if (!reader.field(i).empty())
-            checkCell(reader, i);
+    {
+        if (reader.field(i).empty())
+            continue;
+        checkCell(reader, i);
+        numTuples += m_columns[i].isWanted ? 1 : 0;
+    }
     if (m_faults.isEmpty())
-        buildRow(reader);
+        buildRow(reader, numTuples);
 }
 
 // The columns whose type was open are filled in last: `takeNext` gives their cells in the order of the rows.
@@ -76,16 +81,17 @@ bool PartsRows::checkNumFields(const CsvReader& reader)
 void PartsRows::checkCell(const CsvReader& reader, std::size_t column)
 {
     const std::string_view text = reader.field(column);
+    const PartsColumn& properties = m_columns[column];
     Cell& cell = m_cells[column];
-    if (m_columns[column].type == VorBomDataValue::kIntData && !CellNumber::parse(text, cell.whole))
+    if (properties.type == VorBomDataValue::kIntData && !CellNumber::parse(text, cell.whole))
         addFault(reader, column,
                  CellNumber::isWhole(text) ? "a whole number from -2147483648 to 2147483647" : "a whole number");
-    if (m_columns[column].type != VorBomDataValue::kDoubleData)
+    if (properties.type != VorBomDataValue::kDoubleData)
         return;
-    if (!m_columns[column].takesPlainNumbers || !CellNumber::parse(text, cell.number))
+    if (!properties.takesPlainNumbers || !CellNumber::parse(text, cell.number))
         return checkQuantity(reader, column);
-    if (m_columns[column].unit)
-        cell.number = m_columns[column].unit->getVorUnitTransform().toInternalUnits(cell.number);
+    if (properties.unit)
+        cell.number = properties.unit->getVorUnitTransform().toInternalUnits(cell.number);
     if (!std::isfinite(cell.number))
         addFault(reader, column, "a smaller number");
 }
@@ -110,13 +116,10 @@ void PartsRows::addFault(const CsvReader& reader, std::size_t column, const std:
                  expected);
 }
 
-void PartsRows::buildRow(const CsvReader& reader)
+void PartsRows::buildRow(const CsvReader& reader, int numTuples)
 {
     auto pRow = std::make_unique<VorBomDataRow>();
-    int numTuples = m_numReserved + (m_numberToken.isEmpty() == 1 ? 0 : 1);
-    for (std::size_t i = 0; i < m_columns.size(); ++i)
-        numTuples += m_columns[i].isWanted && !reader.field(i).empty() ? 1 : 0;
-    pRow->getData().setPhysicalLength(numTuples); // a row of a large model holds no more than it needs
+    pRow->getData().setPhysicalLength(numTuples + m_numReserved); // a row of a large model holds no more than it needs
     ++m_numRows;
     if (m_numberToken.isEmpty() == 0)
         addNumberAsHandle(*pRow);
@@ -135,18 +138,14 @@ void PartsRows::addDatum(VorBomDataRow& row, std::string_view text, std::size_t 
         return;
     switch (properties.type)
     {
-        case VorBomDataValue::kIntData:
-            row.addData(VorBomDataTuple(properties.tupleToken, m_cells[column].whole));
-            break;
-        case VorBomDataValue::kDoubleData:
-            row.addData(VorBomDataTuple(properties.tupleToken, m_cells[column].number));
-            break;
+        case VorBomDataValue::kIntData: row.getData().emplace(properties.tupleToken, m_cells[column].whole); break;
+        case VorBomDataValue::kDoubleData: row.getData().emplace(properties.tupleToken, m_cells[column].number); break;
         case VorBomDataValue::kStringData:
-            row.addData(VorBomDataTuple(properties.tupleToken, m_texts[column].textOf(text)));
+            row.getData().emplace(properties.tupleToken, m_texts[column].textOf(text));
             break;
         default:
             m_contentColumns[column].add(text);
-            row.addData(VorBomDataTuple(properties.tupleToken, 0)); // a place for the value that finish() sets
+            row.getData().emplace(properties.tupleToken, 0); // a place for the value that finish() sets
             break;
     }
 }
@@ -156,13 +155,13 @@ void PartsRows::addHandle(VorBomDataRow& row, std::string_view text, std::size_t
     const VorString handle = Utf8::toWide(text);
     row.setObjectHandle(handle);
     if (m_columns[column].isWanted)
-        row.addData(VorBomDataTuple(m_columns[column].tupleToken, handle));
+        row.getData().emplace(m_columns[column].tupleToken, handle);
 }
 
 void PartsRows::addNumberAsHandle(VorBomDataRow& row)
 {
     const VorString handle = Utf8::toWide(std::to_string(m_numRows));
     row.setObjectHandle(handle);
-    row.addData(VorBomDataTuple(m_numberToken, handle));
+    row.getData().emplace(m_numberToken, handle);
 }
 }

@@ -51,7 +51,7 @@ private:
     void checkCell(const CsvReader& reader, std::size_t column);
     void checkQuantity(const CsvReader& reader, std::size_t column);
     void addFault(const CsvReader& reader, std::size_t column, const std::string& expected);
-    void buildRow(const CsvReader& reader);
+    void buildRow(const CsvReader& reader, int numTuples);
     void addDatum(VorBomDataRow& row, std::string_view text, std::size_t column);
     void addHandle(VorBomDataRow& row, std::string_view text, std::size_t column);
     void addNumberAsHandle(VorBomDataRow& row);
