@@ -4,10 +4,8 @@
 
 namespace mekbom
 {
-TableLines::TableLines(const TableLayout& layout, const VorBomItemBase& result) : m_layout(layout)
+TableLines::TableLines(const TableLayout& layout, const VorBomItemBase& result) : m_layout(layout), m_sections(result)
 {
-    if (result.child() != nullptr)
-        m_path.push_back(result.child());
 }
 
 // A section waits until the one after it is known: a footer may come to stand on its header's line.
@@ -39,37 +37,17 @@ bool TableLines::next(TableLine& line)
 
 // The next section that shows something: headers before what is under them, footers after it. An evaluated header knows
 // the row that opened it; a footer has none.
-bool TableLines::nextSection(TableLine& section)
+bool TableLines::nextSection(TableLine& line)
 {
-    while (!m_path.empty())
+    for (WalkedSection section; m_sections.next(section);)
     {
-        const VorBomTemplateItem* const pItem = current();
-        section = TableLine();
-        section.level = static_cast<int>(m_path.size()) - 1;
-        (pItem->getFirstDataRow() != nullptr ? section.pHeader : section.pFooter) = pItem;
-        advance();
-        if (showsAnything(section))
+        line = TableLine();
+        line.level = section.level;
+        (section.pItem->getFirstDataRow() != nullptr ? line.pHeader : line.pFooter) = section.pItem;
+        if (showsAnything(line))
             return true;
     }
     return false;
-}
-
-const VorBomTemplateItem* TableLines::current() const
-{
-    return static_cast<const VorBomTemplateItem*>(m_path.back());
-}
-
-void TableLines::advance()
-{
-    if (m_path.back()->child() != nullptr)
-    {
-        m_path.push_back(m_path.back()->child());
-        return;
-    }
-    while (!m_path.empty() && m_path.back()->next() == nullptr)
-        m_path.pop_back();
-    if (!m_path.empty())
-        m_path.back() = m_path.back()->next();
 }
 
 bool TableLines::showsAnything(const TableLine& section) const

@@ -8,11 +8,10 @@
 // A header and its footer share a line when nothing is printed between them and they do not want the same column.
 #pragma once
 
+#include "SectionWalk.h"
 #include "TableLayout.h"
 
 #include "VorBomTemplateItem.h"
-
-#include <vector>
 
 namespace mekbom
 {
@@ -34,15 +33,13 @@ public:
     bool next(TableLine& line);
 
 private:
-    bool nextSection(TableLine& section);
-    const VorBomTemplateItem* current() const;
-    void advance();
+    bool nextSection(TableLine& line);
     bool showsAnything(const TableLine& section) const;
     bool canShareLine(const TableLine& header, const TableLine& footer) const;
 
     const TableLayout& m_layout;
-    std::vector<const VorBomItemBase*> m_path; // the section to be visited next and those it stands under
-    TableLine m_waiting;                       // a section that has been visited and is on no line yet
+    SectionWalk m_sections;
+    TableLine m_waiting; // a section that has been visited and is on no line yet
     bool m_isWaiting = false;
 };
 }
