@@ -20,6 +20,7 @@ public:
 
     constexpr bool holds(wchar_t character) const
     {
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wchar_t is no char
         const auto nCode = static_cast<std::uint32_t>(character);
         return nCode < 64 && (m_nBits >> nCode & 1) != 0;
     }
@@ -72,6 +73,7 @@ public:
 
     constexpr eKind operator[](wchar_t character) const
     {
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wchar_t is no char
         const auto nCode = static_cast<std::uint32_t>(character);
         return nCode < 64 ? static_cast<eKind>(m_kinds[nCode]) : kOperand;
     }

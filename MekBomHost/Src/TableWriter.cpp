@@ -23,6 +23,7 @@ bool isPlainAscii(const VorString& text)
     std::uint32_t differences = 0;
     for (int i = 0; i < text.length(); ++i)
     {
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wchar_t is no char
         const auto character = static_cast<std::uint32_t>(pText[i]);
         differences |= (character - U' ') | (U'~' - character);
     }
