@@ -18,7 +18,7 @@
 class MEK_ROOTS_API VorMemoryControllerController
 {
 public:
-    // Holds the tuples of a wide row, 32 of 32 bytes; its texts and value payloads are smaller.
+    // Holds the tuples of a wide row, 32 of at most 32 bytes; its texts and value payloads are smaller.
     static constexpr std::size_t kLargestPooledBlock = 1024;
 
     // Room for `numElements` elements of `elementSize` bytes each, its content undefined; null when that is no bytes at

@@ -1,6 +1,6 @@
 // The pooled memory of one thread: a run of free memory, from which blocks of all sizes are cut one after the other.
 //
-//   heap.allocate(40, false)       the next 40 bytes of the run
+//   heap.allocate(40, false)   the next 40 bytes of the run
 //   heap.release(pBlock, 40)   back to its page; to the heap it came from when that is another thread's
 //
 // A heap is used by one thread at a time. When the thread ends, the heap stays as it is, with the blocks that others
@@ -18,7 +18,7 @@
 class VorMemoryHeap
 {
 public:
-    static constexpr std::size_t kLargestBlock = 1024; // 32 tuples of 32 bytes: the columns of a wide report
+    static constexpr std::size_t kLargestBlock = 1024; // 32 tuples of at most 32 bytes: a wide report
 
     // Blocks up to this are tried in what larger ones passed over, so that one large block does not hide from all
     // others the holes that were too small for it. Arbitrary: holds most texts and every payload.
