@@ -16,6 +16,7 @@
 #include <memory>
 
 class VorBomLevelPlan;
+class VorBomSectionSink;
 
 using VorBomDataRowPointerArray = VorArray<VorBomDataRow*>;
 
@@ -31,6 +32,7 @@ public:
     VorBomTemplateItem* m_pEvaluatedHeader = nullptr;    // made from m_pHeader for the group; null when there is none
     VorBomTemplateItem* m_pEvaluatedFooter = nullptr;    // made from m_pFooter when the group closed; null when none
     VorBomItemBase* m_pCollector = nullptr;              // where level 0 hangs its sections; null on all other levels
+    VorBomSectionSink* m_pSink = nullptr;                // takes what is not to be kept; null when a tree is made
     int m_bGroupOpen = 0;                                // 1 while a group is open
     std::shared_ptr<VorBomLevelPlan> m_pPlan;            // what the two sections ask of every row, read from them once
 };

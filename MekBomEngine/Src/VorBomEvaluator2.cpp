@@ -38,11 +38,29 @@ int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResul
     if (stack.isEmpty())
         return 0;
     stack[0].m_pCollector = pResult;
-    VorBomData* pData = pTemplate->getBomData();
-    if (pData == nullptr)
-        return 1;
+    evaluateRows(*pTemplate, stack);
+    return 1;
+}
 
-    VorBomTemplateUnits* pUnits = pTemplate->getBomTemplateUnits();
+int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sink)
+{
+    if (pTemplate == nullptr)
+        return 0;
+    VorBomEngineStateArray stack = getTemplateStack(pTemplate);
+    if (stack.isEmpty())
+        return 0;
+    for (VorBomEngineState& state : stack)
+        state.m_pSink = &sink;
+    evaluateRows(*pTemplate, stack);
+    return 1;
+}
+
+void VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineStateArray& stack)
+{
+    VorBomData* pData = reportTemplate.getBomData();
+    if (pData == nullptr)
+        return;
+    VorBomTemplateUnits* pUnits = reportTemplate.getBomTemplateUnits();
     sortInpuDataBySortingTokens(pData, stack);
     VorBomRowsAhead ahead(pData->child());
     for (VorBomItemBase* pRow = pData->child(); pRow != nullptr; pRow = pRow->next())
@@ -52,8 +70,8 @@ int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResul
     }
     for (int level = stack.length() - 1; level >= 0; --level)
         endGroup(stack, level, pUnits);
+    handOverFooters(stack, 0);
     forgetGroup(stack, 0);
-    return 1;
 }
 
 VorBomEngineStateArray VorBomEvaluator2::getTemplateStack(VorBomTemplate* pTemplate)
@@ -100,6 +118,7 @@ int VorBomEvaluator2::evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& 
         if (pStates[level].m_dataRows.isEmpty())
         {
             beginGroup(pRow, stack, level);
+            handOverHeader(stack, level, pUnits);
             if (isLastLevel(stack, level))
                 endGroup(stack, level, pUnits);
         }
@@ -107,7 +126,9 @@ int VorBomEvaluator2::evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& 
         {
             for (int inner = level; inner < stack.length(); ++inner)
                 endGroup(stack, inner, pUnits);
+            handOverFooters(stack, level);
             beginGroup(pRow, stack, level);
+            handOverHeader(stack, level, pUnits);
         }
         else
         {
@@ -165,6 +186,7 @@ int VorBomEvaluator2::groupIsCompleted(VorBomEngineStateArray& stack, int level,
         completedGroup.m_pPlan->footer->showInUnits(*pUnits, *completedGroup.m_pEvaluatedFooter);
     if (level > 0 && isLastLevel(stack, level))
         dropDuplicateDetails(stack, level);
+    handOverLine(stack, level);
     hangSections(stack, level);
     completedGroup.m_dataRows.empty();
     return 1;
@@ -197,15 +219,23 @@ void VorBomEvaluator2::dropDuplicateDetails(VorBomEngineStateArray& stack, int l
     completedGroup.m_pEvaluatedHeader = nullptr;
 }
 
-// Appends the level's header, then its footer, to the sections of the level above, or at level 0 to the collector.
+// Appends the level's header, then its footer, to the sections of the level above, or at level 0 to the collector. When
+// a sink has them already they only take the place of those before: the next line is compared with its predecessor.
 void VorBomEvaluator2::hangSections(VorBomEngineStateArray& stack, int level)
 {
     const VorBomEngineState& completedGroup = stack.begin()[level];
     VorBomItemBase* pTarget = level == 0 ? completedGroup.m_pCollector : stack[level - 1].m_pEvaluatedHeader;
+    const bool isKept = completedGroup.m_pSink == nullptr;
     if (pTarget == nullptr)
     {
-        VorAssert::vorAssert(L"NULL != completedGroup.m_pCollector", kSourcePath, __LINE__);
+        if (isKept)
+            VorAssert::vorAssert(L"NULL != completedGroup.m_pCollector", kSourcePath, __LINE__);
         return;
+    }
+    if (!isKept && (completedGroup.m_pEvaluatedHeader != nullptr || completedGroup.m_pEvaluatedFooter != nullptr))
+    {
+        pTarget->empty();
+        pTarget->setChild(nullptr);
     }
     pTarget->addChild(completedGroup.m_pEvaluatedHeader);
     pTarget->addChild(completedGroup.m_pEvaluatedFooter);
@@ -226,4 +256,34 @@ void VorBomEvaluator2::forgetGroup(VorBomEngineStateArray& stack, int level)
     state.m_dataRows.empty();
     state.m_pEvaluatedHeader = nullptr;
     state.m_pEvaluatedFooter = nullptr;
+}
+
+void VorBomEvaluator2::handOverHeader(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits)
+{
+    const VorBomEngineState& openedGroup = stack.begin()[level];
+    if (openedGroup.m_pSink == nullptr || isLastLevel(stack, level))
+        return;
+    openedGroup.m_pPlan->header.showInUnits(*pUnits, *openedGroup.m_pEvaluatedHeader);
+    openedGroup.m_pSink->takeHeader(*openedGroup.m_pEvaluatedHeader, level);
+}
+
+void VorBomEvaluator2::handOverFooters(VorBomEngineStateArray& stack, int outermost)
+{
+    for (int level = stack.length() - 2; level >= outermost; --level)
+    {
+        const VorBomEngineState& closedGroup = stack.begin()[level];
+        if (closedGroup.m_pSink != nullptr && closedGroup.m_pEvaluatedFooter != nullptr)
+            closedGroup.m_pSink->takeFooter(*closedGroup.m_pEvaluatedFooter, level);
+    }
+}
+
+void VorBomEvaluator2::handOverLine(VorBomEngineStateArray& stack, int level)
+{
+    const VorBomEngineState& line = stack.begin()[level];
+    if (line.m_pSink == nullptr || !isLastLevel(stack, level))
+        return;
+    if (line.m_pEvaluatedHeader != nullptr)
+        line.m_pSink->takeHeader(*line.m_pEvaluatedHeader, level);
+    if (line.m_pEvaluatedFooter != nullptr)
+        line.m_pSink->takeFooter(*line.m_pEvaluatedFooter, level);
 }

@@ -36,6 +36,7 @@
 #pragma once
 
 #include "VorBomEngineState.h"
+#include "VorBomSectionSink.h"
 #include "VorBomTemplate.h"
 #include "VorHeaderFooterSortingStruct.h"
 
@@ -52,11 +53,16 @@ public:
     // "NULL != completedGroup.m_pCollector" is reported.
     static int evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResult);
 
+    // The same report, handed to `sink` section by section as evaluation goes on instead of being kept: it takes the
+    // memory of one line for each level, however many rows there are. Returns 1, or 0 without template or section.
+    static int evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sink);
+
 private:
     friend struct VorBomEvaluator2Access; // lets tests call one step at a time
 
     // One state per level, outermost first.
     static VorBomEngineStateArray getTemplateStack(VorBomTemplate* pTemplate);
+    static void evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineStateArray& stack);
 
     // A header or details section for one row: a copy of pTemplateItem without links, its values taken from the row
     // where the row has them. Formulas stay as they are. Marks the row's tuples it took as used. The caller owns it.
@@ -79,6 +85,12 @@ private:
     static void dropDuplicateDetails(VorBomEngineStateArray& stack, int level);
     static void hangSections(VorBomEngineStateArray& stack, int level);
     static void forgetGroup(VorBomEngineStateArray& stack, int level);
+
+    // What a sink gets, in the order of the report; nothing happens without one. Headers go to it when their groups open,
+    // footers of `outermost` and the levels within when they have been closed, the deepest level's sections at once.
+    static void handOverHeader(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits);
+    static void handOverFooters(VorBomEngineStateArray& stack, int outermost);
+    static void handOverLine(VorBomEngineStateArray& stack, int level);
 
     // Sorting. The comparisons are callbacks over pointers to elements: VorBomDataRow* and
     // VorHeaderFooterSortingStruct. All return 1 but the comparisons, which answer -1, 0 or 1, and isEqualAsEvaluated.
