@@ -30,6 +30,10 @@ public:
     VorBomDataTuple(const VorString& token, VorBomDataValue&& value) : m_token(token), m_value(std::move(value)) {}
 
     // The same with the payload in one of `cells`.
+    VorBomDataTuple(const VorString& token, double value, VorBomPayloadCells& cells)
+        : m_token(token), m_value(value, cells)
+    {
+    }
     VorBomDataTuple(const VorString& token, const VorBomDataValue& value, VorBomPayloadCells& cells)
         : m_token(token), m_value(value, cells)
     {

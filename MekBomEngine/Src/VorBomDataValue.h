@@ -40,6 +40,7 @@ public:
     VorBomDataValue(const VorBomDataValue& other) { copy(other, VorBomPayloadCells::takeOne); }
 
     // The same with a payload in one of `cells`.
+    VorBomDataValue(double value, VorBomPayloadCells& cells) { create<double>(cells.take(), kDoubleData, value); }
     VorBomDataValue(const VorBomDataValue& other, VorBomPayloadCells& cells)
     {
         copy(other, [&cells] { return cells.take(); });

@@ -6,6 +6,9 @@
 
 namespace
 {
+// How many results of formulas get their memory at once. Arbitrary: as many as fill some lines of the cache.
+constexpr int kNumCellsForRows = 64;
+
 const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomEvaluator2"; // whose reports these are
 
 std::vector<VorString> tokensOf(const VorBomDataTupleArray& tuples)
@@ -72,11 +75,18 @@ void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomData
             continue;
         VorBomDataTuple& tuple = tuples[formula.index()];
         tuple.value().set(result);
-        row.getData().emplace(tuple.token().token(), result);
+        row.getData().emplace(tuple.token().token(), result, cellsForRows());
     }
 }
 
 void VorBomHeaderPlan::showInUnits(VorBomTemplateUnits& units, VorBomTemplateItem& evaluated)
 {
     VorBomDisplayColumn::showAll(m_displays, units, evaluated.getData());
+}
+
+VorBomPayloadCells& VorBomHeaderPlan::cellsForRows()
+{
+    if (!m_cellsForRows || m_cellsForRows->isUsedUp())
+        m_cellsForRows.emplace(kNumCellsForRows);
+    return *m_cellsForRows;
 }

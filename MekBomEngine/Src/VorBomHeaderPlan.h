@@ -17,6 +17,7 @@
 #include "MekRoots/Exp/MekExport.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class MEK_BOM_API VorBomHeaderPlan
@@ -36,9 +37,13 @@ public:
     void showInUnits(VorBomTemplateUnits& units, VorBomTemplateItem& evaluated);
 
 private:
+    VorBomPayloadCells& cellsForRows();
+
     const VorBomTemplateItem& m_section;
     VorBomColumns m_columns;       // one per tuple of the section
     std::vector<char> m_isFormula; // 1 or 0; bits would cost more than they save
     std::vector<VorBomFormulaColumn> m_formulas;
+    std::optional<VorBomPayloadCells>
+        m_cellsForRows; // of results; apart from the sections, which go before the rows do
     std::vector<VorBomDisplayColumn> m_displays;
 };

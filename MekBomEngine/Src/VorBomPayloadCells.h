@@ -40,6 +40,8 @@ public:
         return pCell;
     }
 
+    bool isUsedUp() const { return m_pNext == m_pEnd; }
+
     static void* takeOne() { return VorMemoryControllerController::allocateArray(1, kCellSize); }
     static void release(void* pCell) { VorMemoryControllerController::deallocateArray(pCell, 1, kCellSize); }
 

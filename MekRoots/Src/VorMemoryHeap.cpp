@@ -152,7 +152,7 @@ void VorMemoryHeap::leavePage(std::size_t size)
         return;
     m_pPage = nullptr;
     pPage->isInUse = false;
-    if (size > kLargestSmallBlock && pPage->hasShortStretches())
+    if (pPage->isFragmented() || (size > kLargestSmallBlock && pPage->hasShortStretches()))
         pPage->insertBehind(m_offeredToSmall);
     review(*pPage);
 }

@@ -37,7 +37,7 @@ VorMemoryPage::VorMemoryPage(VorMemoryHeap& owner) : m_pOwner(&owner)
 bool VorMemoryPage::takeRun(std::size_t size, char*& pFirst, char*& pEnd)
 {
     if (m_nNumReturned * kGranule >= kRunSize)
-        rewind();
+        goBackToStart();
     const std::size_t numWanted = size / kGranule;
     const std::size_t longest = std::max(numWanted, kRunSize / kGranule);
     for (;;)
@@ -53,6 +53,8 @@ bool VorMemoryPage::takeRun(std::size_t size, char*& pFirst, char*& pEnd)
             continue;
         }
         markUsed(first, end - first);
+        m_nNumTaken += end - first;
+        ++m_nNumRuns;
         pFirst = addressOf(first);
         pEnd = addressOf(end);
         return true;
@@ -61,9 +63,26 @@ bool VorMemoryPage::takeRun(std::size_t size, char*& pFirst, char*& pEnd)
 
 void VorMemoryPage::rewind()
 {
+    m_nStart = 0;
     m_nNext = 0;
+    beginSearch();
+}
+
+void VorMemoryPage::goBackToStart()
+{
+    const bool wereRunsShort = m_nNumRuns >= kFewestRuns && m_nNumTaken * kGranule < m_nNumRuns * kShortRun;
+    if (wereRunsShort)
+        m_nStart = m_nNext;
+    m_nNext = m_nStart;
+    beginSearch();
+}
+
+void VorMemoryPage::beginSearch()
+{
     m_nNumReturned = 0;
     m_nNumPassedOver = 0;
+    m_nNumTaken = 0;
+    m_nNumRuns = 0;
 }
 
 void VorMemoryPage::putBackRest(char* pFirst, char* pEnd)

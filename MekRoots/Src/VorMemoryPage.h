@@ -76,10 +76,11 @@ public:
     VorMemoryHeap& owner() const { return *m_pOwner; }
 
     // Takes a run of at least `size` free bytes: [pFirst, pEnd). Goes on from where the last one was taken, and from the
-    // start again once enough has come back. False with both untouched when the end of the page is reached.
+    // start again once enough has come back; but where runs have been short, too much that stays lies between what comes
+    // and goes, and the start is from now on behind them. False with both untouched when the end of the page is reached.
     bool takeRun(std::size_t size, char*& pFirst, char*& pEnd);
 
-    // Lets takeRun() go on from the start.
+    // Lets takeRun() go on from the start of the page.
     void rewind();
 
     // Makes the rest of a run free again; takeRun() goes on from there.
@@ -107,6 +108,9 @@ public:
     // Whether as much was passed over since then because it lay in stretches too short for what was asked for.
     bool hasShortStretches() const { return m_nNumPassedOver >= kNumGranules / 8; }
 
+    // Whether takeRun() has given up the start of the page since the last rewind.
+    bool isFragmented() const { return m_nStart > 0; }
+
     bool isInUse = false; // for the heap: it takes runs from this page, or offers it to blocks of all sizes
 
 private:
@@ -116,6 +120,10 @@ private:
     static constexpr Word kAllFree = ~Word{ 0 };
     static const std::size_t kFirstGranule; // the first past the head
 
+    // Fewer runs tell nothing; shorter ones hold little more than the tuples of a line. Both arbitrary.
+    static constexpr std::size_t kFewestRuns = 4;
+    static constexpr std::size_t kShortRun = kRunSize / 8;
+
     explicit VorMemoryPage(VorMemoryHeap& owner);
 
     char* addressOf(std::size_t granule) { return reinterpret_cast<char*>(this) + granule * kGranule; }
@@ -123,16 +131,21 @@ private:
     {
         return static_cast<std::size_t>(static_cast<char*>(pBlock) - reinterpret_cast<char*>(this)) / kGranule;
     }
+    void goBackToStart();
+    void beginSearch();
     void markFree(std::size_t granule, std::size_t numGranules);
     void markUsed(std::size_t granule, std::size_t numGranules);
     std::size_t findFree(std::size_t granule) const;
     std::size_t findUsed(std::size_t granule, std::size_t end) const;
 
     VorMemoryHeap* m_pOwner;
-    std::size_t m_nNumFree = 0;       // in granules, as the next three
-    std::size_t m_nNumReturned = 0;   // since the last rewind, as the next
+    std::size_t m_nNumFree = 0;       // in granules, as the next four
+    std::size_t m_nNumReturned = 0;   // since takeRun() last was at the start, as the next three
     std::size_t m_nNumPassedOver = 0; // free, but in too short stretches
-    std::size_t m_nNext = 0;          // where takeRun() goes on
+    std::size_t m_nNumTaken = 0;      // in runs
+    std::size_t m_nNumRuns = 0;
+    std::size_t m_nStart = 0; // the granule to which takeRun() goes back
+    std::size_t m_nNext = 0;  // and where it goes on
     std::array<Word, kNumGranules / kBitsPerWord> m_freeBits;
 };
 

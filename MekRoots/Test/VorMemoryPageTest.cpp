@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <new>
+#include <numeric>
 #include <random>
 #include <utility>
 #include <vector>
@@ -284,6 +285,32 @@ TEST(VorMemoryPageTest, WhatIsPassedOverCountsUntilTheStartIsLookedAtAgain)
     EXPECT_FALSE(page->hasShortStretches()) << "one hole less";
 }
 
+TEST(VorMemoryPageTest, TheStartMovesBehindShortRuns)
+{
+    const TestPage page;
+    const std::vector<Piece> runs = page.takeAll();
+    const std::size_t hole = kRunSize / 16;
+    std::vector<Piece> holes;
+    for (std::size_t i = 0; i < 16; ++i) // a run's length of them, each behind a block that stays
+        holes.push_back({ page.at(2 * kRunSize + 2 * i * hole), page.at(2 * kRunSize + (2 * i + 1) * hole) });
+    for (const Piece& piece : holes)
+        page.putBack(piece);
+    page.putBack(runs.back());
+    page->rewind();
+    for (const Piece& piece : holes)
+        EXPECT_EQ(piece.pFirst, page.take(kGranule).pFirst);
+    EXPECT_FALSE(page->isFragmented());
+
+    for (const Piece& piece : holes)
+        page.putBack(piece);
+
+    EXPECT_EQ(runs.back().pFirst, page.take(kGranule).pFirst) << "the holes are passed over";
+    EXPECT_TRUE(page->isFragmented());
+    page->rewind();
+    EXPECT_FALSE(page->isFragmented());
+    EXPECT_EQ(holes.front().pFirst, page.take(kGranule).pFirst);
+}
+
 TEST(VorMemoryPageTest, APageFullOfBlocksIsEmptyAfterTheLastInAnyOrder)
 {
     std::mt19937 random(7);
@@ -327,7 +354,7 @@ public:
     std::pair<std::size_t, std::size_t> takeRun(std::size_t numWanted)
     {
         if (m_numReturned >= kRunSize / kGranule)
-            rewind();
+            goBack(areRunsShort() ? m_next : m_start);
         const std::size_t longest = std::max(numWanted, kRunSize / kGranule);
         while (m_next < m_isFree.size())
         {
@@ -337,6 +364,7 @@ public:
             if (m_next > first && m_next - first >= numWanted)
             {
                 mark(first, m_next, false);
+                m_runs.push_back(m_next - first);
                 return { first, m_next };
             }
             if (m_next == first)
@@ -357,9 +385,22 @@ public:
         m_next = first;
     }
 
-    void rewind() { m_next = m_numReturned = 0; }
+    void rewind() { goBack(0); }
 
 private:
+    void goBack(std::size_t start)
+    {
+        m_start = m_next = start;
+        m_numReturned = 0;
+        m_runs.clear();
+    }
+
+    bool areRunsShort() const
+    {
+        const double numTaken = std::accumulate(m_runs.begin(), m_runs.end(), 0.0);
+        return m_runs.size() >= 4 && numTaken / static_cast<double>(m_runs.size()) < kRunSize / kGranule / 8.0;
+    }
+
     void mark(std::size_t first, std::size_t end, bool isFree)
     {
         for (; first != end; ++first)
@@ -367,6 +408,8 @@ private:
     }
 
     std::vector<bool> m_isFree;
+    std::vector<std::size_t> m_runs; // since the last search began
+    std::size_t m_start = 0;
     std::size_t m_next = 0;
     std::size_t m_numReturned = 0;
 };
