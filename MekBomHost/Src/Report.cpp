@@ -2,7 +2,6 @@
 
 #include "TableLayout.h"
 #include "TableWriter.h"
-#include "Utf8.h"
 
 #include "VorBomEvaluator2.h"
 
@@ -12,7 +11,7 @@
 namespace mekbom
 {
 Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units)
-    : m_units(units), m_template(std::move(reportTemplate))
+    : m_units(units), m_template(std::move(reportTemplate)), m_texts(m_template)
 {
     engineTemplate().setUnitsForTokens(&m_units);
     engineTemplate().findUsedTokens();
@@ -23,7 +22,7 @@ void Report::evaluate()
     m_template.queryFilter.apply(*engineTemplate().getBomData());
     for (const VorBomItemBase* pRow = engineTemplate().getBomData()->child(); pRow != nullptr; pRow = pRow->next())
         m_rows.push_back(static_cast<const VorBomDataRow*>(pRow));
-    VorBomEvaluator2::evaluate(&engineTemplate(), &m_result);
+    VorBomEvaluator2::evaluate(&engineTemplate(), m_texts);
 }
 
 int Report::numMergedRows() const
@@ -32,16 +31,9 @@ int Report::numMergedRows() const
     return static_cast<int>(std::count_if(m_rows.begin(), m_rows.end(), isMerged));
 }
 
-std::string Report::list()
-{
-    VorString text;
-    m_result.list(text, 0, 1, 1);
-    return Utf8::toBytes(text) + "\n";
-}
-
 void Report::writeTable(TextSink& sink)
 {
     const TableLayout layout(m_template, m_units);
-    TableWriter(m_template.title, layout, m_result).write(sink);
+    TableWriter(m_template.title, layout, m_texts).write(sink);
 }
 }

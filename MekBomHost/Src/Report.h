@@ -10,6 +10,7 @@
 #pragma once
 
 #include "ReportTemplate.h"
+#include "SectionTexts.h"
 #include "TextSink.h"
 
 #include "VorBomDataRow.h"
@@ -17,7 +18,6 @@
 
 #include "MekRoots/Exp/VorUnitsManager.h"
 
-#include <string>
 #include <vector>
 
 namespace mekbom
@@ -37,15 +37,12 @@ public:
     // How many rows had a line equal to the one before it, were merged into that and count in no total.
     int numMergedRows() const;
 
-    // The evaluated sections as VorBomItemBase::list writes them, in UTF-8.
-    std::string list();
-
     void writeTable(TextSink& sink);
 
 private:
     VorUnitsManager m_units; // that numbers are shown in
     ReportTemplate m_template;
     std::vector<const VorBomDataRow*> m_rows; // as they came and lie in memory, where the evaluation chains them anew
-    VorBomTemplate m_result;                  // its sections refer to the rows of m_template
+    SectionTexts m_texts;                     // of the evaluated report
 };
 }

@@ -29,4 +29,21 @@ VorString ReportTemplate::columnTokenOf(const VorBomItemBase& section, int tuple
         return token.token();
     return summed;
 }
+
+std::vector<int> ReportTemplate::shownTuplesOf(const VorBomItemBase& section) const
+{
+    std::vector<int> shown;
+    if (!styleOf(&section).isPrinted)
+        return shown;
+    for (int i = 0; i < section.getData().length(); ++i)
+        if (columnTokenOf(section, i).isEmpty() == 0)
+            shown.push_back(i);
+    return shown;
+}
+
+bool ReportTemplate::hasLine(const VorBomItemBase& section) const
+{
+    const SectionStyle& style = styleOf(&section);
+    return style.isPrinted && (!style.label.empty() || !shownTuplesOf(section).empty());
+}
 }

@@ -55,5 +55,11 @@ struct ReportTemplate
     //   "%Weight"         ->  "%Weight"
     //   "%SumBy:%Weight"  ->  "%Weight", unless there is a column "%SumBy:%Weight"
     VorString columnTokenOf(const VorBomItemBase& section, int tupleIndex) const;
+
+    // Which of a section's tuples have a column; none when the section is not printed.
+    std::vector<int> shownTuplesOf(const VorBomItemBase& section) const;
+
+    // Whether the section has a line in the table: a printed one that shows a tuple or a label.
+    bool hasLine(const VorBomItemBase& section) const;
 };
 }

@@ -43,16 +43,16 @@ bool holds(const std::vector<int>& columns, int column)
 
 bool canShareLine(const TableSection& header, const TableSection& footer)
 {
-    const auto isShownByFooter = [&footer](int column) { return column >= 0 && holds(footer.columnOfTuple, column); };
+    const auto isShownByFooter = [&footer](int column) { return holds(footer.columns, column); };
     return footer.label.empty() && header.label.empty() &&
-           std::none_of(header.columnOfTuple.begin(), header.columnOfTuple.end(), isShownByFooter);
+           std::none_of(header.columns.begin(), header.columns.end(), isShownByFooter);
 }
 
 // A label stands where the line shows nothing else.
 void placeLabel(TableSection& section, std::size_t numColumns)
 {
     for (int column = 0; column < static_cast<int>(numColumns) && section.labelColumn < 0; ++column)
-        if (!holds(section.columnOfTuple, column))
+        if (!holds(section.columns, column))
             section.labelColumn = column;
 }
 }
@@ -94,22 +94,15 @@ TableSection TableLayout::layOut(const VorBomItemBase* pSection)
     if (pSection == nullptr || !m_template.styleOf(pSection).isPrinted)
         return section;
     section.label = m_template.styleOf(pSection).label;
-    for (int i = 0; i < pSection->getData().length(); ++i)
-        section.columnOfTuple.push_back(columnOfTuple(*pSection, i, section.columnOfTuple));
-    const auto isShown = [](int column) { return column >= 0; };
-    section.showsAnything =
-        !section.label.empty() || std::any_of(section.columnOfTuple.begin(), section.columnOfTuple.end(), isShown);
+    for (const int tupleIndex : m_template.shownTuplesOf(*pSection))
+        section.columns.push_back(columnOfTuple(*pSection, tupleIndex, section.columns));
     return section;
 }
 
-// -1 for a tuple that is not shown.
 int TableLayout::columnOfTuple(const VorBomItemBase& section, int tupleIndex, const std::vector<int>& taken)
 {
-    const VorString token = m_template.columnTokenOf(section, tupleIndex);
-    if (token.isEmpty() == 1)
-        return -1;
     const VorString& tupleToken = section.getData()[tupleIndex].token().token();
-    const int column = columnFor(token, tupleToken, taken);
+    const int column = columnFor(m_template.columnTokenOf(section, tupleIndex), tupleToken, taken);
     m_columns[static_cast<std::size_t>(column)].shownTokens.push_back(tupleToken);
     return column;
 }

@@ -29,9 +29,8 @@ struct TableColumn
 struct TableSection
 {
     std::string label;
-    int labelColumn = -1;           // the first that shows no tuple; -1 when there is none
-    std::vector<int> columnOfTuple; // -1 for a tuple that is not shown
-    bool showsAnything = false;     // false makes no line at all
+    int labelColumn = -1;     // the first that shows no tuple; -1 when there is none
+    std::vector<int> columns; // of the tuples that are shown, in their order
 };
 
 // A header section and the footer after it. Level 0 is the report's outermost.

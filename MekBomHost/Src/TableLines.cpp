@@ -4,61 +4,47 @@
 
 namespace mekbom
 {
-TableLines::TableLines(const TableLayout& layout, const VorBomItemBase& result) : m_layout(layout), m_sections(result)
+TableLines::TableLines(const TableLayout& layout, const SectionTexts& texts)
+    : m_layout(layout), m_reader(texts), m_hasNext(m_reader.nextSection(m_next))
 {
 }
 
-// A section waits until the one after it is known: a footer may come to stand on its header's line.
 bool TableLines::next(TableLine& line)
 {
-    TableLine section;
-    while (nextSection(section))
-    {
-        if (m_isWaiting && canShareLine(m_waiting, section))
-        {
-            line = m_waiting;
-            line.pFooter = section.pFooter;
-            m_isWaiting = false;
-            return true;
-        }
-        const bool isLineComplete = m_isWaiting;
-        line = m_waiting;
-        m_waiting = section;
-        m_isWaiting = true;
-        if (isLineComplete)
-            return true;
-    }
-    if (!m_isWaiting)
+    if (!m_hasNext)
         return false;
-    line = m_waiting;
-    m_isWaiting = false;
+    line.place = { m_next.level, false, false };
+    line.cells.assign(m_layout.columns().size(), TableCell());
+    take(line);
+    if (m_hasNext && canShareLine(line))
+        take(line);
     return true;
 }
 
-// The next section that shows something: headers before what is under them, footers after it. An evaluated header knows
-// the row that opened it; a footer has none.
-bool TableLines::nextSection(TableLine& line)
+// Adds the next section to the line.
+void TableLines::take(TableLine& line)
 {
-    for (WalkedSection section; m_sections.next(section);)
+    const TableLevel& level = m_layout.levels()[static_cast<std::size_t>(m_next.level)];
+    (m_next.isFooter ? line.place.hasFooter : line.place.hasHeader) = true;
+    fillFrom(m_next.isFooter ? level.footer : level.header, line);
+    m_hasNext = m_reader.nextSection(m_next);
+}
+
+void TableLines::fillFrom(const TableSection& section, TableLine& line)
+{
+    for (const int column : section.columns)
     {
-        line = TableLine();
-        line.level = section.level;
-        (section.pItem->getFirstDataRow() != nullptr ? line.pHeader : line.pFooter) = section.pItem;
-        if (showsAnything(line))
-            return true;
+        const SectionText text = m_reader.nextText();
+        line.cells[static_cast<std::size_t>(column)] = { text.text, text.isPlain, false };
     }
-    return false;
+    if (section.labelColumn >= 0 && !section.label.empty())
+        line.cells[static_cast<std::size_t>(section.labelColumn)] = { section.label, false, true };
 }
 
-bool TableLines::showsAnything(const TableLine& section) const
+// A footer right after a header of its level belongs to it.
+bool TableLines::canShareLine(const TableLine& line) const
 {
-    const TableLevel& level = m_layout.levels()[static_cast<std::size_t>(section.level)];
-    return section.pHeader != nullptr ? level.header.showsAnything : level.footer.showsAnything;
-}
-
-bool TableLines::canShareLine(const TableLine& header, const TableLine& footer) const
-{
-    return header.pHeader != nullptr && footer.pFooter != nullptr && header.pHeader->next() == footer.pFooter &&
-           m_layout.levels()[static_cast<std::size_t>(header.level)].canShareLine;
+    return line.place.hasHeader && m_next.isFooter && m_next.level == line.place.level &&
+           m_layout.levels()[static_cast<std::size_t>(m_next.level)].canShareLine;
 }
 }

@@ -1,4 +1,4 @@
-// The lines of a table, one after the other, read from an evaluated report:
+// The lines of a table, one after the other, read from the texts of an evaluated report:
 //
 //   report header               shows nothing: no line
 //     group header  HEA200      one line, shared:  HEA200  S355J2   4   24644
@@ -8,38 +8,53 @@
 // A header and its footer share a line when nothing is printed between them and they do not want the same column.
 #pragma once
 
-#include "SectionWalk.h"
+#include "SectionTexts.h"
 #include "TableLayout.h"
 
-#include "VorBomTemplateItem.h"
+#include <string_view>
+#include <vector>
 
 namespace mekbom
 {
-// What stands on a line: a header, a footer or both. Not owned.
+// What stands in one column of a line, in UTF-8: a text of the report or a label. Not owned.
+struct TableCell
+{
+    std::string_view text;
+    bool isPlain = true; // one byte, one character, one column on the terminal
+    bool isLabel = false;
+};
+
+// Which sections stand on a line: a header, a footer or both.
+struct TablePlace
+{
+    int level = 0;
+    bool hasHeader = false;
+    bool hasFooter = false;
+};
+
 struct TableLine
 {
-    const VorBomTemplateItem* pHeader = nullptr;
-    const VorBomTemplateItem* pFooter = nullptr;
-    int level = 0;
+    TablePlace place;
+    std::vector<TableCell> cells; // one for each column of the layout
 };
 
 class TableLines
 {
 public:
-    // `result` is the root of an evaluated report whose template has this layout. Both outlive the lines.
-    TableLines(const TableLayout& layout, const VorBomItemBase& result);
+    // `texts` are those of a report whose template has this layout. Both outlive the lines.
+    TableLines(const TableLayout& layout, const SectionTexts& texts);
 
-    // The next line; false at the end.
+    // The next line; false at the end. Its texts are those of the report.
     bool next(TableLine& line);
 
 private:
-    bool nextSection(TableLine& line);
-    bool showsAnything(const TableLine& section) const;
-    bool canShareLine(const TableLine& header, const TableLine& footer) const;
+    void take(TableLine& line);
+    void fillFrom(const TableSection& section, TableLine& line);
+    bool canShareLine(const TableLine& line) const;
 
     const TableLayout& m_layout;
-    SectionWalk m_sections;
-    TableLine m_waiting; // a section that has been visited and is on no line yet
-    bool m_isWaiting = false;
+    SectionTexts::Reader m_reader;
+    SectionPlace m_next; // that is on no line yet
+    bool m_hasNext = false;
 };
 }

@@ -3,10 +3,7 @@
 #include "CellText.h"
 #include "Utf8.h"
 
-#include "VorBomDataTuple.h"
-
 #include <algorithm>
-#include <cstdint>
 
 namespace mekbom
 {
@@ -15,49 +12,19 @@ namespace
 const int kNumBlanksBetween = 2;
 const std::size_t kBlockSize = 1 << 16;
 
-// Texts as almost all are: each character one column wide, and none that needs care. A character below ' ' or above '~'
-// sets the highest bit of one of the differences; looking at all of them once is cheaper than at each.
-bool isPlainAscii(const VorString& text)
+int lengthOf(const TableCell& cell)
 {
-    const wchar_t* const pText = text.getStringW();
-    std::uint32_t differences = 0;
-    for (int i = 0; i < text.length(); ++i)
-    {
-        // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wchar_t is no char
-        const auto character = static_cast<std::uint32_t>(pText[i]);
-        differences |= (character - U' ') | (U'~' - character);
-    }
-    return differences >> 31 == 0;
+    return static_cast<int>(cell.text.size());
 }
 
-// An evaluated section shows texts alone; whatever has no value shows nothing.
-const VorString* textOfValue(const VorBomDataValue& value)
+bool isUnsharedFooter(const TablePlace& place)
 {
-    return value.type() == VorBomDataValue::kStringData ? static_cast<const VorString*>(value.data()) : nullptr;
-}
-
-// Plain text as bytes to `pBytes`; returns their end.
-char* narrow(const VorString& text, char* pBytes)
-{
-    const wchar_t* const pText = text.getStringW();
-    for (int i = 0; i < text.length(); ++i)
-        pBytes[i] = static_cast<char>(pText[i]);
-    return pBytes + text.length();
-}
-
-bool isUnsharedFooter(const TableLine& line)
-{
-    return line.pHeader == nullptr && line.pFooter != nullptr;
+    return place.hasFooter && !place.hasHeader;
 }
 }
 
-TableWriter::TableWriter(const std::string& title, const TableLayout& layout, const VorBomItemBase& result)
-    : m_title(title),
-      m_layout(layout),
-      m_result(result),
-      m_isPlainThroughout(layout.columns().size(), 1),
-      m_cells(layout.columns().size()),
-      m_wrapped(layout.columns().size())
+TableWriter::TableWriter(const std::string& title, const TableLayout& layout, const SectionTexts& texts)
+    : m_title(title), m_layout(layout), m_texts(texts), m_wrapped(layout.columns().size())
 {
 }
 
@@ -65,14 +32,13 @@ void TableWriter::write(TextSink& sink)
 {
     measure();
     writeHeading();
-    TableLines lines(m_layout, m_result);
-    TableLine previous;
-    for (TableLine line; lines.next(line); previous = line)
+    TableLines lines(m_layout, m_texts);
+    TableLine line;
+    for (TablePlace previous; lines.next(line); previous = line.place)
     {
-        writeSeparation(line, previous);
-        writeLooseLabel(line);
-        fillWith(line);
-        writeCells();
+        writeSeparation(line.place, previous);
+        writeLooseLabel(line.place);
+        writeCells(line.cells);
         passOn(sink, kBlockSize);
     }
     passOn(sink, 0);
@@ -84,96 +50,48 @@ void TableWriter::measure()
 {
     for (const TableColumn& column : m_layout.columns())
         m_widths.push_back(std::max(column.fixedWidth, 1));
-    for (std::size_t i = 0; i < m_cells.size(); ++i)
-        m_cells[i] = { nullptr, &m_layout.columns()[i].label };
-    measureCells();
-    TableLines lines(m_layout, m_result);
+    measureCells(heading());
+    TableLines lines(m_layout, m_texts);
     for (TableLine line; lines.next(line);)
-    {
-        fillWith(line);
-        measureCells();
-    }
+        measureCells(line.cells);
     for (const int width : m_widths)
         m_lineWidth += static_cast<std::size_t>(width + kNumBlanksBetween);
 }
 
-void TableWriter::measureCells()
+void TableWriter::measureCells(const std::vector<TableCell>& cells)
 {
-    for (std::size_t i = 0; i < m_cells.size(); ++i)
-        measureCell(i);
+    for (std::size_t i = 0; i < cells.size(); ++i)
+        m_widths[i] = std::max(m_widths[i], isPlain(cells[i], i) ? lengthOf(cells[i]) : wrappedWidthOf(cells[i], i));
 }
 
-void TableWriter::measureCell(std::size_t column)
-{
-    const bool isAsLongAsWide = isPlain(column);
-    m_widths[column] = std::max(m_widths[column], isAsLongAsWide ? lengthOf(column) : wrappedWidthOf(column));
-    if (!isAsLongAsWide && m_cells[column].pText != nullptr)
-        m_isPlainThroughout[column] = 0;
-}
-
-int TableWriter::wrappedWidthOf(std::size_t column) const
+int TableWriter::wrappedWidthOf(const TableCell& cell, std::size_t column) const
 {
     int width = 0;
-    for (const std::string& line : CellText::wrap(textOf(column), wrapWidthOf(column)))
+    for (const std::string& line : CellText::wrap(cell.text, wrapWidthOf(cell, column)))
         width = std::max(width, Utf8::displayWidth(line));
     return width;
 }
 
 // 0 where the text may be as wide as it is.
-int TableWriter::wrapWidthOf(std::size_t column) const
+int TableWriter::wrapWidthOf(const TableCell& cell, std::size_t column) const
 {
-    const bool isNumber = m_layout.columns()[column].isNumeric && m_cells[column].pText != nullptr;
+    const bool isNumber = m_layout.columns()[column].isNumeric && !cell.isLabel;
     return isNumber ? 0 : m_layout.columns()[column].fixedWidth;
 }
 
 // Whether the cell can be written as it is, in one line.
-bool TableWriter::isPlain(std::size_t column) const
+bool TableWriter::isPlain(const TableCell& cell, std::size_t column) const
 {
-    const VorString* const pText = m_cells[column].pText;
-    if (pText == nullptr)
-        return m_cells[column].pLabel == nullptr;
-    const int limit = wrapWidthOf(column);
-    return (limit == 0 || pText->length() <= limit) && isPlainAscii(*pText);
+    const int limit = wrapWidthOf(cell, column);
+    return cell.isPlain && (limit == 0 || lengthOf(cell) <= limit);
 }
 
-// The same without a look at the text, once all have been measured.
-bool TableWriter::isKnownAsPlain(std::size_t column) const
+std::vector<TableCell> TableWriter::heading() const
 {
-    return m_cells[column].pText != nullptr ? m_isPlainThroughout[column] != 0 : m_cells[column].pLabel == nullptr;
-}
-
-// Of a plain cell.
-int TableWriter::lengthOf(std::size_t column) const
-{
-    return m_cells[column].pText == nullptr ? 0 : m_cells[column].pText->length();
-}
-
-std::string TableWriter::textOf(std::size_t column) const
-{
-    const Cell& cell = m_cells[column];
-    if (cell.pText != nullptr)
-        return Utf8::toBytes(*cell.pText);
-    return cell.pLabel != nullptr ? *cell.pLabel : std::string();
-}
-
-void TableWriter::fillWith(const TableLine& line)
-{
-    std::fill(m_cells.begin(), m_cells.end(), Cell());
-    const TableLevel& level = m_layout.levels()[static_cast<std::size_t>(line.level)];
-    if (line.pHeader != nullptr)
-        fillFrom(level.header, line.pHeader);
-    if (line.pFooter != nullptr)
-        fillFrom(level.footer, line.pFooter);
-}
-
-void TableWriter::fillFrom(const TableSection& section, const VorBomTemplateItem* pItem)
-{
-    for (std::size_t i = 0; i < section.columnOfTuple.size(); ++i)
-        if (section.columnOfTuple[i] >= 0)
-            m_cells[static_cast<std::size_t>(section.columnOfTuple[i])].pText =
-                textOfValue(pItem->getData()[static_cast<int>(i)].value());
-    if (section.labelColumn >= 0 && !section.label.empty())
-        m_cells[static_cast<std::size_t>(section.labelColumn)].pLabel = &section.label;
+    std::vector<TableCell> cells;
+    for (const TableColumn& column : m_layout.columns())
+        cells.push_back({ column.label, false, true });
+    return cells;
 }
 
 void TableWriter::writeHeading()
@@ -181,11 +99,9 @@ void TableWriter::writeHeading()
     if (!m_title.empty())
         for (const std::string& line : CellText::wrap(m_title + "\n", 0))
             m_text += line + "\n";
-    if (m_cells.empty())
+    if (m_widths.empty())
         return;
-    for (std::size_t i = 0; i < m_cells.size(); ++i)
-        m_cells[i] = { nullptr, &m_layout.columns()[i].label };
-    writeCells();
+    writeCells(heading());
     writeRule();
 }
 
@@ -198,62 +114,61 @@ void TableWriter::writeRule()
 }
 
 // What comes between two lines. The first line has the rule of the heading before it.
-void TableWriter::writeSeparation(const TableLine& line, const TableLine& previous)
+void TableWriter::writeSeparation(const TablePlace& place, const TablePlace& previous)
 {
-    const bool isFirst = previous.pHeader == nullptr && previous.pFooter == nullptr;
+    const bool isFirst = !previous.hasHeader && !previous.hasFooter;
     if (isFirst)
         return;
-    if (isUnsharedFooter(line) && line.level == 0)
+    if (isUnsharedFooter(place) && place.level == 0)
         writeRule();
-    else if (line.pHeader != nullptr && (previous.level > line.level || isUnsharedFooter(previous)))
+    else if (place.hasHeader && (previous.level > place.level || isUnsharedFooter(previous)))
         m_text += '\n';
 }
 
 // A label that no column of its line has room for.
-void TableWriter::writeLooseLabel(const TableLine& line)
+void TableWriter::writeLooseLabel(const TablePlace& place)
 {
-    const TableLevel& level = m_layout.levels()[static_cast<std::size_t>(line.level)];
-    const TableSection& section = line.pHeader != nullptr ? level.header : level.footer;
+    const TableLevel& level = m_layout.levels()[static_cast<std::size_t>(place.level)];
+    const TableSection& section = place.hasHeader ? level.header : level.footer;
     if (!section.label.empty() && section.labelColumn < 0)
         m_text += CellText::wrap(section.label, 0).front() + "\n";
 }
 
-void TableWriter::writeCells()
+void TableWriter::writeCells(const std::vector<TableCell>& cells)
 {
     bool areAllPlain = true;
-    for (std::size_t i = 0; i < m_cells.size() && areAllPlain; ++i)
-        areAllPlain = isKnownAsPlain(i);
+    for (std::size_t i = 0; i < cells.size() && areAllPlain; ++i)
+        areAllPlain = isPlain(cells[i], i);
     if (areAllPlain)
-        writePlainLine();
+        writePlainLine(cells);
     else
-        writeWrappedLines();
+        writeWrappedLines(cells);
 }
 
 // Each text straight into its place among blanks, which are then cut off after the last one.
-void TableWriter::writePlainLine()
+void TableWriter::writePlainLine(const std::vector<TableCell>& cells)
 {
     const std::size_t begin = m_text.size();
     m_text.append(m_lineWidth, ' ');
     char* pPlace = &m_text[begin];
     const char* pEnd = pPlace;
-    for (std::size_t i = 0; i < m_cells.size(); ++i)
+    for (std::size_t i = 0; i < cells.size(); ++i)
     {
-        const int length = lengthOf(i);
-        if (length > 0)
-            pEnd =
-                narrow(*m_cells[i].pText, pPlace + (m_layout.columns()[i].isAlignedRight ? m_widths[i] - length : 0));
+        const int numBlanksBefore = m_layout.columns()[i].isAlignedRight ? m_widths[i] - lengthOf(cells[i]) : 0;
+        if (!cells[i].text.empty())
+            pEnd = std::copy(cells[i].text.begin(), cells[i].text.end(), pPlace + numBlanksBefore);
         pPlace += m_widths[i] + kNumBlanksBetween;
     }
     m_text.resize(static_cast<std::size_t>(pEnd - m_text.data()));
     m_text += '\n';
 }
 
-void TableWriter::writeWrappedLines()
+void TableWriter::writeWrappedLines(const std::vector<TableCell>& cells)
 {
     std::size_t numLines = 1;
-    for (std::size_t i = 0; i < m_cells.size(); ++i)
+    for (std::size_t i = 0; i < cells.size(); ++i)
     {
-        m_wrapped[i] = CellText::wrap(textOf(i), wrapWidthOf(i));
+        m_wrapped[i] = CellText::wrap(cells[i].text, wrapWidthOf(cells[i], i));
         numLines = std::max(numLines, m_wrapped[i].size());
     }
     for (std::size_t index = 0; index < numLines; ++index)
@@ -262,7 +177,7 @@ void TableWriter::writeWrappedLines()
 
 void TableWriter::writeWrappedLine(std::size_t index)
 {
-    for (std::size_t i = 0; i < m_cells.size(); ++i)
+    for (std::size_t i = 0; i < m_wrapped.size(); ++i)
     {
         writeText(i, index < m_wrapped[i].size() ? m_wrapped[i][index] : std::string());
         m_numBlanks += kNumBlanksBetween;

@@ -14,6 +14,7 @@
 // blanks at their end. The whole table is in UTF-8, whatever the locale.
 #pragma once
 
+#include "SectionTexts.h"
 #include "TableLayout.h"
 #include "TableLines.h"
 #include "TextSink.h"
@@ -27,39 +28,26 @@ namespace mekbom
 class TableWriter
 {
 public:
-    // `layout` and `result` belong to one template and outlive the writer.
-    TableWriter(const std::string& title, const TableLayout& layout, const VorBomItemBase& result);
+    // `layout` and `texts` belong to one template and outlive the writer.
+    TableWriter(const std::string& title, const TableLayout& layout, const SectionTexts& texts);
 
     void write(TextSink& sink);
 
 private:
-    // What one column holds on one line: a text of the report, or a label; neither when it is empty. Not owned.
-    struct Cell
-    {
-        const VorString* pText = nullptr;
-        const std::string* pLabel = nullptr;
-    };
-
     void measure();
-    void measureCells();
-    void measureCell(std::size_t column);
-    int wrappedWidthOf(std::size_t column) const;
-    int wrapWidthOf(std::size_t column) const;
-    bool isPlain(std::size_t column) const;
-    bool isKnownAsPlain(std::size_t column) const;
-    int lengthOf(std::size_t column) const;
-    std::string textOf(std::size_t column) const;
-
-    void fillWith(const TableLine& line);
-    void fillFrom(const TableSection& section, const VorBomTemplateItem* pItem);
+    void measureCells(const std::vector<TableCell>& cells);
+    int wrappedWidthOf(const TableCell& cell, std::size_t column) const;
+    int wrapWidthOf(const TableCell& cell, std::size_t column) const;
+    bool isPlain(const TableCell& cell, std::size_t column) const;
+    std::vector<TableCell> heading() const;
 
     void writeHeading();
     void writeRule();
-    void writeSeparation(const TableLine& line, const TableLine& previous);
-    void writeLooseLabel(const TableLine& line);
-    void writeCells();
-    void writePlainLine();
-    void writeWrappedLines();
+    void writeSeparation(const TablePlace& place, const TablePlace& previous);
+    void writeLooseLabel(const TablePlace& place);
+    void writeCells(const std::vector<TableCell>& cells);
+    void writePlainLine(const std::vector<TableCell>& cells);
+    void writeWrappedLines(const std::vector<TableCell>& cells);
     void writeWrappedLine(std::size_t index);
     void writeText(std::size_t column, const std::string& text);
     void pad(std::size_t column, int width, bool isBefore);
@@ -68,12 +56,10 @@ private:
 
     const std::string& m_title;
     const TableLayout& m_layout;
-    const VorBomItemBase& m_result;
+    const SectionTexts& m_texts;
     std::vector<int> m_widths;
-    std::size_t m_lineWidth = 0;           // of all columns, each with the blanks after it
-    std::vector<char> m_isPlainThroughout; // for each column whether all of its texts, not its label, are plain
-    std::vector<Cell> m_cells;             // of the line in progress
-    std::vector<std::vector<std::string>> m_wrapped; // of its cells when they are not all plain
+    std::size_t m_lineWidth = 0;                     // of all columns, each with the blanks after it
+    std::vector<std::vector<std::string>> m_wrapped; // the cells of a line that are not all plain, in lines
     int m_numBlanks = 0;                             // that stand before the next text, if there is one
     std::string m_text;                              // written but not passed on
 };

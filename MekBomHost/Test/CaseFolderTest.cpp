@@ -7,6 +7,7 @@
 #include "UnitChoice.h"
 
 #include "Support/HostTestSupport.h"
+#include "Support/ReportTestSupport.h"
 
 #include "MekRoots/Exp/KTRepositoryProxy.h"
 
@@ -16,6 +17,7 @@
 #include <cctype>
 #include <cstdlib>
 #include <filesystem>
+#include <memory>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -81,6 +83,21 @@ void hold(const fs::path& file, const std::string& text)
     EXPECT_EQ(readFile(file), text) << file;
 }
 
+// The report that the folder describes, not evaluated yet.
+std::unique_ptr<Report> readReport(const fs::path& folder)
+{
+    const ReportOptions options = optionsOf(folder);
+    DisplaySettings::load(options.settingsFile, options.settings);
+    auto pReport = std::make_unique<Report>(TemplateReader::read("template.json", readFile(folder / "template.json")),
+                                            UnitChoice::unitsOf(options.units, options.unitChoices));
+    FileSource file((folder / "data.csv").string());
+    PartsList parts(file);
+    for (const auto& [token, unit] : options.inputUnits)
+        parts.setInputUnit(token, unit);
+    parts.readRows(pReport->engineTemplate(), pReport->queryFilter());
+    return pReport;
+}
+
 // The settings repository is shared by the process: every case ends with an empty one.
 class CaseFolderTest : public testing::TestWithParam<std::string>
 {
@@ -92,22 +109,12 @@ protected:
 TEST_P(CaseFolderTest, GivesTheExpectedTexts)
 {
     const fs::path folder = fs::path(MEK_CASES_DIR) / GetParam();
-    const ReportOptions options = optionsOf(folder);
-    DisplaySettings::load(options.settingsFile, options.settings);
-    Report report(TemplateReader::read("template.json", readFile(folder / "template.json")),
-                  UnitChoice::unitsOf(options.units, options.unitChoices));
-    FileSource file((folder / "data.csv").string());
-    PartsList parts(file);
-    for (const auto& [token, unit] : options.inputUnits)
-        parts.setInputUnit(token, unit);
-    parts.readRows(report.engineTemplate(), report.queryFilter());
-    StringSink sink;
+    const std::unique_ptr<Report> pReport = readReport(folder);
 
-    report.evaluate();
-    report.writeTable(sink);
+    pReport->evaluate();
 
-    hold(folder / "expected.list.txt", report.list());
-    hold(folder / "expected.table.txt", sink.text);
+    hold(folder / "expected.list.txt", listOf(*readReport(folder)));
+    hold(folder / "expected.table.txt", tableOf(*pReport));
 }
 
 INSTANTIATE_TEST_SUITE_P(Folders, CaseFolderTest, testing::ValuesIn(caseNames()), testName);

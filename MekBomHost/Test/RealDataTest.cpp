@@ -6,6 +6,7 @@
 
 #include "Support/HostTestSupport.h"
 #include "Support/ProgramRun.h"
+#include "Support/ReportTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -125,7 +126,7 @@ TEST_F(RealDataTest, TotalsAndMergedRowsMakeUpTheFilesOwnSums)
     pReport->evaluate();
 
     EXPECT_GT(pReport->numMergedRows(), 0);
-    const std::string list = pReport->list();
+    const std::string list = listOf(*frameReport(kFrameWeights));
     for (const FileSum& file : kFileSums)
     {
         const double counted = sumOf(*pReport, file.token, 1);

@@ -34,7 +34,7 @@ TEST(ReportTest, SectionsAreGroupedAndSorted)
               "  [ kGroupHeader ][%GroupBy:%Material:][%SortAscBy:%Material:][%Material:S355]\n"
               "   [ kDetails     ][%Name:HEA200]\n"
               "  [ kGroupFooter ][%SumBy:%Weight:10.5]\n",
-              evaluatedReport(kByMaterial, kParts)->list());
+              listOf(*reportOf(kByMaterial, kParts)));
 }
 
 TEST(ReportTest, MergedRowsAreCounted)
@@ -47,26 +47,24 @@ TEST(ReportTest, NumbersAreShownInTheAskedUnits)
 {
     const char* const details = R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Length" } ] } ] })";
 
-    EXPECT_EQ("[ kBomTemplate ]\n [ kDetails     ][%Length:2286]\n",
-              evaluatedReport(details, "%Length\n2286\n")->list());
+    EXPECT_EQ("[ kBomTemplate ]\n [ kDetails     ][%Length:2286]\n", listOf(*reportOf(details, "%Length\n2286\n")));
     EXPECT_EQ("[ kBomTemplate ]\n [ kDetails     ][%Length:7' 6\"]\n",
-              evaluatedReport(details, "%Length\n2286\n", VorUnitsManager::imperial())->list());
+              listOf(*reportOf(details, "%Length\n2286\n", VorUnitsManager::imperial())));
 }
 
 TEST(ReportTest, UnitTypesOfTheTemplateComeBeforeTheUsualOnes)
 {
     EXPECT_EQ("[ kBomTemplate ]\n [ kDetails     ][%Length:1.23457e+06]\n",
-              evaluatedReport(R"({ "tokenUnits": { "%Length": "kNoUnit" },
+              listOf(*reportOf(R"({ "tokenUnits": { "%Length": "kNoUnit" },
                                    "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Length" } ] } ] })",
-                              "%Length\n1234567\n")
-                  ->list());
+                               "%Length\n1234567\n")));
 }
 
 TEST(ReportTest, NothingIsLeaked)
 {
-    evaluatedReport(kByMaterial, kParts)->list(); // the engine keeps what it sorted by last
+    tableOf(kByMaterial, kParts); // the engine keeps what it sorted by last
     const LeakCheck leakCheck;
 
-    evaluatedReport(kByMaterial, kParts)->list();
+    tableOf(kByMaterial, kParts);
 }
 }

@@ -4,22 +4,42 @@
 #include "PartsList.h"
 #include "Report.h"
 #include "TemplateReader.h"
+#include "Utf8.h"
 
 #include "HostTestSupport.h"
+
+#include "VorBomEvaluator2.h"
 
 #include <memory>
 #include <string>
 
 namespace mekbom
 {
-inline std::unique_ptr<Report> evaluatedReport(const std::string& templateText, const std::string& partsText,
-                                               const VorUnitsManager& units = VorUnitsManager::metric())
+inline std::unique_ptr<Report> reportOf(const std::string& templateText, const std::string& partsText,
+                                        const VorUnitsManager& units = VorUnitsManager::metric())
 {
     auto pReport = std::make_unique<Report>(TemplateReader::read("list.json", templateText), units);
     TextSource source(partsText);
     PartsList(source).readRows(pReport->engineTemplate(), pReport->queryFilter());
+    return pReport;
+}
+
+inline std::unique_ptr<Report> evaluatedReport(const std::string& templateText, const std::string& partsText)
+{
+    std::unique_ptr<Report> pReport = reportOf(templateText, partsText);
     pReport->evaluate();
     return pReport;
+}
+
+// The evaluated sections as VorBomItemBase::list writes them, in UTF-8, of a report that has not been evaluated yet.
+inline std::string listOf(Report& report)
+{
+    report.queryFilter().apply(*report.engineTemplate().getBomData());
+    VorBomTemplate result;
+    VorBomEvaluator2::evaluate(&report.engineTemplate(), &result);
+    VorString text;
+    result.list(text, 0, 1, 1);
+    return Utf8::toBytes(text) + "\n";
 }
 
 inline std::string tableOf(Report& report)

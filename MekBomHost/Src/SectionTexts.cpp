@@ -1,0 +1,166 @@
+// A section is a number for its place, then its texts. A plain text is its length in one byte and its characters;
+// another one kOther, its length as a number and its bytes.
+//
+//   details, level 2, "HEA200" and "2.5"   ->   4 0 0 0   6 H E A 2 0 0   3 2 . 5
+#include "SectionTexts.h"
+
+#include "Utf8.h"
+
+#include <algorithm>
+
+namespace mekbom
+{
+namespace
+{
+const std::size_t kPageSize = 1 << 20; // arbitrary: small against a report that needs a second one
+
+std::uint32_t numberOf(SectionPlace place)
+{
+    return static_cast<std::uint32_t>(place.level) * 2 + (place.isFooter ? 1 : 0);
+}
+
+SectionPlace placeOf(std::uint32_t number)
+{
+    return { static_cast<int>(number / 2), number % 2 != 0 };
+}
+
+// False for a text that is not plain: a character below ' ' or above '~' sets the highest bit of one of the
+// differences, and looking at all of them once is cheaper than at each.
+bool narrow(const VorString& text, char* pBytes)
+{
+    const wchar_t* const pText = text.getStringW();
+    const int length = text.length();
+    std::uint32_t differences = 0;
+    for (int i = 0; i < length; ++i)
+    {
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wchar_t is no char
+        const auto character = static_cast<std::uint32_t>(pText[i]);
+        differences |= (character - U' ') | (U'~' - character);
+        pBytes[i] = static_cast<char>(character);
+    }
+    return differences >> 31 == 0;
+}
+}
+
+SectionTexts::SectionTexts(const ReportTemplate& reportTemplate)
+{
+    for (const VorBomItemBase* pHeader = reportTemplate.pTemplate->child(); pHeader != nullptr;
+         pHeader = pHeader->child())
+    {
+        m_headers.push_back(choiceFor(reportTemplate, pHeader));
+        m_footers.push_back(choiceFor(reportTemplate, pHeader->next()));
+    }
+}
+
+// A level may lack its footer.
+SectionTexts::Choice SectionTexts::choiceFor(const ReportTemplate& reportTemplate, const VorBomItemBase* pSection)
+{
+    Choice choice;
+    if (pSection == nullptr)
+        return choice;
+    choice.hasLine = reportTemplate.hasLine(*pSection);
+    choice.tuples = reportTemplate.shownTuplesOf(*pSection);
+    return choice;
+}
+
+void SectionTexts::takeHeader(const VorBomTemplateItem& header, int level)
+{
+    take(m_headers[static_cast<std::size_t>(level)], header, { level, false });
+}
+
+void SectionTexts::takeFooter(const VorBomTemplateItem& footer, int level)
+{
+    take(m_footers[static_cast<std::size_t>(level)], footer, { level, true });
+}
+
+void SectionTexts::take(const Choice& choice, const VorBomTemplateItem& section, SectionPlace place)
+{
+    if (!choice.hasLine)
+        return;
+    makeRoom(sizeof(Number));
+    append(numberOf(place));
+    const VorBomDataTuple* const pTuples = section.getData().begin();
+    for (const int index : choice.tuples)
+        append(pTuples[index].value());
+}
+
+// An evaluated section shows texts alone; whatever has no value shows nothing.
+void SectionTexts::append(const VorBomDataValue& value)
+{
+    static const VorString kNoText;
+    const VorString& text =
+        value.type() == VorBomDataValue::kStringData ? *static_cast<const VorString*>(value.data()) : kNoText;
+    if (!appendPlain(text))
+        appendOther(Utf8::toBytes(text));
+}
+
+bool SectionTexts::appendPlain(const VorString& text)
+{
+    const int length = text.length();
+    if (length >= kOther)
+        return false;
+    makeRoom(static_cast<std::size_t>(length) + 1);
+    if (!narrow(text, m_pNext + 1))
+        return false;
+    *m_pNext = static_cast<char>(length);
+    m_pNext += length + 1;
+    return true;
+}
+
+void SectionTexts::appendOther(std::string_view text)
+{
+    makeRoom(1 + sizeof(Number) + text.size());
+    *m_pNext++ = static_cast<char>(kOther);
+    append(static_cast<Number>(text.size()));
+    m_pNext = std::copy(text.begin(), text.end(), m_pNext);
+}
+
+// Where there is room for it.
+void SectionTexts::append(Number number)
+{
+    std::memcpy(m_pNext, &number, sizeof number);
+    m_pNext += sizeof number;
+}
+
+void SectionTexts::makeRoom(std::size_t size)
+{
+    if (static_cast<std::size_t>(m_pPageEnd - m_pNext) < size)
+        startPage(size);
+}
+
+void SectionTexts::startPage(std::size_t size)
+{
+    if (!m_pages.empty())
+        m_pages.back().pEnd = m_pNext;
+    const std::size_t pageSize = std::max(size, kPageSize);
+    m_pages.emplace_back();
+    m_pages.back().bytes.reset(new char[pageSize]); // not cleared, as make_unique would
+    m_pNext = m_pages.back().bytes.get();
+    m_pPageEnd = m_pNext + pageSize;
+}
+
+const char* SectionTexts::endOf(std::size_t page) const
+{
+    return page + 1 == m_pages.size() ? m_pNext : m_pages[page].pEnd;
+}
+
+bool SectionTexts::Reader::nextSection(SectionPlace& place)
+{
+    turnPages();
+    if (m_pNext == m_pPageEnd)
+        return false;
+    place = placeOf(takeNumber());
+    return true;
+}
+
+// Pages may be empty: a text that did not fit into the one before may turn out to need a larger one.
+void SectionTexts::Reader::turnPages()
+{
+    while (m_pNext == m_pPageEnd && m_numPagesTurned < m_texts.m_pages.size())
+    {
+        m_pNext = m_texts.m_pages[m_numPagesTurned].bytes.get();
+        m_pPageEnd = m_texts.endOf(m_numPagesTurned);
+        ++m_numPagesTurned;
+    }
+}
+}

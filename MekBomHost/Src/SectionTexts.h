@@ -1,0 +1,127 @@
+// The texts that a table shows of an evaluated report, packed one after the other: what has to be kept of it, in a tenth
+// of the memory its tree would take, until all texts are known and the columns are as wide as the widest of them.
+//
+//   SectionTexts texts(reportTemplate);
+//   VorBomEvaluator2::evaluate(pTemplate, texts);
+//   SectionTexts::Reader reader(texts);
+//   for (SectionPlace place; reader.nextSection(place);)
+//       for (...)                            as many as the template says that this section shows
+//           use(reader.nextText());
+//
+// Sections without a line are passed over. Texts are in UTF-8.
+#pragma once
+
+#include "ReportTemplate.h"
+
+#include "VorBomSectionSink.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+namespace mekbom
+{
+// Which section of the template a line comes from.
+struct SectionPlace
+{
+    int level = 0; // 0 is the report's outermost
+    bool isFooter = false;
+};
+
+struct SectionText
+{
+    std::string_view text; // empty where the section has no text
+    bool isPlain = true;   // printable ASCII: every character one byte and one column wide
+};
+
+class SectionTexts : public VorBomSectionSink
+{
+public:
+    class Reader;
+
+    explicit SectionTexts(const ReportTemplate& reportTemplate);
+
+    void takeHeader(const VorBomTemplateItem& header, int level) override;
+    void takeFooter(const VorBomTemplateItem& footer, int level) override;
+
+private:
+    using Number = std::uint32_t;
+    static constexpr unsigned char kOther = 255; // stands where a shorter text that is plain has its length
+
+    // What is taken of one section of the template.
+    struct Choice
+    {
+        bool hasLine = false;
+        std::vector<int> tuples;
+    };
+
+    // Entries follow each other without gaps, and none goes on in the next page.
+    struct Page
+    {
+        std::unique_ptr<char[]> bytes;
+        const char* pEnd = nullptr; // of what is used; set when the next page is begun
+    };
+
+    static Choice choiceFor(const ReportTemplate& reportTemplate, const VorBomItemBase* pSection);
+
+    void take(const Choice& choice, const VorBomTemplateItem& section, SectionPlace place);
+    void append(const VorBomDataValue& value);
+    bool appendPlain(const VorString& text);
+    void appendOther(std::string_view text);
+    void append(Number number);
+    void makeRoom(std::size_t size);
+    void startPage(std::size_t size);
+    const char* endOf(std::size_t page) const;
+
+    std::vector<Choice> m_headers; // by level
+    std::vector<Choice> m_footers;
+    std::vector<Page> m_pages;
+    char* m_pNext = nullptr; // the rest of the last page
+    char* m_pPageEnd = nullptr;
+};
+
+// Reads texts from the first to the last. They outlive the reader and do not change meanwhile.
+class SectionTexts::Reader
+{
+public:
+    explicit Reader(const SectionTexts& texts) : m_texts(texts) {}
+
+    // The next section with a line; false at the end. All texts of the one before must have been read.
+    bool nextSection(SectionPlace& place);
+
+    // The section's next text.
+    SectionText nextText()
+    {
+        if (m_pNext == m_pPageEnd)
+            turnPages();
+        const auto length = static_cast<unsigned char>(*take(1));
+        if (length != kOther)
+            return { std::string_view(take(length), length), true };
+        const Number size = takeNumber();
+        return { std::string_view(take(size), size), false };
+    }
+
+private:
+    void turnPages();
+    const char* take(std::size_t size)
+    {
+        const char* const pTaken = m_pNext;
+        m_pNext += size;
+        return pTaken;
+    }
+    Number takeNumber()
+    {
+        Number number = 0;
+        std::memcpy(&number, take(sizeof number), sizeof number);
+        return number;
+    }
+
+    const SectionTexts& m_texts;
+    const char* m_pNext = nullptr; // the rest of the page being read
+    const char* m_pPageEnd = nullptr;
+    std::size_t m_numPagesTurned = 0;
+};
+}
