@@ -5,8 +5,8 @@
 //   VorBomEvaluator2::evaluate(pTemplate, texts);
 //   SectionTexts::Reader reader(texts);
 //   for (SectionPlace place; reader.nextSection(place);)
-//       for (...)                            as many as the template says that this section shows
-//           use(reader.nextText());
+//       for (SectionText& text : texts)      as many as the template says that this section shows
+//           reader.read(text);
 //
 // Sections without a line are passed over. Texts are in UTF-8.
 #pragma once
@@ -31,10 +31,14 @@ struct SectionPlace
     bool isFooter = false;
 };
 
+// Not owned.
 struct SectionText
 {
-    std::string_view text; // empty where the section has no text
-    bool isPlain = true;   // printable ASCII: every character one byte and one column wide
+    std::string_view view() const { return std::string_view(pBytes, length); }
+
+    const char* pBytes = nullptr;
+    std::uint32_t length = 0; // 0 where the section has no text
+    bool isPlain = true;      // printable ASCII: every character one byte and one column wide
 };
 
 class SectionTexts : public VorBomSectionSink
@@ -92,16 +96,15 @@ public:
     // The next section with a line; false at the end. All texts of the one before must have been read.
     bool nextSection(SectionPlace& place);
 
-    // The section's next text.
-    SectionText nextText()
+    // Reads the section's next text into `text`, field by field: compilers copy a returned one by way of memory.
+    void read(SectionText& text)
     {
         if (m_pNext == m_pPageEnd)
             turnPages();
-        const auto length = static_cast<unsigned char>(*take(1));
-        if (length != kOther)
-            return { std::string_view(take(length), length), true };
-        const Number size = takeNumber();
-        return { std::string_view(take(size), size), false };
+        const Number length = static_cast<unsigned char>(*take(1));
+        text.isPlain = length != kOther;
+        text.length = text.isPlain ? length : takeNumber();
+        text.pBytes = take(text.length);
     }
 
 private:

@@ -1,9 +1,16 @@
 #include "TableLines.h"
 
 #include <cstddef>
+#include <cstdint>
 
 namespace mekbom
 {
+// Labels may hold anything, and are few.
+TableCell TableCell::ofLabel(const std::string& label)
+{
+    return { { label.data(), static_cast<std::uint32_t>(label.size()), false }, true };
+}
+
 TableLines::TableLines(const TableLayout& layout, const SectionTexts& texts)
     : m_layout(layout), m_reader(texts), m_hasNext(m_reader.nextSection(m_next))
 {
@@ -33,12 +40,9 @@ void TableLines::take(TableLine& line)
 void TableLines::fillFrom(const TableSection& section, TableLine& line)
 {
     for (const int column : section.columns)
-    {
-        const SectionText text = m_reader.nextText();
-        line.cells[static_cast<std::size_t>(column)] = { text.text, text.isPlain, false };
-    }
+        m_reader.read(line.cells[static_cast<std::size_t>(column)].text);
     if (section.labelColumn >= 0 && !section.label.empty())
-        line.cells[static_cast<std::size_t>(section.labelColumn)] = { section.label, false, true };
+        line.cells[static_cast<std::size_t>(section.labelColumn)] = TableCell::ofLabel(section.label);
 }
 
 // A footer right after a header of its level belongs to it.

@@ -11,16 +11,17 @@
 #include "SectionTexts.h"
 #include "TableLayout.h"
 
-#include <string_view>
+#include <string>
 #include <vector>
 
 namespace mekbom
 {
-// What stands in one column of a line, in UTF-8: a text of the report or a label. Not owned.
+// What stands in one column of a line: a text of the report or a label.
 struct TableCell
 {
-    std::string_view text;
-    bool isPlain = true; // one byte, one character, one column on the terminal
+    static TableCell ofLabel(const std::string& label);
+
+    SectionText text;
     bool isLabel = false;
 };
 

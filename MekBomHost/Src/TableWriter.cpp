@@ -14,7 +14,7 @@ const std::size_t kBlockSize = 1 << 16;
 
 int lengthOf(const TableCell& cell)
 {
-    return static_cast<int>(cell.text.size());
+    return static_cast<int>(cell.text.length);
 }
 
 bool isUnsharedFooter(const TablePlace& place)
@@ -67,7 +67,7 @@ void TableWriter::measureCells(const std::vector<TableCell>& cells)
 int TableWriter::wrappedWidthOf(const TableCell& cell, std::size_t column) const
 {
     int width = 0;
-    for (const std::string& line : CellText::wrap(cell.text, wrapWidthOf(cell, column)))
+    for (const std::string& line : CellText::wrap(cell.text.view(), wrapWidthOf(cell, column)))
         width = std::max(width, Utf8::displayWidth(line));
     return width;
 }
@@ -83,14 +83,14 @@ int TableWriter::wrapWidthOf(const TableCell& cell, std::size_t column) const
 bool TableWriter::isPlain(const TableCell& cell, std::size_t column) const
 {
     const int limit = wrapWidthOf(cell, column);
-    return cell.isPlain && (limit == 0 || lengthOf(cell) <= limit);
+    return cell.text.isPlain && (limit == 0 || lengthOf(cell) <= limit);
 }
 
 std::vector<TableCell> TableWriter::heading() const
 {
     std::vector<TableCell> cells;
     for (const TableColumn& column : m_layout.columns())
-        cells.push_back({ column.label, false, true });
+        cells.push_back(TableCell::ofLabel(column.label));
     return cells;
 }
 
@@ -154,9 +154,10 @@ void TableWriter::writePlainLine(const std::vector<TableCell>& cells)
     const char* pEnd = pPlace;
     for (std::size_t i = 0; i < cells.size(); ++i)
     {
+        const SectionText& text = cells[i].text;
         const int numBlanksBefore = m_layout.columns()[i].isAlignedRight ? m_widths[i] - lengthOf(cells[i]) : 0;
-        if (!cells[i].text.empty())
-            pEnd = std::copy(cells[i].text.begin(), cells[i].text.end(), pPlace + numBlanksBefore);
+        if (text.length > 0)
+            pEnd = std::copy_n(text.pBytes, text.length, pPlace + numBlanksBefore);
         pPlace += m_widths[i] + kNumBlanksBetween;
     }
     m_text.resize(static_cast<std::size_t>(pEnd - m_text.data()));
@@ -168,7 +169,7 @@ void TableWriter::writeWrappedLines(const std::vector<TableCell>& cells)
     std::size_t numLines = 1;
     for (std::size_t i = 0; i < cells.size(); ++i)
     {
-        m_wrapped[i] = CellText::wrap(cells[i].text, wrapWidthOf(cells[i], i));
+        m_wrapped[i] = CellText::wrap(cells[i].text.view(), wrapWidthOf(cells[i], i));
         numLines = std::max(numLines, m_wrapped[i].size());
     }
     for (std::size_t index = 0; index < numLines; ++index)

@@ -39,8 +39,9 @@ std::string describe(const SectionTexts& texts, const std::vector<std::size_t>& 
         all += std::to_string(place.level) + (place.isFooter ? " footer:" : " header:");
         for (std::size_t i = 0; i < numTextsByPlace[static_cast<std::size_t>(place.level * 2 + place.isFooter)]; ++i)
         {
-            const SectionText text = reader.nextText();
-            all += " " + (text.isPlain ? std::string(text.text) : "{" + std::string(text.text) + "}");
+            SectionText text;
+            reader.read(text);
+            all += " " + (text.isPlain ? std::string(text.view()) : "{" + std::string(text.view()) + "}");
         }
         all += "\n";
     }
