@@ -32,10 +32,13 @@ VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorStringArray& token
 {
     for (int i = 0; i < tokens.length(); ++i)
         m_keys.emplace_back(tokens[i], orders[i]);
-    VorBomColumns columns(std::make_shared<VorBomRowLayouts>(), std::vector<VorString>(tokens.begin(), tokens.end()));
     for (VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
-    {
         m_rows.push_back(pRow);
+    for (std::vector<const VorBomDataTuple*>& column : m_columns)
+        column.reserve(m_rows.size());
+    VorBomColumns columns(std::make_shared<VorBomRowLayouts>(), std::vector<VorString>(tokens.begin(), tokens.end()));
+    for (VorBomItemBase* pRow : m_rows)
+    {
         columns.find(*pRow);
         for (int i = 0; i < columns.count(); ++i)
             m_columns[static_cast<std::size_t>(i)].push_back(columns[i]);
