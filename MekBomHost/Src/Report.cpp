@@ -5,7 +5,6 @@
 
 #include "VorBomEvaluator2.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace mekbom
@@ -19,16 +18,13 @@ Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units)
 
 void Report::evaluate()
 {
-    m_template.queryFilter.apply(*engineTemplate().getBomData());
-    for (const VorBomItemBase* pRow = engineTemplate().getBomData()->child(); pRow != nullptr; pRow = pRow->next())
-        m_rows.push_back(static_cast<const VorBomDataRow*>(pRow));
-    VorBomEvaluator2::evaluate(&engineTemplate(), m_texts);
-}
-
-int Report::numMergedRows() const
-{
-    const auto isMerged = [](const VorBomDataRow* pRow) { return pRow->getUseThisDataForSums() == 0; };
-    return static_cast<int>(std::count_if(m_rows.begin(), m_rows.end(), isMerged));
+    VorBomData& data = *engineTemplate().getBomData();
+    m_template.queryFilter.apply(data);
+    int numRows = 0;
+    for (const VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
+        ++numRows;
+    if (VorBomEvaluator2::evaluate(&engineTemplate(), m_texts) == 1)
+        m_numMergedRows = numRows - m_texts.numDetails(); // each row has its section unless it was merged
 }
 
 void Report::writeTable(TextSink& sink)

@@ -13,12 +13,10 @@
 #include "SectionTexts.h"
 #include "TextSink.h"
 
-#include "VorBomDataRow.h"
 #include "VorBomTemplate.h"
 
 #include "MekRoots/Exp/VorUnitsManager.h"
 
-#include <vector>
 
 namespace mekbom
 {
@@ -35,14 +33,14 @@ public:
     void evaluate();
 
     // How many rows had a line equal to the one before it, were merged into that and count in no total.
-    int numMergedRows() const;
+    int numMergedRows() const { return m_numMergedRows; }
 
     void writeTable(TextSink& sink);
 
 private:
     VorUnitsManager m_units; // that numbers are shown in
     ReportTemplate m_template;
-    std::vector<const VorBomDataRow*> m_rows; // as they came and lie in memory, where the evaluation chains them anew
-    SectionTexts m_texts;                     // of the evaluated report
+    SectionTexts m_texts; // of the evaluated report
+    int m_numMergedRows = 0;
 };
 }

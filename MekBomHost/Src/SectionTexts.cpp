@@ -65,7 +65,9 @@ SectionTexts::Choice SectionTexts::choiceFor(const ReportTemplate& reportTemplat
 
 void SectionTexts::takeHeader(const VorBomTemplateItem& header, int level)
 {
-    take(m_headers[static_cast<std::size_t>(level)], header, { level, false });
+    const auto index = static_cast<std::size_t>(level);
+    m_numDetails += index + 1 == m_headers.size() ? 1 : 0;
+    take(m_headers[index], header, { level, false });
 }
 
 void SectionTexts::takeFooter(const VorBomTemplateItem& footer, int level)

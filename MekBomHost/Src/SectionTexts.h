@@ -51,6 +51,9 @@ public:
     void takeHeader(const VorBomTemplateItem& header, int level) override;
     void takeFooter(const VorBomTemplateItem& footer, int level) override;
 
+    // How many sections of the deepest level were taken, with a line or without.
+    int numDetails() const { return m_numDetails; }
+
 private:
     using Number = std::uint32_t;
     static constexpr unsigned char kOther = 255; // stands where a shorter text that is plain has its length
@@ -82,6 +85,7 @@ private:
 
     std::vector<Choice> m_headers; // by level
     std::vector<Choice> m_footers;
+    int m_numDetails = 0;
     std::vector<Page> m_pages;
     char* m_pNext = nullptr; // the rest of the last page
     char* m_pPageEnd = nullptr;
