@@ -1,7 +1,7 @@
-// A section is a number for its place, then its texts. A plain text is its length in one byte and its characters;
-// another one kOther, its length as a number and its bytes.
+// A section is a number for its place, then its texts. A text that lines share is one byte, its number; a plain one its
+// length in one byte and its characters; another one kOther, its length as a number and its bytes.
 //
-//   details, level 2, "HEA200" and "2.5"   ->   4 0 0 0   6 H E A 2 0 0   3 2 . 5
+//   details, level 2, "HEA200", the first such text under its column, and "2.5"   ->   4 0 0 0   128   3 2 . 5
 #include "SectionTexts.h"
 
 #include "Utf8.h"
@@ -60,6 +60,7 @@ SectionTexts::Choice SectionTexts::choiceFor(const ReportTemplate& reportTemplat
         return choice;
     choice.hasLine = reportTemplate.hasLine(*pSection);
     choice.tuples = reportTemplate.shownTuplesOf(*pSection);
+    choice.sharedTexts.resize(choice.tuples.size());
     return choice;
 }
 
@@ -75,33 +76,47 @@ void SectionTexts::takeFooter(const VorBomTemplateItem& footer, int level)
     take(m_footers[static_cast<std::size_t>(level)], footer, { level, true });
 }
 
-void SectionTexts::take(const Choice& choice, const VorBomTemplateItem& section, SectionPlace place)
+const SectionTexts::Choice& SectionTexts::choiceOf(SectionPlace place) const
+{
+    return (place.isFooter ? m_footers : m_headers)[static_cast<std::size_t>(place.level)];
+}
+
+void SectionTexts::take(Choice& choice, const VorBomTemplateItem& section, SectionPlace place)
 {
     if (!choice.hasLine)
         return;
     makeRoom(sizeof(Number));
     append(numberOf(place));
     const VorBomDataTuple* const pTuples = section.getData().begin();
-    for (const int index : choice.tuples)
-        append(pTuples[index].value());
+    for (std::size_t i = 0; i < choice.tuples.size(); ++i)
+        append(pTuples[choice.tuples[i]].value(), choice.sharedTexts[i]);
 }
 
 // An evaluated section shows texts alone; whatever has no value shows nothing.
-void SectionTexts::append(const VorBomDataValue& value)
+void SectionTexts::append(const VorBomDataValue& value, SharedTexts& sharedTexts)
 {
     static const VorString kNoText;
     const VorString& text =
         value.type() == VorBomDataValue::kStringData ? *static_cast<const VorString*>(value.data()) : kNoText;
-    if (!appendPlain(text))
+    const std::size_t number = text.isEmpty() == 1 ? SharedTexts::kNone : sharedTexts.numberOf(text);
+    if (number != SharedTexts::kNone)
+        appendByte(kFirstShared + number);
+    else if (!appendPlain(text))
         appendOther(Utf8::toBytes(text));
+}
+
+void SectionTexts::appendByte(std::size_t byte)
+{
+    makeRoom(1);
+    *m_pNext++ = static_cast<char>(byte);
 }
 
 bool SectionTexts::appendPlain(const VorString& text)
 {
-    const int length = text.length();
-    if (length >= kOther)
+    const auto length = static_cast<std::size_t>(text.length());
+    if (length > kLongestPlain)
         return false;
-    makeRoom(static_cast<std::size_t>(length) + 1);
+    makeRoom(length + 1);
     if (!narrow(text, m_pNext + 1))
         return false;
     *m_pNext = static_cast<char>(length);
@@ -152,6 +167,7 @@ bool SectionTexts::Reader::nextSection(SectionPlace& place)
     if (m_pNext == m_pPageEnd)
         return false;
     place = placeOf(takeNumber());
+    m_pSharedTexts = m_texts.choiceOf(place).sharedTexts.data();
     return true;
 }
 

@@ -12,6 +12,8 @@
 #pragma once
 
 #include "ReportTemplate.h"
+#include "SectionText.h"
+#include "SharedTexts.h"
 
 #include "VorBomSectionSink.h"
 
@@ -31,16 +33,6 @@ struct SectionPlace
     bool isFooter = false;
 };
 
-// Not owned.
-struct SectionText
-{
-    std::string_view view() const { return std::string_view(pBytes, length); }
-
-    const char* pBytes = nullptr;
-    std::uint32_t length = 0; // 0 where the section has no text
-    bool isPlain = true;      // printable ASCII: every character one byte and one column wide
-};
-
 class SectionTexts : public VorBomSectionSink
 {
 public:
@@ -56,13 +48,20 @@ public:
 
 private:
     using Number = std::uint32_t;
-    static constexpr unsigned char kOther = 255; // stands where a shorter text that is plain has its length
+
+    // What the first byte of a text says: the length of a plain one up to kLongestPlain, from kFirstShared on the number
+    // of a shared one, or kOther.
+    static constexpr std::size_t kLongestPlain = 127;
+    static constexpr std::size_t kFirstShared = kLongestPlain + 1;
+    static constexpr std::size_t kOther = 255;
+    static_assert(kFirstShared + SharedTexts::kMostTexts <= kOther, "a byte tells all kinds of texts");
 
     // What is taken of one section of the template.
     struct Choice
     {
         bool hasLine = false;
         std::vector<int> tuples;
+        std::vector<SharedTexts> sharedTexts; // one for each of the tuples
     };
 
     // Entries follow each other without gaps, and none goes on in the next page.
@@ -74,8 +73,11 @@ private:
 
     static Choice choiceFor(const ReportTemplate& reportTemplate, const VorBomItemBase* pSection);
 
-    void take(const Choice& choice, const VorBomTemplateItem& section, SectionPlace place);
-    void append(const VorBomDataValue& value);
+    const Choice& choiceOf(SectionPlace place) const;
+
+    void take(Choice& choice, const VorBomTemplateItem& section, SectionPlace place);
+    void append(const VorBomDataValue& value, SharedTexts& sharedTexts);
+    void appendByte(std::size_t byte);
     bool appendPlain(const VorString& text);
     void appendOther(std::string_view text);
     void append(Number number);
@@ -105,9 +107,15 @@ public:
     {
         if (m_pNext == m_pPageEnd)
             turnPages();
-        const Number length = static_cast<unsigned char>(*take(1));
-        text.isPlain = length != kOther;
-        text.length = text.isPlain ? length : takeNumber();
+        const SharedTexts& sharedTexts = *m_pSharedTexts++;
+        const Number first = static_cast<unsigned char>(*take(1));
+        if (first >= kFirstShared && first != kOther)
+        {
+            text = sharedTexts.text(first - kFirstShared);
+            return;
+        }
+        text.isPlain = first != kOther;
+        text.length = text.isPlain ? first : takeNumber();
         text.pBytes = take(text.length);
     }
 
@@ -127,7 +135,8 @@ private:
     }
 
     const SectionTexts& m_texts;
-    const char* m_pNext = nullptr; // the rest of the page being read
+    const SharedTexts* m_pSharedTexts = nullptr; // of the text to be read next
+    const char* m_pNext = nullptr;               // the rest of the page being read
     const char* m_pPageEnd = nullptr;
     std::size_t m_numPagesTurned = 0;
 };
