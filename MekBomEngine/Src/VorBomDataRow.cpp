@@ -16,13 +16,43 @@ VorStringArray usedTokens(const VorBomDataTupleArray& tuples)
 }
 }
 
+VorBomDataRow::VorBomDataRow(const VorBomDataRow& other)
+    : VorBomItemBase(other),
+      m_objectHandle(other.m_objectHandle),
+      m_nUseThisDataForSums(other.m_nUseThisDataForSums)
+{
+    setEqualPartObjectHandles(other.EqualPartObjectHandles());
+}
+
+VorBomDataRow& VorBomDataRow::operator=(const VorBomDataRow& other)
+{
+    VorBomItemBase::operator=(other);
+    m_objectHandle = other.m_objectHandle;
+    setEqualPartObjectHandles(other.EqualPartObjectHandles());
+    m_nUseThisDataForSums = other.m_nUseThisDataForSums;
+    return *this;
+}
+
+const VorStringArray& VorBomDataRow::EqualPartObjectHandles() const
+{
+    static const VorStringArray kNone;
+    return m_pEqualPartObjectHandles != nullptr ? *m_pEqualPartObjectHandles : kNone;
+}
+
+void VorBomDataRow::setEqualPartObjectHandles(const VorStringArray& handles)
+{
+    if (&handles == m_pEqualPartObjectHandles.get())
+        return;
+    m_pEqualPartObjectHandles = handles.isEmpty() ? nullptr : std::make_unique<VorStringArray>(handles);
+}
+
 void VorBomDataRow::setFrom(VorBomDataRow* pRow)
 {
     if (pRow == nullptr)
         return;
     setData(pRow->getData());
     m_objectHandle = pRow->m_objectHandle;
-    m_equalPartObjectHandles = pRow->m_equalPartObjectHandles;
+    setEqualPartObjectHandles(pRow->EqualPartObjectHandles());
     m_nUseThisDataForSums = pRow->m_nUseThisDataForSums;
 }
 
@@ -46,7 +76,7 @@ void VorBomDataRow::appendUsedHandlesAndTokens(VorStringArrayArray& handles, Vor
         return;
     VorStringArray rowHandles;
     rowHandles.append(m_objectHandle);
-    rowHandles.append(m_equalPartObjectHandles);
+    rowHandles.append(EqualPartObjectHandles());
     handles.append(std::move(rowHandles));
     tokens.append(std::move(rowTokens));
 }

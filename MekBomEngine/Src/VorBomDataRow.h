@@ -20,6 +20,8 @@
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
 
+#include <memory>
+
 // Lists of texts side by side, one list per row.
 using VorStringArrayArray = VorArray<VorStringArray>;
 
@@ -27,8 +29,8 @@ class MEK_BOM_API VorBomDataRow : public VorBomItemBase
 {
 public:
     VorBomDataRow() = default;
-    VorBomDataRow(const VorBomDataRow& other) = default;
-    VorBomDataRow& operator=(const VorBomDataRow& other) = default;
+    VorBomDataRow(const VorBomDataRow& other);
+    VorBomDataRow& operator=(const VorBomDataRow& other);
     ~VorBomDataRow() override = default;
 
     // The handle, in the model, of the object described.
@@ -36,8 +38,8 @@ public:
     void setObjectHandle(const VorString& handle) { m_objectHandle = handle; }
 
     // The handles of the other objects that equal this one and have no row of their own.
-    const VorStringArray& EqualPartObjectHandles() const { return m_equalPartObjectHandles; }
-    void setEqualPartObjectHandles(const VorStringArray& handles) { m_equalPartObjectHandles = handles; }
+    const VorStringArray& EqualPartObjectHandles() const;
+    void setEqualPartObjectHandles(const VorStringArray& handles);
 
     // 1 at first; 0 takes the row out of sums and of the template's report of used data.
     int getUseThisDataForSums() const { return m_nUseThisDataForSums; }
@@ -57,6 +59,6 @@ public:
 
 private:
     VorString m_objectHandle;
-    VorStringArray m_equalPartObjectHandles;
+    std::unique_ptr<VorStringArray> m_pEqualPartObjectHandles; // null for none, as in nearly all rows
     int m_nUseThisDataForSums = 1;
 };
