@@ -17,7 +17,6 @@
 
 #include "MekRoots/Exp/VorUnitsManager.h"
 
-
 namespace mekbom
 {
 class Report

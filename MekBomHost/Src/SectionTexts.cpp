@@ -61,6 +61,7 @@ SectionTexts::Choice SectionTexts::choiceFor(const ReportTemplate& reportTemplat
     choice.hasLine = reportTemplate.hasLine(*pSection);
     choice.tuples = reportTemplate.shownTuplesOf(*pSection);
     choice.sharedTexts.resize(choice.tuples.size());
+    choice.extents.resize(choice.tuples.size());
     return choice;
 }
 
@@ -81,19 +82,31 @@ const SectionTexts::Choice& SectionTexts::choiceOf(SectionPlace place) const
     return (place.isFooter ? m_footers : m_headers)[static_cast<std::size_t>(place.level)];
 }
 
+TextExtent SectionTexts::extentOf(SectionPlace place, std::size_t index) const
+{
+    TextExtent extent = choiceOf(place).extents[index];
+    for (const SectionText& text : choiceOf(place).sharedTexts[index].texts())
+    {
+        extent.longest = std::max(extent.longest, text.length);
+        extent.areAllPlain = extent.areAllPlain && text.isPlain;
+    }
+    return extent;
+}
+
 void SectionTexts::take(Choice& choice, const VorBomTemplateItem& section, SectionPlace place)
 {
     if (!choice.hasLine)
         return;
+    choice.isTaken = true;
     makeRoom(sizeof(Number));
     append(numberOf(place));
     const VorBomDataTuple* const pTuples = section.getData().begin();
     for (std::size_t i = 0; i < choice.tuples.size(); ++i)
-        append(pTuples[choice.tuples[i]].value(), choice.sharedTexts[i]);
+        append(pTuples[choice.tuples[i]].value(), choice.sharedTexts[i], choice.extents[i]);
 }
 
 // An evaluated section shows texts alone; whatever has no value shows nothing.
-void SectionTexts::append(const VorBomDataValue& value, SharedTexts& sharedTexts)
+void SectionTexts::append(const VorBomDataValue& value, SharedTexts& sharedTexts, TextExtent& extent)
 {
     static const VorString kNoText;
     const VorString& text =
@@ -101,8 +114,13 @@ void SectionTexts::append(const VorBomDataValue& value, SharedTexts& sharedTexts
     const std::size_t number = text.isEmpty() == 1 ? SharedTexts::kNone : sharedTexts.numberOf(text);
     if (number != SharedTexts::kNone)
         appendByte(kFirstShared + number);
-    else if (!appendPlain(text))
+    else if (appendPlain(text))
+        extent.longest = std::max(extent.longest, static_cast<std::uint32_t>(text.length()));
+    else
+    {
         appendOther(Utf8::toBytes(text));
+        extent.areAllPlain = false;
+    }
 }
 
 void SectionTexts::appendByte(std::size_t byte)

@@ -33,6 +33,13 @@ struct SectionPlace
     bool isFooter = false;
 };
 
+// What is known of all texts of a tuple.
+struct TextExtent
+{
+    std::uint32_t longest = 0; // in bytes
+    bool areAllPlain = true;
+};
+
 class SectionTexts : public VorBomSectionSink
 {
 public:
@@ -45,6 +52,10 @@ public:
 
     // How many sections of the deepest level were taken, with a line or without.
     int numDetails() const { return m_numDetails; }
+
+    // Whether there is any line of that section, and how far the texts reach that it shows in its `index`-th column.
+    bool hasLineOf(SectionPlace place) const { return choiceOf(place).isTaken; }
+    TextExtent extentOf(SectionPlace place, std::size_t index) const;
 
 private:
     using Number = std::uint32_t;
@@ -60,8 +71,10 @@ private:
     struct Choice
     {
         bool hasLine = false;
+        bool isTaken = false;
         std::vector<int> tuples;
-        std::vector<SharedTexts> sharedTexts; // one for each of the tuples
+        std::vector<SharedTexts> sharedTexts; // one for each of the tuples, as the next
+        std::vector<TextExtent> extents;      // of the other texts
     };
 
     // Entries follow each other without gaps, and none goes on in the next page.
@@ -76,7 +89,7 @@ private:
     const Choice& choiceOf(SectionPlace place) const;
 
     void take(Choice& choice, const VorBomTemplateItem& section, SectionPlace place);
-    void append(const VorBomDataValue& value, SharedTexts& sharedTexts);
+    void append(const VorBomDataValue& value, SharedTexts& sharedTexts, TextExtent& extent);
     void appendByte(std::size_t byte);
     bool appendPlain(const VorString& text);
     void appendOther(std::string_view text);

@@ -48,6 +48,7 @@ public:
 
     // Valid as long as this object.
     const SectionText& text(std::size_t number) const { return m_texts[number]; }
+    const std::vector<SectionText>& texts() const { return m_texts; }
 
 private:
     static constexpr int kNumTrials = 1000; // arbitrary: enough to tell

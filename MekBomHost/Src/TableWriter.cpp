@@ -51,17 +51,60 @@ void TableWriter::measure()
     for (const TableColumn& column : m_layout.columns())
         m_widths.push_back(std::max(column.fixedWidth, 1));
     measureCells(heading());
+    if (!measureSections())
+        measureLines();
+    for (const int width : m_widths)
+        m_lineWidth += static_cast<std::size_t>(width + kNumBlanksBetween);
+}
+
+// By what was noted when the texts were taken, which spares a look at every line. False where one is needed.
+bool TableWriter::measureSections()
+{
+    for (std::size_t i = 0; i < m_layout.levels().size(); ++i)
+    {
+        const TableLevel& level = m_layout.levels()[i];
+        if (!measureSection(level.header, { static_cast<int>(i), false }) ||
+            !measureSection(level.footer, { static_cast<int>(i), true }))
+            return false;
+    }
+    return true;
+}
+
+bool TableWriter::measureSection(const TableSection& section, SectionPlace place)
+{
+    if (!m_texts.hasLineOf(place))
+        return true;
+    for (std::size_t i = 0; i < section.columns.size(); ++i)
+    {
+        const auto column = static_cast<std::size_t>(section.columns[i]);
+        const TextExtent extent = m_texts.extentOf(place, i);
+        const TableCell longest = { { nullptr, extent.longest, extent.areAllPlain }, false };
+        if (!isPlain(longest, column))
+            return false;
+        m_widths[column] = std::max(m_widths[column], lengthOf(longest));
+    }
+    if (section.labelColumn >= 0 && !section.label.empty())
+        measureCell(TableCell::ofLabel(section.label), static_cast<std::size_t>(section.labelColumn));
+    return true;
+}
+
+void TableWriter::measureLines()
+{
     TableLines lines(m_layout, m_texts);
     for (TableLine line; lines.next(line);)
         measureCells(line.cells);
-    for (const int width : m_widths)
-        m_lineWidth += static_cast<std::size_t>(width + kNumBlanksBetween);
 }
 
 void TableWriter::measureCells(const std::vector<TableCell>& cells)
 {
     for (std::size_t i = 0; i < cells.size(); ++i)
-        m_widths[i] = std::max(m_widths[i], isPlain(cells[i], i) ? lengthOf(cells[i]) : wrappedWidthOf(cells[i], i));
+        measureCell(cells[i], i);
+}
+
+void TableWriter::measureCell(const TableCell& cell, std::size_t column)
+{
+    m_widths[column] =
+        std::max(m_widths[column], isPlain(cell, column) ? lengthOf(cell) : wrappedWidthOf(cell, column));
 }
 
 int TableWriter::wrappedWidthOf(const TableCell& cell, std::size_t column) const

@@ -35,7 +35,11 @@ public:
 
 private:
     void measure();
+    bool measureSections();
+    bool measureSection(const TableSection& section, SectionPlace place);
+    void measureLines();
     void measureCells(const std::vector<TableCell>& cells);
+    void measureCell(const TableCell& cell, std::size_t column);
     int wrappedWidthOf(const TableCell& cell, std::size_t column) const;
     int wrapWidthOf(const TableCell& cell, std::size_t column) const;
     bool isPlain(const TableCell& cell, std::size_t column) const;
