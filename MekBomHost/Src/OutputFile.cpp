@@ -19,7 +19,8 @@ namespace fs = std::filesystem;
 
 const int kMostAttempts = 1000; // arbitrary: that many leftovers of aborted runs beside one file
 
-// Has the system put the file on the disk, so that a crash after the renaming leaves the old text or the new one.
+// Has the system put the file on the disk, so that a crash after the renaming leaves the old text or the new one. That
+// takes its time, and where there is no old text there is none to lose.
 int synchronize(std::FILE* pFile)
 {
 #if defined(_WIN32)
@@ -62,11 +63,10 @@ void OutputFile::write(std::string_view text)
 
 void OutputFile::finish()
 {
-    const bool isDirect = m_temporary.path.empty();
-    if (std::fflush(m_pFile.get()) != 0 || (!isDirect && synchronize(m_pFile.get()) != 0))
+    if (std::fflush(m_pFile.get()) != 0 || (m_isReplacement && synchronize(m_pFile.get()) != 0))
         failWithSystemReason();
     close();
-    if (!isDirect)
+    if (!m_temporary.path.empty())
         replaceTarget();
 }
 
@@ -86,6 +86,7 @@ void OutputFile::openReplacement()
     checkIsWritable();
     openTemporary();
     keepAccessRights();
+    m_isReplacement = true;
 }
 
 // A write-protected file could be replaced all the same, against its owner's will.

@@ -53,7 +53,8 @@ private:
 
     std::string m_name; // as the user wrote it
     std::filesystem::path m_target;
-    Temporary m_temporary; // without path when writing directly
+    Temporary m_temporary;        // without path when writing directly
+    bool m_isReplacement = false; // of a file that stays as it was when anything goes wrong
     FilePointer m_pFile;
 };
 }
