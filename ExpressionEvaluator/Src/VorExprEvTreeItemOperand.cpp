@@ -3,7 +3,7 @@
 #include "VorExprEvValue.h"
 #include "VorExprEvVariableList.h"
 #include "VorExprEvalErrorHandler.h"
-#include "VorFormulaNumber.h"
+#include "VorFormulaCharacters.h"
 
 #include "MekRoots/Exp/VorNumberText.h"
 
@@ -39,7 +39,7 @@ int VorExprEvTreeItemOperand::scanNumber(const VorExprEvTextView& text, double& 
     }
     const wchar_t* pStart = text.text() + text.start();
     const wchar_t* pEnd = text.text() + text.textLength();
-    if (pStart < pEnd && !VorFormulaNumber::canStart(*pStart))
+    if (pStart < pEnd && !VorFormulaCharacters::canStartNumber(*pStart))
         return 0;
     float scanned = 0.0F;
     if (VorNumberText::scanFloat(pStart, pEnd, scanned) == VorNumberText::kNoNumber)

@@ -4,144 +4,181 @@
 #include "VorExprEvValue.h"
 #include "VorFixedStack.h"
 #include "VorFormulaOperands.h"
-#include "VorStatementReader.h"
 
 #include <cstddef>
 #include <string_view>
 
 namespace
 {
+using VorFormulaCharacters::eKind;
+
 // Deeper formulas are left to the tree. Arbitrary; formulas of reports nest a few deep.
 constexpr std::size_t kDeepest = 32;
 
-// Computes one statement while it is read: operands and results stand on one stack of numbers.
-//
-// The name on the left of an assignment is no number and is kept aside. It stands below all numbers, so an operator that
-// finds none left would take the name for its side: that is for the tree to sort out, as is all that is odd.
-class StatementCalculator : public VorStatementReader<StatementCalculator, VorFixedStack<VorWaitingOperator, kDeepest>>
+// An operator that waits for its right side.
+struct Waiting
+{
+    double left; // 0.0 for a '('
+    eKind kind;
+    wchar_t operation;
+};
+
+// Computes statements in which operands and operators take turns, while it reads them. "2*3+4":
+//   2      value 2
+//   *                     waiting 2*
+//   3      value 3        waiting 2*
+//   +      value 6        waiting 6+      '*' binds tighter than '+'
+//   4      value 4        waiting 6+
+//   end    value 10
+// A ')' computes all that waits, as the end does. It need not wait itself: nothing is left below that it could hold back.
+class StatementCalculator
 {
 public:
-    // The rooms are for operators that wait and for numbers.
-    StatementCalculator(VorFormulaOperands& operands, VorWaitingOperator (&operatorRoom)[kDeepest],
-                        double (&numberRoom)[kDeepest])
-        : VorStatementReader(operatorRoom), m_operands(operands), m_numbers(numberRoom)
+    // The room is for operators that wait. At its bottom stands a '=', which binds less than all that may follow.
+    StatementCalculator(VorFormulaOperands& operands, Waiting (&room)[kDeepest]) : m_operands(operands), m_waiting(room)
     {
+        m_waiting.push({ 0.0, VorFormulaCharacters::kAssignment, L'=' });
     }
 
-    const VorFixedStack<double, kDeepest>& numbers() const { return m_numbers; }
+    double value() const { return m_value; }
+    bool hasOperators() const { return m_bHasOperators; }
 
-    bool fails() const { return m_bFails || m_numbers.hasOverflown() || operators().hasOverflown(); }
-
-    static VorFormulaCharacters::eKind kindAt(const wchar_t* pText)
+    // Where the statement at `pText` ends; null when it is not for this calculator, which is of no use then. What reads
+    // like no expression may be an assignment: the name and the '=' leave nothing that waits.
+    const wchar_t* read(const wchar_t* pText)
     {
-        return VorFormulaCharacters::kKindsInFormula[*pText];
+        const wchar_t* pEnd = nullptr;
+        std::wstring_view name;
+        while ((pEnd = readExpression(pText)) == nullptr)
+            if (!name.empty() || (pText = readName(pText, name)) == nullptr)
+                return nullptr;
+        if (!name.empty() && !m_operands.assign(name, m_value))
+            return nullptr;
+        return pEnd;
     }
-
-    void addNothing() { m_numbers.push(0.0); }
-
-    const wchar_t* readOperand(const wchar_t* pText)
-    {
-        double value = 0.0;
-        const wchar_t* pNext = m_operands.read(pText, value);
-        if (pNext == nullptr || *pNext == L'=')
-            return readName(pText);
-        m_numbers.push(value);
-        return pNext;
-    }
-
-    void reduce(const VorWaitingOperator& waiting)
-    {
-        if (waiting.kind == VorFormulaCharacters::kAssignment)
-            assign();
-        else
-            compute(waiting.character());
-    }
-
-    void trace(const OperatorStack&) {}
 
 private:
-    // Without a value, unless it is the name to be assigned to.
-    const wchar_t* readName(const wchar_t* pText)
+    // Where the expression at `pText` and its statement end; null when it is not for this calculator.
+    const wchar_t* readExpression(const wchar_t* pText)
     {
-        const wchar_t* pNext = nullptr;
-        const std::wstring_view name = VorFormulaOperands::textAt(pText, pNext);
-        if (*pNext == L'=' && m_numbers.isEmpty() && m_name.empty())
-            m_name = name;
+        for (;; ++pText)
+        {
+            pText = readOperand(pText);
+            if (pText == nullptr)
+                return nullptr;
+            while (*pText == L')')
+                pText = close(pText);
+            const eKind kind = VorFormulaCharacters::kKindsInFormula[*pText];
+            if (kind == VorFormulaCharacters::kEnd)
+                return finish() ? pText : nullptr;
+            if (kind != VorFormulaCharacters::kSum && kind != VorFormulaCharacters::kProduct)
+                return nullptr;
+            computeFor(kind);
+            m_waiting.push({ m_value, kind, *pText });
+        }
+    }
+
+    // The name that is assigned to, and where the expression for it begins; null when there is none.
+    const wchar_t* readName(const wchar_t* pText, std::wstring_view& name)
+    {
+        name = VorFormulaOperands::textAt(pText, pText);
+        m_bHasOperators = true;
+        return !name.empty() && *pText == L'=' ? pText + 1 : nullptr;
+    }
+
+    // What is opened and negated before the operand waits.
+    const wchar_t* readOperand(const wchar_t* pText)
+    {
+        for (;; ++pText)
+        {
+            if (const wchar_t* pNext = m_operands.read(pText, m_value))
+                return pNext;
+            if (!open(*pText))
+                return nullptr;
+        }
+    }
+
+    // A '-' before an operand is a negation, which takes it from 0.
+    bool open(wchar_t character)
+    {
+        if (character == L'(')
+        {
+            m_waiting.push({ 0.0, VorFormulaCharacters::kParenthesis, L'(' });
+            ++m_nDepth;
+        }
+        else if (character == L'-')
+            m_waiting.push({ 0.0, VorFormulaCharacters::kSum, L'-' });
         else
-            m_bFails = true;
-        return pNext;
+            return VorFormulaCharacters::kBlanks.holds(character);
+        return true;
     }
 
-    void compute(wchar_t operation)
+    const wchar_t* close(const wchar_t* pText)
     {
-        if (m_numbers.size() < 2)
-            addMissingSides();
-        const double right = m_numbers.pop();
-        double& left = m_numbers.top();
-        if (!VorExprEvTreeItemOperator::calculate(operation, left, right, left))
-            m_bFails = true;
+        computeAll();
+        m_bHasOperators = true;
+        --m_nDepth;
+        do
+            ++pText;
+        while (VorFormulaCharacters::kBlanks.holds(*pText));
+        return pText;
     }
 
-    // A missing side counts as 0.0; the one that is there is the right one.
-    void addMissingSides()
+    bool finish()
     {
-        if (!m_name.empty())
-            m_bFails = true;
-        const double right = m_numbers.isEmpty() ? 0.0 : m_numbers.pop();
-        m_numbers.push(0.0);
-        m_numbers.push(right);
+        m_bHasOperators = m_bHasOperators || m_waiting.size() > 1;
+        computeAll();
+        return m_nDepth == 0 && !m_bFails && !m_waiting.hasOverflown();
     }
 
-    void assign()
+    // What binds as tight as an operator to come, or tighter.
+    void computeFor(eKind kind)
     {
-        const bool isPlain = !m_name.empty() && m_numbers.size() == 1 && !m_bFails;
-        if (!isPlain || !m_operands.assign(m_name, m_numbers.top()))
+        while (m_waiting.top().kind >= kind)
+            compute(m_waiting.pop());
+    }
+
+    void computeAll()
+    {
+        while (m_waiting.size() > 1)
+        {
+            const Waiting waiting = m_waiting.pop();
+            if (waiting.kind != VorFormulaCharacters::kParenthesis)
+                compute(waiting);
+        }
+    }
+
+    void compute(const Waiting& waiting)
+    {
+        if (!VorExprEvTreeItemOperator::calculate(waiting.operation, waiting.left, m_value, m_value))
             m_bFails = true;
-        m_name = {};
     }
 
     VorFormulaOperands& m_operands;
-    VorFixedStack<double, kDeepest> m_numbers;
-    std::wstring_view m_name; // to be assigned to; empty in a statement without assignment
+    VorFixedStack<Waiting, kDeepest> m_waiting;
+    double m_value = 0.0;
+    int m_nDepth = 0;
+    bool m_bHasOperators = false;
     bool m_bFails = false;
 };
-
-struct Outcome
-{
-    double value = 0.0; // of the last statement with operands
-    bool hasOperators = false;
-};
-
-// Where the statement at `pText` ends; null when it is not for this calculator.
-const wchar_t* calculateStatement(const wchar_t* pText, VorFormulaOperands& operands, Outcome& outcome)
-{
-    VorWaitingOperator operatorRoom[kDeepest];
-    double numberRoom[kDeepest];
-    StatementCalculator calculator(operands, operatorRoom, numberRoom);
-    if (!calculator.read(pText) || calculator.fails())
-        return nullptr;
-    if (!calculator.numbers().isEmpty())
-        outcome.value = calculator.numbers().top();
-    outcome.hasOperators = outcome.hasOperators || calculator.hasOperators();
-    return pText;
-}
 }
 
 int VorFormulaCalculator::calculate(const wchar_t* formula, double& result)
 {
-    VorFormulaOperands operands(formula, m_variables);
-    Outcome outcome;
-    const wchar_t* pNext = formula;
-    while ((pNext = calculateStatement(pNext, operands, outcome)) != nullptr && *pNext != L'\0')
+    Waiting room[kDeepest];
+    VorFormulaOperands operands(m_variables);
+    StatementCalculator calculator(operands, room);
+    const wchar_t* pText = formula;
+    while ((pText = calculator.read(pText)) != nullptr && *pText != L'\0')
     {
-        ++pNext;
+        ++pText;
         operands.beginNextStatement();
     }
-    if (pNext == nullptr || !outcome.hasOperators)
+    if (pText == nullptr || !calculator.hasOperators())
     {
         operands.forgetAssigned();
         return 0;
     }
-    result = VorExprEvValue::readBack(outcome.value);
+    result = VorExprEvValue::readBack(calculator.value());
     return 1;
 }

@@ -39,8 +39,32 @@ inline constexpr wchar_t kSeparator = L';'; // between statements
 // What stands behind an operand in a zero-terminated formula.
 inline constexpr VorCharacterSet kOperandEnds(std::wstring_view(L"*/+-=();\0", 9));
 
+// Passes over the blanks behind an operand of a zero-terminated formula; null if it does not end here.
+inline const wchar_t* endOperand(const wchar_t* pText)
+{
+    for (; !kOperandEnds.holds(*pText); ++pText)
+        if (!kBlanks.holds(*pText))
+            return nullptr;
+    return pText;
+}
+
+// Digits, point, sign, white space as the C library knows it, and the zero that ends a text.
+inline constexpr VorCharacterSet kNumberStarts(std::wstring_view(L"0123456789.+- \t\n\v\f\r\0", 20));
+
+constexpr bool isDigit(wchar_t character)
+{
+    return character >= L'0' && character <= L'9';
+}
+
+// Whether an operand that begins like this can be a number; "inf" and "nan" begin with a letter.
+constexpr bool canStartNumber(wchar_t character)
+{
+    return kNumberStarts.holds(character) || character == L'i' || character == L'I' || character == L'n' ||
+           character == L'N';
+}
+
 // What a character is, between operands.
-enum eKind : int
+enum eKind : signed char
 {
     kAssignment = 0,  // operators, by how tightly they bind
     kParenthesis = 1, // '(' and ')'
@@ -48,39 +72,61 @@ enum eKind : int
     kProduct = 3,     // '*' and '/'
     kNothing = 4,     // blanks and zero characters
     kOperand = 5,     // all that is nothing else
-    kEnd = 6          // of the statement
+    kEnd = 6,         // of the statement
+    kDigit = 7,       // an operand, most likely a number
+    kName = 8         // an operand that is no number
 };
 
-// The kinds of the characters below 64; all others are part of an operand.
+// The kinds of all characters.
 class KindTable
 {
 public:
-    // In the text of one statement alone, ';' is part of an operand, and zero characters are nothing; in a
-    // zero-terminated formula both end a statement.
-    explicit constexpr KindTable(bool isFormula)
+    // Of the text of one statement alone, where ';' is part of an operand, and zero characters are nothing.
+    static constexpr KindTable ofStatement()
     {
-        for (wchar_t character = 0; character < 64; ++character)
-            m_kinds[character] = kOperand;
-        for (const wchar_t blank : { L' ', L'\t', L'\n', L'\r' })
-            m_kinds[blank] = kNothing;
-        m_kinds[L'\0'] = isFormula ? kEnd : kNothing;
-        m_kinds[kSeparator] = isFormula ? kEnd : kOperand;
-        m_kinds[L'='] = kAssignment;
-        m_kinds[L'('] = m_kinds[L')'] = kParenthesis;
-        m_kinds[L'+'] = m_kinds[L'-'] = kSum;
-        m_kinds[L'*'] = m_kinds[L'/'] = kProduct;
+        KindTable table(kOperand);
+        for (const wchar_t blank : { L' ', L'\t', L'\n', L'\r', L'\0' })
+            table.m_kinds[blank] = kNothing;
+        table.m_kinds[L'='] = kAssignment;
+        table.m_kinds[L'('] = table.m_kinds[L')'] = kParenthesis;
+        table.m_kinds[L'+'] = table.m_kinds[L'-'] = kSum;
+        table.m_kinds[L'*'] = table.m_kinds[L'/'] = kProduct;
+        return table;
+    }
+
+    // Of a zero-terminated formula, where both end a statement. Operands are told apart by how they begin.
+    static constexpr KindTable ofFormula()
+    {
+        KindTable table = ofStatement();
+        table.m_others = kName;
+        for (wchar_t character = 0; character < kSize; ++character)
+            if (table.m_kinds[character] == kOperand && !canStartNumber(character))
+                table.m_kinds[character] = kName;
+        for (wchar_t character = L'0'; character <= L'9'; ++character)
+            table.m_kinds[character] = kDigit;
+        table.m_kinds[L'\0'] = table.m_kinds[kSeparator] = kEnd;
+        return table;
     }
 
     constexpr eKind operator[](wchar_t character) const
     {
         // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wchar_t is no char
         const auto nCode = static_cast<std::uint32_t>(character);
-        return nCode < 64 ? static_cast<eKind>(m_kinds[nCode]) : kOperand;
+        return nCode < kSize ? m_kinds[nCode] : m_others;
     }
 
 private:
-    signed char m_kinds[64] = {};
+    static constexpr int kSize = 128;
+
+    explicit constexpr KindTable(eKind kind) : m_others(kind)
+    {
+        for (eKind& here : m_kinds)
+            here = kind;
+    }
+
+    eKind m_kinds[kSize] = {};
+    eKind m_others; // the kind of all characters beyond
 };
-inline constexpr KindTable kKindsInStatement(false);
-inline constexpr KindTable kKindsInFormula(true);
+inline constexpr KindTable kKindsInStatement = KindTable::ofStatement();
+inline constexpr KindTable kKindsInFormula = KindTable::ofFormula();
 }

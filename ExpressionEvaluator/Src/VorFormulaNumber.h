@@ -7,25 +7,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
-#include <string_view>
 
 namespace VorFormulaNumber
 {
-// Digits, point, sign, white space as the C library knows it, and the zero that ends a text.
-inline constexpr VorCharacterSet kFirstCharacters(std::wstring_view(L"0123456789.+- \t\n\v\f\r\0", 20));
-
-// Whether an operand that begins like this can be a number; "inf" and "nan" begin with a letter.
-inline bool canStart(wchar_t character)
-{
-    return kFirstCharacters.holds(character) || character == L'i' || character == L'I' || character == L'n' ||
-           character == L'N';
-}
-
-inline bool isDigit(wchar_t character)
-{
-    return character >= L'0' && character <= L'9';
-}
-
 // Reads digits, or digits with a point among or behind them, from the zero-terminated text and answers where the operand
 // ends. Null if it does not end there, and for a number that a single division cannot give: if the digits without the
 // point make a whole number that a float holds exactly, and it holds the power of ten to divide it by, then their
@@ -38,23 +22,22 @@ inline const wchar_t* scanShort(const wchar_t* pText, double& number)
 
     const wchar_t* pStart = pText;
     std::uint64_t nDigits = 0; // too many are no matter before they are used
-    for (; isDigit(*pText); ++pText)
+    for (; VorFormulaCharacters::isDigit(*pText); ++pText)
         nDigits = nDigits * 10 + static_cast<std::uint64_t>(*pText - L'0');
     std::ptrdiff_t nDecimals = 0;
     if (*pText == L'.')
     {
         const wchar_t* pPoint = pText++;
-        for (; isDigit(*pText); ++pText)
+        for (; VorFormulaCharacters::isDigit(*pText); ++pText)
             nDigits = nDigits * 10 + static_cast<std::uint64_t>(*pText - L'0');
         nDecimals = pText - pPoint - 1;
     }
     const bool isExact = pText - pStart <= kMostCharacters && nDigits <= kMostExact &&
                          nDecimals < std::ptrdiff_t(std::size(kPowersOfTen));
-    while (VorFormulaCharacters::kBlanks.holds(*pText))
-        ++pText;
-    if (!isExact || !VorFormulaCharacters::kOperandEnds.holds(*pText))
+    pText = VorFormulaCharacters::endOperand(pText);
+    if (!isExact || pText == nullptr)
         return nullptr;
-    const auto whole = static_cast<float>(nDigits);
+    const auto whole = static_cast<float>(static_cast<std::int32_t>(nDigits));
     number = nDecimals == 0 ? whole : whole / kPowersOfTen[nDecimals];
     return pText;
 }

@@ -8,11 +8,13 @@
 
 std::wstring_view VorFormulaOperands::textAt(const wchar_t* pText, const wchar_t*& pNext)
 {
+    while (VorFormulaCharacters::kBlanks.holds(*pText))
+        ++pText;
     pNext = pText;
     while (!VorFormulaCharacters::kOperandEnds.holds(*pNext))
         ++pNext;
     const wchar_t* pEnd = pNext;
-    while (VorFormulaCharacters::kBlanks.holds(pEnd[-1]))
+    while (pEnd != pText && VorFormulaCharacters::kBlanks.holds(pEnd[-1]))
         --pEnd;
     return { pText, static_cast<std::size_t>(pEnd - pText) };
 }
@@ -40,7 +42,7 @@ const wchar_t* VorFormulaOperands::findAssigned(const wchar_t* pText, double& va
         const auto nLength = static_cast<std::size_t>(pVariable->nLength);
         if (*pText != *pVariable->pName || std::wcsncmp(pText, pVariable->pName, nLength) != 0)
             continue;
-        const wchar_t* pNext = endOperand(pText + nLength);
+        const wchar_t* pNext = VorFormulaCharacters::endOperand(pText + nLength);
         if (pNext == nullptr)
             continue;
         value = pVariable->value;
@@ -53,7 +55,7 @@ const wchar_t* VorFormulaOperands::findAssigned(const wchar_t* pText, double& va
 const wchar_t* VorFormulaOperands::readUnusual(const wchar_t* pText, double& value)
 {
     if (m_pFormulaEnd == nullptr)
-        m_pFormulaEnd = m_pFormula + std::wcslen(m_pFormula);
+        m_pFormulaEnd = pText + std::wcslen(pText);
     const std::ptrdiff_t nRest = std::min<std::ptrdiff_t>(m_pFormulaEnd - pText, std::numeric_limits<int>::max());
     const VorExprEvTextView rest(pText, 0, static_cast<int>(nRest));
     if (!VorExprEvTreeItemOperand::scanNumber(rest, value))

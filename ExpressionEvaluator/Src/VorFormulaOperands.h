@@ -1,10 +1,11 @@
 // Reads operands of a zero-terminated formula: numbers, and names that stand for announced variables.
 //
 //   variables.announce(names, values, 2);             // a = 2, b = 3
-//   VorFormulaOperands operands(formula, variables);
+//   VorFormulaOperands operands(variables);
 //   operands.read(L"b * 2", value)   ->  "* 2", value 3
 //   operands.read(L"2", value)       ->  "", value 2
 //   operands.read(L"c+1", value)     ->  null: nothing is known of c
+//   operands.read(L"(2)", value)     ->  null: no operand begins there
 //
 // Owns nothing. Makes no variable, but announces those that are assigned.
 #pragma once
@@ -20,28 +21,30 @@ class VorFormulaOperands
 {
 public:
     // All variables in the list must be announced ones.
-    VorFormulaOperands(const wchar_t* formula, VorExprEvVariableList& variables)
-        : m_pFormula(formula),
-          m_variables(variables),
+    explicit VorFormulaOperands(VorExprEvVariableList& variables)
+        : m_variables(variables),
           m_pGiven(variables.announced()),
           m_pGivenEnd(m_pGiven + variables.numAnnounced()),
           m_pEnd(m_pGivenEnd)
     {
     }
 
-    // Reads the operand at `pText` and answers where it ends, the blanks behind it passed over; null, with `value`
-    // undefined, when it has no value.
+    // Reads the operand at `pText`, which is in the same formula every time, and answers where it ends, the blanks behind
+    // it passed over; null, with `value` undefined, when there is none or it has no value.
     const wchar_t* read(const wchar_t* pText, double& value)
     {
-        const wchar_t* pNext = nullptr;
-        if (VorFormulaNumber::isDigit(*pText))
-            pNext = VorFormulaNumber::scanShort(pText, value);
-        else if (!VorFormulaNumber::canStart(*pText))
-            return findName(pText, value);
-        if (pNext != nullptr)
-            return pNext;
+        switch (VorFormulaCharacters::kKindsInFormula[*pText])
+        {
+            case VorFormulaCharacters::kName: return findName(pText, value);
+            case VorFormulaCharacters::kDigit:
+                if (const wchar_t* pNext = VorFormulaNumber::scanShort(pText, value))
+                    return pNext;
+                break;
+            case VorFormulaCharacters::kOperand: break;
+            default: return nullptr;
+        }
         double unusual = 0.0; // a variable of its own, so that the usual value stays in a register
-        pNext = readUnusual(pText, unusual);
+        const wchar_t* pNext = readUnusual(pText, unusual);
         value = unusual;
         return pNext;
     }
@@ -58,7 +61,7 @@ public:
 private:
     using Variable = VorExprEvVariableList::Announced;
 
-    // The newest first. Most names differ in their first two characters.
+    // The newest first.
     const wchar_t* findName(const wchar_t* pText, double& value) const
     {
         if (m_pEnd != m_pGivenEnd)
@@ -70,12 +73,11 @@ private:
                 return pNext;
             }
         }
-        const wchar_t first = pText[0];
-        const wchar_t second = pText[1];
+        const wchar_t first = *pText;
         for (const Variable* pVariable = m_pGivenEnd; pVariable != m_pGiven;)
         {
             const wchar_t* pName = (--pVariable)->pName;
-            if (pName[0] != first || (pName[1] != second && pName[1] != L'\0'))
+            if (*pName != first)
                 continue;
             const wchar_t* pNext = readGiven(pText, pName);
             if (pNext == nullptr)
@@ -94,7 +96,7 @@ private:
             ++i;
         if (pName[i] != L'\0' || VorFormulaCharacters::kBlanks.holds(pText[i - 1]))
             return nullptr;
-        return endOperand(pText + i);
+        return VorFormulaCharacters::endOperand(pText + i);
     }
 
     // The last of several statements reaches past the end of the formula: a name there has a zero character, and no
@@ -104,17 +106,8 @@ private:
     const wchar_t* findAssigned(const wchar_t* pText, double& value) const;
     const wchar_t* readUnusual(const wchar_t* pText, double& value);
 
-    // Passes over the blanks behind an operand; null if it does not end here.
-    static const wchar_t* endOperand(const wchar_t* pText)
-    {
-        while (VorFormulaCharacters::kBlanks.holds(*pText))
-            ++pText;
-        return VorFormulaCharacters::kOperandEnds.holds(*pText) ? pText : nullptr;
-    }
-
-    const wchar_t* m_pFormula;
-    const wchar_t* m_pFormulaEnd = nullptr; // not looked for before it is needed
     VorExprEvVariableList& m_variables;
+    const wchar_t* m_pFormulaEnd = nullptr; // not looked for before it is needed
     const Variable* m_pGiven;
     const Variable* m_pGivenEnd;
     const Variable* m_pEnd; // the assigned ones stand between

@@ -80,6 +80,15 @@ TEST_F(evaluateFormulaTest, StatementsAreComputedFromTheLeft)
     expectResults(cases);
 }
 
+TEST_F(evaluateFormulaTest, ParenthesesAndNegationsMayStandAnywhereBeforeAnOperand)
+{
+    const ResultCase cases[] = {
+        { L"1)+(2*3", 7.0 },   { L"2*-3+4", -2.0 },         { L"2--3*4", 14.0 },          { L"-(-(a))*3", 6.0 },
+        { L"8/-(2+2)", -2.0 }, { L" ( a ) * ( b ) ", 1.0 }, { L"x=-(a+3)*-2;x*1", 10.0 },
+    };
+    expectResults(cases);
+}
+
 TEST_F(evaluateFormulaTest, FormulasShorterThanFourCharactersAreRefused)
 {
     for (const wchar_t* formula : { L"", L"+", L"a", L"1+", L"1+2", L"a*b", L"(1)" })
