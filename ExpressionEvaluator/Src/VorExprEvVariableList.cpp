@@ -1,6 +1,5 @@
 #include "VorExprEvVariableList.h"
 
-#include <cwchar>
 #include <functional>
 #include <iterator>
 #include <memory>
@@ -24,42 +23,19 @@ const VorExprEvVariable* VorExprEvVariableList::head()
     return m_pHead;
 }
 
-void VorExprEvVariableList::announce(const wchar_t* const* names, const double* values, int count)
+int VorExprEvVariableList::announce(std::wstring_view name, double value)
 {
-    Announced* pNext = m_announced + m_nAnnounced;
-    for (int i = 0; i < count; ++i)
-    {
-        if (names[i] == nullptr)
-            continue;
-        if (pNext == std::end(m_announced))
-        {
-            m_nAnnounced = kMostAnnounced;
-            makeAnnounced();
-            pNext = m_announced;
-        }
-        *pNext++ = { names[i], kNotMeasured, values[i] };
-    }
-    m_nAnnounced = static_cast<int>(pNext - m_announced);
-}
-
-void VorExprEvVariableList::announce(std::wstring_view name, double value)
-{
-    if (m_nAnnounced == kMostAnnounced)
-        makeAnnounced();
-    m_announced[m_nAnnounced++] = { name.data(), static_cast<int>(name.size()), value };
+    if (m_pAnnouncedEnd == std::end(m_announced))
+        return 0;
+    *m_pAnnouncedEnd++ = { name.data(), static_cast<int>(name.size()), value };
+    return 1;
 }
 
 void VorExprEvVariableList::makeAnnounced()
 {
-    const int nAnnounced = std::exchange(m_nAnnounced, 0);
-    for (int i = 0; i < nAnnounced; ++i)
-    {
-        const Announced& here = m_announced[i];
-        const int nLength = here.nLength == kNotMeasured ? static_cast<int>(std::wcslen(here.pName)) : here.nLength;
-        VorExprEvValue value;
-        value.setDouble(here.value);
-        prepend(VorExprEvTextView(here.pName, 0, nLength), value);
-    }
+    const Announced* pEnd = std::exchange(m_pAnnouncedEnd, m_announced);
+    for (const Announced* pHere = m_announced; pHere != pEnd; ++pHere)
+        prepend(pHere->name(), pHere->value);
 }
 
 int VorExprEvVariableList::addVariable(const VorExprEvTextView& name, VorExprEvValue& value)
@@ -77,6 +53,13 @@ void VorExprEvVariableList::prepend(const VorExprEvTextView& name, const VorExpr
         m_index.insert_or_assign(name, pVariable.get());
     m_pHead = pVariable.release();
     ++m_nCount;
+}
+
+void VorExprEvVariableList::prepend(std::wstring_view name, double value)
+{
+    VorExprEvValue number;
+    number.setDouble(value);
+    prepend(VorExprEvTextView(name.data(), 0, static_cast<int>(name.size())), number);
 }
 
 const VorExprEvVariable* VorExprEvVariableList::find(const VorExprEvTextView& name)

@@ -31,28 +31,43 @@ public:
 
     // The newest variable, or null.
     const VorExprEvVariable* head();
-    int count() const { return m_nCount + m_nAnnounced; }
-
-    // Adds double variables, null names passed over, the last one newest. The numbers are copied now; up to
-    // kMostAnnounced variables are not made, nor the ends of their names looked for, before somebody asks for them,
-    // which most evaluations never do. Names must stay until then at least.
-    void announce(const wchar_t* const* names, const double* values, int count);
-    void announce(std::wstring_view name, double value);
+    int count() const { return m_nCount + static_cast<int>(m_pAnnouncedEnd - m_announced); }
 
     // A variable that is not made yet.
     struct Announced
     {
+        static constexpr int kNotMeasured = -1;
+
         const wchar_t* pName;
         int nLength; // kNotMeasured for zero-terminated names
         double value;
+
+        std::wstring_view name() const
+        {
+            return nLength == kNotMeasured ? pName : std::wstring_view(pName, static_cast<std::size_t>(nLength));
+        }
     };
-    static constexpr int kNotMeasured = -1;
+
+    // Adds double variables to the empty list, null names passed over, the last one newest; no more than
+    // kMostAnnounced. The numbers are copied now. The variables are not made, nor the ends of their names looked for,
+    // before somebody asks for them, which most evaluations never do. Names must stay until then at least.
+    void announce(const wchar_t* const* names, const double* values, int count)
+    {
+        Announced* pNext = m_announced;
+        for (int i = 0; i < count; ++i)
+            if (names[i] != nullptr)
+                *pNext++ = { names[i], Announced::kNotMeasured, values[i] };
+        m_pAnnouncedEnd = pNext;
+    }
+
+    // Adds one to those announced; 0 when there are too many.
+    int announce(std::wstring_view name, double value);
 
     // Those not made yet, which are newer than all others, the oldest of them first. withdraw takes back all but the
     // oldest `numKept`.
     const Announced* announced() const { return m_announced; }
-    int numAnnounced() const { return m_nAnnounced; }
-    void withdraw(int numKept) { m_nAnnounced = numKept; }
+    const Announced* announcedEnd() const { return m_pAnnouncedEnd; }
+    void withdraw(std::ptrdiff_t numKept) { m_pAnnouncedEnd = m_announced + numKept; }
 
     // Puts a new variable with a copy of `value` at the head, then releases `value`. An unknown value makes a variable
     // without one. Returns 1.
@@ -61,12 +76,15 @@ public:
     // The same, but leaves `value` to the caller.
     void prepend(const VorExprEvTextView& name, const VorExprEvValue& value);
 
+    // The same with a double.
+    void prepend(std::wstring_view name, double value);
+
     // The newest variable whose name equals `name` over its whole length, case-sensitive; null when there is none.
     const VorExprEvVariable* find(const VorExprEvTextView& name);
 
     void clear()
     {
-        m_nAnnounced = 0;
+        m_pAnnouncedEnd = m_announced;
         if (m_nCount > 0)
             deleteVariables();
     }
@@ -92,5 +110,5 @@ private:
     int m_nCount = 0;
     Index m_index;
     Announced m_announced[kMostAnnounced];
-    int m_nAnnounced = 0; // newer than all that are in the list
+    Announced* m_pAnnouncedEnd = m_announced; // newer than all that are in the list
 };

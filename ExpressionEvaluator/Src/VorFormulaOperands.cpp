@@ -19,24 +19,9 @@ std::wstring_view VorFormulaOperands::textAt(const wchar_t* pText, const wchar_t
     return { pText, static_cast<std::size_t>(pEnd - pText) };
 }
 
-int VorFormulaOperands::assign(std::wstring_view name, double value)
-{
-    if (m_variables.numAnnounced() == VorExprEvVariableList::kMostAnnounced)
-        return 0;
-    m_variables.announce(name, value);
-    ++m_pEnd;
-    return 1;
-}
-
-void VorFormulaOperands::forgetAssigned()
-{
-    m_variables.withdraw(static_cast<int>(m_pGivenEnd - m_pGiven));
-    m_pEnd = m_pGivenEnd;
-}
-
 const wchar_t* VorFormulaOperands::findAssigned(const wchar_t* pText, double& value) const
 {
-    for (const Variable* pVariable = m_pEnd; pVariable != m_pGivenEnd;)
+    for (const Variable* pVariable = m_variables.announcedEnd(); pVariable != m_pGivenEnd;)
     {
         --pVariable;
         const auto nLength = static_cast<std::size_t>(pVariable->nLength);

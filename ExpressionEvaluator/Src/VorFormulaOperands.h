@@ -22,10 +22,7 @@ class VorFormulaOperands
 public:
     // All variables in the list must be announced ones.
     explicit VorFormulaOperands(VorExprEvVariableList& variables)
-        : m_variables(variables),
-          m_pGiven(variables.announced()),
-          m_pGivenEnd(m_pGiven + variables.numAnnounced()),
-          m_pEnd(m_pGivenEnd)
+        : m_variables(variables), m_pGiven(variables.announced()), m_pGivenEnd(variables.announcedEnd())
     {
     }
 
@@ -53,8 +50,8 @@ public:
     static std::wstring_view textAt(const wchar_t* pText, const wchar_t*& pNext);
 
     // Makes a variable, whose name views the formula; 0 when there are too many. Later statements may take it back.
-    int assign(std::wstring_view name, double value);
-    void forgetAssigned();
+    int assign(std::wstring_view name, double value) { return m_variables.announce(name, value); }
+    void forgetAssigned() { m_variables.withdraw(m_pGivenEnd - m_pGiven); }
 
     void beginNextStatement() { m_bReachesPastEnd = true; }
 
@@ -64,7 +61,7 @@ private:
     // The newest first.
     const wchar_t* findName(const wchar_t* pText, double& value) const
     {
-        if (m_pEnd != m_pGivenEnd)
+        if (m_variables.announcedEnd() != m_pGivenEnd)
         {
             double assigned = 0.0; // for the reason that read has
             if (const wchar_t* pNext = findAssigned(pText, assigned))
@@ -109,7 +106,6 @@ private:
     VorExprEvVariableList& m_variables;
     const wchar_t* m_pFormulaEnd = nullptr; // not looked for before it is needed
     const Variable* m_pGiven;
-    const Variable* m_pGivenEnd;
-    const Variable* m_pEnd; // the assigned ones stand between
+    const Variable* m_pGivenEnd; // the assigned ones stand behind
     bool m_bReachesPastEnd = false;
 };

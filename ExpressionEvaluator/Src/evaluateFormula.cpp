@@ -48,13 +48,21 @@ int evaluateQuickly(const wchar_t* formula, const wchar_t* const* names, const d
     return VorFormulaCalculator(variables).calculate(formula, result);
 }
 
+void addVariables(const wchar_t* const* names, const double* values, int count)
+{
+    VorExprEvVariableList& variables = VorExprEvVariableList::ofThread();
+    for (int i = 0; i < count; ++i)
+        if (names[i] != nullptr)
+            variables.prepend(names[i], values[i]);
+}
+
 int evaluateByTree(const wchar_t* formula, const wchar_t* const* names, const double* values, int count, double& result)
 {
     const std::wstring_view text(formula);
     ExpressionsEvaluator evaluator(formula, static_cast<unsigned int>(text.size()));
     if (!isFormula(text))
         return 0;
-    VorExprEvVariableList::ofThread().announce(names, values, count);
+    addVariables(names, values, count);
     wchar_t buffer[VorExprEvValue::kBufferLength];
     if (!evaluator.evaluate(buffer))
         return 0;
