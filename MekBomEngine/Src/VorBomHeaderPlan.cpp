@@ -2,12 +2,14 @@
 
 #include "MekRoots/Exp/VorAssert.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace
 {
-// How many results of formulas get their memory at once. Arbitrary: as many as fill some lines of the cache.
-constexpr int kNumCellsForRows = 64;
+// How many results of formulas get their memory at once: few at first, as a report may be small, then ever more.
+constexpr int kFewestCellsForRows = 16;
+constexpr int kMostCellsForRows = VorMemoryControllerController::kLargestNeighbourhood / VorBomPayloadCells::kCellSize;
 
 const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomEvaluator2"; // whose reports these are
 
@@ -87,6 +89,9 @@ void VorBomHeaderPlan::showInUnits(VorBomTemplateUnits& units, VorBomTemplateIte
 VorBomPayloadCells& VorBomHeaderPlan::cellsForRows()
 {
     if (!m_cellsForRows || m_cellsForRows->isUsedUp())
-        m_cellsForRows.emplace(kNumCellsForRows);
+    {
+        m_numCellsForRows = std::clamp(2 * m_numCellsForRows, kFewestCellsForRows, kMostCellsForRows);
+        m_cellsForRows.emplace(m_numCellsForRows);
+    }
     return *m_cellsForRows;
 }

@@ -43,7 +43,7 @@ private:
     VorBomColumns m_columns;       // one per tuple of the section
     std::vector<char> m_isFormula; // 1 or 0; bits would cost more than they save
     std::vector<VorBomFormulaColumn> m_formulas;
-    std::optional<VorBomPayloadCells>
-        m_cellsForRows; // of results; apart from the sections, which go before the rows do
+    std::optional<VorBomPayloadCells> m_cellsForRows; // of results; apart from the sections, which go before the rows
+    int m_numCellsForRows = 0;                        // of those taken last
     std::vector<VorBomDisplayColumn> m_displays;
 };

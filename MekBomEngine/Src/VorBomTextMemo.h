@@ -22,11 +22,15 @@ public:
     {
         if (m_entries.empty())
             return nullptr;
-        const Entry& entry = m_entries[slotOf(key)];
-        if (entry.text.isEmpty() || entry.key != key)
-            return nullptr;
-        ++m_nNumFound;
-        return &entry.text;
+        const Entry* pEntry = &m_entries[firstEntryFor(key)];
+        for (std::size_t way = 0; way < kNumWays; ++way, ++pEntry)
+        {
+            if (pEntry->key != key || pEntry->text.isEmpty())
+                continue;
+            ++m_nNumFound;
+            return &pEntry->text;
+        }
+        return nullptr;
     }
 
     // After find() gave null. An empty text is not remembered.
@@ -42,14 +46,16 @@ private:
         VorString text;
     };
 
-    static constexpr int kNumTrials = 256;   // arbitrary: enough to tell
-    static constexpr int kSlotBits = 9;      // 8 KB, so that those of all columns fit the inner caches
-    static constexpr int kFewestFoundIn = 4; // one of so many, or remembering costs more than it saves
+    static constexpr int kNumTrials = 256;     // arbitrary: enough to tell
+    static constexpr int kSetBits = 8;         // 16 KB, so that those of all columns fit the inner caches
+    static constexpr std::size_t kNumWays = 4; // entries that a key may stand in, a line of the cache
+    static constexpr int kFewestFoundIn = 4;   // one of so many, or remembering costs more than it saves
 
-    static std::size_t slotOf(std::uint64_t key)
+    static std::size_t firstEntryFor(std::uint64_t key)
     {
-        return static_cast<std::size_t>(key * 0x9E3779B97F4A7C15U >> (64 - kSlotBits)); // Fibonacci hashing
+        return static_cast<std::size_t>(key * 0x9E3779B97F4A7C15U >> (64 - kSetBits)) * kNumWays; // Fibonacci hashing
     }
+    Entry& entryToReplace(std::uint64_t key);
 
     std::vector<Entry> m_entries; // none before the first text, and once remembering has proved useless
     int m_nNumFound = 0;

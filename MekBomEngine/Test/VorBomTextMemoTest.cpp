@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -157,4 +158,22 @@ TEST(VorBomTextMemoTest, ATextRememberedAnewReplacesTheOlder)
 
     ASSERT_NE(nullptr, memo.find(7));
     EXPECT_EQ(VorString(L"0.28 in"), *memo.find(7));
+}
+
+TEST(VorBomTextMemoTest, AFewHundredNumbersHardlyTakeEachOthersPlaces)
+{
+    VorBomTextMemo memo;
+    std::mt19937_64 random(3);
+    std::vector<std::uint64_t> keys;
+    for (int i = 0; i < 400; ++i)
+        keys.push_back(random());
+    int numFound = 0;
+    for (int round = 0; round < 10; ++round)
+        for (const std::uint64_t key : keys)
+        {
+            numFound += look(memo, key) ? 1 : 0;
+            look(memo, key); // twice in a row, so that it is never given up
+        }
+
+    EXPECT_GE(numFound, 9 * 380);
 }

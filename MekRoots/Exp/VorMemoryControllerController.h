@@ -29,6 +29,9 @@ public:
         return allocate(sizeOf(numElements, elementSize), elementSize % 16 == 0);
     }
 
+    // The most bytes that are served as neighbours: an eighth of a page.
+    static constexpr std::size_t kLargestNeighbourhood = 8192;
+
     // `numBlocks` blocks of `blockSize` bytes, a multiple of 8, side by side for the price of one; each is given back by
     // itself, as deallocateArray(pBlock, 1, blockSize). Null when the pool does not serve so much at once.
     static void* allocateNeighbours(std::size_t numBlocks, std::size_t blockSize);

@@ -15,7 +15,8 @@ void* VorMemoryControllerController::allocate(std::size_t size, bool isAlignedTo
 void* VorMemoryControllerController::allocateNeighbours(std::size_t numBlocks, std::size_t blockSize)
 {
     VorMemoryHeap* pHeap = VorMemoryThread::heap();
-    if (pHeap == nullptr || numBlocks > kLargestPooledBlock || !VorMemoryThread::isPooled(numBlocks * blockSize))
+    if (pHeap == nullptr || numBlocks == 0 || !VorMemoryThread::isPooled(blockSize) ||
+        numBlocks > kLargestNeighbourhood / blockSize)
         return nullptr;
     void* pBlocks = pHeap->allocate(numBlocks * blockSize, false);
     pHeap->addLive(static_cast<long long>(numBlocks) - 1);

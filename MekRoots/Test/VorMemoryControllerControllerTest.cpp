@@ -169,3 +169,40 @@ TEST(VorMemoryControllerControllerTest, ARequestTheSystemCannotServeIsOutOfMemor
 
     release(allocate(64), 64); // and goes on afterwards
 }
+
+TEST(VorMemoryControllerControllerTest, NeighboursLieSideBySideAndAreGivenBackOneByOne)
+{
+    release(allocate(8), 8); // gives this thread its pool
+    if (kPoolIsBypassed)
+        GTEST_SKIP() << "every block comes from the system here";
+    const LeakCheck leaks;
+    for (const std::size_t numBlocks : { std::size_t{ 1 }, std::size_t{ 15 }, Memory::kLargestNeighbourhood / 8 })
+    {
+        const long long before = Memory::liveBlocks();
+        auto* pFirst = static_cast<unsigned char*>(Memory::allocateNeighbours(numBlocks, 8));
+        ASSERT_NE(nullptr, pFirst);
+        EXPECT_EQ(before + static_cast<long long>(numBlocks), Memory::liveBlocks());
+        std::memset(pFirst, 0xA5, numBlocks * 8);
+
+        void* pOther = allocate(64);
+        std::memset(pOther, 0x5A, 64);
+
+        for (std::size_t i = 0; i < numBlocks; ++i)
+        {
+            ASSERT_EQ(0xA5, pFirst[i * 8]);
+            release(pFirst + i * 8, 8);
+        }
+        release(pOther, 64);
+    }
+}
+
+TEST(VorMemoryControllerControllerTest, TooManyNeighboursAreRefused)
+{
+    release(allocate(8), 8);
+    const LeakCheck leaks;
+
+    EXPECT_EQ(nullptr, Memory::allocateNeighbours(0, 8));
+    EXPECT_EQ(nullptr, Memory::allocateNeighbours(Memory::kLargestNeighbourhood / 8 + 1, 8));
+    EXPECT_EQ(nullptr, Memory::allocateNeighbours(std::numeric_limits<std::size_t>::max() / 8 + 2, 8));
+    EXPECT_EQ(nullptr, Memory::allocateNeighbours(2, Memory::kLargestPooledBlock + 8)) << "no blocks of the pool";
+}
