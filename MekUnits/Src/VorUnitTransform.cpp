@@ -71,15 +71,42 @@ unsigned int partsOf(int format)
     return numParts;
 }
 
+// Whole numbers up to this are exact doubles, as is then every product and sum of them up to this.
+constexpr std::uint64_t kLargestExact = std::uint64_t{ 1 } << 53;
+
+// Sets `scaled` to what scaleExactly says of `size`, a value without its sign; 0 with `scaled` untouched when `size` has
+// more than three decimals or one of the numbers is too large to be sure. A double next to a number of at most 15 digits
+// is shown as that very number, here as thousandths / 1000; what it becomes is then one quotient of two exact doubles.
+int scaleQuickly(double size, std::uint64_t numerator, std::uint64_t denominator, double& scaled)
+{
+    constexpr double kMostThousandths = 1e15;
+    const double nearThousandths = size * 1000;
+    if (!(nearThousandths < kMostThousandths))
+        return 0;
+    const auto thousandths = static_cast<double>(static_cast<std::int64_t>(nearThousandths + 0.5));
+    const double dividend = thousandths * static_cast<double>(static_cast<std::int64_t>(numerator));
+    const double divisor = 1000 * static_cast<double>(static_cast<std::int64_t>(denominator));
+    const auto largest = static_cast<double>(kLargestExact);
+    if (thousandths / 1000 != size || dividend > largest || divisor > largest)
+        return 0;
+    scaled = dividend / divisor;
+    return 1;
+}
+
 // |value| * numerator / denominator on the decimal digits, with the sign of `value`.
 double scaleExactly(double value, std::uint64_t numerator, std::uint64_t denominator)
 {
     if (numerator == denominator || value == 0 || !std::isfinite(value))
         return value;
-    VorDecimalNumber number(value);
-    number.multiply(numerator);
-    number.divide(denominator);
-    return std::copysign(number.toDouble(), value);
+    double scaled = 0;
+    if (scaleQuickly(std::fabs(value), numerator, denominator, scaled) == 0)
+    {
+        VorDecimalNumber number(value);
+        number.multiply(numerator);
+        number.divide(denominator);
+        scaled = number.toDouble();
+    }
+    return std::copysign(scaled, value);
 }
 
 double roundToReadDigits(double value)
@@ -101,7 +128,6 @@ bool isDecimal(unsigned int numParts)
 // very number then, which has few digits. One division of two exact numbers tells; no when they could be inexact.
 bool isHalfway(double size, std::uint64_t below, unsigned int numParts, const VorUnitDefinition& unit)
 {
-    constexpr std::uint64_t kLargestExact = std::uint64_t{ 1 } << 53;
     constexpr std::uint64_t kMostHalves = 50000000; // with 2 * 256 parts, 14 digits at most
     const std::uint64_t numHalves = 2 * below + 1;
     const std::uint64_t halvesPerUnit = std::uint64_t{ 2 } * numParts;

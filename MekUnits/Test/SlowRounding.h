@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <string>
 
 namespace SlowRounding
@@ -58,6 +59,24 @@ inline std::string times(std::string text, int factor)
         carry /= 10;
     }
     return carry == 0 ? text : std::to_string(carry) + text;
+}
+
+// "0.5" over 4 is "0.125" and more zeros: 40 decimals are added.
+inline std::string over(std::string text, std::uint64_t divisor)
+{
+    if (text.find('.') == std::string::npos)
+        text += '.';
+    text.append(40, '0');
+    std::uint64_t remainder = 0;
+    for (char& digit : text)
+    {
+        if (digit == '.')
+            continue;
+        remainder = remainder * 10 + static_cast<std::uint64_t>(digit - '0');
+        digit = static_cast<char>('0' + remainder / divisor);
+        remainder %= divisor;
+    }
+    return text;
 }
 
 inline std::string withoutLastZeros(std::string text)

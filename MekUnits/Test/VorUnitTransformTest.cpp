@@ -11,6 +11,8 @@
 #include <atomic>
 #include <clocale>
 #include <cmath>
+#include <cstdint>
+#include <cstdlib>
 #include <limits>
 #include <locale>
 #include <new>
@@ -91,7 +93,18 @@ VorString slowlyFormatted(double value, int numDecimals, bool suppressLastZeros)
     return wide(withSign(value, text));
 }
 
-// The same in feet and inches to 1/16, with nothing suppressed.
+// The factors of angles are larger.
+const std::uint64_t kLargestSlowFactor = 200000000;
+
+// By hand what `value`, not negative, of a unit is in the model's unit.
+double slowlyScaled(double value, const VorUnitDefinition& unit)
+{
+    using namespace SlowRounding;
+    const std::string product = times(shortestText(value), static_cast<int>(unit.numerator));
+    return std::strtod(over(product, unit.denominator).c_str(), nullptr);
+}
+
+// As slowlyFormatted in feet and inches to 1/16, with nothing suppressed.
 VorString slowlyFormattedInSixteenths(double inches)
 {
     const long long numSixteenths =
@@ -141,6 +154,24 @@ TEST(VorUnitTransformTest, ConvertsTheDecimalNumberThatIsSeen)
     EXPECT_EQ(0.45359237, toInternal(kPounds, 1.0));
     EXPECT_EQ(90.0, toDisplay(kDegree, 1.5707963267948966));
     EXPECT_EQ(1.5707963267948966, toInternal(kDegree, 90.0));
+}
+
+// Few decimals are converted in another way than many: both must give the double next to the exact product.
+TEST(VorUnitTransformTest, NumbersOfAnyDecimalsBecomeTheDoubleNextToTheExactProduct)
+{
+    std::mt19937 random(3);
+    for (const int unit : allUnits())
+    {
+        const VorUnitDefinition& definition = *VorUnitsTransformArray::findUnit(unit);
+        if (definition.numerator > kLargestSlowFactor || definition.denominator > kLargestSlowFactor)
+            continue;
+        for (int i = 0; i < 5000; ++i)
+        {
+            const double read = static_cast<double>(random() >> random() % 32) / std::pow(10.0, random() % 6);
+            ASSERT_EQ(slowlyScaled(read, definition), toInternal(unit, read)) << read << " in unit " << unit;
+            ASSERT_EQ(-slowlyScaled(read, definition), toInternal(unit, -read)) << read << " in unit " << unit;
+        }
+    }
 }
 
 TEST(VorUnitTransformTest, WhatWasReadInAUnitIsShownAgain)
