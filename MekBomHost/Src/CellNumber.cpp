@@ -1,5 +1,7 @@
 #include "CellNumber.h"
 
+#include "ByteWord.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -72,6 +74,58 @@ bool parseShort(std::string_view text, double& value)
     return true;
 }
 
+// The number of `numDigits` digits, 1 to 8 of them, the first one lowest in `word`; false when one is no digit. Brings
+// digits together in pairs, fours and eights.
+bool readDigits(std::uint64_t word, std::size_t numDigits, std::uint64_t& number)
+{
+    using namespace ByteWord;
+    word = (word ^ kEachByte * '0') << 8 * (kSize - numDigits);
+    const std::uint64_t beyondNine = (word + kEachByte * (0x7F - 9)) | word;
+    if ((beyondNine & kEachByte * 0x80) != 0)
+        return false;
+    word = (word * 10 + (word >> 8)) & 0x00FF00FF00FF00FF;
+    word = (word * 100 + (word >> 16)) & 0x0000FFFF0000FFFF;
+    number = (word * 10000 + (word >> 32)) & 0xFFFFFFFF;
+    return true;
+}
+
+// As parseShort, for texts of one word: without a loop over digits, whose number differs from cell to cell.
+bool parseWord(std::string_view text, double& value)
+{
+    using namespace ByteWord;
+    if (text.empty() || text.size() > kSize)
+        return false;
+    const std::uint64_t word = of(text);
+    const std::uint64_t pointIsZero = word ^ kEachByte * '.';
+    const std::uint64_t points = (pointIsZero - kEachByte) & ~pointIsZero & kEachByte * 0x80;
+    std::uint64_t number = 0;
+    if (points == 0)
+    {
+        if (!readDigits(word, text.size(), number))
+            return false;
+        value = static_cast<double>(static_cast<std::int64_t>(number));
+        return true;
+    }
+    const auto point = static_cast<std::size_t>(lowestBit(points)) / 8;
+    if (point == 0 || point + 1 == text.size())
+        return false;
+    const std::uint64_t before = word & ((std::uint64_t{ 1 } << 8 * point) - 1);
+    const std::uint64_t behind = word >> 8 * (point + 1) << 8 * point;
+    if (!readDigits(before | behind, text.size() - 1, number))
+        return false;
+    value = static_cast<double>(static_cast<std::int64_t>(number)) / kPowersOfTen[text.size() - 1 - point];
+    return true;
+}
+
+bool parseWord(std::string_view text, int& value)
+{
+    std::uint64_t number = 0;
+    if (text.empty() || text.size() > ByteWord::kSize || !readDigits(ByteWord::of(text), text.size(), number))
+        return false;
+    value = static_cast<int>(number);
+    return true;
+}
+
 // Nearly all numbers stand bare; only the others are looked at for what may surround them.
 template <class T>
 bool parseAll(std::string_view text, T& value)
@@ -82,12 +136,12 @@ bool parseAll(std::string_view text, T& value)
 
 bool parse(std::string_view text, int& value)
 {
-    return parseAll(text, value);
+    return parseWord(text, value) || parseAll(text, value);
 }
 
 bool parse(std::string_view text, double& value)
 {
-    if (parseShort(text, value))
+    if (parseWord(text, value) || parseShort(text, value))
         return true;
     double parsed = 0;
     if (!parseAll(text, parsed) || !std::isfinite(parsed))

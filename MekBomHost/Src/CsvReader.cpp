@@ -4,7 +4,6 @@
 #include "MessageText.h"
 #include "Utf8.h"
 
-#include <cstring>
 #include <new>
 
 namespace mekbom
@@ -24,17 +23,6 @@ bool endsLine(char byte)
     return byte == '\n' || byte == '\r';
 }
 
-std::string_view withoutLineEnd(std::string_view line)
-{
-    while (!line.empty() && endsLine(line.back()))
-        line.remove_suffix(1);
-    return line;
-}
-
-bool holdsQuote(std::string_view line)
-{
-    return std::memchr(line.data(), '"', line.size()) != nullptr;
-}
 }
 
 CsvReader::CsvReader(ByteSource& source) : m_source(source), m_lines(source)
@@ -59,17 +47,23 @@ bool CsvReader::next()
     {
         if (!m_isWithinRecord && endsLine(line.front()))
             continue;
-        if (m_isWithinRecord || holdsQuote(line))
-            parse(line);
-        else
-            split(line);
-        if (!m_isWithinRecord)
+        if (!m_isWithinRecord && !m_lines.holdsQuote())
+        {
+            m_recordLine = m_lines.lineNumber();
+            takeFields(line.data(), m_lines.borders());
             return true;
+        }
+        parse(line);
+        if (!m_isWithinRecord)
+        {
+            takeFields(m_unquoted.data(), m_unquotedBorders);
+            return true;
+        }
     }
     if (!m_isAtEnd && m_isWithinRecord)
         finish();
     m_isAtEnd = true;
-    return !m_fields.empty();
+    return m_numFields > 0;
 }
 
 void CsvReader::fieldRead(void* pBytes, std::size_t length, void* pReader) noexcept
@@ -86,9 +80,9 @@ void CsvReader::addField(const char* pBytes, std::size_t length) noexcept
 {
     try
     {
-        m_fields.push_back({ m_unquoted.size(), length, m_fieldLine });
-        m_unquoted.append(pBytes, length);
-        m_pBytes = m_unquoted.data();
+        m_unquoted.append(pBytes, length).push_back('\0');
+        m_unquotedBorders.push_back(static_cast<std::ptrdiff_t>(m_unquoted.size()) - 1);
+        m_fieldLines.push_back(m_fieldLine);
         m_fieldLine = m_lines.lineNumber();
     }
     catch (...)
@@ -99,52 +93,33 @@ void CsvReader::addField(const char* pBytes, std::size_t length) noexcept
 
 void CsvReader::beginRecord()
 {
-    m_unquoted.clear();
-    m_fields.clear();
+    m_numFields = 0;
+    m_fieldLines.clear();
 }
 
-// record := field { ',' field }
-// Every byte is noted as if it were a comma, and what is next to be noted overwrites it unless it is one: fields are so
-// short that a jump at each comma, which no processor foresees, costs more than all their bytes.
-void CsvReader::split(std::string_view line)
+void CsvReader::takeFields(const char* pBytes, const std::vector<std::ptrdiff_t>& borders)
 {
-    line = withoutLineEnd(line);
-    if (m_commas.size() < line.size() + 1)
-        m_commas.resize(line.size() + 1);
-    std::size_t* const pCommas = m_commas.data();
-    std::size_t numCommas = 0;
-    for (std::size_t i = 0; i < line.size(); ++i)
-    {
-        pCommas[numCommas] = i;
-        numCommas += line[i] == ',' ? 1 : 0;
-    }
-    pCommas[numCommas] = line.size();
-    takeFields(line, numCommas + 1);
-}
-
-// The fields of `line` that end where m_commas says.
-void CsvReader::takeFields(std::string_view line, std::size_t numFields)
-{
-    m_pBytes = line.data();
-    m_recordLine = m_lines.lineNumber();
-    m_fields.resize(numFields);
-    std::size_t begin = 0;
-    for (std::size_t i = 0; i < numFields; ++i)
-    {
-        m_fields[i] = { begin, m_commas[i] - begin, m_recordLine };
-        begin = m_commas[i] + 1;
-    }
+    m_pBytes = pBytes;
+    m_pBorders = borders.data();
+    m_numFields = borders.size() - 1;
 }
 
 void CsvReader::parse(std::string_view line)
 {
     if (!m_isWithinRecord)
-        m_recordLine = m_fieldLine = m_lines.lineNumber();
-    m_isWithinRecord = true;
+        beginParsing();
     const std::size_t numParsed = csv_parse(&m_parser, line.data(), line.size(), fieldRead, recordRead, this);
     rethrowFailure();
     if (numParsed < line.size())
         failAt(line, numParsed);
+}
+
+void CsvReader::beginParsing()
+{
+    m_recordLine = m_fieldLine = m_lines.lineNumber();
+    m_isWithinRecord = true;
+    m_unquoted.clear();
+    m_unquotedBorders.assign(1, -1);
 }
 
 // The last record may lack its line end, but not the quote that closes its last field.
@@ -155,6 +130,7 @@ void CsvReader::finish()
                                        ": found the end of the file within the quoted field that starts here, expected "
                                        "a closing quote");
     rethrowFailure();
+    takeFields(m_unquoted.data(), m_unquotedBorders);
 }
 
 void CsvReader::rethrowFailure()

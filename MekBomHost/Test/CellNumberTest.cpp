@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <optional>
+#include <random>
 #include <string>
 
 namespace mekbom
@@ -50,6 +52,24 @@ TEST(CellNumberTest, NumbersOfAnyLengthAreTheNearestDouble)
                                     "1000000000000000", "0.30000000000000004" })
         EXPECT_EQ(std::strtod(text, nullptr), numberOf(text)) << text;
     EXPECT_TRUE(std::signbit(*numberOf("-0")));
+}
+
+TEST(CellNumberTest, ShortTextsAreReadAsTheStandardLibraryReadsThem)
+{
+    std::mt19937 random(1);
+    for (int i = 0; i < 500'000; ++i)
+    {
+        std::string text(1 + random() % 9, '0');
+        for (char& character : text)
+            character = "0123456789.0123456789/:-"[random() % (i % 8 == 0 ? 24 : 21)];
+        double number = 0;
+        const char* const pEnd = text.data() + text.size();
+        const bool isNumber = std::from_chars(text.data(), pEnd, number).ptr == pEnd;
+        ASSERT_EQ(isNumber ? std::optional<double>(number) : std::nullopt, numberOf(text)) << text;
+        int whole = 0;
+        const bool isWhole = std::from_chars(text.data(), pEnd, whole).ptr == pEnd;
+        ASSERT_EQ(isWhole ? std::optional<int>(whole) : std::nullopt, wholeOf(text)) << text;
+    }
 }
 
 TEST(CellNumberTest, WhatIsNoNumberIsNotRead)

@@ -1,0 +1,65 @@
+// Up to eight bytes of text as one number, so that short cells are read, compared and told apart without a loop over
+// their bytes, whose end no processor foresees.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace mekbom::ByteWord
+{
+constexpr std::size_t kSize = 8;
+constexpr std::uint64_t kEachByte = 0x0101010101010101; // times a byte: that byte eight times
+
+// The bytes of an integer, the first one lowest.
+template <class Integer>
+inline std::uint64_t load(const char* pBytes)
+{
+#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
+    std::uint64_t word = 0;
+    for (std::size_t i = 0; i < sizeof(Integer); ++i)
+        word |= std::uint64_t{ static_cast<unsigned char>(pBytes[i]) } << 8 * i;
+    return word;
+#else
+    Integer word = 0;
+    std::memcpy(&word, pBytes, sizeof(word));
+    return word;
+#endif
+}
+
+// Up to kSize bytes, the first one lowest, zeros above the last. Reads none beyond the end: where that is not known to
+// be allowed, two loads that overlap do the same.
+inline std::uint64_t of(std::string_view bytes)
+{
+    const std::size_t size = bytes.size();
+    const char* const p = bytes.data();
+    if (size >= 4)
+        return load<std::uint32_t>(p) | load<std::uint32_t>(p + size - 4) << 8 * (size - 4);
+    if (size >= 2)
+        return load<std::uint16_t>(p) | load<std::uint16_t>(p + size - 2) << 8 * (size - 2);
+    return size == 0 ? 0 : load<std::uint8_t>(p);
+}
+
+// What `of` made a word of; written to `bytes`, which it refers to.
+inline std::string_view write(std::uint64_t word, char (&bytes)[kSize])
+{
+    std::size_t size = 0;
+    for (; size < kSize && word != 0; word >>= 8)
+        bytes[size++] = static_cast<char>(word & 0xFF);
+    return std::string_view(bytes, size);
+}
+
+// The number of the lowest bit set in `word`, which is not 0.
+inline int lowestBit(std::uint64_t word)
+{
+#if defined(__GNUC__)
+    return __builtin_ctzll(word);
+#else
+    int bit = 0;
+    for (; (word & 1) == 0; word >>= 1)
+        ++bit;
+    return bit;
+#endif
+}
+}
