@@ -40,6 +40,11 @@ std::optional<MEKUnit> ofModel(Units::eTokenUnitType kind)
     return unitOf(*Catalogue::findUnitOfModel(pKind->system));
 }
 
+bool isOfModel(const MEKUnit& unit)
+{
+    return Catalogue::findUnit(unit.unit())->isOfModel() == 1;
+}
+
 bool takesPlainNumbers(const MEKUnit& unit)
 {
     return layoutOf(unit) == VorUnitDefinition::kPlainNumber;

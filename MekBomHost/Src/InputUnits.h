@@ -20,6 +20,9 @@ std::optional<MEKUnit> find(const std::string& symbol, VorBomTemplateUnits::eTok
 // The unit that numbers of this kind are in when nobody names one; nothing for a type that has no unit.
 std::optional<MEKUnit> ofModel(VorBomTemplateUnits::eTokenUnitType kind);
 
+// Whether the model keeps its numbers in the unit.
+bool isOfModel(const MEKUnit& unit);
+
 // Whether numbers alone are quantities in the unit: not in feet and inches, nor in degrees, minutes and seconds.
 bool takesPlainNumbers(const MEKUnit& unit);
 

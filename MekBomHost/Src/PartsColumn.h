@@ -26,7 +26,8 @@ struct PartsColumn
     std::optional<MEKUnit> unit;
     std::optional<VorQuantityReader> quantities; // for cells of numbers whose kind is known; else they name no unit
     bool takesPlainNumbers = true;
-    bool isHandle = false; // the identity of the object, beside being a datum
-    bool isWanted = false; // some section asks for it; cells of other columns are only checked
+    bool isInModelUnit = true; // plain numbers need no conversion
+    bool isHandle = false;     // the identity of the object, beside being a datum
+    bool isWanted = false;     // some section asks for it; cells of other columns are only checked
 };
 }

@@ -140,6 +140,7 @@ void PartsList::resolveUnit(PartsColumn& column, const VorBomTemplateUnits& unit
     if (!column.unit)
         throw Fault(status, found + InputUnits::expectation(kind));
     column.takesPlainNumbers = InputUnits::takesPlainNumbers(*column.unit);
+    column.isInModelUnit = InputUnits::isOfModel(*column.unit);
     resolveQuantities(column, column.unit);
 }
 

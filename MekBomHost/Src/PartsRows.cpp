@@ -5,12 +5,9 @@
 #include "MessageText.h"
 #include "Utf8.h"
 
-#include "VorBomDataRow.h"
 #include "VorBomDataTuple.h"
 
 #include <cmath>
-#include <memory>
-#include <utility>
 
 namespace mekbom
 {
@@ -23,11 +20,7 @@ std::string fieldCount(std::size_t numFields)
 }
 
 PartsRows::PartsRows(const std::vector<PartsColumn>& columns, VorBomData& data)
-    : m_columns(columns),
-      m_data(data),
-      m_cells(columns.size()),
-      m_texts(columns.size()),
-      m_contentColumns(columns.size())
+    : m_columns(columns), m_data(data), m_rows(data, columns.size()), m_contentColumns(columns.size())
 {
 }
 
@@ -40,22 +33,24 @@ void PartsRows::add(const CsvReader& reader)
 {
     if (!checkNumFields(reader))
         return;
-    int numTuples = m_numberToken.isEmpty() == 1 ? 0 : 1;
+    m_rows.beginRow();
+    if (m_numberToken.isEmpty() == 0)
+        addNumberAsHandle();
     for (std::size_t i = 0; i < m_columns.size(); ++i)
     {
-        if (reader.field(i).empty())
-            continue;
-        checkCell(reader, i);
-        numTuples += m_columns[i].isWanted ? 1 : 0;
+        const std::string_view text = reader.field(i);
+        if (!text.empty())
+            readCell(reader, i, text);
     }
-    if (m_faults.isEmpty())
-        buildRow(reader, numTuples);
+    if (m_rows.isFull())
+        m_rows.build();
 }
 
 // The columns whose type was open are filled in last: `takeNext` gives their cells in the order of the rows.
 void PartsRows::finish()
 {
     m_faults.throwIfAny();
+    m_rows.build();
     std::vector<std::size_t> openColumns;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
         if (m_columns[i].isWanted && m_columns[i].type == VorBomDataValue::kUnknownData)
@@ -78,35 +73,75 @@ bool PartsRows::checkNumFields(const CsvReader& reader)
     return false;
 }
 
-void PartsRows::checkCell(const CsvReader& reader, std::size_t column)
+void PartsRows::readCell(const CsvReader& reader, std::size_t column, std::string_view text)
 {
-    const std::string_view text = reader.field(column);
-    const PartsColumn& properties = m_columns[column];
-    Cell& cell = m_cells[column];
-    if (properties.type == VorBomDataValue::kIntData && !CellNumber::parse(text, cell.whole))
+    switch (m_columns[column].type)
+    {
+        case VorBomDataValue::kIntData: readWhole(reader, column, text); break;
+        case VorBomDataValue::kDoubleData: readNumber(reader, column, text); break;
+        default: readText(column, text); break;
+    }
+}
+
+void PartsRows::readWhole(const CsvReader& reader, std::size_t column, std::string_view text)
+{
+    int value = 0;
+    if (!CellNumber::parse(text, value))
         addFault(reader, column,
                  CellNumber::isWhole(text) ? "a whole number from -2147483648 to 2147483647" : "a whole number");
-    if (properties.type != VorBomDataValue::kDoubleData)
-        return;
-    if (!properties.takesPlainNumbers || !CellNumber::parse(text, cell.number))
-        return checkQuantity(reader, column);
-    if (properties.unit)
-        cell.number = properties.unit->getVorUnitTransform().toInternalUnits(cell.number);
-    if (!std::isfinite(cell.number))
+    else if (m_columns[column].isWanted)
+        m_rows.add(m_columns[column].tupleToken, value);
+}
+
+void PartsRows::readNumber(const CsvReader& reader, std::size_t column, std::string_view text)
+{
+    const PartsColumn& properties = m_columns[column];
+    double value = 0;
+    if (!properties.takesPlainNumbers || !CellNumber::parse(text, value))
+    {
+        if (!readQuantity(reader, column, value))
+            return;
+    }
+    else if (!properties.isInModelUnit)
+        value = properties.unit->getVorUnitTransform().toInternalUnits(value);
+    if (!std::isfinite(value))
         addFault(reader, column, "a smaller number");
+    else if (properties.isWanted)
+        m_rows.add(properties.tupleToken, value);
+}
+
+void PartsRows::readText(std::size_t column, std::string_view text)
+{
+    const PartsColumn& properties = m_columns[column];
+    if (properties.isHandle)
+        return readHandle(column, text);
+    if (!properties.isWanted)
+        return;
+    if (properties.type == VorBomDataValue::kStringData)
+        return m_rows.addText(properties.tupleToken, column, text);
+    m_contentColumns[column].add(text);
+    m_rows.add(properties.tupleToken, 0); // a place for the value that finish() sets
+}
+
+void PartsRows::readHandle(std::size_t column, std::string_view text)
+{
+    m_rows.setHandle(text);
+    if (m_columns[column].isWanted)
+        m_rows.addHandle(m_columns[column].tupleToken);
 }
 
 // A cell that is more than a number.
-void PartsRows::checkQuantity(const CsvReader& reader, std::size_t column)
+bool PartsRows::readQuantity(const CsvReader& reader, std::size_t column, double& value)
 {
     const PartsColumn& properties = m_columns[column];
     const VorString text = Utf8::toWide(reader.field(column));
-    if (properties.quantities && properties.quantities->read(text, m_cells[column].number) == 1)
-        return;
+    if (properties.quantities && properties.quantities->read(text, value) == 1)
+        return true;
     const std::string hint = properties.quantities ? Utf8::toBytes(properties.quantities->explain(text)) : "";
     addFault(reader, column,
              (properties.unit ? InputUnits::cellExpectation(*properties.unit) : "a number") +
                  (hint.empty() ? "" : ": " + hint));
+    return false;
 }
 
 void PartsRows::addFault(const CsvReader& reader, std::size_t column, const std::string& expected)
@@ -115,53 +150,10 @@ void PartsRows::addFault(const CsvReader& reader, std::size_t column, const std:
                  inQuotes(m_columns[column].name) + ": found " + inQuotes(reader.field(column)) + ", expected " +
                  expected);
 }
-
-void PartsRows::buildRow(const CsvReader& reader, int numTuples)
+void PartsRows::addNumberAsHandle()
 {
-    auto pRow = std::make_unique<VorBomDataRow>();
-    pRow->getData().setPhysicalLength(numTuples + m_numReserved); // a row of a large model holds no more than it needs
     ++m_numRows;
-    if (m_numberToken.isEmpty() == 0)
-        addNumberAsHandle(*pRow);
-    for (std::size_t i = 0; i < m_columns.size(); ++i)
-        if (!reader.field(i).empty())
-            addDatum(*pRow, reader.field(i), i);
-    m_data.addChild(pRow.release());
-}
-
-void PartsRows::addDatum(VorBomDataRow& row, std::string_view text, std::size_t column)
-{
-    const PartsColumn& properties = m_columns[column];
-    if (properties.isHandle)
-        return addHandle(row, text, column);
-    if (!properties.isWanted)
-        return;
-    switch (properties.type)
-    {
-        case VorBomDataValue::kIntData: row.getData().emplace(properties.tupleToken, m_cells[column].whole); break;
-        case VorBomDataValue::kDoubleData: row.getData().emplace(properties.tupleToken, m_cells[column].number); break;
-        case VorBomDataValue::kStringData:
-            row.getData().emplace(properties.tupleToken, m_texts[column].textOf(text));
-            break;
-        default:
-            m_contentColumns[column].add(text);
-            row.getData().emplace(properties.tupleToken, 0); // a place for the value that finish() sets
-            break;
-    }
-}
-
-void PartsRows::addHandle(VorBomDataRow& row, std::string_view text, std::size_t column)
-{
-    const VorString handle = Utf8::toWide(text);
-    row.setObjectHandle(handle);
-    if (m_columns[column].isWanted)
-        row.getData().emplace(m_columns[column].tupleToken, handle);
-}
-
-void PartsRows::addNumberAsHandle(VorBomDataRow& row)
-{
-    const VorString handle = Utf8::toWide(std::to_string(m_numRows));
-    row.setObjectHandle(handle);
-    row.getData().emplace(m_numberToken, handle);
+    m_rows.setHandle(std::to_string(m_numRows));
+    m_rows.addHandle(m_numberToken);
 }
 }

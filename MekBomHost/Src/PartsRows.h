@@ -11,7 +11,7 @@
 #include "CsvReader.h"
 #include "FaultList.h"
 #include "PartsColumn.h"
-#include "TextCache.h"
+#include "RowBatch.h"
 
 #include "VorBomData.h"
 
@@ -29,7 +29,7 @@ public:
     PartsRows(const std::vector<PartsColumn>& columns, VorBomData& data);
 
     // Rows get room for that many more tuples: the evaluation adds one for each formula.
-    void reserveTuples(int numTuples) { m_numReserved = numTuples; }
+    void reserveTuples(int numTuples) { m_rows.reserveTuples(numTuples); }
 
     // Each row gets its number, from 1, as its handle: for data that bring none.
     void numberRows(const VorString& handleToken);
@@ -41,29 +41,22 @@ public:
     void finish();
 
 private:
-    struct Cell
-    {
-        int whole;
-        double number;
-    };
-
     bool checkNumFields(const CsvReader& reader);
-    void checkCell(const CsvReader& reader, std::size_t column);
-    void checkQuantity(const CsvReader& reader, std::size_t column);
+    void readCell(const CsvReader& reader, std::size_t column, std::string_view text);
+    void readWhole(const CsvReader& reader, std::size_t column, std::string_view text);
+    void readNumber(const CsvReader& reader, std::size_t column, std::string_view text);
+    void readText(std::size_t column, std::string_view text);
+    void readHandle(std::size_t column, std::string_view text);
+    bool readQuantity(const CsvReader& reader, std::size_t column, double& value);
     void addFault(const CsvReader& reader, std::size_t column, const std::string& expected);
-    void buildRow(const CsvReader& reader, int numTuples);
-    void addDatum(VorBomDataRow& row, std::string_view text, std::size_t column);
-    void addHandle(VorBomDataRow& row, std::string_view text, std::size_t column);
-    void addNumberAsHandle(VorBomDataRow& row);
+    void addNumberAsHandle();
 
     const std::vector<PartsColumn>& m_columns;
     VorBomData& m_data;
     FaultList m_faults;
-    std::vector<Cell> m_cells;                   // of the record in progress, for columns of numbers
-    std::vector<TextCache> m_texts;              // one for each column
+    RowBatch m_rows;                             // those that are not in the data yet
     std::vector<ContentColumn> m_contentColumns; // one for each column, used where the type is still open
     VorString m_numberToken;                     // empty when rows are not numbered
-    int m_numReserved = 0;
     int m_numRows = 0;
 };
 }

@@ -1,52 +1,139 @@
 #include "TextCache.h"
 
+#include "ByteWord.h"
 #include "Utf8.h"
 
-#include <cstddef>
-#include <functional>
+#include <algorithm>
+#include <utility>
 
 namespace mekbom
 {
 namespace
 {
-// A power of two. A frame has some hundred different marks and profiles. Measured: places for all of 50,000 different
-// marks make a report of a million rows a sixth slower, since each look then misses the processor's caches.
-const std::size_t kNumEntries = 1024;
+const int kHashBits = 64;
 
-// Four looks at each place show whether texts come back. Measured: looking on in two columns of unique texts makes
-// reading a million rows a tenth slower.
-const int kLooksInRound = 4 * static_cast<int>(kNumEntries);
-const int kLeastFound = kLooksInRound / 16; // arbitrary
-const int kTextsWithoutLook = 16 * kLooksInRound;
+const std::size_t kFirstNumEntries = 256;              // a column of materials needs no more
+const std::size_t kMostTexts = std::size_t{ 1 } << 16; // with places for twice as many, 2 MB
+
+// After so many texts it shows whether any come back: of 50,000 different ones in any order, 1 look in 25 has found one.
+const std::size_t kTextsOnTrial = 4096;
+const std::size_t kLooksPerFound = 64;
+const std::size_t kTextsWithoutLook = 1 << 16;
+
+// Of a text of more than eight bytes. Its first byte is zero, so that it is the key of no shorter one.
+std::uint64_t hashOf(std::string_view bytes, std::uint64_t factor)
+{
+    using namespace ByteWord;
+    std::uint64_t hash = load<std::uint64_t>(bytes.data() + bytes.size() - kSize);
+    for (std::size_t i = 0; i + kSize < bytes.size(); i += kSize)
+    {
+        hash = (hash ^ load<std::uint64_t>(bytes.data() + i)) * factor;
+        hash ^= hash >> kHashBits / 2;
+    }
+    return hash << 8 | std::uint64_t{ 1 } << (kHashBits - 1);
+}
+
+bool isAsciiAndSame(char byte, wchar_t character)
+{
+    const auto value = static_cast<unsigned char>(byte);
+    return value < 0x80 && static_cast<wchar_t>(value) == character;
+}
+
+// Texts beyond ASCII have fewer characters than bytes.
+bool isSame(const VorString& text, std::string_view bytes)
+{
+    if (static_cast<std::size_t>(text.length()) == bytes.size())
+        return std::equal(bytes.begin(), bytes.end(), text.getStringW(), isAsciiAndSame);
+    return text == Utf8::toWide(bytes);
+}
 }
 
 const VorString& TextCache::textOf(std::string_view bytes)
 {
+    prepare(1);
+    if (isLooking())
+        return find(bytes);
+    m_unshared = Utf8::toWide(bytes);
+    return m_unshared;
+}
+
+void TextCache::prepare(std::size_t numTexts)
+{
+    m_numUnshared -= std::min(m_numUnshared, numTexts);
+    if (m_numUnshared > 0 || 2 * (m_numTexts + numTexts) <= m_entries.size())
+        return;
     if (!isWorthALook())
-    {
-        m_unshared = Utf8::toWide(bytes);
-        return m_unshared;
-    }
-    if (m_entries.empty())
-        m_entries.resize(kNumEntries);
-    Entry& entry = m_entries[std::hash<std::string_view>()(bytes) & (kNumEntries - 1)];
-    if (entry.bytes == bytes)
-    {
-        ++m_numFound;
-        return entry.text;
-    }
-    entry.bytes = bytes;
+        m_numUnshared = kTextsWithoutLook;
+    if (m_numUnshared > 0 || m_numTexts + numTexts > kMostTexts)
+        forgetAll();
+    std::size_t numEntries = std::max(kFirstNumEntries, m_entries.size());
+    while (numEntries < 2 * (m_numTexts + numTexts))
+        numEntries *= 2;
+    if (m_numUnshared == 0)
+        resize(numEntries);
+}
+
+const VorString& TextCache::find(std::string_view bytes)
+{
+    if (bytes.size() <= ByteWord::kSize)
+        return find(ByteWord::of(bytes));
+    ++m_numLooks;
+    const std::uint64_t key = hashOf(bytes, kHashFactor);
+    std::size_t place = placeOf(key);
+    for (; m_entries[place].key != 0; place = next(place))
+        if (m_entries[place].key == key && isSame(m_entries[place].text, bytes))
+            return m_entries[place].text;
+    return insert(m_entries[place], key, bytes);
+}
+
+const VorString& TextCache::find(std::uint64_t key)
+{
+    ++m_numLooks;
+    std::size_t place = placeOf(key);
+    for (; m_entries[place].key != 0; place = next(place))
+        if (m_entries[place].key == key)
+            return m_entries[place].text;
+    char bytes[ByteWord::kSize];
+    return insert(m_entries[place], key, ByteWord::write(key, bytes));
+}
+
+const VorString& TextCache::insert(Entry& entry, std::uint64_t key, std::string_view bytes)
+{
     entry.text = Utf8::toWide(bytes);
+    entry.key = key;
+    ++m_numTexts;
     return entry.text;
 }
 
-bool TextCache::isWorthALook()
+// True until it has shown that hardly any text comes back.
+bool TextCache::isWorthALook() const
 {
-    if (++m_numLooks == kLooksInRound)
-    {
-        m_numLooks = m_numFound < kLeastFound ? -kTextsWithoutLook : 0;
-        m_numFound = 0;
-    }
-    return m_numLooks >= 0;
+    return m_numTexts < kTextsOnTrial || (m_numLooks - m_numTexts) * kLooksPerFound >= m_numLooks;
+}
+
+void TextCache::forgetAll()
+{
+    m_entries = std::vector<Entry>();
+    m_numTexts = 0;
+    m_numLooks = 0;
+}
+
+void TextCache::resize(std::size_t numEntries)
+{
+    std::vector<Entry> entries(numEntries);
+    m_entries.swap(entries);
+    for (m_shift = kHashBits; numEntries > 1; numEntries /= 2)
+        --m_shift;
+    for (Entry& entry : entries)
+        if (entry.key != 0)
+            freeEntry(entry.key) = std::move(entry);
+}
+
+TextCache::Entry& TextCache::freeEntry(std::uint64_t key)
+{
+    std::size_t place = placeOf(key);
+    while (m_entries[place].key != 0)
+        place = next(place);
+    return m_entries[place];
 }
 }

@@ -1,14 +1,14 @@
 // Gives equal cells of a column one and the same text, so that a million rows of "S355J2" hold its characters once.
 //
-// Remembers a fixed number of texts, the newest at each place: columns of few different texts are shared in full. In a
-// column where it finds next to nothing, such as one of numbers of parts, it stops looking for some thousand texts, since
-// each look touches a text that has left the processor's caches. One for each column, so that a column of marks does not
-// drive out one of materials.
+// Remembers all texts up to some ten thousand, then begins anew. In a column where hardly any comes back, such as one of
+// numbers of parts, it stops looking for some ten thousand texts: they would only fill the processor's caches. One for
+// each column, so that a column of marks does not drive out one of materials.
 #pragma once
 
 #include "MekRoots/Exp/VorString.h"
 
-#include <string>
+#include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
@@ -17,21 +17,53 @@ namespace mekbom
 class TextCache
 {
 public:
-    // The wide text of `bytes`, valid UTF-8 and not empty; good until the next call.
+    // The wide text of `bytes`, valid UTF-8 without zero bytes and not empty; good until the next call.
     const VorString& textOf(std::string_view bytes);
 
+    // The same in steps, for whoever has many texts to look for at once. What find() gave is good until prepare() is
+    // called again, which must come before every `numTexts` texts.
+    void prepare(std::size_t numTexts);
+    bool isLooking() const { return m_numUnshared == 0; } // only then the next ones may be called
+    const VorString& find(std::string_view bytes);
+    const VorString& find(std::uint64_t key); // the text of up to eight bytes, as ByteWord::of gives them
+    void fetch(std::uint64_t key) const { fetchMemory(&m_entries[placeOf(key)]); } // so that find() need not wait
+
+    // Brings memory into the processor's caches, where the compiler knows how to.
+    static void fetchMemory(const void* pMemory);
+
 private:
+    // Of an open-addressed table.
     struct Entry
     {
-        std::string bytes;
+        std::uint64_t key = 0; // 0 where there is no text
         VorString text;
     };
 
-    bool isWorthALook();
+    const VorString& insert(Entry& entry, std::uint64_t key, std::string_view bytes);
+    Entry& freeEntry(std::uint64_t key);
+    std::size_t placeOf(std::uint64_t key) const { return static_cast<std::size_t>(key * kHashFactor >> m_shift); }
+    std::size_t next(std::size_t place) const { return (place + 1) & (m_entries.size() - 1); }
+    bool isWorthALook() const;
+    void forgetAll();
+    void resize(std::size_t numEntries);
 
-    std::vector<Entry> m_entries; // none before the first use
-    VorString m_unshared;         // the text given out last, where none was looked for
-    int m_numLooks = 0;           // in the round of looks in progress; negative while it does not look
-    int m_numFound = 0;           // in that round
+    static constexpr std::uint64_t kHashFactor =
+        0x9E3779B97F4A7C15; // odd, irregular: two to the 64 by the golden ratio
+
+    std::vector<Entry> m_entries; // none before the first use; a power of two, at least half of them free
+    int m_shift = 0;              // of a key's hash, to a place
+    std::size_t m_numTexts = 0;
+    std::size_t m_numLooks = 0;
+    std::size_t m_numUnshared = 0; // texts to be made without a look
+    VorString m_unshared;          // the last of them that textOf() gave
 };
+
+inline void TextCache::fetchMemory(const void* pMemory)
+{
+#if defined(__GNUC__)
+    __builtin_prefetch(pMemory);
+#else
+    static_cast<void>(pMemory);
+#endif
+}
 }

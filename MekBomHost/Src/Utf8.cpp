@@ -1,8 +1,11 @@
 #include "Utf8.h"
 
+#include "ByteWord.h"
+
 #include <utf8proc.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <vector>
 
 namespace mekbom::Utf8
@@ -105,6 +108,13 @@ std::size_t countCharacters(std::string_view bytes)
 VorString toWide(std::string_view bytes)
 {
     wchar_t characters[kMostShort];
+    const std::uint64_t word = bytes.size() <= ByteWord::kSize ? ByteWord::of(bytes) : ByteWord::kEachByte * 0x80;
+    if ((word & ByteWord::kEachByte * 0x80) == 0)
+    {
+        for (std::size_t i = 0; i < ByteWord::kSize; ++i)
+            characters[i] = static_cast<wchar_t>(word >> 8 * i & 0xFF);
+        return VorString(characters, static_cast<int>(bytes.size()));
+    }
     if (bytes.size() <= kMostShort && isAllAscii(bytes))
     {
         std::copy(bytes.begin(), bytes.end(), characters);

@@ -1,0 +1,128 @@
+#include "RowBatch.h"
+
+#include "ByteWord.h"
+#include "Utf8.h"
+
+#include "VorBomDataRow.h"
+
+#include <memory>
+
+namespace mekbom
+{
+RowBatch::RowBatch(VorBomData& data, std::size_t numColumns)
+    : m_data(data), m_texts(numColumns), m_rows(kMostRows), m_values(kMostRows * (numColumns + 1))
+{
+    m_unshared.reserve(m_values.size());
+    begin();
+}
+
+void RowBatch::begin()
+{
+    m_numRows = 0;
+    m_numValues = 0;
+    m_lookUps.clear();
+    m_unshared.clear();
+    for (TextCache& texts : m_texts)
+        texts.prepare(kMostRows);
+}
+
+void RowBatch::beginRow()
+{
+    Row& row = m_rows[m_numRows++];
+    row.firstDatum = m_numValues;
+    row.handle.empty();
+    row.shortHandle = 0;
+}
+
+// A short one is made with its row, so that it lies beside it.
+void RowBatch::setHandle(std::string_view text)
+{
+    Row& row = m_rows[m_numRows - 1];
+    if (text.size() <= ByteWord::kSize)
+        row.shortHandle = ByteWord::of(text);
+    else
+        row.handle = Utf8::toWide(text);
+}
+
+RowBatch::Datum& RowBatch::addDatum(const VorString& token, VorBomDataValue::eBomDataValueType type)
+{
+    Datum& datum = m_values[m_numValues++];
+    datum.pToken = &token;
+    datum.type = type;
+    return datum;
+}
+
+void RowBatch::add(const VorString& token, int value)
+{
+    addDatum(token, VorBomDataValue::kIntData).whole = value;
+}
+
+void RowBatch::add(const VorString& token, double value)
+{
+    addDatum(token, VorBomDataValue::kDoubleData).number = value;
+}
+
+void RowBatch::addHandle(const VorString& token)
+{
+    addDatum(token, VorBomDataValue::kStringData).pText = &m_rows[m_numRows - 1].handle;
+}
+
+void RowBatch::addText(const VorString& token, std::size_t column, std::string_view text)
+{
+    Datum& datum = addDatum(token, VorBomDataValue::kStringData);
+    TextCache& texts = m_texts[column];
+    if (!texts.isLooking())
+    {
+        m_unshared.push_back(Utf8::toWide(text));
+        datum.pText = &m_unshared.back();
+    }
+    else if (text.size() > ByteWord::kSize)
+        datum.pText = &texts.find(text);
+    else
+    {
+        const std::uint64_t key = ByteWord::of(text);
+        texts.fetch(key);
+        m_lookUps.push_back({ &datum, &texts, key });
+    }
+}
+
+void RowBatch::build()
+{
+    findTexts();
+    for (std::size_t i = 0; i < m_numRows; ++i)
+        buildRow(m_rows[i], i + 1 < m_numRows ? m_rows[i + 1].firstDatum : m_numValues);
+    begin();
+}
+
+// Copying a text counts its users, next to its characters.
+void RowBatch::findTexts()
+{
+    for (const LookUp& lookUp : m_lookUps)
+    {
+        lookUp.pDatum->pText = &lookUp.pTexts->find(lookUp.key);
+        TextCache::fetchMemory(lookUp.pDatum->pText->getStringW());
+    }
+}
+
+void RowBatch::buildRow(Row& row, std::size_t endDatum)
+{
+    char bytes[ByteWord::kSize];
+    std::unique_ptr<VorBomDataRow> pRow(new VorBomDataRow); // std::make_unique would fill it with zeros beforehand
+    if (row.shortHandle != 0)
+        row.handle = Utf8::toWide(ByteWord::write(row.shortHandle, bytes));
+    pRow->setObjectHandle(row.handle);
+    const Datum* const pFirst = m_values.data() + row.firstDatum;
+    const Datum* const pEnd = m_values.data() + endDatum;
+    VorBomDataTupleArray& tuples = pRow->getData();
+    // A row of a large model holds no more than it needs.
+    tuples.setPhysicalLength(static_cast<int>(pEnd - pFirst) + m_numReserved);
+    for (const Datum* pDatum = pFirst; pDatum != pEnd; ++pDatum)
+        switch (pDatum->type)
+        {
+            case VorBomDataValue::kIntData: tuples.emplace(*pDatum->pToken, pDatum->whole); break;
+            case VorBomDataValue::kDoubleData: tuples.emplace(*pDatum->pToken, pDatum->number); break;
+            default: tuples.emplace(*pDatum->pToken, *pDatum->pText); break;
+        }
+    m_data.addChild(pRow.release());
+}
+}

@@ -1,0 +1,98 @@
+// The next few rows of a parts list, made together: their texts that come back, such as marks, are first all looked for
+// and then all copied, so that the memory in which they lie, far apart from each other, is waited for once.
+//
+//   batch.beginRow(handle);
+//   batch.add(lengthToken, 2286.0);
+//   batch.addText(nameToken, 3, "HEA200");      the text of a cell of column 3
+//   if (batch.isFull())
+//       batch.build();
+#pragma once
+
+#include "TextCache.h"
+
+#include "VorBomData.h"
+#include "VorBomDataTuple.h"
+
+#include "MekRoots/Exp/VorString.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace mekbom
+{
+class RowBatch
+{
+public:
+    // `data` is not owned and outlives this; it owns the rows. Rows have at most one datum for each column and one more.
+    RowBatch(VorBomData& data, std::size_t numColumns);
+    RowBatch(const RowBatch&) = delete;
+    RowBatch& operator=(const RowBatch&) = delete;
+
+    // Rows get room for that many more tuples.
+    void reserveTuples(int numTuples) { m_numReserved = numTuples; }
+
+    bool isFull() const { return m_numRows == kMostRows; }
+
+    // Must not be full.
+    void beginRow();
+
+    // Complete the row begun last. Tokens are not owned and outlive the batch; texts are valid UTF-8 and not
+    // empty.
+    void setHandle(std::string_view text);
+    void add(const VorString& token, int value);
+    void add(const VorString& token, double value);
+    void addHandle(const VorString& token); // the one that was set, as a datum
+    void addText(const VorString& token, std::size_t column, std::string_view text);
+
+    // Appends the rows to the data; none are left.
+    void build();
+
+private:
+    static constexpr std::size_t kMostRows = 64; // measured: no faster beyond
+
+    // What `type` says.
+    struct Datum
+    {
+        const VorString* pToken;
+        VorBomDataValue::eBomDataValueType type;
+        union
+        {
+            int whole;
+            double number;
+            const VorString* pText;
+        };
+    };
+
+    struct Row
+    {
+        std::size_t firstDatum; // in m_values
+        VorString handle;
+        std::uint64_t shortHandle; // the same where it has up to eight bytes, until the row is built; else 0
+    };
+
+    // For a text that is still to be found.
+    struct LookUp
+    {
+        Datum* pDatum;
+        TextCache* pTexts;
+        std::uint64_t key;
+    };
+
+    Datum& addDatum(const VorString& token, VorBomDataValue::eBomDataValueType type);
+    void begin();
+    void findTexts();
+    void buildRow(Row& row, std::size_t endDatum);
+
+    VorBomData& m_data;
+    std::vector<TextCache> m_texts; // one for each column
+    std::vector<Row> m_rows;        // the first m_numRows of them
+    std::size_t m_numRows = 0;
+    std::vector<Datum> m_values; // of all rows, one after the other: the first m_numValues of them
+    std::size_t m_numValues = 0;
+    std::vector<LookUp> m_lookUps;
+    std::vector<VorString> m_unshared; // texts that are in no cache; has room for all that there may be
+    int m_numReserved = 0;
+};
+}
