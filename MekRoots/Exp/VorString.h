@@ -53,6 +53,10 @@ public:
     // From `length` characters, zero characters included; a null pointer or a length below 1 gives the empty text.
     VorString(const wchar_t* text, int length);
 
+    // A text of `length` characters, at least 1, which the caller writes to `pCharacters` before it does anything else
+    // with the text; the terminating zero is there.
+    static VorString ofLength(int length, wchar_t*& pCharacters);
+
     VorString(const VorString& other) noexcept : m_pBlock(other.m_pBlock) { addUser(m_pBlock); }
     VorString(VorString&& other) noexcept : m_pBlock(other.m_pBlock) { other.m_pBlock = nullptr; }
     VorString& operator=(const VorString& other) noexcept;

@@ -108,10 +108,19 @@ VorString::VorString(const wchar_t* text, int length)
 {
     if (text == nullptr || length < 1)
         return;
-    m_pBlock = createBlock(length);
-    m_pBlock->length = length;
-    std::copy_n(text, length, m_pBlock->characters());
-    m_pBlock->characters()[length] = L'\0';
+    wchar_t* pCharacters = nullptr;
+    *this = ofLength(length, pCharacters);
+    std::copy_n(text, length, pCharacters);
+}
+
+VorString VorString::ofLength(int length, wchar_t*& pCharacters)
+{
+    VorString text;
+    text.m_pBlock = createBlock(length);
+    text.m_pBlock->length = length;
+    pCharacters = text.m_pBlock->characters();
+    pCharacters[length] = L'\0';
+    return text;
 }
 
 void VorString::empty()

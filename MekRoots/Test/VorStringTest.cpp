@@ -1,5 +1,6 @@
 #include "MekRoots/Test/Support/TestSupport.h"
 
+#include <algorithm>
 #include <climits>
 #include <utility>
 
@@ -42,6 +43,19 @@ TEST(VorStringTest, CharactersAreKeptAndTerminated)
     EXPECT_EQ(7, name.length());
     EXPECT_EQ(0, name.isEmpty());
     EXPECT_EQ(0, std::wcscmp(L"HEA 200", name.getStringW()));
+}
+
+TEST(VorStringTest, ATextOfALengthIsWrittenInItsPlace)
+{
+    const LeakCheck leaks;
+    wchar_t* pCharacters = nullptr;
+
+    const VorString name = VorString::ofLength(3, pCharacters);
+    std::copy_n(L"HEA", 3, pCharacters);
+
+    EXPECT_EQ(VorString(L"HEA"), name);
+    EXPECT_EQ(pCharacters, name.getStringW());
+    EXPECT_EQ(L'\0', name.getStringW()[3]);
 }
 
 TEST(VorStringTest, ALengthCutsTheTextAndKeepsZeroCharacters)

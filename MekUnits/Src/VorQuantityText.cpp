@@ -2,7 +2,6 @@
 
 #include "VorDecimalNumber.h"
 
-#include <cstdlib>
 #include <numeric>
 
 namespace
@@ -19,13 +18,64 @@ void writeDigits(std::uint64_t number, int numDigits, wchar_t* end)
         *--end = static_cast<wchar_t>(L'0' + number % 10);
 }
 
-// Writes `number` before `end`, and at least `numDigits` digits of it; where the digits begin.
-wchar_t* writeBackwards(std::uint64_t number, int numDigits, wchar_t* end)
+// The digits of `number`, which has 8 at most, as numbers in the bytes of a word: the first in the lowest byte, with zeros
+// in front. Halves the stretches of digits three times, all of them at once; the products divide exactly in these ranges.
+std::uint64_t eightDigits(std::uint32_t number)
 {
-    wchar_t* const pLatest = end - numDigits;
-    for (; number > 0 || end > pLatest; number /= 10)
-        *--end = static_cast<wchar_t>(L'0' + number % 10);
-    return end;
+    const std::uint64_t fours = number / 10000 + (std::uint64_t{ number % 10000 } << 32);
+    const std::uint64_t hundreds = (fours * 10486 >> 20) & 0x0000007F0000007F;
+    const std::uint64_t twos = hundreds + ((fours - hundreds * 100) << 16);
+    const std::uint64_t tens = (twos * 103 >> 10) & 0x000F000F000F000F;
+    return tens + ((twos - tens * 10) << 8);
+}
+
+// How many bytes at the low or at the high end of a word, which is not 0, are 0.
+#if defined(__GNUC__)
+int countLowZeroBytes(std::uint64_t word)
+{
+    return __builtin_ctzll(word) / 8;
+}
+
+int countHighZeroBytes(std::uint64_t word)
+{
+    return __builtin_ctzll(__builtin_bswap64(word)) / 8; // many processors count from below in fewer steps
+}
+#else
+int countLowZeroBytes(std::uint64_t word)
+{
+    int numBytes = 0;
+    for (; (word & 255) == 0; word >>= 8)
+        ++numBytes;
+    return numBytes;
+}
+
+int countHighZeroBytes(std::uint64_t word)
+{
+    int numBytes = 0;
+    for (; word >> 56 == 0; word <<= 8)
+        ++numBytes;
+    return numBytes;
+}
+#endif
+
+// Writes the lowest four bytes of `word` as characters.
+void writeFour(std::uint64_t word, wchar_t* pOut)
+{
+    for (int i = 0; i < 4; ++i, word >>= 8)
+        pOut[i] = static_cast<wchar_t>(word & 255);
+}
+
+// The same with as many bytes as asked for, 8 at most; the first four and the last four may overlap.
+void writeBytes(std::uint64_t word, int numBytes, wchar_t* pOut)
+{
+    if (numBytes >= 4)
+    {
+        writeFour(word, pOut);
+        writeFour(word >> 8 * (numBytes - 4), pOut + numBytes - 4);
+        return;
+    }
+    for (int i = 0; i < numBytes; ++i, word >>= 8)
+        pOut[i] = static_cast<wchar_t>(word & 255);
 }
 
 int countDigits(std::uint64_t number)
@@ -37,26 +87,54 @@ int countDigits(std::uint64_t number)
 }
 }
 
+// All characters but the sign fit a word, one in each byte. 1250 of two decimals, the lowest byte to the left:
+//   00 00 00 01 02 05 00          seven digits
+//               -----             the last whole digit, where zeros end at the latest that are dropped from either end
+//   '0' '0' '0' '1' '2' '.' '5' '0'
+//               '1' '2' '.' '5'   what is written
 VorString VorQuantityText::ofDecimal(bool isNegative, std::uint64_t parts, int numDecimals, int suppressLastZeros)
 {
-    constexpr int kDecimalRoom = 24; // sign, point and the digits of 64 bits
-    wchar_t text[kDecimalRoom];
-    wchar_t* pEnd = text + kDecimalRoom;
-    wchar_t* pFirst = writeBackwards(parts, numDecimals + 1, pEnd);
-    wchar_t* const pFirstDecimal = pEnd - numDecimals;
-    if (suppressLastZeros != 0)
-        while (pEnd != pFirstDecimal && pEnd[-1] == L'0')
-            --pEnd;
-    if (pEnd != pFirstDecimal)
+    constexpr int kMostDigits = 7; // beside the point
+    constexpr std::uint64_t kTooManyParts = 10000000;
+    constexpr std::uint64_t kZeroDigits = 0x3030303030303030;
+    constexpr std::uint64_t kPoint = L'.';
+    if (parts >= kTooManyParts || numDecimals >= kMostDigits)
+        return ofLongDecimal(isNegative, parts, numDecimals, suppressLastZeros);
+
+    const std::uint64_t digits = eightDigits(static_cast<std::uint32_t>(parts)) >> 8;
+    const int numWhole = kMostDigits - numDecimals;
+    const std::uint64_t lastWhole = std::uint64_t{ 1 } << 8 * (numWhole - 1);
+    const int numLeading = countLowZeroBytes(digits | lastWhole);
+    std::uint64_t characters = digits + kZeroDigits;
+    int length = numWhole - numLeading;
+    if (numDecimals > 0)
     {
-        --pFirst;
-        for (wchar_t* pDigit = pFirst; pDigit != pFirstDecimal - 1; ++pDigit)
-            pDigit[0] = pDigit[1];
-        pFirstDecimal[-1] = L'.';
+        const std::uint64_t point = lastWhole << 8;
+        const std::uint64_t whole = characters & (point - 1);
+        characters = whole + kPoint * point + ((characters - whole) << 8);
+        const int numShown = numDecimals - (suppressLastZeros != 0 ? countHighZeroBytes((digits | lastWhole) << 8) : 0);
+        length += numShown > 0 ? 1 + numShown : 0;
     }
+
+    wchar_t* pOut = nullptr;
+    VorString text = VorString::ofLength(length + (isNegative ? 1 : 0), pOut);
     if (isNegative)
-        *--pFirst = L'-';
-    return VorString(pFirst, static_cast<int>(pEnd - pFirst));
+        *pOut++ = L'-';
+    writeBytes(characters >> 8 * numLeading, length, pOut);
+    return text;
+}
+
+VorString VorQuantityText::ofLongDecimal(bool isNegative, std::uint64_t parts, int numDecimals, int suppressLastZeros)
+{
+    std::uint64_t partsOfOne = 1;
+    for (int i = 0; i < numDecimals; ++i)
+        partsOfOne *= 10;
+    VorQuantityText text;
+    if (isNegative)
+        text.addCharacter(L'-');
+    text.addInteger(parts / partsOfOne);
+    text.addDecimals(parts % partsOfOne, numDecimals, suppressLastZeros);
+    return text.text();
 }
 
 void VorQuantityText::addInteger(std::uint64_t number)

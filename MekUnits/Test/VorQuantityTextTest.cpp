@@ -61,6 +61,14 @@ TEST(VorQuantityTextTest, DecimalsReadAsPieceByPieceAtEveryPowerOfTen)
     expectAsPieceByPiece(~std::uint64_t{ 0 });
 }
 
+TEST(VorQuantityTextTest, DecimalsOfFewDigitsReadAsPieceByPiece)
+{
+    for (std::uint64_t parts = 0; parts < 12000; ++parts)
+        expectAsPieceByPiece(parts);
+    for (std::uint64_t parts = 9990000; parts < 10010000; parts += 7) // where more digits than a word holds begin
+        expectAsPieceByPiece(parts);
+}
+
 TEST(VorQuantityTextTest, RandomDecimalsReadAsPieceByPiece)
 {
     std::mt19937_64 random(1);
