@@ -77,6 +77,9 @@ public:
     VorUnitsTransformArray::eSystems system() const;
 
 private:
+    VorString formatInPieces(double internalValue, int suppressLastZeros, int showUnitSymbol, int suppressZeroFeet,
+                             int suppressZeroInch, wchar_t feetInchSeparator) const;
+
     const VorUnitDefinition* m_pUnit; // a row of the catalogue, never null
     int m_nDecimals;                  // -1 for fractions
     unsigned int m_nParts;            // parts of one that are shown: 10 to the decimals, or the fraction's denominator

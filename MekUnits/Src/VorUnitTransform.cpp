@@ -138,19 +138,32 @@ bool isHalfway(double size, std::uint64_t below, unsigned int numParts, const Vo
            static_cast<double>(numHalves * unit.numerator) / static_cast<double>(halvesPerUnit * unit.denominator);
 }
 
+// Rounds `product`, the parts of a value without its sign; 0 with `parts` untouched when it is close to the middle between
+// two parts, or too large to tell, infinite or undefined.
+int roundFarFromMiddle(double product, std::uint64_t& parts)
+{
+    if (!(product < kQuickLimit))
+        return 0;
+    const auto nearest = static_cast<std::int64_t>(product + 0.5);
+    if (std::fabs(product - static_cast<double>(nearest)) + product * kProductTolerance >= 0.5)
+        return 0;
+    parts = static_cast<std::uint64_t>(nearest);
+    return 1;
+}
+
 // Rounds `size`, a value without its sign, to the parts that are shown, of which it has `product`; 0 with `parts`
 // untouched when it is too close to the middle between two parts, too large to be sure, infinite or undefined.
 int roundQuickly(double size, double product, unsigned int numParts, const VorUnitDefinition& unit,
                  std::uint64_t& parts)
 {
+    if (roundFarFromMiddle(product, parts))
+        return 1;
     if (!(product < kQuickLimit))
         return 0;
-    const auto below = static_cast<std::uint64_t>(static_cast<std::int64_t>(product));
-    const double rest = product - static_cast<double>(static_cast<std::int64_t>(below));
-    const bool isNearMiddle = std::fabs(rest - 0.5) <= product * kProductTolerance;
-    if (isNearMiddle && !isHalfway(size, below, numParts, unit))
+    const auto below = static_cast<std::uint64_t>(product);
+    if (!isHalfway(size, below, numParts, unit))
         return 0;
-    parts = below + (isNearMiddle || rest > 0.5 ? 1 : 0); // half away from zero
+    parts = below + 1; // half away from zero
     return 1;
 }
 
@@ -278,16 +291,27 @@ double VorUnitTransform::toInternalUnits(double displayValue) const
     return scaleExactly(displayValue, m_pUnit->numerator, m_pUnit->denominator);
 }
 
+// Plain decimals that are quickly told are made here and the rest elsewhere, so that most numbers of a report do not pay
+// for what others need.
 VorString VorUnitTransform::formatValue(double internalValue, int suppressLastZeros, int showUnitSymbol,
                                         int suppressZeroFeet, int suppressZeroInch, wchar_t feetInchSeparator) const
+{
+    const bool isPlainDecimal = m_pUnit->layout == VorUnitDefinition::kPlainNumber && m_nDecimals >= 0;
+    const double size = std::fabs(internalValue);
+    std::uint64_t parts = 0;
+    if (isPlainDecimal && showUnitSymbol == 0 &&
+        roundQuickly(size, size * m_dPartsPerInternalUnit, m_nParts, *m_pUnit, parts))
+        return VorQuantityText::ofDecimal(internalValue < 0 && parts > 0, parts, m_nDecimals, suppressLastZeros);
+    return formatInPieces(internalValue, suppressLastZeros, showUnitSymbol, suppressZeroFeet, suppressZeroInch,
+                          feetInchSeparator);
+}
+
+VorString VorUnitTransform::formatInPieces(double internalValue, int suppressLastZeros, int showUnitSymbol,
+                                           int suppressZeroFeet, int suppressZeroInch, wchar_t feetInchSeparator) const
 {
     const double size = std::fabs(internalValue);
     std::uint64_t parts = 0;
     int fits = roundQuickly(size, size * m_dPartsPerInternalUnit, m_nParts, *m_pUnit, parts);
-    const bool isPlainDecimal = m_pUnit->layout == VorUnitDefinition::kPlainNumber && m_nDecimals >= 0;
-    if (fits != 0 && isPlainDecimal && showUnitSymbol == 0)
-        return VorQuantityText::ofDecimal(internalValue < 0 && parts > 0, parts, m_nDecimals, suppressLastZeros);
-
     VorRoundedNumber number{ parts / m_nParts, parts % m_nParts };
     double shown = internalValue;
     if (fits == 0)
