@@ -196,6 +196,11 @@ public:
     template <class... Arguments>
     T& emplace(Arguments&&... arguments);
 
+    // Appends `numElements` elements, the i-th of them what make(i) returns, made in its place. `make` must not refer to
+    // this array. Appends nothing for a count below 1.
+    template <class Make>
+    void appendMade(int numElements, Make make);
+
     T& operator[](int index);
     const T& operator[](int index) const;
     T& first();
@@ -223,6 +228,7 @@ private:
     int physicalLengthWith(int index) const;
     int capacityFor(int length, int physicalLength) const;
     int lengthWith(int numMore) const;
+    bool hasRoomForOne() const { return m_nLength < m_nPhysicalLength && m_nLength < m_nCapacity; }
     void makeRoomFor(int length);
     void moveToCapacity(int capacity);
     void shortenTo(int length);
@@ -260,12 +266,15 @@ VorArray<T, R, M>& VorArray<T, R, M>::operator=(VorArray&& other) noexcept
 template <class T, class R, class M>
 void VorArray<T, R, M>::append(const T& element)
 {
-    if (m_nLength == m_nCapacity && standsHere(&element))
+    if (!hasRoomForOne())
     {
-        append(T(element)); // growing would move it away
-        return;
+        if (standsHere(&element))
+        {
+            append(T(element)); // growing would move it away
+            return;
+        }
+        makeRoomFor(lengthWith(1));
     }
-    makeRoomFor(lengthWith(1));
     ::new (static_cast<void*>(m_pElements + m_nLength)) T(element);
     ++m_nLength;
 }
@@ -273,12 +282,15 @@ void VorArray<T, R, M>::append(const T& element)
 template <class T, class R, class M>
 void VorArray<T, R, M>::append(T&& element)
 {
-    if (m_nLength == m_nCapacity && standsHere(&element))
+    if (!hasRoomForOne())
     {
-        append(T(std::move(element)));
-        return;
+        if (standsHere(&element))
+        {
+            append(T(std::move(element)));
+            return;
+        }
+        makeRoomFor(lengthWith(1));
     }
-    makeRoomFor(lengthWith(1));
     ::new (static_cast<void*>(m_pElements + m_nLength)) T(std::move(element));
     ++m_nLength;
 }
@@ -310,11 +322,26 @@ template <class T, class R, class M>
 template <class... Arguments>
 T& VorArray<T, R, M>::emplace(Arguments&&... arguments)
 {
-    if (m_nLength >= m_nPhysicalLength || m_nLength >= m_nCapacity)
+    if (!hasRoomForOne())
         makeRoomFor(lengthWith(1));
     T* pElement = ::new (static_cast<void*>(m_pElements + m_nLength)) T(std::forward<Arguments>(arguments)...);
     ++m_nLength;
     return *pElement;
+}
+
+template <class T, class R, class M>
+template <class Make>
+void VorArray<T, R, M>::appendMade(int numElements, Make make)
+{
+    if (numElements < 1)
+        return;
+    makeRoomFor(lengthWith(numElements));
+    T* pElement = m_pElements + m_nLength;
+    for (int i = 0; i < numElements; ++i, ++pElement)
+    {
+        ::new (static_cast<void*>(pElement)) T(make(i));
+        ++m_nLength;
+    }
 }
 
 template <class T, class R, class M>

@@ -155,7 +155,7 @@ inline void VorString::addUser(Block* pBlock) noexcept
     if (pBlock == nullptr)
         return;
 #if defined(MEK_KNOWS_SINGLE_THREADED)
-    if (__libc_single_threaded)
+    if (__builtin_expect(__libc_single_threaded, 1)) // the locked increment is slow either way
     {
         pBlock->numUsers.store(pBlock->numUsers.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
         return;

@@ -140,6 +140,34 @@ TEST(VorArrayTest, AnElementThatCannotBeConstructedIsNotEmplaced)
     }
 }
 
+TEST(VorArrayTest, ElementsAreMadeInTheirPlace)
+{
+    const LeakCheck leaks;
+    VorArray<VorString> array;
+    array.append(VorString(L"first"));
+
+    array.appendMade(20, [](int i) { return VorString(L"abcdefghijklmnopqrst", i + 1); });
+    array.appendMade(0, [](int) { return VorString(L"none"); });
+    array.appendMade(-1, [](int) { return VorString(L"none"); });
+
+    ASSERT_EQ(21, array.length());
+    EXPECT_EQ(24, array.physicalLength());
+    EXPECT_EQ(VorString(L"first"), array[0]);
+    EXPECT_EQ(VorString(L"a"), array[1]);
+    EXPECT_EQ(VorString(L"abcdefghijklmnopqrst"), array[20]);
+}
+
+TEST(VorArrayTest, ElementsMadeBeforeOneThatCannotBeMadeAreKept)
+{
+    const LeakCheck leaks;
+    VorArray<Fastidious> array;
+
+    EXPECT_THROW(array.appendMade(5, [](int i) { return Fastidious(i < 3 ? i : -1); }), std::invalid_argument);
+
+    ASSERT_EQ(3, array.length());
+    EXPECT_EQ(VorString(L"made"), array.begin()[2].text);
+}
+
 TEST(VorArrayTest, ElementsMayBeWritten)
 {
     IntArray array = arrayOf<IntArray>({ 1, 2, 3 });
