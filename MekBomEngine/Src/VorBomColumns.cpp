@@ -33,5 +33,7 @@ VorBomColumns::Positions VorBomColumns::positionsIn(const VorBomDataTupleArray& 
     positions.reserve(m_tokens.size());
     for (const VorString& token : m_tokens)
         positions.push_back(finder.indexOf(token));
+    for (const int column : m_leftOut)
+        positions[static_cast<std::size_t>(column)] = VorBomTupleFinder::kNone;
     return positions;
 }

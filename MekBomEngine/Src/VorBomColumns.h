@@ -22,6 +22,9 @@ class MEK_BOM_API VorBomColumns
 public:
     VorBomColumns(std::shared_ptr<VorBomRowLayouts> pLayouts, std::vector<VorString> tokens);
 
+    // No row has the column from now on. To be called before the first row.
+    void leaveOut(int column) { m_leftOut.push_back(column); }
+
     // To be moved only: it points into its own list of positions.
     VorBomColumns(const VorBomColumns&) = delete;
     VorBomColumns& operator=(const VorBomColumns&) = delete;
@@ -54,6 +57,7 @@ private:
 
     std::shared_ptr<VorBomRowLayouts> m_pLayouts;
     std::vector<VorString> m_tokens;
+    std::vector<int> m_leftOut;
     std::vector<Positions> m_positions; // per layout; empty where none was asked for
     Positions m_positionsOfRow;         // of a row that has no layout
 

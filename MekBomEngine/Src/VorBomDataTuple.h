@@ -34,9 +34,12 @@ public:
         : m_token(token), m_value(value, cells)
     {
     }
-    VorBomDataTuple(const VorString& token, const VorBomDataValue& value, VorBomPayloadCells& cells)
+
+    // The same with the payload in one of `cells`, and with a used flag.
+    VorBomDataTuple(const VorString& token, const VorBomDataValue& value, VorBomPayloadCells& cells, int used)
         : m_token(token), m_value(value, cells)
     {
+        setUsed(used);
     }
 
     // Copies carry the used flag. A moved-from tuple has an empty token and an empty value.

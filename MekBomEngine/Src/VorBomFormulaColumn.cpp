@@ -82,9 +82,13 @@ VorBomFormulaColumn::VorBomFormulaColumn(std::shared_ptr<VorBomRowLayouts> pLayo
       m_values(m_compiled.names().size())
 {
     const std::vector<VorString> rowTokens = sortedRowTokens(m_formula);
-    for (const VorString& name : m_compiled.names())
-        m_sources.push_back(
-            { std::binary_search(rowTokens.begin(), rowTokens.end(), name, isBefore), tuplesNamed(name, tuples) });
+    const std::vector<VorString>& names = m_compiled.names();
+    for (std::size_t name = 0; name < names.size(); ++name)
+    {
+        if (!std::binary_search(rowTokens.begin(), rowTokens.end(), names[name], isBefore))
+            m_rowColumns.leaveOut(static_cast<int>(name));
+        m_tuplesOfName.push_back(tuplesNamed(names[name], tuples));
+    }
 }
 
 int VorBomFormulaColumn::compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result)
@@ -94,8 +98,12 @@ int VorBomFormulaColumn::compute(const VorBomDataTupleArray& tuples, VorBomDataR
     if (pRow != nullptr)
         m_rowColumns.find(*pRow);
     for (std::size_t name = 0; name < m_values.size(); ++name)
-        if (!findValue(name, tuples, pRow, m_values[name]))
+    {
+        const VorBomDataTuple* pDatum = pRow == nullptr ? nullptr : m_rowColumns[static_cast<int>(name)];
+        if ((pDatum == nullptr || !getNumber(pDatum->value(), m_values[name])) &&
+            !findInSection(name, tuples, m_values[name]))
             return 0;
+    }
     return m_compiled.evaluate(m_values.data(), result);
 }
 
@@ -134,15 +142,9 @@ std::vector<int> VorBomFormulaColumn::tuplesNamed(const VorString& name, const V
     return indices;
 }
 
-int VorBomFormulaColumn::findValue(std::size_t name, const VorBomDataTupleArray& tuples, const VorBomDataRow* pRow,
-                                   double& value) const
+int VorBomFormulaColumn::findInSection(std::size_t name, const VorBomDataTupleArray& tuples, double& value) const
 {
-    const Source& source = m_sources[name];
-    const bool asksRow = pRow != nullptr && source.isRowToken;
-    const VorBomDataTuple* pDatum = asksRow ? m_rowColumns[static_cast<int>(name)] : nullptr;
-    if (pDatum != nullptr && getNumber(pDatum->value(), value))
-        return 1;
-    for (const int index : source.tupleIndices)
+    for (const int index : m_tuplesOfName[name])
         if (getNumber(tuples[index].value(), value))
             return 1;
     return 0;

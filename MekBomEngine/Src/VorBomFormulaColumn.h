@@ -34,22 +34,17 @@ public:
     static int computeOnce(const VorBomDataTupleArray& tuples, int index, const VorBomDataRow* pRow, double& result);
 
 private:
-    // Where a name of the formula may get its value from.
-    struct Source
-    {
-        bool isRowToken;               // the row is asked first
-        std::vector<int> tupleIndices; // then the section's tuples of that token, in this order
-    };
-
     static VorString formulaOf(const VorBomDataTuple& tuple);
     std::vector<int> tuplesNamed(const VorString& name, const VorBomDataTupleArray& tuples) const;
-    int findValue(std::size_t name, const VorBomDataTupleArray& tuples, const VorBomDataRow* pRow, double& value) const;
+    int findInSection(std::size_t name, const VorBomDataTupleArray& tuples, double& value) const;
 
     int m_nIndex;
     VorString m_formula;
     VorCompiledFormula m_compiled;
     bool m_isCompiled;
-    VorBomColumns m_rowColumns; // the compiled formula's names
-    std::vector<Source> m_sources;
+    // Where a name of the compiled formula gets its value from: first the row, if the name is one of its tokens, then the
+    // section's tuples of that token, in this order.
+    VorBomColumns m_rowColumns;
+    std::vector<std::vector<int>> m_tuplesOfName;
     std::vector<double> m_values;
 };

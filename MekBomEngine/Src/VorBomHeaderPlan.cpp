@@ -21,12 +21,24 @@ std::vector<VorString> tokensOf(const VorBomDataTupleArray& tuples)
     return tokens;
 }
 
-bool hasValue(const VorBomDataTuple& datum)
+VorBomDataTuple copyOf(const VorBomDataTuple& column, VorBomPayloadCells& cells)
 {
-    if (datum.value().type() != VorBomDataValue::kUnknownData)
-        return true;
-    VorAssert::vorAssert(L"false", kSourcePath, __LINE__);
-    return false;
+    return VorBomDataTuple(column.token().token(), column.value(), cells, column.used());
+}
+
+// The row's value, if it has one, under the column's token.
+VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, VorBomPayloadCells& cells)
+{
+    if (pDatum == nullptr)
+        return copyOf(column, cells);
+    if (pDatum->value().type() == VorBomDataValue::kUnknownData)
+    {
+        VorAssert::vorAssert(L"false", kSourcePath, __LINE__);
+        return copyOf(column, cells);
+    }
+    if (pDatum->used() != 1)
+        pDatum->setUsed(1); // rows of an earlier evaluation are marked: their memory need not be written
+    return VorBomDataTuple(column.token().token(), pDatum->value(), cells, column.used());
 }
 }
 
@@ -36,9 +48,11 @@ VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLay
     const VorBomDataTupleArray& tuples = section.getData();
     for (int i = 0; i < tuples.length(); ++i)
     {
-        m_isFormula.push_back(VorBomDataToken::isFormula(tuples[i].token().token()) != 0 ? 1 : 0);
-        if (m_isFormula.back() != 0)
+        if (VorBomDataToken::isFormula(tuples[i].token().token()) != 0)
+        {
+            m_columns.leaveOut(i);
             m_formulas.emplace_back(pLayouts, tuples, i);
+        }
         m_displays.emplace_back(tuples[i].token());
     }
 }
@@ -48,22 +62,10 @@ std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row
     m_columns.find(row);
     const VorBomDataTupleArray& columns = m_section.getData();
     auto pEvaluated = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
-    VorBomDataTupleArray& tuples = pEvaluated->getData();
-    tuples.setPhysicalLength(columns.length());
     VorBomPayloadCells cells(columns.length());
-    const VorBomDataTuple* pColumn = columns.begin();
-    for (int i = 0; i < columns.length(); ++i, ++pColumn)
-    {
-        VorBomDataTuple* pDatum = m_isFormula[static_cast<std::size_t>(i)] != 0 ? nullptr : m_columns[i];
-        if (pDatum == nullptr || !hasValue(*pDatum))
-        {
-            tuples.emplace(pColumn->token().token(), pColumn->value(), cells).setUsed(pColumn->used());
-            continue;
-        }
-        tuples.emplace(pColumn->token().token(), pDatum->value(), cells).setUsed(pColumn->used());
-        if (pDatum->used() != 1)
-            pDatum->setUsed(1); // rows of an earlier evaluation are marked: their memory need not be written
-    }
+    pEvaluated->getData().setPhysicalLength(columns.length());
+    pEvaluated->getData().appendMade(columns.length(), [this, &cells, pColumns = columns.begin()](int i)
+                                     { return tupleFor(pColumns[i], m_columns[i], cells); });
     return pEvaluated;
 }
 
@@ -75,7 +77,7 @@ void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomData
         double result = 0;
         if (!formula.compute(tuples, &row, result))
             continue;
-        VorBomDataTuple& tuple = tuples[formula.index()];
+        VorBomDataTuple& tuple = tuples.begin()[formula.index()];
         tuple.value().set(result);
         row.getData().emplace(tuple.token().token(), result, cellsForRows());
     }

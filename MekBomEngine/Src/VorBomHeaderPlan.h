@@ -40,8 +40,7 @@ private:
     VorBomPayloadCells& cellsForRows();
 
     const VorBomTemplateItem& m_section;
-    VorBomColumns m_columns;       // one per tuple of the section
-    std::vector<char> m_isFormula; // 1 or 0; bits would cost more than they save
+    VorBomColumns m_columns; // one per tuple of the section; formulas are left out
     std::vector<VorBomFormulaColumn> m_formulas;
     std::optional<VorBomPayloadCells> m_cellsForRows; // of results; apart from the sections, which go before the rows
     int m_numCellsForRows = 0;                        // of those taken last

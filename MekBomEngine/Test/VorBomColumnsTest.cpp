@@ -42,6 +42,18 @@ TEST(VorBomColumnsTest, TheFirstTupleOfEachTokenIsFound)
     EXPECT_EQ(row.getTupleAt(kWeight), columns[1]) << "the row's own tuple, not a copy";
 }
 
+TEST(VorBomColumnsTest, WhatIsLeftOutIsFoundInNoRow)
+{
+    VorBomDataRow row;
+    addTuples(row, { VorBomDataTuple(kWeight, 1), VorBomDataTuple(kName, 2) });
+    VorBomColumns columns = nameAndWeight();
+    columns.leaveOut(0);
+
+    EXPECT_EQ(VorString(L"- 1"), found(columns, row));
+    row.addData(VorBomDataTuple(kName, 3));
+    EXPECT_EQ(VorString(L"- 1"), found(columns, row)) << "in another layout neither";
+}
+
 TEST(VorBomColumnsTest, WhatWasFoundForOneLayoutIsNotTakenForAnother)
 {
     VorBomDataRow nameFirst;
