@@ -80,14 +80,7 @@ void VorBomDataValue::set(const VorString& value)
     set(VorString(value)); // the argument may be this value's own text
 }
 
-void VorBomDataValue::set(VorString&& value)
-{
-    VorString text(std::move(value));
-    ::new (freeCell()) VorString(std::move(text));
-    m_nType = kStringData;
-}
-
-int VorBomDataValue::compare(const VorBomDataValue& other) const
+int VorBomDataValue::compareAnew(const VorBomDataValue& other) const
 {
     if (m_nType != other.m_nType)
     {
@@ -153,6 +146,13 @@ void VorBomDataValue::replaceBy(double value)
 {
     ::new (freeCell()) double(value);
     m_nType = kDoubleData;
+}
+
+void VorBomDataValue::replaceBy(VorString&& value)
+{
+    VorString text(std::move(value)); // the argument may be this value's own text
+    ::new (freeCell()) VorString(std::move(text));
+    m_nType = kStringData;
 }
 
 // Ends the payload's life and leaves its cell.

@@ -18,6 +18,7 @@
 #include "MekRoots/Exp/VorString.h"
 
 #include <new>
+#include <utility>
 
 class MEK_BOM_API VorBomDataValue
 {
@@ -79,7 +80,13 @@ public:
             replaceBy(value);
     }
     void set(const VorString& value);
-    void set(VorString&& value); // takes the text over
+    void set(VorString&& value) // takes the text over
+    {
+        if (m_nType == kIntData || m_nType == kDoubleData)
+            create<VorString>(m_pData, kStringData, std::move(value));
+        else
+            replaceBy(std::move(value));
+    }
 
     // The payload, to be cast by type(): int*, double* or VorString*; null for an empty value. It lives until this value
     // changes.
@@ -88,7 +95,12 @@ public:
 
     // Sign of this minus other. Doubles closer than 1e-6 are equal, whatever their size, and so is a NaN and anything;
     // texts compare as VorString::compare says. Reports and answers -1 for unlike kinds, 0 for two empty values.
-    int compare(const VorBomDataValue& other) const;
+    int compare(const VorBomDataValue& other) const
+    {
+        const bool isSameText = m_nType == kStringData && other.m_nType == kStringData &&
+                                textValue().sharesTextWith(other.textValue()); // as in most rows of a group
+        return isSameText ? 0 : compareAnew(other);
+    }
 
     // The same for two numbers that are in no value.
     static int compareDoubles(double first, double second);
@@ -111,8 +123,10 @@ private:
     int intValue() const { return *static_cast<const int*>(m_pData); }
     double doubleValue() const { return *static_cast<const double*>(m_pData); }
     const VorString& textValue() const { return *static_cast<const VorString*>(m_pData); }
+    int compareAnew(const VorBomDataValue& other) const;
     void exchange(VorBomDataValue& other) noexcept;
     void replaceBy(double value);
+    void replaceBy(VorString&& value);
     void endPayload();
     void* freeCell();
 
@@ -120,10 +134,10 @@ private:
                   "a value keeps its cell when its kind changes");
 
     // Give a value that is empty its payload.
-    template <class Payload>
-    void create(void* pCell, eBomDataValueType type, const Payload& value)
+    template <class Payload, class Value>
+    void create(void* pCell, eBomDataValueType type, Value&& value)
     {
-        m_pData = ::new (pCell) Payload(value);
+        m_pData = ::new (pCell) Payload(std::forward<Value>(value));
         m_nType = type;
     }
     template <class TakeCell>

@@ -94,6 +94,23 @@ TEST(VorBomDataValueTest, SetReplacesPayloadAndType)
     EXPECT_EQ(VorString(L"12"), value.asString());
 }
 
+TEST(VorBomDataValueTest, ATextIsTakenOverWhateverItReplaces)
+{
+    const LeakCheck leaks;
+    for (const VorBomDataValue& before : { VorBomDataValue(), VorBomDataValue(5), VorBomDataValue(2.5),
+                                           VorBomDataValue(VorString(L"a text replaced")) })
+    {
+        VorBomDataValue value(before);
+        VorString text(L"a text taken over");
+        const wchar_t* pCharacters = text.getStringW();
+
+        value.set(std::move(text));
+
+        EXPECT_EQ(VorBomDataValue::kStringData, value.type());
+        EXPECT_EQ(pCharacters, static_cast<const VorString*>(value.data())->getStringW());
+    }
+}
+
 TEST(VorBomDataValueTest, SetTakesTheValuesOwnText)
 {
     VorBomDataValue value = text(L"S235");
