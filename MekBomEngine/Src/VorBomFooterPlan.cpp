@@ -14,14 +14,24 @@ int intOf(const VorBomDataValue& value)
     return *static_cast<const int*>(value.data());
 }
 
+double doubleOf(const VorBomDataValue& value)
+{
+    return *static_cast<const double*>(value.data());
+}
+
+bool isDouble(const VorBomDataValue& value)
+{
+    return value.type() == VorBomDataValue::kDoubleData;
+}
+
 bool isNumber(const VorBomDataValue& value)
 {
-    return value.type() == VorBomDataValue::kIntData || value.type() == VorBomDataValue::kDoubleData;
+    return value.type() == VorBomDataValue::kIntData || isDouble(value);
 }
 
 double numberOf(const VorBomDataValue& value)
 {
-    return value.type() == VorBomDataValue::kIntData ? intOf(value) : *static_cast<const double*>(value.data());
+    return value.type() == VorBomDataValue::kIntData ? intOf(value) : doubleOf(value);
 }
 
 void setToZeroLike(const VorBomDataValue& number, VorBomDataValue& value)
@@ -80,7 +90,7 @@ VorBomFooterPlan::VorBomFooterPlan(const std::shared_ptr<VorBomRowLayouts>& pLay
     for (const VorBomDataTuple& tuple : section.getData())
     {
         VorString summed;
-        m_isSum.push_back(tuple.token().getSummingRequest(summed) != 0);
+        m_isSum.push_back(tuple.token().getSummingRequest(summed) != 0 ? 1 : 0);
         m_displays.emplace_back(tuple.token());
     }
     beginFooter();
@@ -89,7 +99,7 @@ VorBomFooterPlan::VorBomFooterPlan(const std::shared_ptr<VorBomRowLayouts>& pLay
 void VorBomFooterPlan::takeNewRows(const VorBomDataRowPointerArray& rows)
 {
     for (; m_nTakenRows < rows.length(); ++m_nTakenRows)
-        takeIn(*rows[m_nTakenRows]);
+        takeIn(*rows.begin()[m_nTakenRows]);
 }
 
 std::unique_ptr<VorBomTemplateItem> VorBomFooterPlan::finish(const VorBomDataRowPointerArray& rows)
@@ -119,7 +129,17 @@ void VorBomFooterPlan::takeIn(VorBomDataRow& row)
         return;
     m_columns.find(row);
     VorBomDataTuple* pTuple = m_pFooter->getData().begin();
-    for (int i = 0; i < m_columns.count(); ++i)
-        if (const VorBomDataTuple* pDatum = m_columns[i])
-            takeValue(pTuple[i].value(), pDatum->value(), m_isSum[static_cast<std::size_t>(i)]);
+    const int numColumns = m_columns.count();
+    for (int i = 0; i < numColumns; ++i, ++pTuple)
+    {
+        const VorBomDataTuple* pDatum = m_columns[i];
+        if (pDatum == nullptr)
+            continue;
+        const bool isSum = m_isSum[static_cast<std::size_t>(i)] != 0;
+        VorBomDataValue& value = pTuple->value();
+        if (isSum && isDouble(value) && isDouble(pDatum->value())) // as takeValue() does it: nearly every total
+            value.set(doubleOf(value) + doubleOf(pDatum->value()));
+        else
+            takeValue(value, pDatum->value(), isSum);
+    }
 }

@@ -40,8 +40,8 @@ private:
     void takeIn(VorBomDataRow& row);
 
     const VorBomTemplateItem& m_section;
-    VorBomColumns m_columns; // one per tuple of the section
-    std::vector<bool> m_isSum;
+    VorBomColumns m_columns;   // one per tuple of the section
+    std::vector<char> m_isSum; // 1 or 0; bits would cost more than they save
     std::vector<VorBomDisplayColumn> m_displays;
     std::unique_ptr<VorBomTemplateItem> m_pFooter; // of the open group; never null
     int m_nTakenRows = 0;

@@ -34,14 +34,14 @@ VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorStringArray& token
         m_keys.emplace_back(tokens[i], orders[i]);
     for (VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
         m_rows.push_back(pRow);
-    for (std::vector<const VorBomDataTuple*>& column : m_columns)
-        column.reserve(m_rows.size());
+    for (Column& column : m_columns)
+        column.resize(m_rows.size());
     VorBomColumns columns(std::make_shared<VorBomRowLayouts>(), std::vector<VorString>(tokens.begin(), tokens.end()));
-    for (VorBomItemBase* pRow : m_rows)
+    for (std::size_t row = 0; row < m_rows.size(); ++row)
     {
-        columns.find(*pRow);
-        for (int i = 0; i < columns.count(); ++i)
-            m_columns[static_cast<std::size_t>(i)].push_back(columns[i]);
+        columns.find(*m_rows[row]);
+        for (std::size_t i = 0; i < m_columns.size(); ++i)
+            m_columns[i][row] = columns[static_cast<int>(i)];
     }
 }
 
