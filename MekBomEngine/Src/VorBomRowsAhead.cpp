@@ -17,11 +17,13 @@ void bringIn(const void* pMemory)
 
 constexpr std::size_t kLine = 64; // bytes in a line of the cache
 
-void bringIn(const void* pMemory, std::size_t size)
+// To be inlined: g++ takes a function that only fetches for one without effect and drops calls of it.
+inline void bringIn(const void* pMemory, std::size_t size)
 {
     const char* pLine = static_cast<const char*>(pMemory);
     for (std::size_t offset = 0; offset < size; offset += kLine)
         bringIn(pLine + offset);
+    bringIn(pLine + size - 1); // what begins within a line ends in one more
 }
 
 void bringInNext(const VorBomItemBase& row)
@@ -34,7 +36,8 @@ void bringInTuples(const VorBomItemBase& row)
 {
     const VorBomDataTupleArray& tuples = row.getData();
     constexpr int kNumAppended = 1; // for a formula, mostly
-    bringIn(tuples.begin(), static_cast<std::size_t>(tuples.length() + kNumAppended) * sizeof(VorBomDataTuple));
+    if (tuples.isEmpty() == 0)
+        bringIn(tuples.begin(), static_cast<std::size_t>(tuples.length() + kNumAppended) * sizeof(VorBomDataTuple));
 }
 
 void bringInPayloads(const VorBomItemBase& row)
@@ -43,11 +46,18 @@ void bringInPayloads(const VorBomItemBase& row)
         bringIn(tuple.value().data());
 }
 
+// Bytes of a text of some ten characters with what stands before them.
+constexpr std::size_t kShortText = 56;
+
 void bringInTexts(const VorBomItemBase& row)
 {
     for (const VorBomDataTuple& tuple : row.getData())
-        if (tuple.value().type() == VorBomDataValue::kStringData)
-            bringIn(static_cast<const VorString*>(tuple.value().data())->getStringW());
+    {
+        if (tuple.value().type() != VorBomDataValue::kStringData)
+            continue;
+        if (const void* pMemory = static_cast<const VorString*>(tuple.value().data())->memory())
+            bringIn(pMemory, kShortText);
+    }
 }
 }
 

@@ -108,6 +108,9 @@ public:
     // True when both texts are one and the same block, which makes them equal; false says nothing.
     bool sharesTextWith(const VorString& other) const { return m_pBlock == other.m_pBlock; }
 
+    // Where the text lies in memory; null for the empty one. For fetching it ahead, not for reading.
+    const void* memory() const { return m_pBlock; }
+
     // -1, 0 or 1 by the characters' numeric values from the left; a prefix comes before the longer text.
     static int compare(const VorString& a, const VorString& b);
 

@@ -58,6 +58,17 @@ TEST(VorStringTest, ATextOfALengthIsWrittenInItsPlace)
     EXPECT_EQ(L'\0', name.getStringW()[3]);
 }
 
+TEST(VorStringTest, ItsMemoryIsTheSameForSharedTextsAndNoneForTheEmptyOne)
+{
+    const VorString name(L"HEA 200");
+    const VorString copy = name;
+
+    EXPECT_EQ(nullptr, VorString().memory());
+    ASSERT_NE(nullptr, name.memory());
+    EXPECT_EQ(name.memory(), copy.memory());
+    EXPECT_NE(name.memory(), VorString(L"HEA 200").memory());
+}
+
 TEST(VorStringTest, ALengthCutsTheTextAndKeepsZeroCharacters)
 {
     EXPECT_EQ(VorString(L"HEA"), text(L"HEA 200", 3));
