@@ -17,9 +17,7 @@ VorStringArray usedTokens(const VorBomDataTupleArray& tuples)
 }
 
 VorBomDataRow::VorBomDataRow(const VorBomDataRow& other)
-    : VorBomItemBase(other),
-      m_objectHandle(other.m_objectHandle),
-      m_nUseThisDataForSums(other.m_nUseThisDataForSums)
+    : VorBomItemBase(other), m_objectHandle(other.m_objectHandle), m_nUseThisDataForSums(other.m_nUseThisDataForSums)
 {
     setEqualPartObjectHandles(other.EqualPartObjectHandles());
 }
