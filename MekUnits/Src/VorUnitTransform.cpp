@@ -83,6 +83,7 @@ int scaleQuickly(double size, std::uint64_t numerator, std::uint64_t denominator
     const double nearThousandths = size * 1000;
     if (!(nearThousandths < kMostThousandths))
         return 0;
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): a wrong one is found out below
     const auto thousandths = static_cast<double>(static_cast<std::int64_t>(nearThousandths + 0.5));
     const double dividend = thousandths * static_cast<double>(static_cast<std::int64_t>(numerator));
     const double divisor = 1000 * static_cast<double>(static_cast<std::int64_t>(denominator));
@@ -144,6 +145,7 @@ int roundFarFromMiddle(double product, std::uint64_t& parts)
 {
     if (!(product < kQuickLimit))
         return 0;
+    // NOLINTNEXTLINE(bugprone-incorrect-roundings): a wrong one is too far from the product
     const auto nearest = static_cast<std::int64_t>(product + 0.5);
     if (std::fabs(product - static_cast<double>(nearest)) + product * kProductTolerance >= 0.5)
         return 0;
