@@ -53,8 +53,8 @@ public:
     // "NULL != completedGroup.m_pCollector" is reported.
     static int evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResult);
 
-    // The same report, handed to `sink` section by section as evaluation goes on instead of being kept: it takes the
-    // memory of one line for each level, however many rows there are. Returns 1, or 0 without template or section.
+    // The same report, handed to `sink` section by section as evaluation goes on instead of being kept: beside a pointer
+    // for each row it takes the memory of one line for each level. Returns 1, or 0 without template or section.
     static int evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sink);
 
 private:
