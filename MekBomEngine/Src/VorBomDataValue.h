@@ -41,7 +41,12 @@ public:
     VorBomDataValue(const VorBomDataValue& other) { copy(other, VorBomPayloadCells::takeOne); }
 
     // The same with a payload in one of `cells`.
+    VorBomDataValue(int value, VorBomPayloadCells& cells) { create<int>(cells.take(), kIntData, value); }
     VorBomDataValue(double value, VorBomPayloadCells& cells) { create<double>(cells.take(), kDoubleData, value); }
+    VorBomDataValue(const VorString& value, VorBomPayloadCells& cells)
+    {
+        create<VorString>(cells.take(), kStringData, value);
+    }
     VorBomDataValue(const VorBomDataValue& other, VorBomPayloadCells& cells)
     {
         copy(other, [&cells] { return cells.take(); });

@@ -4,6 +4,7 @@
 #include "Utf8.h"
 
 #include "VorBomDataRow.h"
+#include "VorBomPayloadCells.h"
 
 #include <memory>
 
@@ -115,13 +116,15 @@ void RowBatch::buildRow(Row& row, std::size_t endDatum)
     const Datum* const pEnd = m_values.data() + endDatum;
     VorBomDataTupleArray& tuples = pRow->getData();
     // A row of a large model holds no more than it needs.
-    tuples.setPhysicalLength(static_cast<int>(pEnd - pFirst) + m_numReserved);
+    const auto numTuples = static_cast<int>(pEnd - pFirst);
+    tuples.setPhysicalLength(numTuples + m_numReserved);
+    VorBomPayloadCells cells(numTuples);
     for (const Datum* pDatum = pFirst; pDatum != pEnd; ++pDatum)
         switch (pDatum->type)
         {
-            case VorBomDataValue::kIntData: tuples.emplace(*pDatum->pToken, pDatum->whole); break;
-            case VorBomDataValue::kDoubleData: tuples.emplace(*pDatum->pToken, pDatum->number); break;
-            default: tuples.emplace(*pDatum->pToken, *pDatum->pText); break;
+            case VorBomDataValue::kIntData: tuples.emplace(*pDatum->pToken, pDatum->whole, cells); break;
+            case VorBomDataValue::kDoubleData: tuples.emplace(*pDatum->pToken, pDatum->number, cells); break;
+            default: tuples.emplace(*pDatum->pToken, *pDatum->pText, cells); break;
         }
     m_data.addChild(pRow.release());
 }
