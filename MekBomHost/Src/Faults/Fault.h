@@ -1,12 +1,10 @@
-// Why a command ends without a report: the exit status, and one message for every fault found.
+// Why a command ends without a report: the exit status, and a finding for everything that is wrong.
 //
-//   throw Fault(kInvalidInput, "parts.csv:3: found 4 fields, expected 5");
-//
-// Messages name file, line and column or token, what was found and what was expected. They carry neither the program's
-// name nor a line end; Program adds both.
+//   throw Fault(kInvalidInput, finding);
 #pragma once
 
 #include "ExitStatus.h"
+#include "Finding.h"
 
 #include <stdexcept>
 #include <string>
@@ -18,19 +16,27 @@ namespace mekbom
 class Fault : public std::runtime_error
 {
 public:
-    Fault(ExitStatus status, const std::string& message) : Fault(status, std::vector<std::string>{ message }) {}
-
-    // `messages` holds at least one.
-    Fault(ExitStatus status, std::vector<std::string> messages)
-        : std::runtime_error(messages.front()), m_status(status), m_messages(std::move(messages))
+    // `findings` holds at least one error.
+    Fault(ExitStatus status, std::vector<Finding> findings)
+        : std::runtime_error(messageOf(findings.front())), m_status(status), m_findings(std::move(findings))
     {
     }
 
+    Fault(ExitStatus status, Finding finding) : Fault(status, std::vector<Finding>{ std::move(finding) }) {}
+
+    // For messages that are not data yet.
+    Fault(ExitStatus status, const std::string& message) : Fault(status, findingOf(message)) {}
+
     ExitStatus status() const { return m_status; }
-    const std::vector<std::string>& messages() const { return m_messages; }
+    const std::vector<Finding>& findings() const { return m_findings; }
+
+    // The findings as lines of text.
+    std::vector<std::string> messages() const;
 
 private:
+    static Finding findingOf(const std::string& message);
+
     ExitStatus m_status;
-    std::vector<std::string> m_messages;
+    std::vector<Finding> m_findings;
 };
 }
