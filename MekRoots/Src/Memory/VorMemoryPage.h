@@ -9,8 +9,6 @@
 // on its thread writes to the page's head alone, not to the block, which may long have left the caches.
 #pragma once
 
-#include "MekRoots/Exp/MekExport.h"
-
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -19,7 +17,7 @@ class VorMemoryHeap;
 
 // A page's place in a list of pages. A list is a ring with one place more, its head, which is no page's; a page that is
 // in no list is a ring of its own.
-struct MEK_ROOTS_API VorMemoryPageLink
+struct VorMemoryPageLink
 {
     VorMemoryPageLink() = default;
     VorMemoryPageLink(const VorMemoryPageLink&) = delete;
@@ -48,7 +46,7 @@ struct MEK_ROOTS_API VorMemoryPageLink
     VorMemoryPageLink* pNext = this;
 };
 
-class MEK_ROOTS_API VorMemoryPage : public VorMemoryPageLink
+class VorMemoryPage : public VorMemoryPageLink
 {
 public:
     // In bytes; pages start at multiples of it, so that a block tells its page. Arbitrary: large against blocks, small

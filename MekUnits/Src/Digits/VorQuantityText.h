@@ -3,14 +3,13 @@
 //   text.addInteger(7); text.addCharacter(L'\''); ...   ->  7'-6 1/2"
 #pragma once
 
-#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <cstdint>
 
 class VorDecimalNumber;
 
-class MEK_UNITS_API VorQuantityText
+class VorQuantityText
 {
 public:
     // "-12.5": `parts` of ten to `numDecimals`, of which there are 9 at most. What most numbers of a report need, in one
