@@ -1,20 +1,13 @@
 #include "FaultList.h"
 
-#include "Fault.h"
+#include <utility>
 
 namespace mekbom
 {
-void FaultList::throwIfAny() const
+void FaultList::add(const std::string& message)
 {
-    if (isEmpty())
-        return;
-    std::vector<Finding> findings;
-    for (const std::string& message : m_messages)
-    {
-        Finding finding;
-        finding.statement = message;
-        findings.push_back(finding);
-    }
-    throw Fault(kInvalidInput, std::move(findings));
+    Finding finding;
+    finding.statement = message;
+    m_findings.add(std::move(finding));
 }
 }

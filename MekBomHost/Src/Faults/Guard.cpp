@@ -28,8 +28,7 @@ ExitStatus runGuarded(FindingList& findings, const std::function<ExitStatus()>& 
     }
     catch (const Fault& fault)
     {
-        for (const Finding& finding : fault.findings())
-            findings.add(finding);
+        findings.addAllOf(fault);
         return fault.status();
     }
     catch (const std::bad_alloc&)

@@ -1,6 +1,7 @@
 #include "ReportVerb.h"
 
 #include "ColumnName.h"
+#include "CsvReader.h"
 #include "DataTokens.h"
 #include "DisplaySettings.h"
 #include "Fault.h"
@@ -147,7 +148,8 @@ void ReportVerb::openParts()
         m_pFile = std::make_unique<FileSource>();
     else
         m_pFile = std::make_unique<FileSource>(m_data.empty() ? ShippedFiles::find(ShippedFiles::kPartsList) : m_data);
-    m_pParts = std::make_unique<PartsList>(*m_pFile);
+    m_pRecords = std::make_unique<CsvReader>(*m_pFile);
+    m_pParts = std::make_unique<PartsList>(*m_pRecords);
     for (const auto& [token, unit] : m_inputUnits.pairs())
         m_pParts->setInputUnit(ColumnName::tokenOf(token), unit);
 }

@@ -37,7 +37,7 @@ TEST(GuardTest, AFaultIsItsFindings)
 
     EXPECT_EQ("3 a.csv: is odd a.csv: is odd", remainsOf(
                                                    [&finding]() -> ExitStatus {
-                                                       throw Fault(kInvalidInput, { finding, finding });
+                                                       throw Fault(kInvalidInput, { finding, finding }, 2);
                                                    }));
 }
 

@@ -1,3 +1,4 @@
+#include "CsvReader.h"
 #include "FileSource.h"
 #include "PartsList.h"
 #include "Report.h"
@@ -101,7 +102,8 @@ std::unique_ptr<Report> readReport(const fs::path& folder)
     auto pReport = std::make_unique<Report>(TemplateReader::read("template.json", readFile(folder / "template.json")),
                                             UnitChoice::unitsOf(options.units, {}));
     FileSource file((folder / "data.csv").string());
-    PartsList parts(file);
+    CsvReader records(file);
+    PartsList parts(records);
     for (const auto& [token, unit] : options.inputUnits)
         parts.setInputUnit(token, unit);
     parts.readRows(pReport->engineTemplate(), pReport->queryFilter());
