@@ -72,7 +72,7 @@ function(mek_keep_threading_tests sources_variable)
     set(${sources_variable} ${kept} PARENT_SCOPE)
 endfunction()
 
-# mek_add_tests(MekRootsTest LINK Mek::Roots): one test program from Test/*.cpp, every case known to ctest.
+# mek_add_tests(MekRootsTest LINK Mek::Roots): one test program from Test and its folders, every case known to ctest.
 # A module with tests of internals has a second one from Test/Internals/*.cpp:
 # mek_add_tests(MekRootsInternalsTest INTERNALS_OF MekRoots). Both have what stands in Test/Support.
 function(mek_add_tests target)
@@ -82,7 +82,8 @@ function(mek_add_tests target)
         mek_find_rooms(rooms)
         list(APPEND ARG_LINK ${ARG_INTERNALS_OF}Objects)
     else()
-        file(GLOB sources CONFIGURE_DEPENDS Test/*.cpp)
+        file(GLOB_RECURSE sources CONFIGURE_DEPENDS Test/*.cpp)
+        list(FILTER sources EXCLUDE REGEX "/Test/(Internals|Support)/")
     endif()
     if(MEK_THREADING_TESTS_ONLY)
         mek_keep_threading_tests(sources)
@@ -92,7 +93,7 @@ function(mek_add_tests target)
     endif()
     file(GLOB support CONFIGURE_DEPENDS Test/Support/*.cpp)
     add_executable(${target} ${sources} ${support})
-    target_include_directories(${target} PRIVATE ${rooms})
+    target_include_directories(${target} PRIVATE Test ${rooms})
     target_link_libraries(${target} PRIVATE ${ARG_LINK} GTest::gtest_main)
     target_compile_definitions(${target} PRIVATE ${ARG_DEFINITIONS})
     mek_set_warnings(${target})

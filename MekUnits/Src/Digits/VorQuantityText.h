@@ -35,8 +35,6 @@ public:
     VorString text() const { return VorString(m_text, m_nLength); }
 
 private:
-    static VorString ofLongDecimal(bool isNegative, std::uint64_t parts, int numDecimals, int suppressLastZeros);
-
     static constexpr int kRoom = 80; // the longest are feet and inches: sign, 14 digits, marks, 2 digits and 9 decimals
 
     wchar_t m_text[kRoom];

@@ -1,0 +1,174 @@
+#include "PartsRows.h"
+
+#include "CellNumber.h"
+#include "InputUnits.h"
+#include "MessageText.h"
+#include "Utf8.h"
+
+#include "VorBomDataTuple.h"
+
+#include <cmath>
+
+namespace mekbom
+{
+namespace
+{
+std::string fieldCount(std::size_t numFields)
+{
+    return std::to_string(numFields) + (numFields == 1 ? " field" : " fields");
+}
+}
+
+PartsRows::PartsRows(const std::vector<PartsColumn>& columns, const RecordSource& source, VorBomData& data)
+    : m_columns(columns), m_source(source), m_data(data), m_rows(data, columns.size()), m_contentColumns(columns.size())
+{
+}
+
+void PartsRows::numberRows(const VorString& handleToken)
+{
+    m_numberToken = handleToken;
+}
+
+void PartsRows::add(const Record& record)
+{
+    if (!checkNumCells(record))
+        return;
+    m_rows.beginRow();
+    if (m_numberToken.isEmpty() == 0)
+        addNumberAsHandle();
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        if (!record[i].isNothing())
+            readCell(i, record[i]);
+    if (m_rows.isFull())
+        m_rows.build();
+}
+
+// The columns whose type was open are filled in last: `takeNext` gives their cells in the order of the rows.
+void PartsRows::finish()
+{
+    m_faults.throwIfAny();
+    m_rows.build();
+    std::vector<std::size_t> openColumns;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        if (m_columns[i].isWanted && m_columns[i].type == VorBomDataValue::kUnknownData)
+            openColumns.push_back(i);
+    if (openColumns.empty())
+        return;
+    for (VorBomItemBase* pRow = m_data.child(); pRow != nullptr; pRow = pRow->next())
+        for (const std::size_t column : openColumns)
+            if (VorBomDataTuple* pTuple = pRow->getTupleAt(m_columns[column].tupleToken))
+                pTuple->value() = m_contentColumns[column].takeNext();
+}
+
+bool PartsRows::checkNumCells(const Record& record)
+{
+    if (record.size() == m_columns.size())
+        return true;
+    m_faults.add(m_source.name() + ":" + std::to_string(m_source.findingInRecord().begin.line) + ": found " +
+                 fieldCount(record.size()) + ", expected " + std::to_string(m_columns.size()) +
+                 " as in the header row");
+    return false;
+}
+
+void PartsRows::readCell(std::size_t column, const RecordCell& cell)
+{
+    switch (m_columns[column].type)
+    {
+        case VorBomDataValue::kIntData: readWhole(column, textOf(cell)); break;
+        case VorBomDataValue::kDoubleData: readNumber(column, cell); break;
+        default: readText(column, textOf(cell)); break;
+    }
+}
+
+std::string_view PartsRows::textOf(const RecordCell& cell)
+{
+    if (!cell.isNumber())
+        return cell.text();
+    m_numberText = cell.asText();
+    return m_numberText;
+}
+
+void PartsRows::readWhole(std::size_t column, std::string_view text)
+{
+    int value = 0;
+    if (!CellNumber::parse(text, value))
+        addFault(column, text,
+                 CellNumber::isWhole(text) ? "a whole number from -2147483648 to 2147483647" : "a whole number");
+    else if (m_columns[column].isWanted)
+        m_rows.add(m_columns[column].tupleToken, value);
+}
+
+void PartsRows::readNumber(std::size_t column, const RecordCell& cell)
+{
+    const PartsColumn& properties = m_columns[column];
+    double value = 0;
+    if (!readPlainNumber(column, cell, value))
+    {
+        if (!readQuantity(column, textOf(cell), value))
+            return;
+    }
+    else if (!properties.isInModelUnit)
+        value = properties.unit->getVorUnitTransform().toInternalUnits(value);
+    if (!std::isfinite(value))
+        addFault(column, textOf(cell), "a smaller number");
+    else if (properties.isWanted)
+        m_rows.add(properties.tupleToken, value);
+}
+
+bool PartsRows::readPlainNumber(std::size_t column, const RecordCell& cell, double& value) const
+{
+    if (!m_columns[column].takesPlainNumbers)
+        return false;
+    if (!cell.isNumber())
+        return CellNumber::parse(cell.text(), value);
+    value = cell.number();
+    return true;
+}
+
+void PartsRows::readText(std::size_t column, std::string_view text)
+{
+    const PartsColumn& properties = m_columns[column];
+    if (properties.isHandle)
+        return readHandle(column, text);
+    if (!properties.isWanted)
+        return;
+    if (properties.type == VorBomDataValue::kStringData)
+        return m_rows.addText(properties.tupleToken, column, text);
+    m_contentColumns[column].add(text);
+    m_rows.add(properties.tupleToken, 0); // a place for the value that finish() sets
+}
+
+void PartsRows::readHandle(std::size_t column, std::string_view text)
+{
+    m_rows.setHandle(text);
+    if (m_columns[column].isWanted)
+        m_rows.addHandle(m_columns[column].tupleToken);
+}
+
+// A cell that is more than a number.
+bool PartsRows::readQuantity(std::size_t column, std::string_view text, double& value)
+{
+    const PartsColumn& properties = m_columns[column];
+    const VorString wideText = Utf8::toWide(text);
+    if (properties.quantities && properties.quantities->read(wideText, value) == 1)
+        return true;
+    const std::string hint = properties.quantities ? Utf8::toBytes(properties.quantities->explain(wideText)) : "";
+    addFault(column, text,
+             (properties.unit ? InputUnits::cellExpectation(*properties.unit) : "a number") +
+                 (hint.empty() ? "" : ": " + hint));
+    return false;
+}
+
+void PartsRows::addFault(std::size_t column, std::string_view text, const std::string& expected)
+{
+    m_faults.add(m_source.name() + ":" + std::to_string(m_source.findingInCell(column).begin.line) + ": column " +
+                 inQuotes(m_columns[column].name) + ": found " + inQuotes(text) + ", expected " + expected);
+}
+
+void PartsRows::addNumberAsHandle()
+{
+    ++m_numRows;
+    m_rows.setHandle(std::to_string(m_numRows));
+    m_rows.addHandle(m_numberToken);
+}
+}

@@ -1,0 +1,90 @@
+#include "Finding.h"
+
+#include "FindingCodes.h"
+
+#include <gtest/gtest.h>
+
+namespace mekbom
+{
+namespace
+{
+Finding cellFinding()
+{
+    Finding finding;
+    finding.source = "parts.csv";
+    finding.begin.line = 3;
+    finding.field = "Weight";
+    finding.found = "\"n/a\"";
+    finding.expected = "a number";
+    return finding;
+}
+}
+
+TEST(FindingTest, NamesPlaceFoundAndExpected)
+{
+    EXPECT_EQ("parts.csv:3: column \"Weight\": found \"n/a\", expected a number", messageOf(cellFinding()));
+}
+
+TEST(FindingTest, NamesTheColumnOfTheTextAndThePathInATemplate)
+{
+    Finding finding;
+    finding.source = "list.json";
+    finding.begin = { 12, 34 };
+    finding.path = "/columns/0/width";
+    finding.found = "the number 500";
+    finding.expected = "one from 1 to 200";
+
+    EXPECT_EQ("list.json:12:34: /columns/0/width: found the number 500, expected one from 1 to 200",
+              messageOf(finding));
+}
+
+TEST(FindingTest, AStatementStandsForItself)
+{
+    Finding finding;
+    finding.source = "parts.csv";
+    finding.statement = "cannot be read: No such file or directory";
+
+    EXPECT_EQ("parts.csv: cannot be read: No such file or directory", messageOf(finding));
+}
+
+TEST(FindingTest, TheRemedyComesLast)
+{
+    Finding finding = cellFinding();
+    finding.remedy = "leave the cell empty";
+
+    EXPECT_EQ("parts.csv:3: column \"Weight\": found \"n/a\", expected a number: leave the cell empty",
+              messageOf(finding));
+}
+
+TEST(FindingTest, WithoutAPlaceOnlyTheContentIsSaid)
+{
+    EXPECT_EQ("found nothing", messageOf(Finding::of(FindingCodes::kNoHeaderRow, "nothing")));
+}
+
+TEST(FindingTest, ASentenceNeedsNoPlaceInFront)
+{
+    Finding finding = Finding::saying(FindingCodes::kColumnMissing, "parts.csv has no column for %Weight");
+    finding.source = "parts.csv";
+    finding.begin = { 1, 1 };
+
+    EXPECT_EQ("parts.csv has no column for %Weight", messageOf(finding));
+}
+
+TEST(FindingTest, AFieldIsNamedInsteadOfTheColumnOfTheText)
+{
+    Finding finding = cellFinding();
+    finding.begin.column = 17;
+    finding.field = "A\nB";
+
+    EXPECT_EQ("parts.csv:3: column \"A?B\": found \"n/a\", expected a number", messageOf(finding));
+}
+
+TEST(FindingTest, CodeAndSeverityAreThoseOfTheCode)
+{
+    const Finding finding = Finding::stating(FindingCodes::kSectionNotEvaluated, "is not evaluated");
+
+    EXPECT_EQ("MB813", finding.code);
+    EXPECT_EQ(Finding::kNote, finding.severity);
+    EXPECT_EQ(Finding::kError, Finding::of(FindingCodes::kNoJson, "no valid JSON").severity);
+}
+}

@@ -1,0 +1,376 @@
+#include "PartsList.h"
+
+#include "CsvReader.h"
+
+#include "TemplateReader.h"
+#include "Utf8.h"
+
+#include "Support/HostTestSupport.h"
+
+#include "MekRoots/Test/Support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace mekbom
+{
+namespace
+{
+// Hands over the records it is made with; each stands on a line of its own.
+class FakeSource : public RecordSource
+{
+public:
+    explicit FakeSource(std::vector<Record> records) : m_records(std::move(records)) {}
+
+    const std::string& name() const override { return m_name; }
+    const Record* next() override { return m_next < m_records.size() ? &m_records[m_next++] : nullptr; }
+
+    Finding findingInRecord() const override
+    {
+        Finding finding;
+        finding.source = m_name;
+        finding.begin.line = static_cast<int>(m_next);
+        return finding;
+    }
+
+    Finding findingInCell(std::size_t) const override { return findingInRecord(); }
+
+private:
+    std::string m_name = "parts.xyz";
+    std::vector<Record> m_records;
+    std::size_t m_next = 0;
+};
+
+// A template whose details show these tokens.
+ReportTemplate templateShowing(const std::vector<std::string>& tokens)
+{
+    std::string tuples;
+    for (const std::string& token : tokens)
+        tuples += (tuples.empty() ? "" : ",") + ("{ \"token\": \"" + token + "\" }");
+    ReportTemplate shown = TemplateReader::read(
+        "list.json", "{ \"sections\": [ { \"type\": \"kDetails\", \"tuples\": [" + tuples + "] } ] }");
+    shown.pTemplate->setUnitsForTokens(nullptr);
+    shown.pTemplate->findUsedTokens();
+    return shown;
+}
+
+std::vector<std::string> tokensOf(const PartsList& parts)
+{
+    std::vector<std::string> tokens;
+    for (const PartsColumn& column : parts.columns())
+        tokens.push_back(column.token);
+    return tokens;
+}
+
+char letterOf(VorBomDataValue::eBomDataValueType type)
+{
+    return "?idt"[type];
+}
+
+// The rows of a parts list, one per line, all columns wanted: "A1: [%Weight d 2.5]". The letter is the value's type.
+std::string rowsOf(PartsList& parts)
+{
+    const ReportTemplate shown = templateShowing(tokensOf(parts));
+    parts.readRows(*shown.pTemplate, QueryFilter());
+    std::string rows;
+    for (VorBomItemBase* pRow = shown.pTemplate->getBomData()->child(); pRow != nullptr; pRow = pRow->next())
+    {
+        rows += toUtf8(static_cast<VorBomDataRow*>(pRow)->objectHandle()) + ":";
+        for (const VorBomDataTuple& tuple : pRow->getData())
+            rows += " [" + toUtf8(tuple.token().token()) + " " + letterOf(tuple.value().type()) + " " +
+                    toUtf8(tuple.value().asString()) + "]";
+        rows += "\n";
+    }
+    return rows;
+}
+
+std::string rowsOf(const std::string& text)
+{
+    TextSource source(text);
+    CsvReader records(source);
+    PartsList parts(records);
+    return rowsOf(parts);
+}
+
+std::string faultIn(const std::string& text)
+{
+    return faultOf([&text] { rowsOf(text); });
+}
+}
+
+TEST(PartsListTest, TheCatalogueDecidesTheTypeOfAColumn)
+{
+    EXPECT_EQ(": [%Name t 120] [%Quantity i 4] [%Weight d 5]\n", rowsOf("%Name,%Quantity,%Weight\n120,4,5\n"));
+}
+
+TEST(PartsListTest, ThePercentSignMayBeLeftOut)
+{
+    EXPECT_EQ(": [%Name t 120] [%Quantity i 4] [%Weight d 5]\n", rowsOf("Name, Quantity ,Weight\n120,4,5\n"));
+}
+
+TEST(PartsListTest, UnknownColumnsHaveTheTypeOfTheirContent)
+{
+    EXPECT_EQ(": [%A i 4] [%B d 4] [%C t 4]\n"
+              ": [%B d 2.5] [%C t x]\n"
+              ": [%A i 5]\n",
+              rowsOf("A,B,C\n4,4,4\n,2.5,x\n5,,\n"));
+}
+
+TEST(PartsListTest, AnEmptyCellIsNoDatum)
+{
+    EXPECT_EQ(": [%Weight d 5]\n: [%Name t x]\n:\n", rowsOf("%Name,%Weight\n,5\nx,\n\"\",\"\"\n"));
+}
+
+TEST(PartsListTest, TheHandleIsTheRowsIdentityAndADatum)
+{
+    EXPECT_EQ("007: [%Handle t 007] [%Weight d 1]\n8: [%Handle t 8]\n: [%Weight d 2]\n",
+              rowsOf("Handle,%Weight\n007,1\n8,\n,2\n"));
+}
+
+TEST(PartsListTest, RowsWithoutHandleColumnAreNumberedForATemplateThatAsks)
+{
+    TextSource source("%Weight\n5\n6\n");
+    CsvReader records(source);
+    PartsList parts(records);
+    const ReportTemplate shown = templateShowing({ "%Weight", "%Handle" });
+
+    parts.readRows(*shown.pTemplate, QueryFilter());
+
+    const auto* const pSecond = static_cast<VorBomDataRow*>(shown.pTemplate->getBomData()->child()->next());
+    EXPECT_EQ(VorString(L"2"), pSecond->objectHandle());
+    EXPECT_EQ(VorString(L"2"), pSecond->getTupleAt(L"%Handle")->value().asString());
+}
+
+TEST(PartsListTest, OnlyWhatTheTemplateOrTheFilterAsksForIsKept)
+{
+    TextSource source("%Name,%Weight,%BoltName,Extra\nHEA200,5,M16,x\n");
+    CsvReader records(source);
+    PartsList parts(records);
+    const ReportTemplate shown = templateShowing({ "%SumBy:%Weight" });
+    QueryFilter filter;
+    QueryFilter::parse("!%BoltName", filter);
+
+    parts.readRows(*shown.pTemplate, filter);
+
+    VorBomItemBase* const pRow = shown.pTemplate->getBomData()->child();
+    ASSERT_EQ(2, pRow->getData().length());
+    EXPECT_NE(nullptr, pRow->getTupleAt(L"%Weight"));
+    EXPECT_NE(nullptr, pRow->getTupleAt(L"%BoltName"));
+}
+
+TEST(PartsListTest, TokensAndEqualTextsAreShared)
+{
+    TextSource source("%Name,Extra\nHEA200,x\nHEA200,x\n");
+    CsvReader records(source);
+    PartsList parts(records);
+    const ReportTemplate shown = templateShowing({ "%Name", "%Extra" });
+    parts.readRows(*shown.pTemplate, QueryFilter());
+    const VorBomItemBase* const pFirst = shown.pTemplate->getBomData()->child();
+
+    for (int i = 0; i < 2; ++i)
+    {
+        const VorBomDataTuple& first = pFirst->getData()[i];
+        const VorBomDataTuple& second = pFirst->next()->getData()[i];
+        EXPECT_TRUE(first.token().token().sharesTextWith(second.token().token()));
+        EXPECT_TRUE(static_cast<VorString*>(first.value().data())
+                        ->sharesTextWith(*static_cast<VorString*>(second.value().data())));
+    }
+}
+
+TEST(PartsListTest, UnitsOfTheHeaderRowConvert)
+{
+    EXPECT_EQ(": [%Length d 2286] [%Weight d 0.453592] [%Paint d 2.5e+06] [%Cut d 25.4]\n",
+              rowsOf("Length [ft],%Weight [lb],Paint [m2],Cut [in]\n7.5,1,2.5,1\n"));
+}
+
+TEST(PartsListTest, UnitsOfTheUserConvert)
+{
+    TextSource source("%Paint\n2.5\n");
+    CsvReader records(source);
+    PartsList parts(records);
+    parts.setInputUnit("%Paint", "m2");
+    const ReportTemplate shown = templateShowing({ "%Paint" });
+
+    parts.readRows(*shown.pTemplate, QueryFilter());
+
+    EXPECT_EQ(VorString(L"2.5e+06"), shown.pTemplate->getBomData()->child()->getData()[0].value().asString());
+}
+
+TEST(PartsListTest, CellsMayCarryUnitsOfTheirOwn)
+{
+    EXPECT_EQ(": [%Length d 2298.7] [%Weight d 45.3592]\n"
+              ": [%Length d 2286] [%Weight d 5]\n"
+              ": [%Length d 6000] [%Weight d 1000]\n",
+              rowsOf("Length,Weight\n\"7'-6 1/2\"\"\",100 lb\n7.5 ft,5\n6000,1 t\n"));
+    EXPECT_EQ(": [%Length d 304.8]\n: [%Length d 25.4]\n: [%Length d 10]\n", rowsOf("Length [ft]\n1\n1 in\n10 mm\n"));
+    EXPECT_EQ(": [%Cut d 25.4]\n: [%Cut d 304.8]\n", rowsOf("Cut [in]\n1\n1'\n"));
+}
+
+TEST(PartsListTest, ColumnsOfFeetAndInchesTakeMarksAndOtherUnits)
+{
+    EXPECT_EQ(": [%Length d 2286]\n: [%Length d 2000]\n", rowsOf("Length [ft-in]\n\"7'-6\"\"\"\n2 m\n"));
+    EXPECT_EQ("3 parts.csv:2: column \"Length [ft-in]\": found \"90\", expected feet and inches such as 7'-6 1/2\": "
+              "every number needs its mark\n",
+              faultIn("Length [ft-in]\n90\n"));
+    EXPECT_EQ("3 parts.csv:2: column \"Bevel [deg-min-sec]\": found \"x\", expected degrees and minutes such as "
+              "12\u00B030'\n",
+              faultIn("Bevel [deg-min-sec]\nx\n"));
+}
+
+TEST(PartsListTest, CellsThatAreNoQuantitiesAreNamedWithTheirPlace)
+{
+    EXPECT_EQ("3 parts.csv:2: column \"Length\": found \"7.5 fot\", expected a number: \"fot\" is no unit\n"
+              "3 parts.csv:3: column \"Length\": found \"7.5 kg\", expected a number: \"kg\" is a unit of another "
+              "kind\n"
+              "3 parts.csv:4: column \"Length\": found \"1,234.5\", expected a number: digits are not grouped, and the "
+              "decimal sign is a point\n"
+              "3 parts.csv:5: column \"Length\": found \"7'-6\", expected a number: every number needs its mark\n"
+              "3 parts.csv:6: column \"Length\": found \"nan\", expected a number\n",
+              faultIn("Length\n7.5 fot\n7.5 kg\n\"1,234.5\"\n7'-6\nnan\n"));
+}
+
+TEST(PartsListTest, NumbersOfNoKindCarryNoUnits)
+{
+    EXPECT_EQ(": [%Cut t 7.5 ft]\n", rowsOf("Cut\n7.5 ft\n"));
+    EXPECT_EQ("3 parts.csv:2: column \"Quantity\": found \"4 kg\", expected a whole number\n",
+              faultIn("Quantity\n4 kg\n"));
+}
+
+TEST(PartsListTest, UnitsThatDoNotFitAreNamed)
+{
+    EXPECT_EQ("3 parts.csv:1: column \"Length [kg]\": found unit \"kg\", expected a unit of distance such as mm, m, in "
+              "or ft\n",
+              faultIn("Length [kg]\n1\n"));
+    EXPECT_EQ(
+        "3 parts.csv:1: column \"Cut [fot]\": found unit \"fot\", expected a unit such as mm, m, ft, kg, lb or m2\n",
+        faultIn("Cut [fot]\n1\n"));
+    EXPECT_EQ(
+        "3 parts.csv:1: column \"Quantity [kg]\": found unit \"kg\", expected none: %Quantity is a whole number\n",
+        faultIn("Quantity [kg]\n1\n"));
+    EXPECT_EQ("3 parts.csv:1: column \"Name [mm]\": found unit \"mm\", expected none: %Name is a text\n",
+              faultIn("Name [mm]\n1\n"));
+    EXPECT_EQ("3 parts.csv:1: column \"Handle [mm]\": found unit \"mm\", expected none: %Handle is a text\n",
+              faultIn("Handle [mm]\n1\n"));
+}
+
+TEST(PartsListTest, UnitsOfTheUserAreTheUsersToMend)
+{
+    TextSource source("%Paint,%Length [mm],%Name\n2.5,1,x\n");
+    CsvReader records(source);
+    PartsList parts(records);
+    const auto faultWith = [&parts](const char* token, const char* unit)
+    { return faultOf([&parts, token, unit] { parts.setInputUnit(token, unit); }); };
+
+    EXPECT_EQ("2 --input-unit %Pant=m2: parts.csv has no column \"%Pant\"\n", faultWith("%Pant", "m2"));
+    EXPECT_EQ("2 --input-unit %Length=m: the column gives its unit already, \"mm\"\n", faultWith("%Length", "m"));
+    EXPECT_EQ("", faultWith("%Length", "mm"));
+    EXPECT_EQ("", faultWith("%Paint", "kg"));
+    EXPECT_EQ("2 --input-unit %Paint=kg: found unit \"kg\", expected a unit of area such as mm2, m2 or ft2\n",
+              faultOf([&parts] { parts.readRows(*templateShowing({ "%Paint" }).pTemplate, QueryFilter()); }));
+}
+
+TEST(PartsListTest, CellsThatAreNoNumbersAreNamedWithTheirPlace)
+{
+    EXPECT_EQ("3 parts.csv:3: column \"Weight\": found \"abc\", expected a number\n"
+              "3 parts.csv:4: column \"%Quantity\": found \"2.5\", expected a whole number\n"
+              "3 parts.csv:5: column \"%Quantity\": found \"3000000000\", expected a whole number from -2147483648 to "
+              "2147483647\n"
+              "3 parts.csv:6: column \"Weight\": found \"1,5\", expected a number: digits are not grouped, and the "
+              "decimal sign is a point\n",
+              faultIn("Weight,%Quantity\n1,1\nabc,1\n1,2.5\n1,3000000000\n\"1,5\",1\n"));
+}
+
+TEST(PartsListTest, PlacesCountLinesWithinQuotes)
+{
+    EXPECT_EQ("3 parts.csv:4: column \"Weight\": found \"abc\", expected a number\n",
+              faultIn("Name,Weight\n\"one\ntwo\n\",abc\n"));
+}
+
+TEST(PartsListTest, CellsOfAColumnWithUnitAreNumbers)
+{
+    EXPECT_EQ("3 parts.csv:2: column \"Cut [in]\": found \"x\", expected a number\n", faultIn("Cut [in]\nx\n"));
+    EXPECT_EQ("3 parts.csv:2: column \"Cut [in]\": found \"1e308\", expected a smaller number\n",
+              faultIn("Cut [in]\n1e308\n"));
+}
+
+TEST(PartsListTest, CellsAreCheckedEvenIfNobodyWantsThem)
+{
+    TextSource source("%Name,%Weight\nx,abc\n");
+    CsvReader records(source);
+    PartsList parts(records);
+    const ReportTemplate shown = templateShowing({ "%Name" });
+
+    EXPECT_EQ("3 parts.csv:2: column \"%Weight\": found \"abc\", expected a number\n",
+              faultOf([&] { parts.readRows(*shown.pTemplate, QueryFilter()); }));
+}
+
+// What a format with numbers of its own hands over.
+TEST(PartsListTest, StoredNumbersAreTakenAsTheyAreAndAsTextsWhereTheColumnHasTexts)
+{
+    const auto text = [](const char* pText) { return RecordCell(std::string_view(pText)); };
+    FakeSource source({ { text("Handle"), text("Name"), text("Quantity"), text("Length [m]"), text("Other") },
+                        { RecordCell(7.0), RecordCell(120.5), RecordCell(4.0), RecordCell(0.1), RecordCell(3.0) },
+                        { RecordCell(), RecordCell(), RecordCell(), text("1 ft"), RecordCell(2.5) } });
+    PartsList parts(source);
+
+    EXPECT_EQ("7: [%Handle t 7] [%Name t 120.5] [%Quantity i 4] [%Length d 100] [%Other d 3]\n"
+              ": [%Length d 304.8] [%Other d 2.5]\n",
+              rowsOf(parts));
+}
+
+TEST(PartsListTest, StoredNumbersThatDoNotFitAreNamedAsTextsAre)
+{
+    FakeSource source({ { RecordCell(std::string_view("Quantity")), RecordCell(std::string_view("Length [ft-in]")) },
+                        { RecordCell(2.5), RecordCell(90.0) },
+                        { RecordCell(3e9), RecordCell() } });
+    PartsList parts(source);
+
+    EXPECT_EQ("3 parts.xyz:2: column \"Quantity\": found \"2.5\", expected a whole number\n"
+              "3 parts.xyz:2: column \"Length [ft-in]\": found \"90\", expected feet and inches such as 7'-6 1/2\": "
+              "every number needs its mark\n"
+              "3 parts.xyz:3: column \"Quantity\": found \"3000000000\", expected a whole number from -2147483648 to "
+              "2147483647\n",
+              faultOf([&parts] { rowsOf(parts); }));
+}
+
+TEST(PartsListTest, RaggedRowsAreNamedWithBothCounts)
+{
+    EXPECT_EQ("3 parts.csv:2: found 1 field, expected 2 as in the header row\n"
+              "3 parts.csv:4: found 3 fields, expected 2 as in the header row\n",
+              faultIn("a,b\n1\n1,2\n1,2,3\n"));
+}
+
+TEST(PartsListTest, TheHeaderRowNamesEachColumnOnce)
+{
+    EXPECT_EQ("3 parts.csv:1: found column \"%Weight\" a second time\n", faultIn("Weight,%Weight [kg]\n"));
+    EXPECT_EQ("3 parts.csv:1: found no name in field 2, expected a column name\n", faultIn("a,,b\n"));
+    EXPECT_EQ("3 parts.csv: found nothing, expected a header row with column names\n", faultIn(""));
+    EXPECT_EQ("3 parts.csv: found nothing, expected a header row with column names\n", faultIn("\n\n"));
+}
+
+TEST(PartsListTest, OtherSeparatorsAreRecognised)
+{
+    EXPECT_EQ("3 parts.csv:1: found one column \"Name;Weight\", expected commas between columns (is the file separated "
+              "by ;?)\n",
+              faultIn("Name;Weight\nHEA200;5\n"));
+    EXPECT_EQ("3 parts.csv:1: found one column \"Name?Weight\", expected commas between columns (is the file separated "
+              "by tabs?)\n",
+              faultIn("Name\tWeight\nHEA200\t5\n"));
+}
+
+TEST(PartsListTest, AHeaderRowAloneIsAListWithoutRows)
+{
+    EXPECT_EQ("", rowsOf("%Name,%Weight\n"));
+}
+
+TEST(PartsListTest, NothingIsLeakedByARefusedList)
+{
+    const LeakCheck leakCheck;
+
+    EXPECT_NE("", faultIn("%Name,%Weight\nx,1\ny,2\nz,abc\n"));
+}
+}

@@ -1,0 +1,123 @@
+#include "CommandLine.h"
+#include "CsvReader.h"
+#include "DisplaySettings.h"
+#include "FileSource.h"
+#include "PartsList.h"
+#include "Report.h"
+#include "TemplateReader.h"
+#include "UnitChoice.h"
+
+#include "Support/HostTestSupport.h"
+#include "Support/ReportTestSupport.h"
+
+#include "MekRoots/Exp/KTRepositoryProxy.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <sstream>
+#include <string>
+#include <vector>
+
+// Whole reports as folders of plain text, each named after the rule that it shows:
+//
+//   data.csv             the parts list
+//   template.json        the template, with the rule told on top
+//   arguments.txt        options of `mekbom report`, if there are any
+//   expected.list.txt    the evaluated sections
+//   expected.table.txt   the printed table
+//
+// With MEK_REWRITE_CASES=1 in the environment the expected files are written anew. Read the difference before you
+// believe it.
+
+namespace mekbom
+{
+namespace
+{
+namespace fs = std::filesystem;
+
+std::vector<std::string> caseNames()
+{
+    std::vector<std::string> names;
+    for (const fs::directory_entry& entry : fs::directory_iterator(MEK_CASES_DIR))
+        if (entry.is_directory())
+            names.push_back(entry.path().filename().string());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+// "footer-skips-duplicate-details" -> "FooterSkipsDuplicateDetails"
+std::string testName(const testing::TestParamInfo<std::string>& info)
+{
+    std::string name;
+    bool startsWord = true;
+    for (const char c : info.param)
+    {
+        if (c != '-')
+            name += startsWord ? static_cast<char>(std::toupper(static_cast<unsigned char>(c))) : c;
+        startsWord = c == '-';
+    }
+    return name;
+}
+
+ReportOptions optionsOf(const fs::path& folder)
+{
+    std::vector<std::string> words = { "mekbom", "report" };
+    std::istringstream text(readFile(folder / "arguments.txt"));
+    for (std::string word; text >> word;)
+        words.push_back(word);
+    std::vector<const char*> arguments;
+    for (const std::string& word : words)
+        arguments.push_back(word.c_str());
+    return CommandLine::parse(static_cast<int>(arguments.size()), arguments.data()).options;
+}
+
+void hold(const fs::path& file, const std::string& text)
+{
+    const char* const pRewrite = std::getenv("MEK_REWRITE_CASES");
+    if (pRewrite != nullptr && std::string(pRewrite) == "1")
+        writeFile(file, text);
+    EXPECT_EQ(readFile(file), text) << file;
+}
+
+// The report that the folder describes, not evaluated yet.
+std::unique_ptr<Report> readReport(const fs::path& folder)
+{
+    const ReportOptions options = optionsOf(folder);
+    DisplaySettings::load(options.settingsFile, options.settings);
+    auto pReport = std::make_unique<Report>(TemplateReader::read("template.json", readFile(folder / "template.json")),
+                                            UnitChoice::unitsOf(options.units, options.unitChoices));
+    FileSource file((folder / "data.csv").string());
+    CsvReader records(file);
+    PartsList parts(records);
+    for (const auto& [token, unit] : options.inputUnits)
+        parts.setInputUnit(token, unit);
+    parts.readRows(pReport->engineTemplate(), pReport->queryFilter());
+    return pReport;
+}
+
+// The settings repository is shared by the process: every case ends with an empty one.
+class CaseFolderTest : public testing::TestWithParam<std::string>
+{
+protected:
+    ~CaseFolderTest() override { KTRepositoryProxy::clear(); }
+};
+}
+
+TEST_P(CaseFolderTest, GivesTheExpectedTexts)
+{
+    const fs::path folder = fs::path(MEK_CASES_DIR) / GetParam();
+    const std::unique_ptr<Report> pReport = readReport(folder);
+
+    pReport->evaluate();
+
+    hold(folder / "expected.list.txt", listOf(*readReport(folder)));
+    hold(folder / "expected.table.txt", tableOf(*pReport));
+}
+
+INSTANTIATE_TEST_SUITE_P(Folders, CaseFolderTest, testing::ValuesIn(caseNames()), testName);
+}

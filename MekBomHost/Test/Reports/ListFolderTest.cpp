@@ -1,0 +1,84 @@
+#include "Support/HostTestSupport.h"
+#include "Support/ProgramRun.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <sstream>
+#include <string>
+
+// Whole lists as folders of plain text: see Lists/README.md.
+
+namespace mekbom
+{
+namespace
+{
+namespace fs = std::filesystem;
+
+const std::string kExamples = "{examples}";
+const std::string kRealData = "{real data}";
+
+std::string replaced(std::string text, const std::string& word, const std::string& by)
+{
+    for (std::size_t at = text.find(word); at != std::string::npos; at = text.find(word, at + by.size()))
+        text.replace(at, word.size(), by);
+    return text;
+}
+
+// What the command lines of a folder print, each led by itself.
+std::string printedBy(const fs::path& folder)
+{
+    std::istringstream commands(readFile(folder / "arguments.txt"));
+    std::string text;
+    for (std::string command; std::getline(commands, command);)
+    {
+        const ProgramRun run =
+            runProgram(replaced(replaced(command, kExamples, MEK_EXAMPLES_DIR), kRealData, MEK_REAL_DATA_DIR));
+        EXPECT_EQ(0, run.status) << run.errors;
+        text += "$ mekbom " + command + "\n" + run.output + "\n";
+    }
+    return text;
+}
+
+void expectList(const std::string& name)
+{
+    const fs::path folder = fs::path(MEK_TEST_DIR) / "Reports" / "Lists" / name;
+    const std::string text = printedBy(folder);
+    const char* const pRewrite = std::getenv("MEK_REWRITE_CASES");
+    if (pRewrite != nullptr && std::string(pRewrite) == "1")
+        writeFile(folder / "expected.txt", text);
+    EXPECT_EQ(readFile(folder / "expected.txt"), text);
+}
+
+class RealListFolderTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        if (std::string(MEK_REAL_DATA_DIR).empty())
+            GTEST_SKIP() << "no real data: configure with -DMEK_REAL_DATA_DIR=<folder of steel-frame.csv>";
+    }
+};
+}
+
+TEST(ListFolderTest, TheHallPrintsInMetricUnits)
+{
+    expectList("hall-metric");
+}
+
+TEST(ListFolderTest, TheHallPrintsInImperialUnits)
+{
+    expectList("hall-imperial");
+}
+
+TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
+{
+    expectList("frame-metric");
+}
+
+TEST_F(RealListFolderTest, TheFramePrintsInImperialUnits)
+{
+    expectList("frame-imperial");
+}
+}
