@@ -19,6 +19,13 @@ void FaultList::throwIfAny() const
     std::vector<std::string> messages = m_messages;
     if (m_numNotShown > 0)
         messages.push_back("and " + std::to_string(m_numNotShown) + " more faults");
-    throw Fault(kInvalidInput, std::move(messages));
+    std::vector<Finding> findings;
+    for (const std::string& message : messages)
+    {
+        Finding finding;
+        finding.statement = message;
+        findings.push_back(finding);
+    }
+    throw Fault(kInvalidInput, std::move(findings));
 }
 }

@@ -107,7 +107,7 @@ std::vector<std::string> wordsOf(const std::string& line)
     return words;
 }
 
-const char* const kFrameWeights = MEK_TEST_DIR "/Templates/frame-weights.json";
+const char* const kFrameWeights = MEK_TEST_DIR "/Reports/frame-weights.json";
 }
 
 TEST_F(RealDataTest, EveryRowOfTheFrameIsRead)

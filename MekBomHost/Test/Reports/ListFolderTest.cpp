@@ -43,7 +43,7 @@ std::string printedBy(const fs::path& folder)
 
 void expectList(const std::string& name)
 {
-    const fs::path folder = fs::path(MEK_TEST_DIR) / "Lists" / name;
+    const fs::path folder = fs::path(MEK_TEST_DIR) / "Reports" / "Lists" / name;
     const std::string text = printedBy(folder);
     const char* const pRewrite = std::getenv("MEK_REWRITE_CASES");
     if (pRewrite != nullptr && std::string(pRewrite) == "1")
