@@ -3,7 +3,7 @@
 #include "ColumnType.h"
 #include "Utf8.h"
 
-#include "MekRoots/Exp/VorUnitDefinition.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
 
 namespace mekbom
 {

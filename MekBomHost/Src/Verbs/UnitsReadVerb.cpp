@@ -7,8 +7,8 @@
 #include "UnitsVerb.h"
 #include "Utf8.h"
 
-#include "MekRoots/Exp/VorQuantityReader.h"
-#include "MekRoots/Exp/VorUnitDefinition.h"
+#include "MekUnits/Src/VorQuantityReader.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
 
 #include <CLI/CLI.hpp>
 

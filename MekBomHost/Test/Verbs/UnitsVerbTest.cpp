@@ -2,7 +2,7 @@
 
 #include "Support/ProgramRun.h"
 
-#include "MekRoots/Exp/VorUnitDefinition.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
 #include "MekRoots/Exp/VorUnitsTransformArray.h"
 #include "MekRoots/Test/Support/TestSupport.h"
 
