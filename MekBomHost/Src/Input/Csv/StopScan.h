@@ -3,11 +3,20 @@
 // passes over 64 at a time.
 //
 //   StopScan scan;
-//   scan.begin(pBytes, pBytes + 8);       "S355,12\n"
-//   scan.next()  ->  pBytes + 4, pBytes + 7, then pBytes + 8 for good
+//   scan.begin(pBytes, pBytes + 8);       // "S355,12\n"
+//   scan.next();                          // pBytes + 4, then pBytes + 7, then pBytes + 8 for good
+//
+// Eight bytes are looked at as one number, here the first eight of "S355,12\n", the lowest on the left:
+//
+//   bytes                  'S'  '3'  '5'  '5'  ','  '1'  '2'  '\n'
+//                           53   33   35   35   2C   31   32   0A
+//   each plus 7F - 2C       A6   86   88   88   7F   84   85   5D      below 80 where the byte is at most a comma
+//   the bits that stop       0    0    0    0    1    0    0    1      their highest bits inverted, brought together
 #pragma once
 
 #include "ByteWord.h"
+
+#include "MekRoots/Exp/VorBits.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -36,7 +45,7 @@ public:
                 return m_pEnd;
             takeBlock();
         }
-        const char* const pStop = m_pBlock + ByteWord::lowestBit(m_stops);
+        const char* const pStop = m_pBlock + VorBits::lowestBit(m_stops);
         m_stops &= m_stops - 1;
         return pStop;
     }
