@@ -1,5 +1,7 @@
 #include "MekRoots/Exp/KTIniReader.h"
 
+#include "MekRoots/Exp/VorCharacters.h"
+
 #include <algorithm>
 
 namespace
@@ -8,9 +10,7 @@ const wchar_t kByteOrderMark = L'\uFEFF';
 
 std::wstring trimmed(const std::wstring& text)
 {
-    const wchar_t* const blanks = L" \t\r";
-    const std::size_t begin = std::min(text.find_first_not_of(blanks), text.size());
-    return text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
+    return std::wstring(VorCharacters::trimmed(text, L" \t\r"));
 }
 
 bool isComment(const std::wstring& line)

@@ -1,6 +1,8 @@
 #include "MekRoots/Exp/KTRepositoryProxy.h"
 
 #include "MekRoots/Exp/KTIniReader.h"
+#include "MekRoots/Exp/VorCharacters.h"
+#include "MekRoots/Exp/VorStringOrder.h"
 
 #include <cstdlib>
 #include <limits>
@@ -11,12 +13,7 @@
 
 namespace
 {
-struct OrderedByText
-{
-    bool operator()(const VorString& a, const VorString& b) const { return VorString::compare(a, b) < 0; }
-};
-
-using Settings = std::map<VorString, int, OrderedByText>;
+using Settings = std::map<VorString, int, VorStringLess>;
 
 struct Repository
 {
@@ -47,7 +44,7 @@ bool readWholeNumber(const wchar_t* pText, int& number)
         ++pText;
     const wchar_t* const pDigits = pText;
     long long read = 0;
-    for (; *pText >= L'0' && *pText <= L'9' && read <= std::numeric_limits<int>::max(); ++pText)
+    for (; VorCharacters::isDigit(*pText) && read <= std::numeric_limits<int>::max(); ++pText)
         read = read * 10 + (*pText - L'0');
     read = isNegative ? -read : read;
     if (*pText != 0 || pText == pDigits || read > std::numeric_limits<int>::max() ||

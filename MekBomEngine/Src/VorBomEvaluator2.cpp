@@ -264,7 +264,8 @@ void VorBomEvaluator2::handOverHeader(VorBomEngineStateArray& stack, int level, 
     if (openedGroup.m_pSink == nullptr || isLastLevel(stack, level))
         return;
     openedGroup.m_pPlan->header.showInUnits(*pUnits, *openedGroup.m_pEvaluatedHeader);
-    openedGroup.m_pSink->takeHeader(*openedGroup.m_pEvaluatedHeader, level);
+    openedGroup.m_pSink->takeHeader(
+        { *openedGroup.m_pEvaluatedHeader, level, openedGroup.m_pEvaluatedHeader->getFirstDataRow() });
 }
 
 void VorBomEvaluator2::handOverFooters(VorBomEngineStateArray& stack, int outermost)
@@ -273,7 +274,7 @@ void VorBomEvaluator2::handOverFooters(VorBomEngineStateArray& stack, int outerm
     {
         const VorBomEngineState& closedGroup = stack.begin()[level];
         if (closedGroup.m_pSink != nullptr && closedGroup.m_pEvaluatedFooter != nullptr)
-            closedGroup.m_pSink->takeFooter(*closedGroup.m_pEvaluatedFooter, level);
+            closedGroup.m_pSink->takeFooter({ *closedGroup.m_pEvaluatedFooter, level });
     }
 }
 
@@ -283,7 +284,7 @@ void VorBomEvaluator2::handOverLine(VorBomEngineStateArray& stack, int level)
     if (line.m_pSink == nullptr || !isLastLevel(stack, level))
         return;
     if (line.m_pEvaluatedHeader != nullptr)
-        line.m_pSink->takeHeader(*line.m_pEvaluatedHeader, level);
+        line.m_pSink->takeHeader({ *line.m_pEvaluatedHeader, level, line.m_pEvaluatedHeader->getFirstDataRow() });
     if (line.m_pEvaluatedFooter != nullptr)
-        line.m_pSink->takeFooter(*line.m_pEvaluatedFooter, level);
+        line.m_pSink->takeFooter({ *line.m_pEvaluatedFooter, level });
 }

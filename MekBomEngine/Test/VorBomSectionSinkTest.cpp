@@ -31,16 +31,16 @@ void addPart(Report& report, const wchar_t* num, const wchar_t* material, double
 class Log : public VorBomSectionSink
 {
 public:
-    void takeHeader(const Item& header, int level) override { add(header, level); }
-    void takeFooter(const Item& footer, int level) override { add(footer, level); }
+    void takeHeader(const VorBomReportSection& header) override { add(header); }
+    void takeFooter(const VorBomReportSection& footer) override { add(footer); }
 
     VorString text;
 
 private:
-    void add(const Item& section, int level)
+    void add(const VorBomReportSection& taken)
     {
-        text.append(L' ', level);
-        Item(section).list(text, level, 0, 0);
+        text.append(L' ', taken.level);
+        Item(taken.section).list(text, taken.level, 0, 0);
         text += L'\n';
     }
 };
@@ -49,8 +49,8 @@ private:
 class Counter : public VorBomSectionSink
 {
 public:
-    void takeHeader(const Item&, int) override { count(); }
-    void takeFooter(const Item&, int) override { count(); }
+    void takeHeader(const VorBomReportSection&) override { count(); }
+    void takeFooter(const VorBomReportSection&) override { count(); }
 
     int numSections = 0;
     long long mostBlocks = 0;

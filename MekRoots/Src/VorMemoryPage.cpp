@@ -1,25 +1,9 @@
 #include "VorMemoryPage.h"
 
+#include "VorBits.h"
+
 #include <algorithm>
 #include <new>
-
-namespace
-{
-// The number of the lowest bit set in `word`, which is not 0.
-std::size_t lowestBit(std::uint64_t word)
-{
-    std::size_t bit = 0;
-    for (std::size_t half = 32; half > 0; half /= 2)
-    {
-        const std::uint64_t low = word & ((std::uint64_t{ 1 } << half) - 1);
-        if (low != 0)
-            continue;
-        word >>= half;
-        bit += half;
-    }
-    return bit;
-}
-}
 
 const std::size_t VorMemoryPage::kFirstGranule = (sizeof(VorMemoryPage) + kGranule - 1) / kGranule;
 
@@ -111,7 +95,7 @@ std::size_t VorMemoryPage::findFree(std::size_t granule) const
     {
         const Word rest = m_freeBits[granule / kBitsPerWord] >> granule % kBitsPerWord;
         if (rest != 0)
-            return granule + lowestBit(rest);
+            return granule + static_cast<std::size_t>(VorBits::lowestBit(rest));
         granule = (granule / kBitsPerWord + 1) * kBitsPerWord;
     }
     return kNumGranules;
@@ -124,7 +108,7 @@ std::size_t VorMemoryPage::findUsed(std::size_t granule, std::size_t end) const
     {
         const Word rest = ~m_freeBits[granule / kBitsPerWord] >> granule % kBitsPerWord;
         if (rest != 0)
-            return std::min(granule + lowestBit(rest), end);
+            return std::min(granule + static_cast<std::size_t>(VorBits::lowestBit(rest)), end);
         granule = (granule / kBitsPerWord + 1) * kBitsPerWord;
     }
     return end;

@@ -3,6 +3,9 @@
 //   L" -0x1.8p3mm"  ->  negative, hexadecimal, "1.8p3", end at "mm"  ->  -12.0
 #include "VorNumberText.h"
 
+#include "VorCharacters.h"
+#include "VorPowersOfTen.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -12,24 +15,12 @@
 
 namespace
 {
-bool isBlank(wchar_t c)
-{
-    return c == L' ' || (c >= L'\t' && c <= L'\r');
-}
-
-bool isDigit(wchar_t c)
-{
-    return c >= L'0' && c <= L'9';
-}
+using VorCharacters::isDigit;
+using VorCharacters::toLower;
 
 bool isHexDigit(wchar_t c)
 {
     return isDigit(c) || (c >= L'a' && c <= L'f') || (c >= L'A' && c <= L'F');
-}
-
-wchar_t lower(wchar_t c)
-{
-    return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
 }
 
 int copyWide(const char* pFirst, const char* pEnd, wchar_t* out)
@@ -50,9 +41,9 @@ public:
     void skip(int numCharacters) { m_pText += numCharacters; }
     const wchar_t* position() const { return m_pText; }
 
-    void skipBlanks()
+    void skipSpaces()
     {
-        while (isBlank(peek()))
+        while (VorCharacters::isSpace(peek()))
             skip(1);
     }
 
@@ -61,7 +52,7 @@ public:
     {
         int length = 0;
         for (; word[length] != '\0'; ++length)
-            if (lower(peek(length)) != static_cast<wchar_t>(word[length]))
+            if (toLower(peek(length)) != static_cast<wchar_t>(word[length]))
                 return false;
         skip(length);
         return true;
@@ -101,7 +92,7 @@ bool copyMantissa(Reader& reader, bool (*isDigitHere)(wchar_t), bool decimalComm
 // [ mark [ sign ] digits ]; an exponent without digits is left where it stands.
 void copyExponent(Reader& reader, wchar_t mark, std::string& narrow)
 {
-    if (lower(reader.peek()) != mark)
+    if (toLower(reader.peek()) != mark)
         return;
     const bool hasSign = reader.peek(1) == L'-' || reader.peek(1) == L'+';
     if (!isDigit(reader.peek(hasSign ? 2 : 1)))
@@ -153,14 +144,10 @@ template <class Number>
 bool scanShortDecimal(Reader& reader, Number& value)
 {
     constexpr int kMostDigits = sizeof(Number) == sizeof(float) ? 7 : 15; // 10^7 is below 2^24, 10^15 below 2^53
-    static constexpr Number kPowersOfTen[] = {
-        1,           Number(1e1), Number(1e2),  Number(1e3),  Number(1e4),  Number(1e5),  Number(1e6),  Number(1e7),
-        Number(1e8), Number(1e9), Number(1e10), Number(1e11), Number(1e12), Number(1e13), Number(1e14), Number(1e15)
-    };
     Reader digits = reader;
     long long mantissa = 0;
     int numDigits = 0;
-    int numDecimals = 0;
+    std::size_t numDecimals = 0;
     bool hasPoint = false;
     for (;; digits.skip(1))
     {
@@ -169,17 +156,17 @@ bool scanShortDecimal(Reader& reader, Number& value)
         {
             mantissa = mantissa * 10 + (c - L'0');
             ++numDigits;
-            numDecimals += hasPoint ? 1 : 0;
+            numDecimals += hasPoint ? 1U : 0U;
         }
         else if (c == L'.' && !hasPoint)
             hasPoint = true;
         else
             break;
     }
-    const wchar_t next = lower(digits.peek());
+    const wchar_t next = toLower(digits.peek());
     if (numDigits == 0 || isDigit(next) || next == L'e' || next == L'x' || next == L',')
         return false;
-    value = static_cast<Number>(mantissa) / kPowersOfTen[numDecimals];
+    value = static_cast<Number>(mantissa) / VorPowersOfTen::kAll<Number>[numDecimals];
     reader = digits;
     return true;
 }
@@ -216,7 +203,7 @@ void skipNanPayload(Reader& reader)
         return;
     int length = 1;
     while (isDigit(reader.peek(length)) || reader.peek(length) == L'_' ||
-           (lower(reader.peek(length)) >= L'a' && lower(reader.peek(length)) <= L'z'))
+           (toLower(reader.peek(length)) >= L'a' && toLower(reader.peek(length)) <= L'z'))
         ++length;
     if (reader.peek(length) == L')')
         reader.skip(length + 1);
@@ -245,7 +232,7 @@ bool scanUnsignedFloat(Reader& reader, float& value)
     if (reader.skipWord("inf"))
     {
         value = std::numeric_limits<float>::infinity();
-        return lower(reader.peek()) != L'i' || reader.skipWord("inity");
+        return toLower(reader.peek()) != L'i' || reader.skipWord("inity");
     }
     if (reader.skipWord("nan"))
     {
@@ -282,7 +269,7 @@ int VorNumberText::writeFixed(double value, int decimals, wchar_t* out)
 double VorNumberText::scanDouble(const wchar_t* text, const wchar_t*& end, int decimalComma)
 {
     Reader reader(text, text + std::char_traits<wchar_t>::length(text));
-    reader.skipBlanks();
+    reader.skipSpaces();
     const bool isNegative = skipSign(reader);
     double value = 0;
     if (!scanUnsignedDouble(reader, decimalComma != 0, value))
@@ -297,7 +284,7 @@ double VorNumberText::scanDouble(const wchar_t* text, const wchar_t*& end, int d
 VorNumberText::eScanResult VorNumberText::scanFloat(const wchar_t* text, const wchar_t* textEnd, float& value)
 {
     Reader reader(text, textEnd);
-    reader.skipBlanks();
+    reader.skipSpaces();
     if (reader.peek() == L'\0')
         return kEndOfText;
     const bool isNegative = skipSign(reader);

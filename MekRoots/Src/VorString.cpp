@@ -1,6 +1,7 @@
 #include "VorString.h"
 
 #include "VorArray.h"
+#include "VorCharacters.h"
 #include "VorNumberText.h"
 
 #include <algorithm>
@@ -11,20 +12,9 @@
 
 namespace
 {
-bool isDigit(wchar_t c)
-{
-    return c >= L'0' && c <= L'9';
-}
-
-bool isBlank(wchar_t c)
-{
-    return c == L' ' || (c >= L'\t' && c <= L'\r');
-}
-
-wchar_t foldCase(wchar_t c)
-{
-    return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c;
-}
+using VorCharacters::isDigit;
+using VorCharacters::isSpace;
+using VorCharacters::toLower;
 
 template <class Number>
 int sign(Number a, Number b)
@@ -173,7 +163,7 @@ void VorString::removeAll(wchar_t character)
 int VorString::toInteger() const
 {
     const wchar_t* pCharacter = getStringW();
-    while (isBlank(*pCharacter))
+    while (isSpace(*pCharacter))
         ++pCharacter;
     const bool isNegative = *pCharacter == L'-';
     if (*pCharacter == L'-' || *pCharacter == L'+')
@@ -318,7 +308,7 @@ int VorString::strCompareNoCase(const void* pFirst, const void* pSecond)
     const wchar_t* pSecondCharacter = second.getStringW();
     const int shared = std::min(first.length(), second.length());
     for (int i = 0; i < shared; ++i)
-        if (const int order = sign(foldCase(pFirstCharacter[i]), foldCase(pSecondCharacter[i])))
+        if (const int order = sign(toLower(pFirstCharacter[i]), toLower(pSecondCharacter[i])))
             return order;
     return sign(first.length(), second.length());
 }

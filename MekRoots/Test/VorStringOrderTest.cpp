@@ -1,4 +1,6 @@
-// The four comparisons of texts.
+// The four comparisons of texts, and the orders made from them.
+#include "MekRoots/Exp/VorStringOrder.h"
+
 #include "MekRoots/Test/Support/RandomCount.h"
 #include "MekRoots/Test/Support/TestSupport.h"
 
@@ -297,4 +299,17 @@ TEST(VorStringOrderTest, CaseFoldingComparesPastZeroCharacters)
     const VorString b(L"A\0c", 3);
 
     EXPECT_EQ(-1, VorString::strCompareNoCase(&a, &b));
+}
+
+TEST(VorStringOrderTest, OrdersForContainersAreThoseOfTheComparisons)
+{
+    const VorString upper(L"B");
+    const VorString lower(L"a");
+
+    EXPECT_TRUE(VorStringLess()(upper, lower));
+    EXPECT_FALSE(VorStringLess()(lower, upper));
+    EXPECT_FALSE(VorStringLess()(upper, upper));
+    EXPECT_TRUE(VorStringLessNoCase()(lower, upper));
+    EXPECT_FALSE(VorStringLessNoCase()(upper, lower));
+    EXPECT_FALSE(VorStringLessNoCase()(VorString(L"A"), lower));
 }

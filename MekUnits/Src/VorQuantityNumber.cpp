@@ -1,13 +1,11 @@
 #include "VorQuantityNumber.h"
 
+#include "MekRoots/Exp/VorCharacters.h"
 #include "MekRoots/Exp/VorNumberText.h"
 
 namespace
 {
-bool isDigit(wchar_t character)
-{
-    return character >= L'0' && character <= L'9';
-}
+using VorCharacters::isDigit;
 
 std::wstring takeDigits(const wchar_t*& pText)
 {

@@ -1,6 +1,7 @@
 #include "MekRoots/Exp/VorQuantityReader.h"
 
 #include "MekRoots/Exp/VorAssert.h"
+#include "MekRoots/Exp/VorCharacters.h"
 #include "MekRoots/Exp/VorUnitDefinition.h"
 #include "MekRoots/Exp/VorUnitTransform.h"
 #include "VorDecimalNumber.h"
@@ -59,14 +60,15 @@ Marks marksOf(VorUnitsTransformArray::eSystems system)
     }
 }
 
-bool isBlank(wchar_t character)
+// A blank of typed or of printed text, where it keeps a number and its unit on one line.
+bool isAnyBlank(wchar_t character)
 {
-    return character == L' ' || character == L'\t' || character == L'\u00A0';
+    return VorCharacters::isBlank(character) || character == L'\u00A0';
 }
 
 void skipBlanks(const wchar_t*& p)
 {
-    while (isBlank(*p))
+    while (isAnyBlank(*p))
         ++p;
 }
 
@@ -117,9 +119,9 @@ private:
     eFault parsePlain(const VorQuantityNumber& number, double& size)
     {
         m_symbol = m_p;
-        while (!m_symbol.empty() && isBlank(m_symbol.back()))
+        while (!m_symbol.empty() && isAnyBlank(m_symbol.back()))
             m_symbol.pop_back();
-        if (!m_symbol.empty() && m_symbol[0] >= L'0' && m_symbol[0] <= L'9')
+        if (!m_symbol.empty() && VorCharacters::isDigit(m_symbol[0]))
             return kGrouped;
         const VorUnitDefinition* const pUnit =
             m_symbol.empty() ? &m_unit : VorUnitsTransformArray::findUnit(VorString(m_symbol.c_str()));

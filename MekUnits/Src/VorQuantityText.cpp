@@ -1,16 +1,13 @@
 #include "VorQuantityText.h"
 
+#include "MekRoots/Exp/VorCharacters.h"
+#include "MekRoots/Exp/VorPowersOfTen.h"
 #include "VorDecimalNumber.h"
 
 #include <numeric>
 
 namespace
 {
-bool isLetter(wchar_t character)
-{
-    return (character >= L'a' && character <= L'z') || (character >= L'A' && character <= L'Z');
-}
-
 // Writes `number` into the `numDigits` characters before `end`, with zeros in front.
 void writeDigits(std::uint64_t number, int numDigits, wchar_t* end)
 {
@@ -126,9 +123,7 @@ VorString VorQuantityText::ofDecimal(bool isNegative, std::uint64_t parts, int n
 
 VorString VorQuantityText::ofLongDecimal(bool isNegative, std::uint64_t parts, int numDecimals, int suppressLastZeros)
 {
-    std::uint64_t partsOfOne = 1;
-    for (int i = 0; i < numDecimals; ++i)
-        partsOfOne *= 10;
+    const std::uint64_t partsOfOne = VorPowersOfTen::kAll<std::uint64_t>[static_cast<std::size_t>(numDecimals)];
     VorQuantityText text;
     if (isNegative)
         text.addCharacter(L'-');
@@ -180,7 +175,7 @@ void VorQuantityText::addWithExponent(VorDecimalNumber number)
 
 void VorQuantityText::addSymbol(const wchar_t* symbol)
 {
-    if (isLetter(*symbol))
+    if (VorCharacters::isLetter(*symbol))
         addCharacter(L' ');
     for (; *symbol != 0; ++symbol)
         addCharacter(*symbol);

@@ -1,5 +1,6 @@
 #include "MekRoots/Exp/VorUnitNotation.h"
 
+#include "MekRoots/Exp/VorCharacters.h"
 #include "MekRoots/Exp/VorUnitDefinition.h"
 
 #include <cstddef>
@@ -36,7 +37,7 @@ int numberOf(std::wstring_view text)
     int number = 0;
     for (const wchar_t character : text)
     {
-        if (character < L'0' || character > L'9')
+        if (!VorCharacters::isDigit(character))
             return -1;
         number = number * 10 + static_cast<int>(character - L'0');
     }

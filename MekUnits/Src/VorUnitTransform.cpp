@@ -8,6 +8,7 @@
 #include "MekRoots/Exp/VorUnitTransform.h"
 
 #include "MekRoots/Exp/VorAssert.h"
+#include "MekRoots/Exp/VorPowersOfTen.h"
 #include "VorDecimalNumber.h"
 #include "VorQuantityText.h"
 #include "VorUnitCatalogue.h"
@@ -65,10 +66,7 @@ unsigned int partsOf(int format)
 {
     if (format >= kFirstFraction)
         return static_cast<unsigned int>(std::clamp(format - kFirstFraction, 1, kLargestDenominator));
-    unsigned int numParts = 1;
-    for (int i = decimalsOf(format); i > 0; --i)
-        numParts *= 10;
-    return numParts;
+    return VorPowersOfTen::kAll<unsigned int>[static_cast<std::size_t>(decimalsOf(format))];
 }
 
 // Whole numbers up to this are exact doubles, as is then every product and sum of them up to this.

@@ -1,0 +1,16 @@
+#include "VorBits.h"
+
+#include <gtest/gtest.h>
+
+TEST(VorBitsTest, LowestBitIsFoundBelowAllOthers)
+{
+    constexpr std::uint64_t kHighest = std::uint64_t{ 1 } << 63;
+    for (int bit = 0; bit < 64; ++bit)
+    {
+        const std::uint64_t alone = std::uint64_t{ 1 } << bit;
+
+        EXPECT_EQ(bit, VorBits::lowestBit(alone));
+        EXPECT_EQ(bit, VorBits::lowestBit(alone | kHighest));
+        EXPECT_EQ(bit, VorBits::lowestBit(~(alone - 1)));
+    }
+}
