@@ -1,4 +1,4 @@
-#include "MekBomEngine/Src/VorBomColumns.h"
+#include "VorBomColumns.h"
 #include "MekBomEngine/Test/Support/BomTestSupport.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "MekBomEngine/Src/VorBomDisplayColumn.h"
+#include "VorBomDisplayColumn.h"
 #include "MekBomEngine/Test/Support/BomTestSupport.h"
 
 #include <gtest/gtest.h>
@@ -85,24 +85,4 @@ TEST(VorBomDisplayColumnTest, OnlyDoublesRegisterAFormula)
     EXPECT_EQ(1, units.numTokenTypes());
     EXPECT_EQ(VorString(), shown(column, units, 7.0));
     EXPECT_EQ(2, units.numTokenTypes());
-}
-
-TEST(VorBomDisplayColumnTest, ColumnsShowTheTuplesInTheirOrder)
-{
-    Units units;
-    units.AddTokenType(L"%Length", kHidden);
-    VorBomDataTupleArray tuples;
-    std::vector<VorBomDisplayColumn> columns;
-    for (const VorBomDataTuple& added : { tuple(L"%Weight", 1.5), tuple(L"%Length", 2.5), tuple(L"%Name", NoValue()) })
-    {
-        tuples.append(added);
-        columns.emplace_back(added.token());
-    }
-
-    VorBomDisplayColumn::showAll(columns, units, tuples);
-
-    EXPECT_EQ(VorString(L"1.5"), tuples[0].value().asString());
-    EXPECT_EQ(VorBomDataValue::kStringData, tuples[1].value().type());
-    EXPECT_EQ(VorString(), tuples[1].value().asString());
-    EXPECT_EQ(VorBomDataValue::kUnknownData, tuples[2].value().type());
 }

@@ -1,4 +1,4 @@
-#include "MekBomEngine/Src/VorBomDistinctTexts.h"
+#include "VorBomDistinctTexts.h"
 #include "MekRoots/Test/Support/TestSupport.h"
 
 #include <gtest/gtest.h>

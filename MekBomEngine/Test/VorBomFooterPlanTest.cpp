@@ -1,4 +1,4 @@
-#include "MekBomEngine/Src/VorBomFooterPlan.h"
+#include "VorBomFooterPlan.h"
 #include "MekBomEngine/Test/Support/BomTestSupport.h"
 
 #include <gtest/gtest.h>

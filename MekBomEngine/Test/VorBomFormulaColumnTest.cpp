@@ -1,4 +1,4 @@
-#include "MekBomEngine/Src/VorBomFormulaColumn.h"
+#include "VorBomFormulaColumn.h"
 #include "MekBomEngine/Test/Support/BomTestSupport.h"
 
 #include <gtest/gtest.h>

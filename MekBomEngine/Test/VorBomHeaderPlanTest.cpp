@@ -1,4 +1,4 @@
-#include "MekBomEngine/Src/VorBomHeaderPlan.h"
+#include "VorBomHeaderPlan.h"
 #include "MekBomEngine/Test/Support/BomTestSupport.h"
 
 #include <gtest/gtest.h>
@@ -106,7 +106,7 @@ TEST(VorBomHeaderPlanTest, EachFormulaIsComputedAndAppendedToTheRow)
     VorBomHeaderPlan plan = planFor(section);
 
     const auto pEvaluated = plan.process(row);
-    plan.computeFormulas(*pEvaluated, row);
+    plan.computeFormulas(*pEvaluated, &row);
 
     EXPECT_EQ(VorString(L"[ kDetails     ][%Formula:%Weight*2:3][%Weight:1.5][%Formula:%Name*2:kept]"
                         L"[%Formula:%Weight*2:3]"),

@@ -1,6 +1,6 @@
 // What a level reads from its sections once must give what reading them for every row gives. Whole reports that would
 // come out differently otherwise.
-#include "MekBomEngine/Src/VorBomLevelPlan.h"
+#include "VorBomLevelPlan.h"
 #include "MekBomEngine/Test/Support/ReportBuilders.h"
 
 namespace

@@ -1,4 +1,4 @@
-#include "MekBomEngine/Src/VorBomRanks.h"
+#include "VorBomRanks.h"
 #include "MekRoots/Test/Support/TestSupport.h"
 
 #include <gtest/gtest.h>

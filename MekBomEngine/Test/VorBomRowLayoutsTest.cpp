@@ -1,4 +1,4 @@
-#include "MekBomEngine/Src/VorBomRowLayouts.h"
+#include "VorBomRowLayouts.h"
 #include "MekBomEngine/Test/Support/BomTestSupport.h"
 
 #include <gtest/gtest.h>

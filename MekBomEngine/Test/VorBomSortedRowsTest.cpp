@@ -1,6 +1,6 @@
-#include "MekBomEngine/Src/VorBomSortedRows.h"
-#include "MekBomEngine/Src/VorStableMergeSort.h"
+#include "VorBomSortedRows.h"
 #include "MekBomEngine/Test/Support/BomTestSupport.h"
+#include "VorStableMergeSort.h"
 
 #include <gtest/gtest.h>
 

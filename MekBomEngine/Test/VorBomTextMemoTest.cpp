@@ -1,4 +1,4 @@
-#include "MekBomEngine/Src/VorBomTextMemo.h"
+#include "VorBomTextMemo.h"
 #include "MekRoots/Test/Support/TestSupport.h"
 
 #include <gtest/gtest.h>

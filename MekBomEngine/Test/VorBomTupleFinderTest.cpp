@@ -1,4 +1,4 @@
-#include "MekBomEngine/Src/VorBomTupleFinder.h"
+#include "VorBomTupleFinder.h"
 #include "MekBomEngine/Test/Support/BomTestSupport.h"
 
 #include "MekBomEngine/Src/VorBomDataRow.h"

@@ -1,4 +1,4 @@
-#include "MekBomEngine/Src/VorStableMergeSort.h"
+#include "VorStableMergeSort.h"
 
 #include <gtest/gtest.h>
 

@@ -10,14 +10,13 @@
 
 #include "VorBomData.h"
 
-#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <cstdint>
 #include <vector>
 
-class MEK_BOM_API VorBomSortedRows
+class VorBomSortedRows
 {
 public:
     // `orders` holds 1 for ascending or 0 for descending, one for each token.

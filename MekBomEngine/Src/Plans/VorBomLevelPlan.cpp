@@ -27,3 +27,10 @@ int VorBomLevelPlan::isSameGroup(VorBomDataRow& row, VorBomDataRow& lastRow)
             return 0;
     return 1;
 }
+
+void VorBomLevelPlan::keepValues()
+{
+    header.display().keepValues();
+    if (footer.has_value())
+        footer->display().keepValues();
+}

@@ -43,17 +43,15 @@ VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum,
 }
 
 VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section)
-    : m_section(section), m_columns(pLayouts, tokensOf(section.getData()))
+    : m_section(section), m_columns(pLayouts, tokensOf(section.getData())), m_display(section.getData())
 {
     const VorBomDataTupleArray& tuples = section.getData();
     for (int i = 0; i < tuples.length(); ++i)
     {
-        if (VorBomDataToken::isFormula(tuples[i].token().token()) != 0)
-        {
-            m_columns.leaveOut(i);
-            m_formulas.emplace_back(pLayouts, tuples, i);
-        }
-        m_displays.emplace_back(tuples[i].token());
+        if (VorBomDataToken::isFormula(tuples[i].token().token()) == 0)
+            continue;
+        m_columns.leaveOut(i);
+        m_formulas.emplace_back(pLayouts, tuples, i);
     }
 }
 
@@ -69,23 +67,33 @@ std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row
     return pEvaluated;
 }
 
-void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomDataRow& row)
+void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomDataRow* pRow)
 {
     VorBomDataTupleArray& tuples = evaluated.getData();
+    m_failures.clear();
     for (VorBomFormulaColumn& formula : m_formulas)
     {
-        double result = 0;
-        if (!formula.compute(tuples, &row, result))
-            continue;
         VorBomDataTuple& tuple = tuples.begin()[formula.index()];
-        tuple.value().set(result);
-        row.getData().emplace(tuple.token().token(), result, cellsForRows());
+        double result = 0;
+        if (formula.compute(tuples, pRow, result))
+        {
+            tuple.value().set(result);
+            if (pRow != nullptr)
+                pRow->getData().emplace(tuple.token().token(), result, cellsForRows());
+        }
+        else if (m_keepsFailures)
+            keepFailure(formula, tuples, pRow);
     }
 }
 
-void VorBomHeaderPlan::showInUnits(VorBomTemplateUnits& units, VorBomTemplateItem& evaluated)
+// Nothing for a formula that is none: there is nothing to compute.
+void VorBomHeaderPlan::keepFailure(const VorBomFormulaColumn& formula, const VorBomDataTupleArray& tuples,
+                                   const VorBomDataRow* pRow)
 {
-    VorBomDisplayColumn::showAll(m_displays, units, evaluated.getData());
+    double result = 0;
+    VorString message;
+    if (!VorBomFormulaColumn::computeOnce(tuples, formula.index(), pRow, result, &message) && !message.isEmpty())
+        m_failures.push_back({ tuples[formula.index()].token().token(), message });
 }
 
 VorBomPayloadCells& VorBomHeaderPlan::cellsForRows()

@@ -5,7 +5,6 @@
 // The texts are not owned and must outlive this object.
 #pragma once
 
-#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <array>
@@ -13,7 +12,7 @@
 #include <cstdint>
 #include <vector>
 
-class MEK_BOM_API VorBomDistinctTexts
+class VorBomDistinctTexts
 {
 public:
     VorBomDistinctTexts() : m_slots(kFirstNumSlots) {}

@@ -10,16 +10,14 @@
 #pragma once
 
 #include "VorBomColumns.h"
-#include "VorBomDisplayColumn.h"
+#include "VorBomDisplayPlan.h"
 #include "VorBomEngineState.h"
 #include "VorBomTemplateItem.h"
-
-#include "MekRoots/Exp/MekExport.h"
 
 #include <memory>
 #include <vector>
 
-class MEK_BOM_API VorBomFooterPlan
+class VorBomFooterPlan
 {
 public:
     // The section is not owned and must not change as long as the plan is used.
@@ -32,8 +30,8 @@ public:
     // The same, then hands the footer over and begins the next one.
     std::unique_ptr<VorBomTemplateItem> finish(const VorBomDataRowPointerArray& rows);
 
-    // Turns the numbers of a finished footer into texts.
-    void showInUnits(VorBomTemplateUnits& units, VorBomTemplateItem& evaluated);
+    // Shows finished footers.
+    VorBomDisplayPlan& display() { return m_display; }
 
 private:
     void beginFooter();
@@ -42,7 +40,7 @@ private:
     const VorBomTemplateItem& m_section;
     VorBomColumns m_columns;   // one per tuple of the section
     std::vector<char> m_isSum; // 1 or 0; bits would cost more than they save
-    std::vector<VorBomDisplayColumn> m_displays;
+    VorBomDisplayPlan m_display;
     std::unique_ptr<VorBomTemplateItem> m_pFooter; // of the open group; never null
     int m_nTakenRows = 0;
 };

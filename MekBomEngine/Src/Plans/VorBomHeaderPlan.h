@@ -10,17 +10,15 @@
 #pragma once
 
 #include "VorBomColumns.h"
-#include "VorBomDisplayColumn.h"
+#include "VorBomDisplayPlan.h"
 #include "VorBomFormulaColumn.h"
 #include "VorBomTemplateItem.h"
-
-#include "MekRoots/Exp/MekExport.h"
 
 #include <memory>
 #include <optional>
 #include <vector>
 
-class MEK_BOM_API VorBomHeaderPlan
+class VorBomHeaderPlan
 {
 public:
     // The section is not owned and must not change as long as the plan is used.
@@ -30,13 +28,27 @@ public:
     // are. Marks the row's tuples it took as used. Reports "false" for an empty value in the row and passes it over.
     std::unique_ptr<VorBomTemplateItem> process(VorBomDataRow& row);
 
-    // Computes the formulas of a section that process() made from this row, and appends each result to the row.
-    void computeFormulas(VorBomTemplateItem& evaluated, VorBomDataRow& row);
+    // Computes the formulas of a section with the tokens of this plan's, and appends each result to the row, which may be
+    // null.
+    void computeFormulas(VorBomTemplateItem& evaluated, VorBomDataRow* pRow);
 
-    // Turns the numbers of such a section into texts.
-    void showInUnits(VorBomTemplateUnits& units, VorBomTemplateItem& evaluated);
+    // A formula that could not be computed, and why.
+    struct Failure
+    {
+        VorString token;
+        VorString message;
+    };
+
+    // From now on computeFormulas() writes down the formulas that fail: each costs another evaluation, for its message.
+    void keepFailures() { m_keepsFailures = true; }
+    // Those of the section computed last, in its order; none unless they are kept.
+    const std::vector<Failure>& failures() const { return m_failures; }
+
+    // Shows such sections.
+    VorBomDisplayPlan& display() { return m_display; }
 
 private:
+    void keepFailure(const VorBomFormulaColumn& formula, const VorBomDataTupleArray& tuples, const VorBomDataRow* pRow);
     VorBomPayloadCells& cellsForRows();
 
     const VorBomTemplateItem& m_section;
@@ -44,5 +56,7 @@ private:
     std::vector<VorBomFormulaColumn> m_formulas;
     std::optional<VorBomPayloadCells> m_cellsForRows; // of results; apart from the sections, which go before the rows
     int m_numCellsForRows = 0;                        // of those taken last
-    std::vector<VorBomDisplayColumn> m_displays;
+    bool m_keepsFailures = false;
+    std::vector<Failure> m_failures;
+    VorBomDisplayPlan m_display;
 };

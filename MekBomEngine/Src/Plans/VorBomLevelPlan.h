@@ -10,12 +10,10 @@
 #include "VorBomHeaderPlan.h"
 #include "VorBomTemplateItem.h"
 
-#include "MekRoots/Exp/MekExport.h"
-
 #include <memory>
 #include <optional>
 
-class MEK_BOM_API VorBomLevelPlan
+class VorBomLevelPlan
 {
 public:
     // Neither section is owned; the footer may be null.
@@ -24,6 +22,9 @@ public:
 
     // 1 when the rows agree in what the header groups by; answers as VorBomDataRow::compare being 0.
     int isSameGroup(VorBomDataRow& row, VorBomDataRow& lastRow);
+
+    // From now on the values of both sections are kept when they are shown.
+    void keepValues();
 
     VorBomHeaderPlan header;
     std::optional<VorBomFooterPlan> footer;

@@ -9,9 +9,7 @@
 
 #include "VorBomTemplate.h"
 
-#include "MekRoots/Exp/MekExport.h"
-
-struct MEK_BOM_API VorBomDefaultTemplate
+struct VorBomDefaultTemplate
 {
     enum eLayout : int
     {

@@ -9,13 +9,12 @@
 
 #include "VorBomDataTuple.h"
 
-#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <optional>
 
-class MEK_BOM_API VorBomTupleFinder
+class VorBomTupleFinder
 {
 public:
     static constexpr int kNone = -1;

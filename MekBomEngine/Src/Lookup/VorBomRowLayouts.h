@@ -10,14 +10,13 @@
 
 #include "VorBomItemBase.h"
 
-#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <cstddef>
 #include <unordered_map>
 #include <vector>
 
-class MEK_BOM_API VorBomRowLayouts
+class VorBomRowLayouts
 {
 public:
     static constexpr int kNoLayout = -1;

@@ -108,7 +108,7 @@ int VorBomFormulaColumn::compute(const VorBomDataTupleArray& tuples, VorBomDataR
 }
 
 int VorBomFormulaColumn::computeOnce(const VorBomDataTupleArray& tuples, int index, const VorBomDataRow* pRow,
-                                     double& result)
+                                     double& result, VorString* pMessage)
 {
     const VorString formula = formulaOf(tuples[index]);
     ExpressionsEvaluator evaluator(formula.getStringW(), static_cast<unsigned int>(formula.length()));
@@ -120,7 +120,11 @@ int VorBomFormulaColumn::computeOnce(const VorBomDataTupleArray& tuples, int ind
 
     wchar_t text[VorExprEvValue::kBufferLength];
     if (!evaluator.evaluate(text))
+    {
+        if (pMessage != nullptr)
+            *pMessage = VorString(text);
         return 0;
+    }
     result = VorString::toDouble(text, 0);
     return 1;
 }

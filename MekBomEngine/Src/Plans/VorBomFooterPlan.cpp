@@ -85,13 +85,12 @@ std::vector<VorString> tokensOf(const VorBomDataTupleArray& tuples)
 }
 
 VorBomFooterPlan::VorBomFooterPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section)
-    : m_section(section), m_columns(pLayouts, tokensOf(section.getData()))
+    : m_section(section), m_columns(pLayouts, tokensOf(section.getData())), m_display(section.getData())
 {
     for (const VorBomDataTuple& tuple : section.getData())
     {
         VorString summed;
         m_isSum.push_back(tuple.token().getSummingRequest(summed) != 0 ? 1 : 0);
-        m_displays.emplace_back(tuple.token());
     }
     beginFooter();
 }
@@ -108,11 +107,6 @@ std::unique_ptr<VorBomTemplateItem> VorBomFooterPlan::finish(const VorBomDataRow
     std::unique_ptr<VorBomTemplateItem> pFinished = std::move(m_pFooter);
     beginFooter();
     return pFinished;
-}
-
-void VorBomFooterPlan::showInUnits(VorBomTemplateUnits& units, VorBomTemplateItem& evaluated)
-{
-    VorBomDisplayColumn::showAll(m_displays, units, evaluated.getData());
 }
 
 void VorBomFooterPlan::beginFooter()

@@ -9,17 +9,13 @@
 #pragma once
 
 #include "VorBomDataToken.h"
-#include "VorBomDataTuple.h"
 #include "VorBomDataValue.h"
 #include "VorBomTemplateUnits.h"
 #include "VorBomTextMemo.h"
 
-#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
-#include <vector>
-
-class MEK_BOM_API VorBomDisplayColumn
+class VorBomDisplayColumn
 {
 public:
     explicit VorBomDisplayColumn(const VorBomDataToken& token);
@@ -28,9 +24,8 @@ public:
     // is registered with `units` under the formula's text.
     void show(VorBomTemplateUnits& units, VorBomDataValue& value);
 
-    // The same for a section's tuples from the first to the last, columns[i] showing tuples[i].
-    static void showAll(std::vector<VorBomDisplayColumn>& columns, VorBomTemplateUnits& units,
-                        VorBomDataTupleArray& tuples);
+    // The kind of unit that the last double was shown in.
+    VorBomTemplateUnits::eTokenUnitType unitType() const { return m_type; }
 
 private:
     static constexpr int kNeverLookedUp = -1;

@@ -10,14 +10,13 @@
 #include "VorBomItemBase.h"
 #include "VorBomRowLayouts.h"
 
-#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <cstddef>
 #include <memory>
 #include <vector>
 
-class MEK_BOM_API VorBomColumns
+class VorBomColumns
 {
 public:
     VorBomColumns(std::shared_ptr<VorBomRowLayouts> pLayouts, std::vector<VorString> tokens);

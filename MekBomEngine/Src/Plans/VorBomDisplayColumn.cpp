@@ -33,18 +33,6 @@ void VorBomDisplayColumn::show(VorBomTemplateUnits& units, VorBomDataValue& valu
         value.set(textOf(*static_cast<const double*>(value.data()), units));
 }
 
-void VorBomDisplayColumn::showAll(std::vector<VorBomDisplayColumn>& columns, VorBomTemplateUnits& units,
-                                  VorBomDataTupleArray& tuples)
-{
-    VorBomDataTuple* pTuple = tuples.begin();
-    for (VorBomDisplayColumn& column : columns)
-    {
-        VorBomDataValue& value = pTuple++->value();
-        if (value.type() == VorBomDataValue::kIntData || value.type() == VorBomDataValue::kDoubleData)
-            column.show(units, value);
-    }
-}
-
 VorString VorBomDisplayColumn::textOf(int value)
 {
     const auto key = static_cast<std::uint64_t>(value);

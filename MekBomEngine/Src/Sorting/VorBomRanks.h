@@ -11,12 +11,10 @@
 #include "VorBomDataToken.h"
 #include "VorBomDataTuple.h"
 
-#include "MekRoots/Exp/MekExport.h"
-
 #include <cstdint>
 #include <vector>
 
-class MEK_BOM_API VorBomRanks
+class VorBomRanks
 {
 public:
     // For one tuple per row, null for a row without the datum, which ranks lowest. 0 with no ranks when the column

@@ -14,12 +14,10 @@
 
 #include "ExpressionEvaluator/Src/VorCompiledFormula.h"
 
-#include "MekRoots/Exp/MekExport.h"
-
 #include <memory>
 #include <vector>
 
-class MEK_BOM_API VorBomFormulaColumn
+class VorBomFormulaColumn
 {
 public:
     // For the tuple at `index` of sections made from one with these tuples; it must be a formula.
@@ -30,8 +28,10 @@ public:
     // 0 with `result` untouched when the formula is none or fails. The row may be null.
     int compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result);
 
-    // The same through the formula evaluator's own variables, which hold afterwards what the formula saw.
-    static int computeOnce(const VorBomDataTupleArray& tuples, int index, const VorBomDataRow* pRow, double& result);
+    // The same through the formula evaluator's own variables, which hold afterwards what the formula saw. `pMessage`, if
+    // not null, is set to the message of a formula that fails.
+    static int computeOnce(const VorBomDataTupleArray& tuples, int index, const VorBomDataRow* pRow, double& result,
+                           VorString* pMessage = nullptr);
 
 private:
     static VorString formulaOf(const VorBomDataTuple& tuple);

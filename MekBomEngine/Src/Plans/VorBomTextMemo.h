@@ -8,14 +8,13 @@
 // kNumTrials of them: from then on nothing is remembered.
 #pragma once
 
-#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
-class MEK_BOM_API VorBomTextMemo
+class VorBomTextMemo
 {
 public:
     const VorString* find(std::uint64_t key)
