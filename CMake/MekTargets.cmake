@@ -20,22 +20,44 @@ function(mek_set_warnings target)
     endif()
 endfunction()
 
-# mek_add_library(MekRoots ALIAS Mek::Roots [LINK Mek::Other ...]): a library from Src/*.cpp of the calling folder.
+# Sets `variable` to the folders below Src of the calling folder, the rooms for what serves the module alone.
+function(mek_find_rooms variable)
+    file(GLOB entries CONFIGURE_DEPENDS LIST_DIRECTORIES true Src/*)
+    foreach(entry IN LISTS entries)
+        if(IS_DIRECTORY ${entry})
+            list(APPEND rooms ${entry})
+        endif()
+    endforeach()
+    set(${variable} ${rooms} PARENT_SCOPE)
+endfunction()
+
+# mek_add_library(MekRoots ALIAS Mek::Roots [LINK Mek::Other ...]): a library from the sources in Src of the calling
+# folder and in its rooms. Users get Exp and the headers that stand directly in Src; the rooms are on the include path of
+# the library's own sources, and of its tests in Test/Internals.
+# MekRootsObjects is what the library is made of. Those tests link it, since a shared library hides what is internal.
 function(mek_add_library target)
     cmake_parse_arguments(ARG "" "ALIAS" "LINK" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS Src/*.cpp Src/*/*.cpp)
     file(GLOB headers CONFIGURE_DEPENDS Src/*.h Src/*/*.h Exp/*.h)
-    add_library(${target} ${sources} ${headers})
-    add_library(${ARG_ALIAS} ALIAS ${target})
-    target_include_directories(${target} PUBLIC ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/Src)
+    mek_find_rooms(rooms)
+    add_library(${target}Objects OBJECT ${sources} ${headers})
+    target_include_directories(${target}Objects
+        PUBLIC ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/Src
+        PRIVATE ${rooms})
     if(IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/Exp)
-        target_include_directories(${target} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/Exp)
+        target_include_directories(${target}Objects PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/Exp)
     endif()
-    target_link_libraries(${target} PUBLIC ${ARG_LINK})
-    if(NOT BUILD_SHARED_LIBS)
-        target_compile_definitions(${target} PUBLIC MEK_STATIC_LIBRARIES)
+    target_link_libraries(${target}Objects PUBLIC ${ARG_LINK})
+    if(BUILD_SHARED_LIBS)
+        target_compile_definitions(${target}Objects PRIVATE ${target}_EXPORTS)
+    else()
+        target_compile_definitions(${target}Objects PUBLIC MEK_STATIC_LIBRARIES)
     endif()
-    mek_set_warnings(${target})
+    mek_set_warnings(${target}Objects)
+
+    add_library(${target} $<TARGET_OBJECTS:${target}Objects>)
+    add_library(${ARG_ALIAS} ALIAS ${target})
+    target_link_libraries(${target} PUBLIC ${target}Objects)
 endfunction()
 
 # Removes the test files that start no thread; support files stay.
@@ -51,17 +73,27 @@ function(mek_keep_threading_tests sources_variable)
 endfunction()
 
 # mek_add_tests(MekRootsTest LINK Mek::Roots): one test program from Test and its folders, every case known to ctest.
+# A module with tests of internals has a second one from Test/Internals/*.cpp:
+# mek_add_tests(MekRootsInternalsTest INTERNALS_OF MekRoots). Both have what stands in Test/Support.
 function(mek_add_tests target)
-    cmake_parse_arguments(ARG "" "" "LINK;DEFINITIONS" ${ARGN})
-    file(GLOB_RECURSE sources CONFIGURE_DEPENDS Test/*.cpp)
+    cmake_parse_arguments(ARG "" "INTERNALS_OF" "LINK;DEFINITIONS" ${ARGN})
+    if(ARG_INTERNALS_OF)
+        file(GLOB sources CONFIGURE_DEPENDS Test/Internals/*.cpp)
+        mek_find_rooms(rooms)
+        list(APPEND ARG_LINK ${ARG_INTERNALS_OF}Objects)
+    else()
+        file(GLOB_RECURSE sources CONFIGURE_DEPENDS Test/*.cpp)
+        list(FILTER sources EXCLUDE REGEX "/Test/(Internals|Support)/")
+    endif()
     if(MEK_THREADING_TESTS_ONLY)
         mek_keep_threading_tests(sources)
     endif()
     if(NOT MEK_BUILD_TESTS OR NOT sources)
         return()
     endif()
-    add_executable(${target} ${sources})
-    target_include_directories(${target} PRIVATE Test)
+    file(GLOB support CONFIGURE_DEPENDS Test/Support/*.cpp)
+    add_executable(${target} ${sources} ${support})
+    target_include_directories(${target} PRIVATE Test ${rooms})
     target_link_libraries(${target} PRIVATE ${ARG_LINK} GTest::gtest_main)
     target_compile_definitions(${target} PRIVATE ${ARG_DEFINITIONS})
     mek_set_warnings(${target})

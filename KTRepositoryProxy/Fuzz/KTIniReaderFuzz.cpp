@@ -1,6 +1,6 @@
 // Any text: its entries come with rising lines and keys that differ, and a malformed text leaves the repository empty.
 // Input: Latin-1 characters. Seeds: Fuzz/Seeds/KTIniReaderFuzz.
-#include "MekRoots/Exp/KTIniReader.h"
+#include "KTRepositoryProxy/Src/KTIniReader.h"
 
 #include "MekRoots/Exp/KTRepositoryProxy.h"
 

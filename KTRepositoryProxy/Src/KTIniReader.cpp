@@ -1,4 +1,4 @@
-#include "MekRoots/Exp/KTIniReader.h"
+#include "KTIniReader.h"
 
 #include "MekRoots/Exp/VorCharacters.h"
 

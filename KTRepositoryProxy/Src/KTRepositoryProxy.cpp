@@ -1,6 +1,6 @@
 #include "MekRoots/Exp/KTRepositoryProxy.h"
 
-#include "MekRoots/Exp/KTIniReader.h"
+#include "KTIniReader.h"
 #include "MekRoots/Exp/VorCharacters.h"
 #include "MekRoots/Exp/VorStringOrder.h"
 

@@ -1,4 +1,4 @@
-#include "MekRoots/Exp/KTIniReader.h"
+#include "KTRepositoryProxy/Src/KTIniReader.h"
 
 #include "MekRoots/Test/Support/TestSupport.h"
 

@@ -1,10 +1,10 @@
 // Any text in any unit: it is read as a finite quantity or refused, never both and never with the value touched; what
 // is read is shown, and what is shown is read. Input: 2 bytes of a unit number, then UTF-16 code units.
 // Seeds: Fuzz/Seeds/VorQuantityReaderFuzz.
-#include "MekRoots/Exp/VorQuantityReader.h"
+#include "MekUnits/Src/VorQuantityReader.h"
 
 #include "MekRoots/Exp/MEKUnit.h"
-#include "MekRoots/Exp/VorUnitDefinition.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
 
 #include <cmath>
 #include <cstdint>

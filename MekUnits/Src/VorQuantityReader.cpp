@@ -1,11 +1,11 @@
-#include "MekRoots/Exp/VorQuantityReader.h"
+#include "VorQuantityReader.h"
 
 #include "MekRoots/Exp/VorAssert.h"
 #include "MekRoots/Exp/VorCharacters.h"
-#include "MekRoots/Exp/VorUnitDefinition.h"
 #include "MekRoots/Exp/VorUnitTransform.h"
 #include "VorDecimalNumber.h"
 #include "VorQuantityNumber.h"
+#include "VorUnitDefinition.h"
 
 #include <cmath>
 #include <cstdint>

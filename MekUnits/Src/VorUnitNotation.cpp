@@ -1,7 +1,7 @@
-#include "MekRoots/Exp/VorUnitNotation.h"
+#include "VorUnitNotation.h"
 
 #include "MekRoots/Exp/VorCharacters.h"
-#include "MekRoots/Exp/VorUnitDefinition.h"
+#include "VorUnitDefinition.h"
 
 #include <cstddef>
 #include <string>

@@ -1,7 +1,7 @@
 #include "MekRoots/Exp/VorUnitsManager.h"
 
 #include "MekRoots/Exp/VorAssert.h"
-#include "MekRoots/Exp/VorUnitNotation.h"
+#include "VorUnitNotation.h"
 
 #include <cstddef>
 

@@ -1,7 +1,7 @@
 // The factor of every unit as somebody else would write it: from the definitions, not from the catalogue.
 #pragma once
 
-#include "MekRoots/Exp/VorUnitDefinition.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
 
 #include <vector>
 

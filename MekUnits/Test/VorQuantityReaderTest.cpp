@@ -1,5 +1,5 @@
 // Quantities as they are written on drawings, in parts lists and by hand.
-#include "MekRoots/Exp/VorQuantityReader.h"
+#include "MekUnits/Src/VorQuantityReader.h"
 
 #include "IndependentFactors.h"
 

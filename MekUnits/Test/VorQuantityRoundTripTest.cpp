@@ -1,5 +1,5 @@
 // What is shown is read again: random values in every unit and precision. MEK_RANDOM_CASES sets the number of values.
-#include "MekRoots/Exp/VorQuantityReader.h"
+#include "MekUnits/Src/VorQuantityReader.h"
 
 #include "IndependentFactors.h"
 

@@ -1,4 +1,4 @@
-#include "MekRoots/Exp/VorUnitNotation.h"
+#include "MekUnits/Src/VorUnitNotation.h"
 
 #include "IndependentFactors.h"
 

@@ -1,8 +1,8 @@
 #include "MekRoots/Exp/VorUnitsManager.h"
 
-#include "MekRoots/Exp/VorUnitDefinition.h"
-#include "MekRoots/Exp/VorUnitNotation.h"
 #include "MekRoots/Test/Support/TestSupport.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
+#include "MekUnits/Src/VorUnitNotation.h"
 
 #include <utility>
 

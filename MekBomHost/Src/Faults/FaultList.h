@@ -1,30 +1,25 @@
-// Collects what is wrong with an input file, so that one run shows more than the first mistake.
+// A FindingList for messages that are not data yet.
 //
 //   faults.add("parts.csv:3: column \"Weight\": found \"abc\", expected a number");
 //   faults.throwIfAny();
-//
-// A file that is wrong throughout gives kMostShown messages and one that counts the others.
 #pragma once
 
-#include <cstddef>
+#include "FindingList.h"
+
 #include <string>
-#include <vector>
 
 namespace mekbom
 {
 class FaultList
 {
 public:
-    static constexpr std::size_t kMostShown = 20; // arbitrary: about a screen
-
     void add(const std::string& message);
-    bool isEmpty() const { return m_messages.empty(); }
+    bool isEmpty() const { return m_findings.numErrors() == 0; }
 
     // Throws a Fault of status kInvalidInput with all messages; returns when there is none.
-    void throwIfAny() const;
+    void throwIfAny() const { m_findings.throwIfAnyError(); }
 
 private:
-    std::vector<std::string> m_messages;
-    std::size_t m_numNotShown = 0;
+    FindingList m_findings;
 };
 }

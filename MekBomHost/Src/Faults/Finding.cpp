@@ -1,14 +1,27 @@
 #include "Finding.h"
 
+#include "FindingCodes.h"
+#include "MessageText.h"
+
+#include <utility>
+
 namespace mekbom
 {
 namespace
 {
-// "parts.csv:3:17"
+Finding ofCode(const FindingCode& code)
+{
+    Finding finding;
+    finding.severity = code.severity;
+    finding.code = code.name;
+    return finding;
+}
+
+// "parts.csv:3:17"; the field says it better than the column of the text, which only editors want to know then.
 std::string placeOf(const Finding& finding)
 {
     std::string place = finding.source;
-    for (const int number : { finding.begin.line, finding.begin.column })
+    for (const int number : { finding.begin.line, finding.field.empty() ? finding.begin.column : 0 })
         if (number > 0)
             place += ":" + std::to_string(number);
     return place;
@@ -22,11 +35,35 @@ std::string contentOf(const Finding& finding)
 }
 }
 
+Finding Finding::of(const FindingCode& code, std::string found, std::string expected)
+{
+    Finding finding = ofCode(code);
+    finding.found = std::move(found);
+    finding.expected = std::move(expected);
+    return finding;
+}
+
+Finding Finding::stating(const FindingCode& code, std::string statement)
+{
+    Finding finding = ofCode(code);
+    finding.statement = std::move(statement);
+    return finding;
+}
+
+Finding Finding::saying(const FindingCode& code, std::string sentence)
+{
+    Finding finding = ofCode(code);
+    finding.sentence = std::move(sentence);
+    return finding;
+}
+
 std::string messageOf(const Finding& finding)
 {
+    if (!finding.sentence.empty())
+        return finding.sentence;
     std::string message;
     for (const std::string& part :
-         { placeOf(finding), finding.path, finding.field.empty() ? "" : "column \"" + finding.field + "\"" })
+         { placeOf(finding), finding.path, finding.field.empty() ? "" : "column " + inQuotes(finding.field) })
         if (!part.empty())
             message += part + ": ";
     return message + contentOf(finding) + (finding.remedy.empty() ? "" : ": " + finding.remedy);

@@ -1,10 +1,107 @@
-// The codes of all findings, each with what it says. Programs and templates name findings by them: a code is never given
-// to another finding.
+// The codes of all findings, each with how bad it is and what it says in general. Programs, templates and people name
+// findings by them, so a code is never given to another finding, nor reused when its finding is gone.
 //
-// MB7xx parts lists, MB8xx template files, MB9xx options, settings and units. The hundreds below are the mistakes
-// of template authors.
+//   FindingCodes::kCellIsNoNumber.name       ->  "MB710"
+//   FindingCodes::find("MB710")->sentence    ->  "A cell of a column of numbers or quantities holds none."
+//
+// MB7xx are about parts lists, MB8xx about template files, MB9xx about options, settings, units, and files as such.
+// MB1xx to MB6xx are kept for the mistakes of template authors.
 #pragma once
 
-namespace mekbom::FindingCodes
+#include "Finding.h"
+
+#include <string_view>
+#include <vector>
+
+namespace mekbom
 {
+struct FindingCode
+{
+    const char* name; // "MB710"
+    Finding::eSeverity severity;
+    const char* sentence;
+};
+
+namespace FindingCodes
+{
+constexpr auto kError = Finding::kError;
+constexpr auto kNote = Finding::kNote;
+
+// Parts lists.
+inline constexpr FindingCode kNoHeaderRow = { "MB701", kError, "A parts list is empty: it lacks even a header row." };
+inline constexpr FindingCode kColumnWithoutName = { "MB702", kError, "A field of the header row names no column." };
+inline constexpr FindingCode kColumnTwice = { "MB703", kError, "Two fields of the header row name the same column." };
+inline constexpr FindingCode kOtherSeparator = { "MB704", kError,
+                                                 "The header row is one field, which holds another separator." };
+inline constexpr FindingCode kQuoteWithinField = { "MB705", kError, "A quote stands within a field without quotes." };
+inline constexpr FindingCode kTextBehindQuote = { "MB706", kError, "Text follows the quote that closes a field." };
+inline constexpr FindingCode kQuoteNotClosed = { "MB707", kError, "The file ends within a field in quotes." };
+inline constexpr FindingCode kWrongNumberOfFields = { "MB708", kError,
+                                                      "A record has more or fewer fields than the header row." };
+inline constexpr FindingCode kCellIsNotWhole = { "MB709", kError,
+                                                 "A cell of a column of whole numbers holds none of 32 bits." };
+inline constexpr FindingCode kCellIsNoNumber = { "MB710", kError,
+                                                 "A cell of a column of numbers or quantities holds none." };
+inline constexpr FindingCode kCellIsTooLarge = { "MB711", kError,
+                                                 "A number is too large in the unit that the model keeps it in." };
+inline constexpr FindingCode kUnitOfNoQuantity = { "MB712", kError,
+                                                   "A unit is given for a column of texts or of whole numbers." };
+inline constexpr FindingCode kColumnUnitUnknown = { "MB713", kError,
+                                                    "The unit of a column is none, or measures something else." };
+inline constexpr FindingCode kUnitOfMissingColumn = { "MB714", kError,
+                                                      "A unit is given for a column that the parts list has not." };
+inline constexpr FindingCode kUnitGivenTwice = { "MB715", kError,
+                                                 "A unit is given for a column whose heading names another one." };
+inline constexpr FindingCode kColumnMissing = { "MB716", kNote,
+                                                "The parts list has no column for data that the template asks for." };
+inline constexpr FindingCode kRowsMerged = { "MB717", kNote, "Lines equal to the one before them count in no total." };
+inline constexpr FindingCode kNoSuitableTemplate = { "MB718", kError,
+                                                     "The columns suit none of the templates there are to choose." };
+
+// Template files.
+inline constexpr FindingCode kNoJson = { "MB801", kError, "A template file is no JSON with comments." };
+inline constexpr FindingCode kKeyTwice = { "MB802", kError, "An object has the same key twice." };
+inline constexpr FindingCode kKeyUnknown = { "MB803", kError, "An object has a key that means nothing there." };
+inline constexpr FindingCode kKeyMissing = { "MB804", kError, "An object lacks a key that it needs." };
+inline constexpr FindingCode kWrongKindOfValue = { "MB805", kError,
+                                                   "A value is a text where a number belongs, or the like." };
+inline constexpr FindingCode kTextIsEmpty = { "MB806", kError, "A text that must say something is empty." };
+inline constexpr FindingCode kNumberOutOfRange = { "MB807", kError, "A number is too small or too large." };
+inline constexpr FindingCode kNameUnknown = { "MB808", kError, "A text is none of the names that may stand there." };
+inline constexpr FindingCode kNoQueryFilter = { "MB809", kError, "A text is no query filter." };
+inline constexpr FindingCode kNoSection = { "MB810", kError, "A template has no section." };
+inline constexpr FindingCode kColumnDescribedTwice = { "MB811", kError, "Two columns of a template show the same." };
+inline constexpr FindingCode kColumnNotShown = { "MB812", kError, "No printed section shows a column." };
+inline constexpr FindingCode kSectionNotEvaluated = { "MB813", kNote,
+                                                      "A section stands behind the header and footer of its level." };
+inline constexpr FindingCode kChildrenNotEvaluated = { "MB814", kNote, "A footer has sections below it." };
+
+// Options, settings, units, and files as such.
+inline constexpr FindingCode kFileUnreadable = { "MB901", kError, "A file cannot be read." };
+inline constexpr FindingCode kTextIsNotUtf8 = { "MB902", kError, "A file holds bytes that are no UTF-8." };
+inline constexpr FindingCode kTextHasZeroByte = { "MB903", kError, "A file holds a zero byte, which no text does." };
+inline constexpr FindingCode kShippedFileMissing = { "MB904", kError, "A file of the installation is not there." };
+inline constexpr FindingCode kOutputNotWritten = { "MB905", kError, "The output cannot be written." };
+inline constexpr FindingCode kOutputIsInput = { "MB906", kError, "The output would take the place of an input." };
+inline constexpr FindingCode kWrongArguments = { "MB907", kError, "The command line cannot be understood." };
+inline constexpr FindingCode kOptionIsNoPair = { "MB908", kError, "An option lacks the equals sign or a side of it." };
+inline constexpr FindingCode kOptionWithoutUse = { "MB909", kError, "An option does not go with another one." };
+inline constexpr FindingCode kKindUnknown = { "MB910", kError, "A word names no kind of quantity." };
+inline constexpr FindingCode kUnitUnknown = { "MB911", kError, "A word is no unit of the kind that is asked for." };
+inline constexpr FindingCode kBaseUnknown = { "MB912", kError,
+                                              "The units to start from are neither metric nor "
+                                              "imperial." };
+inline constexpr FindingCode kNoQuantity = { "MB913", kError, "A word is no quantity, or one of another kind." };
+inline constexpr FindingCode kEntryMalformed = { "MB914", kError, "A line of an INI file is no key with its value." };
+inline constexpr FindingCode kKeyRepeated = { "MB915", kError, "An INI file has a key twice." };
+inline constexpr FindingCode kSettingUnknown = { "MB916", kError, "A word names no setting." };
+inline constexpr FindingCode kSettingIsNoNumber = { "MB917", kError, "The value of a setting is no whole number." };
+inline constexpr FindingCode kSettingUnused = { "MB918", kNote, "A settings file sets what lists do not use." };
+
+// All of the above, in the order of their numbers.
+const std::vector<FindingCode>& all();
+
+// The code of that name, or null.
+const FindingCode* find(std::string_view name);
+}
 }

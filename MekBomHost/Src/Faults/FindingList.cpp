@@ -2,17 +2,19 @@
 
 #include "Fault.h"
 
+#include <utility>
+
 namespace mekbom
 {
 void FindingList::add(Finding finding)
 {
-    m_numErrors += finding.severity == Finding::kError ? 1 : 0;
-    m_findings.push_back(std::move(finding));
+    if (m_numOf[finding.severity]++ < kMostKept)
+        m_findings.push_back(std::move(finding));
 }
 
 void FindingList::throwIfAnyError() const
 {
-    if (m_numErrors > 0)
-        throw Fault(kInvalidInput, m_findings);
+    if (numErrors() > 0)
+        throw Fault(kInvalidInput, m_findings, numErrors());
 }
 }

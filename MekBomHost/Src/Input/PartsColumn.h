@@ -4,8 +4,8 @@
 #include "VorBomDataValue.h"
 
 #include "MekRoots/Exp/MEKUnit.h"
-#include "MekRoots/Exp/VorQuantityReader.h"
 #include "MekRoots/Exp/VorString.h"
+#include "MekUnits/Src/VorQuantityReader.h"
 
 #include <optional>
 #include <string>

@@ -6,7 +6,7 @@
 #include "VorBomDataTuple.h"
 #include "VorBomTokenCatalogue.h"
 
-#include "MekRoots/Exp/VorUnitDefinition.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
 
 namespace mekbom
 {

@@ -6,6 +6,7 @@
 #include "StandardOutput.h"
 #include "UnitsCommand.h"
 
+#include <cstddef>
 #include <cstdio>
 #include <exception>
 #include <new>
@@ -15,6 +16,8 @@ namespace mekbom::Program
 {
 namespace
 {
+const std::size_t kMostShown = 20; // errors; arbitrary: about a screen
+
 void printMessage(const std::string& message)
 {
     std::fputs(("mekbom: " + message + "\n").c_str(), stderr);
@@ -56,7 +59,7 @@ ExitStatus runGuarded(const std::function<void()>& command)
     }
     catch (const Fault& fault)
     {
-        for (const std::string& message : fault.messages())
+        for (const std::string& message : fault.messages(kMostShown))
             printMessage(message);
         return fault.status();
     }

@@ -6,7 +6,7 @@
 #include "TextFile.h"
 #include "Utf8.h"
 
-#include "MekRoots/Exp/KTIniReader.h"
+#include "KTRepositoryProxy/Src/KTIniReader.h"
 #include "MekRoots/Exp/KTRepositoryProxy.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 #include "UnitKinds.h"
 #include "Utf8.h"
 
-#include "MekRoots/Exp/VorUnitDefinition.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
 
 namespace mekbom::InputUnits
 {

@@ -6,7 +6,7 @@
 #include "UnitKinds.h"
 #include "Utf8.h"
 
-#include "MekRoots/Exp/KTIniReader.h"
+#include "KTRepositoryProxy/Src/KTIniReader.h"
 
 #include <filesystem>
 #include <system_error>

@@ -5,8 +5,8 @@
 #include "Utf8.h"
 
 #include "MekRoots/Exp/MEKUnit.h"
-#include "MekRoots/Exp/VorUnitDefinition.h"
-#include "MekRoots/Exp/VorUnitNotation.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
+#include "MekUnits/Src/VorUnitNotation.h"
 
 #include <algorithm>
 #include <array>

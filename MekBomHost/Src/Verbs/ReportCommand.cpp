@@ -1,5 +1,6 @@
 #include "ReportCommand.h"
 
+#include "CsvReader.h"
 #include "DataTokens.h"
 #include "DisplaySettings.h"
 #include "Fault.h"
@@ -55,7 +56,8 @@ void ReportCommand::openParts()
     else
         m_pFile = std::make_unique<FileSource>(m_options.data.empty() ? ShippedFiles::find(ShippedFiles::kPartsList)
                                                                       : m_options.data);
-    m_pParts = std::make_unique<PartsList>(*m_pFile);
+    m_pRecords = std::make_unique<CsvReader>(*m_pFile);
+    m_pParts = std::make_unique<PartsList>(*m_pRecords);
     for (const auto& [token, unit] : m_options.inputUnits)
         m_pParts->setInputUnit(token, unit);
 }

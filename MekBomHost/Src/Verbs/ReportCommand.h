@@ -4,6 +4,7 @@
 
 #include "FileSource.h"
 #include "PartsList.h"
+#include "RecordSource.h"
 #include "Report.h"
 #include "ReportOptions.h"
 #include "ReportTemplate.h"
@@ -41,7 +42,8 @@ private:
 
     ReportOptions m_options;
     std::unique_ptr<Report> m_pReport;
-    std::unique_ptr<FileSource> m_pFile; // null for the sample data, as m_pParts is
+    std::unique_ptr<FileSource> m_pFile; // null for the sample data, as the next two are
+    std::unique_ptr<RecordSource> m_pRecords;
     std::unique_ptr<PartsList> m_pParts;
     std::vector<std::string> m_notes;
 };

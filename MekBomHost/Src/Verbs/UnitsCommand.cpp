@@ -8,9 +8,9 @@
 #include "Utf8.h"
 
 #include "MekRoots/Exp/MEKUnit.h"
-#include "MekRoots/Exp/VorQuantityReader.h"
-#include "MekRoots/Exp/VorUnitDefinition.h"
-#include "MekRoots/Exp/VorUnitNotation.h"
+#include "MekUnits/Src/VorQuantityReader.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
+#include "MekUnits/Src/VorUnitNotation.h"
 
 namespace mekbom::UnitsCommand
 {

@@ -45,12 +45,24 @@ TEST(FindingListTest, OneErrorThrowsAllFindings)
     }
 }
 
-TEST(FindingListTest, KeepsMoreThanAScreenful)
+TEST(FindingListTest, KeepsThousandsAndCountsTheOthers)
 {
     FindingList findings;
-    for (int i = 0; i < 1000; ++i)
+    for (std::size_t i = 0; i < FindingList::kMostKept + 7; ++i)
         findings.add(findingOf(Finding::kError));
+    findings.add(findingOf(Finding::kNote));
 
-    EXPECT_EQ(1000U, findings.all().size());
+    EXPECT_EQ(FindingList::kMostKept + 1, findings.all().size());
+    EXPECT_EQ(FindingList::kMostKept + 7, findings.numErrors());
+    EXPECT_EQ(Finding::kNote, findings.all().back().severity);
+    try
+    {
+        findings.throwIfAnyError();
+        FAIL() << "nothing was thrown";
+    }
+    catch (const Fault& fault)
+    {
+        EXPECT_EQ(FindingList::kMostKept + 7, fault.numErrors());
+    }
 }
 }

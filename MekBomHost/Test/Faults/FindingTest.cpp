@@ -1,5 +1,7 @@
 #include "Finding.h"
 
+#include "FindingCodes.h"
+
 #include <gtest/gtest.h>
 
 namespace mekbom
@@ -56,9 +58,33 @@ TEST(FindingTest, TheRemedyComesLast)
 
 TEST(FindingTest, WithoutAPlaceOnlyTheContentIsSaid)
 {
-    Finding finding;
-    finding.found = "nothing";
+    EXPECT_EQ("found nothing", messageOf(Finding::of(FindingCodes::kNoHeaderRow, "nothing")));
+}
 
-    EXPECT_EQ("found nothing", messageOf(finding));
+TEST(FindingTest, ASentenceNeedsNoPlaceInFront)
+{
+    Finding finding = Finding::saying(FindingCodes::kColumnMissing, "parts.csv has no column for %Weight");
+    finding.source = "parts.csv";
+    finding.begin = { 1, 1 };
+
+    EXPECT_EQ("parts.csv has no column for %Weight", messageOf(finding));
+}
+
+TEST(FindingTest, AFieldIsNamedInsteadOfTheColumnOfTheText)
+{
+    Finding finding = cellFinding();
+    finding.begin.column = 17;
+    finding.field = "A\nB";
+
+    EXPECT_EQ("parts.csv:3: column \"A?B\": found \"n/a\", expected a number", messageOf(finding));
+}
+
+TEST(FindingTest, CodeAndSeverityAreThoseOfTheCode)
+{
+    const Finding finding = Finding::stating(FindingCodes::kSectionNotEvaluated, "is not evaluated");
+
+    EXPECT_EQ("MB813", finding.code);
+    EXPECT_EQ(Finding::kNote, finding.severity);
+    EXPECT_EQ(Finding::kError, Finding::of(FindingCodes::kNoJson, "no valid JSON").severity);
 }
 }

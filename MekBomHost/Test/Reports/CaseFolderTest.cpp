@@ -1,4 +1,5 @@
 #include "CommandLine.h"
+#include "CsvReader.h"
 #include "DisplaySettings.h"
 #include "FileSource.h"
 #include "PartsList.h"
@@ -91,7 +92,8 @@ std::unique_ptr<Report> readReport(const fs::path& folder)
     auto pReport = std::make_unique<Report>(TemplateReader::read("template.json", readFile(folder / "template.json")),
                                             UnitChoice::unitsOf(options.units, options.unitChoices));
     FileSource file((folder / "data.csv").string());
-    PartsList parts(file);
+    CsvReader records(file);
+    PartsList parts(records);
     for (const auto& [token, unit] : options.inputUnits)
         parts.setInputUnit(token, unit);
     parts.readRows(pReport->engineTemplate(), pReport->queryFilter());

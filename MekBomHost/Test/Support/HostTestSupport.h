@@ -64,7 +64,7 @@ inline std::string faultOf(const std::function<void()>& action)
     }
     catch (const Fault& fault)
     {
-        for (const std::string& message : fault.messages())
+        for (const std::string& message : fault.messages(fault.numErrors()))
             text += std::to_string(fault.status()) + " " + message + "\n";
     }
     return text;

@@ -2,8 +2,8 @@
 
 #include "Support/HostTestSupport.h"
 
-#include "MekRoots/Exp/VorUnitNotation.h"
 #include "MekRoots/Test/Support/TestSupport.h"
+#include "MekUnits/Src/VorUnitNotation.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 #include "Support/HostTestSupport.h"
 #include "Support/ProgramRun.h"
 
-#include "MekRoots/Exp/VorUnitDefinition.h"
 #include "MekRoots/Test/Support/TestSupport.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
 
 #include <gtest/gtest.h>
 

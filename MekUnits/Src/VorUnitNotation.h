@@ -9,9 +9,9 @@
 // Units are written as VorUnitsTransformArray::findUnit takes them. Decimals are 0 to 9, denominators 1 to 256.
 #pragma once
 
-#include "MEKUnit.h"
-#include "MekExport.h"
-#include "VorString.h"
+#include "MekRoots/Exp/MEKUnit.h"
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorString.h"
 
 class MEK_UNITS_API VorUnitNotation
 {

@@ -21,8 +21,8 @@
 // The same in every locale. Objects are small, immutable and may be used from every thread at once.
 #pragma once
 
-#include "MekExport.h"
-#include "VorString.h"
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorString.h"
 
 struct VorUnitDefinition;
 

@@ -1,4 +1,4 @@
-#include "MekUnits/Src/VorQuantityText.h"
+#include "VorQuantityText.h"
 #include "MekRoots/Test/Support/TestSupport.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 // Numbers are kept in stored units of hosts and never change. Each kind has a range of its own, metric units first.
 #pragma once
 
-#include "MekRoots/Exp/VorUnitDefinition.h"
+#include "VorUnitDefinition.h"
 
 namespace VorUnitCatalogue
 {

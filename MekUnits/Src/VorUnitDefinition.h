@@ -5,7 +5,7 @@
 // Rows stand in the catalogue for as long as the process runs.
 #pragma once
 
-#include "VorUnitsTransformArray.h"
+#include "MekRoots/Exp/VorUnitsTransformArray.h"
 
 #include <cstdint>
 

@@ -3,14 +3,13 @@
 //   text.addInteger(7); text.addCharacter(L'\''); ...   ->  7'-6 1/2"
 #pragma once
 
-#include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <cstdint>
 
 class VorDecimalNumber;
 
-class MEK_UNITS_API VorQuantityText
+class VorQuantityText
 {
 public:
     // "-12.5": `parts` of ten to `numDecimals`, of which there are 9 at most. What most numbers of a report need, in one
@@ -36,8 +35,6 @@ public:
     VorString text() const { return VorString(m_text, m_nLength); }
 
 private:
-    static VorString ofLongDecimal(bool isNegative, std::uint64_t parts, int numDecimals, int suppressLastZeros);
-
     static constexpr int kRoom = 80; // the longest are feet and inches: sign, 14 digits, marks, 2 digits and 9 decimals
 
     wchar_t m_text[kRoom];

@@ -16,8 +16,8 @@
 // order mark in front is passed over. One object is for one thread at a time.
 #pragma once
 
-#include "MekExport.h"
-#include "VorString.h"
+#include "MekRoots/Exp/MekExport.h"
+#include "MekRoots/Exp/VorString.h"
 
 #include <map>
 #include <string>

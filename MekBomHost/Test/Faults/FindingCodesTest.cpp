@@ -1,0 +1,47 @@
+#include "FindingCodes.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <set>
+#include <string>
+
+namespace mekbom
+{
+TEST(FindingCodesTest, NumbersFollowEachOtherWithoutGapsWithinTheirHundred)
+{
+    int last = 700;
+    for (const FindingCode& code : FindingCodes::all())
+    {
+        const std::string name = code.name;
+        ASSERT_EQ("MB", name.substr(0, 2));
+        ASSERT_EQ(5U, name.size());
+        const int number = std::stoi(name.substr(2));
+        const bool beginsHundred = number % 100 == 1 && number / 100 == last / 100 + 1;
+        EXPECT_TRUE(number == last + 1 || beginsHundred) << name << " after " << last;
+        last = number;
+    }
+    EXPECT_EQ(9, last / 100);
+}
+
+TEST(FindingCodesTest, EachSaysSomethingElseInASentence)
+{
+    std::set<std::string> sentences;
+    for (const FindingCode& code : FindingCodes::all())
+    {
+        const std::string sentence = code.sentence;
+        EXPECT_EQ('.', sentence.back()) << code.name;
+        EXPECT_TRUE(sentence.front() >= 'A' && sentence.front() <= 'Z') << code.name;
+        EXPECT_TRUE(sentences.insert(sentence).second) << code.name;
+    }
+}
+
+TEST(FindingCodesTest, CodesAreFoundByTheirNames)
+{
+    for (const FindingCode& code : FindingCodes::all())
+        EXPECT_EQ(&code, FindingCodes::find(code.name));
+    EXPECT_EQ(nullptr, FindingCodes::find("MB700"));
+    EXPECT_EQ(nullptr, FindingCodes::find("MB101"));
+    EXPECT_EQ(nullptr, FindingCodes::find(""));
+}
+}
