@@ -112,5 +112,5 @@ private:
     Announced* m_pAnnouncedEnd = m_announced; // newer than all that are in the list
     wchar_t m_announcedNames[kMostAnnouncedCharacters];
     wchar_t* m_pFreeForNames = m_announcedNames; // behind the name of the last announced
-    std::wstring m_names; // those kept
+    std::wstring m_names;                        // those kept
 };
