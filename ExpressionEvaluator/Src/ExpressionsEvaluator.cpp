@@ -36,6 +36,11 @@ void traceTree(const VorExprEvTreeItem* pRoot)
 }
 }
 
+bool ExpressionsEvaluator::isTraced()
+{
+    return m_nTraceTrees != 0 || VorExpressionEvaluator::m_nTraceStacks != 0;
+}
+
 ExpressionsEvaluator::ExpressionsEvaluator(const wchar_t* text, unsigned int length)
     : m_pText(text), m_nLength(text == nullptr ? 0 : std::min(length, kMostCharacters)), m_cSeparator(L';')
 {
@@ -51,6 +56,7 @@ int ExpressionsEvaluator::addVariable(const VorExprEvTextView& name, VorExprEvVa
 int ExpressionsEvaluator::evaluate(wchar_t* buffer)
 {
     const int nFormulaLength = static_cast<int>(m_nLength);
+    const int nTextLength = VorExprEvTextView(m_pText, 0, nFormulaLength).textLength();
     int nStart = 0;
     int nPreviousLength = 0;
     buffer[0] = L'\0';
@@ -58,7 +64,7 @@ int ExpressionsEvaluator::evaluate(wchar_t* buffer)
     {
         const int nSeparator = findSeparator(nStart);
         const int nLength = nSeparator < 0 ? nFormulaLength - nPreviousLength : nSeparator - nStart;
-        const VorExprEvTextView statement(m_pText + nStart, 0, nLength, nFormulaLength - nStart);
+        const VorExprEvTextView statement(m_pText + nStart, 0, nLength, nTextLength - nStart);
         const int nResult = evaluateStatement(statement, buffer);
         if (const VorExprEvalError* pError = VorExprEvalErrorHandler::ofThread().oldest())
         {
