@@ -1,6 +1,6 @@
 // Spreads 64-bit keys over a table whose size is a power of two.
 //
-//   VorFibonacciHash::placeOf(key, 8)     ->  0 to 255
+//   VorFibonacciHash::placeOf(0x7F3A5C10, 8)     ->  one of 0 to 255
 //
 // Multiplies by two to the 64 divided by the golden ratio and takes the highest bits, on which every bit of the key has
 // bearing: addresses and numbers that differ in a few bits alone, all of them low, or all of them high, spread evenly.

@@ -1,6 +1,6 @@
 // What rows are sorted by: tokens, each with a direction, the first counting most.
 //
-//   VorBomSortKeys keys({ L"%Material", L"%Length" }, { 1, 0 });        material ascending, length descending
+//   VorBomSortKeys keys(tokens, orders);        "%Material" and "%Length", 1 and 0: the one ascending, the other not
 //   keys.compare([&](std::size_t key) { return first.getTupleAt(keys.token(key)); },
 //                [&](std::size_t key) { return second.getTupleAt(keys.token(key)); })   ->  -1, 0 or 1
 //
