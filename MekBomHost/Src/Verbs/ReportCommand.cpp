@@ -1,7 +1,6 @@
 #include "ReportCommand.h"
 
 #include "DataTokens.h"
-#include "DisplaySettings.h"
 #include "Fault.h"
 #include "OutputFile.h"
 #include "ShippedFiles.h"
@@ -12,6 +11,7 @@
 
 #include "VorBomData.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -23,10 +23,10 @@ void ReportCommand::run()
     checkOutput();
     openParts();
     ReportTemplate reportTemplate = readTemplate();
-    m_notes = reportTemplate.notes;
-    loadSettings();
-    m_pReport = std::make_unique<Report>(std::move(reportTemplate),
-                                         UnitChoice::unitsOf(m_options.units, m_options.unitChoices));
+    for (const Finding& finding : reportTemplate.findings)
+        m_notes.push_back(messageOf(finding));
+    const DisplaySettings settings = readSettings();
+    m_pReport = std::make_unique<Report>(std::move(reportTemplate), chooseUnits(), settings);
     readData(*m_pReport);
     m_pReport->evaluate();
     noteMergedRows(*m_pReport);
@@ -65,31 +65,56 @@ ReportTemplate ReportCommand::readTemplate() const
 {
     const bool isDefault = m_options.templateName == ReportOptions::kDefaultTemplate;
     if (!isDefault && (!isSample() || !m_options.templateName.empty()))
-        return readTemplateFile(templatePath());
+        return readTemplateFile();
     ReportTemplate reportTemplate;
     reportTemplate.pTemplate.reset(VorBomTemplate::createDefaultTemplate());
     return reportTemplate;
 }
 
-ReportTemplate ReportCommand::readTemplateFile(const std::string& path) const
+ReportTemplate ReportCommand::readTemplateFile() const
 {
-    FileSource file(path);
-    return TemplateReader::read(path, file.readAll());
+    const NamedText file = m_options.templateName.empty() ? chooseTemplate() : contentOf(m_options.templateName);
+    return TemplateReader::read(file.name, file.text);
 }
 
-std::string ReportCommand::templatePath() const
+NamedText ReportCommand::chooseTemplate() const
 {
-    if (!m_options.templateName.empty())
-        return m_options.templateName;
+    std::vector<NamedText> candidates;
+    for (const std::string& file : ShippedFiles::templates())
+        candidates.push_back(contentOf(ShippedFiles::find(file)));
     const PartsList& parts = *m_pParts;
-    return TemplateChoice::choose(m_pFile->name(),
+    return TemplateChoice::choose(m_pFile->name(), candidates,
                                   [&parts](const std::string& token) { return parts.find(token) != nullptr; });
 }
 
-void ReportCommand::loadSettings()
+DisplaySettings ReportCommand::readSettings()
 {
-    for (const std::string& name : DisplaySettings::load(m_options.settingsFile, m_options.settings))
-        m_notes.push_back(m_options.settingsFile + " sets " + name + ", which lists do not use");
+    DisplaySettings::Origins origins;
+    for (const std::string& name : DisplaySettings::names())
+        if (const char* const pValue = std::getenv(name.c_str())) // NOLINT(concurrency-mt-unsafe): nobody changes it
+            origins.environment.emplace_back(name, pValue);
+    if (!m_options.settingsFile.empty())
+        origins.file = contentOf(m_options.settingsFile);
+    origins.options = m_options.settings;
+    FindingList findings;
+    const DisplaySettings settings = DisplaySettings::read(origins, findings);
+    for (const Finding& finding : findings.all())
+        m_notes.push_back(messageOf(finding));
+    return settings;
+}
+
+// A word that is neither a base nor a file is refused as a base.
+VorUnitsManager ReportCommand::chooseUnits() const
+{
+    std::error_code error;
+    if (!UnitChoice::isBase(m_options.units) && std::filesystem::exists(m_options.units, error))
+        return UnitChoice::unitsOf(contentOf(m_options.units), m_options.unitChoices);
+    return UnitChoice::unitsOf(m_options.units, m_options.unitChoices);
+}
+
+NamedText ReportCommand::contentOf(const std::string& path)
+{
+    return { path, FileSource(path).readAll() };
 }
 
 void ReportCommand::readData(Report& report)

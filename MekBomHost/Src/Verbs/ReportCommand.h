@@ -2,7 +2,9 @@
 // has been written then.
 #pragma once
 
+#include "DisplaySettings.h"
 #include "FileSource.h"
+#include "NamedText.h"
 #include "PartsList.h"
 #include "Report.h"
 #include "ReportOptions.h"
@@ -29,9 +31,11 @@ private:
     void checkOutput() const;
     void openParts();
     ReportTemplate readTemplate() const;
-    ReportTemplate readTemplateFile(const std::string& path) const;
-    std::string templatePath() const;
-    void loadSettings();
+    ReportTemplate readTemplateFile() const;
+    NamedText chooseTemplate() const;
+    DisplaySettings readSettings();
+    VorUnitsManager chooseUnits() const;
+    static NamedText contentOf(const std::string& path);
     void readData(Report& report);
     void takeSampleData(VorBomTemplate& reportTemplate) const;
     void noteMissingColumns(Report& report);

@@ -9,8 +9,6 @@
 #include "Support/HostTestSupport.h"
 #include "Support/ReportTestSupport.h"
 
-#include "MekRoots/Exp/KTRepositoryProxy.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -87,9 +85,10 @@ void hold(const fs::path& file, const std::string& text)
 std::unique_ptr<Report> readReport(const fs::path& folder)
 {
     const ReportOptions options = optionsOf(folder);
-    DisplaySettings::load(options.settingsFile, options.settings);
+    FindingList findings;
     auto pReport = std::make_unique<Report>(TemplateReader::read("template.json", readFile(folder / "template.json")),
-                                            UnitChoice::unitsOf(options.units, options.unitChoices));
+                                            UnitChoice::unitsOf(options.units, options.unitChoices),
+                                            DisplaySettings::read({ {}, {}, options.settings }, findings));
     FileSource file((folder / "data.csv").string());
     PartsList parts(file);
     for (const auto& [token, unit] : options.inputUnits)
@@ -98,11 +97,8 @@ std::unique_ptr<Report> readReport(const fs::path& folder)
     return pReport;
 }
 
-// The settings repository is shared by the process: every case ends with an empty one.
 class CaseFolderTest : public testing::TestWithParam<std::string>
 {
-protected:
-    ~CaseFolderTest() override { KTRepositoryProxy::clear(); }
 };
 }
 
