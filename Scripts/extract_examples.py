@@ -1,16 +1,16 @@
 #!/usr/bin/env python3
-"""Turns the code examples in headers' comments into sources, so that a build shows whether they are still true.
+"""Turns the code examples in headers' comments into one source, so that a build shows whether they are still true.
 
-    extract_examples.py HEADER GIVEN OUTPUT      one header's examples
-    extract_examples.py --list HEADER ...        which of the headers have any
+    extract_examples.py OUTPUT GIVEN HEADER ...
 
 An example is an indented block of a comment that holds a statement or a line "expression  ->  result":
 
     //   VorBomDataValue weight(12.5);
     //   weight.asString()  ->  "12.5"          what follows an arrow, or a statement and two blanks, is prose
 
-All examples of a header become one function each, after the declarations in GIVEN, a file of C++ that says what the
-examples take as given (its #include and using lines and its namespaces go to the top). GIVEN may be missing.
+Each becomes the body of a function. What the examples of VorBomDataRow.h take as given stands in VorBomDataRow.inc in
+the folder GIVEN, which may lack it: declarations that come before each of them; what starts with #include, namespace,
+struct, class, template or using in the first column comes before all of them.
 """
 
 import pathlib
@@ -19,9 +19,8 @@ import sys
 
 INDENTED = re.compile(r"^\s*// {3,}(\S.*)$")
 CONTINUED = re.compile(r"^\s*// {3}(\s*\S.*)$")
-STATEMENT_END = re.compile(r"[;{}]\s*(?=$|//|\s{2,})")
 CALL_WITH_RESULT = re.compile(r"^\s*[A-Za-z_][\w:]*(\(|\[|<[\w, ]*>\(|->|\.).*\s->\s")
-TOP_LEVEL = re.compile(r"^(#include|using namespace)")
+BEFORE_ALL = re.compile(r"^(#include|namespace|struct|class|template|using)\b")
 
 
 def comment_blocks(lines):
@@ -38,7 +37,7 @@ def comment_blocks(lines):
 
 def is_code(block):
     """Prose that is indented, such as a list or a table, has neither statements nor calls with results."""
-    if any(line.lstrip().startswith("- ") for line in block):
+    if any(line.lstrip().startswith("- ") for line in block) or re.match(r"\s*\w+\s{2,}\S", block[0]):
         return False
     return any(re.search(r"[;{}]\s*(//.*)?$", line) or re.search(r"\);(\s{2,}|$)", line) for line in block) or any(
         CALL_WITH_RESULT.match(line) for line in block)
@@ -71,41 +70,49 @@ def examples_of(header):
             yield first, [code_of(line) for line in block]
 
 
-def given_of(path):
-    """What a file of given things puts above the examples, and into each of them."""
-    top, within, depth = [], [], 0
-    for line in pathlib.Path(path).read_text(encoding="utf-8").split("\n") if path and pathlib.Path(path).exists() else []:
-        if line.startswith("namespace") or line.startswith("struct") or line.startswith("class") or depth > 0 or \
-                TOP_LEVEL.match(line):
-            top.append(line)
+def given_for(header, folder):
+    """Three lists of lines: includes, what comes before all examples, what comes before each."""
+    includes, before_all, before_each, depth = [], [], [], 0
+    path = pathlib.Path(folder) / (pathlib.Path(header).stem + ".inc")
+    for line in path.read_text(encoding="utf-8").split("\n") if path.exists() else []:
+        if line.startswith("#include"):
+            includes.append(line)
+        elif depth > 0 or BEFORE_ALL.match(line) or before_all[-1:] and not before_all[-1].rstrip().endswith((";", "}")):
+            before_all.append(line)
             depth += line.count("{") - line.count("}")
         else:
-            within.append(line)
-    return top, within
+            before_each.append(line)
+    return includes, before_all, before_each
 
 
-def source_of(header, given):
-    top, within = given_of(given)
+def functions_for(header, given):
+    """The header's examples as functions, in a namespace of their own."""
+    _, before_all, before_each = given
     namespaces = re.findall(r"^namespace ([\w:]+)", pathlib.Path(header).read_text(encoding="utf-8"), re.M)
     outer_first = dict.fromkeys(part for name in namespaces for part in (name.split("::")[0], name))
-    output = [f'#include "{header}"', *top, *(f"using namespace {name};" for name in outer_first)]
+    yield f"namespace examplesOf{pathlib.Path(header).stem}\n{{"
+    yield from (f"using namespace {name};" for name in outer_first)
+    yield from before_all
     for first, code in examples_of(header):
-        output += ["", f"void exampleOnLine{first}();", f"void exampleOnLine{first}()", "{", *within,
-                   f'#line {first} "{header}"', *code, "}"]
-    return "\n".join(output) + "\n"
+        yield f"void onLine{first}();\nvoid onLine{first}()\n{{"
+        yield from before_each
+        yield f'#line {first} "{header}"'
+        yield from code
+        yield "}"
+    yield "}"
 
 
 def main(arguments):
-    if arguments[:1] == ["--list"]:
-        for header in arguments[1:]:
-            if any(True for _ in examples_of(header)):
-                print(header)
-        return 0
-    if len(arguments) != 3:
+    if len(arguments) < 3:
         print(__doc__, file=sys.stderr)
         return 2
-    header, given, output = arguments
-    pathlib.Path(output).write_text(source_of(header, given), encoding="utf-8")
+    output, folder, *headers = arguments
+    headers = [header for header in headers if any(True for _ in examples_of(header))]
+    given = {header: given_for(header, folder) for header in headers}
+    includes = [f'#include "{header}"' for header in headers]
+    includes += dict.fromkeys(line for header in headers for line in given[header][0])
+    functions = [line for header in headers for line in functions_for(header, given[header])]
+    pathlib.Path(output).write_text("\n".join(includes + functions) + "\n", encoding="utf-8")
     return 0
 
 

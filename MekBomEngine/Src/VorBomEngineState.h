@@ -16,7 +16,7 @@
 #include <memory>
 
 class VorBomLevelPlan;
-class VorBomSectionSink;
+class VorBomSectionTarget;
 
 using VorBomDataRowPointerArray = VorArray<VorBomDataRow*>;
 
@@ -29,12 +29,15 @@ public:
     VorBomTemplateItem* m_pHeader = nullptr;             // of the template
     VorBomTemplateItem* m_pFooter = nullptr;             // of the template; null when the level has none
     VorBomDataRowPointerArray m_dataRows{ kRowsGrowBy }; // of the group now open, in the order of arrival
-    VorBomTemplateItem* m_pEvaluatedHeader = nullptr;    // made from m_pHeader for the group; null when there is none
-    VorBomTemplateItem* m_pEvaluatedFooter = nullptr;    // made from m_pFooter when the group closed; null when none
+    VorBomTemplateItem* m_pEvaluatedHeader = nullptr;    // made from m_pHeader for the group; null once it was taken
+    VorBomTemplateItem* m_pEvaluatedFooter = nullptr;    // made from m_pFooter when the group closed; likewise
     VorBomItemBase* m_pCollector = nullptr;              // where level 0 hangs its sections; null on all other levels
-    VorBomSectionSink* m_pSink = nullptr;                // takes what is not to be kept; null when a tree is made
     int m_bGroupOpen = 0;                                // 1 while a group is open
-    std::shared_ptr<VorBomLevelPlan> m_pPlan;            // what the two sections ask of every row, read from them once
+
+    // What an evaluation keeps beside these.
+    std::shared_ptr<VorBomLevelPlan> m_pPlan;             // what the two sections ask of every row, read from them once
+    VorBomSectionTarget* m_pTarget = nullptr;             // takes the sections of all levels; set on level 0 alone
+    const VorBomTemplateItem* m_pSectionBefore = nullptr; // of the deepest level, the last in the group around it
 };
 
 using VorBomEngineStateArray = VorArray<VorBomEngineState>;

@@ -1,14 +1,19 @@
 // The stack of levels, the making of evaluated sections, grouping and the main loop.
 //
 // Told on rows A, A, B under levels 0 report, 1 group by name, 2 details:
-//   A  opens 0, 1 and 2; 2 closes at once and hangs a details section in the header of 1
-//   A  joins 0 and 1; opens and closes 2
-//   B  joins 0; closes 1, which makes the footer over both A and hangs header and footer in the header of 0; opens 1, 2
-//   end: closes 1, then 0, whose header and footer go to the result.
+//   A  opens 0, 1 and 2; the line of 2 is complete at once and is taken
+//   A  joins 0 and 1; its line reads as the one before and is merged into it
+//   B  joins 0; closes 1, whose footer over the first A is taken; opens 1 and 2 anew
+//   end: 1 closes and is taken, then 0
+//
+// Whoever takes the sections (VorBomSectionTarget) hangs them in a tree or hands them to a host's sink; what is told
+// here is the same for both.
 #include "VorBomEvaluator2.h"
 
 #include "VorBomLevelPlan.h"
 #include "VorBomRowsAhead.h"
+#include "VorBomSectionTree.h"
+#include "VorBomSinkTarget.h"
 
 #include "MekRoots/Exp/VorAssert.h"
 
@@ -24,10 +29,32 @@ VorBomTemplateItem* asSection(VorBomItemBase* pItem)
     return static_cast<VorBomTemplateItem*>(pItem); // children of sections are sections
 }
 
+int lastLevelOf(const VorBomEngineStateArray& stack)
+{
+    return stack.length() - 1;
+}
+
 bool isLastLevel(const VorBomEngineStateArray& stack, int level)
 {
-    return level == stack.length() - 1;
+    return level == lastLevelOf(stack);
 }
+
+// Destroys what an evaluation that ends early has made and nobody has taken.
+class SectionsInProgress
+{
+public:
+    explicit SectionsInProgress(VorBomEngineStateArray& stack) : m_stack(stack) {}
+    SectionsInProgress(const SectionsInProgress&) = delete;
+    SectionsInProgress& operator=(const SectionsInProgress&) = delete;
+    ~SectionsInProgress()
+    {
+        for (VorBomEngineState& state : m_stack)
+            VorBomSectionTarget::destroySections(state);
+    }
+
+private:
+    VorBomEngineStateArray& m_stack;
+};
 }
 
 int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResult)
@@ -38,8 +65,8 @@ int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResul
     if (stack.isEmpty())
         return 0;
     stack[0].m_pCollector = pResult;
-    evaluateRows(*pTemplate, stack);
-    return 1;
+    VorBomSectionTree tree;
+    return evaluateRows(*pTemplate, stack, tree);
 }
 
 int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sink)
@@ -49,29 +76,36 @@ int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sin
     VorBomEngineStateArray stack = getTemplateStack(pTemplate);
     if (stack.isEmpty())
         return 0;
-    for (VorBomEngineState& state : stack)
-        state.m_pSink = &sink;
-    evaluateRows(*pTemplate, stack);
-    return 1;
+    VorBomSinkTarget target(sink, stack);
+    return evaluateRows(*pTemplate, stack, target);
 }
 
-void VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineStateArray& stack)
+int VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineStateArray& stack,
+                                   VorBomSectionTarget& target)
 {
     VorBomData* pData = reportTemplate.getBomData();
     if (pData == nullptr)
-        return;
-    VorBomTemplateUnits* pUnits = reportTemplate.getBomTemplateUnits();
+        return 1;
+    if (target.takeProgress(0) == 0)
+        return 0;
     sortInpuDataBySortingTokens(pData, stack);
+
+    stack[0].m_pTarget = &target;
+    const SectionsInProgress sectionsInProgress(stack);
+    VorBomTemplateUnits* pUnits = reportTemplate.getBomTemplateUnits();
     VorBomRowsAhead ahead(pData->child());
+    int numRowsDone = 0;
     for (VorBomItemBase* pRow = pData->child(); pRow != nullptr; pRow = pRow->next())
     {
         ahead.advance();
         evaluateData(static_cast<VorBomDataRow*>(pRow), stack, pUnits);
+        if (target.takeProgress(++numRowsDone) == 0)
+            return 0;
     }
-    for (int level = stack.length() - 1; level >= 0; --level)
+    for (int level = lastLevelOf(stack); level >= 0; --level)
         endGroup(stack, level, pUnits);
-    handOverFooters(stack, 0);
-    forgetGroup(stack, 0);
+    handOverGroups(stack, 0);
+    return 1;
 }
 
 VorBomEngineStateArray VorBomEvaluator2::getTemplateStack(VorBomTemplate* pTemplate)
@@ -117,8 +151,7 @@ int VorBomEvaluator2::evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& 
     {
         if (pStates[level].m_dataRows.isEmpty())
         {
-            beginGroup(pRow, stack, level);
-            handOverHeader(stack, level, pUnits);
+            beginGroup(pRow, stack, level, pUnits);
             if (isLastLevel(stack, level))
                 endGroup(stack, level, pUnits);
         }
@@ -126,9 +159,8 @@ int VorBomEvaluator2::evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& 
         {
             for (int inner = level; inner < stack.length(); ++inner)
                 endGroup(stack, inner, pUnits);
-            handOverFooters(stack, level);
-            beginGroup(pRow, stack, level);
-            handOverHeader(stack, level, pUnits);
+            handOverGroups(stack, level);
+            beginGroup(pRow, stack, level, pUnits);
         }
         else
         {
@@ -142,16 +174,18 @@ int VorBomEvaluator2::evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& 
     return 1;
 }
 
-int VorBomEvaluator2::beginGroup(VorBomDataRow* pRow, VorBomEngineStateArray& stack, int level)
+int VorBomEvaluator2::beginGroup(VorBomDataRow* pRow, VorBomEngineStateArray& stack, int level,
+                                 VorBomTemplateUnits* pUnits)
 {
-    forgetGroup(stack, level);
     VorBomEngineState& state = stack.begin()[level];
     state.m_bGroupOpen = 1;
-    std::unique_ptr<VorBomTemplateItem> pEvaluated = state.m_pPlan->header.process(*pRow);
-    state.m_pPlan->header.computeFormulas(*pEvaluated, *pRow);
-    pEvaluated->setFirstDataRow(pRow);
-    state.m_pEvaluatedHeader = pEvaluated.release();
+    state.m_pEvaluatedHeader = state.m_pPlan->header.process(*pRow).release();
+    state.m_pPlan->header.computeFormulas(*state.m_pEvaluatedHeader, pRow);
+    state.m_pEvaluatedHeader->setFirstDataRow(pRow);
     state.m_dataRows.append(pRow);
+    if (!isLastLevel(stack, level))
+        stack.begin()[level + 1].m_pSectionBefore = nullptr;
+    stack.begin()->m_pTarget->open(stack, level, *pUnits);
     return 1;
 }
 
@@ -181,14 +215,11 @@ int VorBomEvaluator2::groupIsCompleted(VorBomEngineStateArray& stack, int level,
 {
     VorBomEngineState& completedGroup = stack.begin()[level];
     if (completedGroup.m_pEvaluatedHeader != nullptr)
-        completedGroup.m_pPlan->header.showInUnits(*pUnits, *completedGroup.m_pEvaluatedHeader);
+        completedGroup.m_pPlan->header.display().show(*pUnits, completedGroup.m_pEvaluatedHeader->getData());
     if (completedGroup.m_pEvaluatedFooter != nullptr)
-        completedGroup.m_pPlan->footer->showInUnits(*pUnits, *completedGroup.m_pEvaluatedFooter);
-    if (level > 0 && isLastLevel(stack, level))
-        dropDuplicateDetails(stack, level);
-    handOverLine(stack, level);
-    hangSections(stack, level);
-    completedGroup.m_dataRows.empty();
+        completedGroup.m_pPlan->footer->display().show(*pUnits, completedGroup.m_pEvaluatedFooter->getData());
+    if (isLastLevel(stack, level))
+        handOverLine(stack);
     return 1;
 }
 
@@ -199,91 +230,46 @@ int VorBomEvaluator2::dataMatchGroup(VorBomDataRow* pRow, VorBomEngineState& sta
     return state.m_pPlan->isSameGroup(*pRow, *state.m_dataRows.last());
 }
 
-// Deletes a details section that reads as the one before it under the same parent, and takes its row out of all sums.
-void VorBomEvaluator2::dropDuplicateDetails(VorBomEngineStateArray& stack, int level)
+int VorBomEvaluator2::readsAsTheSectionBefore(VorBomEngineState& line)
 {
-    VorBomEngineState& completedGroup = stack.begin()[level];
-    VorBomTemplateItem* pDetails = completedGroup.m_pEvaluatedHeader;
-    if (pDetails == nullptr || pDetails->type() != VorBomTemplateItem::kDetails)
-        return;
-    VorBomTemplateItem* pParent = stack[level - 1].m_pEvaluatedHeader;
-    if (pParent->child() == nullptr || pParent->lastChild() == nullptr ||
-        isEqualAsEvaluated(pDetails, asSection(pParent->lastChild())) == 0)
-        return;
+    return line.m_pSectionBefore != nullptr && line.m_pEvaluatedHeader->type() == VorBomTemplateItem::kDetails &&
+                   isEqualAsEvaluated(line.m_pEvaluatedHeader, line.m_pSectionBefore) != 0
+               ? 1
+               : 0;
+}
 
-    if (completedGroup.m_dataRows.length() != 1)
+void VorBomEvaluator2::handOverLine(VorBomEngineStateArray& stack)
+{
+    const int level = lastLevelOf(stack);
+    VorBomEngineState& line = stack.begin()[level];
+    VorBomSectionTarget& target = *stack.begin()->m_pTarget;
+    const bool isMerged = level > 0 && readsAsTheSectionBefore(line) != 0;
+    if (isMerged)
+        mergeLine(line, target);
+    target.take(stack, level);
+    if (isMerged)
+        for (VorBomDataRow* pRow : line.m_dataRows)
+            pRow->setUseThisDataForSums(0); // only now: its own footer, if it has one, has counted it
+    line.m_dataRows.empty();
+}
+
+void VorBomEvaluator2::mergeLine(VorBomEngineState& line, VorBomSectionTarget& target)
+{
+    if (line.m_dataRows.length() != 1)
         VorAssert::vorAssert(L"1 == completedGroup.m_dataRows.length()", kSourcePath, __LINE__);
-    for (VorBomDataRow* pRow : completedGroup.m_dataRows)
-        pRow->setUseThisDataForSums(0);
-    delete pDetails;
-    completedGroup.m_pEvaluatedHeader = nullptr;
+    delete std::exchange(line.m_pEvaluatedHeader, nullptr);
+    for (const VorBomDataRow* pRow : line.m_dataRows)
+        target.takeMergedRow(*pRow);
 }
 
-// Appends the level's header, then its footer, to the sections of the level above, or at level 0 to the collector. When
-// a sink has them already they only take the place of those before: the next line is compared with its predecessor.
-void VorBomEvaluator2::hangSections(VorBomEngineStateArray& stack, int level)
+void VorBomEvaluator2::handOverGroups(VorBomEngineStateArray& stack, int outermost)
 {
-    const VorBomEngineState& completedGroup = stack.begin()[level];
-    VorBomItemBase* pTarget = level == 0 ? completedGroup.m_pCollector : stack[level - 1].m_pEvaluatedHeader;
-    const bool isKept = completedGroup.m_pSink == nullptr;
-    if (pTarget == nullptr)
+    for (int level = lastLevelOf(stack) - 1; level >= outermost; --level)
     {
-        if (isKept)
-            VorAssert::vorAssert(L"NULL != completedGroup.m_pCollector", kSourcePath, __LINE__);
-        return;
+        VorBomDataRowPointerArray& rows = stack.begin()[level].m_dataRows;
+        if (rows.isEmpty())
+            continue; // no group was open
+        stack.begin()->m_pTarget->take(stack, level);
+        rows.empty();
     }
-    if (!isKept && (completedGroup.m_pEvaluatedHeader != nullptr || completedGroup.m_pEvaluatedFooter != nullptr))
-    {
-        pTarget->empty();
-        pTarget->setChild(nullptr);
-    }
-    pTarget->addChild(completedGroup.m_pEvaluatedHeader);
-    pTarget->addChild(completedGroup.m_pEvaluatedFooter);
-}
-
-// Makes the level ready for its next group. What it evaluated hangs in the tree above, unless level 0 had no collector:
-// then it is destroyed with everything under it, only now, since inner groups are hung in it after it was closed.
-void VorBomEvaluator2::forgetGroup(VorBomEngineStateArray& stack, int level)
-{
-    VorBomEngineState& state = stack.begin()[level];
-    if (level == 0 && state.m_pCollector == nullptr)
-    {
-        if (state.m_pEvaluatedHeader != nullptr)
-            state.m_pEvaluatedHeader->empty();
-        delete state.m_pEvaluatedHeader;
-        delete state.m_pEvaluatedFooter;
-    }
-    state.m_dataRows.empty();
-    state.m_pEvaluatedHeader = nullptr;
-    state.m_pEvaluatedFooter = nullptr;
-}
-
-void VorBomEvaluator2::handOverHeader(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits)
-{
-    const VorBomEngineState& openedGroup = stack.begin()[level];
-    if (openedGroup.m_pSink == nullptr || isLastLevel(stack, level))
-        return;
-    openedGroup.m_pPlan->header.showInUnits(*pUnits, *openedGroup.m_pEvaluatedHeader);
-    openedGroup.m_pSink->takeHeader(*openedGroup.m_pEvaluatedHeader, level);
-}
-
-void VorBomEvaluator2::handOverFooters(VorBomEngineStateArray& stack, int outermost)
-{
-    for (int level = stack.length() - 2; level >= outermost; --level)
-    {
-        const VorBomEngineState& closedGroup = stack.begin()[level];
-        if (closedGroup.m_pSink != nullptr && closedGroup.m_pEvaluatedFooter != nullptr)
-            closedGroup.m_pSink->takeFooter(*closedGroup.m_pEvaluatedFooter, level);
-    }
-}
-
-void VorBomEvaluator2::handOverLine(VorBomEngineStateArray& stack, int level)
-{
-    const VorBomEngineState& line = stack.begin()[level];
-    if (line.m_pSink == nullptr || !isLastLevel(stack, level))
-        return;
-    if (line.m_pEvaluatedHeader != nullptr)
-        line.m_pSink->takeHeader(*line.m_pEvaluatedHeader, level);
-    if (line.m_pEvaluatedFooter != nullptr)
-        line.m_pSink->takeFooter(*line.m_pEvaluatedFooter, level);
 }

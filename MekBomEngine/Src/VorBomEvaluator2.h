@@ -44,6 +44,8 @@
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorGenericString.h"
 
+class VorBomSectionTarget;
+
 class MEK_BOM_API VorBomEvaluator2
 {
 public:
@@ -54,7 +56,8 @@ public:
     static int evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResult);
 
     // The same report, handed to `sink` section by section as evaluation goes on instead of being kept: beside a pointer
-    // for each row it takes the memory of one line for each level. Returns 1, or 0 without template or section.
+    // for each row and level it takes the memory of a line or two. Returns 1; 0 without template or section, and when the
+    // sink stopped it. What the sink throws passes through.
     static int evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sink);
 
 private:
@@ -62,7 +65,8 @@ private:
 
     // One state per level, outermost first.
     static VorBomEngineStateArray getTemplateStack(VorBomTemplate* pTemplate);
-    static void evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineStateArray& stack);
+    // 0 when `target` stopped it.
+    static int evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineStateArray& stack, VorBomSectionTarget& target);
 
     // A header or details section for one row: a copy of pTemplateItem without links, its values taken from the row
     // where the row has them. Formulas stay as they are. Marks the row's tuples it took as used. The caller owns it.
@@ -73,24 +77,23 @@ private:
     // their starting value plus those of all counted rows. Marks nothing. The caller owns it.
     static VorBomTemplateItem* process(VorBomTemplateItem* pTemplateItem, VorBomDataRowPointerArray rows);
 
-    // Grouping. All return 1 but dataMatchGroup.
+    // Grouping. All return 1 but dataMatchGroup. Level 0 names the target that sections go to.
     static int evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& stack, VorBomTemplateUnits* pUnits);
-    static int beginGroup(VorBomDataRow* pRow, VorBomEngineStateArray& stack, int level);
+    static int beginGroup(VorBomDataRow* pRow, VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits);
     static int addedInGroup(VorBomDataRow* pRow, VorBomEngineStateArray& stack, int level);
     static int endGroup(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits);
+    // Shows what was evaluated for the group; a line, whose level is the deepest, goes to the target at once.
     static int groupIsCompleted(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits);
     // 1 when the row belongs to the group that is open in `state`, or would open its first.
     static int dataMatchGroup(VorBomDataRow* pRow, VorBomEngineState& state);
 
-    static void dropDuplicateDetails(VorBomEngineStateArray& stack, int level);
-    static void hangSections(VorBomEngineStateArray& stack, int level);
-    static void forgetGroup(VorBomEngineStateArray& stack, int level);
-
-    // What a sink gets, in the order of the report; nothing happens without one. Headers go to it when their groups open,
-    // footers of `outermost` and the levels within when they have been closed, the deepest level's sections at once.
-    static void handOverHeader(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits);
-    static void handOverFooters(VorBomEngineStateArray& stack, int outermost);
-    static void handOverLine(VorBomEngineStateArray& stack, int level);
+    // A details line that reads as the section before it in the same group is merged into that: dropped, and its row
+    // taken out of all sums.
+    static void handOverLine(VorBomEngineStateArray& stack);
+    static int readsAsTheSectionBefore(VorBomEngineState& line);
+    static void mergeLine(VorBomEngineState& line, VorBomSectionTarget& target);
+    // The closed groups of `outermost` and the levels within, innermost first: a footer stands before those around it.
+    static void handOverGroups(VorBomEngineStateArray& stack, int outermost);
 
     // Sorting. The comparisons are callbacks over pointers to elements: VorBomDataRow* and
     // VorHeaderFooterSortingStruct. All return 1 but the comparisons, which answer -1, 0 or 1, and isEqualAsEvaluated.
@@ -100,7 +103,7 @@ private:
     static int sortItemList(VorBomTemplateItem*& pFirst, const VorStringArray& sortingTokens);
     static int compareEvaluatedItems(const void* pFirst, const void* pSecond);
     // 1 when both hold as many tuples and equal values in them, whatever their tokens.
-    static int isEqualAsEvaluated(VorBomTemplateItem* pFirst, VorBomTemplateItem* pSecond);
+    static int isEqualAsEvaluated(const VorBomTemplateItem* pFirst, const VorBomTemplateItem* pSecond);
 
     // Formulas and display. The row may be null.
     static void evaluateExpressions(VorBomTemplateItem* pItem, VorBomDataRow* pRow);

@@ -3,8 +3,9 @@
 // Told on a details line with %Length 2000 and "%Formula:%Length/1000":
 //   computed    the formula sees %Length = 2000 from line and row; line and row get 2.0 under "%Formula:%Length/1000"
 //   displayed   %Length is a distance, so the formula is one: both numbers become texts in the unit of distances
-#include "VorBomDisplayColumn.h"
 #include "VorBomEvaluator2.h"
+
+#include "VorBomDisplayPlan.h"
 #include "VorBomFormulaColumn.h"
 
 #include "MekRoots/Exp/VorAssert.h"
@@ -33,8 +34,7 @@ void VorBomEvaluator2::evaluateExpressions(VorBomTemplateItem* pItem, VorBomData
 
 void VorBomEvaluator2::applyUnitsForData(VorBomTemplateUnits* pUnits, VorBomDataTupleArray& tuples)
 {
-    for (VorBomDataTuple& tuple : tuples)
-        VorBomDisplayColumn(tuple.token()).show(*pUnits, tuple.value());
+    VorBomDisplayPlan(tuples).show(*pUnits, tuples);
 }
 
 void VorBomEvaluator2::fillGenericString(VorGenericString& target, const VorBomDataRow* pRow)

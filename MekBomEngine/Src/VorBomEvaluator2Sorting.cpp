@@ -237,7 +237,7 @@ int VorBomEvaluator2::compareEvaluatedItems(const void* pFirst, const void* pSec
     return 0;
 }
 
-int VorBomEvaluator2::isEqualAsEvaluated(VorBomTemplateItem* pFirst, VorBomTemplateItem* pSecond)
+int VorBomEvaluator2::isEqualAsEvaluated(const VorBomTemplateItem* pFirst, const VorBomTemplateItem* pSecond)
 {
     const VorBomDataTupleArray& first = pFirst->getData();
     const VorBomDataTupleArray& second = pSecond->getData();

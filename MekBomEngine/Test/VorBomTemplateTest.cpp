@@ -1,6 +1,5 @@
 #include "VorBomTemplate.h"
 
-#include "VorBomDefaultTemplate.h"
 #include "VorBomEvaluator2.h"
 
 #include "Support/BomTestSupport.h"
@@ -580,28 +579,16 @@ TEST(VorBomTemplateTest, DefaultTokensWithoutUnitAreRegistered)
     EXPECT_EQ(Units::kNoUnit, units.getUnitType(L"%Material"));
 }
 
-TEST(VorBomTemplateTest, LayoutOfTheDefaultTemplateIsTheFullTree)
+TEST(VorBomTemplateTest, ReferenceToSortingTokensOutlivesASecondSearch)
 {
-    EXPECT_EQ(0, VorBomDefaultTemplate::s_nLayoutSelector);
-}
+    BomTree<VorBomTemplate> bomTemplate;
+    Item* pGroup = newSection(Item::kGroupHeader, { tuple(L"%SortAscBy:%A", L"") });
+    bomTemplate.addChild(pGroup);
+    bomTemplate.findUsedTokens();
+    const VorStringArray& sorting = pGroup->sortingTokens();
 
-TEST(VorBomTemplateTest, OtherLayoutsLinkTheDetailsOrNothing)
-{
-    const LeakCheck leaks;
-    const VorBomDefaultTemplate sections;
-    VorBomTemplate nothing;
-    sections.linkInto(nothing, 2);
-    EXPECT_EQ(nullptr, nothing.child());
+    pGroup->addData(tuple(L"%SortDescBy:%B", L""));
+    bomTemplate.findUsedTokens();
 
-    VorBomTemplate detailsOnly;
-    sections.linkInto(detailsOnly, VorBomDefaultTemplate::kDetailsOnly);
-    EXPECT_EQ(VorString(L"[ kBomTemplate ]\n [ kDetails     ][%posNum:0][%Weight:0][%Material:0]"),
-              listOf(detailsOnly));
-
-    for (Item* pUnlinked : { sections.m_pReportHeader, sections.m_pReportFooter, sections.m_pOuterHeader,
-                             sections.m_pOuterFooter, sections.m_pInnerHeader, sections.m_pInnerFooter })
-    {
-        EXPECT_NE(0, pUnlinked->getData().length() + (pUnlinked == sections.m_pReportFooter ? 1 : 0));
-        delete pUnlinked;
-    }
+    EXPECT_EQ((Texts{ L"%SortAscBy:%A", L"%SortDescBy:%B" }), elementsOf(sorting));
 }

@@ -1,6 +1,7 @@
 // Parts lists: whatever bytes come, they are read into rows or refused with a fault that has a message. Input: a CSV
 // file. Seeds: Fuzz/Seeds/PartsListFuzz.
 #include "ByteSource.h"
+#include "CsvReader.h"
 #include "Fault.h"
 #include "PartsList.h"
 #include "QueryFilter.h"
@@ -61,7 +62,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t siz
     FuzzSource source(pData, size);
     try
     {
-        mekbom::PartsList parts(source);
+        mekbom::CsvReader records(source);
+        mekbom::PartsList parts(records);
         parts.readRows(report, mekbom::QueryFilter());
     }
     catch (const mekbom::Fault& fault)

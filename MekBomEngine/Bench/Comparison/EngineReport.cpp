@@ -8,7 +8,7 @@
 #include "EngineData.h"
 
 #include "MekBomEngine/Src/VorBomEvaluator2.h"
-#include "MekBomEngine/Src/VorBomItemWalk.h"
+#include "VorBomItemWalk.h"
 
 #include <malloc.h>
 

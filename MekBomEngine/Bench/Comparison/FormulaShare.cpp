@@ -10,9 +10,9 @@
 #include "ComparisonRun.h"
 #include "EngineData.h"
 
-#include "MekBomEngine/Src/VorBomColumns.h"
 #include "MekBomEngine/Src/VorBomEvaluator2.h"
-#include "MekBomEngine/Src/VorBomFormulaColumn.h"
+#include "VorBomColumns.h"
+#include "VorBomFormulaColumn.h"
 
 #include <algorithm>
 

@@ -14,21 +14,21 @@ class SectionTree : public VorBomSectionSink
 public:
     explicit SectionTree(VorBomItemBase& result) : m_parents{ &result } {}
 
-    void takeHeader(const VorBomTemplateItem& header, int level) override
+    void takeHeader(const VorBomReportSection& header) override
     {
-        VorBomTemplateItem* pHeader = hang(header, level);
-        m_parents.resize(static_cast<std::size_t>(level) + 1);
+        VorBomTemplateItem* pHeader = hang(header);
+        m_parents.resize(static_cast<std::size_t>(header.level) + 1);
         m_parents.push_back(pHeader);
     }
-    void takeFooter(const VorBomTemplateItem& footer, int level) override { hang(footer, level); }
+    void takeFooter(const VorBomReportSection& footer) override { hang(footer); }
 
 private:
-    VorBomTemplateItem* hang(const VorBomTemplateItem& section, int level)
+    VorBomTemplateItem* hang(const VorBomReportSection& taken)
     {
-        auto* pCopy = new VorBomTemplateItem(section);
+        auto* pCopy = new VorBomTemplateItem(taken.section);
         pCopy->setNext(nullptr);
         pCopy->setChild(nullptr);
-        m_parents.at(static_cast<std::size_t>(level))->addChild(pCopy);
+        m_parents.at(static_cast<std::size_t>(taken.level))->addChild(pCopy);
         return pCopy;
     }
 

@@ -44,7 +44,7 @@ VorBomDataValue::eBomDataValueType typeInCatalogue(const VorString& token)
 }
 }
 
-PartsList::PartsList(ByteSource& source) : m_reader(source)
+PartsList::PartsList(RecordSource& source) : m_source(source)
 {
     readHeader();
 }
@@ -62,7 +62,7 @@ void PartsList::setInputUnit(const std::string& token, const std::string& unit)
     const auto pColumn = std::find_if(m_columns.begin(), m_columns.end(),
                                       [&token](const PartsColumn& column) { return column.token == token; });
     if (pColumn == m_columns.end())
-        throw Fault(kWrongUsage, option + m_reader.sourceName() + " has no column " + inQuotes(token));
+        throw Fault(kWrongUsage, option + m_source.name() + " has no column " + inQuotes(token));
     if (!pColumn->unitSymbol.empty() && pColumn->unitSymbol != unit)
         throw Fault(kWrongUsage, option + "the column gives its unit already, " + inQuotes(pColumn->unitSymbol));
     pColumn->unitSymbol = unit;
@@ -76,27 +76,29 @@ void PartsList::readRows(VorBomTemplate& reportTemplate, const QueryFilter& filt
         resolveColumn(column, *reportTemplate.getBomTemplateUnits());
         column.isWanted = reportTemplate.isTokenRequired(column.tupleToken) || filter.names(column.tupleToken);
     }
-    PartsRows rows(m_columns, *reportTemplate.getBomData());
+    PartsRows rows(m_columns, m_source, *reportTemplate.getBomData());
     rows.reserveTuples(numFormulas(reportTemplate));
     if (find(kHandleToken) == nullptr && reportTemplate.isTokenRequired(Utf8::toWide(kHandleToken)))
         rows.numberRows(Utf8::toWide(kHandleToken));
-    while (m_reader.next())
-        rows.add(m_reader);
+    while (const Record* const pRecord = m_source.next())
+        rows.add(*pRecord);
     rows.finish();
 }
 
 void PartsList::readHeader()
 {
-    if (!m_reader.next())
-        throw Fault(kInvalidInput, m_reader.sourceName() + ": found nothing, expected a header row with column names");
+    const Record* const pHeader = m_source.next();
+    if (pHeader == nullptr)
+        throw Fault(kInvalidInput, m_source.name() + ": found nothing, expected a header row with column names");
     FaultList faults;
-    m_headerPlace = m_reader.sourceName() + ":" + std::to_string(m_reader.line()) + ": ";
-    for (std::size_t i = 0; i < m_reader.numFields(); ++i)
+    m_headerPlace = m_source.name() + ":" + std::to_string(m_source.findingInRecord().begin.line) + ": ";
+    for (const RecordCell& cell : *pHeader)
     {
-        addColumn(std::string(m_reader.field(i)));
+        addColumn(cell.asText());
         const PartsColumn& column = m_columns.back();
         if (column.token == "%")
-            faults.add(m_headerPlace + "found no name in field " + std::to_string(i + 1) + ", expected a column name");
+            faults.add(m_headerPlace + "found no name in field " + std::to_string(m_columns.size()) +
+                       ", expected a column name");
         else if (find(column.token) != &column)
             faults.add(m_headerPlace + "found column " + inQuotes(column.token) + " a second time");
     }
@@ -106,11 +108,11 @@ void PartsList::readHeader()
     faults.throwIfAny();
 }
 
-void PartsList::addColumn(const std::string& field)
+void PartsList::addColumn(const std::string& heading)
 {
-    const ColumnName name = ColumnName::parse(field);
+    const ColumnName name = ColumnName::parse(heading);
     PartsColumn column;
-    column.name = field;
+    column.name = heading;
     column.token = name.token;
     column.tupleToken = Utf8::toWide(name.token);
     column.unitSymbol = name.unit;

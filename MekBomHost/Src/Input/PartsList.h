@@ -1,19 +1,19 @@
-// A parts list on disk: comma-separated, its header row naming the tokens of the columns.
+// A parts list: records, of which the first, its header row, names the tokens of the columns.
 //
 //   FileSource file("parts.csv");
-//   PartsList parts(file);                 reads the header row
+//   CsvReader records(file);
+//   PartsList parts(records);              // reads the header row
 //   parts.setInputUnit("%Paint", "m2");
-//   parts.readRows(*pTemplate, filter);    into the template's data
+//   parts.readRows(*pTemplate, filter);    // into the template's data
 //
 // The catalogue of tokens decides what type a column has; a column it does not know has the type of its content
 // (ContentColumn). A cell of lengths, weights and other quantities may carry a unit of its own, as in "7'-6 1/2\"" and
 // "7.5 ft". "Handle" is the identity of the object. Everything that is wrong is thrown as one Fault.
 #pragma once
 
-#include "ByteSource.h"
-#include "CsvReader.h"
 #include "PartsColumn.h"
 #include "QueryFilter.h"
+#include "RecordSource.h"
 
 #include "VorBomTemplate.h"
 
@@ -27,7 +27,7 @@ class PartsList
 {
 public:
     // Reads the header row. `source` is not owned and outlives the list.
-    explicit PartsList(ByteSource& source);
+    explicit PartsList(RecordSource& source);
 
     const std::vector<PartsColumn>& columns() const { return m_columns; }
 
@@ -44,13 +44,13 @@ public:
 
 private:
     void readHeader();
-    void addColumn(const std::string& field);
+    void addColumn(const std::string& heading);
     void resolveColumn(PartsColumn& column, const VorBomTemplateUnits& units) const;
     void resolveUnit(PartsColumn& column, const VorBomTemplateUnits& units) const;
     static void resolveQuantities(PartsColumn& column, const std::optional<MEKUnit>& unit);
     std::string placeOfUnit(const PartsColumn& column) const;
 
-    CsvReader m_reader;
+    RecordSource& m_source;
     std::vector<PartsColumn> m_columns;
     std::string m_headerPlace; // "parts.csv:1: "
 };

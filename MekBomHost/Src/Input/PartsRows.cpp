@@ -19,8 +19,8 @@ std::string fieldCount(std::size_t numFields)
 }
 }
 
-PartsRows::PartsRows(const std::vector<PartsColumn>& columns, VorBomData& data)
-    : m_columns(columns), m_data(data), m_rows(data, columns.size()), m_contentColumns(columns.size())
+PartsRows::PartsRows(const std::vector<PartsColumn>& columns, const RecordSource& source, VorBomData& data)
+    : m_columns(columns), m_source(source), m_data(data), m_rows(data, columns.size()), m_contentColumns(columns.size())
 {
 }
 
@@ -29,19 +29,16 @@ void PartsRows::numberRows(const VorString& handleToken)
     m_numberToken = handleToken;
 }
 
-void PartsRows::add(const CsvReader& reader)
+void PartsRows::add(const Record& record)
 {
-    if (!checkNumFields(reader))
+    if (!checkNumCells(record))
         return;
     m_rows.beginRow();
     if (m_numberToken.isEmpty() == 0)
         addNumberAsHandle();
     for (std::size_t i = 0; i < m_columns.size(); ++i)
-    {
-        const std::string_view text = reader.field(i);
-        if (!text.empty())
-            readCell(reader, i, text);
-    }
+        if (!record[i].isNothing())
+            readCell(i, record[i]);
     if (m_rows.isFull())
         m_rows.build();
 }
@@ -63,51 +60,69 @@ void PartsRows::finish()
                 pTuple->value() = m_contentColumns[column].takeNext();
 }
 
-bool PartsRows::checkNumFields(const CsvReader& reader)
+bool PartsRows::checkNumCells(const Record& record)
 {
-    if (reader.numFields() == m_columns.size())
+    if (record.size() == m_columns.size())
         return true;
-    m_faults.add(reader.sourceName() + ":" + std::to_string(reader.line()) + ": found " +
-                 fieldCount(reader.numFields()) + ", expected " + std::to_string(m_columns.size()) +
+    m_faults.add(m_source.name() + ":" + std::to_string(m_source.findingInRecord().begin.line) + ": found " +
+                 fieldCount(record.size()) + ", expected " + std::to_string(m_columns.size()) +
                  " as in the header row");
     return false;
 }
 
-void PartsRows::readCell(const CsvReader& reader, std::size_t column, std::string_view text)
+void PartsRows::readCell(std::size_t column, const RecordCell& cell)
 {
     switch (m_columns[column].type)
     {
-        case VorBomDataValue::kIntData: readWhole(reader, column, text); break;
-        case VorBomDataValue::kDoubleData: readNumber(reader, column, text); break;
-        default: readText(column, text); break;
+        case VorBomDataValue::kIntData: readWhole(column, textOf(cell)); break;
+        case VorBomDataValue::kDoubleData: readNumber(column, cell); break;
+        default: readText(column, textOf(cell)); break;
     }
 }
 
-void PartsRows::readWhole(const CsvReader& reader, std::size_t column, std::string_view text)
+std::string_view PartsRows::textOf(const RecordCell& cell)
+{
+    if (!cell.isNumber())
+        return cell.text();
+    m_numberText = cell.asText();
+    return m_numberText;
+}
+
+void PartsRows::readWhole(std::size_t column, std::string_view text)
 {
     int value = 0;
     if (!CellNumber::parse(text, value))
-        addFault(reader, column,
+        addFault(column, text,
                  CellNumber::isWhole(text) ? "a whole number from -2147483648 to 2147483647" : "a whole number");
     else if (m_columns[column].isWanted)
         m_rows.add(m_columns[column].tupleToken, value);
 }
 
-void PartsRows::readNumber(const CsvReader& reader, std::size_t column, std::string_view text)
+void PartsRows::readNumber(std::size_t column, const RecordCell& cell)
 {
     const PartsColumn& properties = m_columns[column];
     double value = 0;
-    if (!properties.takesPlainNumbers || !CellNumber::parse(text, value))
+    if (!readPlainNumber(column, cell, value))
     {
-        if (!readQuantity(reader, column, value))
+        if (!readQuantity(column, textOf(cell), value))
             return;
     }
     else if (!properties.isInModelUnit)
         value = properties.unit->getVorUnitTransform().toInternalUnits(value);
     if (!std::isfinite(value))
-        addFault(reader, column, "a smaller number");
+        addFault(column, textOf(cell), "a smaller number");
     else if (properties.isWanted)
         m_rows.add(properties.tupleToken, value);
+}
+
+bool PartsRows::readPlainNumber(std::size_t column, const RecordCell& cell, double& value) const
+{
+    if (!m_columns[column].takesPlainNumbers)
+        return false;
+    if (!cell.isNumber())
+        return CellNumber::parse(cell.text(), value);
+    value = cell.number();
+    return true;
 }
 
 void PartsRows::readText(std::size_t column, std::string_view text)
@@ -131,25 +146,25 @@ void PartsRows::readHandle(std::size_t column, std::string_view text)
 }
 
 // A cell that is more than a number.
-bool PartsRows::readQuantity(const CsvReader& reader, std::size_t column, double& value)
+bool PartsRows::readQuantity(std::size_t column, std::string_view text, double& value)
 {
     const PartsColumn& properties = m_columns[column];
-    const VorString text = Utf8::toWide(reader.field(column));
-    if (properties.quantities && properties.quantities->read(text, value) == 1)
+    const VorString wideText = Utf8::toWide(text);
+    if (properties.quantities && properties.quantities->read(wideText, value) == 1)
         return true;
-    const std::string hint = properties.quantities ? Utf8::toBytes(properties.quantities->explain(text)) : "";
-    addFault(reader, column,
+    const std::string hint = properties.quantities ? Utf8::toBytes(properties.quantities->explain(wideText)) : "";
+    addFault(column, text,
              (properties.unit ? InputUnits::cellExpectation(*properties.unit) : "a number") +
                  (hint.empty() ? "" : ": " + hint));
     return false;
 }
 
-void PartsRows::addFault(const CsvReader& reader, std::size_t column, const std::string& expected)
+void PartsRows::addFault(std::size_t column, std::string_view text, const std::string& expected)
 {
-    m_faults.add(reader.sourceName() + ":" + std::to_string(reader.lineOfField(column)) + ": column " +
-                 inQuotes(m_columns[column].name) + ": found " + inQuotes(reader.field(column)) + ", expected " +
-                 expected);
+    m_faults.add(m_source.name() + ":" + std::to_string(m_source.findingInCell(column).begin.line) + ": column " +
+                 inQuotes(m_columns[column].name) + ": found " + inQuotes(text) + ", expected " + expected);
 }
+
 void PartsRows::addNumberAsHandle()
 {
     ++m_numRows;

@@ -10,6 +10,7 @@ namespace mekbom
 {
 namespace
 {
+// What a message says was expected.
 const char* kindName(JsonNode::eKind kind)
 {
     switch (kind)

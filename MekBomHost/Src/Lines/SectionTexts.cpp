@@ -65,16 +65,16 @@ SectionTexts::Choice SectionTexts::choiceFor(const ReportTemplate& reportTemplat
     return choice;
 }
 
-void SectionTexts::takeHeader(const VorBomTemplateItem& header, int level)
+void SectionTexts::takeHeader(const VorBomReportSection& header)
 {
-    const auto index = static_cast<std::size_t>(level);
+    const auto index = static_cast<std::size_t>(header.level);
     m_numDetails += index + 1 == m_headers.size() ? 1 : 0;
-    take(m_headers[index], header, { level, false });
+    take(m_headers[index], header.section, { header.level, false });
 }
 
-void SectionTexts::takeFooter(const VorBomTemplateItem& footer, int level)
+void SectionTexts::takeFooter(const VorBomReportSection& footer)
 {
-    take(m_footers[static_cast<std::size_t>(level)], footer, { level, true });
+    take(m_footers[static_cast<std::size_t>(footer.level)], footer.section, { footer.level, true });
 }
 
 const SectionTexts::Choice& SectionTexts::choiceOf(SectionPlace place) const

@@ -47,8 +47,8 @@ public:
 
     explicit SectionTexts(const ReportTemplate& reportTemplate);
 
-    void takeHeader(const VorBomTemplateItem& header, int level) override;
-    void takeFooter(const VorBomTemplateItem& footer, int level) override;
+    void takeHeader(const VorBomReportSection& header) override;
+    void takeFooter(const VorBomReportSection& footer) override;
 
     // How many sections of the deepest level were taken, with a line or without.
     int numDetails() const { return m_numDetails; }

@@ -1,4 +1,12 @@
 // A template as its file gives it: the engine's sections, and what the program alone knows about printing them.
+//
+//   ReportTemplate list = TemplateReader::read(file.name, file.text);
+//   const VorBomItemBase& section = *list.pTemplate->child();
+//   for (const int tuple : list.shownTuplesOf(section))
+//       show(list.columnTokenOf(section, tuple));
+//
+// Owns the engine's template; may be moved, not copied. Sections are told apart by their address, so styles are good as
+// long as the sections that the file gave stay where they are.
 #pragma once
 
 #include "Finding.h"

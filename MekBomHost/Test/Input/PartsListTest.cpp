@@ -1,5 +1,7 @@
 #include "PartsList.h"
 
+#include "CsvReader.h"
+
 #include "TemplateReader.h"
 #include "Utf8.h"
 
@@ -11,11 +13,38 @@
 
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace mekbom
 {
 namespace
 {
+// Hands over the records it is made with; each stands on a line of its own.
+class FakeSource : public RecordSource
+{
+public:
+    explicit FakeSource(std::vector<Record> records) : m_records(std::move(records)) {}
+
+    const std::string& name() const override { return m_name; }
+    const Record* next() override { return m_next < m_records.size() ? &m_records[m_next++] : nullptr; }
+
+    Finding findingInRecord() const override
+    {
+        Finding finding;
+        finding.source = m_name;
+        finding.begin.line = static_cast<int>(m_next);
+        return finding;
+    }
+
+    Finding findingInCell(std::size_t) const override { return findingInRecord(); }
+
+private:
+    std::string m_name = "parts.xyz";
+    std::vector<Record> m_records;
+    std::size_t m_next = 0;
+};
+
 // A template whose details show these tokens.
 ReportTemplate templateShowing(const std::vector<std::string>& tokens)
 {
@@ -43,14 +72,10 @@ char letterOf(VorBomDataValue::eBomDataValueType type)
 }
 
 // The rows of a parts list, one per line, all columns wanted: "A1: [%Weight d 2.5]". The letter is the value's type.
-std::string rowsOf(const std::string& text, const std::string& filterText = std::string())
+std::string rowsOf(PartsList& parts)
 {
-    TextSource source(text);
-    PartsList parts(source);
-    QueryFilter filter;
-    QueryFilter::parse(filterText, filter);
     const ReportTemplate shown = templateShowing(tokensOf(parts));
-    parts.readRows(*shown.pTemplate, filter);
+    parts.readRows(*shown.pTemplate, QueryFilter());
     std::string rows;
     for (VorBomItemBase* pRow = shown.pTemplate->getBomData()->child(); pRow != nullptr; pRow = pRow->next())
     {
@@ -61,6 +86,14 @@ std::string rowsOf(const std::string& text, const std::string& filterText = std:
         rows += "\n";
     }
     return rows;
+}
+
+std::string rowsOf(const std::string& text)
+{
+    TextSource source(text);
+    CsvReader records(source);
+    PartsList parts(records);
+    return rowsOf(parts);
 }
 
 std::string faultIn(const std::string& text)
@@ -101,7 +134,8 @@ TEST(PartsListTest, TheHandleIsTheRowsIdentityAndADatum)
 TEST(PartsListTest, RowsWithoutHandleColumnAreNumberedForATemplateThatAsks)
 {
     TextSource source("%Weight\n5\n6\n");
-    PartsList parts(source);
+    CsvReader records(source);
+    PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Weight", "%Handle" });
 
     parts.readRows(*shown.pTemplate, QueryFilter());
@@ -114,7 +148,8 @@ TEST(PartsListTest, RowsWithoutHandleColumnAreNumberedForATemplateThatAsks)
 TEST(PartsListTest, OnlyWhatTheTemplateOrTheFilterAsksForIsKept)
 {
     TextSource source("%Name,%Weight,%BoltName,Extra\nHEA200,5,M16,x\n");
-    PartsList parts(source);
+    CsvReader records(source);
+    PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%SumBy:%Weight" });
     QueryFilter filter;
     QueryFilter::parse("!%BoltName", filter);
@@ -130,7 +165,8 @@ TEST(PartsListTest, OnlyWhatTheTemplateOrTheFilterAsksForIsKept)
 TEST(PartsListTest, TokensAndEqualTextsAreShared)
 {
     TextSource source("%Name,Extra\nHEA200,x\nHEA200,x\n");
-    PartsList parts(source);
+    CsvReader records(source);
+    PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Name", "%Extra" });
     parts.readRows(*shown.pTemplate, QueryFilter());
     const VorBomItemBase* const pFirst = shown.pTemplate->getBomData()->child();
@@ -154,7 +190,8 @@ TEST(PartsListTest, UnitsOfTheHeaderRowConvert)
 TEST(PartsListTest, UnitsOfTheUserConvert)
 {
     TextSource source("%Paint\n2.5\n");
-    PartsList parts(source);
+    CsvReader records(source);
+    PartsList parts(records);
     parts.setInputUnit("%Paint", "m2");
     const ReportTemplate shown = templateShowing({ "%Paint" });
 
@@ -223,7 +260,8 @@ TEST(PartsListTest, UnitsThatDoNotFitAreNamed)
 TEST(PartsListTest, UnitsOfTheUserAreTheUsersToMend)
 {
     TextSource source("%Paint,%Length [mm],%Name\n2.5,1,x\n");
-    PartsList parts(source);
+    CsvReader records(source);
+    PartsList parts(records);
     const auto faultWith = [&parts](const char* token, const char* unit)
     { return faultOf([&parts, token, unit] { parts.setInputUnit(token, unit); }); };
 
@@ -262,11 +300,41 @@ TEST(PartsListTest, CellsOfAColumnWithUnitAreNumbers)
 TEST(PartsListTest, CellsAreCheckedEvenIfNobodyWantsThem)
 {
     TextSource source("%Name,%Weight\nx,abc\n");
-    PartsList parts(source);
+    CsvReader records(source);
+    PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Name" });
 
     EXPECT_EQ("3 parts.csv:2: column \"%Weight\": found \"abc\", expected a number\n",
               faultOf([&] { parts.readRows(*shown.pTemplate, QueryFilter()); }));
+}
+
+// What a format with numbers of its own hands over.
+TEST(PartsListTest, StoredNumbersAreTakenAsTheyAreAndAsTextsWhereTheColumnHasTexts)
+{
+    const auto text = [](const char* pText) { return RecordCell(std::string_view(pText)); };
+    FakeSource source({ { text("Handle"), text("Name"), text("Quantity"), text("Length [m]"), text("Other") },
+                        { RecordCell(7.0), RecordCell(120.5), RecordCell(4.0), RecordCell(0.1), RecordCell(3.0) },
+                        { RecordCell(), RecordCell(), RecordCell(), text("1 ft"), RecordCell(2.5) } });
+    PartsList parts(source);
+
+    EXPECT_EQ("7: [%Handle t 7] [%Name t 120.5] [%Quantity i 4] [%Length d 100] [%Other d 3]\n"
+              ": [%Length d 304.8] [%Other d 2.5]\n",
+              rowsOf(parts));
+}
+
+TEST(PartsListTest, StoredNumbersThatDoNotFitAreNamedAsTextsAre)
+{
+    FakeSource source({ { RecordCell(std::string_view("Quantity")), RecordCell(std::string_view("Length [ft-in]")) },
+                        { RecordCell(2.5), RecordCell(90.0) },
+                        { RecordCell(3e9), RecordCell() } });
+    PartsList parts(source);
+
+    EXPECT_EQ("3 parts.xyz:2: column \"Quantity\": found \"2.5\", expected a whole number\n"
+              "3 parts.xyz:2: column \"Length [ft-in]\": found \"90\", expected feet and inches such as 7'-6 1/2\": "
+              "every number needs its mark\n"
+              "3 parts.xyz:3: column \"Quantity\": found \"3000000000\", expected a whole number from -2147483648 to "
+              "2147483647\n",
+              faultOf([&parts] { rowsOf(parts); }));
 }
 
 TEST(PartsListTest, RaggedRowsAreNamedWithBothCounts)

@@ -64,10 +64,10 @@ TEST(SectionTextsTest, NothingIsThereBeforeTheFirstSection)
 TEST(SectionTextsTest, SectionsComeAsTheyWereTakenWithTheTextsTheyShow)
 {
     SectionTexts texts(TemplateReader::read("list.json", kTotals));
-    texts.takeHeader(section({}), 0); // shows nothing
-    texts.takeHeader(section({ "HEA200", "steers", "2.5" }), 1);
-    texts.takeHeader(section({ "", "steers", "10" }), 1);
-    texts.takeFooter(section({ "12.5" }), 0);
+    texts.takeHeader({ section({}), 0 }); // shows nothing
+    texts.takeHeader({ section({ "HEA200", "steers", "2.5" }), 1 });
+    texts.takeHeader({ section({ "", "steers", "10" }), 1 });
+    texts.takeFooter({ section({ "12.5" }), 0 });
 
     EXPECT_EQ("1 header: HEA200 2.5\n"
               "1 header:  10\n"
@@ -78,9 +78,9 @@ TEST(SectionTextsTest, SectionsComeAsTheyWereTakenWithTheTextsTheyShow)
 TEST(SectionTextsTest, TextsAreTakenAsTheyAre)
 {
     SectionTexts texts(TemplateReader::read("list.json", kTotals));
-    texts.takeHeader(section({ "Träger", "", "a\tb" }), 1);
-    texts.takeHeader(section({ "\x7f", "", " ~" }), 1);
-    texts.takeHeader(section({ std::string(254, 'x'), "", std::string(255, 'y') }), 1);
+    texts.takeHeader({ section({ "Träger", "", "a\tb" }), 1 });
+    texts.takeHeader({ section({ "\x7f", "", " ~" }), 1 });
+    texts.takeHeader({ section({ std::string(254, 'x'), "", std::string(255, 'y') }), 1 });
 
     EXPECT_EQ("1 header: Träger a\tb\n"
               "1 header: \x7f  ~\n"
@@ -94,7 +94,7 @@ TEST(SectionTextsTest, WhateverIsNoTextShowsNothing)
     SectionTexts texts(TemplateReader::read("list.json", kTotals));
     VorBomTemplateItem details = section({ "HEA200", "" });
     details.addData(VorBomDataTuple(L"%Weight", 2.5)); // an evaluation leaves no number a number
-    texts.takeHeader(details, 1);
+    texts.takeHeader({ details, 1 });
 
     EXPECT_EQ("1 header: HEA200 \n", describe(texts, kNumTextsOfTotals));
 }
@@ -113,7 +113,7 @@ TEST(SectionTextsTest, MoreThanAPageIsReadInOrder)
         VorBomTemplateItem details = section({ first, "", second });
         if (isShared)
             details.getData()[0].value().set(shared[i % 3]);
-        texts.takeHeader(details, 1);
+        texts.takeHeader({ details, 1 });
         expected += "1 header: " + (isShared ? Utf8::toBytes(shared[i % 3]) : first) + " " + second + "\n";
     }
 
@@ -125,10 +125,10 @@ TEST(SectionTextsTest, ATextMayBeLargerThanAnyPage)
     SectionTexts texts(TemplateReader::read("list.json", kTotals));
     const std::string large(5'000'000, 'x');
     for (int i = 0; i < 1000; ++i) // until no text is shared any more
-        texts.takeHeader(section({ "", "", std::to_string(i) }), 1);
+        texts.takeHeader({ section({ "", "", std::to_string(i) }), 1 });
     const std::size_t sizeBefore = describe(texts, kNumTextsOfTotals).size();
-    texts.takeHeader(section({ large, "", "1" }), 1);
-    texts.takeHeader(section({ "", "", large }), 1);
+    texts.takeHeader({ section({ large, "", "1" }), 1 });
+    texts.takeHeader({ section({ "", "", large }), 1 });
 
     EXPECT_TRUE("1 header: " + large + " 1\n1 header:  " + large + "\n" ==
                 describe(texts, kNumTextsOfTotals).substr(sizeBefore));

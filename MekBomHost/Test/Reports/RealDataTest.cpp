@@ -1,3 +1,4 @@
+#include "CsvReader.h"
 #include "FileSource.h"
 #include "PartsList.h"
 #include "Report.h"
@@ -54,7 +55,8 @@ protected:
         auto pReport = std::make_unique<Report>(TemplateReader::read(templatePath, readFile(templatePath)),
                                                 VorUnitsManager::metric());
         FileSource file(kFolder + "/steel-frame.csv");
-        PartsList parts(file);
+        CsvReader records(file);
+        PartsList parts(records);
         parts.setInputUnit("%Paint", "m2");
         parts.readRows(pReport->engineTemplate(), pReport->queryFilter());
         return pReport;
@@ -185,7 +187,8 @@ TEST_F(RealDataTest, TheOtherFilesAreRead)
     for (const char* const name : { "/steel-frame-assemblies.csv", "/profiles.csv" })
     {
         FileSource file(kFolder + name);
-        PartsList parts(file);
+        CsvReader records(file);
+        PartsList parts(records);
         ReportTemplate all;
         all.pTemplate = std::make_unique<VorBomTemplate>();
         auto* const pDetails = new VorBomTemplateItem(VorBomTemplateItem::kDetails);

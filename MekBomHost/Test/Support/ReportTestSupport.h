@@ -1,6 +1,7 @@
 // Prints a list from a template and a parts list given as texts.
 #pragma once
 
+#include "CsvReader.h"
 #include "PartsList.h"
 #include "Report.h"
 #include "TemplateReader.h"
@@ -20,7 +21,8 @@ inline std::unique_ptr<Report> reportOf(const std::string& templateText, const s
 {
     auto pReport = std::make_unique<Report>(TemplateReader::read("list.json", templateText), units);
     TextSource source(partsText);
-    PartsList(source).readRows(pReport->engineTemplate(), pReport->queryFilter());
+    CsvReader records(source);
+    PartsList(records).readRows(pReport->engineTemplate(), pReport->queryFilter());
     return pReport;
 }
 

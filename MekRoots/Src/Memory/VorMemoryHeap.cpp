@@ -1,7 +1,11 @@
 // A block's life, for 40 bytes asked for on thread A and given back on thread B: A cuts 40 bytes off its run. When the
-// run is too short it takes the next run of the same page, then of a page to which enough has come back, then of an
-// empty page. B sees that the page is A's and pushes the block onto one of A's lists of blocks from elsewhere; A puts
-// those back when its run is next too short, or, once A has ended, whoever needs memory does.
+// run is too short, say 32 bytes are left of it, A puts these back and takes the next run of the same page, then of a
+// page to which enough has come back, then of an empty page. B sees that the page is A's and pushes the block onto one of
+// A's lists of blocks from elsewhere; A puts those back when its run is next too short, or, once A has ended, whoever
+// needs memory does.
+//
+// The size of a block stands nowhere: whoever frees it knows it. A block that waits in a list from elsewhere holds its
+// size itself, unless it is a single granule and has no room for it.
 #include "VorMemoryHeap.h"
 
 #include <mutex>
@@ -128,7 +132,8 @@ void* VorMemoryHeap::allocateSlowly(std::size_t size, bool isAlignedTo16)
     return cut(size);
 }
 
-// Makes the run one of at least `size` bytes, if it can be the present one lengthened.
+// Makes the run one of at least `size` bytes. Its rest goes back first, so that the next run may be the present one with
+// what has come back behind it.
 void VorMemoryHeap::takeNextRun(std::size_t size)
 {
     if (m_pPage != nullptr)
@@ -139,29 +144,27 @@ void VorMemoryHeap::takeNextRun(std::size_t size)
     }
     while (m_pPage == nullptr || !m_pPage->takeRun(size, m_pNext, m_pEnd))
     {
-        leavePage(size);
-        enterNextPage(size);
+        leavePage();
+        enterNextPage();
     }
 }
 
-// For want of `size` bytes.
-void VorMemoryHeap::leavePage(std::size_t size)
+// From current to left; at once from there to empty, or to offered if much came back while it was the current one.
+void VorMemoryHeap::leavePage()
 {
     VorMemoryPage* pPage = m_pPage;
     if (pPage == nullptr)
         return;
     m_pPage = nullptr;
     pPage->isInUse = false;
-    if (pPage->isFragmented() || (size > kLargestSmallBlock && pPage->hasShortStretches()))
-        pPage->insertBehind(m_offeredToSmall);
     review(*pPage);
 }
 
-void VorMemoryHeap::enterNextPage(std::size_t size)
+// Makes an offered page the current one, or an empty one where none is offered.
+void VorMemoryHeap::enterNextPage()
 {
-    VorMemoryPageLink& offered = size > kLargestSmallBlock || !m_offered.isAlone() ? m_offered : m_offeredToSmall;
     VorMemoryPage* pPage =
-        offered.isAlone() ? VorMemoryPage::create(takeMemory(), *this) : static_cast<VorMemoryPage*>(offered.pNext);
+        m_offered.isAlone() ? VorMemoryPage::create(takeMemory(), *this) : static_cast<VorMemoryPage*>(m_offered.pNext);
     pPage->remove();
     pPage->rewind();
     pPage->isInUse = true;
@@ -188,7 +191,8 @@ void* VorMemoryHeap::takeMemory()
     }
 }
 
-// Decides what becomes of a page that is empty, or that nobody takes runs from, after memory came back to it.
+// Moves a page on after memory came back to it: to the empty ones if all of it did, and from left to offered if enough
+// did. The current page stays what it is, even when all of it came back.
 void VorMemoryHeap::review(VorMemoryPage& page)
 {
     if (&page == m_pPage || (!page.isEmpty() && !page.isWorthOffering()))

@@ -1,7 +1,23 @@
 // The pooled memory of one thread: a run of free memory, from which blocks of all sizes are cut one after the other.
 //
-//   heap.allocate(40, false)   the next 40 bytes of the run
-//   heap.release(pBlock, 40)   back to its page; to the heap it came from when that is another thread's
+//   void* pItem = heap.allocate(40, false);   // the next 40 bytes of the run
+//   heap.release(pItem, 40);                  // back to its page, whatever thread its heap belongs to
+//
+// The runs are stretches of the heap's pages, and this is the life of a page:
+//
+//            enterNextPage()               holds no run that is long enough
+//   empty ------------------> current ----------------------------------------> left
+//     ^                          ^                                                |
+//     |                          | enterNextPage()                                | an eighth of it came back
+//     |                          +------------------- offered <------------------+
+//     |                                                  |                        |
+//     +--------------------------------------------------+------------------------+
+//                                  its last block came back
+//
+//   empty     in the list that all heaps share; holds nothing and belongs to nobody
+//   current   one for each heap: its runs are cut, in the order of their addresses
+//   offered   its turn comes when the current page is left, the latest one's first
+//   left      full of blocks, or of blocks and of stretches between them too short to be worth a look
 //
 // A heap is used by one thread at a time. When the thread ends, the heap stays as it is, with the blocks that others
 // still hold, and goes to the next thread that begins. Blocks that other threads freed come back when the heap is next
@@ -20,15 +36,12 @@ class VorMemoryHeap
 public:
     static constexpr std::size_t kLargestBlock = 1024; // 32 tuples of at most 32 bytes: a wide report
 
-    // Blocks up to this are tried in what larger ones passed over, so that one large block does not hide from all
-    // others the holes that were too small for it. Arbitrary: holds most texts and every payload.
-    static constexpr std::size_t kLargestSmallBlock = 128;
-
     // The heap of a thread that begins, and its return when the thread ends.
     static VorMemoryHeap& takeOne();
     static void handBack(VorMemoryHeap& heap);
 
-    // `size` bytes, 1 to kLargestBlock, aligned to 8 at least. Throws std::bad_alloc.
+    // `size` bytes, at least 1, aligned to 8 or to 16. At most VorMemoryControllerController::kLargestNeighbourhood: a
+    // block of up to kLargestBlock bytes, or several blocks at once. Throws std::bad_alloc.
     void* allocate(std::size_t size, bool isAlignedTo16)
     {
         size = rounded(size);
@@ -39,6 +52,7 @@ public:
         return cut(size);
     }
 
+    // Takes back a block of `size` bytes, whatever thread's heap it came from.
     void release(void* pBlock, std::size_t size)
     {
         size = rounded(size);
@@ -91,8 +105,8 @@ private:
     }
     void* allocateSlowly(std::size_t size, bool isAlignedTo16);
     void takeNextRun(std::size_t size);
-    void enterNextPage(std::size_t size);
-    void leavePage(std::size_t size);
+    void enterNextPage();
+    void leavePage();
     static void* takeMemory();
 
     void putBack(VorMemoryPage& page, void* pBlock, std::size_t size)
@@ -111,14 +125,13 @@ private:
     void takeFromElsewhere(void* pBlock, std::size_t size);
     void collectFromElsewhere();
 
-    char* m_pNext = nullptr; // the run [m_pNext, m_pEnd), in *m_pPage
+    char* m_pNext = nullptr; // the run is [m_pNext, m_pEnd), in *m_pPage
     char* m_pEnd = nullptr;
-    VorMemoryPage* m_pPage = nullptr;
-    VorMemoryPageLink m_offered;        // pages with memory to be had, the latest first
-    VorMemoryPageLink m_offeredToSmall; // pages that a block larger than kLargestSmallBlock left with short stretches
+    VorMemoryPage* m_pPage = nullptr; // the current page; null before the first
+    VorMemoryPageLink m_offered;      // the head of the list of offered pages
     std::atomic<ForeignBlock*> m_pFromElsewhere{ nullptr };
     std::atomic<LargeForeignBlock*> m_pLargeFromElsewhere{ nullptr };
     std::atomic<long long> m_nNumLive{ 0 }; // written by the heap's thread alone, read by all
-    VorMemoryHeap* m_pNextHeap = nullptr;   // of all heaps there are
-    bool m_isIdle = false;                  // no thread uses it
+    VorMemoryHeap* m_pNextHeap = nullptr;   // in the list of all heaps there are
+    bool m_isIdle = false;                  // true while no thread uses this heap
 };

@@ -1,3 +1,8 @@
+// A search for runs, told on a page with granules 203, 210 to 214 and 500 to 900 free, for 40 bytes or 5 granules, twice:
+//   findFree(200) is 203, findUsed(203) is 204     one granule is too short and stays free
+//   findFree(204) is 210, findUsed(210) is 215     five will do: the first run
+//   findFree(215) is 500, findUsed(500) is 884     the second: kRunSize, 384 granules, although more is free
+// A word of bits stands for 512 bytes, so whatever is looked for is found in 128 steps at most.
 #include "VorMemoryPage.h"
 
 #include "VorBits.h"
@@ -18,6 +23,7 @@ VorMemoryPage::VorMemoryPage(VorMemoryHeap& owner) : m_pOwner(&owner)
     markFree(kFirstGranule, kNumGranules - kFirstGranule);
 }
 
+// Stretches that are too short stay free; they are found again when the search has gone back to the start.
 bool VorMemoryPage::takeRun(std::size_t size, char*& pFirst, char*& pEnd)
 {
     if (m_nNumReturned * kGranule >= kRunSize)
@@ -32,10 +38,7 @@ bool VorMemoryPage::takeRun(std::size_t size, char*& pFirst, char*& pEnd)
         if (first == kNumGranules)
             return false;
         if (end - first < numWanted)
-        {
-            m_nNumPassedOver += end - first;
             continue;
-        }
         markUsed(first, end - first);
         m_nNumTaken += end - first;
         ++m_nNumRuns;
@@ -52,6 +55,8 @@ void VorMemoryPage::rewind()
     beginSearch();
 }
 
+// A list whose lines are freed as soon as they are read leaves a few blocks behind for each, such as texts that a column
+// remembers. Going back to these again and again would give a search for every few blocks.
 void VorMemoryPage::goBackToStart()
 {
     const bool wereRunsShort = m_nNumRuns >= kFewestRuns && m_nNumTaken * kGranule < m_nNumRuns * kShortRun;
@@ -64,7 +69,6 @@ void VorMemoryPage::goBackToStart()
 void VorMemoryPage::beginSearch()
 {
     m_nNumReturned = 0;
-    m_nNumPassedOver = 0;
     m_nNumTaken = 0;
     m_nNumRuns = 0;
 }

@@ -4,6 +4,9 @@
 //   0 ------------------------- page ------------------------- kSize
 //   | head, bits | item | tuples ... | 8 | 8 | 8 | text | item | ...
 //
+//   page.takeRun(40, pFirst, pEnd);    // a stretch of at least 40 free bytes, 3072 if so many are free: [pFirst, pEnd)
+//   page.putBack(pFirst, 40);          // the first block of the run is free again
+//
 // Memory is handed out in runs of free granules and in the order of their addresses, whatever the order in which they
 // came back: what is allocated one after the other lies side by side and is met again in that order. Freeing a block
 // on its thread writes to the page's head alone, not to the block, which may long have left the caches.
@@ -73,9 +76,10 @@ public:
 
     VorMemoryHeap& owner() const { return *m_pOwner; }
 
-    // Takes a run of at least `size` free bytes: [pFirst, pEnd). Goes on from where the last one was taken, and from the
-    // start again once enough has come back; but where runs have been short, too much that stays lies between what comes
-    // and goes, and the start is from now on behind them. False with both untouched when the end of the page is reached.
+    // Takes a run of at least `size` free bytes, a multiple of kGranule: [pFirst, pEnd). False with both untouched when
+    // the end of the page is reached. Goes on from where the last run was taken, and from the start again once kRunSize
+    // bytes have come back. Where the runs were short, too much that stays lies between what comes and goes: the start
+    // is behind them then, until the next rewind().
     bool takeRun(std::size_t size, char*& pFirst, char*& pEnd);
 
     // Lets takeRun() go on from the start of the page.
@@ -100,16 +104,10 @@ public:
 
     bool isEmpty() const { return m_nNumFree == kNumGranules - kFirstGranule; }
 
-    // Whether a search for runs is worth while: an eighth of the page has come back since the last one began.
+    // Whether a search for runs is worth while: an eighth of the page has come back since the last one began. Arbitrary.
     bool isWorthOffering() const { return m_nNumReturned >= kNumGranules / 8; }
 
-    // Whether as much was passed over since then because it lay in stretches too short for what was asked for.
-    bool hasShortStretches() const { return m_nNumPassedOver >= kNumGranules / 8; }
-
-    // Whether takeRun() has given up the start of the page since the last rewind.
-    bool isFragmented() const { return m_nStart > 0; }
-
-    bool isInUse = false; // for the heap: it takes runs from this page, or offers it to blocks of all sizes
+    bool isInUse = false; // kept by the heap: true for its current page and for offered ones
 
 private:
     using Word = std::uint64_t;
@@ -137,13 +135,12 @@ private:
     std::size_t findUsed(std::size_t granule, std::size_t end) const;
 
     VorMemoryHeap* m_pOwner;
-    std::size_t m_nNumFree = 0;       // in granules, as the next four
-    std::size_t m_nNumReturned = 0;   // since takeRun() last was at the start, as the next three
-    std::size_t m_nNumPassedOver = 0; // free, but in too short stretches
-    std::size_t m_nNumTaken = 0;      // in runs
+    std::size_t m_nNumFree = 0;     // in granules, as the next three
+    std::size_t m_nNumReturned = 0; // since takeRun() last was at the start, as the next two
+    std::size_t m_nNumTaken = 0;    // in runs
     std::size_t m_nNumRuns = 0;
     std::size_t m_nStart = 0; // the granule to which takeRun() goes back
-    std::size_t m_nNext = 0;  // and where it goes on
+    std::size_t m_nNext = 0;  // the granule from which it goes on
     std::array<Word, kNumGranules / kBitsPerWord> m_freeBits;
 };
 

@@ -194,30 +194,3 @@ TEST_F(VorMemoryHeapTest, ASteadyStateOfMixedSizesStaysWithinItsMemory)
     EXPECT_LE(numPages(), 3 * numPagesBefore);
     releaseShuffled(blocks, 16);
 }
-
-TEST_F(VorMemoryHeapTest, LargeBlocksDoNotHideFromSmallOnesTheHolesTheyDoNotFit)
-{
-    // Each round leaves every sixteenth small block behind, and then large ones look at all holes in vain.
-    std::vector<Block> left;
-    std::size_t numPagesOfOneRound = 0;
-    for (unsigned int round = 0; round < 40; ++round)
-    {
-        std::vector<Block> blocks = allocateMixed(20000, 40, round);
-        for (std::size_t i = 0; i < blocks.size(); ++i)
-        {
-            if (i % 16 == 0)
-                left.push_back(blocks[i]);
-            else
-                release(blocks[i]);
-        }
-        std::vector<Block> large;
-        for (int i = 0; i < 100; ++i)
-            large.push_back(allocate(i % 2 == 0 ? 480 : Memory::kLargestPooledBlock));
-        releaseShuffled(large, round);
-        if (round == 0)
-            numPagesOfOneRound = numPages();
-    }
-    EXPECT_LE(numPages(), 8 * numPagesOfOneRound); // 28 times as many if the holes were hidden
-
-    releaseShuffled(left, 17);
-}

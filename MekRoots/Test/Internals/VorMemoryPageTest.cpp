@@ -265,26 +265,6 @@ TEST(VorMemoryPageTest, APageIsWorthOfferingOnceAnEighthOfItCameBack)
     EXPECT_FALSE(page->isWorthOffering()) << "looked at again";
 }
 
-TEST(VorMemoryPageTest, WhatIsPassedOverCountsUntilTheStartIsLookedAtAgain)
-{
-    const TestPage page;
-    page.takeAll();
-    const std::size_t hole = 16 * kGranule;
-    for (std::size_t i = 0; i < VorMemoryPage::kSize / 8 / hole; ++i) // an eighth of the page
-        page->putBack(page.at(2 * kRunSize + 2 * i * hole), hole);
-    page->rewind();
-    EXPECT_FALSE(page->hasShortStretches()) << "nobody looked";
-
-    EXPECT_EQ(0U, page.take(hole + kGranule).size());
-    EXPECT_TRUE(page->hasShortStretches());
-
-    page->rewind();
-    EXPECT_FALSE(page->hasShortStretches());
-    EXPECT_EQ(hole, page.take(hole).size());
-    EXPECT_EQ(0U, page.take(hole + kGranule).size());
-    EXPECT_FALSE(page->hasShortStretches()) << "one hole less";
-}
-
 TEST(VorMemoryPageTest, TheStartMovesBehindShortRuns)
 {
     const TestPage page;
@@ -299,15 +279,12 @@ TEST(VorMemoryPageTest, TheStartMovesBehindShortRuns)
     page->rewind();
     for (const Piece& piece : holes)
         EXPECT_EQ(piece.pFirst, page.take(kGranule).pFirst);
-    EXPECT_FALSE(page->isFragmented());
 
     for (const Piece& piece : holes)
         page.putBack(piece);
 
     EXPECT_EQ(runs.back().pFirst, page.take(kGranule).pFirst) << "the holes are passed over";
-    EXPECT_TRUE(page->isFragmented());
     page->rewind();
-    EXPECT_FALSE(page->isFragmented());
     EXPECT_EQ(holes.front().pFirst, page.take(kGranule).pFirst);
 }
 

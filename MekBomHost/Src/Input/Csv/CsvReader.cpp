@@ -38,8 +38,13 @@ CsvReader::~CsvReader()
     csv_free(&m_parser);
 }
 
+const Record* CsvReader::next()
+{
+    return readRecord() ? &m_cells : nullptr;
+}
+
 // The parser is fed line by line, so that a record is complete exactly when a line has been fed.
-bool CsvReader::next()
+bool CsvReader::readRecord()
 {
     beginRecord();
     std::string_view line;
@@ -63,7 +68,25 @@ bool CsvReader::next()
     if (!m_isAtEnd && m_isWithinRecord)
         finish();
     m_isAtEnd = true;
-    return m_numFields > 0;
+    return !m_cells.empty();
+}
+
+Finding CsvReader::findingInRecord() const
+{
+    return findingOnLine(m_recordLine);
+}
+
+Finding CsvReader::findingInCell(std::size_t index) const
+{
+    return findingOnLine(m_fieldLines.empty() ? m_recordLine : m_fieldLines[index]);
+}
+
+Finding CsvReader::findingOnLine(int line) const
+{
+    Finding finding;
+    finding.source = name();
+    finding.begin.line = line;
+    return finding;
 }
 
 void CsvReader::fieldRead(void* pBytes, std::size_t length, void* pReader) noexcept
@@ -93,15 +116,15 @@ void CsvReader::addField(const char* pBytes, std::size_t length) noexcept
 
 void CsvReader::beginRecord()
 {
-    m_numFields = 0;
+    m_cells.clear();
     m_fieldLines.clear();
 }
 
 void CsvReader::takeFields(const char* pBytes, const std::vector<std::ptrdiff_t>& borders)
 {
-    m_pBytes = pBytes;
-    m_pBorders = borders.data();
-    m_numFields = borders.size() - 1;
+    for (std::size_t i = 1; i < borders.size(); ++i)
+        m_cells.emplace_back(
+            std::string_view(pBytes + borders[i - 1] + 1, static_cast<std::size_t>(borders[i] - borders[i - 1] - 1)));
 }
 
 void CsvReader::parse(std::string_view line)

@@ -1,8 +1,7 @@
 // The records of a comma-separated file, as RFC 4180 has them: quoted fields may hold commas, doubled quotes and line
 // breaks; blanks belong to the field; lines end with LF, CRLF or CR. Empty lines are skipped.
 //
-//   while (reader.next())
-//       use(reader.field(0), reader.line());
+//   "a,b"    ->   a | b
 //
 // Lines without any quote, which are nearly all, are taken as LineReader has split them, several times as fast as by
 // libcsv (CsvReaderBench), which gets the others.
@@ -13,6 +12,7 @@
 
 #include "ByteSource.h"
 #include "LineReader.h"
+#include "RecordSource.h"
 
 #include <csv.h>
 
@@ -24,38 +24,28 @@
 
 namespace mekbom
 {
-class CsvReader
+class CsvReader : public RecordSource
 {
 public:
     // `source` is not owned and outlives the reader.
     explicit CsvReader(ByteSource& source);
-    ~CsvReader();
-    CsvReader(const CsvReader&) = delete;
-    CsvReader& operator=(const CsvReader&) = delete;
+    ~CsvReader() override;
 
-    const std::string& sourceName() const { return m_source.name(); }
+    const std::string& name() const override { return m_source.name(); }
+    const Record* next() override;
 
-    // Reads the next record; false at the end.
-    bool next();
-
-    // The record read last. Fields are good until the next call of next().
-    std::size_t numFields() const { return m_numFields; }
-    std::string_view field(std::size_t index) const
-    {
-        const std::ptrdiff_t begin = m_pBorders[index] + 1;
-        return std::string_view(m_pBytes + begin, static_cast<std::size_t>(m_pBorders[index + 1] - begin));
-    }
-
-    // The physical line, from 1, on which the record or one of its fields starts.
-    int line() const { return m_recordLine; }
-    int lineOfField(std::size_t index) const { return m_fieldLines.empty() ? m_recordLine : m_fieldLines[index]; }
+    // These name the physical line on which the record or the field starts.
+    Finding findingInRecord() const override;
+    Finding findingInCell(std::size_t index) const override;
 
 private:
     static void fieldRead(void* pBytes, std::size_t length, void* pReader) noexcept;
     static void recordRead(int terminator, void* pReader) noexcept;
     void addField(const char* pBytes, std::size_t length) noexcept;
 
+    bool readRecord();
     void beginRecord();
+    Finding findingOnLine(int line) const;
     void takeFields(const char* pBytes, const std::vector<std::ptrdiff_t>& borders);
     void parse(std::string_view line);
     void beginParsing();
@@ -67,10 +57,7 @@ private:
     LineReader m_lines;
     csv_parser m_parser;
 
-    // The fields of the record: bytes between two borders, counted from m_pBytes, of the line itself or of m_unquoted.
-    const char* m_pBytes = nullptr;
-    const std::ptrdiff_t* m_pBorders = nullptr;
-    std::size_t m_numFields = 0;
+    Record m_cells; // of the line itself or of m_unquoted
 
     // Of a record that libcsv has read: its fields, each followed by a zero, and what lies around them.
     std::string m_unquoted;

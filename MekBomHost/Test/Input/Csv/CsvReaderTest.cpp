@@ -14,11 +14,11 @@ std::string recordsOf(const std::string& text, std::size_t blockSize = 1 << 20)
     TextSource source(text, blockSize);
     CsvReader reader(source);
     std::string records;
-    while (reader.next())
+    while (const Record* const pRecord = reader.next())
     {
-        records += std::to_string(reader.line()) + ": ";
-        for (std::size_t i = 0; i < reader.numFields(); ++i)
-            records += "[" + std::string(reader.field(i)) + "]";
+        records += std::to_string(reader.findingInRecord().begin.line) + ": ";
+        for (const RecordCell& cell : *pRecord)
+            records += "[" + std::string(cell.text()) + "]";
         records += "\n";
     }
     return records;
@@ -78,14 +78,15 @@ TEST(CsvReaderTest, FieldsKnowTheLineTheyStartOn)
     CsvReader reader(source);
     reader.next();
 
-    ASSERT_TRUE(reader.next());
+    const Record* const pRecord = reader.next();
+    ASSERT_NE(nullptr, pRecord);
 
-    ASSERT_EQ(4u, reader.numFields());
-    EXPECT_EQ(2, reader.line());
-    EXPECT_EQ(2, reader.lineOfField(0));
-    EXPECT_EQ(3, reader.lineOfField(1));
-    EXPECT_EQ(3, reader.lineOfField(2));
-    EXPECT_EQ(4, reader.lineOfField(3));
+    ASSERT_EQ(4u, pRecord->size());
+    EXPECT_EQ(2, reader.findingInRecord().begin.line);
+    EXPECT_EQ(2, reader.findingInCell(0).begin.line);
+    EXPECT_EQ(3, reader.findingInCell(1).begin.line);
+    EXPECT_EQ(3, reader.findingInCell(2).begin.line);
+    EXPECT_EQ(4, reader.findingInCell(3).begin.line);
 }
 
 TEST(CsvReaderTest, NothingFollowsTheEnd)
@@ -93,9 +94,9 @@ TEST(CsvReaderTest, NothingFollowsTheEnd)
     TextSource source("a\n");
     CsvReader reader(source);
 
-    EXPECT_TRUE(reader.next());
-    EXPECT_FALSE(reader.next());
-    EXPECT_FALSE(reader.next());
+    EXPECT_NE(nullptr, reader.next());
+    EXPECT_EQ(nullptr, reader.next());
+    EXPECT_EQ(nullptr, reader.next());
 }
 
 TEST(CsvReaderTest, LongFieldsAreRead)

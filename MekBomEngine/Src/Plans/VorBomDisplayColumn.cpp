@@ -1,0 +1,81 @@
+#include "VorBomDisplayColumn.h"
+
+#include "MekRoots/Exp/VorNumberText.h"
+
+#include <cstring>
+
+namespace
+{
+VorString integerText(int value)
+{
+    wchar_t text[VorNumberText::kIntegerRoom];
+    return VorString(text, VorNumberText::writeInteger(value, text));
+}
+
+VorString withoutSumPrefix(const VorBomDataToken& token)
+{
+    VorString name = token.token();
+    token.getSummingRequest(name);
+    return name;
+}
+}
+
+VorBomDisplayColumn::VorBomDisplayColumn(const VorBomDataToken& token)
+    : m_name(withoutSumPrefix(token)), m_isFormula(VorBomDataToken::removeFormulaPrefix(m_name) != 0)
+{
+}
+
+void VorBomDisplayColumn::show(VorBomTemplateUnits& units, VorBomDataValue& value)
+{
+    if (value.type() == VorBomDataValue::kIntData)
+        value.set(textOf(*static_cast<const int*>(value.data())));
+    else if (value.type() == VorBomDataValue::kDoubleData)
+        value.set(textOf(*static_cast<const double*>(value.data()), units));
+}
+
+VorString VorBomDisplayColumn::textOf(int value)
+{
+    const auto key = static_cast<std::uint64_t>(value);
+    if (const VorString* pText = m_integerTexts.find(key))
+        return *pText;
+    VorString text = integerText(value);
+    m_integerTexts.remember(key, text);
+    return text;
+}
+
+VorString VorBomDisplayColumn::textOf(double value, VorBomTemplateUnits& units)
+{
+    if (m_nTypesKnown != units.numTokenTypes())
+        lookUpType(units);
+    std::uint64_t key = 0;
+    static_assert(sizeof key == sizeof value, "the bits of a double tell it from all others");
+    std::memcpy(&key, &value, sizeof key);
+    if (const VorString* pText = m_texts.find(key))
+        return *pText;
+    VorString text = units.getDisplayString(m_type, value);
+    m_texts.remember(key, text);
+    return text;
+}
+
+void VorBomDisplayColumn::lookUpType(VorBomTemplateUnits& units)
+{
+    if (m_isFormula)
+        registerFormulaUnit(units);
+    m_type = units.getUnitType(m_name);
+    m_texts.clear();
+    m_nTypesKnown = units.numTokenTypes();
+}
+
+void VorBomDisplayColumn::registerFormulaUnit(VorBomTemplateUnits& units) const
+{
+    if (units.getUnitType(m_name) != VorBomTemplateUnits::kNoUnit)
+        return;
+    for (const VorString& token : VorBomDataToken::getTokensFromFormula(m_name))
+    {
+        const VorBomTemplateUnits::eTokenUnitType type = units.getUnitType(token);
+        if (type == VorBomTemplateUnits::kNoUnit)
+            continue;
+        units.AddTokenType(m_name, type);
+        return;
+    }
+}

@@ -1,0 +1,44 @@
+// How the numbers under one token become the text that a report shows.
+//
+//   VorBomDisplayColumn(L"%SumBy:%Weight")            shows numbers as %Weight is shown
+//   VorBomDisplayColumn(L"%Formula:%Length*2")        as a length: in the unit of the first token that has one
+//   VorBomDisplayColumn(L"%Num")                      as "%g" does, when the units know no type for it
+//
+// The type of quantity is looked up once and again only after units were told of further tokens, so one object serves
+// the units of one evaluation.
+#pragma once
+
+#include "VorBomDataToken.h"
+#include "VorBomDataValue.h"
+#include "VorBomTemplateUnits.h"
+#include "VorBomTextMemo.h"
+
+#include "MekRoots/Exp/VorString.h"
+
+class VorBomDisplayColumn
+{
+public:
+    explicit VorBomDisplayColumn(const VorBomDataToken& token);
+
+    // Replaces a number by its text; texts and empty values stay. Integers get no units. A formula's unit, once found,
+    // is registered with `units` under the formula's text.
+    void show(VorBomTemplateUnits& units, VorBomDataValue& value);
+
+    // The kind of unit that the last double was shown in.
+    VorBomTemplateUnits::eTokenUnitType unitType() const { return m_type; }
+
+private:
+    static constexpr int kNeverLookedUp = -1;
+
+    VorString textOf(int value);
+    VorString textOf(double value, VorBomTemplateUnits& units);
+    void lookUpType(VorBomTemplateUnits& units);
+    void registerFormulaUnit(VorBomTemplateUnits& units) const;
+
+    VorString m_name; // without prefixes; for a formula its text
+    bool m_isFormula;
+    VorBomTemplateUnits::eTokenUnitType m_type = VorBomTemplateUnits::kNoUnit;
+    int m_nTypesKnown = kNeverLookedUp; // how many tokens the units knew when the type was looked up
+    VorBomTextMemo m_texts;             // of doubles, in the units of m_type
+    VorBomTextMemo m_integerTexts;
+};

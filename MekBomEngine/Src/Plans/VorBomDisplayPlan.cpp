@@ -1,0 +1,57 @@
+#include "VorBomDisplayPlan.h"
+
+namespace
+{
+bool isNumber(const VorBomDataValue& value)
+{
+    return value.type() == VorBomDataValue::kIntData || value.type() == VorBomDataValue::kDoubleData;
+}
+
+VorBomTypedValue typed(const VorBomDataValue& value)
+{
+    VorBomTypedValue typedValue;
+    typedValue.type = value.type();
+    if (value.type() == VorBomDataValue::kIntData)
+        typedValue.number = *static_cast<const int*>(value.data());
+    else if (value.type() == VorBomDataValue::kDoubleData)
+        typedValue.number = *static_cast<const double*>(value.data());
+    return typedValue;
+}
+}
+
+VorBomDisplayPlan::VorBomDisplayPlan(const VorBomDataTupleArray& tuples)
+{
+    m_columns.reserve(static_cast<std::size_t>(tuples.length()));
+    for (const VorBomDataTuple& tuple : tuples)
+        m_columns.emplace_back(tuple.token());
+}
+
+void VorBomDisplayPlan::show(VorBomTemplateUnits& units, VorBomDataTupleArray& tuples)
+{
+    if (!m_values.empty())
+    {
+        showAndKeep(units, tuples);
+        return;
+    }
+    VorBomDataTuple* pTuple = tuples.begin();
+    for (VorBomDisplayColumn& column : m_columns)
+    {
+        VorBomDataValue& value = pTuple++->value();
+        if (isNumber(value)) // spares most columns the call
+            column.show(units, value);
+    }
+}
+
+// A column knows the unit of a number only once it has shown it.
+void VorBomDisplayPlan::showAndKeep(VorBomTemplateUnits& units, VorBomDataTupleArray& tuples)
+{
+    VorBomDataTuple* pTuple = tuples.begin();
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+    {
+        VorBomDataValue& value = pTuple++->value();
+        m_values[i] = typed(value);
+        m_columns[i].show(units, value);
+        if (m_values[i].type == VorBomDataValue::kDoubleData)
+            m_values[i].unitType = m_columns[i].unitType();
+    }
+}

@@ -1,0 +1,37 @@
+// How a section's numbers become the texts that a report shows: one VorBomDisplayColumn for each of its tuples.
+//
+//   section           %Name "HEA200", %Weight 12.5, %Quantity 3
+//   show(units, it)   %Name "HEA200", %Weight "27.56", %Quantity "3"
+//   values()          text, 12.5 as a weight, 3                        what they were, once keepValues() was called
+//
+// One evaluation's own.
+#pragma once
+
+#include "VorBomDataTuple.h"
+#include "VorBomDisplayColumn.h"
+
+#include "VorBomTypedValue.h"
+
+#include <vector>
+
+class VorBomDisplayPlan
+{
+public:
+    // For tuples under the tokens of `tuples`, in their order.
+    explicit VorBomDisplayPlan(const VorBomDataTupleArray& tuples);
+
+    // From now on show() writes down what it replaces.
+    void keepValues() { m_values.resize(m_columns.size()); }
+
+    // Replaces numbers by their texts, from the first tuple to the last; texts and empty values stay.
+    void show(VorBomTemplateUnits& units, VorBomDataTupleArray& tuples);
+
+    // What the tuples shown last held before, in their order; null unless they are kept.
+    const VorBomTypedValue* values() const { return m_values.empty() ? nullptr : m_values.data(); }
+
+private:
+    void showAndKeep(VorBomTemplateUnits& units, VorBomDataTupleArray& tuples);
+
+    std::vector<VorBomDisplayColumn> m_columns;
+    std::vector<VorBomTypedValue> m_values; // none, or one for each column
+};

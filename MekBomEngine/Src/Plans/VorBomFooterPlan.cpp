@@ -1,0 +1,139 @@
+#include "VorBomFooterPlan.h"
+
+#include "MekRoots/Exp/VorAssert.h"
+
+#include <limits>
+#include <utility>
+
+namespace
+{
+const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomEvaluator2"; // whose reports these are
+
+int intOf(const VorBomDataValue& value)
+{
+    return *static_cast<const int*>(value.data());
+}
+
+double doubleOf(const VorBomDataValue& value)
+{
+    return *static_cast<const double*>(value.data());
+}
+
+bool isDouble(const VorBomDataValue& value)
+{
+    return value.type() == VorBomDataValue::kDoubleData;
+}
+
+bool isNumber(const VorBomDataValue& value)
+{
+    return value.type() == VorBomDataValue::kIntData || isDouble(value);
+}
+
+double numberOf(const VorBomDataValue& value)
+{
+    return value.type() == VorBomDataValue::kIntData ? intOf(value) : doubleOf(value);
+}
+
+void setToZeroLike(const VorBomDataValue& number, VorBomDataValue& value)
+{
+    if (number.type() == VorBomDataValue::kIntData)
+        value.set(0);
+    else
+        value.set(0.0);
+}
+
+void addToTotal(VorBomDataValue& total, const VorBomDataValue& added)
+{
+    if (!isNumber(total))
+        setToZeroLike(added, total);
+    if (total.type() == VorBomDataValue::kIntData && added.type() == VorBomDataValue::kIntData)
+    {
+        const long long sum = static_cast<long long>(intOf(total)) + intOf(added);
+        if (sum >= std::numeric_limits<int>::min() && sum <= std::numeric_limits<int>::max())
+            total.set(static_cast<int>(sum));
+        else
+            total.set(static_cast<double>(sum));
+        return;
+    }
+    total.set(numberOf(total) + numberOf(added));
+}
+
+// Lets a column of the footer take in one row's value.
+void takeValue(VorBomDataValue& columnValue, const VorBomDataValue& rowValue, bool isSum)
+{
+    if (isNumber(rowValue) && isSum)
+    {
+        addToTotal(columnValue, rowValue);
+        return;
+    }
+    if (isSum && rowValue.type() == VorBomDataValue::kStringData)
+        VorAssert::vorAssert(L"!bIsSummingRequest", kSourcePath, __LINE__);
+    columnValue = rowValue; // an empty value changes nothing
+}
+
+// Of plain tokens the tokens themselves, of totals what they add up.
+std::vector<VorString> tokensOf(const VorBomDataTupleArray& tuples)
+{
+    std::vector<VorString> tokens;
+    for (const VorBomDataTuple& tuple : tuples)
+    {
+        tokens.push_back(tuple.token().token());
+        tuple.token().getSummingRequest(tokens.back());
+    }
+    return tokens;
+}
+}
+
+VorBomFooterPlan::VorBomFooterPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section)
+    : m_section(section), m_columns(pLayouts, tokensOf(section.getData())), m_display(section.getData())
+{
+    for (const VorBomDataTuple& tuple : section.getData())
+    {
+        VorString summed;
+        m_isSum.push_back(tuple.token().getSummingRequest(summed) != 0 ? 1 : 0);
+    }
+    beginFooter();
+}
+
+void VorBomFooterPlan::takeNewRows(const VorBomDataRowPointerArray& rows)
+{
+    for (; m_nTakenRows < rows.length(); ++m_nTakenRows)
+        takeIn(*rows.begin()[m_nTakenRows]);
+}
+
+std::unique_ptr<VorBomTemplateItem> VorBomFooterPlan::finish(const VorBomDataRowPointerArray& rows)
+{
+    takeNewRows(rows);
+    std::unique_ptr<VorBomTemplateItem> pFinished = std::move(m_pFooter);
+    beginFooter();
+    return pFinished;
+}
+
+void VorBomFooterPlan::beginFooter()
+{
+    m_pFooter = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
+    m_pFooter->getData().setPhysicalLength(m_section.getData().length());
+    m_pFooter->setData(m_section.getData());
+    m_nTakenRows = 0;
+}
+
+void VorBomFooterPlan::takeIn(VorBomDataRow& row)
+{
+    if (row.getUseThisDataForSums() == 0)
+        return;
+    m_columns.find(row);
+    VorBomDataTuple* pTuple = m_pFooter->getData().begin();
+    const int numColumns = m_columns.count();
+    for (int i = 0; i < numColumns; ++i, ++pTuple)
+    {
+        const VorBomDataTuple* pDatum = m_columns[i];
+        if (pDatum == nullptr)
+            continue;
+        const bool isSum = m_isSum[static_cast<std::size_t>(i)] != 0;
+        VorBomDataValue& value = pTuple->value();
+        if (isSum && isDouble(value) && isDouble(pDatum->value())) // as takeValue() does it: nearly every total
+            value.set(doubleOf(value) + doubleOf(pDatum->value()));
+        else
+            takeValue(value, pDatum->value(), isSum);
+    }
+}

@@ -1,0 +1,46 @@
+// What a footer asks of the rows of its group, read from the template once, and the footer of the group now open. Rows
+// are taken in as they come, so that no group is walked again when it closes.
+//
+//   columns  "%SumBy:%Weight" starting at 0.0, "%Material"
+//   rows     2.5 S235, 1.5 S235          ->  4.0, S235
+//
+// A plain token ends with the value of the last counted row that has it. A total adds up: it stays an integer while
+// everything added is one and the sum fits 32 bits, else it becomes a double for good. A total that is no number yet
+// starts from zero of the added value's type; a text replaces it, and "!bIsSummingRequest" is reported.
+#pragma once
+
+#include "VorBomColumns.h"
+#include "VorBomDisplayPlan.h"
+#include "VorBomEngineState.h"
+#include "VorBomTemplateItem.h"
+
+#include <memory>
+#include <vector>
+
+class VorBomFooterPlan
+{
+public:
+    // The section is not owned and must not change as long as the plan is used.
+    VorBomFooterPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section);
+
+    // Takes in the rows of the open group that came since the last call. Rows that do not count are passed over; whether
+    // they do must be settled by now.
+    void takeNewRows(const VorBomDataRowPointerArray& rows);
+
+    // The same, then hands the footer over and begins the next one.
+    std::unique_ptr<VorBomTemplateItem> finish(const VorBomDataRowPointerArray& rows);
+
+    // Shows finished footers.
+    VorBomDisplayPlan& display() { return m_display; }
+
+private:
+    void beginFooter();
+    void takeIn(VorBomDataRow& row);
+
+    const VorBomTemplateItem& m_section;
+    VorBomColumns m_columns;   // one per tuple of the section
+    std::vector<char> m_isSum; // 1 or 0; bits would cost more than they save
+    VorBomDisplayPlan m_display;
+    std::unique_ptr<VorBomTemplateItem> m_pFooter; // of the open group; never null
+    int m_nTakenRows = 0;
+};

@@ -1,0 +1,50 @@
+// One "%Formula:" tuple of a header or details section, computed row by row.
+//
+//   section  %Length 2000, "%Formula:%Length*%Quantity/1000"      row  %Quantity 3
+//   compute(tuples, row, result)  ->  1, result 6
+//
+// The formula sees the numbers of the section's other tuples by their tokens, of equal tokens the last, and before them
+// the numbers of the row for every token the formula names. Texts define nothing. Formulas of 3 characters or fewer, or
+// without any of "*/+-=()", are taken for plain tokens or numbers and not computed. The result has passed through its
+// text, so it has six decimals.
+#pragma once
+
+#include "VorBomColumns.h"
+#include "VorBomDataRow.h"
+
+#include "ExpressionEvaluator/Src/VorCompiledFormula.h"
+
+#include <memory>
+#include <vector>
+
+class VorBomFormulaColumn
+{
+public:
+    // For the tuple at `index` of sections made from one with these tuples; it must be a formula.
+    VorBomFormulaColumn(std::shared_ptr<VorBomRowLayouts> pLayouts, const VorBomDataTupleArray& tuples, int index);
+
+    int index() const { return m_nIndex; }
+
+    // 0 with `result` untouched when the formula is none or fails. The row may be null.
+    int compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result);
+
+    // The same through the formula evaluator's own variables, which hold afterwards what the formula saw. `pMessage`, if
+    // not null, is set to the message of a formula that fails.
+    static int computeOnce(const VorBomDataTupleArray& tuples, int index, const VorBomDataRow* pRow, double& result,
+                           VorString* pMessage = nullptr);
+
+private:
+    static VorString formulaOf(const VorBomDataTuple& tuple);
+    std::vector<int> tuplesNamed(const VorString& name, const VorBomDataTupleArray& tuples) const;
+    int findInSection(std::size_t name, const VorBomDataTupleArray& tuples, double& value) const;
+
+    int m_nIndex;
+    VorString m_formula;
+    VorCompiledFormula m_compiled;
+    bool m_isCompiled;
+    // Where a name of the compiled formula gets its value from: first the row, if the name is one of its tokens, then the
+    // section's tuples of that token, in this order.
+    VorBomColumns m_rowColumns;
+    std::vector<std::vector<int>> m_tuplesOfName;
+    std::vector<double> m_values;
+};

@@ -1,0 +1,107 @@
+#include "VorBomHeaderPlan.h"
+
+#include "MekRoots/Exp/VorAssert.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace
+{
+// How many results of formulas get their memory at once: few at first, as a report may be small, then ever more.
+constexpr int kFewestCellsForRows = 16;
+constexpr int kMostCellsForRows = VorMemoryControllerController::kLargestNeighbourhood / VorBomPayloadCells::kCellSize;
+
+const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomEvaluator2"; // whose reports these are
+
+std::vector<VorString> tokensOf(const VorBomDataTupleArray& tuples)
+{
+    std::vector<VorString> tokens;
+    for (const VorBomDataTuple& tuple : tuples)
+        tokens.push_back(tuple.token().token());
+    return tokens;
+}
+
+VorBomDataTuple copyOf(const VorBomDataTuple& column, VorBomPayloadCells& cells)
+{
+    return VorBomDataTuple(column.token().token(), column.value(), cells, column.used());
+}
+
+// The row's value, if it has one, under the column's token.
+VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, VorBomPayloadCells& cells)
+{
+    if (pDatum == nullptr)
+        return copyOf(column, cells);
+    if (pDatum->value().type() == VorBomDataValue::kUnknownData)
+    {
+        VorAssert::vorAssert(L"false", kSourcePath, __LINE__);
+        return copyOf(column, cells);
+    }
+    if (pDatum->used() != 1)
+        pDatum->setUsed(1); // rows of an earlier evaluation are marked: their memory need not be written
+    return VorBomDataTuple(column.token().token(), pDatum->value(), cells, column.used());
+}
+}
+
+VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section)
+    : m_section(section), m_columns(pLayouts, tokensOf(section.getData())), m_display(section.getData())
+{
+    const VorBomDataTupleArray& tuples = section.getData();
+    for (int i = 0; i < tuples.length(); ++i)
+    {
+        if (VorBomDataToken::isFormula(tuples[i].token().token()) == 0)
+            continue;
+        m_columns.leaveOut(i);
+        m_formulas.emplace_back(pLayouts, tuples, i);
+    }
+}
+
+std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row)
+{
+    m_columns.find(row);
+    const VorBomDataTupleArray& columns = m_section.getData();
+    auto pEvaluated = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
+    VorBomPayloadCells cells(columns.length());
+    pEvaluated->getData().setPhysicalLength(columns.length());
+    pEvaluated->getData().appendMade(columns.length(), [this, &cells, pColumns = columns.begin()](int i)
+                                     { return tupleFor(pColumns[i], m_columns[i], cells); });
+    return pEvaluated;
+}
+
+void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomDataRow* pRow)
+{
+    VorBomDataTupleArray& tuples = evaluated.getData();
+    m_failures.clear();
+    for (VorBomFormulaColumn& formula : m_formulas)
+    {
+        VorBomDataTuple& tuple = tuples.begin()[formula.index()];
+        double result = 0;
+        if (formula.compute(tuples, pRow, result))
+        {
+            tuple.value().set(result);
+            if (pRow != nullptr)
+                pRow->getData().emplace(tuple.token().token(), result, cellsForRows());
+        }
+        else if (m_keepsFailures)
+            keepFailure(formula, tuples, pRow);
+    }
+}
+
+// Nothing for a formula that is none: there is nothing to compute.
+void VorBomHeaderPlan::keepFailure(const VorBomFormulaColumn& formula, const VorBomDataTupleArray& tuples,
+                                   const VorBomDataRow* pRow)
+{
+    double result = 0;
+    VorString message;
+    if (!VorBomFormulaColumn::computeOnce(tuples, formula.index(), pRow, result, &message) && !message.isEmpty())
+        m_failures.push_back({ tuples[formula.index()].token().token(), message });
+}
+
+VorBomPayloadCells& VorBomHeaderPlan::cellsForRows()
+{
+    if (!m_cellsForRows || m_cellsForRows->isUsedUp())
+    {
+        m_numCellsForRows = std::clamp(2 * m_numCellsForRows, kFewestCellsForRows, kMostCellsForRows);
+        m_cellsForRows.emplace(m_numCellsForRows);
+    }
+    return *m_cellsForRows;
+}

@@ -1,0 +1,62 @@
+// What a header or details section asks of every row, read from the template once: where its columns find their data,
+// how its formulas are computed and its numbers shown.
+//
+//   section            %Name "", %Weight 0.0, "%Formula:%Weight*2" ""     row  %Weight 2.5, %Name HEA200
+//   process            %Name HEA200, %Weight 2.5, "%Formula:%Weight*2" ""
+//   computeFormulas    the same with 5.0 under the formula, which the row carries then, too
+//   showInUnits        texts in the units of the report
+//
+// A plan serves rows of any layout, but one evaluation and one thread only.
+#pragma once
+
+#include "VorBomColumns.h"
+#include "VorBomDisplayPlan.h"
+#include "VorBomFormulaColumn.h"
+#include "VorBomTemplateItem.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class VorBomHeaderPlan
+{
+public:
+    // The section is not owned and must not change as long as the plan is used.
+    VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section);
+
+    // A copy of the section without links, its values taken from the row where the row has them; formulas stay as they
+    // are. Marks the row's tuples it took as used. Reports "false" for an empty value in the row and passes it over.
+    std::unique_ptr<VorBomTemplateItem> process(VorBomDataRow& row);
+
+    // Computes the formulas of a section with the tokens of this plan's, and appends each result to the row, which may be
+    // null.
+    void computeFormulas(VorBomTemplateItem& evaluated, VorBomDataRow* pRow);
+
+    // A formula that could not be computed, and why.
+    struct Failure
+    {
+        VorString token;
+        VorString message;
+    };
+
+    // From now on computeFormulas() writes down the formulas that fail: each costs another evaluation, for its message.
+    void keepFailures() { m_keepsFailures = true; }
+    // Those of the section computed last, in its order; none unless they are kept.
+    const std::vector<Failure>& failures() const { return m_failures; }
+
+    // Shows such sections.
+    VorBomDisplayPlan& display() { return m_display; }
+
+private:
+    void keepFailure(const VorBomFormulaColumn& formula, const VorBomDataTupleArray& tuples, const VorBomDataRow* pRow);
+    VorBomPayloadCells& cellsForRows();
+
+    const VorBomTemplateItem& m_section;
+    VorBomColumns m_columns; // one per tuple of the section; formulas are left out
+    std::vector<VorBomFormulaColumn> m_formulas;
+    std::optional<VorBomPayloadCells> m_cellsForRows; // of results; apart from the sections, which go before the rows
+    int m_numCellsForRows = 0;                        // of those taken last
+    bool m_keepsFailures = false;
+    std::vector<Failure> m_failures;
+    VorBomDisplayPlan m_display;
+};

@@ -1,0 +1,36 @@
+#include "VorBomLevelPlan.h"
+
+namespace
+{
+std::vector<VorString> toVector(const VorStringArray& texts)
+{
+    return std::vector<VorString>(texts.begin(), texts.end());
+}
+}
+
+VorBomLevelPlan::VorBomLevelPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts,
+                                 const VorBomTemplateItem& headerSection, const VorBomTemplateItem* pFooterSection)
+    : header(pLayouts, headerSection),
+      m_grouping(pLayouts, toVector(headerSection.groupingTokens())),
+      m_groupingOfLast(pLayouts, toVector(headerSection.groupingTokens()))
+{
+    if (pFooterSection != nullptr)
+        footer.emplace(pLayouts, *pFooterSection);
+}
+
+int VorBomLevelPlan::isSameGroup(VorBomDataRow& row, VorBomDataRow& lastRow)
+{
+    m_grouping.find(row);
+    m_groupingOfLast.find(lastRow);
+    for (int i = 0; i < m_grouping.count(); ++i)
+        if (VorBomDataTuple::compareValues(m_grouping[i], m_groupingOfLast[i]) != 0)
+            return 0;
+    return 1;
+}
+
+void VorBomLevelPlan::keepValues()
+{
+    header.display().keepValues();
+    if (footer.has_value())
+        footer->display().keepValues();
+}

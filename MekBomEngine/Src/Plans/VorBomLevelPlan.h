@@ -1,0 +1,35 @@
+// What one level of a report asks of every row: its header, its footer, and when a row opens a new group. All plans of
+// an evaluation share one set of layouts, so that a row's layout is told once for all levels.
+//
+//   header "%GroupBy:%Material", rows S235, S235, S355
+//   isSameGroup(second, first)  ->  1      isSameGroup(third, second)  ->  0
+#pragma once
+
+#include "VorBomColumns.h"
+#include "VorBomFooterPlan.h"
+#include "VorBomHeaderPlan.h"
+#include "VorBomTemplateItem.h"
+
+#include <memory>
+#include <optional>
+
+class VorBomLevelPlan
+{
+public:
+    // Neither section is owned; the footer may be null.
+    VorBomLevelPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& headerSection,
+                    const VorBomTemplateItem* pFooterSection);
+
+    // 1 when the rows agree in what the header groups by; answers as VorBomDataRow::compare being 0.
+    int isSameGroup(VorBomDataRow& row, VorBomDataRow& lastRow);
+
+    // From now on the values of both sections are kept when they are shown.
+    void keepValues();
+
+    VorBomHeaderPlan header;
+    std::optional<VorBomFooterPlan> footer;
+
+private:
+    VorBomColumns m_grouping;
+    VorBomColumns m_groupingOfLast;
+};

@@ -1,0 +1,59 @@
+#include "VorBomSinkTarget.h"
+
+#include "VorBomLevelPlan.h"
+
+#include <utility>
+
+VorBomSinkTarget::VorBomSinkTarget(VorBomSectionSink& sink, VorBomEngineStateArray& stack) : m_sink(sink)
+{
+    for (VorBomEngineState& state : stack)
+    {
+        if ((sink.requests() & VorBomSectionSink::kTypedValues) != 0)
+            state.m_pPlan->keepValues();
+        if ((sink.requests() & VorBomSectionSink::kFailedFormulas) != 0)
+            state.m_pPlan->header.keepFailures();
+    }
+}
+
+void VorBomSinkTarget::open(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits& units)
+{
+    VorBomEngineState& group = stack.begin()[level];
+    reportFailedFormulas(group);
+    if (level == stack.length() - 1)
+        return; // the line may be merged still
+    group.m_pPlan->header.display().show(units, group.m_pEvaluatedHeader->getData());
+    const Section pHeader(std::exchange(group.m_pEvaluatedHeader, nullptr));
+    handOverHeader(*pHeader, group, level);
+}
+
+void VorBomSinkTarget::take(VorBomEngineStateArray& stack, int level)
+{
+    VorBomEngineState& group = stack.begin()[level];
+    Section pHeader(std::exchange(group.m_pEvaluatedHeader, nullptr));
+    Section pFooter(std::exchange(group.m_pEvaluatedFooter, nullptr));
+    if (pHeader != nullptr)
+        handOverHeader(*pHeader, group, level);
+    if (pFooter != nullptr)
+        handOverFooter(*pFooter, group, level);
+    if (level < stack.length() - 1 || (pHeader == nullptr && pFooter == nullptr))
+        return;
+    m_pSectionBefore = std::move(pFooter != nullptr ? pFooter : pHeader);
+    group.m_pSectionBefore = m_pSectionBefore.get();
+}
+
+void VorBomSinkTarget::handOverHeader(const VorBomTemplateItem& header, const VorBomEngineState& group, int level)
+{
+    m_sink.takeHeader({ header, level, header.getFirstDataRow(), {}, group.m_pPlan->header.display().values() });
+}
+
+void VorBomSinkTarget::handOverFooter(const VorBomTemplateItem& footer, const VorBomEngineState& group, int level)
+{
+    const VorBomCountedRows rows(group.m_dataRows);
+    m_sink.takeFooter({ footer, level, nullptr, rows, group.m_pPlan->footer->display().values() });
+}
+
+void VorBomSinkTarget::reportFailedFormulas(const VorBomEngineState& group)
+{
+    for (const VorBomHeaderPlan::Failure& failure : group.m_pPlan->header.failures())
+        m_sink.takeFailedFormula(*group.m_pEvaluatedHeader->getFirstDataRow(), failure.token, failure.message);
+}

@@ -1,0 +1,30 @@
+// Hands the sections of a report to a host's sink: a header when its group opens, a footer when it closes, a line when it
+// is complete. Keeps none but the one that the next line is compared with.
+#pragma once
+
+#include "VorBomSectionSink.h"
+#include "VorBomSectionTarget.h"
+
+#include <memory>
+
+class VorBomSinkTarget : public VorBomSectionTarget
+{
+public:
+    // Prepares the plans of all levels for what the sink asks for. It is not owned.
+    VorBomSinkTarget(VorBomSectionSink& sink, VorBomEngineStateArray& stack);
+
+    void open(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits& units) override;
+    void take(VorBomEngineStateArray& stack, int level) override;
+    void takeMergedRow(const VorBomDataRow& row) override { m_sink.takeMergedRow(row); }
+    int takeProgress(int numRowsDone) override { return m_sink.takeProgress(numRowsDone); }
+
+private:
+    using Section = std::unique_ptr<const VorBomTemplateItem>;
+
+    void handOverHeader(const VorBomTemplateItem& header, const VorBomEngineState& group, int level);
+    void handOverFooter(const VorBomTemplateItem& footer, const VorBomEngineState& group, int level);
+    void reportFailedFormulas(const VorBomEngineState& group);
+
+    VorBomSectionSink& m_sink;
+    Section m_pSectionBefore; // of the deepest level, handed over last
+};

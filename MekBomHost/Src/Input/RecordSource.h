@@ -1,0 +1,42 @@
+// Where the records of a parts list come from, whatever the format: the interface that a new input format implements.
+//
+//   while (const Record* pRecord = source.next())
+//       use(*pRecord);
+//
+// The first record names the columns ("Name", "Length [ft]"); each of the others is one part, with its cells in the same
+// order. A source of a format that has numbers hands them over as they are stored; one of texts leaves it to the reader
+// of the cells which of them are numbers. What no record can be made of ends the reading with a Fault of status
+// kInvalidInput that names the place; what the cells ought to hold, and how many there ought to be, is not its concern.
+#pragma once
+
+#include "Finding.h"
+#include "RecordCell.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace mekbom
+{
+using Record = std::vector<RecordCell>;
+
+class RecordSource
+{
+public:
+    RecordSource() = default;
+    RecordSource(const RecordSource&) = delete;
+    RecordSource& operator=(const RecordSource&) = delete;
+    virtual ~RecordSource() = default;
+
+    // What messages call it: "parts.csv".
+    virtual const std::string& name() const = 0;
+
+    // The next record; null at the end. It is owned by the source, and it and its texts are good until the next call.
+    virtual const Record* next() = 0;
+
+    // Where the record read last stands, and where its cell `index`, from 0, does: an error there with everything of a
+    // place that the source knows (Finding: source, begin, end, path), and nothing else.
+    virtual Finding findingInRecord() const = 0;
+    virtual Finding findingInCell(std::size_t index) const = 0;
+};
+}
