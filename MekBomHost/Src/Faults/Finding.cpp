@@ -17,7 +17,8 @@ Finding ofCode(const FindingCode& code)
     return finding;
 }
 
-// "parts.csv:3:17"; the field says it better than the column of the text, which only editors want to know then.
+// "list.json:12:34", or "parts.csv:3" where a field is named: that says it better than the column of the text, which
+// only editors want to know then.
 std::string placeOf(const Finding& finding)
 {
     std::string place = finding.source;
@@ -27,6 +28,7 @@ std::string placeOf(const Finding& finding)
     return place;
 }
 
+// "found \"n/a\", expected a number"
 std::string contentOf(const Finding& finding)
 {
     if (!finding.statement.empty())

@@ -7,8 +7,8 @@
 //   finding.field = "Weight";
 //   messageOf(finding)   ->   parts.csv:3: column "Weight": found "n/a", expected a number
 //
-// Values, to be copied and changed at will. All texts are UTF-8 without a line end; whatever comes from a file stands in
-// them as inQuotes() writes it.
+// Values, to be copied and changed at will. All texts are UTF-8 without a line end; whatever comes from a file stands
+// in them as inQuotes() writes it.
 #pragma once
 
 #include "TextPlace.h"

@@ -10,8 +10,8 @@
 #pragma once
 
 #include "DisplaySettings.h"
+#include "PackedSections.h"
 #include "ReportTemplate.h"
-#include "SectionTexts.h"
 #include "TextSink.h"
 
 #include "VorBomTemplate.h"
@@ -34,14 +34,13 @@ public:
     void evaluate();
 
     // How many rows had a line equal to the one before it, were merged into that and count in no total.
-    int numMergedRows() const { return m_numMergedRows; }
+    int numMergedRows() const { return m_sections.numMergedRows(); }
 
     void writeTable(TextSink& sink);
 
 private:
     VorUnitsManager m_units; // that numbers are shown in
     ReportTemplate m_template;
-    SectionTexts m_texts; // of the evaluated report
-    int m_numMergedRows = 0;
+    PackedSections m_sections; // of the evaluated report
 };
 }

@@ -1,3 +1,6 @@
+// Each question about a member is answered in the same order: a missing member is no mistake unless it is required, one
+// of the wrong kind is a finding and as good as missing, and only then its value is looked at. So "width": "wide" gives
+// one finding, not two, and reading goes on with the fallback.
 #include "JsonChecker.h"
 
 #include "FindingCodes.h"

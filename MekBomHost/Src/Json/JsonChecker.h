@@ -1,11 +1,11 @@
 // Takes a file's JSON nodes apart and collects what is wrong with them, each finding with its place and path:
 //
 //   JsonChecker json("list.json");
-//   json.integerOf(column, "width", 1, 200, 0)   ->  0, and a finding when the width is a text or is 500:
-//   "list.json:12:34: /columns/0/width: found the number 500, expected one from 1 to 200"
+//   json.integerOf(column, "width", 1, 200, 0)   ->  0, and a finding, when the width is a text or is 500
 //   json.throwIfAnyError();
 //
-// Reading goes on after a mistake, with a fallback in place of the value, so that one run shows all of them.
+// The finding says "list.json:12:34: /columns/0/width: found the number 500, expected one from 1 to 200". Reading goes
+// on after a mistake, with a fallback in place of the value, so that one run shows all of them.
 #pragma once
 
 #include "FindingList.h"
@@ -46,8 +46,8 @@ public:
     // The elements of an array; none when the member is missing or, with a finding, no array.
     std::vector<JsonItem> elementsOf(const JsonItem& object, const std::string& key);
 
-    // Whether the item is of that kind; whether it is an object, with no other keys than these. Adds a finding when not,
-    // for unknown keys too, which make the object no less of one.
+    // Whether the item is of that kind; whether it is an object, with no other keys than these. Adds a finding when
+    // not, for unknown keys too, which make the object no less of one.
     bool isOfKind(const JsonItem& item, JsonNode::eKind kind);
     bool isObjectOf(const JsonItem& item, const std::vector<std::string>& keys);
 

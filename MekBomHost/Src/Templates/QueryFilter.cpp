@@ -64,8 +64,8 @@ bool QueryFilter::names(const VorString& token) const
                        [&token](const Condition& condition) { return condition.token == token; });
 }
 
-// Takes the rows off and puts those back that stay, so that no row has to know the one before it. A row goes with what is
-// below it: empty() frees that, without recursion over siblings.
+// Takes the rows off and puts those back that stay, so that no row has to know the one before it. A row goes with what
+// is below it: empty() frees that, without recursion over siblings.
 void QueryFilter::apply(VorBomData& data) const
 {
     if (m_conditions.empty())

@@ -12,7 +12,8 @@ namespace mekbom::TemplateChoice
 {
 namespace
 {
-// How much of its data a template finds.
+// How much of its data a template finds: 3 of 5. Compared as fractions, without rounding: 3 of 5 is more than 1 of 2,
+// because 3 * 2 > 1 * 5. A template without data counts as 0 of 1.
 struct Cover
 {
     std::size_t numCovered = 0;

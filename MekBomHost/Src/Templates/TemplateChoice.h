@@ -16,8 +16,8 @@
 namespace mekbom::TemplateChoice
 {
 // That one of `candidates`, which are template files in order of preference; good for as long as they are. `hasColumn`
-// answers for a token such as "%Name". Throws a Fault of status kInvalidInput: in the name of `dataName` when none suits,
-// as TemplateReader does when one is malformed.
+// answers for a token such as "%Name". Throws a Fault of status kInvalidInput: in the name of `dataName` when none
+// suits, as TemplateReader does when one is malformed.
 const NamedText& choose(const std::string& dataName, const std::vector<NamedText>& candidates,
                         const std::function<bool(const std::string&)>& hasColumn);
 }

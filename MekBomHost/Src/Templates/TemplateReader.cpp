@@ -1,7 +1,7 @@
 // Reading goes on after a mistake, so that one run tells all: a column whose width is 500 stands without a width, a
 // section whose type is misspelled is one of unknown type, and the template is thrown away with the Fault at the end.
-// What merely follows from another mistake would be noise, so columns are looked for in the sections last, and only when
-// all else is right: the section that shows a column may be the one that could not be read.
+// What merely follows from another mistake would be noise, so columns are looked for in the sections last, and only
+// when all else is right: the section that shows a column may be the one that could not be read.
 #include "TemplateReader.h"
 
 #include "FindingCodes.h"

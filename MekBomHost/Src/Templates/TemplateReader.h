@@ -1,7 +1,8 @@
 // Reads a template file: JSON with comments, described by MekBomHost/Schema/mekbom-template.schema.json.
 //
-//   ReportTemplate list = TemplateReader::read("list.json", "{ \"sections\": [ { \"type\": \"kDetails\" } ] }");
-//   list.pTemplate->child()->type()   ->  VorBomTemplateItem::kDetails
+//   const char* const text = R"({ "title": "Bolts", "sections": [ { "type": "kDetails" } ] })";
+//   ReportTemplate list = TemplateReader::read("list.json", text);
+//   list.title   ->  "Bolts"
 //
 // Every mistake is a finding of its own, and unknown keys are mistakes. What is no mistake but has no effect, such as a
 // third section in a level, is a note.

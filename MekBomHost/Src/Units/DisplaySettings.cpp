@@ -13,6 +13,7 @@ namespace mekbom
 {
 namespace
 {
+// What a setting is called, and the number that it sets.
 struct Setting
 {
     const char* name;

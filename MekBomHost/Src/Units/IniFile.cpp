@@ -11,13 +11,10 @@ namespace mekbom
 {
 namespace
 {
-const std::string_view kByteOrderMark = "\xEF\xBB\xBF"; // no part of the text: columns do not count it
-
+// Columns do not count a byte order mark.
 VorString textOf(const NamedText& file)
 {
-    std::string_view bytes = file.text;
-    if (bytes.substr(0, kByteOrderMark.size()) == kByteOrderMark)
-        bytes.remove_prefix(kByteOrderMark.size());
+    const std::string_view bytes = Utf8::withoutByteOrderMark(file.text);
     requireText(bytes, file.name);
     return Utf8::toWide(bytes);
 }

@@ -3,8 +3,8 @@
 //   for (IniFile ini({ "shop.ini", "; ours\nlength = mm\n" }); ini.next();)
 //       take(ini.key(), ini.value(), ini.line());      "length", "mm", 2
 //
-// What lines may be is KTIniReader's to say. Throws a Fault of status kInvalidInput for bytes that are no text and for a
-// malformed line. In UTF-8.
+// What lines may be is KTIniReader's to say. Throws a Fault of status kInvalidInput for bytes that are no text and for
+// a malformed line. In UTF-8.
 #pragma once
 
 #include "Finding.h"

@@ -1,3 +1,6 @@
+// A choice is tried on the units themselves: VorUnitsManager::setUnit() reads "ft-in/16", and refuses what is no unit
+// of the kind. Whoever asked knows where the choice stood, so choose() leaves the place to them: for "--unit length=lb"
+// the source of the finding is the option, for the third line of shop.ini it is the file and its line.
 #include "UnitChoice.h"
 
 #include "Fault.h"
@@ -47,7 +50,8 @@ VorUnitsManager unitsOfBase(const std::string& base)
     return units;
 }
 
-// The base counts wherever its line stands.
+// The base counts wherever its line stands, so the file is read twice: a base sets the units of all kinds, and would
+// undo "length = cm" in a line above it.
 VorUnitsManager unitsOfFile(const NamedText& file)
 {
     VorUnitsManager units;

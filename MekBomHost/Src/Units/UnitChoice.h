@@ -8,8 +8,8 @@
 //       length = ft-in/32
 //       area = m2/1
 //
-// Kinds are those of UnitKinds, units and precisions those of VorUnitNotation. The answer is a value: two reports in one
-// process may have different ones.
+// Kinds are those of UnitKinds, units and precisions those of VorUnitNotation. The answer is a value: two reports in
+// one process may have different ones.
 #pragma once
 
 #include "NamedText.h"

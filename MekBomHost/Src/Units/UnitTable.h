@@ -1,7 +1,8 @@
 // The catalogue of units as a table for users: kind, symbol, how it is asked for, what it is, source and names.
 //
-//   UnitTable::text()   ->   Kind    Symbol  --unit  One is  Source            Names
-//                            length  mm      mm/1    1 mm    SI (NIST SP 811)  millimetre, millimetres
+//   Kind    Symbol  --unit  One is   Source              Names
+//   length  mm      mm/1    1 mm     SI (NIST SP 811)    millimetre, millimetres, millimeter, millimeters
+//   length  in      in/3    25.4 mm  yard and pound ...  inch, inches
 #pragma once
 
 #include <string>

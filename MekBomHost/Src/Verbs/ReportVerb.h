@@ -1,4 +1,5 @@
-// `mekbom report`: reads parts list and template, evaluates, prints the table. When it cannot, nothing has been written.
+// `mekbom report`: reads parts list and template, evaluates, prints the table. When it cannot, nothing has been
+// written.
 #pragma once
 
 #include "DisplaySettings.h"
