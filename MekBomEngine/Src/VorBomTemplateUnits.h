@@ -50,6 +50,8 @@ public:
 
     // Replaces the display settings, for a report that has its own: what the repository holds counts no more, until
     // setUnits() reads it again. The numbers are those of the settings above, in the same order.
+    //   const VorUnitsManager imperial = VorUnitsManager::imperial();
+    //   VorBomTemplateUnits units;
     //   units.setUnits(&imperial);
     //   units.setDisplaySettings(1, 1, 0, 1);
     //   units.getDisplayString(VorBomTemplateUnits::kDistanceUnit, 2133.6)   ->  "7'-0\""
