@@ -77,5 +77,7 @@ int KTIniReader::readEntry(const std::wstring& line)
 int KTIniReader::fail(const std::wstring& found, const wchar_t* expected)
 {
     m_fault = textOf(L"found \"" + found + L"\", expected " + expected);
+    m_found = textOf(found);
+    m_expected = expected;
     return 0;
 }

@@ -39,6 +39,10 @@ public:
     //   found "abc", expected a line such as key = value
     const VorString& fault() const { return m_fault; }
 
+    // The two parts of that: "abc" as it stands in the line, without quotes, and what was expected.
+    const VorString& found() const { return m_found; }
+    const VorString& expected() const { return m_expected; }
+
 private:
     std::wstring takeLine();
     int readEntry(const std::wstring& line);
@@ -50,5 +54,7 @@ private:
     VorString m_key;
     VorString m_value;
     VorString m_fault;
+    VorString m_found;
+    VorString m_expected;
     std::map<std::wstring, int> m_lineOfKey;
 };

@@ -7,6 +7,7 @@ namespace mekbom
 {
 namespace
 {
+// A finding without a code, which has its place in its words.
 Finding findingOf(const std::string& message)
 {
     Finding finding;
@@ -19,6 +20,7 @@ bool isError(const Finding& finding)
     return finding.severity == Finding::kError;
 }
 
+// What exception handlers see that know nothing of findings.
 std::string firstMessageOf(const std::vector<Finding>& findings)
 {
     const auto found = std::find_if(findings.begin(), findings.end(), isError);
@@ -36,6 +38,7 @@ Fault::Fault(ExitStatus status, std::vector<Finding> findings, std::size_t numEr
 
 Fault::Fault(ExitStatus status, const std::string& message) : Fault(status, findingOf(message)) {}
 
+// Notes among the findings are left out: they are about a report that does not come.
 std::vector<std::string> Fault::messages(std::size_t most) const
 {
     std::vector<std::string> messages;

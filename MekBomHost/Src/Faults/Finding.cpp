@@ -17,7 +17,8 @@ Finding ofCode(const FindingCode& code)
     return finding;
 }
 
-// "parts.csv:3:17"; the field says it better than the column of the text, which only editors want to know then.
+// "list.json:12:34", or "parts.csv:3" where a field is named: that says it better than the column of the text, which
+// only editors want to know then.
 std::string placeOf(const Finding& finding)
 {
     std::string place = finding.source;
@@ -27,6 +28,7 @@ std::string placeOf(const Finding& finding)
     return place;
 }
 
+// "found \"n/a\", expected a number"
 std::string contentOf(const Finding& finding)
 {
     if (!finding.statement.empty())
@@ -54,6 +56,15 @@ Finding Finding::saying(const FindingCode& code, std::string sentence)
 {
     Finding finding = ofCode(code);
     finding.sentence = std::move(sentence);
+    return finding;
+}
+
+Finding Finding::in(const std::string& file, const TextSpan& span) const
+{
+    Finding finding = *this;
+    finding.source = file;
+    finding.begin = span.begin;
+    finding.end = span.end;
     return finding;
 }
 

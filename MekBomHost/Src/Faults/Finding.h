@@ -7,8 +7,8 @@
 //   finding.field = "Weight";
 //   messageOf(finding)   ->   parts.csv:3: column "Weight": found "n/a", expected a number
 //
-// Values, to be copied and changed at will. All texts are UTF-8 without a line end; whatever comes from a file stands in
-// them as inQuotes() writes it.
+// Values, to be copied and changed at will. All texts are UTF-8 without a line end; whatever comes from a file stands
+// in them as inQuotes() writes it.
 #pragma once
 
 #include "TextPlace.h"
@@ -37,6 +37,9 @@ struct Finding
     static Finding of(const FindingCode& code, std::string found, std::string expected = "");
     static Finding stating(const FindingCode& code, std::string statement);
     static Finding saying(const FindingCode& code, std::string sentence);
+
+    // The same finding with its place.
+    Finding in(const std::string& file, const TextSpan& span) const;
 
     eSeverity severity = kError;
     std::string code; // "MB710", one of FindingCodes

@@ -6,6 +6,7 @@
 
 namespace mekbom
 {
+// Counts all, keeps the first.
 void FindingList::add(Finding finding)
 {
     if (m_numOf[finding.severity]++ < kMostKept)

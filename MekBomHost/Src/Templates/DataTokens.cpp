@@ -10,6 +10,8 @@ namespace mekbom::DataTokens
 {
 namespace
 {
+// Whether rows may carry it. "%GroupBy:%Name" steers, "%Formula:%Length/2" is computed and "%SumBy:%Weight" is added
+// up; the data that these are about have entries of their own in the trace.
 bool isDatum(const VorString& token)
 {
     return VorBomDataToken::isToken(token) == 1 && VorBomDataToken::isInvisibleToken(token) == 0 &&

@@ -7,6 +7,7 @@
 
 namespace mekbom
 {
+// The default template comes without a file, and so without styles.
 const SectionStyle& ReportTemplate::styleOf(const VorBomItemBase* pSection) const
 {
     static const SectionStyle usual;
@@ -14,6 +15,8 @@ const SectionStyle& ReportTemplate::styleOf(const VorBomItemBase* pSection) cons
     return found == sectionStyles.end() ? usual : found->second;
 }
 
+// The column of a sum is its own if the file describes one, as in { "token": "%SumBy:%Weight", "label": "Total weight"
+// }; else the total stands below the weights.
 VorString ReportTemplate::columnTokenOf(const VorBomItemBase& section, int tupleIndex) const
 {
     const VorBomDataToken& token = section.getData()[tupleIndex].token();

@@ -5,6 +5,7 @@
 
 namespace mekbom
 {
+// std::to_chars alone would take the shorter of both ways of writing, "1e+06" for a million.
 std::string numberText(double number)
 {
     const double size = std::fabs(number);

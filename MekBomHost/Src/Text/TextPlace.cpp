@@ -4,12 +4,14 @@ namespace mekbom
 {
 namespace
 {
+// All bytes of a character but its first are 10xxxxxx in UTF-8.
 bool startsCharacter(char byte)
 {
     return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
 }
 }
 
+// Counts on from the offset asked for last, or from the front if that lies behind.
 TextPlace PlaceCounter::placeOf(std::size_t offset)
 {
     if (offset < m_offset)
