@@ -49,17 +49,4 @@ inline std::string_view write(std::uint64_t word, char (&bytes)[kSize])
         bytes[size++] = static_cast<char>(word & 0xFF);
     return std::string_view(bytes, size);
 }
-
-// The number of the lowest bit set in `word`, which is not 0.
-inline int lowestBit(std::uint64_t word)
-{
-#if defined(__GNUC__)
-    return __builtin_ctzll(word);
-#else
-    int bit = 0;
-    for (; (word & 1) == 0; word >>= 1)
-        ++bit;
-    return bit;
-#endif
-}
 }

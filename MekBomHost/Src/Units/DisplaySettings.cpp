@@ -1,6 +1,6 @@
 #include "DisplaySettings.h"
 
-#include "CellNumber.h"
+#include "NumberReader.h"
 #include "Fault.h"
 #include "MessageText.h"
 #include "TextFile.h"
@@ -57,7 +57,7 @@ void loadSetting(const std::string& key, const std::string& value)
     int number = 0;
     if (!isUsed(wideKey))
         throw Fault(kWrongUsage, "--setting: found " + inQuotes(key) + ", expected one of " + namesOfAll());
-    if (!CellNumber::parse(value, number))
+    if (!NumberReader::read(value, number))
         throw Fault(kWrongUsage, "--setting " + key + ": found " + inQuotes(value) + ", expected a whole number");
     KTRepositoryProxy::setDefault(wideKey, number);
 }
