@@ -9,8 +9,6 @@
 // Two texts of up to eight bytes are the same if their words are, unless zero bytes end one of them.
 #pragma once
 
-#include "MekRoots/Exp/VorBits.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -58,7 +56,4 @@ inline std::string_view write(std::uint64_t word, char (&bytes)[kSize])
         bytes[size++] = static_cast<char>(word & 0xFF);
     return std::string_view(bytes, size);
 }
-
-// The lowest bit of a word is in the first byte that has one.
-using VorBits::lowestBit;
 }

@@ -1,6 +1,6 @@
 #include "ReportVerb.h"
 
-#include "ColumnName.h"
+#include "ColumnHeading.h"
 #include "CsvReader.h"
 #include "DataTokens.h"
 #include "Fault.h"
@@ -152,7 +152,7 @@ void ReportVerb::openParts()
     m_pRecords = std::make_unique<CsvReader>(*m_pFile);
     m_pParts = std::make_unique<PartsList>(*m_pRecords);
     for (const auto& [token, unit] : m_inputUnits.pairs())
-        m_pParts->setInputUnit(ColumnName::tokenOf(token), unit);
+        m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);
 }
 
 // The sample data go with the default template, unless another one is named.
