@@ -1,10 +1,8 @@
 // Reads the entries of an INI text, one after the other.
 //
-//   ; how lists are shown
-//   [Display]
-//   C40_SuppressZeroFeet = 1
-//
-//   KTIniReader reader(text);
+//   KTIniReader reader(L"; how lists are shown\n"
+//                      L"[Display]\n"
+//                      L"C40_SuppressZeroFeet = 1\n");
 //   while (reader.next() == 1)
 //       store(reader.key(), reader.value());         "C40_SuppressZeroFeet", "1"
 //   if (!reader.fault().isEmpty())
@@ -30,16 +28,20 @@ public:
     // Goes to the next entry; 0 at the end, and at a line that is malformed, where it stays.
     int next();
 
-    // Of the entry.
+    // The two texts of the entry that next() went to, without the blanks around them.
     const VorString& key() const { return m_key; }
     const VorString& value() const { return m_value; }
 
-    // Of the entry or the malformed line, from 1.
+    // The number of the line in which that entry stands, or of the malformed line; lines count from 1.
     int line() const { return m_nLine; }
 
     // What is wrong with the line, for the end of a message; empty while nothing is.
     //   found "abc", expected a line such as key = value
     const VorString& fault() const { return m_fault; }
+
+    // The two parts of that: "abc" as it stands in the line, without quotes, and what was expected.
+    const VorString& found() const { return m_found; }
+    const VorString& expected() const { return m_expected; }
 
 private:
     std::wstring takeLine();
@@ -52,5 +54,7 @@ private:
     VorString m_key;
     VorString m_value;
     VorString m_fault;
+    VorString m_found;
+    VorString m_expected;
     std::map<std::wstring, int> m_lineOfKey;
 };

@@ -74,4 +74,15 @@ TEST(KTIniReaderTest, AFaultStays)
     EXPECT_EQ(0, reader.next());
     EXPECT_EQ(1, reader.line());
 }
+
+TEST(KTIniReaderTest, AFaultIsKnownInItsParts)
+{
+    KTIniReader reader(L"a=1\n b\n");
+
+    EXPECT_EQ(1, reader.next());
+    EXPECT_EQ(VorString(), reader.found());
+    EXPECT_EQ(0, reader.next());
+    EXPECT_EQ(VorString(L"b"), reader.found());
+    EXPECT_EQ(VorString(L"a line such as key = value"), reader.expected());
+}
 }

@@ -50,6 +50,15 @@ void VorBomTemplateUnits::setUnits(const VorUnitsManager* pManager)
     readSettings();
 }
 
+void VorBomTemplateUnits::setDisplaySettings(int suppressLastZeros, int suppressZeroFeet, int suppressZeroInch,
+                                             int showMinusBetweenFeetAndInch)
+{
+    m_nSuppressLastZeros = suppressLastZeros;
+    m_nSuppressZeroFeet = suppressZeroFeet;
+    m_nSuppressZeroInch = suppressZeroInch;
+    m_feetInchSeparator = showMinusBetweenFeetAndInch != 0 ? L'-' : L' ';
+}
+
 // NOLINTNEXTLINE(performance-unnecessary-value-param): existing clients are built against the signature
 void VorBomTemplateUnits::AddTokenType(VorString token, eTokenUnitType type)
 {
@@ -79,12 +88,15 @@ VorString VorBomTemplateUnits::getDisplayString(eTokenUnitType type, double valu
 
 void VorBomTemplateUnits::readSettings()
 {
+    int suppressLastZeros = m_nSuppressLastZeros;
+    int suppressZeroFeet = m_nSuppressZeroFeet;
+    int suppressZeroInch = m_nSuppressZeroInch;
     int showMinus = 0;
-    vor_odbc_getDefault(L"C0_BOMSuppressLastZeros", m_nSuppressLastZeros);
-    vor_odbc_getDefault(L"C40_SuppressZeroFeet", m_nSuppressZeroFeet);
-    vor_odbc_getDefault(L"C40_SuppressZeroInch", m_nSuppressZeroInch);
+    vor_odbc_getDefault(L"C0_BOMSuppressLastZeros", suppressLastZeros);
+    vor_odbc_getDefault(L"C40_SuppressZeroFeet", suppressZeroFeet);
+    vor_odbc_getDefault(L"C40_SuppressZeroInch", suppressZeroInch);
     vor_odbc_getDefault(L"C40_ShowMinusBetweenFeetAndInch", showMinus);
-    m_feetInchSeparator = showMinus != 0 ? L'-' : L' ';
+    setDisplaySettings(suppressLastZeros, suppressZeroFeet, suppressZeroInch, showMinus);
 }
 
 // Null for a type that has no unit.

@@ -48,6 +48,14 @@ public:
     //   "C40_ShowMinusBetweenFeetAndInch"   nonzero shows 7'-6", 0 shows 7' 6"
     void setUnits(const VorUnitsManager* pManager);
 
+    // Replaces the display settings, for a report that has its own: what the repository holds counts no more, until
+    // setUnits() reads it again. The numbers are those of the settings above, in the same order.
+    //   units.setUnits(&imperial);
+    //   units.setDisplaySettings(1, 1, 0, 1);
+    //   units.getDisplayString(VorBomTemplateUnits::kDistanceUnit, 2133.6)   ->  "7'-0\""
+    void setDisplaySettings(int suppressLastZeros, int suppressZeroFeet, int suppressZeroInch,
+                            int showMinusBetweenFeetAndInch);
+
     // Registers `token`. The first registration wins: a token that has a type keeps it.
     void AddTokenType(VorString token, eTokenUnitType type);
 

@@ -218,6 +218,27 @@ TEST_F(VorBomTemplateUnitsTest, MissingSettingsStayButTheSeparatorDoesNot)
     EXPECT_EQ(VorString(L"7' 0\""), shown(units, Units::kDistanceUnit, 2133.6));
 }
 
+TEST_F(VorBomTemplateUnitsTest, SettingsOfAReportTakeThePlaceOfThoseOfTheProcess)
+{
+    KTRepositoryProxy::setDefault(L"C40_SuppressZeroFeet", 0);
+    const VorUnitsManager imperial = VorUnitsManager::imperial();
+    Units own;
+    Units usual;
+    own.setUnits(&imperial);
+    usual.setUnits(&imperial);
+
+    own.setDisplaySettings(0, 1, 0, 1);
+
+    EXPECT_EQ(VorString(L"7'-0\""), shown(own, Units::kDistanceUnit, 2133.6));
+    EXPECT_EQ(VorString(L"6\""), shown(own, Units::kDistanceUnit, 152.4));
+    EXPECT_EQ(VorString(L"100.00"), shown(own, Units::kAreaUnit, 9290304.0));
+    EXPECT_EQ(VorString(L"0' 6\""), shown(usual, Units::kDistanceUnit, 152.4));
+
+    own.setUnits(&imperial);
+
+    EXPECT_EQ(VorString(L"0' 6\""), shown(own, Units::kDistanceUnit, 152.4));
+}
+
 TEST_F(VorBomTemplateUnitsTest, CopiesAreIndependent)
 {
     const LeakCheck leaks;

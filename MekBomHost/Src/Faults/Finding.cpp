@@ -57,6 +57,15 @@ Finding Finding::saying(const FindingCode& code, std::string sentence)
     return finding;
 }
 
+Finding Finding::in(const std::string& file, const TextSpan& span) const
+{
+    Finding finding = *this;
+    finding.source = file;
+    finding.begin = span.begin;
+    finding.end = span.end;
+    return finding;
+}
+
 std::string messageOf(const Finding& finding)
 {
     if (!finding.sentence.empty())

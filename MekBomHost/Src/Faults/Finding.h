@@ -38,6 +38,9 @@ struct Finding
     static Finding stating(const FindingCode& code, std::string statement);
     static Finding saying(const FindingCode& code, std::string sentence);
 
+    // The same finding with its place.
+    Finding in(const std::string& file, const TextSpan& span) const;
+
     eSeverity severity = kError;
     std::string code; // "MB710", one of FindingCodes
 

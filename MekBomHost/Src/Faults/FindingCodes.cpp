@@ -39,6 +39,7 @@ const std::vector<FindingCode>& all()
         kColumnNotShown,
         kSectionNotEvaluated,
         kChildrenNotEvaluated,
+        kNestedTooDeep,
         kFileUnreadable,
         kTextIsNotUtf8,
         kTextHasZeroByte,
@@ -53,7 +54,7 @@ const std::vector<FindingCode>& all()
         kBaseUnknown,
         kNoQuantity,
         kEntryMalformed,
-        kKeyRepeated,
+
         kSettingUnknown,
         kSettingIsNoNumber,
         kSettingUnused,

@@ -75,6 +75,7 @@ inline constexpr FindingCode kColumnNotShown = { "MB812", kError, "No printed se
 inline constexpr FindingCode kSectionNotEvaluated = { "MB813", kNote,
                                                       "A section stands behind the header and footer of its level." };
 inline constexpr FindingCode kChildrenNotEvaluated = { "MB814", kNote, "A footer has sections below it." };
+inline constexpr FindingCode kNestedTooDeep = { "MB815", kError, "Values stand within each other too deep." };
 
 // Options, settings, units, and files as such.
 inline constexpr FindingCode kFileUnreadable = { "MB901", kError, "A file cannot be read." };
@@ -92,11 +93,11 @@ inline constexpr FindingCode kBaseUnknown = { "MB912", kError,
                                               "The units to start from are neither metric nor "
                                               "imperial." };
 inline constexpr FindingCode kNoQuantity = { "MB913", kError, "A word is no quantity, or one of another kind." };
-inline constexpr FindingCode kEntryMalformed = { "MB914", kError, "A line of an INI file is no key with its value." };
-inline constexpr FindingCode kKeyRepeated = { "MB915", kError, "An INI file has a key twice." };
-inline constexpr FindingCode kSettingUnknown = { "MB916", kError, "A word names no setting." };
-inline constexpr FindingCode kSettingIsNoNumber = { "MB917", kError, "The value of a setting is no whole number." };
-inline constexpr FindingCode kSettingUnused = { "MB918", kNote, "A settings file sets what lists do not use." };
+inline constexpr FindingCode kEntryMalformed = { "MB914", kError,
+                                                 "A line of an INI file is no entry, or one that was there before." };
+inline constexpr FindingCode kSettingUnknown = { "MB915", kError, "A word names no setting." };
+inline constexpr FindingCode kSettingIsNoNumber = { "MB916", kError, "The value of a setting is no whole number." };
+inline constexpr FindingCode kSettingUnused = { "MB917", kNote, "A settings file sets what lists do not use." };
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();

@@ -9,10 +9,11 @@
 
 namespace mekbom
 {
-Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units)
+Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units, const DisplaySettings& settings)
     : m_units(units), m_template(std::move(reportTemplate)), m_texts(m_template)
 {
     engineTemplate().setUnitsForTokens(&m_units);
+    settings.applyTo(*engineTemplate().getBomTemplateUnits());
     engineTemplate().findUsedTokens();
 }
 

@@ -9,6 +9,7 @@
 // when the report is made, so that rows can be read with no more than the data it needs.
 #pragma once
 
+#include "DisplaySettings.h"
 #include "ReportTemplate.h"
 #include "SectionTexts.h"
 #include "TextSink.h"
@@ -22,7 +23,8 @@ namespace mekbom
 class Report
 {
 public:
-    Report(ReportTemplate reportTemplate, const VorUnitsManager& units);
+    Report(ReportTemplate reportTemplate, const VorUnitsManager& units,
+           const DisplaySettings& settings = DisplaySettings());
 
     // The template whose data the rows go to.
     VorBomTemplate& engineTemplate() { return *m_template.pTemplate; }

@@ -1,5 +1,6 @@
 #include "JsonChecker.h"
 
+#include "FindingCodes.h"
 #include "MessageText.h"
 
 #include <algorithm>
@@ -9,6 +10,7 @@ namespace mekbom
 {
 namespace
 {
+// What a message says was expected.
 const char* kindName(JsonNode::eKind kind)
 {
     switch (kind)
@@ -22,6 +24,7 @@ const char* kindName(JsonNode::eKind kind)
         default: return "null";
     }
 }
+
 // "a", "b" or "c"
 std::string alternatives(const std::vector<std::string>& names)
 {
@@ -33,62 +36,69 @@ std::string alternatives(const std::vector<std::string>& names)
     }
     return text;
 }
+
+// The member, reached as the object is and by its key.
+JsonItem memberOf(const JsonItem& object, const std::string& key, const JsonNode& node)
+{
+    return { node, object.path + "/" + key };
+}
 }
 
 bool JsonChecker::has(const JsonItem& object, const std::string& key)
 {
     if (object.node.find(key) != nullptr)
         return true;
-    add(object.node.place, object.path, "found no key " + inQuotes(key) + ", expected one");
+    add(object, Finding::of(FindingCodes::kKeyMissing, "no key " + inQuotes(key), "one"));
     return false;
 }
 
 std::string JsonChecker::textOf(const JsonItem& object, const std::string& key)
 {
     const JsonNode* const pNode = object.node.find(key);
-    return pNode != nullptr && isOfKind({ *pNode, object.path + "/" + key }, JsonNode::kText) ? pNode->text
-                                                                                              : std::string();
+    const bool isText = pNode != nullptr && isOfKind(memberOf(object, key, *pNode), JsonNode::kText);
+    return isText ? pNode->text : std::string();
 }
 
 std::string JsonChecker::requiredTextOf(const JsonItem& object, const std::string& key)
 {
     if (!has(object, key))
         return std::string();
-    const JsonNode* const pNode = object.node.find(key);
-    if (pNode->kind == JsonNode::kText && pNode->text.empty())
-        add(pNode->place, object.path + "/" + key, "found an empty text, expected another");
+    const JsonNode& node = *object.node.find(key);
+    if (node.kind == JsonNode::kText && node.text.empty())
+        add(memberOf(object, key, node), Finding::of(FindingCodes::kTextIsEmpty, "an empty text", "another"));
     return textOf(object, key);
 }
 
 int JsonChecker::integerOf(const JsonItem& object, const std::string& key, int least, int most, int fallback)
 {
     const JsonNode* const pNode = object.node.find(key);
-    if (pNode == nullptr || !isOfKind({ *pNode, object.path + "/" + key }, JsonNode::kInteger))
+    if (pNode == nullptr || !isOfKind(memberOf(object, key, *pNode), JsonNode::kInteger))
         return fallback;
     if (pNode->number >= least && pNode->number <= most)
         return static_cast<int>(pNode->number);
-    add(pNode->place, object.path + "/" + key,
-        "found " + pNode->description() + ", expected one from " + std::to_string(least) + " to " +
-            std::to_string(most));
+    add(memberOf(object, key, *pNode),
+        Finding::of(FindingCodes::kNumberOutOfRange, pNode->description(),
+                    "one from " + std::to_string(least) + " to " + std::to_string(most)));
     return fallback;
 }
 
 bool JsonChecker::booleanOf(const JsonItem& object, const std::string& key, bool fallback)
 {
     const JsonNode* const pNode = object.node.find(key);
-    return pNode != nullptr && isOfKind({ *pNode, object.path + "/" + key }, JsonNode::kBoolean) ? pNode->boolean
-                                                                                                 : fallback;
+    const bool isBoolean = pNode != nullptr && isOfKind(memberOf(object, key, *pNode), JsonNode::kBoolean);
+    return isBoolean ? pNode->boolean : fallback;
 }
 
 int JsonChecker::choiceOf(const JsonItem& object, const std::string& key, const std::vector<std::string>& names)
 {
     const JsonNode* const pNode = object.node.find(key);
-    if (pNode == nullptr || !isOfKind({ *pNode, object.path + "/" + key }, JsonNode::kText))
+    if (pNode == nullptr || !isOfKind(memberOf(object, key, *pNode), JsonNode::kText))
         return -1;
     const auto found = std::find(names.begin(), names.end(), pNode->text);
     if (found != names.end())
         return static_cast<int>(found - names.begin());
-    add(pNode->place, object.path + "/" + key, "found " + inQuotes(pNode->text) + ", expected " + alternatives(names));
+    add(memberOf(object, key, *pNode),
+        Finding::of(FindingCodes::kNameUnknown, inQuotes(pNode->text), alternatives(names)));
     return -1;
 }
 
@@ -96,11 +106,11 @@ std::vector<JsonItem> JsonChecker::elementsOf(const JsonItem& object, const std:
 {
     std::vector<JsonItem> elements;
     const JsonNode* const pNode = object.node.find(key);
-    const std::string path = object.path + "/" + key;
-    if (pNode == nullptr || !isOfKind({ *pNode, path }, JsonNode::kArray))
+    if (pNode == nullptr || !isOfKind(memberOf(object, key, *pNode), JsonNode::kArray))
         return elements;
+    const JsonItem array = memberOf(object, key, *pNode);
     for (std::size_t i = 0; i < pNode->children.size(); ++i)
-        elements.push_back({ pNode->children[i], path + "/" + std::to_string(i) });
+        elements.push_back(memberOf(array, std::to_string(i), pNode->children[i]));
     return elements;
 }
 
@@ -108,7 +118,7 @@ bool JsonChecker::isOfKind(const JsonItem& item, JsonNode::eKind kind)
 {
     if (item.node.kind == kind)
         return true;
-    add(item.node.place, item.path, "found " + item.node.description() + ", expected " + kindName(kind));
+    add(item, Finding::of(FindingCodes::kWrongKindOfValue, item.node.description(), kindName(kind)));
     return false;
 }
 
@@ -118,19 +128,15 @@ bool JsonChecker::isObjectOf(const JsonItem& item, const std::vector<std::string
         return false;
     for (const JsonNode& member : item.node.children)
         if (std::find(keys.begin(), keys.end(), member.key) == keys.end())
-            add(member.keyPlace, item.path,
-                "found unknown key " + inQuotes(member.key) + ", expected " + alternatives(keys));
+            addAt(member.keySpan, item.path,
+                  Finding::of(FindingCodes::kKeyUnknown, "unknown key " + inQuotes(member.key), alternatives(keys)));
     return true;
 }
 
-void JsonChecker::add(const JsonPlace& place, const std::string& path, const std::string& text)
+void JsonChecker::addAt(const TextSpan& span, const std::string& path, const Finding& finding)
 {
-    m_faults.add(message(place, path, text));
-}
-
-std::string JsonChecker::message(const JsonPlace& place, const std::string& path, const std::string& text) const
-{
-    return m_name + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": " +
-           (path.empty() ? "" : path + ": ") + text;
+    Finding placed = finding.in(m_name, span);
+    placed.path = path;
+    m_findings.add(std::move(placed));
 }
 }

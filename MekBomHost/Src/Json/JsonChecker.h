@@ -1,11 +1,14 @@
-// Takes a file's JSON nodes apart and collects what is wrong with them, each with its place and path:
+// Takes a file's JSON nodes apart and collects what is wrong with them, each finding with its place and path:
 //
 //   JsonChecker json("list.json");
-//   json.integerOf(column, "width", 1, 200, 0)   ->  0, and a fault when the width is a text or is 500:
+//   json.integerOf(column, "width", 1, 200, 0)   ->  0, and a finding when the width is a text or is 500:
 //   "list.json:12:34: /columns/0/width: found the number 500, expected one from 1 to 200"
+//   json.throwIfAnyError();
+//
+// Reading goes on after a mistake, with a fallback in place of the value, so that one run shows all of them.
 #pragma once
 
-#include "FaultList.h"
+#include "FindingList.h"
 #include "JsonNode.h"
 
 #include <string>
@@ -24,40 +27,42 @@ struct JsonItem
 class JsonChecker
 {
 public:
-    // `name` is the file's, for messages.
+    // `name` is the file's, for findings.
     explicit JsonChecker(std::string name) : m_name(std::move(name)) {}
 
-    // Whether `object` has such a member. Adds a message when not.
+    // Whether `object` has such a member. Adds a finding when not.
     bool has(const JsonItem& object, const std::string& key);
 
-    // Members of `object`: the fallback, or an empty text, when they are missing or, after a message, of the wrong
-    // kind.
+    // Members of `object`: the fallback, or an empty text, when they are missing or, with a finding, of the wrong kind.
+    // A required text must be there and say something.
     std::string textOf(const JsonItem& object, const std::string& key);
     std::string requiredTextOf(const JsonItem& object, const std::string& key);
     int integerOf(const JsonItem& object, const std::string& key, int least, int most, int fallback);
     bool booleanOf(const JsonItem& object, const std::string& key, bool fallback);
 
-    // Which of `names` the member is; -1 when it is missing or, after a message, none of them.
+    // Which of `names` the member is, from 0; -1 when it is missing or, with a finding, none of them.
     int choiceOf(const JsonItem& object, const std::string& key, const std::vector<std::string>& names);
 
-    // None when the member is missing or, after a message, no array.
+    // The elements of an array; none when the member is missing or, with a finding, no array.
     std::vector<JsonItem> elementsOf(const JsonItem& object, const std::string& key);
 
-    // Whether it is of that kind; of an object with no other keys than these. Adds a message when not, for unknown keys
-    // too, which make the object no less of one.
+    // Whether the item is of that kind; whether it is an object, with no other keys than these. Adds a finding when not,
+    // for unknown keys too, which make the object no less of one.
     bool isOfKind(const JsonItem& item, JsonNode::eKind kind);
     bool isObjectOf(const JsonItem& item, const std::vector<std::string>& keys);
 
-    void add(const JsonPlace& place, const std::string& path, const std::string& text);
+    // Adds a finding about `item`, or about the part of it that stands at `span`. Fills in its place and path.
+    void add(const JsonItem& item, const Finding& finding) { addAt(item.node.span, item.path, finding); }
+    void addAt(const TextSpan& span, const std::string& path, const Finding& finding);
 
-    // "list.json:12:34: /columns/0/width: <text>"
-    std::string message(const JsonPlace& place, const std::string& path, const std::string& text) const;
+    // In the order in which they were added.
+    const std::vector<Finding>& findings() const { return m_findings.all(); }
 
-    // Throws a Fault of status kInvalidInput with all messages, if there are any.
-    void throwIfAny() const { m_faults.throwIfAny(); }
+    // Throws a Fault of status kInvalidInput with all findings, if there is an error among them.
+    void throwIfAnyError() const { m_findings.throwIfAnyError(); }
 
 private:
     std::string m_name;
-    FaultList m_faults;
+    FindingList m_findings;
 };
 }

@@ -11,6 +11,7 @@ namespace
 {
 const int kLongestNumber = 400; // the digits of any double, written out
 
+// As the file has it, as far as the double tells: a whole number in full, others as short as they can be.
 std::string textOf(double number, bool isWhole)
 {
     char text[kLongestNumber];

@@ -3,15 +3,19 @@
 // the token before it that is no blank, comment or punctuation:
 //
 //   { "title": /* shown on top */ "Cutting list" }
-//            ^ end of the key      ^ start of the value
+//            ^ end of the key     ^ begin        ^ end of the value
+//
+// A number ends where a character is none of its own: the parser has taken that character too, unless the text ended.
 #include "JsonReader.h"
 
 #include "Fault.h"
+#include "FindingCodes.h"
 #include "MessageText.h"
 #include "Utf8.h"
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <cstdint>
 #include <iterator>
 #include <unordered_set>
@@ -108,16 +112,17 @@ public:
     bool key(std::string& value) override
     {
         m_key = std::move(value);
-        m_keyPlace = takePlace();
+        m_keySpan = takeSpan(JsonNode::kText);
         if (!m_open.back().keys.insert(m_key).second)
-            m_reader.fail(m_keyPlace, "found key " + inQuotes(m_key) + " a second time");
+            m_reader.fail(m_keySpan, Finding::of(FindingCodes::kKeyTwice, "key " + inQuotes(m_key) + " a second time"));
         return true;
     }
 
     bool parse_error(std::size_t, const std::string&, const nlohmann::json::exception& error) override
     {
         const std::size_t offset = m_numPassed == 0 ? 0 : m_numPassed - 1;
-        m_reader.fail(m_reader.placeOf(offset), "found no valid JSON: " + reasonOf(error.what()));
+        m_reader.fail(m_reader.spanOf(offset, m_numPassed),
+                      Finding::of(FindingCodes::kNoJson, "no valid JSON: " + reasonOf(error.what())));
     }
 
 private:
@@ -128,21 +133,22 @@ private:
         std::unordered_set<std::string> keys;
     };
 
-    // The place of the token that ends here.
-    JsonPlace takePlace()
+    // Where the token stands that the parser has just taken.
+    TextSpan takeSpan(JsonNode::eKind kind)
     {
-        const JsonPlace place = m_reader.placeOf(m_reader.findToken(m_endOfLast));
-        m_endOfLast = m_numPassed;
-        return place;
+        const bool isNumber = kind == JsonNode::kInteger || kind == JsonNode::kNumber;
+        const std::size_t begin = m_reader.findToken(m_endOfLast);
+        m_endOfLast = isNumber ? m_reader.endOfNumber(begin) : m_numPassed;
+        return m_reader.spanOf(begin, m_endOfLast);
     }
 
     bool addValue(JsonNode::eKind kind)
     {
         JsonNode node;
         node.kind = kind;
-        node.place = takePlace();
+        node.span = takeSpan(kind);
         node.key = std::move(m_key);
-        node.keyPlace = m_keyPlace;
+        node.keySpan = m_keySpan;
         m_key.clear();
         if (m_open.empty())
         {
@@ -160,7 +166,6 @@ private:
     {
         addValue(kind);
         m_pLast->number = value;
-        --m_endOfLast; // the character after the number has been taken, too
         return true;
     }
 
@@ -169,14 +174,16 @@ private:
         addValue(kind);
         m_open.push_back({ m_pLast, {} });
         if (m_open.size() > static_cast<std::size_t>(kDeepest))
-            m_reader.fail(m_pLast->place, "found more than " + std::to_string(kDeepest) + " levels of nesting");
+            m_reader.fail(m_pLast->span, Finding::of(FindingCodes::kNestedTooDeep,
+                                                     "more than " + std::to_string(kDeepest) + " levels of nesting"));
         return true;
     }
 
     bool close()
     {
-        m_open.pop_back();
         m_endOfLast = m_numPassed;
+        m_open.back().pNode->span.end = m_reader.m_places.placeOf(m_endOfLast);
+        m_open.pop_back();
         return true;
     }
 
@@ -187,14 +194,12 @@ private:
     std::vector<Open> m_open;
     JsonNode* m_pLast = nullptr;
     std::string m_key;
-    JsonPlace m_keyPlace;
+    TextSpan m_keySpan;
 };
 
 JsonNode JsonReader::read()
 {
-    const std::size_t invalid = Utf8::findInvalid(m_text);
-    if (invalid < m_text.size())
-        fail(placeOf(invalid), "found a byte that is not UTF-8, expected text in UTF-8");
+    requireUtf8();
     std::size_t numPassed = 0;
     Handler handler(*this, numPassed);
     const char* const pEnd = m_text.data() + m_text.size();
@@ -203,23 +208,13 @@ JsonNode JsonReader::read()
     return std::move(handler.root());
 }
 
-// Counts on from the last place asked for; asked for in the order of the text, all places cost one pass.
-JsonPlace JsonReader::placeOf(std::size_t offset)
+// The parser would find such a byte too, but only within texts, and would say so in words of its own.
+void JsonReader::requireUtf8()
 {
-    if (offset < m_countedOffset)
-    {
-        m_countedOffset = 0;
-        m_countedPlace = { 1, 1 };
-    }
-    for (; m_countedOffset < offset && m_countedOffset < m_text.size(); ++m_countedOffset)
-    {
-        const char character = m_text[m_countedOffset];
-        if (character == '\n')
-            m_countedPlace = { m_countedPlace.line + 1, 1 };
-        else if ((static_cast<unsigned char>(character) & 0xC0) != 0x80)
-            ++m_countedPlace.column;
-    }
-    return m_countedPlace;
+    const std::size_t invalid = Utf8::findInvalid(m_text);
+    if (invalid < m_text.size())
+        fail(spanOf(invalid, invalid + 1),
+             Finding::of(FindingCodes::kTextIsNotUtf8, "a byte that is not UTF-8", "text in UTF-8"));
 }
 
 std::size_t JsonReader::findToken(std::size_t offset) const
@@ -244,9 +239,20 @@ std::size_t JsonReader::skipComment(std::size_t offset) const
     return end == std::string_view::npos ? m_text.size() : end + (isLine ? 1 : 2);
 }
 
-void JsonReader::fail(const JsonPlace& place, const std::string& message) const
+// number := what is made of these characters alone; the parser has checked the order
+std::size_t JsonReader::endOfNumber(std::size_t offset) const
 {
-    throw Fault(kInvalidInput,
-                m_name + ":" + std::to_string(place.line) + ":" + std::to_string(place.column) + ": " + message);
+    return std::min(m_text.find_first_not_of("+-.0123456789eE", offset), m_text.size());
+}
+
+TextSpan JsonReader::spanOf(std::size_t begin, std::size_t end)
+{
+    const TextPlace first = m_places.placeOf(begin);
+    return { first, m_places.placeOf(end) };
+}
+
+void JsonReader::fail(const TextSpan& span, const Finding& finding) const
+{
+    throw Fault(kInvalidInput, finding.in(m_name, span));
 }
 }

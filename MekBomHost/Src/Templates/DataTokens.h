@@ -12,6 +12,7 @@
 
 namespace mekbom::DataTokens
 {
-// Sorted as the template's token trace is, each name once. In UTF-8.
+// Sorted as the template's token trace is, each name once. In UTF-8. The template finds its used tokens for that, unless
+// it has done so.
 std::vector<std::string> of(VorBomTemplate& reportTemplate);
 }

@@ -4,6 +4,8 @@
 
 #include "VorBomDataToken.h"
 
+#include "MekRoots/Exp/VorCharacters.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -11,16 +13,12 @@ namespace mekbom
 {
 namespace
 {
-std::string_view trimmed(std::string_view text)
-{
-    text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-    return text.substr(0, text.find_last_not_of(' ') + 1);
-}
+const std::string_view kBlank = " ";
 
 // condition := [ '!' ] token
 bool parseCondition(std::string_view text, QueryFilter::Condition& condition)
 {
-    text = trimmed(text);
+    text = VorCharacters::trimmed(text, kBlank);
     condition.mustBeThere = text.empty() || text.front() != '!';
     if (!condition.mustBeThere)
         text.remove_prefix(1);
@@ -37,10 +35,11 @@ void destroy(VorBomItemBase* pRow)
 }
 
 // filter := [ condition { ',' condition } ]
+// A text of nothing but blanks is the filter without conditions, but "%Weight," is none: a comma is followed by one.
 int QueryFilter::parse(std::string_view text, QueryFilter& filter)
 {
     QueryFilter parsed;
-    if (trimmed(text).empty())
+    if (VorCharacters::trimmed(text, kBlank).empty())
     {
         filter = parsed;
         return 1;
@@ -65,6 +64,8 @@ bool QueryFilter::names(const VorString& token) const
                        [&token](const Condition& condition) { return condition.token == token; });
 }
 
+// Takes the rows off and puts those back that stay, so that no row has to know the one before it. A row goes with what is
+// below it: empty() frees that, without recursion over siblings.
 void QueryFilter::apply(VorBomData& data) const
 {
     if (m_conditions.empty())

@@ -1,6 +1,15 @@
 // A template as its file gives it: the engine's sections, and what the program alone knows about printing them.
+//
+//   ReportTemplate list = TemplateReader::read(file.name, file.text);
+//   const VorBomItemBase& section = *list.pTemplate->child();
+//   for (const int tuple : list.shownTuplesOf(section))
+//       show(list.columnTokenOf(section, tuple));
+//
+// Owns the engine's template; may be moved, not copied. Sections are told apart by their address, so styles are good as
+// long as the sections that the file gave stay where they are.
 #pragma once
 
+#include "Finding.h"
 #include "QueryFilter.h"
 
 #include "VorBomTemplate.h"
@@ -45,7 +54,7 @@ struct ReportTemplate
     std::vector<ColumnStyle> columns; // in the order of the table; columns not named here follow
     std::unordered_map<const VorBomItemBase*, SectionStyle> sectionStyles;
 
-    std::vector<std::string> notes; // what the file says to no effect; for the user to read
+    std::vector<Finding> findings; // what the file says to no effect; none of them is an error
 
     // The style of a section of pTemplate; the usual one for a section without.
     const SectionStyle& styleOf(const VorBomItemBase* pSection) const;

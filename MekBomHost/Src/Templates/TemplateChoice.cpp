@@ -2,55 +2,61 @@
 
 #include "DataTokens.h"
 #include "Fault.h"
-#include "FileSource.h"
-#include "ShippedFiles.h"
+#include "FindingCodes.h"
 #include "TemplateReader.h"
 
 #include <algorithm>
 #include <cstddef>
-#include <vector>
 
 namespace mekbom::TemplateChoice
 {
 namespace
 {
-struct Candidate
+// How much of its data a template finds.
+struct Cover
 {
-    std::string path;
     std::size_t numCovered = 0;
     std::size_t numTokens = 1;
 
-    bool suitsBetterThan(const Candidate& other) const
-    {
-        return numCovered * other.numTokens > other.numCovered * numTokens;
-    }
+    bool isGreaterThan(const Cover& other) const { return numCovered * other.numTokens > other.numCovered * numTokens; }
+    bool isHalf() const { return 2 * numCovered >= numTokens; }
 };
 
-Candidate assess(const std::string& path, const std::function<bool(const std::string&)>& hasColumn)
+Cover coverOf(const NamedText& file, const std::function<bool(const std::string&)>& hasColumn)
 {
-    FileSource file(path);
-    const ReportTemplate reportTemplate = TemplateReader::read(path, file.readAll());
+    const ReportTemplate reportTemplate = TemplateReader::read(file.name, file.text);
     const std::vector<std::string> tokens = DataTokens::of(*reportTemplate.pTemplate);
-    Candidate candidate;
-    candidate.path = path;
-    candidate.numCovered = static_cast<std::size_t>(std::count_if(tokens.begin(), tokens.end(), hasColumn));
-    candidate.numTokens = std::max<std::size_t>(tokens.size(), 1);
-    return candidate;
+    Cover cover;
+    cover.numCovered = static_cast<std::size_t>(std::count_if(tokens.begin(), tokens.end(), hasColumn));
+    cover.numTokens = std::max<std::size_t>(tokens.size(), 1);
+    return cover;
+}
+
+Finding noneSuits(const std::string& dataName)
+{
+    Finding finding = Finding::of(FindingCodes::kNoSuitableTemplate, "columns that suit no shipped template",
+                                  "columns such as %Name, %Material, %Quantity, %Length and %Weight, or option "
+                                  "--template");
+    finding.source = dataName;
+    return finding;
 }
 }
 
-std::string choose(const std::string& dataName, const std::function<bool(const std::string&)>& hasColumn)
+const NamedText& choose(const std::string& dataName, const std::vector<NamedText>& candidates,
+                        const std::function<bool(const std::string&)>& hasColumn)
 {
-    Candidate best;
-    for (const std::string& file : ShippedFiles::templates())
+    const NamedText* pBest = nullptr;
+    Cover best;
+    for (const NamedText& candidate : candidates)
     {
-        const Candidate candidate = assess(ShippedFiles::find(file), hasColumn);
-        if (candidate.suitsBetterThan(best))
-            best = candidate;
+        const Cover cover = coverOf(candidate, hasColumn);
+        if (!cover.isGreaterThan(best))
+            continue;
+        pBest = &candidate;
+        best = cover;
     }
-    if (2 * best.numCovered < best.numTokens)
-        throw Fault(kInvalidInput, dataName + ": found columns that suit no shipped template, expected columns such as "
-                                              "%Name, %Material, %Quantity, %Length and %Weight, or option --template");
-    return best.path;
+    if (pBest == nullptr || !best.isHalf())
+        throw Fault(kInvalidInput, noneSuits(dataName));
+    return *pBest;
 }
 }

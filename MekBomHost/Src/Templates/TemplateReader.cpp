@@ -1,5 +1,10 @@
+// Reading goes on after a mistake, so that one run tells all: a column whose width is 500 stands without a width, a
+// section whose type is misspelled is one of unknown type, and the template is thrown away with the Fault at the end.
+// What merely follows from another mistake would be noise, so columns are looked for in the sections last, and only when
+// all else is right: the section that shows a column may be the one that could not be read.
 #include "TemplateReader.h"
 
+#include "FindingCodes.h"
 #include "JsonReader.h"
 #include "MessageText.h"
 #include "Utf8.h"
@@ -87,11 +92,12 @@ ReportTemplate TemplateReader::build(const JsonNode& root)
         readColumns(item);
         readSections(item, "sections", *m_template.pTemplate);
         if (m_template.pTemplate->child() == nullptr)
-            m_json.add(root.place, item.path, "found no section, expected at least one in \"sections\"");
+            m_json.add(item, Finding::of(FindingCodes::kNoSection, "no section", "at least one in \"sections\""));
     }
-    m_json.throwIfAny();
+    m_json.throwIfAnyError();
     checkColumns(item);
-    m_json.throwIfAny();
+    m_json.throwIfAnyError();
+    m_template.findings = m_json.findings();
     return std::move(m_template);
 }
 
@@ -100,8 +106,9 @@ void TemplateReader::readQueryFilter(const JsonItem& root)
     const std::string filter = m_json.textOf(root, "queryFilter");
     m_template.pTemplate->setQueryFilter(Utf8::toWide(filter));
     if (QueryFilter::parse(filter, m_template.queryFilter) == 0)
-        m_json.add(root.node.find("queryFilter")->place, "/queryFilter",
-                   "found " + inQuotes(filter) + ", expected tokens such as \"%Weight, !%BoltName\"");
+        m_json.add(
+            { *root.node.find("queryFilter"), "/queryFilter" },
+            Finding::of(FindingCodes::kNoQueryFilter, inQuotes(filter), "tokens such as \"%Weight, !%BoltName\""));
 }
 
 void TemplateReader::readTokenUnits(const JsonItem& root)
@@ -134,7 +141,8 @@ void TemplateReader::readColumn(const JsonItem& column)
     readChoice(m_json, column, "align", kAlignments, style.alignment);
     for (const ColumnStyle& other : m_template.columns)
         if (other.token == style.token)
-            m_json.add(column.node.place, column.path, "found column " + inQuotes(token) + " a second time");
+            m_json.add(column, Finding::of(FindingCodes::kColumnDescribedTwice,
+                                           "column " + inQuotes(token) + " a second time"));
     m_template.columns.push_back(style);
 }
 
@@ -151,13 +159,15 @@ void TemplateReader::readSections(const JsonItem& parent, const std::string& key
 void TemplateReader::noteUnused(const std::vector<JsonItem>& siblings)
 {
     for (std::size_t i = kNumUsedSiblings; i < siblings.size(); ++i)
-        m_template.notes.push_back(
-            m_json.message(siblings[i].node.place, siblings[i].path,
-                           "is not evaluated: the first two sections of a level are its header and footer"));
-    if (siblings.size() >= kNumUsedSiblings && siblings[1].node.find("children") != nullptr)
-        m_template.notes.push_back(m_json.message(siblings[1].node.find("children")->place,
-                                                  siblings[1].path + "/children",
-                                                  "are not evaluated: the section is a footer"));
+        m_json.add(siblings[i],
+                   Finding::stating(FindingCodes::kSectionNotEvaluated,
+                                    "is not evaluated: the first two sections of a level are its header and footer"));
+    if (siblings.size() < kNumUsedSiblings)
+        return;
+    const JsonItem& footer = siblings[1];
+    if (const JsonNode* const pChildren = footer.node.find("children"))
+        m_json.add({ *pChildren, footer.path + "/children" },
+                   Finding::stating(FindingCodes::kChildrenNotEvaluated, "are not evaluated: the section is a footer"));
 }
 
 void TemplateReader::readSection(const JsonItem& section, VorBomItemBase& parentItem)
@@ -190,8 +200,8 @@ void TemplateReader::readTuple(const JsonItem& tuple, VorBomItemBase& sectionIte
         case JsonNode::kNumber: sectionItem.addData(VorBomDataTuple(token, pValue->number)); break;
         case JsonNode::kText: sectionItem.addData(VorBomDataTuple(token, Utf8::toWide(pValue->text))); break;
         default:
-            m_json.add(pValue->place, tuple.path + "/value",
-                       "found " + pValue->description() + ", expected a number, a text or null");
+            m_json.add({ *pValue, tuple.path + "/value" },
+                       Finding::of(FindingCodes::kWrongKindOfValue, pValue->description(), "a number, a text or null"));
             break;
     }
 }
@@ -202,9 +212,9 @@ void TemplateReader::checkColumns(const JsonItem& root)
     const std::vector<JsonItem> columns = m_json.elementsOf(root, "columns");
     for (std::size_t i = 0; i < columns.size() && i < m_template.columns.size(); ++i)
         if (!isShown(m_template.columns[i].token))
-            m_json.add(columns[i].node.place, columns[i].path,
-                       "found column " + inQuotes(Utf8::toBytes(m_template.columns[i].token)) +
-                           ", which no printed section shows");
+            m_json.add(columns[i], Finding::of(FindingCodes::kColumnNotShown,
+                                               "column " + inQuotes(Utf8::toBytes(m_template.columns[i].token)) +
+                                                   ", which no printed section shows"));
 }
 
 bool TemplateReader::isShown(const VorString& columnToken) const

@@ -1,9 +1,10 @@
 // Reads a template file: JSON with comments, described by MekBomHost/Schema/mekbom-template.schema.json.
 //
-//   ReportTemplate list = TemplateReader::read("list.json", text);
+//   ReportTemplate list = TemplateReader::read("list.json", "{ \"sections\": [ { \"type\": \"kDetails\" } ] }");
+//   list.pTemplate->child()->type()   ->  VorBomTemplateItem::kDetails
 //
-// Throws a Fault of status kInvalidInput with a message for every mistake: "list.json:12:15:
-// /sections/0/tuples/1/token: found the number 5, expected a text". Unknown keys are mistakes.
+// Every mistake is a finding of its own, and unknown keys are mistakes. What is no mistake but has no effect, such as a
+// third section in a level, is a note.
 #pragma once
 
 #include "JsonChecker.h"
@@ -19,7 +20,9 @@ namespace mekbom
 class TemplateReader
 {
 public:
-    // `name` is the file's, for messages.
+    // The template, with the notes among its findings. `name` is the file's, for findings. Throws a Fault of status
+    // kInvalidInput with a finding for each mistake:
+    //   "list.json:12:15: /sections/0/tuples/1/token: found the number 5, expected a text"
     static ReportTemplate read(const std::string& name, std::string_view text);
 
 private:

@@ -6,6 +6,7 @@ namespace mekbom
 {
 namespace
 {
+// C0 and C1: what a terminal may take as a command.
 bool isControl(int codePoint)
 {
     return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);

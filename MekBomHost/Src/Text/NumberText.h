@@ -5,7 +5,10 @@
 
 namespace mekbom
 {
-// The shortest text that identifies the number, without an exponent from a hundred-thousandth to below 1e15.
-//   numberText(1e6)  ->  "1000000"
+// The shortest text that identifies the number, without an exponent from a hundred-thousandth to below 1e15. The same in
+// every locale.
+//   numberText(1e6)    ->  "1000000"
+//   numberText(0.1)    ->  "0.1"
+//   numberText(1e-6)   ->  "1e-06"
 std::string numberText(double number);
 }

@@ -17,6 +17,13 @@ struct TextPlace
     int column = 0; // likewise: then the line as a whole is meant
 };
 
+// From the first character of something to the one behind its last.
+struct TextSpan
+{
+    TextPlace begin;
+    TextPlace end;
+};
+
 // Finds the places of bytes of one text. Asked for in the order of the text, all places together cost one pass over it.
 class PlaceCounter
 {

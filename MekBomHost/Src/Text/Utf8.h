@@ -1,5 +1,10 @@
 // UTF-8 bytes, as files hold them, to the wide text of the libraries and back; and how wide a text stands on a
 // terminal. Independent of the locale and of the width of wchar_t.
+//
+//   Utf8::toWide("Tr\xC3\xA4ger")           ->  L"Tr\u00E4ger"
+//   Utf8::findInvalid("Tr\xE4ger")          ->  2
+//   Utf8::countCharacters("Tr\xC3\xA4ger")  ->  6
+//   Utf8::displayWidth("\xE6\xA2\x81")      ->  2: a wide character
 #pragma once
 
 #include "MekRoots/Exp/VorString.h"
@@ -19,17 +24,18 @@ std::size_t countCharacters(std::string_view bytes);
 // Without the mark that some programs put in front of a file: "\xEF\xBB\xBFName" -> "Name".
 std::string_view withoutByteOrderMark(std::string_view bytes);
 
-// Anything invalid becomes U+FFFD, in both directions.
+// Anything invalid becomes U+FFFD, in both directions: each byte that belongs to no sequence, each lone surrogate.
 VorString toWide(std::string_view bytes);
 std::string toBytes(const VorString& text);
 void append(std::string& bytes, const VorString& text);
 
-// Columns that one code point takes on a terminal: 0 for combining marks, 2 for wide East Asian characters, else 1.
+// Columns that a code point, or a text, takes on a terminal: 0 for combining marks, 2 for wide East Asian characters,
+// else 1.
 int displayWidth(int codePoint);
 int displayWidth(std::string_view bytes);
 
 // Reads the code point at the start of `bytes`, which is not empty, and removes it; U+FFFD, one byte removed, where
 // none is.
 int takeCodePoint(std::string_view& bytes);
-void appendCodePoint(std::string& bytes, int codePoint);
+void appendCodePoint(std::string& bytes, int codePoint); // a valid one
 }

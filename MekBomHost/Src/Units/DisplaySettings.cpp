@@ -2,75 +2,112 @@
 
 #include "CellNumber.h"
 #include "Fault.h"
+#include "FindingCodes.h"
+#include "IniFile.h"
 #include "MessageText.h"
-#include "TextFile.h"
-#include "Utf8.h"
-
-#include "KTRepositoryProxy/Src/KTIniReader.h"
-#include "MekRoots/Exp/KTRepositoryProxy.h"
 
 #include <algorithm>
 #include <iterator>
 
-namespace mekbom::DisplaySettings
+namespace mekbom
 {
 namespace
 {
-bool isUsed(const VorString& key)
+struct Setting
 {
-    return std::any_of(std::begin(KTRepositoryProxy::kDisplayKeys), std::end(KTRepositoryProxy::kDisplayKeys),
-                       [&key](const wchar_t* known) { return key == known; });
+    const char* name;
+    int DisplaySettings::*pNumber;
+};
+
+const Setting kSettings[] = {
+    { "C0_BOMSuppressLastZeros", &DisplaySettings::suppressLastZeros },
+    { "C40_SuppressZeroFeet", &DisplaySettings::suppressZeroFeet },
+    { "C40_SuppressZeroInch", &DisplaySettings::suppressZeroInch },
+    { "C40_ShowMinusBetweenFeetAndInch", &DisplaySettings::showMinusBetweenFeetAndInch },
+};
+
+const Setting* findSetting(const std::string& name)
+{
+    const auto pFound = std::find_if(std::begin(kSettings), std::end(kSettings),
+                                     [&name](const Setting& setting) { return name == setting.name; });
+    return pFound == std::end(kSettings) ? nullptr : pFound;
 }
 
 std::string namesOfAll()
 {
     std::string names;
-    for (const wchar_t* const key : KTRepositoryProxy::kDisplayKeys)
-        names += (names.empty() ? "" : ", ") + Utf8::toBytes(key);
+    for (const Setting& setting : kSettings)
+        names += (names.empty() ? "" : ", ") + std::string(setting.name);
     return names;
 }
 
-void loadEnvironment()
+Finding noWholeNumber(const std::string& found)
 {
-    VorString fault;
-    if (KTRepositoryProxy::readEnvironment(fault) == 0)
-        throw Fault(kWrongUsage, "environment: " + Utf8::toBytes(fault));
+    return Finding::of(FindingCodes::kSettingIsNoNumber, found, "a whole number");
 }
 
-std::vector<std::string> loadFile(const std::string& path)
+[[noreturn]] void failUsage(const std::string& source, Finding finding)
 {
-    const VorString text = TextFile::read(path);
-    int line = 0;
-    VorString fault;
-    if (KTRepositoryProxy::readIni(text, line, fault) == 0)
-        throw Fault(kInvalidInput, path + ":" + std::to_string(line) + ": " + Utf8::toBytes(fault));
-    std::vector<std::string> unused;
-    for (KTIniReader reader(text); reader.next() == 1;)
-        if (!isUsed(reader.key()))
-            unused.push_back(Utf8::toBytes(reader.key()));
-    return unused;
+    finding.source = source;
+    throw Fault(kWrongUsage, finding);
 }
 
-void loadSetting(const std::string& key, const std::string& value)
+void readEnvironment(const DisplaySettings::Pairs& environment, DisplaySettings& settings)
 {
-    const VorString wideKey = Utf8::toWide(key);
-    int number = 0;
-    if (!isUsed(wideKey))
-        throw Fault(kWrongUsage, "--setting: found " + inQuotes(key) + ", expected one of " + namesOfAll());
-    if (!CellNumber::parse(value, number))
-        throw Fault(kWrongUsage, "--setting " + key + ": found " + inQuotes(value) + ", expected a whole number");
-    KTRepositoryProxy::setDefault(wideKey, number);
+    for (const auto& [name, value] : environment)
+        if (const Setting* const pSetting = findSetting(name))
+            if (!CellNumber::parse(value, settings.*pSetting->pNumber))
+                failUsage("environment", noWholeNumber(inQuotes(value) + " for " + name));
+}
+
+// The numbers of other programs are checked too, so that a slip in the file shows whatever it is about.
+void readFile(const NamedText& file, DisplaySettings& settings, FindingList& findings)
+{
+    for (IniFile ini(file); ini.next();)
+    {
+        const Setting* const pSetting = findSetting(ini.key());
+        int number = 0;
+        if (!CellNumber::parse(ini.value(), number))
+            ini.fail(noWholeNumber("\"" + ini.value() + "\" for " + ini.key()));
+        if (pSetting != nullptr)
+            settings.*pSetting->pNumber = number;
+        else
+            findings.add(ini.aboutEntry(Finding::saying(FindingCodes::kSettingUnused, file.name + " sets " + ini.key() +
+                                                                                          ", which lists do not use")));
+    }
+}
+
+void readOption(const std::string& name, const std::string& value, DisplaySettings& settings)
+{
+    const Setting* const pSetting = findSetting(name);
+    if (pSetting == nullptr)
+        failUsage("--setting", Finding::of(FindingCodes::kSettingUnknown, inQuotes(name), "one of " + namesOfAll()));
+    if (!CellNumber::parse(value, settings.*pSetting->pNumber))
+        failUsage("--setting " + name, noWholeNumber(inQuotes(value)));
 }
 }
 
-std::vector<std::string> load(const std::string& file, const std::vector<std::pair<std::string, std::string>>& settings)
+std::vector<std::string> DisplaySettings::names()
 {
-    loadEnvironment();
-    std::vector<std::string> unused;
-    if (!file.empty())
-        unused = loadFile(file);
-    for (const auto& [key, value] : settings)
-        loadSetting(key, value);
-    return unused;
+    std::vector<std::string> names;
+    for (const Setting& setting : kSettings)
+        names.emplace_back(setting.name);
+    return names;
+}
+
+DisplaySettings DisplaySettings::read(const Origins& origins, FindingList& findings)
+{
+    DisplaySettings settings;
+    readEnvironment(origins.environment, settings);
+    if (origins.file)
+        readFile(*origins.file, settings, findings);
+    for (const auto& [name, value] : origins.options)
+        readOption(name, value, settings);
+    return settings;
+}
+
+void DisplaySettings::applyTo(VorBomTemplateUnits& units) const
+{
+    units.setDisplaySettings(suppressLastZeros, suppressZeroFeet, suppressZeroInch, showMinusBetweenFeetAndInch);
 }
 }

@@ -12,6 +12,7 @@ namespace
 using Units = VorBomTemplateUnits;
 using Catalogue = VorUnitsTransformArray;
 
+// Every unit that this room hands out is one of the catalogue, so that findUnit() finds it again by its number.
 MEKUnit unitOf(const VorUnitDefinition& definition)
 {
     return MEKUnit(definition.number, definition.number, definition.format);

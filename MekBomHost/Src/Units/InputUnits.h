@@ -1,8 +1,11 @@
 // The units in which a parts list may give its numbers: those of the units catalogue, by their symbols and names.
 //
-//   InputUnits::find("ft", kDistanceUnit)->getVorUnitTransform().toInternalUnits(7.5)   ->  2286 mm
-//   InputUnits::find("ft", kWeightUnit)                                                 ->  nothing
-//   InputUnits::ofModel(kWeightUnit)                                                    ->  kg
+//   const std::optional<MEKUnit> feet = InputUnits::find("ft", VorBomTemplateUnits::kDistanceUnit);
+//   feet->getVorUnitTransform().toInternalUnits(7.5)               ->  2286 mm
+//   InputUnits::find("ft", VorBomTemplateUnits::kWeightUnit)       ->  nothing
+//   InputUnits::ofModel(VorBomTemplateUnits::kWeightUnit)          ->  kg
+//
+// Which unit lists are printed in is another matter: UnitChoice.
 #pragma once
 
 #include "VorBomTemplateUnits.h"

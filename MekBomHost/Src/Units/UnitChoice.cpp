@@ -1,15 +1,13 @@
 #include "UnitChoice.h"
 
 #include "Fault.h"
+#include "FindingCodes.h"
+#include "IniFile.h"
 #include "MessageText.h"
-#include "TextFile.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 
-#include "KTRepositoryProxy/Src/KTIniReader.h"
-
-#include <filesystem>
-#include <system_error>
+#include <optional>
 
 namespace mekbom::UnitChoice
 {
@@ -17,79 +15,78 @@ namespace
 {
 const char* const kBaseKey = "base";
 
-// What is wrong with a choice, for the end of a message; empty when it was taken.
-std::string choose(VorUnitsManager& units, const std::string& kind, const std::string& unit)
+// Each of these takes the choice, or says what is wrong with it.
+std::optional<Finding> choose(VorUnitsManager& units, const std::string& kind, const std::string& unit)
 {
     const UnitKind* const pKind = UnitKinds::find(kind);
     if (pKind == nullptr)
-        return "found " + inQuotes(kind) + ", expected one of " + UnitKinds::names();
+        return Finding::of(FindingCodes::kKindUnknown, inQuotes(kind), "one of " + UnitKinds::names());
     if (units.setUnit(pKind->system, Utf8::toWide(unit)) == 1)
-        return std::string();
-    return "found " + inQuotes(unit) + ", expected " + pKind->expectation +
-           ", and after a slash a precision if need be: lb/1, ft-in/16";
+        return std::nullopt;
+    return Finding::of(FindingCodes::kUnitUnknown, inQuotes(unit),
+                       std::string(pKind->expectation) + ", and after a slash a precision if need be: lb/1, ft-in/16");
 }
 
-std::string chooseBase(VorUnitsManager& units, const std::string& base)
+std::optional<Finding> chooseBase(VorUnitsManager& units, const std::string& base)
 {
-    if (base != kMetric && base != kImperial)
-        return "found " + inQuotes(base) + ", expected metric or imperial";
+    if (!isBase(base))
+        return Finding::of(FindingCodes::kBaseUnknown, inQuotes(base), "metric or imperial");
     units = base == kMetric ? VorUnitsManager::metric() : VorUnitsManager::imperial();
-    return std::string();
-}
-
-void chooseOption(VorUnitsManager& units, const std::string& kind, const std::string& unit)
-{
-    const std::string fault = choose(units, kind, unit);
-    if (!fault.empty())
-        throw Fault(kWrongUsage, "--unit " + kind + "=" + unit + ": " + fault);
-}
-
-// The base counts wherever its line stands.
-VorUnitsManager unitsOfFile(const std::string& path)
-{
-    const VorString text = TextFile::read(path);
-    const auto fail = [&path](int line, const std::string& fault)
-    { throw Fault(kInvalidInput, path + ":" + std::to_string(line) + ": " + fault); };
-    VorUnitsManager units;
-    for (const bool isBaseWanted : { true, false })
-    {
-        KTIniReader reader(text);
-        while (reader.next() == 1)
-        {
-            const std::string key = Utf8::toBytes(reader.key());
-            const std::string value = Utf8::toBytes(reader.value());
-            if ((key == kBaseKey) != isBaseWanted)
-                continue;
-            const std::string fault = isBaseWanted ? chooseBase(units, value) : choose(units, key, value);
-            if (!fault.empty())
-                fail(reader.line(), fault);
-        }
-        if (reader.fault().isEmpty() == 0)
-            fail(reader.line(), Utf8::toBytes(reader.fault()));
-    }
-    return units;
+    return std::nullopt;
 }
 
 VorUnitsManager unitsOfBase(const std::string& base)
 {
     VorUnitsManager units;
-    std::error_code error;
-    if (chooseBase(units, base).empty())
-        return units;
-    if (!std::filesystem::exists(base, error))
-        throw Fault(kWrongUsage, "--units: found " + inQuotes(base) + ", expected metric, imperial or a file of units");
-    return unitsOfFile(base);
+    if (std::optional<Finding> finding = chooseBase(units, base))
+    {
+        finding->source = "--units";
+        finding->expected = "metric, imperial or a file of units";
+        throw Fault(kWrongUsage, *finding);
+    }
+    return units;
+}
+
+// The base counts wherever its line stands.
+VorUnitsManager unitsOfFile(const NamedText& file)
+{
+    VorUnitsManager units;
+    for (const bool isBaseWanted : { true, false })
+        for (IniFile ini(file); ini.next();)
+            if ((ini.key() == kBaseKey) == isBaseWanted)
+                if (const auto finding =
+                        isBaseWanted ? chooseBase(units, ini.value()) : choose(units, ini.key(), ini.value()))
+                    ini.fail(*finding);
+    return units;
+}
+
+VorUnitsManager withChoices(VorUnitsManager units, const Choices& choices)
+{
+    for (const auto& [kind, unit] : choices)
+        if (std::optional<Finding> finding = choose(units, kind, unit))
+        {
+            finding->source = "--unit " + kind + "=" + unit;
+            throw Fault(kWrongUsage, *finding);
+        }
+    return units;
 }
 }
 
 const char* const kMetric = "metric";
 const char* const kImperial = "imperial";
 
-VorUnitsManager unitsOf(const std::string& base, const std::vector<std::pair<std::string, std::string>>& choices)
+bool isBase(const std::string& word)
 {
-    VorUnitsManager units = unitsOfBase(base);
-    for (const auto& [kind, unit] : choices)
-        chooseOption(units, kind, unit);
-    return units;
+    return word == kMetric || word == kImperial;
+}
+
+VorUnitsManager unitsOf(const std::string& base, const Choices& choices)
+{
+    return withChoices(unitsOfBase(base), choices);
+}
+
+VorUnitsManager unitsOf(const NamedText& file, const Choices& choices)
+{
+    return withChoices(unitsOfFile(file), choices);
 }
 }

@@ -1,15 +1,18 @@
 // The units that a list is printed in, as the user chooses them.
 //
-//   UnitChoice::unitsOf("imperial", { { "weight", "kg/1" } })      feet and inches, but kilograms to one decimal
-//   UnitChoice::unitsOf("shop.ini", {})                            those of a file:
+//   UnitChoice::unitsOf("imperial", { { "weight", "kg/1" } })    feet and inches, but kilograms to one decimal
+//   UnitChoice::unitsOf(NamedText{ "shop.ini", text }, {})       those of a file, whose text may be:
 //
 //       ; what our shop reads
 //       base = imperial            units of kinds that are not named: metric, without this line, or imperial
 //       length = ft-in/32
 //       area = m2/1
 //
-// Kinds are those of UnitKinds, units and precisions those of VorUnitNotation.
+// Kinds are those of UnitKinds, units and precisions those of VorUnitNotation. The answer is a value: two reports in one
+// process may have different ones.
 #pragma once
+
+#include "NamedText.h"
 
 #include "MekRoots/Exp/VorUnitsManager.h"
 
@@ -19,10 +22,16 @@
 
 namespace mekbom::UnitChoice
 {
-// `base` is kMetric, kImperial or a file's name; `choices` are pairs of kind and unit, the last of a kind holds. Throws
-// a Fault for a word that is none of these and for a file that cannot be read or is malformed.
-VorUnitsManager unitsOf(const std::string& base, const std::vector<std::pair<std::string, std::string>>& choices);
+using Choices = std::vector<std::pair<std::string, std::string>>; // kind and unit: "length", "ft-in/16"
 
 extern const char* const kMetric;
 extern const char* const kImperial;
+
+// Whether `word` names units to start from; if not, it is most likely the name of a file.
+bool isBase(const std::string& word);
+
+// The units of a base, or of a file, with `choices` over them, of which the last of a kind holds. Throws a Fault: of
+// status kWrongUsage for a word that is no base, no kind or no unit, of kInvalidInput for a file that is malformed.
+VorUnitsManager unitsOf(const std::string& base, const Choices& choices);
+VorUnitsManager unitsOf(const NamedText& file, const Choices& choices);
 }

@@ -1,7 +1,10 @@
 // The kinds of quantity that parts lists carry and lists show, by the words that users have for them.
 //
-//   UnitKinds::find("length")->system              ->  VorUnitsTransformArray::kDistance
-//   UnitKinds::find(kWeightUnit)->expectation      ->  "a unit of weight such as kg or lb"
+//   UnitKinds::find("length")->system                                ->  VorUnitsTransformArray::kDistance
+//   UnitKinds::find(VorBomTemplateUnits::kWeightUnit)->expectation   ->  "a unit of weight such as kg or lb"
+//
+// Here the three ways meet in which kinds are told: the words of users, the types that template files and tokens have,
+// and the systems of the units catalogue. Nothing else in the program pairs them.
 #pragma once
 
 #include "VorBomTemplateUnits.h"
@@ -28,7 +31,8 @@ namespace UnitKinds
 // In the order in which they are listed to users.
 const std::vector<UnitKind>& all();
 
-// Null when there is none; kNoUnit and kReservedUnitType have none.
+// The kind of that name or number, which lives as long as the program; null when there is none. Types without a unit,
+// kNoUnit and kReservedUnitType, have none. Names are taken as written, case included.
 const UnitKind* find(std::string_view name);
 const UnitKind* find(VorBomTemplateUnits::eTokenUnitType type);
 const UnitKind* find(VorUnitsTransformArray::eSystems system);

@@ -52,6 +52,7 @@ Row rowOf(const VorUnitDefinition& unit)
              Utf8::toBytes(unit.names) };
 }
 
+// The headings, then kind by kind in the order of UnitKinds, each in the order of the catalogue.
 std::vector<Row> rows()
 {
     std::vector<Row> rows = { { "Kind", "Symbol", "--unit", "One is", "Source", "Names" } };

@@ -1,9 +1,13 @@
 // The catalogue of units as a table for users: kind, symbol, how it is asked for, what it is, source and names.
+//
+//   UnitTable::text()   ->   Kind    Symbol  --unit  One is  Source            Names
+//                            length  mm      mm/1    1 mm    SI (NIST SP 811)  millimetre, millimetres
 #pragma once
 
 #include <string>
 
 namespace mekbom::UnitTable
 {
+// In UTF-8, aligned for a terminal, with a line end behind each line and an explanation below the table.
 std::string text();
 }

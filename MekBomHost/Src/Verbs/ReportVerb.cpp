@@ -3,9 +3,8 @@
 #include "ColumnName.h"
 #include "CsvReader.h"
 #include "DataTokens.h"
-#include "DisplaySettings.h"
 #include "Fault.h"
-#include "FindingList.h"
+#include "FindingCodes.h"
 #include "OutputFile.h"
 #include "ShippedFiles.h"
 #include "StandardOutput.h"
@@ -17,9 +16,11 @@
 
 #include <CLI/CLI.hpp>
 
+#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 namespace mekbom
 {
@@ -32,6 +33,11 @@ const char* const kDefaultTemplate = "default";
 void addFile(CLI::App& command, const std::string& name, std::string& file, const std::string& help)
 {
     command.add_option(name, file, help)->type_name("FILE");
+}
+
+NamedText contentOf(const std::string& path)
+{
+    return { path, FileSource(path).readAll() };
 }
 }
 
@@ -104,21 +110,16 @@ ExitStatus ReportVerb::run(FindingList& findings)
     checkOutput();
     openParts();
     ReportTemplate reportTemplate = readTemplate();
-    m_notes = reportTemplate.notes;
-    loadSettings();
-    m_pReport =
-        std::make_unique<Report>(std::move(reportTemplate), UnitChoice::unitsOf(m_units, m_unitChoices.pairs()));
+    for (const Finding& finding : reportTemplate.findings)
+        m_notes.add(finding);
+    const DisplaySettings settings = readSettings();
+    m_pReport = std::make_unique<Report>(std::move(reportTemplate), chooseUnits(), settings);
     readData(*m_pReport);
     m_pReport->evaluate();
     noteMergedRows(*m_pReport);
     write(*m_pReport);
-    for (const std::string& note : m_notes)
-    {
-        Finding finding;
-        finding.severity = Finding::kNote;
-        finding.statement = note;
-        findings.add(finding);
-    }
+    for (const Finding& note : m_notes.all())
+        findings.add(note);
     return kDone;
 }
 
@@ -159,31 +160,47 @@ ReportTemplate ReportVerb::readTemplate() const
 {
     const bool isDefault = m_templateName == kDefaultTemplate;
     if (!isDefault && (!isSample() || !m_templateName.empty()))
-        return readTemplateFile(templatePath());
+        return readTemplateFile();
     ReportTemplate reportTemplate;
     reportTemplate.pTemplate.reset(VorBomTemplate::createDefaultTemplate());
     return reportTemplate;
 }
 
-ReportTemplate ReportVerb::readTemplateFile(const std::string& path) const
+ReportTemplate ReportVerb::readTemplateFile() const
 {
-    FileSource file(path);
-    return TemplateReader::read(path, file.readAll());
+    const NamedText file = m_templateName.empty() ? chooseTemplate() : contentOf(m_templateName);
+    return TemplateReader::read(file.name, file.text);
 }
 
-std::string ReportVerb::templatePath() const
+NamedText ReportVerb::chooseTemplate() const
 {
-    if (!m_templateName.empty())
-        return m_templateName;
+    std::vector<NamedText> candidates;
+    for (const std::string& file : ShippedFiles::templates())
+        candidates.push_back(contentOf(ShippedFiles::find(file)));
     const PartsList& parts = *m_pParts;
-    return TemplateChoice::choose(m_pFile->name(),
+    return TemplateChoice::choose(m_pFile->name(), candidates,
                                   [&parts](const std::string& token) { return parts.find(token) != nullptr; });
 }
 
-void ReportVerb::loadSettings()
+DisplaySettings ReportVerb::readSettings()
 {
-    for (const std::string& name : DisplaySettings::load(m_settingsFile, m_settings.pairs()))
-        m_notes.push_back(m_settingsFile + " sets " + name + ", which lists do not use");
+    DisplaySettings::Origins origins;
+    for (const std::string& name : DisplaySettings::names())
+        if (const char* const pValue = std::getenv(name.c_str())) // NOLINT(concurrency-mt-unsafe): nobody changes it
+            origins.environment.emplace_back(name, pValue);
+    if (!m_settingsFile.empty())
+        origins.file = contentOf(m_settingsFile);
+    origins.options = m_settings.pairs();
+    return DisplaySettings::read(origins, m_notes);
+}
+
+// A word that is neither a base nor a file is refused as a base.
+VorUnitsManager ReportVerb::chooseUnits() const
+{
+    std::error_code error;
+    if (!UnitChoice::isBase(m_units) && std::filesystem::exists(m_units, error))
+        return UnitChoice::unitsOf(contentOf(m_units), m_unitChoices.pairs());
+    return UnitChoice::unitsOf(m_units, m_unitChoices.pairs());
 }
 
 void ReportVerb::readData(Report& report)
@@ -208,17 +225,20 @@ void ReportVerb::noteMissingColumns(Report& report)
         if (m_pParts->find(token) == nullptr)
             missing += (missing.empty() ? "" : ", ") + token;
     if (!missing.empty())
-        m_notes.push_back(m_pFile->name() + " has no column for " + missing + ", which the template asks for");
+        m_notes.add(Finding::saying(FindingCodes::kColumnMissing, m_pFile->name() + " has no column for " + missing +
+                                                                      ", which the template asks for"));
 }
 
 void ReportVerb::noteMergedRows(const Report& report)
 {
     const int numRows = report.numMergedRows();
     if (numRows > 0)
-        m_notes.push_back(std::to_string(numRows) +
-                          (numRows == 1 ? " line equal to the one before it was merged into it and is"
-                                        : " lines equal to the one before them were merged into it and are") +
-                          " not counted in totals; details that show %Handle stay apart");
+        m_notes.add(
+            Finding::saying(FindingCodes::kRowsMerged,
+                            std::to_string(numRows) +
+                                (numRows == 1 ? " line equal to the one before it was merged into it and is"
+                                              : " lines equal to the one before them were merged into it and are") +
+                                " not counted in totals; details that show %Handle stay apart"));
 }
 
 void ReportVerb::write(Report& report) const

@@ -1,7 +1,10 @@
 // `mekbom report`: reads parts list and template, evaluates, prints the table. When it cannot, nothing has been written.
 #pragma once
 
+#include "DisplaySettings.h"
 #include "FileSource.h"
+#include "FindingList.h"
+#include "NamedText.h"
 #include "PairOption.h"
 #include "PartsList.h"
 #include "RecordSource.h"
@@ -11,7 +14,6 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace mekbom
 {
@@ -28,9 +30,10 @@ private:
     void checkOutput() const;
     void openParts();
     ReportTemplate readTemplate() const;
-    ReportTemplate readTemplateFile(const std::string& path) const;
-    std::string templatePath() const;
-    void loadSettings();
+    ReportTemplate readTemplateFile() const;
+    NamedText chooseTemplate() const;
+    DisplaySettings readSettings();
+    VorUnitsManager chooseUnits() const;
     void readData(Report& report);
     void takeSampleData(VorBomTemplate& reportTemplate) const;
     void noteMissingColumns(Report& report);
@@ -52,6 +55,6 @@ private:
     std::unique_ptr<FileSource> m_pFile; // null for the sample data, as the next two are
     std::unique_ptr<RecordSource> m_pRecords;
     std::unique_ptr<PartsList> m_pParts;
-    std::vector<std::string> m_notes;
+    FindingList m_notes; // for the user once there is a report
 };
 }

@@ -19,7 +19,7 @@ class JsonCheckerTest : public testing::Test
 protected:
     std::string faults() const
     {
-        return faultOf([this] { m_json.throwIfAny(); });
+        return faultOf([this] { m_json.throwIfAnyError(); });
     }
 
     const JsonNode m_root =

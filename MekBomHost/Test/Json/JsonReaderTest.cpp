@@ -17,18 +17,21 @@ JsonNode nodesOf(const std::string& text)
     return JsonReader(kName, text).read();
 }
 
-// The tree with places, in reading order: { "a": [5] } -> "object@1:1(a@1:3=array@1:8(the number 5@1:9))"
-std::string placesOf(const JsonNode& node)
+// The tree with places, in reading order: { "a": [5] } -> "object@1:1(a@1:3=array@1:8(the number 5@1:9))"; with the
+// ends behind a '-' when `withEnds`.
+std::string placesOf(const JsonNode& node, bool withEnds = false)
 {
-    const auto at = [](const JsonPlace& place)
-    { return "@" + std::to_string(place.line) + ":" + std::to_string(place.column); };
-    std::string text = node.description() + at(node.place);
+    const auto textOf = [](const TextPlace& place)
+    { return std::to_string(place.line) + ":" + std::to_string(place.column); };
+    const auto at = [withEnds, textOf](const TextSpan& span)
+    { return "@" + textOf(span.begin) + (withEnds ? "-" + textOf(span.end) : ""); };
+    std::string text = node.description() + at(node.span);
     if (node.kind != JsonNode::kArray && node.kind != JsonNode::kObject)
         return text;
     text += "(";
     for (const JsonNode& child : node.children)
-        text += (text.back() == '(' ? "" : " ") + (child.key.empty() ? "" : child.key + at(child.keyPlace) + "=") +
-                placesOf(child);
+        text += (text.back() == '(' ? "" : " ") + (child.key.empty() ? "" : child.key + at(child.keySpan) + "=") +
+                placesOf(child, withEnds);
     return text + ")";
 }
 
@@ -65,6 +68,16 @@ TEST(JsonReaderTest, ValuesKnowWhereTheyStand)
 {
     for (const PlaceCase& test : kPlaces)
         EXPECT_EQ(test.places, placesOf(nodesOf(test.text))) << test.text;
+}
+
+TEST(JsonReaderTest, ValuesKnowWhereTheyEnd)
+{
+    EXPECT_EQ("an array@1:1-2:15(the number 12@1:2-1:4 \"ä\"@1:5-1:8 true@2:2-2:6 an object@2:7-2:9() null@2:10-2:14)",
+              placesOf(nodesOf("[12,\"ä\"\n,true,{},null]"), true));
+    EXPECT_EQ("an object@1:1-1:15(a@1:2-1:5=the number -1500@1:6-1:13)", placesOf(nodesOf("{\"a\":-1.5e+3 }"), true));
+    EXPECT_EQ("the number 12@1:1-1:3", placesOf(nodesOf("12"), true));
+    EXPECT_EQ("an array@1:1-1:14(the number 1@1:2-1:3 the number 2@1:12-1:13)",
+              placesOf(nodesOf("[1/* 5 */, 2]"), true));
 }
 
 TEST(JsonReaderTest, ValuesAreRead)

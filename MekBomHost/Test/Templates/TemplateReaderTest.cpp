@@ -233,12 +233,13 @@ TEST(TemplateReaderTest, SectionsThatAreNeverEvaluatedAreNoted)
         "{ \"sections\": [\n{ \"type\": \"kDetails\" },\n{ \"type\": \"kGroupFooter\",\n\"children\": [] },\n"
         "{ \"type\": \"kReportFooter\" } ] }");
 
-    ASSERT_EQ(2u, reportTemplate.notes.size());
+    ASSERT_EQ(2u, reportTemplate.findings.size());
     EXPECT_EQ(
         "list.json:5:1: /sections/2: is not evaluated: the first two sections of a level are its header and footer",
-        reportTemplate.notes[0]);
+        messageOf(reportTemplate.findings[0]));
     EXPECT_EQ("list.json:4:13: /sections/1/children: are not evaluated: the section is a footer",
-              reportTemplate.notes[1]);
+              messageOf(reportTemplate.findings[1]));
+    EXPECT_EQ(Finding::kNote, reportTemplate.findings[0].severity);
 }
 
 TEST(TemplateReaderTest, NothingIsLeakedByARefusedTemplate)

@@ -1,102 +1,136 @@
 #include "DisplaySettings.h"
 
+#include "FindingCodes.h"
+
 #include "Support/HostTestSupport.h"
 
 #include "MekRoots/Exp/KTRepositoryProxy.h"
+#include "MekRoots/Test/Support/TestSupport.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
+#include <iterator>
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace mekbom
 {
 namespace
 {
-using Settings = std::vector<std::pair<std::string, std::string>>;
+using Origins = DisplaySettings::Origins;
 
-// The repository and the environment are shared by the process: every test ends with neither holding anything.
-class DisplaySettingsTest : public testing::Test
+// The numbers of all settings in their order: "1 1 1 0".
+std::string numbersOf(const DisplaySettings& settings)
 {
-protected:
-    ~DisplaySettingsTest() override
-    {
-        unsetenv("C40_SuppressZeroFeet");
-        KTRepositoryProxy::clear();
-    }
-};
-
-int settingOf(const wchar_t* key)
-{
-    int value = 42;
-    vor_odbc_getDefault(key, value);
-    return value;
+    std::string numbers;
+    for (const int number : { settings.suppressLastZeros, settings.suppressZeroFeet, settings.suppressZeroInch,
+                              settings.showMinusBetweenFeetAndInch })
+        numbers += (numbers.empty() ? "" : " ") + std::to_string(number);
+    return numbers;
 }
 
-std::string faultWith(const std::string& file, const Settings& settings = Settings())
+std::string numbersFrom(const Origins& origins)
 {
-    return faultOf([&] { DisplaySettings::load(file, settings); });
-}
+    FindingList findings;
+    return numbersOf(DisplaySettings::read(origins, findings));
 }
 
-TEST_F(DisplaySettingsTest, WithoutAnythingTheRepositoryStaysEmpty)
+Origins fromFile(const std::string& text)
 {
-    EXPECT_TRUE(DisplaySettings::load("", {}).empty());
-
-    EXPECT_EQ(42, settingOf(L"C40_SuppressZeroFeet"));
+    return { {}, NamedText{ "shop.ini", text }, {} };
 }
 
-TEST_F(DisplaySettingsTest, FilesComeOverTheEnvironmentAndSingleSettingsOverBoth)
+std::string faultFrom(const Origins& origins)
 {
-    const ScratchFolder folder;
-    const std::string file = folder.file("a.ini", "C40_SuppressZeroFeet = 2\nC40_SuppressZeroInch = 0\n");
-    setenv("C40_SuppressZeroFeet", "1", 1);
-
-    DisplaySettings::load("", {});
-    EXPECT_EQ(1, settingOf(L"C40_SuppressZeroFeet"));
-    DisplaySettings::load(file, {});
-    EXPECT_EQ(2, settingOf(L"C40_SuppressZeroFeet"));
-    DisplaySettings::load(file, { { "C40_SuppressZeroFeet", "3" }, { "C0_BOMSuppressLastZeros", "0" } });
-    EXPECT_EQ(3, settingOf(L"C40_SuppressZeroFeet"));
-    EXPECT_EQ(0, settingOf(L"C40_SuppressZeroInch"));
-    EXPECT_EQ(0, settingOf(L"C0_BOMSuppressLastZeros"));
+    return faultOf([&origins] { numbersFrom(origins); });
 }
 
-TEST_F(DisplaySettingsTest, NamesThatNoListUsesAreToldAndKept)
+VorString lengthShownBy(const DisplaySettings& settings, double millimetres)
 {
-    const ScratchFolder folder;
-
-    EXPECT_EQ((std::vector<std::string>{ "C7_Other" }),
-              DisplaySettings::load(folder.file("a.ini", "C7_Other=5\nC40_SuppressZeroFeet=0\n"), {}));
-
-    EXPECT_EQ(5, settingOf(L"C7_Other"));
+    const VorUnitsManager imperial = VorUnitsManager::imperial();
+    VorBomTemplateUnits units;
+    units.setUnits(&imperial);
+    settings.applyTo(units);
+    return units.getDisplayString(VorBomTemplateUnits::kDistanceUnit, millimetres);
+}
 }
 
-TEST_F(DisplaySettingsTest, AMalformedFileIsNamedWithItsLineAndStoresNothing)
+TEST(DisplaySettingsTest, WithoutAnythingNumbersAreShownAsTheEngineDoes)
 {
-    const ScratchFolder folder;
-    const std::string file = folder.file("a.ini", "C40_SuppressZeroInch=0\nC40_SuppressZeroFeet=no\n");
-
-    EXPECT_EQ("3 " + file + ":2: found \"no\" for C40_SuppressZeroFeet, expected a whole number\n", faultWith(file));
-    EXPECT_EQ(42, settingOf(L"C40_SuppressZeroInch"));
-    EXPECT_EQ(0U, faultWith((folder / "none.ini").string()).find("3 "));
+    EXPECT_EQ("1 1 1 0", numbersFrom({}));
 }
 
-TEST_F(DisplaySettingsTest, SingleSettingsAreChecked)
+TEST(DisplaySettingsTest, NamesAreThoseOfTheRepository)
+{
+    const std::vector<std::string> names = DisplaySettings::names();
+
+    ASSERT_EQ(std::size(KTRepositoryProxy::kDisplayKeys), names.size());
+    for (std::size_t i = 0; i < names.size(); ++i)
+        EXPECT_EQ(toUtf8(KTRepositoryProxy::kDisplayKeys[i]), names[i]);
+}
+
+TEST(DisplaySettingsTest, FilesComeOverTheEnvironmentAndOptionsOverBoth)
+{
+    Origins origins;
+    origins.environment = { { "C40_SuppressZeroFeet", "4" }, { "HOME", "/" } };
+    EXPECT_EQ("1 4 1 0", numbersFrom(origins));
+
+    origins.file = NamedText{ "shop.ini", "C40_SuppressZeroFeet = 2\nC40_SuppressZeroInch = 0\n" };
+    EXPECT_EQ("1 2 0 0", numbersFrom(origins));
+
+    origins.options = { { "C40_SuppressZeroFeet", "3" }, { "C0_BOMSuppressLastZeros", "0" } };
+    EXPECT_EQ("0 3 0 0", numbersFrom(origins));
+}
+
+TEST(DisplaySettingsTest, NamesThatNoListUsesAreNoted)
+{
+    FindingList findings;
+
+    const DisplaySettings settings =
+        DisplaySettings::read(fromFile("; ours\nC7_Other=5\nC40_SuppressZeroFeet=0\n"), findings);
+
+    EXPECT_EQ("1 0 1 0", numbersOf(settings));
+    ASSERT_EQ(1U, findings.all().size());
+    EXPECT_EQ("shop.ini sets C7_Other, which lists do not use", messageOf(findings.all()[0]));
+    EXPECT_EQ(FindingCodes::kSettingUnused.name, findings.all()[0].code);
+    EXPECT_EQ(Finding::kNote, findings.all()[0].severity);
+    EXPECT_EQ("shop.ini", findings.all()[0].source);
+    EXPECT_EQ(2, findings.all()[0].begin.line);
+}
+
+TEST(DisplaySettingsTest, AMalformedFileIsNamedWithItsLine)
+{
+    EXPECT_EQ("3 shop.ini:2: found \"no\" for C40_SuppressZeroFeet, expected a whole number\n",
+              faultFrom(fromFile("C40_SuppressZeroInch=0\nC40_SuppressZeroFeet=no\n")));
+    EXPECT_EQ("3 shop.ini:1: found \"2147483648\" for C7_Other, expected a whole number\n",
+              faultFrom(fromFile("C7_Other=2147483648")));
+    EXPECT_EQ("3 shop.ini:2: found \"abc\", expected a line such as key = value\n", faultFrom(fromFile("\nabc\n")));
+    EXPECT_EQ("3 shop.ini:1:3: found byte 0xE4, expected text in UTF-8\n", faultFrom(fromFile("; \xE4")));
+}
+
+TEST(DisplaySettingsTest, OptionsAreChecked)
 {
     EXPECT_EQ("2 --setting: found \"C40_SupressZeroFeet\", expected one of C0_BOMSuppressLastZeros, "
               "C40_SuppressZeroFeet, C40_SuppressZeroInch, C40_ShowMinusBetweenFeetAndInch\n",
-              faultWith("", { { "C40_SupressZeroFeet", "1" } }));
+              faultFrom({ {}, {}, { { "C40_SupressZeroFeet", "1" } } }));
     EXPECT_EQ("2 --setting C40_SuppressZeroFeet: found \"yes\", expected a whole number\n",
-              faultWith("", { { "C40_SuppressZeroFeet", "yes" } }));
+              faultFrom({ {}, {}, { { "C40_SuppressZeroFeet", "yes" } } }));
 }
 
-TEST_F(DisplaySettingsTest, AVariableThatIsNoWholeNumberIsNamed)
+TEST(DisplaySettingsTest, AVariableThatIsNoWholeNumberIsNamed)
 {
-    setenv("C40_SuppressZeroFeet", "yes", 1);
+    EXPECT_EQ("2 environment: found \"yes\" for C40_SuppressZeroFeet, expected a whole number\n",
+              faultFrom({ { { "C40_SuppressZeroFeet", "yes" } }, {}, {} }));
+}
 
-    EXPECT_EQ("2 environment: found \"yes\" for C40_SuppressZeroFeet, expected a whole number\n", faultWith(""));
+TEST(DisplaySettingsTest, TwoReportsShowTheSameLengthByTheirOwnSettings)
+{
+    FindingList findings;
+    const DisplaySettings ours =
+        DisplaySettings::read(fromFile("C40_SuppressZeroInch = 0\nC40_ShowMinusBetweenFeetAndInch = 1\n"), findings);
+    const DisplaySettings theirs;
+
+    EXPECT_EQ(VorString(L"7'-0\""), lengthShownBy(ours, 2133.6));
+    EXPECT_EQ(VorString(L"7'"), lengthShownBy(theirs, 2133.6));
+    EXPECT_EQ(VorString(L"7'-0\""), lengthShownBy(ours, 2133.6));
 }
 }

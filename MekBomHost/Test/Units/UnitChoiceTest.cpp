@@ -1,5 +1,7 @@
 #include "UnitChoice.h"
 
+#include "FindingCodes.h"
+
 #include "Support/HostTestSupport.h"
 
 #include "MekRoots/Test/Support/TestSupport.h"
@@ -15,7 +17,7 @@ namespace mekbom
 {
 namespace
 {
-using Choices = std::vector<std::pair<std::string, std::string>>;
+using Choices = UnitChoice::Choices;
 using Systems = VorUnitsTransformArray;
 
 // The units of all kinds as words: "mm/1 kg/2 m2/2 deg/1 kg/m/2 m2/m/3 kg/m3/0".
@@ -34,6 +36,16 @@ const char* const kImperialWords = "ft-in/16 lb/1 ft2/2 deg/1 lb/ft/2 ft2/ft/2 l
 std::string wordsOf(const std::string& base, const Choices& choices = Choices())
 {
     return wordsOf(UnitChoice::unitsOf(base, choices));
+}
+
+std::string wordsOfFile(const std::string& text, const Choices& choices = Choices())
+{
+    return wordsOf(UnitChoice::unitsOf(NamedText{ "shop.ini", text }, choices));
+}
+
+std::string faultInFile(const std::string& text)
+{
+    return faultOf([&text] { wordsOfFile(text); });
 }
 
 std::string faultWith(const std::string& base, const Choices& choices = Choices())
@@ -73,35 +85,61 @@ TEST(UnitChoiceTest, WordsThatAreNoChoiceAreNamed)
 
 TEST(UnitChoiceTest, AFileNamesUnitsOverABase)
 {
-    const ScratchFolder folder;
-    const std::string path = folder.file(
-        "shop.ini", "\xEF\xBB\xBF; ours\r\n[units]\r\nlength = ft-in/32\r\narea=m²/1\r\nbase = imperial\r\n");
+    const char* const ours =
+        "\xEF\xBB\xBF; ours\r\n[units]\r\nlength = ft-in/32\r\narea=m\u00B2/1\r\nbase = imperial\r\n";
 
-    EXPECT_EQ("ft-in/32 lb/1 m2/1 deg/1 lb/ft/2 ft2/ft/2 lb/ft3/1", wordsOf(path));
-    EXPECT_EQ("m/3 lb/1 m2/1 deg/1 lb/ft/2 ft2/ft/2 lb/ft3/1", wordsOf(path, { { "length", "m" } }));
-    EXPECT_EQ("cm/2 kg/2 m2/2 deg/1 kg/m/2 m2/m/3 kg/m3/0", wordsOf(folder.file("cm.ini", "length=cm")));
-    EXPECT_EQ(kMetricWords, wordsOf(folder.file("empty.ini", "")));
+    EXPECT_EQ("ft-in/32 lb/1 m2/1 deg/1 lb/ft/2 ft2/ft/2 lb/ft3/1", wordsOfFile(ours));
+    EXPECT_EQ("m/3 lb/1 m2/1 deg/1 lb/ft/2 ft2/ft/2 lb/ft3/1", wordsOfFile(ours, { { "length", "m" } }));
+    EXPECT_EQ("cm/2 kg/2 m2/2 deg/1 kg/m/2 m2/m/3 kg/m3/0", wordsOfFile("length=cm"));
+    EXPECT_EQ(kMetricWords, wordsOfFile(""));
 }
 
 TEST(UnitChoiceTest, AMalformedFileIsNamedWithItsLine)
 {
-    const ScratchFolder folder;
-    const auto faultIn = [&folder](const std::string& text)
-    {
-        const std::string path = folder.file("shop.ini", text);
-        const std::string fault = faultWith(path);
-        return fault.substr(0, 2) + fault.substr(2 + path.size());
-    };
-
-    EXPECT_EQ("3 :2: found \"abc\", expected a line such as key = value\n", faultIn("length=mm\nabc\n"));
-    EXPECT_EQ("3 :1: found \"lenght\", expected one of length, angle, weight, area, weight-per-length, "
+    EXPECT_EQ("3 shop.ini:2: found \"abc\", expected a line such as key = value\n", faultInFile("length=mm\nabc\n"));
+    EXPECT_EQ("3 shop.ini:1: found \"lenght\", expected one of length, angle, weight, area, weight-per-length, "
               "area-per-length, density\n",
-              faultIn("lenght=mm\n"));
-    EXPECT_EQ("3 :3: found \"metrical\", expected metric or imperial\n", faultIn("\n\nbase=metrical\n"));
-    EXPECT_EQ("3 :2: found \"\", expected a unit of distance such as mm, m, in or ft, and after a slash a precision if "
-              "need be: lb/1, ft-in/16\n",
-              faultIn("; ours\nlength=\n"));
-    EXPECT_EQ("3 :2: found \"length\", expected it once, as in line 1\n", faultIn("length=mm\nlength=m\n"));
-    EXPECT_EQ("3 :1:1", faultIn("\xFF\n").substr(0, 6));
+              faultInFile("lenght=mm\n"));
+    EXPECT_EQ("3 shop.ini:3: found \"metrical\", expected metric or imperial\n", faultInFile("\n\nbase=metrical\n"));
+    EXPECT_EQ("3 shop.ini:2: found \"\", expected a unit of distance such as mm, m, in or ft, and after a slash a "
+              "precision if need be: lb/1, ft-in/16\n",
+              faultInFile("; ours\nlength=\n"));
+    EXPECT_EQ("3 shop.ini:2: found \"length\", expected it once, as in line 1\n", faultInFile("length=mm\nlength=m\n"));
+    EXPECT_EQ("3 shop.ini:1:1: found byte 0xFF, expected text in UTF-8\n", faultInFile("\xFF\n"));
+}
+
+TEST(UnitChoiceTest, FindingsHaveTheirCodeAndPlace)
+{
+    try
+    {
+        wordsOfFile("; ours\nlength = lb\n");
+        FAIL() << "nothing was thrown";
+    }
+    catch (const Fault& fault)
+    {
+        const Finding& finding = fault.findings()[0];
+        EXPECT_EQ(FindingCodes::kUnitUnknown.name, finding.code);
+        EXPECT_EQ("shop.ini", finding.source);
+        EXPECT_EQ(2, finding.begin.line);
+        EXPECT_EQ("\"lb\"", finding.found);
+    }
+}
+
+TEST(UnitChoiceTest, OneChoiceDoesNotReachAnother)
+{
+    const VorUnitsManager ours = UnitChoice::unitsOf("imperial", { { "weight", "kg/0" } });
+    const VorUnitsManager theirs = UnitChoice::unitsOf(NamedText{ "shop.ini", "length = cm" }, {});
+
+    EXPECT_EQ("ft-in/16 kg/0 ft2/2 deg/1 lb/ft/2 ft2/ft/2 lb/ft3/1", wordsOf(ours));
+    EXPECT_EQ("cm/2 kg/2 m2/2 deg/1 kg/m/2 m2/m/3 kg/m3/0", wordsOf(theirs));
+    EXPECT_EQ(kMetricWords, wordsOf("metric"));
+}
+
+TEST(UnitChoiceTest, BasesAreToldFromFiles)
+{
+    EXPECT_TRUE(UnitChoice::isBase("metric"));
+    EXPECT_TRUE(UnitChoice::isBase("imperial"));
+    EXPECT_FALSE(UnitChoice::isBase("shop.ini"));
+    EXPECT_FALSE(UnitChoice::isBase(""));
 }
 }

@@ -10,10 +10,11 @@
 // Owns nothing. Makes no variable, but announces those that are assigned.
 #pragma once
 
-#include "VorExprEvVariableList.h"
-#include "VorFormulaCharacters.h"
-#include "VorFormulaNumber.h"
+#include "ExpressionEvaluator/Src/Reading/VorFormulaCharacters.h"
+#include "ExpressionEvaluator/Src/Reading/VorFormulaNumber.h"
+#include "ExpressionEvaluator/Src/VorExprEvVariableList.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -22,15 +23,15 @@ class VorFormulaOperands
 public:
     // All variables in the list must be announced ones.
     explicit VorFormulaOperands(VorExprEvVariableList& variables)
-        : m_variables(variables), m_pGiven(variables.announced()), m_pGivenEnd(variables.announcedEnd())
+        : m_variables(variables), m_numGiven(variables.announcedEnd() - variables.announced())
     {
     }
 
     // Reads the operand at `pText`, which is in the same formula every time, and answers where it ends, the blanks behind
     // it passed over; null, with `value` undefined, when there is none or it has no value.
-    const wchar_t* read(const wchar_t* pText, double& value)
+    const wchar_t* read(const wchar_t* pText, VorFormulaCharacters::eKind kind, double& value)
     {
-        switch (VorFormulaCharacters::kKindsInFormula[*pText])
+        switch (kind)
         {
             case VorFormulaCharacters::kName: return findName(pText, value);
             case VorFormulaCharacters::kDigit:
@@ -47,65 +48,52 @@ public:
     }
 
     // The characters of the operand at `pText`, without the blanks behind it; `pNext` is where those end.
-    static std::wstring_view textAt(const wchar_t* pText, const wchar_t*& pNext);
+    static std::wstring_view textAt(const wchar_t* pText, const wchar_t*& pNext)
+    {
+        while (VorFormulaCharacters::kBlanks.holds(*pText))
+            ++pText;
+        pNext = pText;
+        while (!VorFormulaCharacters::kOperandEnds.holds(*pNext))
+            ++pNext;
+        const wchar_t* pEnd = pNext;
+        while (pEnd != pText && VorFormulaCharacters::kBlanks.holds(pEnd[-1]))
+            --pEnd;
+        return { pText, static_cast<std::size_t>(pEnd - pText) };
+    }
 
-    // Makes a variable, whose name views the formula; 0 when there are too many. Later statements may take it back.
+    // Makes a variable; 0 when there are too many. Later statements may take it back.
     int assign(std::wstring_view name, double value) { return m_variables.announce(name, value); }
-    void forgetAssigned() { m_variables.withdraw(m_pGivenEnd - m_pGiven); }
+    void forgetAssigned() { m_variables.withdraw(m_numGiven); }
 
     void beginNextStatement() { m_bReachesPastEnd = true; }
 
 private:
     using Variable = VorExprEvVariableList::Announced;
 
-    // The newest first.
+    // The newest first. The last of several statements reaches past the end of the formula: a name there has a zero
+    // character, and no variable has that.
     const wchar_t* findName(const wchar_t* pText, double& value) const
     {
-        if (m_variables.announcedEnd() != m_pGivenEnd)
+        const wchar_t* pNext = nullptr;
+        const std::wstring_view name = textAt(pText, pNext);
+        if (m_bReachesPastEnd && *pNext == L'\0')
+            return nullptr;
+        for (const Variable* pVariable = m_variables.announcedEnd(); pVariable != m_variables.announced();)
         {
-            double assigned = 0.0; // for the reason that read has
-            if (const wchar_t* pNext = findAssigned(pText, assigned))
-            {
-                value = assigned;
-                return pNext;
-            }
-        }
-        const wchar_t first = *pText;
-        for (const Variable* pVariable = m_pGivenEnd; pVariable != m_pGiven;)
-        {
-            const wchar_t* pName = (--pVariable)->pName;
-            if (*pName != first)
-                continue;
-            const wchar_t* pNext = readGiven(pText, pName);
-            if (pNext == nullptr)
+            --pVariable;
+            if (pVariable->length != name.size() || pVariable->pName[name.size() - 1] != name.back() ||
+                !std::equal(name.begin(), name.end(), pVariable->pName))
                 continue;
             value = pVariable->value;
-            return canBeName(pNext) ? pNext : nullptr;
+            return pNext;
         }
         return nullptr;
     }
 
-    // An operand has neither an operator in it nor a blank at its end; a given name that has is never found.
-    static const wchar_t* readGiven(const wchar_t* pText, const wchar_t* pName)
-    {
-        std::size_t i = 1; // the first characters are the same
-        while (pText[i] == pName[i] && !VorFormulaCharacters::kOperandEnds.holds(pText[i]))
-            ++i;
-        if (pName[i] != L'\0' || VorFormulaCharacters::kBlanks.holds(pText[i - 1]))
-            return nullptr;
-        return VorFormulaCharacters::endOperand(pText + i);
-    }
-
-    // The last of several statements reaches past the end of the formula: a name there has a zero character, and no
-    // variable has that.
-    bool canBeName(const wchar_t* pEnd) const { return !m_bReachesPastEnd || *pEnd != L'\0'; }
-
-    const wchar_t* findAssigned(const wchar_t* pText, double& value) const;
     const wchar_t* readUnusual(const wchar_t* pText, double& value);
 
     VorExprEvVariableList& m_variables;
+    std::ptrdiff_t m_numGiven;              // the assigned ones stand behind
     const wchar_t* m_pFormulaEnd = nullptr; // not looked for before it is needed
-    const Variable* m_pGiven;
-    const Variable* m_pGivenEnd; // the assigned ones stand behind
     bool m_bReachesPastEnd = false;
 };

@@ -4,6 +4,10 @@
 //   VorFormulaCharacters::kKindsInStatement[L'*']   ->  kProduct
 #pragma once
 
+#include "ExpressionEvaluator/Src/VorFormulaText.h"
+
+#include "MekRoots/Exp/VorCharacters.h"
+
 #include <cstdint>
 #include <string_view>
 
@@ -31,8 +35,8 @@ private:
 
 namespace VorFormulaCharacters
 {
-inline constexpr VorCharacterSet kOperators(L"*/+-=()");
-inline constexpr VorCharacterSet kBlanks(L" \t\n\r");
+inline constexpr VorCharacterSet kOperators(VorFormulaText::kOperators);
+inline constexpr VorCharacterSet kBlanks(VorFormulaText::kBlanks);
 
 inline constexpr wchar_t kSeparator = L';'; // between statements
 
@@ -51,11 +55,6 @@ inline const wchar_t* endOperand(const wchar_t* pText)
 // Digits, point, sign, white space as the C library knows it, and the zero that ends a text.
 inline constexpr VorCharacterSet kNumberStarts(std::wstring_view(L"0123456789.+- \t\n\v\f\r\0", 20));
 
-constexpr bool isDigit(wchar_t character)
-{
-    return character >= L'0' && character <= L'9';
-}
-
 // Whether an operand that begins like this can be a number; "inf" and "nan" begin with a letter.
 constexpr bool canStartNumber(wchar_t character)
 {
@@ -71,11 +70,16 @@ enum eKind : signed char
     kSum = 2,         // '+' and '-'
     kProduct = 3,     // '*' and '/'
     kNothing = 4,     // blanks and zero characters
-    kOperand = 5,     // all that is nothing else
-    kEnd = 6,         // of the statement
+    kEnd = 5,         // of the statement
+    kOperand = 6,     // all that is nothing else
     kDigit = 7,       // an operand, most likely a number
     kName = 8         // an operand that is no number
 };
+
+constexpr bool startsOperand(eKind kind)
+{
+    return kind >= kOperand;
+}
 
 // The kinds of all characters.
 class KindTable
@@ -85,8 +89,9 @@ public:
     static constexpr KindTable ofStatement()
     {
         KindTable table(kOperand);
-        for (const wchar_t blank : { L' ', L'\t', L'\n', L'\r', L'\0' })
+        for (const wchar_t blank : VorFormulaText::kBlanks)
             table.m_kinds[blank] = kNothing;
+        table.m_kinds[L'\0'] = kNothing;
         table.m_kinds[L'='] = kAssignment;
         table.m_kinds[L'('] = table.m_kinds[L')'] = kParenthesis;
         table.m_kinds[L'+'] = table.m_kinds[L'-'] = kSum;
@@ -102,8 +107,8 @@ public:
         for (wchar_t character = 0; character < kSize; ++character)
             if (table.m_kinds[character] == kOperand && !canStartNumber(character))
                 table.m_kinds[character] = kName;
-        for (wchar_t character = L'0'; character <= L'9'; ++character)
-            table.m_kinds[character] = kDigit;
+            else if (VorCharacters::isDigit(character))
+                table.m_kinds[character] = kDigit;
         table.m_kinds[L'\0'] = table.m_kinds[kSeparator] = kEnd;
         return table;
     }

@@ -4,9 +4,10 @@
 
 #include "VorFormulaCharacters.h"
 
+#include "MekRoots/Exp/VorPowersOfTen.h"
+
 #include <cstddef>
 #include <cstdint>
-#include <iterator>
 
 namespace VorFormulaNumber
 {
@@ -16,29 +17,28 @@ namespace VorFormulaNumber
 // quotient is the float nearest to the text.
 inline const wchar_t* scanShort(const wchar_t* pText, double& number)
 {
-    static constexpr float kPowersOfTen[] = { 1e0F, 1e1F, 1e2F, 1e3F, 1e4F, 1e5F, 1e6F, 1e7F, 1e8F, 1e9F, 1e10F };
     constexpr std::uint64_t kMostExact = 1U << 24;
     constexpr std::ptrdiff_t kMostCharacters = 19; // of which the digits fit 64 bits
 
     const wchar_t* pStart = pText;
     std::uint64_t nDigits = 0; // too many are no matter before they are used
-    for (; VorFormulaCharacters::isDigit(*pText); ++pText)
+    for (; VorCharacters::isDigit(*pText); ++pText)
         nDigits = nDigits * 10 + static_cast<std::uint64_t>(*pText - L'0');
     std::ptrdiff_t nDecimals = 0;
     if (*pText == L'.')
     {
         const wchar_t* pPoint = pText++;
-        for (; VorFormulaCharacters::isDigit(*pText); ++pText)
+        for (; VorCharacters::isDigit(*pText); ++pText)
             nDigits = nDigits * 10 + static_cast<std::uint64_t>(*pText - L'0');
         nDecimals = pText - pPoint - 1;
     }
-    const bool isExact = pText - pStart <= kMostCharacters && nDigits <= kMostExact &&
-                         nDecimals < std::ptrdiff_t(std::size(kPowersOfTen));
+    const bool isExact =
+        pText - pStart <= kMostCharacters && nDigits <= kMostExact && nDecimals <= VorPowersOfTen::kLargest<float>;
     pText = VorFormulaCharacters::endOperand(pText);
     if (!isExact || pText == nullptr)
         return nullptr;
     const auto whole = static_cast<float>(static_cast<std::int32_t>(nDigits));
-    number = nDecimals == 0 ? whole : whole / kPowersOfTen[nDecimals];
+    number = nDecimals == 0 ? whole : whole / VorPowersOfTen::kAll<float>[static_cast<std::size_t>(nDecimals)];
     return pText;
 }
 }
