@@ -60,25 +60,21 @@ const Record* CsvReader::next()
     return nullptr;
 }
 
-Finding CsvReader::findingInRecord() const
+void CsvReader::placeRecord(Finding& finding) const
 {
-    Finding finding;
     finding.source = name();
-    finding.begin.line = m_line;
-    return finding;
+    finding.begin = { m_line, 0 };
 }
 
-Finding CsvReader::findingInCell(std::size_t index) const
+void CsvReader::placeCell(std::size_t index, Finding& finding) const
 {
     std::string_view text = m_cells[index].text();
     for (const DoubledField& field : m_doubled)
         if (field.index == index)
             text = field.raw;
-    Finding finding;
     finding.source = name();
     finding.begin = placeOf(text.data());
     finding.end = placeOf(text.data() + text.size());
-    return finding;
 }
 
 void CsvReader::beginFile()

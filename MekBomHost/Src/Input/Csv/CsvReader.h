@@ -32,8 +32,8 @@ public:
     const Record* next() override;
 
     // The line on which the record begins; the place of the field's text, without its quotes.
-    Finding findingInRecord() const override;
-    Finding findingInCell(std::size_t index) const override;
+    void placeRecord(Finding& finding) const override;
+    void placeCell(std::size_t index, Finding& finding) const override;
 
 private:
     // A field with doubled quotes.

@@ -12,6 +12,24 @@ namespace mekbom
 {
 namespace
 {
+int lineOf(const CsvReader& reader)
+{
+    Finding finding;
+    reader.placeRecord(finding);
+    EXPECT_EQ(0, finding.begin.column);
+    return finding.begin.line;
+}
+
+// From begin to end: "3:2-3:5".
+std::string placeOf(const CsvReader& reader, std::size_t index)
+{
+    Finding finding;
+    reader.placeCell(index, finding);
+    EXPECT_EQ("parts.csv", finding.source);
+    return std::to_string(finding.begin.line) + ":" + std::to_string(finding.begin.column) + "-" +
+           std::to_string(finding.end.line) + ":" + std::to_string(finding.end.column);
+}
+
 // Each record as "line: [field][field]" and a line end.
 std::string recordsOf(const std::string& text, std::size_t blockSize = 1 << 20)
 {
@@ -20,7 +38,7 @@ std::string recordsOf(const std::string& text, std::size_t blockSize = 1 << 20)
     std::string records;
     while (const Record* const pRecord = reader.next())
     {
-        records += std::to_string(reader.findingInRecord().begin.line) + ": ";
+        records += std::to_string(lineOf(reader)) + ": ";
         for (const RecordCell& cell : *pRecord)
             records += "[" + std::string(cell.text()) + "]";
         records += "\n";
@@ -218,17 +236,9 @@ TEST(CsvReaderTest, CellsKnowTheirPlaceFromBeginToEnd)
     reader.next();
     ASSERT_NE(nullptr, reader.next());
 
-    const auto placeOf = [&reader](std::size_t index)
-    {
-        const Finding finding = reader.findingInCell(index);
-        return finding.source + " " + std::to_string(finding.begin.line) + ":" + std::to_string(finding.begin.column) +
-               "-" + std::to_string(finding.end.line) + ":" + std::to_string(finding.end.column);
-    };
-
-    EXPECT_EQ("parts.csv 2:2-3:3", placeOf(0));
-    EXPECT_EQ("parts.csv 3:5-3:6", placeOf(1));
-    EXPECT_EQ("parts.csv 3:8-3:8", placeOf(2));
-    EXPECT_EQ(0, reader.findingInRecord().begin.column);
+    EXPECT_EQ("2:2-3:3", placeOf(reader, 0));
+    EXPECT_EQ("3:5-3:6", placeOf(reader, 1));
+    EXPECT_EQ("3:8-3:8", placeOf(reader, 2));
 }
 
 TEST(CsvReaderTest, FieldsKnowTheLineTheyStartOn)
@@ -237,15 +247,13 @@ TEST(CsvReaderTest, FieldsKnowTheLineTheyStartOn)
     CsvReader reader(source);
     reader.next();
 
-    const Record* const pRecord = reader.next();
-    ASSERT_NE(nullptr, pRecord);
+    ASSERT_NE(nullptr, reader.next());
 
-    ASSERT_EQ(4u, pRecord->size());
-    EXPECT_EQ(2, reader.findingInRecord().begin.line);
-    EXPECT_EQ(2, reader.findingInCell(0).begin.line);
-    EXPECT_EQ(3, reader.findingInCell(1).begin.line);
-    EXPECT_EQ(3, reader.findingInCell(2).begin.line);
-    EXPECT_EQ(4, reader.findingInCell(3).begin.line);
+    EXPECT_EQ(2, lineOf(reader));
+    EXPECT_EQ("2:2-3:2", placeOf(reader, 0));
+    EXPECT_EQ("3:4-3:5", placeOf(reader, 1));
+    EXPECT_EQ("3:7-4:2", placeOf(reader, 2));
+    EXPECT_EQ("4:4-4:5", placeOf(reader, 3));
 }
 
 TEST(CsvReaderTest, NothingFollowsTheEnd)
