@@ -36,6 +36,11 @@ void traceTree(const VorExprEvTreeItem* pRoot)
 }
 }
 
+bool ExpressionsEvaluator::isTraced()
+{
+    return m_nTraceTrees != 0 || VorExpressionEvaluator::m_nTraceStacks != 0;
+}
+
 ExpressionsEvaluator::ExpressionsEvaluator(const wchar_t* text, unsigned int length)
     : m_pText(text), m_nLength(text == nullptr ? 0 : std::min(length, kMostCharacters)), m_cSeparator(L';')
 {

@@ -26,7 +26,13 @@ public:
     // every evaluation: set it while none runs.
     static int m_nTraceTrees;
 
-    // `length` characters of formula; a null text is a formula of none. At most 2^31 - 1 of them are read.
+    // Whether anything of an evaluation is to be seen in the debug output, this or VorExpressionEvaluator::m_nTraceStacks.
+    // Who has a quicker way to compute a formula takes this one then.
+    static bool isTraced();
+
+    // `length` characters of formula, behind which the text goes on to a terminating zero; a null text is a formula of
+    // none. At most 2^31 - 1 of them are read. A number that the formula ends in is read as far as the text goes: of
+    // "1+23" with length 3 comes 24.
     ExpressionsEvaluator(const wchar_t* text, unsigned int length);
     virtual ~ExpressionsEvaluator() = default;
 

@@ -1,6 +1,6 @@
 #include "VorExprEvVariableList.h"
 
-#include <cstring>
+#include <cwchar>
 #include <functional>
 #include <iterator>
 #include <memory>
@@ -10,22 +10,6 @@ namespace
 {
 // Lists up to this length are walked. Measured with BM_LookUpAmongVariables: building the index pays from about here.
 constexpr int kLongestWalk = 24;
-
-// Four characters at a time, at the end some of them twice: for names a quarter of what a call of the C library takes.
-void copyName(std::wstring_view name, wchar_t* pCopy)
-{
-    constexpr std::size_t kStep = 4;
-    const std::size_t nLength = name.size();
-    if (nLength < kStep)
-    {
-        name.copy(pCopy, nLength);
-        return;
-    }
-    for (std::size_t i = 0; i + kStep < nLength; i += kStep)
-        std::memcpy(pCopy + i, name.data() + i, kStep * sizeof(wchar_t));
-    const std::size_t nLast = nLength - kStep;
-    std::memcpy(pCopy + nLast, name.data() + nLast, kStep * sizeof(wchar_t));
-}
 }
 
 VorExprEvVariableList& VorExprEvVariableList::ofThread()
@@ -40,38 +24,48 @@ const VorExprEvVariable* VorExprEvVariableList::head()
     return m_pHead;
 }
 
-// The places of the next variable and name are kept out of memory, which the copied characters might share.
 int VorExprEvVariableList::announce(const wchar_t* const* names, const double* values, int count)
 {
     Announced* pNext = m_announced;
-    wchar_t* pFree = m_announcedNames;
     for (int i = 0; i < count; ++i)
     {
         if (names[i] == nullptr)
             continue;
-        const std::wstring_view name(names[i]);
-        if (pNext == std::end(m_announced) || static_cast<std::ptrdiff_t>(name.size()) > roomBehind(pFree))
+        if (!isStillNamed(pNext, names[i]) && !nameAnew(pNext, names[i]))
             return 0;
-        copyName(name, pFree);
-        *pNext++ = { pFree, name.size(), values[i] };
-        pFree += name.size();
+        (pNext++)->value = values[i];
     }
     m_pAnnouncedEnd = pNext;
-    m_pFreeForNames = pFree;
     return 1;
 }
 
 int VorExprEvVariableList::announce(std::wstring_view name, double value)
 {
-    if (m_pAnnouncedEnd == m_announced)
-        m_pFreeForNames = m_announcedNames;
-    if (m_pAnnouncedEnd == std::end(m_announced) ||
-        static_cast<std::ptrdiff_t>(name.size()) > roomBehind(m_pFreeForNames))
+    if (!nameAnew(m_pAnnouncedEnd, name))
         return 0;
-    copyName(name, m_pFreeForNames);
-    *m_pAnnouncedEnd++ = { m_pFreeForNames, name.size(), value };
-    m_pFreeForNames += name.size();
+    (m_pAnnouncedEnd++)->value = value;
     return 1;
+}
+
+// Whether the place holds that name from the time before.
+bool VorExprEvVariableList::isStillNamed(const Announced* pPlace, const wchar_t* pName) const
+{
+    return pPlace < m_pNamedEnd && std::wcscmp(pName, pPlace->pName) == 0;
+}
+
+// Copies the name behind that of the place before, over those of later places, which have none from now on.
+bool VorExprEvVariableList::nameAnew(Announced* pPlace, std::wstring_view name)
+{
+    wchar_t* const pCopy = m_announcedNames + (pPlace == m_announced ? 0 : pPlace[-1].end() - m_announcedNames);
+    if (pPlace == std::end(m_announced) ||
+        std::end(m_announcedNames) - pCopy <= static_cast<std::ptrdiff_t>(name.size()))
+        return false;
+    name.copy(pCopy, name.size());
+    pCopy[name.size()] = L'\0';
+    pPlace->pName = pCopy;
+    pPlace->length = name.size();
+    m_pNamedEnd = pPlace + 1;
+    return true;
 }
 
 void VorExprEvVariableList::makeAnnounced()

@@ -9,7 +9,8 @@
 // holds them, unless keepNames has made them its own.
 //
 // evaluateFormula goes a shorter way: it announces its variables, numbers with copied names that cost no memory of their
-// own, and the list makes variables of them only for who asks for one.
+// own, and the list makes variables of them only for who asks for one. Whoever computes a formula for many rows announces
+// the same names in the same places each time: a name that is still there from the time before is not copied again.
 //
 // Invariant: the index is either empty or holds, for every name in the list, its newest variable.
 #pragma once
@@ -40,7 +41,7 @@ public:
     const VorExprEvVariable* head();
     int count() const { return m_nCount + static_cast<int>(m_pAnnouncedEnd - m_announced); }
 
-    // A variable that is not made yet. The list owns its name.
+    // A variable that is not made yet. The list owns its name, which ends in a zero character.
     struct Announced
     {
         const wchar_t* pName;
@@ -48,6 +49,7 @@ public:
         double value;
 
         std::wstring_view name() const { return { pName, length }; }
+        const wchar_t* end() const { return pName + length + 1; } // behind the zero character
     };
 
     // Adds double variables to the empty list, null names passed over, the last one newest. Nothing is kept of the
@@ -98,7 +100,8 @@ private:
     };
     using Index = std::unordered_map<VorExprEvTextView, const VorExprEvVariable*, NameHash, NameEqual>;
 
-    std::ptrdiff_t roomBehind(const wchar_t* pName) const { return std::end(m_announcedNames) - pName; }
+    bool isStillNamed(const Announced* pPlace, const wchar_t* pName) const;
+    bool nameAnew(Announced* pPlace, std::wstring_view name);
     void makeAnnounced();
     void deleteVariables();
     const VorExprEvVariable* findInList(const VorExprEvTextView& name) const;
@@ -109,8 +112,8 @@ private:
     int m_nCount = 0;
     Index m_index;
     Announced m_announced[kMostAnnounced];
-    Announced* m_pAnnouncedEnd = m_announced; // newer than all that are in the list
-    wchar_t m_announcedNames[kMostAnnouncedCharacters];
-    wchar_t* m_pFreeForNames = m_announcedNames; // behind the name of the last announced
-    std::wstring m_names; // those kept
+    Announced* m_pAnnouncedEnd = m_announced;           // newer than all that are in the list
+    Announced* m_pNamedEnd = m_announced;               // those before it have a name: their own, or of the time before
+    wchar_t m_announcedNames[kMostAnnouncedCharacters]; // one after the other, in the order of m_announced
+    std::wstring m_names;                               // those kept
 };

@@ -10,11 +10,12 @@
 
 namespace VorFormulaText
 {
-// How tightly each of them binds is told by VorFormulaCharacters.h.
-inline constexpr std::wstring_view kOperators = L"*/+-=()";
+// What stands between operands: the operators, and the blanks around an operand.
+inline constexpr std::wstring_view kDelimiters = L"*/+-=() \t\n\r";
 
-// The characters that may surround an operand.
-inline constexpr std::wstring_view kBlanks = L" \t\n\r";
+// How tightly each of them binds is told by VorFormulaCharacters.h.
+inline constexpr std::wstring_view kOperators = kDelimiters.substr(0, 7);
+inline constexpr std::wstring_view kBlanks = kDelimiters.substr(7);
 
 // Formulas with fewer characters are not computed, however valid. On purpose: arbitrary, but visible to callers.
 // Pinned by evaluateFormulaTest.FormulasShorterThanFourCharactersAreRefused.

@@ -4,7 +4,6 @@
 #include "OneShot/VorFormulaCalculator.h"
 #include "VorExprEvVariableList.h"
 #include "VorExprEvalErrorHandler.h"
-#include "VorExpressionEvaluator.h"
 #include "VorFormulaText.h"
 
 #include "MekRoots/Exp/VorString.h"
@@ -24,16 +23,10 @@ bool isTooShort(const wchar_t* formula)
     return nLength < VorFormulaText::kShortest;
 }
 
-// The trees of a traced formula are wanted, and the quick way has none.
-bool isTraced()
-{
-    return ExpressionsEvaluator::m_nTraceTrees != 0 || VorExpressionEvaluator::m_nTraceStacks != 0;
-}
-
 int evaluateQuickly(const wchar_t* formula, const wchar_t* const* names, const double* values, int count,
                     VorExprEvVariableList& variables, double& result)
 {
-    if (isTraced() || !variables.announce(names, values, count))
+    if (ExpressionsEvaluator::isTraced() || !variables.announce(names, values, count))
         return 0;
     return VorFormulaCalculator(variables).calculate(formula, result);
 }

@@ -392,3 +392,53 @@ TEST_F(evaluateFormulaTest, TheLocaleHasNoInfluence)
     EXPECT_EQ(1, outcome.nResult);
     EXPECT_EQ(1.75, outcome.result);
 }
+
+TEST_F(evaluateFormulaTest, NothingOfTheCallersTextsIsLookedAtAfterwards)
+{
+    const double values[] = { 2.0, 3.0 };
+    for (const wchar_t* text : { L"step=a*2;step+%Long Name*1", L"a + x", L"(a+1", L"step=a;step/0.0+1" })
+    {
+        std::wstring formula(text);
+        std::wstring a(L"a");
+        std::wstring longName(L"%Long Name");
+        const wchar_t* const names[] = { a.c_str(), longName.c_str() };
+        evaluateFormula(formula.c_str(), names, values, 2, nullptr);
+
+        formula.assign(formula.size(), L'?');
+        a.assign(a.size(), L'?');
+        longName.assign(longName.size(), L'?');
+
+        VorString expected(text[0] != L's' ? L"" : text[6] == L'*' ? L"step=4.000000 " : L"step=2.000000 ");
+        expected += L"%Long Name=3.000000 a=2.000000";
+        EXPECT_EQ(expected, variables()) << toUtf8(text);
+        EXPECT_NE(nullptr, VorExprEvVariableList::ofThread().find(view(L"%Long Name")));
+        EXPECT_EQ(nullptr, VorExprEvVariableList::ofThread().find(view(L"?")));
+    }
+}
+
+TEST_F(evaluateFormulaTest, NamesAreKeptHoweverManyAndLong)
+{
+    for (const int numNames : { 3, 32, 33, 100 })
+        for (const std::size_t length : { 1U, 3U, 4U, 5U, 8U, 33U, 400U })
+        {
+            std::vector<std::wstring> texts;
+            std::vector<const wchar_t*> names;
+            for (int i = 0; i < numNames; ++i)
+                texts.push_back(std::wstring(length - 1, L'x') + static_cast<wchar_t>(L'\u0100' + i));
+            for (const std::wstring& text : texts)
+                names.push_back(text.c_str());
+            const std::vector<double> values(texts.size(), 0.5);
+            const std::vector<std::wstring> expected = texts;
+            double result = kUntouched;
+
+            EXPECT_EQ(1, evaluateFormula((texts[1] + L"*4.0").c_str(), names.data(), values.data(), numNames, &result));
+
+            EXPECT_EQ(2.0, result);
+            for (std::wstring& text : texts)
+                text.assign(length, L'?');
+            std::size_t i = expected.size();
+            for (const VorExprEvVariable* p = VorExprEvVariableList::ofThread().head(); p != nullptr; p = p->next())
+                ASSERT_EQ(expected[--i], p->name().existingPart());
+            EXPECT_EQ(0U, i);
+        }
+}

@@ -4,7 +4,7 @@
 //                      L"[Display]\n"
 //                      L"C40_SuppressZeroFeet = 1\n");
 //   while (reader.next() == 1)
-//       store(reader.key(), reader.value());         "C40_SuppressZeroFeet", "1"
+//       store(reader.key(), reader.value());   // "C40_SuppressZeroFeet", "1"
 //   if (!reader.fault().isEmpty())
 //       complain(reader.line(), reader.fault());
 //

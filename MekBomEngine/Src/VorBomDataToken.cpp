@@ -2,6 +2,8 @@
 
 #include "VorBomTokenCatalogue.h"
 
+#include "ExpressionEvaluator/Src/VorFormulaText.h"
+
 #include "MekRoots/Exp/VorAssert.h"
 
 const VorString VorBomDataToken::kTokenPrefix(L"%");
@@ -17,7 +19,7 @@ namespace
 {
 const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomDataToken";
 const VorString kComma(L",");
-const VorString kFormulaDelimiters(L"*/+-=() \t\n\r");
+const VorString kFormulaDelimiters(VorFormulaText::kDelimiters.data());
 
 // As `text.find(prefix, 0) == 0`, without a search through the whole text.
 bool startsWith(const VorString& text, const VorString& prefix)

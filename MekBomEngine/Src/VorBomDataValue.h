@@ -122,7 +122,6 @@ protected:
     void empty();
 
 private:
-    friend class VorBomEvaluator2; // replaces values, sums them up
     friend struct VorBomDataValueAccess;
 
     int intValue() const { return *static_cast<const int*>(m_pData); }

@@ -39,6 +39,15 @@ bool isLastLevel(const VorBomEngineStateArray& stack, int level)
     return level == lastLevelOf(stack);
 }
 
+// Whenever a level opens, all below it open for the same row: the formula computed last is one of the deepest level that
+// has any.
+void leaveLastFormula(VorBomEngineStateArray& stack)
+{
+    int level = lastLevelOf(stack);
+    while (level >= 0 && stack[level].m_pPlan->header.leaveLastFormula() == 0)
+        --level;
+}
+
 // Destroys what an evaluation that ends early has made and nobody has taken.
 class SectionsInProgress
 {
@@ -105,6 +114,7 @@ int VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineS
     for (int level = lastLevelOf(stack); level >= 0; --level)
         endGroup(stack, level, pUnits);
     handOverGroups(stack, 0);
+    leaveLastFormula(stack);
     return 1;
 }
 

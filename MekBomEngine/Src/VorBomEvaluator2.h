@@ -22,7 +22,7 @@
 //         group footer 4.00
 //       report footer
 //
-// What one evaluation changes in its input, and nothing else:
+// What one evaluation changes in its input, whether it comes to its end or not, and nothing else:
 //   - the rows are brought into sorted order, by relinking them. On purpose the data's lastChild() goes on naming the row
 //     that was last before; nothing may be appended to the data afterwards.
 //   - tuples that were copied into a header or details section have their used flag set;
@@ -51,13 +51,16 @@ class MEK_BOM_API VorBomEvaluator2
 public:
     // Evaluates pTemplate with its data and units, and appends the evaluated sections of the first level to pResult,
     // which owns them then. Returns 1; 0 with pResult untouched when pTemplate is null or has no section. Without data,
-    // or with data without rows, nothing is appended. With a null pResult everything made is destroyed again and
-    // "NULL != completedGroup.m_pCollector" is reported.
+    // or with data without rows, nothing is appended and the answer is 1. With a null pResult the report is evaluated all
+    // the same, and its input changed; "NULL != completedGroup.m_pCollector" is reported and the sections are destroyed.
     static int evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResult);
 
-    // The same report, handed to `sink` section by section as evaluation goes on instead of being kept: beside a pointer
-    // for each row and level it takes the memory of a line or two. Returns 1; 0 without template or section, and when the
-    // sink stopped it. What the sink throws passes through.
+    // The same report, handed to `sink` section by section as evaluation goes on instead of being kept. For each level it
+    // takes a pointer to every row of the group now open, and the memory of a line. Returns 1; 0 without template or
+    // section, and when the sink stopped it. What the sink throws passes through. The header of a sink says what it gets.
+    //
+    // One difference: the sink gets a header when its group opens, the tree shows it when the group closes. A formula
+    // further in that lends its text a unit meanwhile changes a header's column under that very text in the tree alone.
     static int evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sink);
 
 private:

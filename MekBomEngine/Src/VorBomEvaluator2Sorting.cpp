@@ -1,6 +1,7 @@
 // The sorting operations of VorBomEvaluator2. Input rows are put in order by VorBomSortedRows; evaluated sections are
 // sorted here, each header together with the footer that follows it.
 #include "VorBomEvaluator2.h"
+
 #include "VorBomSortedRows.h"
 #include "VorStableMergeSort.h"
 
@@ -135,7 +136,7 @@ int VorBomEvaluator2::sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngin
     return 1;
 }
 
-// Compares one pair of rows by the keys of the last input sort; the sort itself looks the keys up once per row.
+// One pair of rows, by the keys of the last input sort: what VorBomSortedRows asks where ranks give no order.
 int VorBomEvaluator2::compareDataRow(const void* pFirst, const void* pSecond)
 {
     const VorBomDataRow* pFirstItemData = *static_cast<VorBomDataRow* const*>(pFirst);
@@ -144,14 +145,9 @@ int VorBomEvaluator2::compareDataRow(const void* pFirst, const void* pSecond)
     reportUnless(pSecondItemData != nullptr, L"NULL != pSecondItemData", __LINE__);
     if (pFirstItemData == nullptr || pSecondItemData == nullptr)
         return 0;
-    for (int i = 0; i < m_arrTokensToSortDataRow.length(); ++i)
-    {
-        const VorString& token = m_arrTokensToSortDataRow[i];
-        VorBomSortedRows::KeyComparison key(token, m_arrSortOrderForDataRow[i]);
-        if (const int order = key.compare(pFirstItemData->getTupleAt(token), pSecondItemData->getTupleAt(token)))
-            return order;
-    }
-    return 0;
+    VorBomSortKeys keys(m_arrTokensToSortDataRow, m_arrSortOrderForDataRow);
+    return keys.compare([&](std::size_t key) { return pFirstItemData->getTupleAt(keys.token(key)); },
+                        [&](std::size_t key) { return pSecondItemData->getTupleAt(keys.token(key)); });
 }
 
 int VorBomEvaluator2::sortSubGroupsOnLevels(VorBomTemplateItem* pItem, VorBomEngineStateArray& stack, int level)

@@ -3,6 +3,8 @@
 #include "VorBomDefaultTemplate.h"
 #include "VorBomTokenTrace.h"
 
+#include "MekRoots/Exp/VorStringOrder.h"
+
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -139,9 +141,7 @@ const VorStringArray& VorBomTemplate::getTokenTrace()
 
 bool VorBomTemplate::isTokenRequired(const VorString& token) const
 {
-    const auto isBefore = [](const VorString& a, const VorString& b)
-    { return VorString::strCompareNoCase(&a, &b) < 0; };
-    return std::binary_search(m_tokenTrace.begin(), m_tokenTrace.end(), token, isBefore);
+    return std::binary_search(m_tokenTrace.begin(), m_tokenTrace.end(), token, VorStringLessNoCase());
 }
 
 int VorBomTemplate::getUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens)

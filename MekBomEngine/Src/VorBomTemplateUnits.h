@@ -62,7 +62,8 @@ public:
     // The registered type; kNoUnit for a token that is not registered.
     eTokenUnitType getUnitType(VorString token) const;
 
-    // How many tokens are registered; a type once given stays until this number changes.
+    // How many tokens are registered. What getUnitType() answers for a token can change only together with this number,
+    // and only from kNoUnit: a type, once registered, stays for good.
     int numTokenTypes() const { return m_tokenTypes.count(); }
 
     // The text that a report shows for `value`, a number in internal units: in the unit of the token's kind; as "%g"

@@ -4,9 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include <new>
-
 #include <memory>
+#include <new>
 #include <string>
 
 namespace

@@ -1,6 +1,8 @@
 #include "VorBomFormulaColumn.h"
 
 #include "ExpressionEvaluator/Src/ExpressionsEvaluator.h"
+#include "ExpressionEvaluator/Src/VorExprEvVariableList.h"
+#include "ExpressionEvaluator/Src/VorFormulaText.h"
 
 #include <algorithm>
 #include <string_view>
@@ -8,13 +10,9 @@
 
 namespace
 {
-constexpr int kShortestFormula = 4; // characters; arbitrary, but visible to callers
-const wchar_t kOperators[] = L"*/+-=()";
-
 bool isComputable(const VorString& formula)
 {
-    const std::wstring_view text(formula.getStringW(), static_cast<std::size_t>(formula.length()));
-    return formula.length() >= kShortestFormula && text.find_first_of(kOperators) != std::wstring_view::npos;
+    return VorFormulaText::isFormula({ formula.getStringW(), static_cast<std::size_t>(formula.length()) });
 }
 
 bool isBefore(const VorString& a, const VorString& b)
@@ -91,10 +89,20 @@ VorBomFormulaColumn::VorBomFormulaColumn(std::shared_ptr<VorBomRowLayouts> pLayo
     }
 }
 
-int VorBomFormulaColumn::compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result)
+int VorBomFormulaColumn::compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result,
+                                 VorString* pMessage)
 {
-    if (!m_isCompiled)
-        return computeOnce(tuples, m_nIndex, pRow, result);
+    if (!m_isCompiled || ExpressionsEvaluator::isTraced())
+        return computeOnce(tuples, m_nIndex, pRow, result, pMessage);
+    if (computeCompiled(tuples, pRow, result))
+        return 1;
+    if (pMessage != nullptr) // which the compiled formula does not know
+        computeOnce(tuples, m_nIndex, pRow, result, pMessage);
+    return 0;
+}
+
+int VorBomFormulaColumn::computeCompiled(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result)
+{
     if (pRow != nullptr)
         m_rowColumns.find(*pRow);
     for (std::size_t name = 0; name < m_values.size(); ++name)
@@ -119,7 +127,9 @@ int VorBomFormulaColumn::computeOnce(const VorBomDataTupleArray& tuples, int ind
     defineRowVariables(evaluator, pRow, rowTokens);
 
     wchar_t text[VorExprEvValue::kBufferLength];
-    if (!evaluator.evaluate(text))
+    const int nResult = evaluator.evaluate(text);
+    VorExprEvVariableList::ofThread().keepNames(); // those of the section and the row go, the variables stay
+    if (!nResult)
     {
         if (pMessage != nullptr)
             *pMessage = VorString(text);

@@ -25,15 +25,17 @@ public:
 
     int index() const { return m_nIndex; }
 
-    // 0 with `result` untouched when the formula is none or fails. The row may be null.
-    int compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result);
+    // 0 with `result` untouched when the formula is none or fails. The row may be null. `pMessage`, if not null, is set to
+    // the message of a formula that fails, which costs another evaluation.
+    int compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result, VorString* pMessage = nullptr);
 
-    // The same through the formula evaluator's own variables, which hold afterwards what the formula saw. `pMessage`, if
-    // not null, is set to the message of a formula that fails.
+    // The same through the formula evaluator, whose variables and errors of this thread are afterwards those of the
+    // formula. What a debug switch lets see is seen once.
     static int computeOnce(const VorBomDataTupleArray& tuples, int index, const VorBomDataRow* pRow, double& result,
                            VorString* pMessage = nullptr);
 
 private:
+    int computeCompiled(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result);
     static VorString formulaOf(const VorBomDataTuple& tuple);
     std::vector<int> tuplesNamed(const VorString& name, const VorBomDataTupleArray& tuples) const;
     int findInSection(std::size_t name, const VorBomDataTupleArray& tuples, double& value) const;

@@ -1,5 +1,7 @@
 #include "VorBomHeaderPlan.h"
 
+#include "ExpressionEvaluator/Src/ExpressionsEvaluator.h"
+
 #include "MekRoots/Exp/VorAssert.h"
 
 #include <algorithm>
@@ -40,6 +42,13 @@ VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum,
         pDatum->setUsed(1); // rows of an earlier evaluation are marked: their memory need not be written
     return VorBomDataTuple(column.token().token(), pDatum->value(), cells, column.used());
 }
+
+// The same tuple once more, without the report that the first one raised.
+VorBomDataTuple tupleAgainFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, VorBomPayloadCells& cells)
+{
+    const bool isEmpty = pDatum != nullptr && pDatum->value().type() == VorBomDataValue::kUnknownData;
+    return tupleFor(column, isEmpty ? nullptr : pDatum, cells);
+}
 }
 
 VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section)
@@ -57,13 +66,19 @@ VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLay
 
 std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row)
 {
+    return makeSection(row, tupleFor);
+}
+
+template <class TupleFor>
+std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::makeSection(VorBomDataRow& row, TupleFor makeTuple)
+{
     m_columns.find(row);
     const VorBomDataTupleArray& columns = m_section.getData();
     auto pEvaluated = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
     VorBomPayloadCells cells(columns.length());
     pEvaluated->getData().setPhysicalLength(columns.length());
-    pEvaluated->getData().appendMade(columns.length(), [this, &cells, pColumns = columns.begin()](int i)
-                                     { return tupleFor(pColumns[i], m_columns[i], cells); });
+    pEvaluated->getData().appendMade(columns.length(), [this, &cells, makeTuple, pColumns = columns.begin()](int i)
+                                     { return makeTuple(pColumns[i], m_columns[i], cells); });
     return pEvaluated;
 }
 
@@ -71,29 +86,45 @@ void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomData
 {
     VorBomDataTupleArray& tuples = evaluated.getData();
     m_failures.clear();
+    m_pLastRow = pRow;
+    VorString message;
     for (VorBomFormulaColumn& formula : m_formulas)
     {
         VorBomDataTuple& tuple = tuples.begin()[formula.index()];
         double result = 0;
-        if (formula.compute(tuples, pRow, result))
+        if (formula.compute(tuples, pRow, result, m_keepsFailures ? &message : nullptr))
         {
             tuple.value().set(result);
             if (pRow != nullptr)
                 pRow->getData().emplace(tuple.token().token(), result, cellsForRows());
         }
-        else if (m_keepsFailures)
-            keepFailure(formula, tuples, pRow);
+        else if (!message.isEmpty()) // a formula that is none has no message: there is nothing to compute
+        {
+            m_failures.push_back({ tuple.token().token(), message });
+            message = VorString();
+        }
     }
 }
 
-// Nothing for a formula that is none: there is nothing to compute.
-void VorBomHeaderPlan::keepFailure(const VorBomFormulaColumn& formula, const VorBomDataTupleArray& tuples,
-                                   const VorBomDataRow* pRow)
+// The row has not changed, but for the results appended to it, which no formula takes from it; so all formulas give again
+// what they gave.
+int VorBomHeaderPlan::leaveLastFormula()
 {
-    double result = 0;
-    VorString message;
-    if (!VorBomFormulaColumn::computeOnce(tuples, formula.index(), pRow, result, &message) && !message.isEmpty())
-        m_failures.push_back({ tuples[formula.index()].token().token(), message });
+    if (m_formulas.empty() || m_pLastRow == nullptr)
+        return 0;
+    if (ExpressionsEvaluator::isTraced())
+        return 1; // nothing was compiled, and computing again would be seen
+    const std::unique_ptr<VorBomTemplateItem> pEvaluated = makeSection(*m_pLastRow, tupleAgainFor);
+    VorBomDataTupleArray& tuples = pEvaluated->getData();
+    for (VorBomFormulaColumn& formula : m_formulas)
+    {
+        double result = 0;
+        if (&formula == &m_formulas.back())
+            VorBomFormulaColumn::computeOnce(tuples, formula.index(), m_pLastRow, result);
+        else if (formula.compute(tuples, m_pLastRow, result))
+            tuples[formula.index()].value().set(result);
+    }
+    return 1;
 }
 
 VorBomPayloadCells& VorBomHeaderPlan::cellsForRows()

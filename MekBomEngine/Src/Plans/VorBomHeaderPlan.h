@@ -32,6 +32,10 @@ public:
     // null.
     void computeFormulas(VorBomTemplateItem& evaluated, VorBomDataRow* pRow);
 
+    // Leaves the variables and errors of the formula computed last in the thread's lists, which compiled formulas do not
+    // touch: computes it once more, for a section made anew. The rows must still be there. 0 when none was computed.
+    int leaveLastFormula();
+
     // A formula that could not be computed, and why.
     struct Failure
     {
@@ -48,12 +52,14 @@ public:
     VorBomDisplayPlan& display() { return m_display; }
 
 private:
-    void keepFailure(const VorBomFormulaColumn& formula, const VorBomDataTupleArray& tuples, const VorBomDataRow* pRow);
+    template <class TupleFor>
+    std::unique_ptr<VorBomTemplateItem> makeSection(VorBomDataRow& row, TupleFor makeTuple);
     VorBomPayloadCells& cellsForRows();
 
     const VorBomTemplateItem& m_section;
     VorBomColumns m_columns; // one per tuple of the section; formulas are left out
     std::vector<VorBomFormulaColumn> m_formulas;
+    VorBomDataRow* m_pLastRow = nullptr;              // the one that formulas were computed for last; not owned
     std::optional<VorBomPayloadCells> m_cellsForRows; // of results; apart from the sections, which go before the rows
     int m_numCellsForRows = 0;                        // of those taken last
     bool m_keepsFailures = false;

@@ -1,5 +1,6 @@
 #include "VorBomTextMemo.h"
 
+#include <algorithm>
 #include <utility>
 
 void VorBomTextMemo::remember(std::uint64_t key, const VorString& text)
@@ -11,12 +12,11 @@ void VorBomTextMemo::remember(std::uint64_t key, const VorString& text)
     Entry& entry = entryToReplace(key);
     entry.key = key;
     entry.text = text;
-    ++m_nNumRemembered;
-    if (m_nNumRemembered + m_nNumFound < kNumTrials)
+    m_trial.countMiss();
+    if (!m_trial.isOver())
         return;
-    m_isUseless = m_nNumFound * (kFewestFoundIn - 1) < m_nNumRemembered;
-    m_nNumFound = 0;
-    m_nNumRemembered = 0;
+    m_isUseless = m_trial.hasFailed();
+    m_trial.begin();
     if (m_isUseless)
         clear();
 }
@@ -40,12 +40,12 @@ VorBomTextMemo::Entry& VorBomTextMemo::entryToReplace(std::uint64_t key)
         if (Entry* pFree = freeEntryFor(key))
             return *pFree;
         if (m_nSetBits == kMostSetBits)
-            return m_entries[firstEntryFor(key) + static_cast<std::size_t>(m_nNumRemembered) % kNumWays];
-        resize(m_nSetBits + 1);
+            return m_entries[firstEntryFor(key) + static_cast<std::size_t>(m_trial.numMissed()) % kNumWays];
+        resize(std::min(m_nSetBits + kSetBitsToGrowBy, kMostSetBits));
     }
 }
 
-// A set's entries are spread over two, so that each finds its place.
+// Entries of one set stand in several then, so that each finds its place.
 void VorBomTextMemo::resize(int setBits)
 {
     std::vector<Entry> entries((std::size_t{ 1 } << setBits) * kNumWays);

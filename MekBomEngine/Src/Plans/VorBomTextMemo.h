@@ -8,6 +8,8 @@
 // kNumTrials of them: from then on nothing is remembered.
 #pragma once
 
+#include "MekRoots/Exp/VorFibonacciHash.h"
+#include "MekRoots/Exp/VorHitTrial.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <cstddef>
@@ -26,7 +28,7 @@ public:
         {
             if (pEntry->key != key || pEntry->text.isEmpty())
                 continue;
-            ++m_nNumFound;
+            m_trial.countFind();
             return &pEntry->text;
         }
         return nullptr;
@@ -51,20 +53,17 @@ private:
     static constexpr int kNumTrials = 256;     // arbitrary: enough to tell
     static constexpr int kFewestSetBits = 1;   // 128 bytes: a report may have thousands of levels with a number each
     static constexpr int kMostSetBits = 8;     // 16 KB, so that those of all columns fit the inner caches
+    static constexpr int kSetBitsToGrowBy = 2; // fourfold: fewer entries are moved than by doubling
     static constexpr std::size_t kNumWays = 4; // entries that a key may stand in, a line of the cache
     static constexpr int kFewestFoundIn = 4;   // one of so many, or remembering costs more than it saves
 
-    std::size_t firstEntryFor(std::uint64_t key) const
-    {
-        return static_cast<std::size_t>(key * 0x9E3779B97F4A7C15U >> (64 - m_nSetBits)) * kNumWays; // Fibonacci hashing
-    }
+    std::size_t firstEntryFor(std::uint64_t key) const { return VorFibonacciHash::placeOf(key, m_nSetBits) * kNumWays; }
     Entry* freeEntryFor(std::uint64_t key);
     Entry& entryToReplace(std::uint64_t key);
     void resize(int setBits);
 
     std::vector<Entry> m_entries; // none before the first text, and once remembering has proved useless
     int m_nSetBits = kFewestSetBits;
-    int m_nNumFound = 0;
-    int m_nNumRemembered = 0;
+    VorHitTrial m_trial{ kNumTrials, kFewestFoundIn };
     bool m_isUseless = false;
 };

@@ -8,30 +8,9 @@
 #include <memory>
 #include <numeric>
 
-int VorBomSortedRows::KeyComparison::compare(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
-{
-    const int order = compareValues(pFirst, pSecond);
-    return m_isAscending ? order : -order;
-}
-
-int VorBomSortedRows::KeyComparison::compareValues(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
-{
-    const bool bothHaveIt = pFirst != nullptr && pSecond != nullptr;
-    if (bothHaveIt && !m_knowsSortType)
-    {
-        m_isNatural = VorBomDataToken::getSortType(m_token) == VorBomDataToken::kSortAlphanumeric;
-        m_knowsSortType = true;
-    }
-    if (bothHaveIt && m_isNatural)
-        return pFirst->value().compareAlphanumeric(pSecond->value());
-    return VorBomDataTuple::compareValues(pFirst, pSecond);
-}
-
 VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorStringArray& tokens, const VorArray<int>& orders)
-    : m_columns(static_cast<std::size_t>(tokens.length()))
+    : m_keys(tokens, orders), m_columns(m_keys.count())
 {
-    for (int i = 0; i < tokens.length(); ++i)
-        m_keys.emplace_back(tokens[i], orders[i]);
     for (VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
         m_rows.push_back(pRow);
     for (Column& column : m_columns)
@@ -62,22 +41,20 @@ std::vector<VorBomItemBase*> VorBomSortedRows::sorted()
 // False with `indices` untouched when a column cannot be ranked, or its token is one that comparing reports as unknown.
 bool VorBomSortedRows::sortByRanks(std::vector<std::uint32_t>& indices) const
 {
-    std::vector<VorBomRanks> ranks(m_keys.size());
-    for (std::size_t key = 0; key < m_keys.size(); ++key)
+    std::vector<VorBomRanks> ranks(m_keys.count());
+    for (std::size_t key = 0; key < m_keys.count(); ++key)
     {
-        const VorBomTokenCatalogue::Entry* pEntry = VorBomTokenCatalogue::find(m_keys[key].token());
+        const VorBomTokenCatalogue::Entry* pEntry = VorBomTokenCatalogue::find(m_keys.token(key));
         if (pEntry == nullptr || !ranks[key].create(m_columns[key], pEntry->sort))
             return false;
     }
-    for (std::size_t key = m_keys.size(); key-- > 0;)
-        ranks[key].sortStably(indices, m_keys[key].isAscending());
+    for (std::size_t key = m_keys.count(); key-- > 0;)
+        ranks[key].sortStably(indices, m_keys.isAscending(key));
     return true;
 }
 
 int VorBomSortedRows::compareRows(std::uint32_t first, std::uint32_t second)
 {
-    for (std::size_t key = 0; key < m_keys.size(); ++key)
-        if (const int order = m_keys[key].compare(m_columns[key][first], m_columns[key][second]))
-            return order;
-    return 0;
+    return m_keys.compare([this, first](std::size_t key) { return m_columns[key][first]; },
+                          [this, second](std::size_t key) { return m_columns[key][second]; });
 }

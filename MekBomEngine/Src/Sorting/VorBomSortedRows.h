@@ -9,6 +9,7 @@
 #pragma once
 
 #include "VorBomData.h"
+#include "VorBomSortKeys.h"
 
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
@@ -27,35 +28,13 @@ public:
     // The row that was last when the rows were looked up; null without rows.
     VorBomItemBase* lastInList() const { return m_rows.empty() ? nullptr : m_rows.back(); }
 
-    // One key's comparison of two rows' tuples: natural or plain, as the token's sort type asks for.
-    class KeyComparison
-    {
-    public:
-        KeyComparison(const VorString& token, int ascending) : m_token(token), m_isAscending(ascending == 1) {}
-
-        // -1, 0 or 1; either may be null. The catalogue is asked at the first comparison of two values, since it
-        // reports tokens that it does not know, and only then.
-        int compare(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond);
-
-        const VorString& token() const { return m_token; }
-        bool isAscending() const { return m_isAscending; }
-
-    private:
-        int compareValues(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond);
-
-        VorString m_token;
-        bool m_isAscending;
-        bool m_knowsSortType = false;
-        bool m_isNatural = false;
-    };
-
 private:
     using Column = std::vector<const VorBomDataTuple*>; // one tuple per row
 
     bool sortByRanks(std::vector<std::uint32_t>& indices) const;
     int compareRows(std::uint32_t first, std::uint32_t second);
 
-    std::vector<KeyComparison> m_keys;
+    VorBomSortKeys m_keys;
     std::vector<VorBomItemBase*> m_rows;
     std::vector<Column> m_columns; // one per key
 };

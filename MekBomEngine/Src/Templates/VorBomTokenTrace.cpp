@@ -38,8 +38,7 @@ void VorBomTokenTrace::addSortingTokens(const VorStringArray& tokens)
 
 void VorBomTokenTrace::sort()
 {
-    std::stable_sort(m_tokens.begin(), m_tokens.end(),
-                     [](const VorString& a, const VorString& b) { return VorString::strCompareNoCase(&a, &b) < 0; });
+    std::stable_sort(m_tokens.begin(), m_tokens.end(), VorStringLessNoCase());
 }
 
 bool VorBomTokenTrace::addIfNew(const VorString& token)

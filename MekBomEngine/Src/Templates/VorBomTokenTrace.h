@@ -10,6 +10,7 @@
 
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
+#include "MekRoots/Exp/VorStringOrder.h"
 
 #include <set>
 
@@ -31,14 +32,9 @@ public:
     void sort();
 
 private:
-    struct IsBefore
-    {
-        bool operator()(const VorString& a, const VorString& b) const { return VorString::compare(a, b) < 0; }
-    };
-
     bool addIfNew(const VorString& token);
     void addTokensOfFormula(VorString token);
 
     VorStringArray& m_tokens;
-    std::set<VorString, IsBefore> m_known; // ordered: no choice of tokens makes the look-up slow
+    std::set<VorString, VorStringLess> m_known; // ordered: no choice of tokens makes the look-up slow
 };

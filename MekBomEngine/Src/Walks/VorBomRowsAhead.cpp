@@ -2,19 +2,12 @@
 
 #include "VorBomDataRow.h"
 
+#include "MekRoots/Exp/VorMemoryHint.h"
+
 #include <cstddef>
 
 namespace
 {
-void bringIn(const void* pMemory)
-{
-#if defined(__GNUC__)
-    __builtin_prefetch(pMemory);
-#else
-    static_cast<void>(pMemory);
-#endif
-}
-
 constexpr std::size_t kLine = 64; // bytes in a line of the cache
 
 // To be inlined: g++ takes a function that only fetches for one without effect and drops calls of it.
@@ -22,8 +15,8 @@ inline void bringIn(const void* pMemory, std::size_t size)
 {
     const char* pLine = static_cast<const char*>(pMemory);
     for (std::size_t offset = 0; offset < size; offset += kLine)
-        bringIn(pLine + offset);
-    bringIn(pLine + size - 1); // what begins within a line ends in one more
+        VorMemoryHint::willRead(pLine + offset);
+    VorMemoryHint::willRead(pLine + size - 1); // what begins within a line ends in one more
 }
 
 void bringInNext(const VorBomItemBase& row)
@@ -43,7 +36,7 @@ void bringInTuples(const VorBomItemBase& row)
 void bringInPayloads(const VorBomItemBase& row)
 {
     for (const VorBomDataTuple& tuple : row.getData())
-        bringIn(tuple.value().data());
+        VorMemoryHint::willRead(tuple.value().data());
 }
 
 // Bytes of a text of some ten characters with what stands before them.

@@ -61,14 +61,10 @@ std::vector<VorBomItemBase*> sortedByComparing(VorBomData& data, const VorString
     vorStableMergeSort(rows,
                        [&](const VorBomItemBase* pFirst, const VorBomItemBase* pSecond)
                        {
-                           for (int i = 0; i < tokens.length(); ++i)
-                           {
-                               VorBomSortedRows::KeyComparison key(tokens[i], directions[i]);
-                               if (const int order =
-                                       key.compare(pFirst->getTupleAt(tokens[i]), pSecond->getTupleAt(tokens[i])))
-                                   return order <= 0;
-                           }
-                           return true;
+                           VorBomSortKeys keys(tokens, directions);
+                           return keys.compare([&](std::size_t key) { return pFirst->getTupleAt(keys.token(key)); },
+                                               [&](std::size_t key)
+                                               { return pSecond->getTupleAt(keys.token(key)); }) <= 0;
                        });
     return rows;
 }

@@ -1,39 +1,11 @@
 #include "EvaluatedReport.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace mekbom
 {
-TextExtent EvaluatedReport::extentOf(std::size_t column) const
-{
-    TextExtent all;
-    for (const SectionPlace place : placesWithLines())
-    {
-        const std::vector<int>& columns = m_layout.section(place).columns;
-        for (std::size_t i = 0; i < columns.size(); ++i)
-        {
-            if (columns[i] != static_cast<int>(column))
-                continue;
-            const TextExtent extent = m_sections.extentOf(place, i);
-            all.longest = std::max(all.longest, extent.longest);
-            all.areAllPlain = all.areAllPlain && extent.areAllPlain;
-        }
-    }
-    return all;
-}
-
-std::vector<std::string> EvaluatedReport::labelsIn(std::size_t column) const
-{
-    std::vector<std::string> labels;
-    for (const SectionPlace place : placesWithLines())
-    {
-        const SectionLayout& section = m_layout.section(place);
-        if (!section.label.empty() && section.labelColumn == static_cast<int>(column))
-            labels.push_back(section.label);
-    }
-    return labels;
-}
-
+// A section without any line tells nothing: the label of a footer does not widen a table without rows.
 std::vector<SectionPlace> EvaluatedReport::placesWithLines() const
 {
     std::vector<SectionPlace> places;
@@ -42,5 +14,22 @@ std::vector<SectionPlace> EvaluatedReport::placesWithLines() const
             if (m_sections.hasLineOf({ level, isFooter }))
                 places.push_back({ level, isFooter });
     return places;
+}
+
+std::vector<TextExtent> EvaluatedReport::textExtents() const
+{
+    std::vector<TextExtent> extents(columns().size());
+    for (const SectionPlace place : placesWithLines())
+    {
+        const std::vector<int>& shown = m_layout.section(place).columns;
+        for (std::size_t i = 0; i < shown.size(); ++i)
+        {
+            const TextExtent extent = m_sections.extentOf(place, i);
+            TextExtent& ofColumn = extents[static_cast<std::size_t>(shown[i])];
+            ofColumn.longest = std::max(ofColumn.longest, extent.longest);
+            ofColumn.areAllPlain = ofColumn.areAllPlain && extent.areAllPlain;
+        }
+    }
+    return extents;
 }
 }

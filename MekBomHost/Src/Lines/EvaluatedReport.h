@@ -1,15 +1,13 @@
 // An evaluated report as a writer of any format gets it: its title, its columns, and its lines as often as wanted.
 //
-//   void print(const EvaluatedReport& report, std::ostream& out)
-//   {
-//       for (const ReportColumn& column : report.columns())
-//           out << column.heading() << '\t';
-//       ReportLines lines = report.lines();
-//       ReportLine line;
-//       while (lines.next(line))
-//           for (const ShownText& text : line.texts)
-//               out << text.view() << '\t';
-//   }
+//   const EvaluatedReport report(reportTemplate, units, sections);
+//   for (const ReportColumn& column : report.columns())
+//       sink.write(column.heading() + "\t");
+//   ReportLines lines = report.lines();
+//   ReportLine line;
+//   while (lines.next(line))
+//       for (const ShownText& text : line.texts)
+//           sink.write(text.view());
 #pragma once
 
 #include "PackedSections.h"
@@ -20,7 +18,6 @@
 
 #include "MekRoots/Exp/VorUnitsManager.h"
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -47,15 +44,13 @@ public:
     // The lines from the first one on. Valid as long as the report.
     ReportLines lines() const { return ReportLines(m_layout, m_sections); }
 
-    // How far the texts of all lines reach in a column, without a look at the lines; labels are left out.
-    TextExtent extentOf(std::size_t column) const;
-
-    // The labels that some line has in a column.
-    std::vector<std::string> labelsIn(std::size_t column) const;
-
-private:
+    // The sections of which there is any line, from the outermost level inwards.
     std::vector<SectionPlace> placesWithLines() const;
 
+    // How far the texts of all lines reach, for each column, without a look at the lines; labels are left out.
+    std::vector<TextExtent> textExtents() const;
+
+private:
     const std::string& m_title;
     ReportLayout m_layout;
     const PackedSections& m_sections;

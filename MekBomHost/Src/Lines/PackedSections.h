@@ -3,7 +3,6 @@
 //
 //   PackedSections sections(reportTemplate);
 //   VorBomEvaluator2::evaluate(reportTemplate.pTemplate.get(), sections);
-//
 //   PackedSections::Reader reader(sections);
 //   SectionPlace place;
 //   while (reader.nextSection(place))

@@ -1,3 +1,12 @@
+// Columns come to be in the order in which somebody first names them, and a section takes each one at most once:
+//
+//   the template describes   %Weight                         columns  0 %Weight
+//   details show             %Name                           none is called so: a new one, 1 %Name
+//                            %Weight                         0
+//                            %SumBy:%Weight, in %Weight      0 is taken by this section: a new one, 2 %SumBy:%Weight
+//   the footer shows         %SumBy:%Weight, in %Weight      0, which this section has not taken yet
+//
+// What a column holds is known only then, since its unit has to be that of all tuples it shows.
 #include "ReportLayout.h"
 
 #include "Utf8.h"
@@ -71,19 +80,8 @@ ReportLayout::ReportLayout(const ReportTemplate& reportTemplate, const VorUnitsM
     for (const ColumnStyle& style : reportTemplate.columns)
         addColumn(style.token);
     layOutLevels(reportTemplate);
-    for (LevelLayout& level : m_levels)
-    {
-        placeLabel(level.header, m_columns.size());
-        placeLabel(level.footer, m_columns.size());
-        level.canShareLine = canShareLine(level.header, level.footer);
-    }
-    VorBomTemplate& engineTemplate = *reportTemplate.pTemplate;
-    const TokenQuantities quantities(*engineTemplate.getBomData(), *engineTemplate.getBomTemplateUnits(), units);
-    for (ReportColumn& column : m_columns)
-    {
-        describeContent(column, quantities);
-        describeLook(column, reportTemplate.columns);
-    }
+    completeLevels();
+    describeColumns(reportTemplate, units);
 }
 
 const SectionLayout& ReportLayout::section(SectionPlace place) const
@@ -122,6 +120,28 @@ SectionLayout ReportLayout::layOut(const ReportTemplate& reportTemplate, const V
         section.columns.push_back(column);
     }
     return section;
+}
+
+// Where labels stand is known when all columns are.
+void ReportLayout::completeLevels()
+{
+    for (LevelLayout& level : m_levels)
+    {
+        placeLabel(level.header, m_columns.size());
+        placeLabel(level.footer, m_columns.size());
+        level.canShareLine = canShareLine(level.header, level.footer);
+    }
+}
+
+void ReportLayout::describeColumns(const ReportTemplate& reportTemplate, const VorUnitsManager& units)
+{
+    VorBomTemplate& engineTemplate = *reportTemplate.pTemplate;
+    const TokenQuantities quantities(*engineTemplate.getBomData(), *engineTemplate.getBomTemplateUnits(), units);
+    for (ReportColumn& column : m_columns)
+    {
+        describeContent(column, quantities);
+        describeLook(column, reportTemplate.columns);
+    }
 }
 
 // The column of `token`, or, when the section has taken that already, one of the tuple's own.

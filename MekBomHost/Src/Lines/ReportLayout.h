@@ -55,6 +55,8 @@ public:
 private:
     void layOutLevels(const ReportTemplate& reportTemplate);
     SectionLayout layOut(const ReportTemplate& reportTemplate, const VorBomItemBase* pSection);
+    void completeLevels();
+    void describeColumns(const ReportTemplate& reportTemplate, const VorUnitsManager& units);
     int columnFor(const VorString& token, const VorString& tupleToken, const std::vector<int>& taken);
     int findColumn(const VorString& token) const;
     int addColumn(const VorString& token);

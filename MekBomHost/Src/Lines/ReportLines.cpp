@@ -1,3 +1,7 @@
+// One section is always read ahead: whether the line just read is complete depends on what follows it.
+//
+//   packed    header 1 "HEA200"   footer 1 "4" "24644"   header 1 "IPE360"   ...
+//   next()    takes the header, sees the footer of its level, takes that too, sees a header: the line is complete
 #include "ReportLines.h"
 
 #include <cstddef>

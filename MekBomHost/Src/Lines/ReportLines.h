@@ -10,7 +10,7 @@
 //   ReportLines lines(layout, sections);
 //   ReportLine line;
 //   while (lines.next(line))
-//       print(line.texts);
+//       sink.write(line.texts.front().view());
 //
 // A header and its footer share a line when nothing is printed between them and they do not want the same column.
 #pragma once

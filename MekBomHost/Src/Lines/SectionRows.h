@@ -6,7 +6,7 @@
 //   rows.add(row2);          // whose line reads the same and was merged into it
 //   rows.beginList();        // of a total over row 1, which alone counts
 //   rows.add(row1);
-//   rows.list(0)             // row 1, row 2
+//   rows.list(0);            // row 1, row 2
 #pragma once
 
 #include "VorBomDataRow.h"

@@ -1,3 +1,9 @@
+// Says of a token, before it is shown, what the engine will do with its numbers: the same look-ups in the same order.
+//
+//   "%SumBy:%Formula:%Weight*2"
+//     datum       %Formula:%Weight*2        formulas give doubles
+//     unit type   of "%Weight*2": none      so that of its first operand with one, "%Weight": kWeightUnit
+//     kind        "weight", in pounds: "lb"
 #include "TokenQuantities.h"
 
 #include "Utf8.h"

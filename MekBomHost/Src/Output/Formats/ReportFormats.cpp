@@ -18,6 +18,7 @@ std::unique_ptr<ReportWriter> create()
     return std::make_unique<Writer>();
 }
 
+// A new format is a line here.
 const Format kFormats[] = {
     { kText, create<TextTableWriter> },
 };

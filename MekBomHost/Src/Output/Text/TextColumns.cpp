@@ -39,10 +39,9 @@ void makeRoomForText(TextColumn& column, const ShownText& text)
         makeRoom(column, text.view(), column.textLimit);
 }
 
-// All but the texts of lines.
-TextColumn describe(const EvaluatedReport& report, std::size_t index)
+// As wide as its heading needs.
+TextColumn describe(const ReportColumn& described)
 {
-    const ReportColumn& described = report.columns()[index];
     TextColumn column;
     column.heading = described.heading();
     column.isAlignedRight = described.isAlignedRight;
@@ -50,9 +49,19 @@ TextColumn describe(const EvaluatedReport& report, std::size_t index)
     column.textLimit = described.isNumeric ? 0 : column.labelLimit;
     column.width = std::max(column.labelLimit, 1);
     makeRoom(column, column.heading, column.labelLimit);
-    for (const std::string& label : report.labelsIn(index))
-        makeRoom(column, label, column.labelLimit);
     return column;
+}
+
+void makeRoomForLabels(const EvaluatedReport& report, std::vector<TextColumn>& columns)
+{
+    for (const SectionPlace place : report.placesWithLines())
+    {
+        const SectionLayout& section = report.layout().section(place);
+        if (section.label.empty() || section.labelColumn < 0)
+            continue;
+        TextColumn& column = columns[static_cast<std::size_t>(section.labelColumn)];
+        makeRoom(column, section.label, column.labelLimit);
+    }
 }
 
 // By what is known of all texts together; false where each one has to be looked at.
@@ -65,9 +74,15 @@ bool makeRoomForLongest(TextColumn& column, TextExtent extent)
     return true;
 }
 
-void measureLines(const EvaluatedReport& report, const std::vector<std::size_t>& toMeasure,
-                  std::vector<TextColumn>& columns)
+void makeRoomForTexts(const EvaluatedReport& report, std::vector<TextColumn>& columns)
 {
+    const std::vector<TextExtent> extents = report.textExtents();
+    std::vector<std::size_t> toMeasure;
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        if (!makeRoomForLongest(columns[i], extents[i]))
+            toMeasure.push_back(i);
+    if (toMeasure.empty())
+        return;
     ReportLines lines = report.lines();
     ReportLine line;
     while (lines.next(line))
@@ -79,15 +94,10 @@ void measureLines(const EvaluatedReport& report, const std::vector<std::size_t>&
 std::vector<TextColumn> of(const EvaluatedReport& report)
 {
     std::vector<TextColumn> columns;
-    std::vector<std::size_t> toMeasure;
-    for (std::size_t i = 0; i < report.columns().size(); ++i)
-    {
-        columns.push_back(describe(report, i));
-        if (!makeRoomForLongest(columns.back(), report.extentOf(i)))
-            toMeasure.push_back(i);
-    }
-    if (!toMeasure.empty())
-        measureLines(report, toMeasure, columns);
+    for (const ReportColumn& column : report.columns())
+        columns.push_back(describe(column));
+    makeRoomForLabels(report, columns);
+    makeRoomForTexts(report, columns);
     return columns;
 }
 }

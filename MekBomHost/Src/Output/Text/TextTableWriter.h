@@ -1,4 +1,4 @@
-// Writes reports as text tables: see TextTable.
+// Writes reports as text tables, which TextTable describes. Needs no more of a report than its texts.
 #pragma once
 
 #include "ReportWriter.h"

@@ -1,3 +1,10 @@
+// Characters are added to a line one by one; when one goes too far, the line is cut at its last blank, which goes, or,
+// without a blank, before that character:
+//
+//   "Base plate, corner", 10 wide
+//     "Base plate,"    11 wide: cut at the blank     ->   "Base", and "plate," goes on
+//     "plate, corn"    11 wide: cut at the blank     ->   "plate,", and "corn" goes on
+//     "corner"         the text ends                 ->   "corner"
 #include "WordWrap.h"
 
 #include "Utf8.h"
