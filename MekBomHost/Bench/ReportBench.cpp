@@ -7,6 +7,7 @@
 #include "PartsList.h"
 #include "Report.h"
 #include "TemplateReader.h"
+#include "TextTableWriter.h"
 
 #include "Support/BenchParts.h"
 
@@ -59,7 +60,7 @@ void writeTables(benchmark::State& state, const std::string& members)
     for (auto _ : state)
     {
         CountingSink sink;
-        pReport->writeTable(sink);
+        TextTableWriter().write(pReport->evaluated(), sink);
         benchmark::DoNotOptimize(sink.numBytes);
     }
     state.SetItemsProcessed(state.iterations() * state.range(0)); // details lines per second

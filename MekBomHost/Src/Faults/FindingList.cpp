@@ -13,12 +13,12 @@ void FindingList::add(Finding finding)
         m_findings.push_back(std::move(finding));
 }
 
-void FindingList::addAllOf(const Fault& fault)
+void FindingList::addAll(const std::vector<Finding>& findings, std::size_t numErrors)
 {
-    const std::size_t numErrorsBefore = numErrors();
-    for (const Finding& finding : fault.findings())
+    const std::size_t numErrorsBefore = m_numOf[Finding::kError];
+    for (const Finding& finding : findings)
         add(finding);
-    m_numOf[Finding::kError] = numErrorsBefore + fault.numErrors();
+    m_numOf[Finding::kError] = numErrorsBefore + numErrors;
 }
 
 void FindingList::throwIfAnyError() const

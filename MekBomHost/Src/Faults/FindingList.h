@@ -15,8 +15,6 @@
 
 namespace mekbom
 {
-class Fault;
-
 class FindingList
 {
 public:
@@ -24,8 +22,9 @@ public:
 
     void add(Finding finding);
 
-    // Adds the findings of `fault`, and counts its errors as it does.
-    void addAllOf(const Fault& fault);
+    // Adds what somebody else has found: `findings`, of which those are kept that this list has room for, and all of
+    // `numErrors` errors, which may be more than `findings` holds.
+    void addAll(const std::vector<Finding>& findings, std::size_t numErrors);
 
     // Those that are kept, in the order in which they were added.
     const std::vector<Finding>& all() const { return m_findings; }

@@ -28,7 +28,7 @@ ExitStatus runGuarded(FindingList& findings, const std::function<ExitStatus()>& 
     }
     catch (const Fault& fault)
     {
-        findings.addAllOf(fault);
+        findings.addAll(fault.findings(), fault.numErrors());
         return fault.status();
     }
     catch (const std::bad_alloc&)

@@ -1,22 +1,19 @@
 #include "FileSource.h"
 
 #include "Fault.h"
+#include "FindingCodes.h"
 
 #include <cerrno>
 #include <system_error>
 
 namespace mekbom
 {
-FileSource::FileSource(const std::string& path) : m_name(path), m_pFile(std::fopen(path.c_str(), "rb"))
-{
-    if (m_pFile == nullptr)
-        failToRead(errno);
-}
-
 FileSource::FileSource() : m_name("standard input"), m_pFile(stdin) {}
 
 std::size_t FileSource::read(char* pBytes, std::size_t size)
 {
+    if (m_pFile == nullptr)
+        open();
     errno = 0;
     const std::size_t numRead = std::fread(pBytes, 1, size, m_pFile.get());
     if (numRead == 0 && std::ferror(m_pFile.get()) != 0)
@@ -30,8 +27,18 @@ void FileSource::Closer::operator()(std::FILE* pFile) const
         std::fclose(pFile);
 }
 
+void FileSource::open()
+{
+    m_pFile.reset(std::fopen(m_name.c_str(), "rb"));
+    if (m_pFile == nullptr)
+        failToRead(errno);
+}
+
 void FileSource::failToRead(int error) const
 {
-    throw Fault(kInvalidInput, m_name + ": cannot be read: " + std::generic_category().message(error));
+    Finding finding =
+        Finding::stating(FindingCodes::kFileUnreadable, "cannot be read: " + std::generic_category().message(error));
+    finding.source = m_name;
+    throw Fault(kInvalidInput, finding);
 }
 }

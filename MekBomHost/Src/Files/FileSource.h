@@ -1,4 +1,8 @@
-// The bytes of a file, or of standard input.
+// The bytes of a file, or of standard input. The file is opened when the first byte is asked for, so that the sources of
+// a job can be named beforehand and a missing one is found when its turn comes.
+//
+//   FileSource file("parts.csv");
+//   const std::string bytes = file.readAll();      throws a Fault of status kInvalidInput when there is no such file
 #pragma once
 
 #include "ByteSource.h"
@@ -12,8 +16,7 @@ namespace mekbom
 class FileSource : public ByteSource
 {
 public:
-    // Throws a Fault of status kInvalidInput when there is no such file or it cannot be opened.
-    explicit FileSource(const std::string& path);
+    explicit FileSource(const std::string& path) : m_name(path) {}
 
     // Reads standard input to its end.
     FileSource();
@@ -27,9 +30,10 @@ private:
         void operator()(std::FILE* pFile) const;
     };
 
+    void open();
     [[noreturn]] void failToRead(int error) const;
 
-    std::string m_name;
-    std::unique_ptr<std::FILE, Closer> m_pFile;
+    std::string m_name;                         // also the path
+    std::unique_ptr<std::FILE, Closer> m_pFile; // null until it is opened
 };
 }

@@ -1,6 +1,15 @@
+// How a list takes the place of an older one, for the path "list.txt":
+//
+//   list.txt                "old"; opened for writing and closed again, since its owner may have protected it
+//   list.txt.mekbom0.tmp    made with "x", which fails where such a file is, so that nobody else's is written to; takes
+//                           the new text, is given the rights of list.txt and is put on the disk
+//   list.txt                is what the temporary file is now renamed to: whoever looks sees "old" or all of the new text
+//
+// Without finish() the temporary file is removed and "old" stays.
 #include "OutputFile.h"
 
 #include "Fault.h"
+#include "FindingCodes.h"
 
 #include <cerrno>
 #include <system_error>
@@ -141,7 +150,9 @@ void OutputFile::replaceTarget()
 
 void OutputFile::fail(const std::string& reason) const
 {
-    throw Fault(kOutputNotWritten, m_name + ": cannot be written: " + reason);
+    Finding finding = Finding::stating(FindingCodes::kOutputNotWritten, "cannot be written: " + reason);
+    finding.source = m_name;
+    throw Fault(kOutputNotWritten, finding);
 }
 
 void OutputFile::failWithSystemReason() const

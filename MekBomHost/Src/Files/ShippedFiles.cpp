@@ -1,6 +1,7 @@
 #include "ShippedFiles.h"
 
 #include "Fault.h"
+#include "FindingCodes.h"
 
 #include <filesystem>
 #include <system_error>
@@ -45,7 +46,10 @@ std::string find(const std::string& relativePath)
     for (const fs::path& folder : { installed, fs::path(MEK_SHIPPED_DIR) })
         if (fs::exists(folder / relativePath, error))
             return (folder / relativePath).string();
-    throw Fault(kInvalidInput, relativePath + ": found neither in " + installed.string() + " nor in " +
-                                   MEK_SHIPPED_DIR + ", expected as part of the installation");
+    Finding finding =
+        Finding::of(FindingCodes::kShippedFileMissing,
+                    "neither in " + installed.string() + " nor in " + MEK_SHIPPED_DIR, "as part of the installation");
+    finding.source = relativePath;
+    throw Fault(kInvalidInput, finding);
 }
 }

@@ -1,6 +1,7 @@
 #include "StandardOutput.h"
 
 #include "Fault.h"
+#include "FindingCodes.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -12,7 +13,10 @@ namespace
 {
 [[noreturn]] void failToWrite()
 {
-    throw Fault(kOutputNotWritten, "standard output: cannot be written: " + std::generic_category().message(errno));
+    Finding finding = Finding::stating(FindingCodes::kOutputNotWritten,
+                                       "cannot be written: " + std::generic_category().message(errno));
+    finding.source = "standard output";
+    throw Fault(kOutputNotWritten, finding);
 }
 }
 

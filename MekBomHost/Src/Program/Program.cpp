@@ -1,6 +1,7 @@
 #include "Program.h"
 
 #include "Fault.h"
+#include "FindingCodes.h"
 #include "Guard.h"
 #include "ReportVerb.h"
 #include "StandardOutput.h"
@@ -46,7 +47,8 @@ std::string parse(CLI::App& app, int numArguments, const char* const* arguments)
     }
     catch (const CLI::ParseError& error)
     {
-        throw Fault(kWrongUsage, error.what() + std::string("; see mekbom --help"));
+        throw Fault(kWrongUsage,
+                    Finding::stating(FindingCodes::kWrongArguments, error.what() + std::string("; see mekbom --help")));
     }
     return std::string();
 }

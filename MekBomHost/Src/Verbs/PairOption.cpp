@@ -1,6 +1,7 @@
 #include "PairOption.h"
 
 #include "Fault.h"
+#include "FindingCodes.h"
 #include "MessageText.h"
 
 #include <CLI/CLI.hpp>
@@ -26,8 +27,12 @@ std::pair<std::string, std::string> PairOption::pairOf(const std::string& argume
 {
     const std::size_t equals = argument.find('=');
     if (equals == std::string::npos || equals == 0 || equals + 1 == argument.size())
-        throw Fault(kWrongUsage,
-                    m_name + ": found " + inQuotes(argument) + ", expected " + m_form + " such as " + m_example);
+    {
+        Finding finding =
+            Finding::of(FindingCodes::kOptionIsNoPair, inQuotes(argument), m_form + " such as " + m_example);
+        finding.source = m_name;
+        throw Fault(kWrongUsage, finding);
+    }
     return { argument.substr(0, equals), argument.substr(equals + 1) };
 }
 }

@@ -6,11 +6,9 @@
 
 namespace mekbom::QuantityWords
 {
-void refuse(const std::string& found, const std::string& expected, const VorString& hint)
+void refuse(const FindingCode& code, const std::string& found, const std::string& expected, const VorString& hint)
 {
-    Finding finding;
-    finding.found = inQuotes(found);
-    finding.expected = expected;
+    Finding finding = Finding::of(code, inQuotes(found), expected);
     finding.remedy = Utf8::toBytes(hint);
     throw Fault(kWrongUsage, finding);
 }

@@ -1,6 +1,8 @@
 // How the verbs about units refuse words that they cannot take.
 #pragma once
 
+#include "FindingCodes.h"
+
 #include "MekRoots/Exp/VorString.h"
 
 #include <string>
@@ -9,5 +11,6 @@ namespace mekbom::QuantityWords
 {
 // Throws a Fault of status kWrongUsage:  found "1,5", expected a quantity in mm: the decimal sign is a point
 // `hint`, which follows the colon, may be empty.
-[[noreturn]] void refuse(const std::string& found, const std::string& expected, const VorString& hint = VorString());
+[[noreturn]] void refuse(const FindingCode& code, const std::string& found, const std::string& expected,
+                         const VorString& hint = VorString());
 }

@@ -1,18 +1,15 @@
 #include "ReportVerb.h"
 
-#include "ColumnHeading.h"
-#include "CsvReader.h"
-#include "DataTokens.h"
+#include "DisplaySettings.h"
 #include "Fault.h"
+#include "FileSource.h"
 #include "FindingCodes.h"
+#include "FindingList.h"
 #include "OutputFile.h"
+#include "ReportFormats.h"
 #include "ShippedFiles.h"
 #include "StandardOutput.h"
-#include "TemplateChoice.h"
-#include "TemplateReader.h"
 #include "UnitChoice.h"
-
-#include "VorBomData.h"
 
 #include <CLI/CLI.hpp>
 
@@ -20,7 +17,6 @@
 #include <filesystem>
 #include <system_error>
 #include <utility>
-#include <vector>
 
 namespace mekbom
 {
@@ -35,9 +31,14 @@ void addFile(CLI::App& command, const std::string& name, std::string& file, cons
     command.add_option(name, file, help)->type_name("FILE");
 }
 
-NamedText contentOf(const std::string& path)
+// The variables that are named like a setting.
+ReportRequest::Pairs environment()
 {
-    return { path, FileSource(path).readAll() };
+    ReportRequest::Pairs variables;
+    for (const std::string& name : DisplaySettings::names())
+        if (const char* const pValue = std::getenv(name.c_str())) // NOLINT(concurrency-mt-unsafe): nobody changes it
+            variables.emplace_back(name, pValue);
+    return variables;
 }
 }
 
@@ -105,27 +106,62 @@ CLI::App& ReportVerb::declareOn(CLI::App& parent)
 
 ExitStatus ReportVerb::run(FindingList& findings)
 {
-    for (const PairOption* const pOption : { &m_inputUnits, &m_unitChoices, &m_settings })
-        pOption->pairs();
+    const std::unique_ptr<ReportWriter> pWriter = ReportFormats::createWriter(ReportFormats::kText);
+    ReportRequest wanted = request();
+    wanted.contents = pWriter->contents();
+    m_pJob = std::make_unique<ReportJob>(std::move(wanted));
     checkOutput();
-    openParts();
-    ReportTemplate reportTemplate = readTemplate();
-    for (const Finding& finding : reportTemplate.findings)
-        m_notes.add(finding);
-    const DisplaySettings settings = readSettings();
-    m_pReport = std::make_unique<Report>(std::move(reportTemplate), chooseUnits(), settings);
-    readData(*m_pReport);
-    m_pReport->evaluate();
-    noteMergedRows(*m_pReport);
-    write(*m_pReport);
-    for (const Finding& note : m_notes.all())
-        findings.add(note);
-    return kDone;
+    const ExitStatus status = m_pJob->run();
+    findings.addAll(m_pJob->findings().all(), m_pJob->findings().numErrors());
+    if (status == kDone)
+        write(*pWriter);
+    return status;
 }
 
-bool ReportVerb::isSample() const
+ReportRequest ReportVerb::request() const
 {
-    return m_data == kSampleData;
+    ReportRequest request;
+    request.inputUnits = m_inputUnits.pairs();
+    request.unitChoices = m_unitChoices.pairs();
+    request.settings = m_settings.pairs();
+    request.pParts = parts();
+    addTemplates(request);
+    request.environment = environment();
+    if (!m_settingsFile.empty())
+        request.pSettings = std::make_unique<FileSource>(m_settingsFile);
+    addUnits(request);
+    return request;
+}
+
+std::unique_ptr<ByteSource> ReportVerb::parts() const
+{
+    if (isSample())
+        return nullptr;
+    if (m_data == kStandardStream)
+        return std::make_unique<FileSource>();
+    return std::make_unique<FileSource>(m_data.empty() ? ShippedFiles::find(ShippedFiles::kPartsList) : m_data);
+}
+
+// The sample data go with the default template, unless another one is named.
+void ReportVerb::addTemplates(ReportRequest& request) const
+{
+    if (m_templateName == kDefaultTemplate)
+        return;
+    if (!m_templateName.empty())
+        request.pTemplate = std::make_unique<FileSource>(m_templateName);
+    else if (!isSample())
+        for (const std::string& file : ShippedFiles::templates())
+            request.candidates.push_back(std::make_unique<FileSource>(ShippedFiles::find(file)));
+}
+
+// A word that is neither metric nor imperial is a file, if there is one of that name.
+void ReportVerb::addUnits(ReportRequest& request) const
+{
+    std::error_code error;
+    if (!UnitChoice::isBase(m_units) && std::filesystem::exists(m_units, error))
+        request.pUnits = std::make_unique<FileSource>(m_units);
+    else
+        request.units = m_units;
 }
 
 // A slip such as `-o parts.csv` must not cost the parts list.
@@ -136,118 +172,29 @@ void ReportVerb::checkOutput() const
     std::error_code error;
     for (const std::string& input : { m_data, m_templateName, m_units, m_settingsFile })
         if (std::filesystem::equivalent(input, m_output, error))
-            throw Fault(kWrongUsage, "--output " + m_output + ": is the same file as the input " + input);
+        {
+            Finding finding = Finding::stating(FindingCodes::kOutputIsInput, "is the same file as the input " + input);
+            finding.source = "--output " + m_output;
+            throw Fault(kWrongUsage, finding);
+        }
 }
 
-void ReportVerb::openParts()
+void ReportVerb::write(const ReportWriter& writer) const
 {
-    if (isSample() && !m_inputUnits.pairs().empty())
-        throw Fault(kWrongUsage, "--input-unit: the sample data are no parts list");
-    if (isSample())
-        return;
-    if (m_data == kStandardStream)
-        m_pFile = std::make_unique<FileSource>();
-    else
-        m_pFile = std::make_unique<FileSource>(m_data.empty() ? ShippedFiles::find(ShippedFiles::kPartsList) : m_data);
-    m_pRecords = std::make_unique<CsvReader>(*m_pFile);
-    m_pParts = std::make_unique<PartsList>(*m_pRecords);
-    for (const auto& [token, unit] : m_inputUnits.pairs())
-        m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);
-}
-
-// The sample data go with the default template, unless another one is named.
-ReportTemplate ReportVerb::readTemplate() const
-{
-    const bool isDefault = m_templateName == kDefaultTemplate;
-    if (!isDefault && (!isSample() || !m_templateName.empty()))
-        return readTemplateFile();
-    ReportTemplate reportTemplate;
-    reportTemplate.pTemplate.reset(VorBomTemplate::createDefaultTemplate());
-    return reportTemplate;
-}
-
-ReportTemplate ReportVerb::readTemplateFile() const
-{
-    const NamedText file = m_templateName.empty() ? chooseTemplate() : contentOf(m_templateName);
-    return TemplateReader::read(file.name, file.text);
-}
-
-NamedText ReportVerb::chooseTemplate() const
-{
-    std::vector<NamedText> candidates;
-    for (const std::string& file : ShippedFiles::templates())
-        candidates.push_back(contentOf(ShippedFiles::find(file)));
-    const PartsList& parts = *m_pParts;
-    return TemplateChoice::choose(m_pFile->name(), candidates,
-                                  [&parts](const std::string& token) { return parts.find(token) != nullptr; });
-}
-
-DisplaySettings ReportVerb::readSettings()
-{
-    DisplaySettings::Origins origins;
-    for (const std::string& name : DisplaySettings::names())
-        if (const char* const pValue = std::getenv(name.c_str())) // NOLINT(concurrency-mt-unsafe): nobody changes it
-            origins.environment.emplace_back(name, pValue);
-    if (!m_settingsFile.empty())
-        origins.file = contentOf(m_settingsFile);
-    origins.options = m_settings.pairs();
-    return DisplaySettings::read(origins, m_notes);
-}
-
-// A word that is neither a base nor a file is refused as a base.
-VorUnitsManager ReportVerb::chooseUnits() const
-{
-    std::error_code error;
-    if (!UnitChoice::isBase(m_units) && std::filesystem::exists(m_units, error))
-        return UnitChoice::unitsOf(contentOf(m_units), m_unitChoices.pairs());
-    return UnitChoice::unitsOf(m_units, m_unitChoices.pairs());
-}
-
-void ReportVerb::readData(Report& report)
-{
-    if (isSample())
-        return takeSampleData(report.engineTemplate());
-    noteMissingColumns(report);
-    m_pParts->readRows(report.engineTemplate(), report.queryFilter());
-}
-
-void ReportVerb::takeSampleData(VorBomTemplate& reportTemplate) const
-{
-    const std::unique_ptr<VorBomData> pSample(VorBomData::createDefaultData());
-    reportTemplate.getBomData()->setChild(pSample->child());
-    pSample->setChild(nullptr);
-}
-
-void ReportVerb::noteMissingColumns(Report& report)
-{
-    std::string missing;
-    for (const std::string& token : DataTokens::of(report.engineTemplate()))
-        if (m_pParts->find(token) == nullptr)
-            missing += (missing.empty() ? "" : ", ") + token;
-    if (!missing.empty())
-        m_notes.add(Finding::saying(FindingCodes::kColumnMissing, m_pFile->name() + " has no column for " + missing +
-                                                                      ", which the template asks for"));
-}
-
-void ReportVerb::noteMergedRows(const Report& report)
-{
-    const int numRows = report.numMergedRows();
-    if (numRows > 0)
-        m_notes.add(
-            Finding::saying(FindingCodes::kRowsMerged,
-                            std::to_string(numRows) +
-                                (numRows == 1 ? " line equal to the one before it was merged into it and is"
-                                              : " lines equal to the one before them were merged into it and are") +
-                                " not counted in totals; details that show %Handle stay apart"));
-}
-
-void ReportVerb::write(Report& report) const
-{
-    std::unique_ptr<TextSink> pSink;
     if (m_output == kStandardStream)
-        pSink = std::make_unique<StandardOutput>();
+    {
+        StandardOutput sink;
+        writer.write(m_pJob->report(), sink);
+    }
     else
-        pSink = std::make_unique<OutputFile>(m_output);
-    report.writeTable(*pSink);
+    {
+        OutputFile sink(m_output);
+        writer.write(m_pJob->report(), sink);
+    }
+}
+
+bool ReportVerb::isSample() const
+{
+    return m_data == kSampleData;
 }
 }

@@ -2,15 +2,10 @@
 // written.
 #pragma once
 
-#include "DisplaySettings.h"
-#include "FileSource.h"
-#include "FindingList.h"
-#include "NamedText.h"
 #include "PairOption.h"
-#include "PartsList.h"
-#include "RecordSource.h"
-#include "Report.h"
-#include "ReportTemplate.h"
+#include "ReportJob.h"
+#include "ReportRequest.h"
+#include "ReportWriter.h"
 #include "Verb.h"
 
 #include <memory>
@@ -28,18 +23,12 @@ public:
     static const char* const kNotes;
 
 private:
+    ReportRequest request() const;
+    std::unique_ptr<ByteSource> parts() const;
+    void addTemplates(ReportRequest& request) const;
+    void addUnits(ReportRequest& request) const;
     void checkOutput() const;
-    void openParts();
-    ReportTemplate readTemplate() const;
-    ReportTemplate readTemplateFile() const;
-    NamedText chooseTemplate() const;
-    DisplaySettings readSettings();
-    VorUnitsManager chooseUnits() const;
-    void readData(Report& report);
-    void takeSampleData(VorBomTemplate& reportTemplate) const;
-    void noteMissingColumns(Report& report);
-    void noteMergedRows(const Report& report);
-    void write(Report& report) const;
+    void write(const ReportWriter& writer) const;
     bool isSample() const;
 
     // Options.
@@ -52,10 +41,6 @@ private:
     std::string m_output = "-"; // a file or standard output
     PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
 
-    std::unique_ptr<Report> m_pReport;
-    std::unique_ptr<FileSource> m_pFile; // null for the sample data, as the next two are
-    std::unique_ptr<RecordSource> m_pRecords;
-    std::unique_ptr<PartsList> m_pParts;
-    FindingList m_notes; // for the user once there is a report
+    std::unique_ptr<ReportJob> m_pJob; // keeps what the last report was made of
 };
 }

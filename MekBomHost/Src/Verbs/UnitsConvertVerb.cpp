@@ -28,7 +28,8 @@ const VorUnitDefinition& findUnit(const std::string& symbol)
 {
     const VorUnitDefinition* const pUnit = Catalogue::findUnit(Utf8::toWide(symbol));
     if (pUnit == nullptr)
-        QuantityWords::refuse(symbol, "a unit such as mm, ft-in or lb; mekbom units lists them all");
+        QuantityWords::refuse(FindingCodes::kUnitUnknown, symbol,
+                              "a unit such as mm, ft-in or lb; mekbom units lists them all");
     return *pUnit;
 }
 
@@ -36,7 +37,8 @@ MEKUnit readUnit(const std::string& word)
 {
     MEKUnit unit(Catalogue::findUnitOfModel(Catalogue::kDistance)->number, 0, 0);
     if (VorUnitNotation::read(Utf8::toWide(word), unit) == 0)
-        QuantityWords::refuse(word, "a unit, and after a slash a precision if need be, such as mm, lb/1 or ft-in/16");
+        QuantityWords::refuse(FindingCodes::kUnitUnknown, word,
+                              "a unit, and after a slash a precision if need be, such as mm, lb/1 or ft-in/16");
     return unit;
 }
 
@@ -46,7 +48,7 @@ double readQuantity(const std::string& text, const VorUnitDefinition& unit, cons
     const VorQuantityReader reader(unit.number);
     double value = 0;
     if (reader.read(wideText, value) == 0)
-        QuantityWords::refuse(text, "a quantity in " + symbol, reader.explain(wideText));
+        QuantityWords::refuse(FindingCodes::kNoQuantity, text, "a quantity in " + symbol, reader.explain(wideText));
     return value;
 }
 }
@@ -81,7 +83,8 @@ std::string UnitsConvertVerb::convert() const
     const MEKUnit to = readUnit(m_to);
     const VorUnitTransform& transform = to.getVorUnitTransform();
     if (transform.system() != from.system)
-        QuantityWords::refuse(m_to, UnitKinds::find(from.system)->expectation + std::string(", as ") + m_from + " is");
+        QuantityWords::refuse(FindingCodes::kUnitUnknown, m_to,
+                              UnitKinds::find(from.system)->expectation + std::string(", as ") + m_from + " is");
     const int showUnitSymbol = 0;
     return Utf8::toBytes(transform.formatValue(readQuantity(m_value, from, m_from), m_nSuppressLastZeros,
                                                showUnitSymbol, m_nSuppressZeroFeet, m_nSuppressZeroInch,

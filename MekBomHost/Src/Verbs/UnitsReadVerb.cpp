@@ -30,7 +30,8 @@ double readOfAnyKind(const std::string& text)
     const bool isAngle = wideText.find(L"\u00B0", 0) >= 0;
     const VorQuantityReader likely(
         Catalogue::findUnitOfModel(isAngle ? Catalogue::kAngle : Catalogue::kDistance)->number);
-    QuantityWords::refuse(text, "a quantity such as 2286, 7.5 ft, 7'-6 1/2\" or 12°30'", likely.explain(wideText));
+    QuantityWords::refuse(FindingCodes::kNoQuantity, text, "a quantity such as 2286, 7.5 ft, 7'-6 1/2\" or 12°30'",
+                          likely.explain(wideText));
 }
 }
 

@@ -66,12 +66,12 @@ TEST(FindingListTest, KeepsThousandsAndCountsTheOthers)
     }
 }
 
-TEST(FindingListTest, TheErrorsOfAFaultAreCountedAsTheFaultCountsThem)
+TEST(FindingListTest, FindingsOfOthersAreAddedWithErrorsThatWereNotKept)
 {
     FindingList findings;
     findings.add(findingOf(Finding::kError));
 
-    findings.addAllOf(Fault(kInvalidInput, { findingOf(Finding::kError), findingOf(Finding::kNote) }, 30));
+    findings.addAll({ findingOf(Finding::kError), findingOf(Finding::kNote) }, 30);
 
     EXPECT_EQ(3U, findings.all().size());
     EXPECT_EQ(31U, findings.numErrors());

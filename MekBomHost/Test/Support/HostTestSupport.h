@@ -21,8 +21,8 @@ namespace mekbom
 class TextSource : public ByteSource
 {
 public:
-    explicit TextSource(std::string text, std::size_t blockSize = 1 << 20)
-        : m_text(std::move(text)), m_blockSize(blockSize)
+    explicit TextSource(std::string text, std::size_t blockSize = 1 << 20, std::string name = "parts.csv")
+        : m_name(std::move(name)), m_text(std::move(text)), m_blockSize(blockSize)
     {
     }
 
@@ -37,7 +37,7 @@ public:
     }
 
 private:
-    std::string m_name = "parts.csv";
+    std::string m_name;
     std::string m_text;
     std::size_t m_blockSize;
     std::size_t m_begin = 0;

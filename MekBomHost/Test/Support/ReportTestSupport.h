@@ -5,6 +5,7 @@
 #include "PartsList.h"
 #include "Report.h"
 #include "TemplateReader.h"
+#include "TextTableWriter.h"
 #include "Utf8.h"
 
 #include "HostTestSupport.h"
@@ -47,7 +48,7 @@ inline std::string listOf(Report& report)
 inline std::string tableOf(Report& report)
 {
     StringSink sink;
-    report.writeTable(sink);
+    TextTableWriter().write(report.evaluated(), sink);
     return sink.text;
 }
 

@@ -36,8 +36,8 @@ TEST_F(ReportVerbTest, WithoutOptionsUnitsAreMetric)
 
 TEST_F(ReportVerbTest, OptionsMayBeRepeatedAndJoinedToTheirValues)
 {
-    EXPECT_EQ("Weight [lb]  Length [m]\n-----------  ----------\n         22        2.29\n",
-              report({ "--unit", "weight=lb/1", "--unit=length=m/2" }).output);
+    EXPECT_EQ("Weight [lb]  Length [m]\n-----------  ----------\n       22.0        2.29\n",
+              report({ "--unit", "weight=lb/1", "--unit=length=m/2", "--setting=C0_BOMSuppressLastZeros=0" }).output);
     EXPECT_EQ("Weight [kg]  Length [mm]\n-----------  -----------\n       4.54     696772.8\n",
               report({ "--input-unit", "%Weight=lb", "--input-unit=Length=ft" }).output);
 }

@@ -327,7 +327,7 @@ TEST(TextTableTest, TheTableIsFinishedInItsSink)
     const std::unique_ptr<Report> pReport = evaluatedReport(details(kName), "%Name\nA\n");
     StringSink sink;
 
-    pReport->writeTable(sink);
+    TextTableWriter().write(pReport->evaluated(), sink);
 
     EXPECT_TRUE(sink.isFinished);
 }

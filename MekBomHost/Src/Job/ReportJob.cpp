@@ -1,0 +1,151 @@
+#include "ReportJob.h"
+
+#include "ColumnHeading.h"
+#include "CsvReader.h"
+#include "DataTokens.h"
+#include "DisplaySettings.h"
+#include "Fault.h"
+#include "FindingCodes.h"
+#include "Guard.h"
+#include "NamedText.h"
+#include "TemplateChoice.h"
+#include "TemplateReader.h"
+#include "UnitChoice.h"
+
+#include "VorBomData.h"
+
+#include <utility>
+#include <vector>
+
+namespace mekbom
+{
+namespace
+{
+NamedText textOf(ByteSource& source)
+{
+    return { source.name(), source.readAll() };
+}
+
+DisplaySettings settingsOf(const ReportRequest& request, FindingList& findings)
+{
+    DisplaySettings::Origins origins;
+    origins.environment = request.environment;
+    if (request.pSettings != nullptr)
+        origins.file = textOf(*request.pSettings);
+    origins.options = request.settings;
+    return DisplaySettings::read(origins, findings);
+}
+
+VorUnitsManager unitsOf(const ReportRequest& request)
+{
+    if (request.pUnits != nullptr)
+        return UnitChoice::unitsOf(textOf(*request.pUnits), request.unitChoices);
+    return UnitChoice::unitsOf(request.units, request.unitChoices);
+}
+
+[[noreturn]] void refuseInputUnits()
+{
+    Finding finding = Finding::stating(FindingCodes::kOptionWithoutUse, "the sample data are no parts list");
+    finding.source = "--input-unit";
+    throw Fault(kWrongUsage, finding);
+}
+}
+
+ReportJob::ReportJob(ReportRequest request) : m_request(std::move(request)) {}
+
+ExitStatus ReportJob::run()
+{
+    return runGuarded(m_findings, [this] { return makeReport(); });
+}
+
+ExitStatus ReportJob::makeReport()
+{
+    openParts();
+    ReportTemplate reportTemplate = readTemplate();
+    for (const Finding& finding : reportTemplate.findings)
+        m_findings.add(finding);
+    const DisplaySettings settings = settingsOf(m_request, m_findings);
+    m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
+    readRows();
+    m_pReport->evaluate();
+    noteMergedRows();
+    return kDone;
+}
+
+void ReportJob::openParts()
+{
+    if (m_request.pParts == nullptr)
+    {
+        if (!m_request.inputUnits.empty())
+            refuseInputUnits();
+        return;
+    }
+    m_pRecords = std::make_unique<CsvReader>(*m_request.pParts);
+    m_pParts = std::make_unique<PartsList>(*m_pRecords);
+    for (const auto& [token, unit] : m_request.inputUnits)
+        m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);
+}
+
+ReportTemplate ReportJob::readTemplate()
+{
+    if (m_request.pTemplate != nullptr)
+        return TemplateReader::read(m_request.pTemplate->name(), m_request.pTemplate->readAll());
+    if (m_pParts != nullptr && !m_request.candidates.empty())
+        return readSuitableTemplate();
+    ReportTemplate reportTemplate;
+    reportTemplate.pTemplate.reset(VorBomTemplate::createDefaultTemplate());
+    return reportTemplate;
+}
+
+ReportTemplate ReportJob::readSuitableTemplate()
+{
+    std::vector<NamedText> candidates;
+    for (const std::unique_ptr<ByteSource>& pCandidate : m_request.candidates)
+        candidates.push_back(textOf(*pCandidate));
+    const auto hasColumn = [this](const std::string& token) { return m_pParts->find(token) != nullptr; };
+    const NamedText& file = TemplateChoice::choose(m_pRecords->name(), candidates, hasColumn);
+    return TemplateReader::read(file.name, file.text);
+}
+
+void ReportJob::readRows()
+{
+    if (m_pParts == nullptr)
+        return takeSampleRows();
+    noteMissingColumns();
+    m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->queryFilter());
+}
+
+void ReportJob::takeSampleRows()
+{
+    const std::unique_ptr<VorBomData> pSample(VorBomData::createDefaultData());
+    m_pReport->engineTemplate().getBomData()->setChild(pSample->child());
+    pSample->setChild(nullptr);
+}
+
+void ReportJob::noteMissingColumns()
+{
+    std::string missing;
+    for (const std::string& token : DataTokens::of(m_pReport->engineTemplate()))
+        if (m_pParts->find(token) == nullptr)
+            missing += (missing.empty() ? "" : ", ") + token;
+    if (missing.empty())
+        return;
+    Finding finding = Finding::saying(FindingCodes::kColumnMissing, m_pRecords->name() + " has no column for " +
+                                                                        missing + ", which the template asks for");
+    finding.source = m_pRecords->name();
+    m_findings.add(finding);
+}
+
+void ReportJob::noteMergedRows()
+{
+    const int numRows = m_pReport->numMergedRows();
+    if (numRows == 0)
+        return;
+    m_findings.add(Finding::saying(FindingCodes::kRowsMerged,
+                                   std::to_string(numRows) +
+                                       (numRows == 1 ? " line equal to the one before it was merged into it and is"
+                                                     : " lines equal to the one before them were merged into it and "
+                                                       "are") +
+                                       " not counted in totals; details that show %Handle stay apart"));
+}
+}

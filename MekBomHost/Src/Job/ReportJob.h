@@ -1,0 +1,57 @@
+// One report from texts to evaluated lines: the whole program but its files and its command line.
+//
+//   ReportJob job(std::move(request));
+//   if (job.run() == kDone)
+//       writer.write(job.report(), sink);
+//   for (const Finding& finding : job.findings().all())
+//       tell(messageOf(finding));
+//
+// A job touches nothing but its request: no files, no streams, no state of the process. Jobs with other units and other
+// settings may therefore run one after the other, side by side, and on several threads, each job on one at a time.
+#pragma once
+
+#include "ExitStatus.h"
+#include "FindingList.h"
+#include "PartsList.h"
+#include "RecordSource.h"
+#include "Report.h"
+#include "ReportRequest.h"
+#include "ReportTemplate.h"
+
+#include <memory>
+#include <string>
+
+namespace mekbom
+{
+class ReportJob
+{
+public:
+    explicit ReportJob(ReportRequest request);
+
+    // Makes the report. Throws nothing: returns kDone when there is one, and otherwise what kind of mistake kept it from
+    // being made, with at least one error among the findings. To be called once.
+    ExitStatus run();
+
+    // What was found until now. Findings that are no errors may stand beside a report.
+    const FindingList& findings() const { return m_findings; }
+
+    // The evaluated report, good for as long as the job is. Only once run() has returned kDone.
+    EvaluatedReport report() const { return m_pReport->evaluated(); }
+
+private:
+    ExitStatus makeReport();
+    void openParts();
+    ReportTemplate readTemplate();
+    ReportTemplate readSuitableTemplate();
+    void readRows();
+    void takeSampleRows();
+    void noteMissingColumns();
+    void noteMergedRows();
+
+    ReportRequest m_request;
+    FindingList m_findings;
+    std::unique_ptr<RecordSource> m_pRecords; // null for the sample rows, as m_pParts is
+    std::unique_ptr<PartsList> m_pParts;
+    std::unique_ptr<Report> m_pReport;
+};
+}

@@ -1,0 +1,44 @@
+// What a report is to be made of: the sources of all texts, and the options. No file is opened and nothing of the
+// process is looked at on its account; whoever fills it in says where bytes come from.
+//
+//   ReportRequest request;
+//   request.pParts = std::make_unique<FileSource>("parts.csv");
+//   request.pTemplate = std::make_unique<FileSource>("list.json");
+//   request.units = "imperial";
+//   request.unitChoices = { { "weight", "kg/1" } };
+//
+// Sources are read when the job comes to them, in the order of the members, so that the first mistake a user hears of
+// is the same wherever the texts come from. Their names are what findings call them.
+#pragma once
+
+#include "ByteSource.h"
+#include "LineContents.h"
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace mekbom
+{
+struct ReportRequest
+{
+    using Pairs = std::vector<std::pair<std::string, std::string>>;
+
+    std::unique_ptr<ByteSource> pParts; // a parts list, comma-separated; null for the sample rows
+    Pairs inputUnits;                   // of columns whose heading names none: "%Paint", "m2"
+
+    std::unique_ptr<ByteSource> pTemplate; // null: the one of the candidates that suits the parts list best
+    std::vector<std::unique_ptr<ByteSource>> candidates; // in order of preference; none: the default template
+
+    Pairs environment;                     // settings of the lowest rank: "C40_SuppressZeroFeet", "0"
+    std::unique_ptr<ByteSource> pSettings; // an INI text, over them; may be null
+    Pairs settings;                        // over both
+
+    std::string units = "metric";       // to show numbers in, or "imperial"
+    std::unique_ptr<ByteSource> pUnits; // an INI text of units in place of that word; may be null
+    Pairs unitChoices;                  // of one kind each, over both: "length", "ft-in/16"
+
+    LineContents contents; // what the writer wants of lines beside their texts
+};
+}

@@ -1,0 +1,277 @@
+#include "ReportJob.h"
+
+#include "FindingCodes.h"
+#include "TextTableWriter.h"
+
+#include "Support/HostTestSupport.h"
+
+#include "MekRoots/Exp/KTRepositoryProxy.h"
+#include "MekRoots/Test/Support/TestSupport.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+// Reports from texts alone: no test here touches a file, a stream or the settings of the process.
+
+namespace mekbom
+{
+namespace
+{
+const char* const kParts = "%Name,%Length\nHEA200,2286\nIPE360,152.4\n";
+const char* const kDetails = R"({ "sections": [ { "type": "kDetails", "tuples": [
+    { "token": "%Name" }, { "token": "%Length" } ] } ] })";
+
+std::unique_ptr<ByteSource> text(const std::string& name, const std::string& content)
+{
+    return std::make_unique<TextSource>(content, 1 << 20, name);
+}
+
+ReportRequest requestFor(const std::string& parts, const std::string& templateText)
+{
+    ReportRequest request;
+    request.pParts = text("parts.csv", parts);
+    request.pTemplate = text("list.json", templateText);
+    return request;
+}
+
+ReportRequest imperialRequest()
+{
+    ReportRequest request = requestFor(kParts, kDetails);
+    request.units = "imperial";
+    request.settings = { { "C40_ShowMinusBetweenFeetAndInch", "1" } };
+    return request;
+}
+
+ReportRequest metreRequest()
+{
+    ReportRequest request = requestFor(kParts, kDetails);
+    request.pUnits = text("shop.ini", "length = m/2\n");
+    request.pSettings = text("settings.ini", "C0_BOMSuppressLastZeros = 0\n");
+    return request;
+}
+
+const char* const kImperialTable = "Name    Length [ft-in]\n"
+                                   "------  --------------\n"
+                                   "HEA200           7'-6\"\n"
+                                   "IPE360              6\"\n";
+
+const char* const kMetreTable = "Name    Length [m]\n"
+                                "------  ----------\n"
+                                "HEA200        2.29\n"
+                                "IPE360        0.15\n";
+
+std::string tableOf(ReportJob& job)
+{
+    StringSink sink;
+    TextTableWriter().write(job.report(), sink);
+    return sink.text;
+}
+
+// The table, or what stands in its way: the status, then a message for each finding.
+std::string outcomeOf(ReportRequest request)
+{
+    ReportJob job(std::move(request));
+    const ExitStatus status = job.run();
+    if (status == kDone)
+        return tableOf(job);
+    std::string messages = std::to_string(status);
+    for (const Finding& finding : job.findings().all())
+        messages += " " + messageOf(finding) + "\n";
+    return messages;
+}
+}
+
+TEST(ReportJobTest, TextsBecomeATable)
+{
+    EXPECT_EQ("Name    Length [mm]\n------  -----------\nHEA200         2286\nIPE360        152.4\n",
+              outcomeOf(requestFor(kParts, kDetails)));
+}
+
+TEST(ReportJobTest, ReportsOfDifferentUnitsAndSettingsAreMadeStepByStepBesideEachOther)
+{
+    ReportJob imperial(imperialRequest());
+    ReportJob metre(metreRequest());
+
+    ASSERT_EQ(kDone, imperial.run());
+    ASSERT_EQ(kDone, metre.run());
+
+    EXPECT_EQ(kImperialTable, tableOf(imperial));
+    EXPECT_EQ(kMetreTable, tableOf(metre));
+    EXPECT_EQ(kImperialTable, tableOf(imperial)); // the lines may be read again
+}
+
+TEST(ReportJobTest, ReportsOfDifferentUnitsAndSettingsAreMadeOnTwoThreads)
+{
+    const auto repeat = [](ReportRequest (*request)(), const char* expected)
+    {
+        for (int i = 0; i < 200; ++i)
+            EXPECT_EQ(expected, outcomeOf(request()));
+    };
+
+    std::thread imperial(repeat, imperialRequest, kImperialTable);
+    std::thread metre(repeat, metreRequest, kMetreTable);
+    imperial.join();
+    metre.join();
+}
+
+TEST(ReportJobTest, TheSettingsOfTheProcessAreLeftAlone)
+{
+    KTRepositoryProxy::setDefault(L"C0_BOMSuppressLastZeros", 0);
+
+    const std::string table = outcomeOf(requestFor(kParts, kDetails));
+    ReportJob(imperialRequest()).run();
+
+    int showsMinus = 42;
+    vor_odbc_getDefault(L"C40_ShowMinusBetweenFeetAndInch", showsMinus);
+    KTRepositoryProxy::clear();
+    EXPECT_NE(std::string::npos, table.find("  2286\n")) << table;
+    EXPECT_EQ(42, showsMinus);
+}
+
+TEST(ReportJobTest, SettingsOfTheEnvironmentHaveTheLowestRank)
+{
+    // The length of half a foot; an empty text sets nothing.
+    const auto lengthWith = [](const std::string& environment, const std::string& file, const std::string& option)
+    {
+        const std::string name = "C40_SuppressZeroFeet";
+        ReportRequest request = requestFor(
+            "%Length\n152.4\n", R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Length" } ] } ] })");
+        request.units = "imperial";
+        request.environment = { { name, environment } };
+        if (!file.empty())
+            request.pSettings = text("a.ini", name + "=" + file);
+        if (!option.empty())
+            request.settings = { { name, option } };
+        const std::string table = outcomeOf(std::move(request));
+        return table.substr(table.find_first_not_of(' ', table.rfind('\n', table.size() - 2) + 1));
+    };
+
+    EXPECT_EQ("6\"\n", lengthWith("1", "", ""));
+    EXPECT_EQ("0' 6\"\n", lengthWith("0", "", ""));
+    EXPECT_EQ("6\"\n", lengthWith("0", "1", ""));
+    EXPECT_EQ("0' 6\"\n", lengthWith("1", "0", ""));
+    EXPECT_EQ("6\"\n", lengthWith("0", "0", "1"));
+}
+
+TEST(ReportJobTest, AMistakeInATemplateIsData)
+{
+    ReportJob job(requestFor(kParts, "{ \"sections\": [ { \"type\": \"kNone\" } ] }"));
+
+    EXPECT_EQ(kInvalidInput, job.run());
+
+    ASSERT_EQ(1u, job.findings().numErrors());
+    const Finding& finding = job.findings().all()[0];
+    EXPECT_EQ(Finding::kError, finding.severity);
+    EXPECT_EQ(FindingCodes::kNameUnknown.name, finding.code);
+    EXPECT_EQ("list.json", finding.source);
+    EXPECT_EQ(1, finding.begin.line);
+    EXPECT_EQ(27, finding.begin.column);
+    EXPECT_EQ("/sections/0/type", finding.path);
+    EXPECT_EQ("\"kNone\"", finding.found);
+}
+
+TEST(ReportJobTest, MistakesInAPartsListAreData)
+{
+    ReportJob job(requestFor("%Name,%Length\nA,long\nB,2\nC,wide\n", kDetails));
+
+    EXPECT_EQ(kInvalidInput, job.run());
+
+    ASSERT_EQ(2u, job.findings().numErrors());
+    const Finding& finding = job.findings().all()[1];
+    EXPECT_EQ(Finding::kError, finding.severity);
+    EXPECT_EQ(FindingCodes::kCellIsNoNumber.name, finding.code);
+    EXPECT_EQ("parts.csv", finding.source);
+    EXPECT_EQ(4, finding.begin.line);
+    EXPECT_EQ("%Length", finding.field);
+    EXPECT_EQ("\"wide\"", finding.found);
+}
+
+TEST(ReportJobTest, ANoteLetsTheReportBeMade)
+{
+    ReportJob job(requestFor("%Name\nA\nA\n", R"({ "sections": [
+        { "type": "kReportHeader", "children": [
+            { "type": "kDetails", "tuples": [ { "token": "%Name" }, { "token": "%Length" } ] } ] },
+        { "type": "kReportFooter" }, { "type": "kPageFooter" } ] })"));
+
+    EXPECT_EQ(kDone, job.run());
+
+    EXPECT_EQ(0u, tableOf(job).find("Name  Length"));
+    std::vector<std::string> codes;
+    for (const Finding& finding : job.findings().all())
+    {
+        EXPECT_EQ(Finding::kNote, finding.severity);
+        codes.push_back(finding.code);
+    }
+    EXPECT_EQ((std::vector<std::string>{ FindingCodes::kSectionNotEvaluated.name, FindingCodes::kColumnMissing.name,
+                                         FindingCodes::kRowsMerged.name }),
+              codes);
+    EXPECT_EQ("parts.csv", job.findings().all()[1].source);
+}
+
+TEST(ReportJobTest, OfTheCandidatesTheOneIsTakenThatSuitsTheParts)
+{
+    const auto request = []
+    {
+        ReportRequest choice;
+        choice.pParts = text("parts.csv", "%BoltName\nM16\n");
+        for (const std::string token : { "%Name", "%BoltName", "%Role" })
+            choice.candidates.push_back(text(token, "{ \"sections\": [ { \"type\": \"kDetails\", \"tuples\": [ { "
+                                                    "\"token\": \"" +
+                                                        token + "\" } ] } ] }"));
+        return choice;
+    };
+
+    EXPECT_EQ("BoltName\n--------\nM16\n", outcomeOf(request()));
+    ReportRequest unsuitable = request();
+    unsuitable.pParts = text("parts.csv", "%Weight\n2\n");
+    EXPECT_EQ(0u, outcomeOf(std::move(unsuitable)).find("3 parts.csv: found columns that suit no "));
+}
+
+TEST(ReportJobTest, WithoutPartsAndTemplateTheBuiltInOnesAreTaken)
+{
+    EXPECT_EQ(0u, outcomeOf(ReportRequest()).find("PosNum  Material  posNum  "));
+    ReportRequest request;
+    request.inputUnits = { { "Length", "m" } };
+    EXPECT_EQ("2 --input-unit: the sample data are no parts list\n", outcomeOf(std::move(request)));
+}
+
+TEST(ReportJobTest, OptionsThatCannotBeTakenAreWrongUsage)
+{
+    ReportRequest request = requestFor(kParts, kDetails);
+    request.unitChoices = { { "length", "kg" } };
+    EXPECT_EQ(0u, outcomeOf(std::move(request)).find("2 --unit length=kg: found \"kg\", expected a unit of distance"));
+    request = requestFor(kParts, kDetails);
+    request.inputUnits = { { "Name", "mm" } };
+    EXPECT_EQ("2 --input-unit %Name=mm: found unit \"mm\", expected none: %Name is a text\n",
+              outcomeOf(std::move(request)));
+}
+
+TEST(ReportJobTest, ASourceThatFailsIsAFinding)
+{
+    class BrokenSource : public TextSource
+    {
+    public:
+        BrokenSource() : TextSource("") {}
+        std::size_t read(char*, std::size_t) override { throw std::runtime_error("torn"); }
+    };
+    ReportRequest request = requestFor(kParts, kDetails);
+    request.pParts = std::make_unique<BrokenSource>();
+
+    EXPECT_EQ("70 internal fault: torn\n", outcomeOf(std::move(request)));
+}
+
+TEST(ReportJobTest, NothingIsLeaked)
+{
+    outcomeOf(imperialRequest()); // the engine keeps what it sorted by last
+    const LeakCheck leakCheck;
+
+    outcomeOf(imperialRequest());
+    outcomeOf(requestFor(kParts, "{"));
+}
+}
