@@ -128,3 +128,26 @@ function(mek_add_fuzzers)
         mek_set_warnings(${name})
     endforeach()
 endfunction()
+
+# mek_add_header_examples(MekRootsHeaderExamples LINK Mek::Roots): builds the code examples in the comments of the
+# module's headers, so that none stops being true unnoticed. Test/Given has what examples take as given.
+function(mek_add_header_examples target)
+    cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+    find_package(Python3 COMPONENTS Interpreter)
+    if(NOT MEK_BUILD_TESTS OR MEK_THREADING_TESTS_ONLY OR NOT Python3_FOUND)
+        return()
+    endif()
+    file(GLOB_RECURSE headers CONFIGURE_DEPENDS Src/*.h Exp/*.h)
+    file(GLOB given CONFIGURE_DEPENDS Test/Given/*.inc)
+    set(script ${PROJECT_SOURCE_DIR}/Scripts/extract_examples.py)
+    set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}.cpp)
+    add_custom_command(OUTPUT ${source}
+        COMMAND Python3::Interpreter ${script} ${source} ${CMAKE_CURRENT_SOURCE_DIR}/Test/Given ${headers}
+        DEPENDS ${script} ${headers} ${given})
+    mek_find_rooms(rooms)
+    add_library(${target} OBJECT ${source})
+    target_include_directories(${target} PRIVATE ${rooms})
+    target_link_libraries(${target} PRIVATE ${ARG_LINK})
+    # An example shows a call, and seldom what is done with its result.
+    target_compile_options(${target} PRIVATE $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-w>)
+endfunction()

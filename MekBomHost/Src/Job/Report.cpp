@@ -1,7 +1,7 @@
 #include "Report.h"
 
-#include "TableLayout.h"
-#include "TableWriter.h"
+#include "EvaluatedReport.h"
+#include "ReportFormats.h"
 
 #include "VorBomEvaluator2.h"
 
@@ -10,7 +10,7 @@
 namespace mekbom
 {
 Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units)
-    : m_units(units), m_template(std::move(reportTemplate)), m_texts(m_template)
+    : m_units(units), m_template(std::move(reportTemplate)), m_sections(m_template)
 {
     engineTemplate().setUnitsForTokens(&m_units);
     engineTemplate().findUsedTokens();
@@ -18,18 +18,12 @@ Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units)
 
 void Report::evaluate()
 {
-    VorBomData& data = *engineTemplate().getBomData();
-    m_template.queryFilter.apply(data);
-    int numRows = 0;
-    for (const VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
-        ++numRows;
-    if (VorBomEvaluator2::evaluate(&engineTemplate(), m_texts) == 1)
-        m_numMergedRows = numRows - m_texts.numDetails(); // each row has its section unless it was merged
+    m_template.queryFilter.apply(*engineTemplate().getBomData());
+    VorBomEvaluator2::evaluate(&engineTemplate(), m_sections);
 }
 
 void Report::writeTable(TextSink& sink)
 {
-    const TableLayout layout(m_template, m_units);
-    TableWriter(m_template.title, layout, m_texts).write(sink);
+    ReportFormats::createWriter(ReportFormats::kText)->write(EvaluatedReport(m_template, m_units, m_sections), sink);
 }
 }

@@ -9,8 +9,8 @@
 // when the report is made, so that rows can be read with no more than the data it needs.
 #pragma once
 
+#include "PackedSections.h"
 #include "ReportTemplate.h"
-#include "SectionTexts.h"
 #include "TextSink.h"
 
 #include "VorBomTemplate.h"
@@ -32,14 +32,13 @@ public:
     void evaluate();
 
     // How many rows had a line equal to the one before it, were merged into that and count in no total.
-    int numMergedRows() const { return m_numMergedRows; }
+    int numMergedRows() const { return m_sections.numMergedRows(); }
 
     void writeTable(TextSink& sink);
 
 private:
     VorUnitsManager m_units; // that numbers are shown in
     ReportTemplate m_template;
-    SectionTexts m_texts; // of the evaluated report
-    int m_numMergedRows = 0;
+    PackedSections m_sections; // of the evaluated report
 };
 }

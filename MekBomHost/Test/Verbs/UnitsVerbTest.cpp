@@ -2,9 +2,9 @@
 
 #include "Support/ProgramRun.h"
 
-#include "MekUnits/Src/VorUnitDefinition.h"
 #include "MekRoots/Exp/VorUnitsTransformArray.h"
 #include "MekRoots/Test/Support/TestSupport.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
 
 #include <gtest/gtest.h>
 

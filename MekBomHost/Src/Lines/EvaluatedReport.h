@@ -1,0 +1,58 @@
+// An evaluated report as a writer of any format gets it: its title, its columns, and its lines as often as wanted.
+//
+//   const EvaluatedReport report(reportTemplate, units, sections);
+//   for (const ReportColumn& column : report.columns())
+//       sink.write(column.heading() + "\t");
+//   ReportLines lines = report.lines();
+//   ReportLine line;
+//   while (lines.next(line))
+//       for (const ShownText& text : line.texts)
+//           sink.write(text.view());
+#pragma once
+
+#include "PackedSections.h"
+#include "ReportColumn.h"
+#include "ReportLayout.h"
+#include "ReportLines.h"
+#include "ReportTemplate.h"
+
+#include "MekRoots/Exp/VorUnitsManager.h"
+
+#include <string>
+#include <vector>
+
+namespace mekbom
+{
+class EvaluatedReport
+{
+public:
+    // `sections` took the evaluation of `reportTemplate`, whose numbers were shown in `units`. Owns none of the three;
+    // template and sections must outlive the report.
+    EvaluatedReport(const ReportTemplate& reportTemplate, const VorUnitsManager& units, const PackedSections& sections)
+        : m_title(reportTemplate.title), m_layout(reportTemplate, units), m_sections(sections)
+    {
+    }
+
+    // In UTF-8; empty without one.
+    const std::string& title() const { return m_title; }
+
+    const std::vector<ReportColumn>& columns() const { return m_layout.columns(); }
+
+    // What each section of the template shows in which column.
+    const ReportLayout& layout() const { return m_layout; }
+
+    // The lines from the first one on. Valid as long as the report.
+    ReportLines lines() const { return ReportLines(m_layout, m_sections); }
+
+    // The sections of which there is any line, from the outermost level inwards.
+    std::vector<SectionPlace> placesWithLines() const;
+
+    // How far the texts of all lines reach, for each column, without a look at the lines; labels are left out.
+    std::vector<TextExtent> textExtents() const;
+
+private:
+    const std::string& m_title;
+    ReportLayout m_layout;
+    const PackedSections& m_sections;
+};
+}

@@ -1,0 +1,12 @@
+// What a writer wants of every line beside its texts. All of it takes memory for as long as the report is kept, so that
+// nothing is kept unless a writer asks.
+#pragma once
+
+namespace mekbom
+{
+struct LineContents
+{
+    bool values = false; // what each cell held before it was shown: 16 bytes for each cell
+    bool rows = false;   // the rows behind each line: 8 bytes for each row and each of its sections
+};
+}

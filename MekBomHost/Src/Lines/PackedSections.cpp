@@ -1,0 +1,248 @@
+// A section is a number for its place, its texts, and its values where they are kept. Texts are of three kinds: one that
+// many lines repeat is a single byte, its number; a plain one its length in a byte and its characters; any other one the
+// byte kOther, its length as a number, and its bytes. A value is its bytes as they stand in memory.
+//
+//   a details line of level 2 that shows "HEA200", the first text that lines repeat under that token, and "2.5"
+//
+//     04 00 00 00   80           03 '2' '.' '5'
+//     2 * level     repeated 0   plain, of 3 bytes
+//
+// The rows behind the sections stand apart, in SectionRows: a row that is merged into a line comes after the line was
+// packed.
+#include "PackedSections.h"
+
+#include "Utf8.h"
+
+#include <algorithm>
+
+namespace mekbom
+{
+namespace
+{
+const std::size_t kPageSize = 1 << 20; // arbitrary: small against a report that needs a second one
+
+std::uint32_t numberOf(SectionPlace place)
+{
+    return static_cast<std::uint32_t>(place.level) * 2 + (place.isFooter ? 1 : 0);
+}
+
+SectionPlace placeOf(std::uint32_t number)
+{
+    return { static_cast<int>(number / 2), number % 2 != 0 };
+}
+
+// False for a text that is not plain: a character below ' ' or above '~' sets the highest bit of one of the
+// differences, and looking at all of them once is cheaper than at each.
+bool narrow(const VorString& text, char* pBytes)
+{
+    const wchar_t* const pText = text.getStringW();
+    const int length = text.length();
+    std::uint32_t differences = 0;
+    for (int i = 0; i < length; ++i)
+    {
+        // NOLINTNEXTLINE(bugprone-signed-char-misuse): a wchar_t is no char
+        const auto character = static_cast<std::uint32_t>(pText[i]);
+        differences |= (character - U' ') | (U'~' - character);
+        pBytes[i] = static_cast<char>(character);
+    }
+    return differences >> 31 == 0;
+}
+}
+
+PackedSections::PackedSections(const ReportTemplate& reportTemplate, LineContents contents)
+    : VorBomSectionSink(contents.values ? kTypedValues : kTextsAlone), m_contents(contents)
+{
+    for (const VorBomItemBase* pHeader = reportTemplate.pTemplate->child(); pHeader != nullptr;
+         pHeader = pHeader->child())
+    {
+        m_headers.push_back(keptFor(reportTemplate, pHeader));
+        m_footers.push_back(keptFor(reportTemplate, pHeader->next()));
+    }
+}
+
+// A level may lack its footer.
+PackedSections::Kept PackedSections::keptFor(const ReportTemplate& reportTemplate, const VorBomItemBase* pSection)
+{
+    Kept kept;
+    if (pSection == nullptr)
+        return kept;
+    kept.hasLine = reportTemplate.hasLine(*pSection);
+    kept.tuples = reportTemplate.shownTuplesOf(*pSection);
+    kept.repeatedTexts.resize(kept.tuples.size());
+    kept.extents.resize(kept.tuples.size());
+    return kept;
+}
+
+void PackedSections::takeHeader(const VorBomReportSection& header)
+{
+    if (take(m_headers[static_cast<std::size_t>(header.level)], header, false) && m_contents.rows)
+        m_rows.add(*header.pRow);
+}
+
+void PackedSections::takeFooter(const VorBomReportSection& footer)
+{
+    if (!take(m_footers[static_cast<std::size_t>(footer.level)], footer, true) || !m_contents.rows)
+        return;
+    for (const VorBomDataRow& row : footer.countedRows)
+        m_rows.add(row);
+}
+
+void PackedSections::takeMergedRow(const VorBomDataRow& row)
+{
+    ++m_numMergedRows;
+    if (m_isLastPacked && m_contents.rows)
+        m_rows.add(row);
+}
+
+const PackedSections::Kept& PackedSections::keptOf(SectionPlace place) const
+{
+    return (place.isFooter ? m_footers : m_headers)[static_cast<std::size_t>(place.level)];
+}
+
+TextExtent PackedSections::extentOf(SectionPlace place, std::size_t index) const
+{
+    TextExtent extent = keptOf(place).extents[index];
+    for (const ShownText& text : keptOf(place).repeatedTexts[index].texts())
+    {
+        extent.longest = std::max(extent.longest, text.length);
+        extent.areAllPlain = extent.areAllPlain && text.isPlain;
+    }
+    return extent;
+}
+
+// False for a section without a line.
+bool PackedSections::take(Kept& kept, const VorBomReportSection& section, bool isFooter)
+{
+    m_isLastPacked = kept.hasLine;
+    if (!kept.hasLine)
+        return false;
+    kept.isTaken = true;
+    makeRoom(sizeof(Number));
+    append(numberOf({ section.level, isFooter }));
+    const VorBomDataTuple* const pTuples = section.section.getData().begin();
+    for (std::size_t i = 0; i < kept.tuples.size(); ++i)
+        append(pTuples[kept.tuples[i]].value(), kept.repeatedTexts[i], kept.extents[i]);
+    if (m_contents.values)
+        for (const int tuple : kept.tuples)
+            append(section.pValues[tuple]);
+    if (m_contents.rows)
+        m_rows.beginList();
+    return true;
+}
+
+// An evaluated section shows texts alone; whatever has no value shows nothing.
+void PackedSections::append(const VorBomDataValue& value, RepeatedTexts& repeatedTexts, TextExtent& extent)
+{
+    static const VorString kNoText;
+    const VorString& text =
+        value.type() == VorBomDataValue::kStringData ? *static_cast<const VorString*>(value.data()) : kNoText;
+    const std::size_t number = text.isEmpty() == 1 ? RepeatedTexts::kNone : repeatedTexts.numberOf(text);
+    if (number != RepeatedTexts::kNone)
+        appendByte(kFirstRepeated + number);
+    else if (appendPlain(text))
+        extent.longest = std::max(extent.longest, static_cast<std::uint32_t>(text.length()));
+    else
+    {
+        appendOther(Utf8::toBytes(text));
+        extent.areAllPlain = false;
+    }
+}
+
+void PackedSections::appendByte(std::size_t byte)
+{
+    makeRoom(1);
+    *m_pNext++ = static_cast<char>(byte);
+}
+
+bool PackedSections::appendPlain(const VorString& text)
+{
+    const auto length = static_cast<std::size_t>(text.length());
+    if (length > kLongestPlain)
+        return false;
+    makeRoom(length + 1);
+    if (!narrow(text, m_pNext + 1))
+        return false;
+    *m_pNext = static_cast<char>(length);
+    m_pNext += length + 1;
+    return true;
+}
+
+void PackedSections::appendOther(std::string_view text)
+{
+    makeRoom(1 + sizeof(Number) + text.size());
+    *m_pNext++ = static_cast<char>(kOther);
+    append(static_cast<Number>(text.size()));
+    m_pNext = std::copy(text.begin(), text.end(), m_pNext);
+}
+
+// Where there is room for it.
+void PackedSections::append(Number number)
+{
+    std::memcpy(m_pNext, &number, sizeof number);
+    m_pNext += sizeof number;
+}
+
+void PackedSections::append(const VorBomTypedValue& value)
+{
+    makeRoom(sizeof value);
+    std::memcpy(m_pNext, &value, sizeof value);
+    m_pNext += sizeof value;
+}
+
+void PackedSections::makeRoom(std::size_t size)
+{
+    if (static_cast<std::size_t>(m_pPageEnd - m_pNext) < size)
+        startPage(size);
+}
+
+void PackedSections::startPage(std::size_t size)
+{
+    if (!m_pages.empty())
+        m_pages.back().pEnd = m_pNext;
+    const std::size_t pageSize = std::max(size, kPageSize);
+    m_pages.emplace_back();
+    m_pages.back().bytes.reset(new char[pageSize]); // not cleared, as make_unique would
+    m_pNext = m_pages.back().bytes.get();
+    m_pPageEnd = m_pNext + pageSize;
+}
+
+const char* PackedSections::endOf(std::size_t page) const
+{
+    return page + 1 == m_pages.size() ? m_pNext : m_pages[page].pEnd;
+}
+
+bool PackedSections::Reader::nextSection(SectionPlace& place)
+{
+    turnPages();
+    if (m_pNext == m_pPageEnd)
+        return false;
+    ++m_numSections;
+    place = placeOf(takeNumber());
+    const std::vector<RepeatedTexts>& repeatedTexts = m_sections.keptOf(place).repeatedTexts;
+    m_pRepeatedTexts = repeatedTexts.data();
+    m_numTexts = repeatedTexts.size();
+    return true;
+}
+
+RowList PackedSections::Reader::rows() const
+{
+    return m_sections.m_contents.rows ? m_sections.m_rows.list(m_numSections - 1) : RowList();
+}
+
+void PackedSections::Reader::read(VorBomTypedValue& value)
+{
+    turnPages();
+    std::memcpy(&value, take(sizeof value), sizeof value);
+}
+
+// Pages may be empty: a text that did not fit into the one before may turn out to need a larger one.
+void PackedSections::Reader::turnPages()
+{
+    while (m_pNext == m_pPageEnd && m_numPagesTurned < m_sections.m_pages.size())
+    {
+        m_pNext = m_sections.m_pages[m_numPagesTurned].bytes.get();
+        m_pPageEnd = m_sections.endOf(m_numPagesTurned);
+        ++m_numPagesTurned;
+    }
+}
+}

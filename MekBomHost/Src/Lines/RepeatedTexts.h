@@ -1,0 +1,77 @@
+// The texts that many lines show under one token, numbered, so that a line needs to keep no more than a number of them:
+// a material, a coating, the few lengths of standard parts.
+//
+//   VorString steel(L"S235"), copy = steel;
+//   texts.numberOf(steel);        // 0: the first text met
+//   texts.numberOf(copy);         // 0
+//   texts.numberOf(L"S355");      // 1
+//   texts.text(0).view();         // "S235"
+//
+// Copies of a text share its characters, so a text is known by their address, without a look at them. An equal text with
+// characters of its own has another number: that costs memory, no more. No text gets a number once kMostTexts have one;
+// and when most texts are then found to have none, the token is given up, and no text is looked up any more.
+#pragma once
+
+#include "ShownText.h"
+
+#include "MekRoots/Exp/VorString.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace mekbom
+{
+class RepeatedTexts
+{
+public:
+    static constexpr std::size_t kMostTexts = 126; // so that a number fits into a byte with other uses
+    static constexpr std::size_t kNone = kMostTexts;
+
+    // `text` is not empty.
+    std::size_t numberOf(const VorString& text)
+    {
+        if (m_isGivenUp)
+            return kNone;
+        const wchar_t* const pCharacters = text.getStringW();
+        std::size_t slot = firstSlotOf(pCharacters);
+        for (; m_characters[slot] != nullptr; slot = (slot + 1) % kNumSlots)
+        {
+            if (m_characters[slot] != pCharacters)
+                continue;
+            ++m_numFound;
+            return m_numbers[slot];
+        }
+        return m_texts.size() < kMostTexts ? add(text, slot) : miss();
+    }
+
+    // Valid as long as this object.
+    const ShownText& text(std::size_t number) const { return m_texts[number]; }
+    const std::vector<ShownText>& texts() const { return m_texts; }
+
+private:
+    static constexpr int kNumTrials = 1000; // arbitrary: enough to tell
+    static constexpr int kSlotBits = 8;
+    static constexpr std::size_t kNumSlots = std::size_t{ 1 } << kSlotBits; // twice as many as texts
+
+    static std::size_t firstSlotOf(const wchar_t* pCharacters)
+    {
+        const auto address = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(pCharacters));
+        return static_cast<std::size_t>(address * 0x9E3779B97F4A7C15U >> (64 - kSlotBits)); // Fibonacci hashing
+    }
+    std::size_t add(const VorString& text, std::size_t slot);
+    std::size_t miss();
+
+    std::array<const wchar_t*, kNumSlots> m_characters{}; // an open-addressed table; null for a free slot
+    std::array<unsigned char, kNumSlots> m_numbers{};
+    int m_numFound = 0;
+    int m_numMissed = 0; // since all numbers are taken
+    bool m_isGivenUp = false;
+    std::vector<ShownText> m_texts;
+    std::vector<std::unique_ptr<std::string>> m_bytes; // that m_texts refer to
+    std::vector<VorString> m_originals;                // which keep their characters where they are
+};
+}

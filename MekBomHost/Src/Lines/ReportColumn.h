@@ -1,0 +1,32 @@
+// A column of a report: what stands in it, and how the template wants it to look.
+//
+//   token "%Length", label "Cut", unit "mm", numeric       ->   heading()  "Cut [mm]"
+//   token "%Name", label "Profile", no unit                ->   heading()  "Profile"
+#pragma once
+
+#include "UnitKinds.h"
+
+#include "MekRoots/Exp/VorString.h"
+
+#include <string>
+#include <vector>
+
+namespace mekbom
+{
+struct ReportColumn
+{
+    // The label with the unit in brackets; the label as it is without a unit, and when it is the unit or ends in
+    // brackets of its own.
+    std::string heading() const;
+
+    VorString token;                    // the column's name: no other column has it unless a section shows it twice
+    std::vector<VorString> shownTokens; // of the tuples that are shown in it, as the sections come
+
+    std::string label;                   // UTF-8: the template's, else the token's name or formula
+    const UnitKind* pUnitKind = nullptr; // of its numbers; null where they have no unit or not all the same
+    std::string unitSymbol;              // UTF-8: the unit that they are shown in; empty without pUnitKind
+    bool isNumeric = false;              // it shows numbers: half of one would be another number
+    bool isAlignedRight = false;         // as the template says, else numbers right and texts left
+    int width = 0;                       // in characters on a terminal; 0 where the template leaves it open
+};
+}

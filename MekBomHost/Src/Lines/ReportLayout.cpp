@@ -1,0 +1,174 @@
+// Columns come to be in the order in which somebody first names them, and a section takes each one at most once:
+//
+//   the template describes   %Weight                         columns  0 %Weight
+//   details show             %Name                           none is called so: a new one, 1 %Name
+//                            %Weight                         0
+//                            %SumBy:%Weight, in %Weight      0 is taken by this section: a new one, 2 %SumBy:%Weight
+//   the footer shows         %SumBy:%Weight, in %Weight      0, which this section has not taken yet
+//
+// What a column holds is known only then, since its unit has to be that of all tuples it shows.
+#include "ReportLayout.h"
+
+#include "Utf8.h"
+
+#include "VorBomDataToken.h"
+#include "VorBomDataTuple.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace mekbom
+{
+namespace
+{
+// "%Weight" -> "Weight", "%Formula:%Length/1000" -> "%Length/1000"
+std::string labelOf(const VorString& token)
+{
+    VorString label = TokenQuantities::datumOf(token);
+    if (VorBomDataToken::removeFormulaPrefix(label) == 0 && label.find(VorBomDataToken::kTokenPrefix, 0) == 0)
+        label = label.right(label.length() - 1);
+    return Utf8::toBytes(label);
+}
+
+bool holds(const std::vector<int>& columns, int column)
+{
+    return std::find(columns.begin(), columns.end(), column) != columns.end();
+}
+
+bool canShareLine(const SectionLayout& header, const SectionLayout& footer)
+{
+    const auto isShownByFooter = [&footer](int column) { return holds(footer.columns, column); };
+    return footer.label.empty() && header.label.empty() &&
+           std::none_of(header.columns.begin(), header.columns.end(), isShownByFooter);
+}
+
+// A label stands where the line shows nothing else.
+void placeLabel(SectionLayout& section, std::size_t numColumns)
+{
+    for (int column = 0; column < static_cast<int>(numColumns) && section.labelColumn < 0; ++column)
+        if (!holds(section.columns, column))
+            section.labelColumn = column;
+}
+
+void describeContent(ReportColumn& column, const TokenQuantities& quantities)
+{
+    column.isNumeric = !column.shownTokens.empty() && quantities.isNumeric(column.shownTokens.front());
+    column.pUnitKind = quantities.commonKindOf(column.shownTokens);
+    if (column.pUnitKind != nullptr)
+        column.unitSymbol = quantities.symbolOf(*column.pUnitKind);
+}
+
+void describeLook(ReportColumn& column, const std::vector<ColumnStyle>& styles)
+{
+    column.label = labelOf(column.token);
+    column.isAlignedRight = column.isNumeric;
+    const auto style =
+        std::find_if(styles.begin(), styles.end(),
+                     [&column](const ColumnStyle& candidate) { return candidate.token == column.token; });
+    if (style == styles.end())
+        return;
+    if (!style->label.empty())
+        column.label = style->label;
+    column.width = style->width;
+    if (style->alignment != ColumnStyle::kByType)
+        column.isAlignedRight = style->alignment == ColumnStyle::kRight;
+}
+}
+
+ReportLayout::ReportLayout(const ReportTemplate& reportTemplate, const VorUnitsManager& units)
+{
+    for (const ColumnStyle& style : reportTemplate.columns)
+        addColumn(style.token);
+    layOutLevels(reportTemplate);
+    completeLevels();
+    describeColumns(reportTemplate, units);
+}
+
+const SectionLayout& ReportLayout::section(SectionPlace place) const
+{
+    const LevelLayout& level = m_levels[static_cast<std::size_t>(place.level)];
+    return place.isFooter ? level.footer : level.header;
+}
+
+// In the order in which the lines of one group come: headers from the outside in, footers from the inside out.
+void ReportLayout::layOutLevels(const ReportTemplate& reportTemplate)
+{
+    std::vector<const VorBomItemBase*> footers;
+    for (const VorBomItemBase* pHeader = reportTemplate.pTemplate->child(); pHeader != nullptr;
+         pHeader = pHeader->child())
+    {
+        m_levels.push_back({});
+        m_levels.back().header = layOut(reportTemplate, pHeader);
+        footers.push_back(pHeader->next());
+    }
+    for (std::size_t i = footers.size(); i-- > 0;)
+        m_levels[i].footer = layOut(reportTemplate, footers[i]);
+}
+
+// A level may lack its footer.
+SectionLayout ReportLayout::layOut(const ReportTemplate& reportTemplate, const VorBomItemBase* pSection)
+{
+    SectionLayout section;
+    if (pSection == nullptr || !reportTemplate.styleOf(pSection).isPrinted)
+        return section;
+    section.label = reportTemplate.styleOf(pSection).label;
+    for (const int tupleIndex : reportTemplate.shownTuplesOf(*pSection))
+    {
+        const VorString& token = pSection->getData()[tupleIndex].token().token();
+        const int column = columnFor(reportTemplate.columnTokenOf(*pSection, tupleIndex), token, section.columns);
+        m_columns[static_cast<std::size_t>(column)].shownTokens.push_back(token);
+        section.columns.push_back(column);
+    }
+    return section;
+}
+
+// Where labels stand is known when all columns are.
+void ReportLayout::completeLevels()
+{
+    for (LevelLayout& level : m_levels)
+    {
+        placeLabel(level.header, m_columns.size());
+        placeLabel(level.footer, m_columns.size());
+        level.canShareLine = canShareLine(level.header, level.footer);
+    }
+}
+
+void ReportLayout::describeColumns(const ReportTemplate& reportTemplate, const VorUnitsManager& units)
+{
+    VorBomTemplate& engineTemplate = *reportTemplate.pTemplate;
+    const TokenQuantities quantities(*engineTemplate.getBomData(), *engineTemplate.getBomTemplateUnits(), units);
+    for (ReportColumn& column : m_columns)
+    {
+        describeContent(column, quantities);
+        describeLook(column, reportTemplate.columns);
+    }
+}
+
+// The column of `token`, or, when the section has taken that already, one of the tuple's own.
+int ReportLayout::columnFor(const VorString& token, const VorString& tupleToken, const std::vector<int>& taken)
+{
+    const int column = findColumn(token);
+    if (column < 0)
+        return addColumn(token);
+    if (!holds(taken, column))
+        return column;
+    const int own = findColumn(tupleToken);
+    return own < 0 || holds(taken, own) ? addColumn(tupleToken) : own;
+}
+
+// -1 when there is none.
+int ReportLayout::findColumn(const VorString& token) const
+{
+    const auto found = std::find_if(m_columns.begin(), m_columns.end(),
+                                    [&token](const ReportColumn& column) { return column.token == token; });
+    return found == m_columns.end() ? -1 : static_cast<int>(found - m_columns.begin());
+}
+
+int ReportLayout::addColumn(const VorString& token)
+{
+    ReportColumn column;
+    column.token = token;
+    m_columns.push_back(column);
+    return static_cast<int>(m_columns.size()) - 1;
+}
+}

@@ -1,0 +1,179 @@
+// Nearly all lines are plain: printable ASCII that fits its columns. Such a line is made of blanks as wide as the table,
+// each text is copied straight into its place among them, and what follows the last text is cut off:
+//
+//   widths 6, 8, 5; texts "L50", "", "2.5", the last aligned right
+//     "                         "     each column and the two blanks after it
+//     "L50                 2.5  "     3 bytes at 0, nothing at 8, 3 bytes at 18 + (5 - 3)
+//     "L50                 2.5"       then a line feed
+//
+// Without that way a report of 100,000 lines takes twice the instructions. Any other line has its cells wrapped first.
+#include "TextTable.h"
+
+#include "Utf8.h"
+#include "WordWrap.h"
+
+#include <algorithm>
+
+namespace mekbom
+{
+namespace
+{
+const std::size_t kNumBlanksBetween = 2;
+const std::size_t kBlockSize = 1 << 16; // arbitrary: large against a call of the system
+
+bool isFooterAlone(const LinePlace& place)
+{
+    return place.hasFooter && !place.hasHeader;
+}
+}
+
+TextTable::TextTable(const EvaluatedReport& report, TextSink& sink)
+    : m_report(report), m_sink(sink), m_columns(TextColumns::of(report)), m_wrapped(m_columns.size())
+{
+    for (const TextColumn& column : m_columns)
+        m_lineWidth += static_cast<std::size_t>(column.width) + kNumBlanksBetween;
+}
+
+void TextTable::write()
+{
+    writeTitle();
+    writeHeading();
+    ReportLines lines = m_report.lines();
+    ReportLine line;
+    for (LinePlace previous; lines.next(line); previous = line.place)
+    {
+        writeSeparation(line.place, previous);
+        writeLine(line);
+        passOn(kBlockSize);
+    }
+    passOn(0);
+    m_sink.finish();
+}
+
+void TextTable::writeTitle()
+{
+    if (m_report.title().empty())
+        return;
+    for (const std::string& line : WordWrap::wrap(m_report.title() + "\n", 0))
+        m_text += line + "\n";
+}
+
+void TextTable::writeHeading()
+{
+    if (m_columns.empty())
+        return;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        m_wrapped[i] = WordWrap::wrap(m_columns[i].heading, m_columns[i].labelLimit);
+    writeWrapped();
+    writeRule();
+}
+
+void TextTable::writeRule()
+{
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        m_text.append(i == 0 ? 0 : kNumBlanksBetween, ' ').append(static_cast<std::size_t>(m_columns[i].width), '-');
+    m_text += '\n';
+}
+
+// What comes between two lines. The first line has the rule of the heading before it.
+void TextTable::writeSeparation(const LinePlace& place, const LinePlace& previous)
+{
+    const bool isFirst = !previous.hasHeader && !previous.hasFooter;
+    if (isFirst)
+        return;
+    if (isFooterAlone(place) && place.level == 0)
+        writeRule();
+    else if (place.hasHeader && (previous.level > place.level || isFooterAlone(previous)))
+        m_text += '\n';
+}
+
+// A label that no column of its line has room for stands above it.
+void TextTable::writeLine(const ReportLine& line)
+{
+    if (!line.label.empty() && line.labelColumn < 0)
+        m_text += WordWrap::wrap(line.label, 0).front() + "\n";
+    if (isPlain(line))
+        return writePlain(line.texts);
+    wrap(line);
+    writeWrapped();
+}
+
+// Labels may hold anything, and are few.
+bool TextTable::isPlain(const ReportLine& line) const
+{
+    if (line.labelColumn >= 0)
+        return false;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        if (!m_columns[i].takesAsIs(line.texts[i]))
+            return false;
+    return true;
+}
+
+void TextTable::writePlain(const std::vector<ShownText>& texts)
+{
+    const std::size_t begin = m_text.size();
+    m_text.append(m_lineWidth, ' ');
+    char* pPlace = &m_text[begin];
+    const char* pEnd = pPlace;
+    for (std::size_t i = 0; i < texts.size(); ++i)
+    {
+        const ShownText& text = texts[i];
+        const auto width = static_cast<std::size_t>(m_columns[i].width);
+        const std::size_t numBlanksBefore = m_columns[i].isAlignedRight ? width - text.length : 0;
+        if (text.length > 0)
+            pEnd = std::copy_n(text.pBytes, text.length, pPlace + numBlanksBefore);
+        pPlace += width + kNumBlanksBetween;
+    }
+    m_text.resize(static_cast<std::size_t>(pEnd - m_text.data()));
+    m_text += '\n';
+}
+
+void TextTable::wrap(const ReportLine& line)
+{
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        m_wrapped[i] = line.labelColumn == static_cast<int>(i)
+                           ? WordWrap::wrap(line.label, m_columns[i].labelLimit)
+                           : WordWrap::wrap(line.texts[i].view(), m_columns[i].textLimit);
+}
+
+void TextTable::writeWrapped()
+{
+    std::size_t numLines = 1;
+    for (const std::vector<std::string>& cell : m_wrapped)
+        numLines = std::max(numLines, cell.size());
+    for (std::size_t index = 0; index < numLines; ++index)
+        writeWrappedLine(index);
+}
+
+// Blanks that no text follows are never written.
+void TextTable::writeWrappedLine(std::size_t index)
+{
+    std::size_t numBlanks = 0; // that stand before the next text, if there is one
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+    {
+        if (index < m_wrapped[i].size() && !m_wrapped[i][index].empty())
+            numBlanks = writeText(m_columns[i], m_wrapped[i][index], numBlanks);
+        else
+            numBlanks += static_cast<std::size_t>(m_columns[i].width);
+        numBlanks += kNumBlanksBetween;
+    }
+    m_text += '\n';
+}
+
+// Gives how many blanks of the column come after the text.
+std::size_t TextTable::writeText(const TextColumn& column, const std::string& text, std::size_t numBlanksBefore)
+{
+    const auto numFree = static_cast<std::size_t>(std::max(column.width - Utf8::displayWidth(text), 0));
+    const std::size_t indent = column.isAlignedRight ? numFree : 0;
+    m_text.append(numBlanksBefore + indent, ' ').append(text);
+    return numFree - indent;
+}
+
+void TextTable::passOn(std::size_t least)
+{
+    if (m_text.size() < least)
+        return;
+    m_sink.write(m_text);
+    m_text.clear();
+}
+}

@@ -1,0 +1,57 @@
+// An evaluated report as a text table: title, headings, one line for each section that shows anything.
+//
+//   Cutting list
+//
+//   Profile  Material  Pieces  Weight
+//   -------  --------  ------  ------
+//   HEA200   S355J2         4  1042.4
+//   IPE360   S355J2        16  8127.5
+//   -------  --------  ------  ------
+//   Total                  20  9169.9
+//
+// A blank line sets off groups of several lines, a rule the report's own footer. A column is as wide as its widest
+// text, or as the template says: texts that are wider go on in the next line, numbers widen the column. Lines have no
+// blanks at their end. The whole table is in UTF-8, whatever the locale.
+#pragma once
+
+#include "EvaluatedReport.h"
+#include "TextColumns.h"
+#include "TextSink.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace mekbom
+{
+class TextTable
+{
+public:
+    // Owns neither; both must outlive the table.
+    TextTable(const EvaluatedReport& report, TextSink& sink);
+
+    // Writes the whole table into the sink and finishes that. To be called once.
+    void write();
+
+private:
+    void writeTitle();
+    void writeHeading();
+    void writeRule();
+    void writeSeparation(const LinePlace& place, const LinePlace& previous);
+    void writeLine(const ReportLine& line);
+    bool isPlain(const ReportLine& line) const;
+    void writePlain(const std::vector<ShownText>& texts);
+    void wrap(const ReportLine& line);
+    void writeWrapped();
+    void writeWrappedLine(std::size_t index);
+    std::size_t writeText(const TextColumn& column, const std::string& text, std::size_t numBlanksBefore);
+    void passOn(std::size_t least);
+
+    const EvaluatedReport& m_report;
+    TextSink& m_sink;
+    const std::vector<TextColumn> m_columns;
+    std::size_t m_lineWidth = 0;                     // of all columns, each with the blanks after it
+    std::vector<std::vector<std::string>> m_wrapped; // for each column the lines of the cell that is being written
+    std::string m_text;                              // written but not passed on to the sink
+};
+}

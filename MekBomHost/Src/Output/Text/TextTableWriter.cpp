@@ -1,0 +1,11 @@
+#include "TextTableWriter.h"
+
+#include "TextTable.h"
+
+namespace mekbom
+{
+void TextTableWriter::write(const EvaluatedReport& report, TextSink& sink) const
+{
+    TextTable(report, sink).write();
+}
+}

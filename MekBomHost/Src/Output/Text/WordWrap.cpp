@@ -1,0 +1,101 @@
+// Characters are added to a line one by one; when one goes too far, the line is cut at its last blank, which goes, or,
+// without a blank, before that character:
+//
+//   "Base plate, corner", 10 wide
+//     "Base plate,"    11 wide: cut at the blank     ->   "Base", and "plate," goes on
+//     "plate, corn"    11 wide: cut at the blank     ->   "plate,", and "corn" goes on
+//     "corner"         the text ends                 ->   "corner"
+#include "WordWrap.h"
+
+#include "Utf8.h"
+
+#include <cstddef>
+
+namespace mekbom::WordWrap
+{
+namespace
+{
+const int kReplacement = 0xFFFD;
+
+bool isControl(int codePoint)
+{
+    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+}
+
+// Fills lines up to the width; a line that grows too wide is cut at its last blank, or before the character that went
+// too far.
+class LineFiller
+{
+public:
+    explicit LineFiller(int width) : m_width(width) {}
+
+    void add(int codePoint)
+    {
+        if (codePoint == ' ')
+        {
+            m_breakLength = m_line.size();
+            m_breakWidth = m_lineWidth;
+        }
+        Utf8::appendCodePoint(m_line, codePoint);
+        m_lineWidth += Utf8::displayWidth(codePoint);
+        if (m_width > 0 && m_lineWidth > m_width)
+            cut(codePoint);
+    }
+
+    void endLine()
+    {
+        m_lines.push_back(m_line);
+        m_line.clear();
+        m_lineWidth = 0;
+        m_breakLength = 0;
+    }
+
+    std::vector<std::string> takeLines()
+    {
+        endLine();
+        return std::move(m_lines);
+    }
+
+private:
+    void cut(int codePoint)
+    {
+        std::string last;
+        Utf8::appendCodePoint(last, codePoint);
+        const bool isAtBlank = m_breakLength > 0;
+        const std::size_t keep = isAtBlank ? m_breakLength : m_line.size() - last.size();
+        if (keep == 0)
+            return; // wider than the column all by itself
+        const int restWidth = isAtBlank ? m_lineWidth - m_breakWidth - 1 : Utf8::displayWidth(codePoint);
+        const std::string rest = m_line.substr(isAtBlank ? keep + 1 : keep);
+        m_line.resize(keep);
+        endLine();
+        m_line = rest;
+        m_lineWidth = restWidth;
+    }
+
+    int m_width;
+    std::vector<std::string> m_lines;
+    std::string m_line;
+    int m_lineWidth = 0;
+    std::size_t m_breakLength = 0; // of the line up to its last blank; 0 without one
+    int m_breakWidth = 0;
+};
+}
+
+std::vector<std::string> wrap(std::string_view text, int width)
+{
+    LineFiller filler(width);
+    while (!text.empty())
+    {
+        const int codePoint = Utf8::takeCodePoint(text);
+        const bool isPair = codePoint == '\r' && !text.empty() && text.front() == '\n';
+        if (isPair)
+            continue;
+        if (codePoint == '\n' || codePoint == '\r')
+            filler.endLine();
+        else
+            filler.add(codePoint == '\t' ? ' ' : isControl(codePoint) ? kReplacement : codePoint);
+    }
+    return filler.takeLines();
+}
+}

@@ -1,0 +1,19 @@
+// A text as it stands in a table: in lines no wider than its column, without anything that would move a terminal's
+// cursor.
+//
+//   WordWrap::wrap("Base plate, corner", 10)   ->   "Base" | "plate," | "corner"      words stay whole where they fit
+//   WordWrap::wrap("PL20*300*400", 6)          ->   "PL20*3" | "00*400"
+//   WordWrap::wrap("one\ntwo", 0)              ->   "one" | "two"                     0 is no limit
+//
+// Widths are columns of a terminal, which wide characters take two of.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace mekbom::WordWrap
+{
+// At least one line. Line breaks end a line, tabs become blanks, other control characters U+FFFD.
+std::vector<std::string> wrap(std::string_view text, int width);
+}

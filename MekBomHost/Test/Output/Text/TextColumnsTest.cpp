@@ -1,0 +1,64 @@
+#include "TextColumns.h"
+
+#include "Support/EvaluatedParts.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace mekbom
+{
+namespace
+{
+// Details of a name and a weight, whose columns are described by `columns`.
+std::string details(const std::string& columns)
+{
+    return R"({ "columns": [ )" + columns + R"( ], "sections": [ { "type": "kReportHeader", "children": [
+        { "type": "kDetails", "tuples": [ { "token": "%Name" }, { "token": "%Weight" } ] } ] } ] })";
+}
+
+std::vector<int> widthsOf(const std::string& columns, const std::vector<Part>& parts)
+{
+    std::vector<int> widths;
+    const EvaluatedParts evaluated(details(columns), parts);
+    for (const TextColumn& column : TextColumns::of(evaluated.report()))
+        widths.push_back(column.width);
+    return widths;
+}
+
+using Widths = std::vector<int>;
+}
+
+TEST(TextColumnsTest, AColumnIsAsWideAsItsWidestTextOrHeading)
+{
+    EXPECT_EQ((Widths{ 6, 11 }), widthsOf("", { { L"HEA200", L"", 1 }, { L"L50", L"", 2 } })) << "Weight [kg]";
+    EXPECT_EQ((Widths{ 4, 11 }), widthsOf("", { { L"L50", L"", 1 } })) << "Name";
+}
+
+TEST(TextColumnsTest, WidthsCountColumnsOfATerminal)
+{
+    EXPECT_EQ((Widths{ 7, 11 }), widthsOf("", { { L"Träger2", L"", 1 } }));
+    EXPECT_EQ((Widths{ 6, 11 }), widthsOf("", { { L"柱脚板", L"", 1 } }));
+}
+
+TEST(TextColumnsTest, TheTemplatesWidthHoldsButForNumbersAndUnits)
+{
+    const char* const narrow = R"({ "token": "%Name", "width": 5 }, { "token": "%Weight", "label": "W", "width": 2 })";
+
+    EXPECT_EQ((Widths{ 5, 4 }), widthsOf(narrow, { { L"IPE360", L"", 1 } })) << "[kg] is not cut";
+    EXPECT_EQ((Widths{ 5, 7 }), widthsOf(narrow, { { L"IPE360", L"", 1234.56 } }));
+    EXPECT_EQ((Widths{ 5, 4 }), widthsOf(narrow, { { L"Träger", L"", 1 } }));
+}
+
+TEST(TextColumnsTest, OnlyPlainTextsWithinTheLimitAreTakenAsTheyAre)
+{
+    TextColumn column;
+    column.textLimit = 4;
+
+    EXPECT_TRUE(column.takesAsIs({ "abcd", 4, true }));
+    EXPECT_FALSE(column.takesAsIs({ "abcde", 5, true }));
+    EXPECT_FALSE(column.takesAsIs({ "\t", 1, false }));
+    column.textLimit = 0;
+    EXPECT_TRUE(column.takesAsIs({ "abcde", 5, true }));
+}
+}

@@ -1,0 +1,58 @@
+#include "WordWrap.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace mekbom
+{
+namespace
+{
+std::string wrapped(const std::string& text, int width)
+{
+    std::string lines;
+    for (const std::string& line : WordWrap::wrap(text, width))
+        lines += line + "|";
+    return lines;
+}
+
+struct WrapCase
+{
+    const char* text;
+    int width;
+    const char* lines;
+};
+
+const WrapCase kWraps[] = {
+    { "", 0, "|" },
+    { "", 5, "|" },
+    { "HEA200", 0, "HEA200|" },
+    { "HEA200", 6, "HEA200|" },
+    { "HEA200", 5, "HEA20|0|" },
+    { "HEA200", 1, "H|E|A|2|0|0|" },
+    { "Base plate, corner", 10, "Base|plate,|corner|" },
+    { "Base plate, corner", 11, "Base plate,|corner|" },
+    { "Base plate", 4, "Base|plat|e|" },
+    { "a b c d", 3, "a b|c d|" },
+    { " a", 1, " |a|" },
+    { "one\ntwo\r\nthree\rfour", 0, "one|two|three|four|" },
+    { "one\n\ntwo", 9, "one||two|" },
+    { "one\n", 0, "one||" },
+    { "a\tb", 0, "a b|" },
+    { "a\x1B[1mb\x7F", 0, "a\xEF\xBF\xBD[1mb\xEF\xBF\xBD|" },
+    { "Träger", 3, "Trä|ger|" },
+    { "柱脚板", 4, "柱脚|板|" },
+    { "柱脚", 3, "柱|脚|" },
+    { "柱脚", 1, "柱|脚|" }, // wider than the column, each by itself
+    { "e\xCC\x81"
+      "e",
+      1, "e\xCC\x81|e|" }, // an accent stays with its letter
+};
+}
+
+TEST(WordWrapTest, TextsAreBrokenToTheWidth)
+{
+    for (const WrapCase& test : kWraps)
+        EXPECT_EQ(test.lines, wrapped(test.text, test.width)) << test.text << " in " << test.width;
+}
+}
