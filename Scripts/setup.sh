@@ -6,7 +6,7 @@
 # Also makes the locale de_DE.UTF-8 where it may: tests hold numbers against its decimal comma, and skip without it.
 set -eu
 
-packages="g++ cmake ninja-build python3 locales libgtest-dev libcli11-dev nlohmann-json3-dev libcsv-dev libutf8proc-dev"
+packages="g++ cmake ninja-build python3 locales libgtest-dev libcli11-dev nlohmann-json3-dev libutf8proc-dev"
 for argument in "$@"; do
     case "$argument" in
         --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy valgrind libbenchmark-dev" ;;

@@ -51,6 +51,7 @@ int ExpressionsEvaluator::addVariable(const VorExprEvTextView& name, VorExprEvVa
 int ExpressionsEvaluator::evaluate(wchar_t* buffer)
 {
     const int nFormulaLength = static_cast<int>(m_nLength);
+    const int nTextLength = VorExprEvTextView(m_pText, 0, nFormulaLength).textLength();
     int nStart = 0;
     int nPreviousLength = 0;
     buffer[0] = L'\0';
@@ -58,7 +59,7 @@ int ExpressionsEvaluator::evaluate(wchar_t* buffer)
     {
         const int nSeparator = findSeparator(nStart);
         const int nLength = nSeparator < 0 ? nFormulaLength - nPreviousLength : nSeparator - nStart;
-        const VorExprEvTextView statement(m_pText + nStart, 0, nLength, nFormulaLength - nStart);
+        const VorExprEvTextView statement(m_pText + nStart, 0, nLength, nTextLength - nStart);
         const int nResult = evaluateStatement(statement, buffer);
         if (const VorExprEvalError* pError = VorExprEvalErrorHandler::ofThread().oldest())
         {

@@ -1,97 +1,104 @@
-// "(%Weight+3)*2" becomes the steps  %Weight  3  +  2  *  for a stack of numbers, in the order in which the tree is
-// evaluated. A missing side, which counts as 0.0, becomes a step of its own.
+// "(%Weight+3)*2" becomes the steps  %Weight  3  +  2  *  for a stack of numbers, in the order in which the formula's
+// reader takes operands and combines them.
 #include "VorCompiledFormula.h"
 
-#include "VorExprEvTreeItem.h"
+#include "Reading/VorStatementReader.h"
+#include "Reading/VorStatementText.h"
 #include "VorExprEvTreeItemOperand.h"
 #include "VorExprEvTreeItemOperator.h"
 #include "VorExprEvValue.h"
-#include "VorExprEvalErrorHandler.h"
-#include "VorExpressionEvaluator.h"
 
-namespace
+#include <algorithm>
+#include <map>
+#include <string_view>
+
+// Writes the steps while the formula is read.
+class VorCompiledFormula::StepWriter
 {
-bool isSingleStatement(std::wstring_view text)
-{
-    return text.find_first_of(L";=") == std::wstring_view::npos;
-}
-}
+public:
+    struct Left // stands on the stack of numbers
+    {
+    };
+    static constexpr bool kTakesOddStatements = false;
+    static constexpr bool kIsTraced = false;
+
+    StepWriter(VorCompiledFormula& formula, const VorExprEvTextView& statement) : m_formula(formula), m_text(statement)
+    {
+    }
+
+    // 0 for a formula that is left to ExpressionsEvaluator.
+    int write()
+    {
+        VorOperatorStack<Left>::Room room;
+        return VorStatementReader<StepWriter>(*this, room).read(m_text.begin()) != nullptr && m_nHighest <= kDeepest;
+    }
+
+    VorFormulaCharacters::eKind kindAt(const wchar_t* pText) const { return m_text.kindAt(pText); }
+
+    const wchar_t* readOperand(const wchar_t* pText, VorFormulaCharacters::eKind)
+    {
+        VorExprEvTextView operand;
+        const wchar_t* pEnd = m_text.readOperand(pText, operand);
+        double number = 0.0;
+        if (VorExprEvTreeItemOperand::scanNumber(operand, number))
+            push({ kPushNumber, 0, number });
+        else
+            push({ kPushName, indexOfName(operand.existingPart()), 0.0 });
+        return pEnd;
+    }
+
+    void addNothing() { push({ kPushNumber, 0, 0.0 }); }
+
+    Left left(const wchar_t*) const { return {}; }
+
+    void combine(const VorWaitingOperator<Left>& waiting)
+    {
+        m_formula.m_steps.push_back({ waiting.character, 0, 0.0 });
+        --m_nHeight;
+    }
+
+    bool canAssign(const wchar_t*) const { return false; }
+    void assign(const VorWaitingOperator<Left>&) {}
+    void trace(const VorOperatorStack<Left>&) const {}
+
+private:
+    void push(const Step& step)
+    {
+        m_formula.m_steps.push_back(step);
+        m_nHighest = std::max(m_nHighest, ++m_nHeight);
+    }
+
+    int indexOfName(std::wstring_view name)
+    {
+        const auto [found, isNew] = m_indices.emplace(name, static_cast<int>(m_formula.m_names.size()));
+        if (isNew)
+            m_formula.m_names.emplace_back(name.data(), static_cast<int>(name.size()));
+        return found->second;
+    }
+
+    VorCompiledFormula& m_formula;
+    VorStatementText m_text;
+    std::map<std::wstring_view, int> m_indices; // into the formula's names
+    int m_nHeight = 0;                          // of the stack of numbers behind the steps so far
+    int m_nHighest = 0;
+};
 
 VorCompiledFormula::VorCompiledFormula(const wchar_t* text, int length)
 {
-    if (!isSingleStatement(std::wstring_view(text, static_cast<std::size_t>(length))))
-        return;
-    VorExpressionEvaluator parser;
-    m_bFails = parser.parse(VorExprEvTextView(text, 0, length)) == 0 ? 1 : 0;
-    m_bCompiled = m_bFails != 0 || parser.root() == nullptr ? 1 : compile(parser.root());
+    const std::wstring_view formula(text, static_cast<std::size_t>(length));
+    const bool isSingle = formula.find(VorFormulaCharacters::kSeparator) == std::wstring_view::npos;
+    m_bCompiled = isSingle && StepWriter(*this, VorExprEvTextView(text, 0, length)).write() ? 1 : 0;
     if (!m_bCompiled)
         m_names.clear();
-    VorExprEvalErrorHandler::ofThread().clear();
 }
 
-// Walks the tree with a stack of the operators whose sides are still to come; 0 when it is too deep.
-int VorCompiledFormula::compile(const VorExprEvTreeItem* pRoot)
+template <bool kLeftFirst>
+int VorCompiledFormula::compute(const double* values, double& result) const
 {
-    struct Pending
-    {
-        const VorExprEvTreeItem* pItem;
-        bool sidesAreDone;
-    };
-    std::vector<Pending> pending{ { pRoot, false } };
-    NameIndices indices;
-    int depth = 0;
-    while (!pending.empty())
-    {
-        const Pending here = pending.back();
-        pending.pop_back();
-        if (here.sidesAreDone)
-        {
-            const VorExprEvTextView text = here.pItem->getText();
-            m_steps.push_back({ text.at(text.start()), 0, 0.0 });
-            --depth;
-        }
-        else if (here.pItem != nullptr && here.pItem->isOperator())
-        {
-            pending.push_back({ here.pItem, true });
-            pending.push_back({ here.pItem->right(), false });
-            pending.push_back({ here.pItem->left(), false });
-        }
-        else
-        {
-            addOperand(here.pItem, indices);
-            if (++depth > kDeepest)
-                return 0;
-        }
-    }
-    return 1;
-}
-
-// Null for a missing side.
-void VorCompiledFormula::addOperand(const VorExprEvTreeItem* pOperand, NameIndices& indices)
-{
-    double number = 0.0;
-    if (pOperand == nullptr || static_cast<const VorExprEvTreeItemOperand*>(pOperand)->getNumber(number))
-    {
-        m_steps.push_back({ kPushNumber, 0, number });
-        return;
-    }
-    m_steps.push_back({ kPushName, indexOfName(pOperand->getText().existingPart(), indices), 0.0 });
-}
-
-int VorCompiledFormula::indexOfName(std::wstring_view name, NameIndices& indices)
-{
-    const auto [found, isNew] = indices.emplace(name, static_cast<int>(m_names.size()));
-    if (isNew)
-        m_names.emplace_back(name.data(), static_cast<int>(name.size()));
-    return found->second;
-}
-
-int VorCompiledFormula::evaluate(const double* values, double& result) const
-{
-    if (m_bFails)
-        return 0;
+    constexpr auto calculate =
+        kLeftFirst ? &VorExprEvTreeItemOperator::calculateInOrder : &VorExprEvTreeItemOperator::calculate;
     double stack[kDeepest + 1];
-    double* pTop = stack; // the last number pushed; the place below all is for a formula without operands
+    double* pTop = stack; // the number pushed last; the place below all is never popped
     *pTop = 0.0;
     for (const Step& step : m_steps)
     {
@@ -101,7 +108,7 @@ int VorCompiledFormula::evaluate(const double* values, double& result) const
             case kPushName: *++pTop = values[step.name]; break;
             default:
                 --pTop;
-                if (!VorExprEvTreeItemOperator::calculate(step.operation, pTop[0], pTop[1], pTop[0]))
+                if (!calculate(step.operation, pTop[0], pTop[1], pTop[0]))
                     return 0;
                 break;
         }
@@ -109,3 +116,6 @@ int VorCompiledFormula::evaluate(const double* values, double& result) const
     result = VorExprEvValue::readBack(*pTop);
     return 1;
 }
+
+template int VorCompiledFormula::compute<false>(const double* values, double& result) const;
+template int VorCompiledFormula::compute<true>(const double* values, double& result) const;

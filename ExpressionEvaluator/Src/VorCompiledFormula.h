@@ -8,8 +8,8 @@
 //
 // Only formulas of one statement without an assignment, not nested deeper than usual, are compiled; all others are left
 // to ExpressionsEvaluator. For those that are, success and result are those that ExpressionsEvaluator and the conversion
-// of its text give, bit for bit, the rounding to six decimals included. Evaluating touches neither the variables nor the
-// errors of the thread; compiling empties its errors.
+// of its text give, bit for bit, the rounding to six decimals and the sign of a NaN included. Neither compiling nor
+// evaluating touches the variables and errors of the thread, and nothing is traced.
 //
 // Owns all it needs; the text may go. Objects may be shared by threads once they are built.
 #pragma once
@@ -17,11 +17,8 @@
 #include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
-#include <map>
-#include <string_view>
+#include <cmath>
 #include <vector>
-
-class VorExprEvTreeItem;
 
 class MEK_EXPRESSION_API VorCompiledFormula
 {
@@ -34,9 +31,13 @@ public:
     // The names to be given a value, each once.
     const std::vector<VorString>& names() const { return m_names; }
 
-    // 1 with `result`, or 0 with it untouched for a formula that has an error whatever its values, or divides by zero.
+    // 1 with `result`, or 0 with it untouched when it divides by zero.
     // values[i] is the value of names()[i]. When a name has no value there is nothing to compute: the formula fails.
-    int evaluate(const double* values, double& result) const;
+    int evaluate(const double* values, double& result) const
+    {
+        const int nResult = compute<false>(values, result);
+        return nResult != 0 && std::isnan(result) ? compute<true>(values, result) : nResult; // rare, and dear
+    }
 
 private:
     // Deeper formulas are left to ExpressionsEvaluator. Arbitrary; formulas of reports nest a few deep.
@@ -52,14 +53,13 @@ private:
     static constexpr wchar_t kPushNumber = L'#';
     static constexpr wchar_t kPushName = L'%';
 
-    using NameIndices = std::map<std::wstring_view, int>; // into m_names, while they are gathered
+    class StepWriter;
 
-    int compile(const VorExprEvTreeItem* pRoot);
-    void addOperand(const VorExprEvTreeItem* pOperand, NameIndices& indices);
-    int indexOfName(std::wstring_view name, NameIndices& indices);
+    // With the left of two NaNs going on, if asked for.
+    template <bool kLeftFirst>
+    int compute(const double* values, double& result) const;
 
-    std::vector<Step> m_steps; // empty for a formula without operands, whose value is 0
+    std::vector<Step> m_steps; // at least one in a compiled formula
     std::vector<VorString> m_names;
     int m_bCompiled = 0;
-    int m_bFails = 0;
 };

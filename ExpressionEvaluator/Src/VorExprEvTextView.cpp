@@ -1,6 +1,35 @@
 #include "VorExprEvTextView.h"
 
+#include <cwchar>
+#include <limits>
 #include <utility>
+
+namespace
+{
+// Views count in int: of a longer text no more is seen.
+int clampedLength(std::size_t length)
+{
+    constexpr std::size_t kMost = std::numeric_limits<int>::max();
+    return static_cast<int>(std::min(length, kMost));
+}
+}
+
+std::wstring_view VorExprEvTextView::restOfText() const
+{
+    if (m_pText == nullptr || m_nTextLength != kNotMeasured)
+        return textUpTo(m_nTextLength);
+    const wchar_t* pStart = m_pText + m_nStart;
+    return { pStart, std::wcslen(pStart) };
+}
+
+// The view itself may hold zero characters that do not end the text.
+int VorExprEvTextView::measureText() const
+{
+    if (m_pText == nullptr)
+        return 0;
+    const auto nEnd = static_cast<std::size_t>(m_nEnd);
+    return clampedLength(nEnd + std::wcslen(m_pText + nEnd));
+}
 
 // For views of the same length.
 bool VorExprEvTextView::hasSameCharacters(const VorExprEvTextView& other) const

@@ -1,15 +1,20 @@
 // A stretch of formula text: [start, end) counted from a pointer. Views never copy and own nothing: the characters
 // must outlive the view, and with it every variable named by it.
 //
-//   formula "a*12+b"      VorExprEvTextView(formula, 2, 4, 6)  ->  the "12"
-//   formula "a=4;2*a"     VorExprEvTextView(formula + 6, 0, 2, 1)  ->  the "a" and one zero character
+//   const wchar_t text[] = L"a*12+b";
+//   const VorExprEvTextView view(text, 2, 3);
+//   view.existingPart();                          // "1"
+//   view.at(3);                                   // '2': the text goes on behind the view
+//   VorExprEvTextView(text, 2, 8, 6).at(7);       // zero: the text has 6 characters, the view reaches beyond them
 //
-// A view knows how many characters there are behind its pointer. It may reach beyond them, as the view of a formula's
-// last statement does: everything there is a zero character, and the memory is never touched.
+// A view and its text end in different places. A number that begins in a view is read as far as the text goes, and the
+// view of a formula's last statement reaches beyond its text: everything there is a zero character, and the memory is
+// never touched.
 #pragma once
 
 #include "MekRoots/Exp/MekExport.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -19,8 +24,12 @@ public:
     // No text at all: a null pointer, start and end -1. The left side of a negation has it.
     constexpr VorExprEvTextView() = default;
 
-    // A text of its own that ends where the view does, as a variable's name.
-    constexpr VorExprEvTextView(const wchar_t* text, int start, int end) : VorExprEvTextView(text, start, end, end) {}
+    // Part of a text that has all characters of the view and goes on behind them up to a terminating zero, which is not
+    // looked for before somebody reads beyond the view. A view that only serves as a name needs no such zero.
+    constexpr VorExprEvTextView(const wchar_t* text, int start, int end)
+        : VorExprEvTextView(text, start, end, kNotMeasured)
+    {
+    }
 
     // Part of a text that has `textLength` characters from the pointer on, however many of them the view shows.
     constexpr VorExprEvTextView(const wchar_t* text, int start, int end, int textLength)
@@ -32,26 +41,27 @@ public:
     int start() const { return m_nStart; }
     int end() const { return m_nEnd; }
     int length() const { return m_nEnd - m_nStart; }
-    int textLength() const { return m_nTextLength; }
     int hasText() const { return m_pText != nullptr ? 1 : 0; }
+
+    // The same view, with the length of its text looked for once, however often it is asked for.
+    VorExprEvTextView measured() const { return VorExprEvTextView(m_pText, m_nStart, m_nEnd, textLength()); }
+    int textLength() const { return m_nTextLength == kNotMeasured ? measureText() : m_nTextLength; }
 
     // The character `index` places behind the pointer, not behind the start; zero where there is none.
     wchar_t at(int index) const
     {
-        return m_pText != nullptr && index >= 0 && index < m_nTextLength ? m_pText[index] : L'\0';
+        return m_pText != nullptr && index >= 0 && (index < existingEnd() || index < textLength()) ? m_pText[index]
+                                                                                                   : L'\0';
     }
 
     // The part [start, end) of the same text.
-    VorExprEvTextView part(int start, int end) const { return VorExprEvTextView(m_pText, start, end, m_nTextLength); }
+    VorExprEvTextView part(int start, int end) const { return VorExprEvTextView(m_pText, start, end, textLength()); }
 
     // The characters of the view that exist; the length() - size() zero characters beyond them are left out.
-    std::wstring_view existingPart() const
-    {
-        const int nEnd = m_nEnd < m_nTextLength ? m_nEnd : m_nTextLength;
-        if (m_pText == nullptr || nEnd <= m_nStart)
-            return {};
-        return { m_pText + m_nStart, static_cast<std::size_t>(nEnd - m_nStart) };
-    }
+    std::wstring_view existingPart() const { return textUpTo(existingEnd()); }
+
+    // The characters from the view's start to the end of its text, or at least to a zero character.
+    std::wstring_view restOfText() const;
 
     // 1 when both have the same length and the same characters over all of it, zero characters included.
     int isEqual(const VorExprEvTextView& other) const
@@ -60,6 +70,16 @@ public:
     }
 
 private:
+    static constexpr int kNotMeasured = -1;
+
+    int existingEnd() const { return m_nTextLength == kNotMeasured ? m_nEnd : std::min(m_nEnd, m_nTextLength); }
+    std::wstring_view textUpTo(int end) const
+    {
+        if (m_pText == nullptr || end <= m_nStart)
+            return {};
+        return { m_pText + m_nStart, static_cast<std::size_t>(end - m_nStart) };
+    }
+    int measureText() const;
     bool hasSameCharacters(const VorExprEvTextView& other) const;
 
     const wchar_t* m_pText = nullptr;

@@ -5,7 +5,7 @@
 // The list is linked through the nodes' own `next`, so no depth of tree needs a deep stack or more memory.
 #include "VorExprEvTreeItem.h"
 
-#include "VorExprEvTreeItemStack.h"
+#include "Tree/VorExprEvTreeItemStack.h"
 #include "VorExprEvValue.h"
 
 #include "MekRoots/Exp/DebugOutput.h"

@@ -1,9 +1,9 @@
 #include "VorExprEvTreeItemOperand.h"
 
+#include "Reading/VorFormulaCharacters.h"
 #include "VorExprEvValue.h"
 #include "VorExprEvVariableList.h"
 #include "VorExprEvalErrorHandler.h"
-#include "VorFormulaCharacters.h"
 
 #include "MekRoots/Exp/VorNumberText.h"
 
@@ -37,12 +37,11 @@ int VorExprEvTreeItemOperand::scanNumber(const VorExprEvTextView& text, double& 
         number = 0.0;
         return 1;
     }
-    const wchar_t* pStart = text.text() + text.start();
-    const wchar_t* pEnd = text.text() + text.textLength();
-    if (pStart < pEnd && !VorFormulaCharacters::canStartNumber(*pStart))
+    const std::wstring_view rest = text.restOfText();
+    if (!rest.empty() && !VorFormulaCharacters::canStartNumber(rest.front()))
         return 0;
     float scanned = 0.0F;
-    if (VorNumberText::scanFloat(pStart, pEnd, scanned) == VorNumberText::kNoNumber)
+    if (VorNumberText::scanFloat(rest.data(), rest.data() + rest.size(), scanned) == VorNumberText::kNoNumber)
         return 0;
     number = scanned; // still 0.0 where the text ended before any number, which counts as one
     return 1;

@@ -7,17 +7,16 @@
 // The left side of an assignment is a name: it waits for its right side alone.
 #include "VorExprEvTreeItemOperator.h"
 
+#include "Reading/VorFormulaCharacters.h"
+#include "Reading/VorShortStack.h"
 #include "VorExprEvValue.h"
 #include "VorExprEvVariableList.h"
 #include "VorExprEvalErrorHandler.h"
-#include "VorFormulaCharacters.h"
 
 #include "MekRoots/Exp/VorAssert.h"
 
-#include <array>
+#include <cmath>
 #include <cstddef>
-#include <memory_resource>
-#include <vector>
 
 namespace
 {
@@ -57,12 +56,14 @@ struct Waiting
 class Walk
 {
 public:
-    explicit Walk(VorExprEvValue& value) : m_value(value) { m_waiting.reserve(kUsualDepth); }
+    using Stack = VorShortStack<Waiting, kUsualDepth>;
+
+    Walk(VorExprEvValue& value, Stack::Room& room) : m_value(value), m_waiting(room) {}
 
     void run(const VorExprEvTreeItem* pRoot)
     {
         goDown(pRoot);
-        while (!m_waiting.empty())
+        while (!m_waiting.isEmpty())
             goUp();
     }
 
@@ -72,9 +73,7 @@ private:
     void finish(const Waiting& waiting);
 
     VorExprEvValue& m_value; // of the side evaluated last
-    alignas(Waiting) std::array<std::byte, kUsualDepth * sizeof(Waiting)> m_memory;
-    std::pmr::monotonic_buffer_resource m_resource{ m_memory.data(), m_memory.size() };
-    std::pmr::vector<Waiting> m_waiting{ &m_resource };
+    Stack m_waiting;
 };
 
 // Down the left sides to an operand, leaving the operators on the way waiting.
@@ -91,7 +90,7 @@ void Walk::goDown(const VorExprEvTreeItem* pItem)
             return;
         }
         const bool isAssignment = operation == L'=';
-        m_waiting.push_back({ pItem, operation, isAssignment, 0.0 });
+        m_waiting.push({ pItem, operation, isAssignment, 0.0 });
         pItem = isAssignment ? pItem->right() : pItem->left();
     }
     if (pItem != nullptr)
@@ -103,7 +102,7 @@ void Walk::goDown(const VorExprEvTreeItem* pItem)
 // The operator that waits for the value: with it as its left side goes down the right one, or is finished.
 void Walk::goUp()
 {
-    Waiting& waiting = m_waiting.back();
+    Waiting& waiting = m_waiting.top();
     if (!waiting.hasLeft)
     {
         waiting.left = m_value.toNumber();
@@ -111,8 +110,7 @@ void Walk::goUp()
         goDown(waiting.pOperator->right());
         return;
     }
-    finish(waiting);
-    m_waiting.pop_back();
+    finish(m_waiting.pop());
 }
 
 void Walk::finish(const Waiting& waiting)
@@ -123,7 +121,7 @@ void Walk::finish(const Waiting& waiting)
         return;
     }
     double result = 0.0;
-    if (!VorExprEvTreeItemOperator::calculate(waiting.operation, waiting.left, m_value.toNumber(), result))
+    if (!VorExprEvTreeItemOperator::calculateInOrder(waiting.operation, waiting.left, m_value.toNumber(), result))
         VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kDivisionByZero);
     m_value.setDouble(result);
 }
@@ -137,6 +135,15 @@ int VorExprEvTreeItemOperator::precedence(wchar_t character)
     return 0;
 }
 
+// Where neither side is a NaN the operation makes one, whose sign is the processor's business.
+int VorExprEvTreeItemOperator::calculateInOrder(wchar_t operation, double left, double right, double& result)
+{
+    const int nResult = calculate(operation, left, right, result);
+    if (std::isnan(result) && (std::isnan(left) || std::isnan(right)))
+        result = std::isnan(left) ? left : right;
+    return nResult;
+}
+
 int VorExprEvTreeItemOperator::print() const
 {
     return printText();
@@ -144,7 +151,8 @@ int VorExprEvTreeItemOperator::print() const
 
 VorExprEvValue& VorExprEvTreeItemOperator::evaluate(VorExprEvValue& value) const
 {
-    Walk(value).run(this);
+    Walk::Stack::Room room;
+    Walk(value, room).run(this);
     return value;
 }
 

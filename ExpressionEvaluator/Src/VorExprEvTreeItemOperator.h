@@ -36,6 +36,10 @@ public:
         return canDivide ? 1 : 0;
     }
 
+    // The same number, and of two NaNs the left one. Processors keep the sign of the first operand that is a NaN, and
+    // compilers are free to take the sides of '*' and '+' for the first in either order. What trees evaluate to.
+    static int calculateInOrder(wchar_t operation, double left, double right, double& result);
+
     explicit VorExprEvTreeItemOperator(const VorExprEvTextView& text) : VorExprEvTreeItem(text) {}
 
     int print() const override;

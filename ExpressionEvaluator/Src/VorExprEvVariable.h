@@ -17,6 +17,10 @@ public:
     }
 
     const VorExprEvTextView& name() const { return m_name; }
+
+    // The same name in another place.
+    void setName(const VorExprEvTextView& name) { m_name = name; }
+
     const VorExprEvValue& value() const { return m_value; }
 
     // The next older variable, or null.

@@ -1,5 +1,6 @@
 #include "VorExprEvVariableList.h"
 
+#include <cstring>
 #include <functional>
 #include <iterator>
 #include <memory>
@@ -9,6 +10,22 @@ namespace
 {
 // Lists up to this length are walked. Measured with BM_LookUpAmongVariables: building the index pays from about here.
 constexpr int kLongestWalk = 24;
+
+// Four characters at a time, at the end some of them twice: for names a quarter of what a call of the C library takes.
+void copyName(std::wstring_view name, wchar_t* pCopy)
+{
+    constexpr std::size_t kStep = 4;
+    const std::size_t nLength = name.size();
+    if (nLength < kStep)
+    {
+        name.copy(pCopy, nLength);
+        return;
+    }
+    for (std::size_t i = 0; i + kStep < nLength; i += kStep)
+        std::memcpy(pCopy + i, name.data() + i, kStep * sizeof(wchar_t));
+    const std::size_t nLast = nLength - kStep;
+    std::memcpy(pCopy + nLast, name.data() + nLast, kStep * sizeof(wchar_t));
+}
 }
 
 VorExprEvVariableList& VorExprEvVariableList::ofThread()
@@ -23,11 +40,37 @@ const VorExprEvVariable* VorExprEvVariableList::head()
     return m_pHead;
 }
 
+// The places of the next variable and name are kept out of memory, which the copied characters might share.
+int VorExprEvVariableList::announce(const wchar_t* const* names, const double* values, int count)
+{
+    Announced* pNext = m_announced;
+    wchar_t* pFree = m_announcedNames;
+    for (int i = 0; i < count; ++i)
+    {
+        if (names[i] == nullptr)
+            continue;
+        const std::wstring_view name(names[i]);
+        if (pNext == std::end(m_announced) || static_cast<std::ptrdiff_t>(name.size()) > roomBehind(pFree))
+            return 0;
+        copyName(name, pFree);
+        *pNext++ = { pFree, name.size(), values[i] };
+        pFree += name.size();
+    }
+    m_pAnnouncedEnd = pNext;
+    m_pFreeForNames = pFree;
+    return 1;
+}
+
 int VorExprEvVariableList::announce(std::wstring_view name, double value)
 {
-    if (m_pAnnouncedEnd == std::end(m_announced))
+    if (m_pAnnouncedEnd == m_announced)
+        m_pFreeForNames = m_announcedNames;
+    if (m_pAnnouncedEnd == std::end(m_announced) ||
+        static_cast<std::ptrdiff_t>(name.size()) > roomBehind(m_pFreeForNames))
         return 0;
-    *m_pAnnouncedEnd++ = { name.data(), static_cast<int>(name.size()), value };
+    copyName(name, m_pFreeForNames);
+    *m_pAnnouncedEnd++ = { m_pFreeForNames, name.size(), value };
+    m_pFreeForNames += name.size();
     return 1;
 }
 
@@ -62,6 +105,25 @@ void VorExprEvVariableList::prepend(std::wstring_view name, double value)
     prepend(VorExprEvTextView(name.data(), 0, static_cast<int>(name.size())), number);
 }
 
+void VorExprEvVariableList::keepNames()
+{
+    makeAnnounced();
+    std::size_t nLength = 0;
+    for (const VorExprEvVariable* pVariable = m_pHead; pVariable != nullptr; pVariable = pVariable->next())
+        nLength += pVariable->name().existingPart().size();
+    std::wstring names;
+    names.reserve(nLength); // so that the views stay good
+    for (VorExprEvVariable* pVariable = m_pHead; pVariable != nullptr; pVariable = pVariable->next())
+    {
+        const std::wstring_view name = pVariable->name().existingPart();
+        const wchar_t* pKept = names.data() + names.size();
+        names += name;
+        pVariable->setName(VorExprEvTextView(pKept, 0, pVariable->name().length(), static_cast<int>(name.size())));
+    }
+    m_names = std::move(names);
+    m_index = Index(); // by the names before
+}
+
 const VorExprEvVariable* VorExprEvVariableList::find(const VorExprEvTextView& name)
 {
     makeAnnounced();
@@ -79,6 +141,7 @@ void VorExprEvVariableList::deleteVariables()
         m_pHead = pOlder;
     }
     m_nCount = 0;
+    m_names.clear();
 }
 
 // Names that are equal hash alike: zero characters at the end are left out, whether they exist or not.

@@ -5,7 +5,11 @@
 //   list.find(VorExprEvTextView(L"a", 0, 1))  ->  the 3
 //
 // Each thread has one list (ofThread), emptied when an ExpressionsEvaluator is constructed on that thread and kept
-// until the next one is, whatever happens in between.
+// until the next one is, whatever happens in between. Names are views, so their characters must stay as long as the list
+// holds them, unless keepNames has made them its own.
+//
+// evaluateFormula goes a shorter way: it announces its variables, numbers with copied names that cost no memory of their
+// own, and the list makes variables of them only for who asks for one.
 //
 // Invariant: the index is either empty or holds, for every name in the list, its newest variable.
 #pragma once
@@ -13,6 +17,8 @@
 #include "VorExprEvVariable.h"
 
 #include <cstddef>
+#include <iterator>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 
@@ -21,6 +27,7 @@ class MEK_EXPRESSION_API VorExprEvVariableList
 public:
     // Formulas of reports use fewer variables. Arbitrary.
     static constexpr int kMostAnnounced = 32;
+    static constexpr std::size_t kMostAnnouncedCharacters = 1024;
 
     VorExprEvVariableList() = default;
     VorExprEvVariableList(const VorExprEvVariableList&) = delete;
@@ -33,32 +40,20 @@ public:
     const VorExprEvVariable* head();
     int count() const { return m_nCount + static_cast<int>(m_pAnnouncedEnd - m_announced); }
 
-    // A variable that is not made yet.
+    // A variable that is not made yet. The list owns its name.
     struct Announced
     {
-        static constexpr int kNotMeasured = -1;
-
         const wchar_t* pName;
-        int nLength; // kNotMeasured for zero-terminated names
+        std::size_t length;
         double value;
 
-        std::wstring_view name() const
-        {
-            return nLength == kNotMeasured ? pName : std::wstring_view(pName, static_cast<std::size_t>(nLength));
-        }
+        std::wstring_view name() const { return { pName, length }; }
     };
 
-    // Adds double variables to the empty list, null names passed over, the last one newest; no more than
-    // kMostAnnounced. The numbers are copied now. The variables are not made, nor the ends of their names looked for,
-    // before somebody asks for them, which most evaluations never do. Names must stay until then at least.
-    void announce(const wchar_t* const* names, const double* values, int count)
-    {
-        Announced* pNext = m_announced;
-        for (int i = 0; i < count; ++i)
-            if (names[i] != nullptr)
-                *pNext++ = { names[i], Announced::kNotMeasured, values[i] };
-        m_pAnnouncedEnd = pNext;
-    }
+    // Adds double variables to the empty list, null names passed over, the last one newest. Nothing is kept of the
+    // arguments. 0 with the list empty when there are more than kMostAnnounced or their names are too long; the numbers
+    // would fit a variable each, then.
+    int announce(const wchar_t* const* names, const double* values, int count);
 
     // Adds one to those announced; 0 when there are too many.
     int announce(std::wstring_view name, double value);
@@ -78,6 +73,9 @@ public:
 
     // The same with a double.
     void prepend(std::wstring_view name, double value);
+
+    // Copies the names of all variables: from here on nothing is read through the views they were given.
+    void keepNames();
 
     // The newest variable whose name equals `name` over its whole length, case-sensitive; null when there is none.
     const VorExprEvVariable* find(const VorExprEvTextView& name);
@@ -100,6 +98,7 @@ private:
     };
     using Index = std::unordered_map<VorExprEvTextView, const VorExprEvVariable*, NameHash, NameEqual>;
 
+    std::ptrdiff_t roomBehind(const wchar_t* pName) const { return std::end(m_announcedNames) - pName; }
     void makeAnnounced();
     void deleteVariables();
     const VorExprEvVariable* findInList(const VorExprEvTextView& name) const;
@@ -111,4 +110,7 @@ private:
     Index m_index;
     Announced m_announced[kMostAnnounced];
     Announced* m_pAnnouncedEnd = m_announced; // newer than all that are in the list
+    wchar_t m_announcedNames[kMostAnnouncedCharacters];
+    wchar_t* m_pFreeForNames = m_announcedNames; // behind the name of the last announced
+    std::wstring m_names; // those kept
 };

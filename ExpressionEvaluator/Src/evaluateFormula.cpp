@@ -1,36 +1,27 @@
 #include "evaluateFormula.h"
 
 #include "ExpressionsEvaluator.h"
+#include "OneShot/VorFormulaCalculator.h"
 #include "VorExprEvVariableList.h"
 #include "VorExprEvalErrorHandler.h"
 #include "VorExpressionEvaluator.h"
-#include "VorFormulaCalculator.h"
-#include "VorFormulaCharacters.h"
+#include "VorFormulaText.h"
 
 #include "MekRoots/Exp/VorString.h"
 
-#include <algorithm>
 #include <limits>
 #include <string_view>
 
 namespace
 {
-constexpr std::size_t kShortestFormula = 4; // arbitrary, but visible to callers
 constexpr std::size_t kLongestFormula = std::numeric_limits<int>::max();
 
 bool isTooShort(const wchar_t* formula)
 {
     std::size_t nLength = 0;
-    while (nLength < kShortestFormula && formula[nLength] != L'\0')
+    while (nLength < VorFormulaText::kShortest && formula[nLength] != L'\0')
         ++nLength;
-    return nLength < kShortestFormula;
-}
-
-bool isFormula(std::wstring_view text)
-{
-    return text.size() <= kLongestFormula &&
-           std::any_of(text.begin(), text.end(),
-                       [](wchar_t character) { return VorFormulaCharacters::kOperators.holds(character); });
+    return nLength < VorFormulaText::kShortest;
 }
 
 // The trees of a traced formula are wanted, and the quick way has none.
@@ -42,9 +33,8 @@ bool isTraced()
 int evaluateQuickly(const wchar_t* formula, const wchar_t* const* names, const double* values, int count,
                     VorExprEvVariableList& variables, double& result)
 {
-    if (count > VorExprEvVariableList::kMostAnnounced || isTraced())
+    if (isTraced() || !variables.announce(names, values, count))
         return 0;
-    variables.announce(names, values, count);
     return VorFormulaCalculator(variables).calculate(formula, result);
 }
 
@@ -60,11 +50,13 @@ int evaluateByTree(const wchar_t* formula, const wchar_t* const* names, const do
 {
     const std::wstring_view text(formula);
     ExpressionsEvaluator evaluator(formula, static_cast<unsigned int>(text.size()));
-    if (!isFormula(text))
+    if (text.size() > kLongestFormula || !VorFormulaText::isFormula(text))
         return 0;
     addVariables(names, values, count);
     wchar_t buffer[VorExprEvValue::kBufferLength];
-    if (!evaluator.evaluate(buffer))
+    const int nResult = evaluator.evaluate(buffer);
+    VorExprEvVariableList::ofThread().keepNames(); // those given and assigned are the caller's again
+    if (!nResult)
         return 0;
     result = VorString::toDouble(buffer, 0);
     return 1;

@@ -304,13 +304,22 @@ TEST_F(ExpressionsEvaluatorTest, ANullTextIsAnEmptyFormula)
     EXPECT_EQ(VorString(), VorString(buffer));
 }
 
-TEST_F(ExpressionsEvaluatorTest, NothingIsReadPastTheLength)
+TEST_F(ExpressionsEvaluatorTest, NumbersEndWithTheTextAndNotWithTheLength)
 {
-    const wchar_t text[] = { L'a', L'=', L'4', L';', L'a', L'*', L'1', L'2', L'3' };
-    ExpressionsEvaluator evaluator(text, 8);
     wchar_t buffer[VorExprEvValue::kBufferLength];
 
-    EXPECT_EQ(1, evaluator.evaluate(buffer));
+    EXPECT_EQ(1, ExpressionsEvaluator(L"1+23", 3).evaluate(buffer));
+    EXPECT_EQ(VorString(L"24.000000"), VorString(buffer));
+    EXPECT_EQ(1, ExpressionsEvaluator(L"a=4;a*123", 8).evaluate(buffer));
+    EXPECT_EQ(VorString(L"492.000000"), VorString(buffer));
+}
+
+TEST_F(ExpressionsEvaluatorTest, NothingIsReadPastTheTerminatingZero)
+{
+    const wchar_t text[] = L"a=4;a*12\0003";
+    wchar_t buffer[VorExprEvValue::kBufferLength];
+
+    EXPECT_EQ(1, ExpressionsEvaluator(text, 8).evaluate(buffer));
     EXPECT_EQ(VorString(L"48.000000"), VorString(buffer));
 }
 

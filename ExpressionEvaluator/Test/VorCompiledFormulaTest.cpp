@@ -1,12 +1,16 @@
 #include "ExpressionEvaluator/Src/VorCompiledFormula.h"
 
 #include "ExpressionEvaluator/Src/ExpressionsEvaluator.h"
+#include "ExpressionEvaluator/Src/VorExprEvVariableList.h"
+#include "ExpressionEvaluator/Src/VorExprEvalErrorHandler.h"
+#include "ExpressionEvaluator/Src/evaluateFormula.h"
 #include "MekRoots/Test/Support/TestSupport.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <random>
 #include <vector>
 
@@ -84,6 +88,52 @@ TEST(VorCompiledFormulaTest, StatementsAssignmentsAndDeepFormulasAreLeftToTheEva
     EXPECT_EQ(0U, compile(deepNames).names().size());
 }
 
+TEST(VorCompiledFormulaTest, FormulasWhoseOperandsAndOperatorsDoNotTakeTurnsAreLeftToTheEvaluator)
+{
+    for (const wchar_t* text : { L"5*", L"*5", L"+", L"()()", L")(1", L"(1)(2)", L"2(3)", L"(1+2", L"1+2)", L"", L" " })
+    {
+        EXPECT_EQ(0, compile(text).isCompiled()) << VorString(text);
+        EXPECT_EQ(0U, compile(text).names().size()) << VorString(text);
+    }
+}
+
+TEST(VorCompiledFormulaTest, CompilingAndComputingLeaveVariablesAndErrorsAlone)
+{
+    double result = 0.0;
+    const wchar_t* const names[] = { L"a" };
+    evaluateFormula(L"a/0.0", names, &result, 1, nullptr);
+
+    const double divisor = 0.0;
+    EXPECT_EQ(0, compile(L"b/c-(c").isCompiled());
+    EXPECT_EQ(0, compile(L"1/c+2").evaluate(&divisor, result));
+
+    EXPECT_EQ(1, VorExprEvalErrorHandler::ofThread().count());
+    EXPECT_EQ(1, VorExprEvVariableList::ofThread().count());
+    ExpressionsEvaluator(nullptr, 0);
+}
+
+TEST(VorCompiledFormulaTest, ANanHasTheSignThatTheEvaluatorGivesIt)
+{
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    const double values[] = { nan, -nan, HUGE_VAL, -HUGE_VAL, 0.0, 2.5 };
+    const wchar_t* const kFormulas[] = { L"a+b",       L"a*b",         L"a-b",         L"a/b",       L"b+a*1",
+                                         L"0*(a*1+b)", L"0*((b*1)+a)", L"1+(a+2)*b",   L"(1-a)+b*b", L"a*b+b*a",
+                                         L"-a+b",      L"-(a*b)",      L"a+nan*1+b*2", L"2*b-3*a",   L"(a-b)*(a+b)" };
+    for (const wchar_t* pFormula : kFormulas)
+        for (const double a : values)
+            for (const double b : values)
+            {
+                const VorCompiledFormula formula = compile(pFormula);
+                const std::vector<double> given =
+                    formula.names()[0] == L"a" ? std::vector<double>{ a, b } : std::vector<double>{ b, a };
+                double expected = 1.0;
+                double result = 1.0;
+                evaluateAsText(pFormula, formula.names(), given, expected);
+                formula.evaluate(given.data(), result);
+                EXPECT_EQ(std::signbit(expected), std::signbit(result)) << VorString(pFormula) << a << b;
+            }
+}
+
 TEST(VorCompiledFormulaTest, VeryManyNamesAreFoundWithoutSearchingThemOneByOne)
 {
     const int numNames = 200000;
@@ -109,11 +159,10 @@ TEST(VorCompiledFormulaTest, VeryManyNamesAreFoundWithoutSearchingThemOneByOne)
 TEST(VorCompiledFormulaTest, FormulasGiveWhatTheStatementEvaluatorGives)
 {
     const wchar_t* const kFormulas[] = {
-        L"1 + 2",  L"a*3.5",     L"2*3+(4+5)*6", L"8-3-2",   L"8/4/2",   L"-2*3",      L"2*-3",         L"(-3)*a",
-        L"5*",     L"*5",        L"+",           L"()()",    L")(1",     L"(1)(2)",    L"1e+5",         L"0.1+0",
-        L"10/0",   L"1/0.00005", L"1/0.0001",    L"(1+2",    L"1+2)",    L"inf+1",     L"nan*1",        L"0x1p3+a",
-        L"2abc+1", L"\v5*1",     L"1/3+0",       L"a/b",     L"a - b",   L"-a",        L"--a",          L"a*b-b*a",
-        L"0*-1",   L"a/b/b",     L"(a+b)/(a-b)", L"1e30*10", L"b*b*b*b", L"0.5/1e6*1", L"-0.0000001*1",
+        L"1 + 2",  L"a*3.5", L"2*3+(4+5)*6", L"8-3-2",     L"8/4/2",    L"-2*3",      L"2*-3",         L"(-3)*a",
+        L"1e+5",   L"0.1+0", L"10/0",        L"1/0.00005", L"1/0.0001", L"inf+1",     L"nan*1",        L"0x1p3+a",
+        L"2abc+1", L"\v5*1", L"1/3+0",       L"a/b",       L"a - b",    L"-a",        L"--a",          L"a*b-b*a",
+        L"0*-1",   L"a/b/b", L"(a+b)/(a-b)", L"1e30*10",   L"b*b*b*b",  L"0.5/1e6*1", L"-0.0000001*1",
     };
     for (const wchar_t* pFormula : kFormulas)
         for (const double a : { 2.0, -7.25, 0.0, 1e9, 0.0000005, 1.0000005 })

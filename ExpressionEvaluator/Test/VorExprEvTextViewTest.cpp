@@ -24,6 +24,37 @@ TEST(VorExprEvTextViewTest, AViewShowsPartOfItsText)
     EXPECT_EQ(L'+', part.at(4)); // the text goes on behind the view
 }
 
+TEST(VorExprEvTextViewTest, ATextNotMeasuredGoesOnToItsTerminatingZero)
+{
+    const VorExprEvTextView part(L"a*12+b", 2, 3);
+
+    EXPECT_EQ(L"1", part.existingPart());
+    EXPECT_EQ(L"12+b", part.restOfText());
+    EXPECT_EQ(L'2', part.at(3));
+    EXPECT_EQ(6, part.textLength());
+    EXPECT_EQ(6, part.measured().textLength());
+    EXPECT_EQ(L'\0', part.at(6));
+    EXPECT_EQ(L'\0', part.at(7));
+    EXPECT_EQ(0, VorExprEvTextView(nullptr, 0, 0).textLength());
+}
+
+TEST(VorExprEvTextViewTest, ZerosWithinAViewEndNoText)
+{
+    const VorExprEvTextView view(L"a\0b+c", 0, 3);
+
+    EXPECT_EQ(std::wstring_view(L"a\0b", 3), view.existingPart());
+    EXPECT_EQ(5, view.textLength());
+    EXPECT_EQ(L"a", view.restOfText());
+}
+
+TEST(VorExprEvTextViewTest, ANameNeedsNoTerminatingZero)
+{
+    const wchar_t letters[] = { L'a', L'b', L'c' };
+
+    EXPECT_EQ(L"bc", VorExprEvTextView(letters, 1, 3).existingPart());
+    EXPECT_EQ(1, VorExprEvTextView(letters, 1, 3).isEqual(VorExprEvTextView(L"bc", 0, 2)));
+}
+
 TEST(VorExprEvTextViewTest, ThereAreZerosBeyondTheText)
 {
     const wchar_t text[] = { L'a', L'b' }; // no terminating zero to be found in memory

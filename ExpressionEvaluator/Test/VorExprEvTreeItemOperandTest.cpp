@@ -88,7 +88,14 @@ TEST_F(VorExprEvTreeItemOperandTest, TheNumberRunsPastTheView)
 {
     EXPECT_EQ(VorString(L"100000.000000"), valueOf(view(L"1e+5").part(0, 2)));
     EXPECT_EQ(VorString(L"5.000000"), valueOf(view(L"1e+5").part(3, 4)));
-    EXPECT_EQ(VorString(L"1.000000"), valueOf(VorExprEvTextView(L"1e+5", 0, 2))); // here the text ends with the view
+    EXPECT_EQ(VorString(L"1.000000"), valueOf(VorExprEvTextView(L"1e+5", 0, 2, 2))); // here the text ends with the view
+}
+
+TEST_F(VorExprEvTreeItemOperandTest, TheNumberEndsWithTheTextAndNotWithAViewOfUnknownText)
+{
+    EXPECT_EQ(VorString(L"12.000000"), valueOf(VorExprEvTextView(L"12", 0, 1)));
+    EXPECT_EQ(VorString(L"100000.000000"), valueOf(VorExprEvTextView(L"1e+5", 0, 2)));
+    EXPECT_EQ(VorString(L"1.000000"), valueOf(VorExprEvTextView(L"1\0002", 0, 1)));
 }
 
 TEST_F(VorExprEvTreeItemOperandTest, NothingIsReadBeyondTheText)

@@ -1,4 +1,4 @@
-#include "ExpressionEvaluator/Src/VorExprEvTreeItemStack.h"
+#include "ExpressionEvaluator/Src/Tree/VorExprEvTreeItemStack.h"
 #include "ExpressionEvaluator/Src/VorExprEvTreeItemOperand.h"
 #include "Support/FormulaSupport.h"
 

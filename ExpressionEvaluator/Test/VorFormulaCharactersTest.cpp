@@ -1,4 +1,4 @@
-#include "ExpressionEvaluator/Src/VorFormulaCharacters.h"
+#include "ExpressionEvaluator/Src/Reading/VorFormulaCharacters.h"
 
 #include <gtest/gtest.h>
 
@@ -44,7 +44,7 @@ eKind kindInFormula(wchar_t character)
         return kEnd;
     if (kindInStatement(character) != kOperand)
         return kindInStatement(character);
-    if (isDigit(character))
+    if (VorCharacters::isDigit(character))
         return kDigit;
     return canStartNumber(character) ? kOperand : kName;
 }

@@ -13,6 +13,7 @@ std::wstring trimmed(const std::wstring& text)
     return std::wstring(VorCharacters::trimmed(text, L" \t\r"));
 }
 
+// Blank lines say as little as comments do.
 bool isComment(const std::wstring& line)
 {
     return line.empty() || line[0] == L';' || line[0] == L'#';
@@ -46,6 +47,7 @@ int KTIniReader::next()
     return 0;
 }
 
+// Without its line feed; a carriage return before it is a blank at the line's end.
 std::wstring KTIniReader::takeLine()
 {
     const std::size_t begin = m_nNext;

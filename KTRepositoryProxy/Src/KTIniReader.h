@@ -1,12 +1,10 @@
 // Reads the entries of an INI text, one after the other.
 //
-//   ; how lists are shown
-//   [Display]
-//   C40_SuppressZeroFeet = 1
-//
-//   KTIniReader reader(text);
+//   KTIniReader reader(L"; how lists are shown\n"
+//                      L"[Display]\n"
+//                      L"C40_SuppressZeroFeet = 1\n");
 //   while (reader.next() == 1)
-//       store(reader.key(), reader.value());         "C40_SuppressZeroFeet", "1"
+//       store(reader.key(), reader.value());   // "C40_SuppressZeroFeet", "1"
 //   if (!reader.fault().isEmpty())
 //       complain(reader.line(), reader.fault());
 //
@@ -30,11 +28,11 @@ public:
     // Goes to the next entry; 0 at the end, and at a line that is malformed, where it stays.
     int next();
 
-    // Of the entry.
+    // The two texts of the entry that next() went to, without the blanks around them.
     const VorString& key() const { return m_key; }
     const VorString& value() const { return m_value; }
 
-    // Of the entry or the malformed line, from 1.
+    // The number of the line in which that entry stands, or of the malformed line; lines count from 1.
     int line() const { return m_nLine; }
 
     // What is wrong with the line, for the end of a message; empty while nothing is.

@@ -28,6 +28,7 @@ Repository& repository()
     return theRepository;
 }
 
+// All of them under one lock, so that no reader finds half of a text.
 void setDefaults(const Settings& settings)
 {
     Repository& theRepository = repository();
@@ -76,6 +77,7 @@ VorString variableOf(const char* pValue)
     return VorString(text.c_str());
 }
 
+// Keys are ASCII.
 const char* findVariable(const wchar_t* pKey)
 {
     std::string name;
@@ -117,6 +119,7 @@ void KTRepositoryProxy::clear()
     theRepository.values.clear();
 }
 
+// Nothing is stored before the last line has turned out well.
 int KTRepositoryProxy::readIni(const VorString& text, int& line, VorString& fault)
 {
     Settings settings;

@@ -2,6 +2,7 @@
 
 #include "VorBomTupleFinder.h"
 
+#include <memory>
 #include <utility>
 
 namespace
@@ -19,29 +20,27 @@ VorStringArray usedTokens(const VorBomDataTupleArray& tuples)
 VorBomDataRow::VorBomDataRow(const VorBomDataRow& other)
     : VorBomItemBase(other), m_objectHandle(other.m_objectHandle), m_nUseThisDataForSums(other.m_nUseThisDataForSums)
 {
-    setEqualPartObjectHandles(other.EqualPartObjectHandles());
+    takeHandlesOf(other);
+}
+
+VorBomDataRow::~VorBomDataRow()
+{
+    delete m_pEqualPartObjectHandles.load();
 }
 
 VorBomDataRow& VorBomDataRow::operator=(const VorBomDataRow& other)
 {
     VorBomItemBase::operator=(other);
     m_objectHandle = other.m_objectHandle;
-    setEqualPartObjectHandles(other.EqualPartObjectHandles());
+    takeHandlesOf(other);
     m_nUseThisDataForSums = other.m_nUseThisDataForSums;
     return *this;
 }
 
-const VorStringArray& VorBomDataRow::EqualPartObjectHandles() const
-{
-    static const VorStringArray kNone;
-    return m_pEqualPartObjectHandles != nullptr ? *m_pEqualPartObjectHandles : kNone;
-}
-
 void VorBomDataRow::setEqualPartObjectHandles(const VorStringArray& handles)
 {
-    if (&handles == m_pEqualPartObjectHandles.get())
-        return;
-    m_pEqualPartObjectHandles = handles.isEmpty() ? nullptr : std::make_unique<VorStringArray>(handles);
+    if (m_pEqualPartObjectHandles.load() != nullptr || !handles.isEmpty())
+        ownHandles() = handles;
 }
 
 void VorBomDataRow::setFrom(VorBomDataRow* pRow)
@@ -50,7 +49,7 @@ void VorBomDataRow::setFrom(VorBomDataRow* pRow)
         return;
     setData(pRow->getData());
     m_objectHandle = pRow->m_objectHandle;
-    setEqualPartObjectHandles(pRow->EqualPartObjectHandles());
+    takeHandlesOf(*pRow);
     m_nUseThisDataForSums = pRow->m_nUseThisDataForSums;
 }
 
@@ -74,7 +73,27 @@ void VorBomDataRow::appendUsedHandlesAndTokens(VorStringArrayArray& handles, Vor
         return;
     VorStringArray rowHandles;
     rowHandles.append(m_objectHandle);
-    rowHandles.append(EqualPartObjectHandles());
+    if (const VorStringArray* pEqualParts = m_pEqualPartObjectHandles.load())
+        rowHandles.append(*pEqualParts);
     handles.append(std::move(rowHandles));
     tokens.append(std::move(rowTokens));
+}
+
+// Two threads may ask a row at once: the first array stays.
+VorStringArray& VorBomDataRow::ownHandles() const
+{
+    VorStringArray* pHandles = m_pEqualPartObjectHandles.load(std::memory_order_acquire);
+    if (pHandles != nullptr)
+        return *pHandles;
+    auto pNew = std::make_unique<VorStringArray>();
+    if (!m_pEqualPartObjectHandles.compare_exchange_strong(pHandles, pNew.get()))
+        return *pHandles;
+    return *pNew.release();
+}
+
+// Without asking `other`, which would give it an array.
+void VorBomDataRow::takeHandlesOf(const VorBomDataRow& other)
+{
+    const VorStringArray* pHandles = other.m_pEqualPartObjectHandles.load();
+    setEqualPartObjectHandles(pHandles != nullptr ? *pHandles : VorStringArray());
 }

@@ -20,7 +20,7 @@
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
 
-#include <memory>
+#include <atomic>
 
 // Lists of texts side by side, one list per row.
 using VorStringArrayArray = VorArray<VorStringArray>;
@@ -31,14 +31,15 @@ public:
     VorBomDataRow() = default;
     VorBomDataRow(const VorBomDataRow& other);
     VorBomDataRow& operator=(const VorBomDataRow& other);
-    ~VorBomDataRow() override = default;
+    ~VorBomDataRow() override;
 
     // The handle, in the model, of the object described.
     const VorString& objectHandle() const { return m_objectHandle; }
     void setObjectHandle(const VorString& handle) { m_objectHandle = handle; }
 
-    // The handles of the other objects that equal this one and have no row of their own.
-    const VorStringArray& EqualPartObjectHandles() const;
+    // The handles of the other objects that equal this one and have no row of their own. The reference holds as long as
+    // the row and shows what it has at the time.
+    const VorStringArray& EqualPartObjectHandles() const { return ownHandles(); }
     void setEqualPartObjectHandles(const VorStringArray& handles);
 
     // 1 at first; 0 takes the row out of sums and of the template's report of used data.
@@ -58,7 +59,11 @@ public:
     void appendUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens) const;
 
 private:
+    VorStringArray& ownHandles() const;
+    void takeHandlesOf(const VorBomDataRow& other);
+
     VorString m_objectHandle;
-    std::unique_ptr<VorStringArray> m_pEqualPartObjectHandles; // null for none, as in nearly all rows
+    // Owned. Null in nearly all rows, until handles are set or asked for; from then on the same array.
+    mutable std::atomic<VorStringArray*> m_pEqualPartObjectHandles{ nullptr };
     int m_nUseThisDataForSums = 1;
 };

@@ -25,6 +25,18 @@ void beginLine(VorString& out, int level)
 }
 }
 
+void* VorBomItemBase::operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    try
+    {
+        return VorBomItemBase::operator new(size);
+    }
+    catch (const std::bad_alloc&)
+    {
+        return nullptr;
+    }
+}
+
 // Every item writes its own line through its own `list`, asked for that line alone; the walk from line to line happens
 // in the call that asked for more.
 int VorBomItemBase::list(VorString& out, int level, int withChildren, int withNext)

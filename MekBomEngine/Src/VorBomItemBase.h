@@ -22,6 +22,7 @@
 #include "MekRoots/Exp/VorString.h"
 
 #include <cstddef>
+#include <new>
 
 class MEK_BOM_API VorBomItemBase
 {
@@ -40,6 +41,13 @@ public:
     {
         VorMemoryControllerController::deallocateArray(pItem, 1, size);
     }
+
+    // The other forms of new, which those above would hide. A constructor that throws after new (std::nothrow) leaks its
+    // block: the language does not say how large it is.
+    static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
+    static void operator delete(void*, const std::nothrow_t&) noexcept {}
+    static void* operator new(std::size_t, void* pPlace) noexcept { return pPlace; }
+    static void operator delete(void*, void*) noexcept {}
 
     // Appends one line per item to `out`: for each tuple "[token:value]", as VorBomDataValue::asString shows the value.
     // With `withChildren` 1 the children follow on lines of their own, each led by one blank per level; with

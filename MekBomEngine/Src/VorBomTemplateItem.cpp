@@ -2,6 +2,7 @@
 
 #include "MekRoots/Exp/VorAssert.h"
 
+#include <mutex>
 #include <utility>
 
 namespace
@@ -17,6 +18,9 @@ const wchar_t* const kLabels[] = {
 };
 static_assert(sizeof kLabels / sizeof *kLabels == VorBomTemplateItem::kReportFooter + 1, "one label per type");
 
+// Of all sections, since it is needed once for each at most.
+std::mutex requestsMutex;
+
 // Replaces `cache` by what all tokens of `tuples` answer to `request`.
 template <class Cache>
 void gatherRequests(const VorBomDataTupleArray& tuples, Cache& cache, int (VorBomDataToken::*request)(Cache&) const)
@@ -27,11 +31,28 @@ void gatherRequests(const VorBomDataTupleArray& tuples, Cache& cache, int (VorBo
 }
 }
 
-const VorBomTemplateItem::Requests VorBomTemplateItem::kNoRequests;
-
 VorBomTemplateItem::VorBomTemplateItem(const VorBomTemplateItem& other, eCopyPart)
-    : m_nType(other.m_nType), m_pRequests(other.m_pRequests), m_pFirstDataRow(other.m_pFirstDataRow)
+    : m_nType(other.m_nType), m_pRequests(other.requestsForCopies()), m_pFirstDataRow(other.m_pFirstDataRow)
 {
+}
+
+VorBomTemplateItem::VorBomTemplateItem(const VorBomTemplateItem& other)
+    : VorBomItemBase(other),
+      m_nType(other.m_nType),
+      m_pRequests(other.requestsForCopies()),
+      m_pFirstDataRow(other.m_pFirstDataRow)
+{
+}
+
+VorBomTemplateItem& VorBomTemplateItem::operator=(const VorBomTemplateItem& other)
+{
+    if (this == &other)
+        return *this;
+    VorBomItemBase::operator=(other);
+    m_nType = other.m_nType;
+    ownRequests() = other.requests();
+    m_pFirstDataRow = other.m_pFirstDataRow;
+    return *this;
 }
 
 void VorBomTemplateItem::setType(eTemplateItemType type)
@@ -71,29 +92,52 @@ int VorBomTemplateItem::list(VorString& out, int level, int withChildren, int wi
     return VorBomItemBase::list(out, level, withChildren, withNext);
 }
 
-// To be written to. New each time: that no copy shares the present ones now does not say that one on another thread,
-// just destroyed, has been read to its end.
-VorBomTemplateItem::Requests& VorBomTemplateItem::ownRequests()
+// Behind a lock: two threads may ask one section of a finished report at once.
+void VorBomTemplateItem::makeOwnRequests() const
 {
-    auto pRequests = std::make_shared<Requests>(requests());
-    Requests& own = *pRequests;
-    m_pRequests = std::move(pRequests);
-    return own;
+    const std::lock_guard<std::mutex> lock(requestsMutex);
+    if (m_ownsRequests.load(std::memory_order_relaxed))
+        return;
+    auto pOwn = m_pRequests != nullptr ? std::make_shared<Requests>(*m_pRequests) : std::make_shared<Requests>();
+    pOwn->pForCopies = std::move(m_pRequests);
+    m_pRequests = std::move(pOwn);
+    m_ownsRequests.store(true, std::memory_order_release);
+}
+
+std::shared_ptr<VorBomTemplateItem::Requests> VorBomTemplateItem::requestsForCopies() const
+{
+    if (m_ownsRequests.load(std::memory_order_acquire))
+        return m_pRequests->pForCopies;
+    const std::lock_guard<std::mutex> lock(requestsMutex);
+    return m_ownsRequests.load(std::memory_order_relaxed) ? m_pRequests->pForCopies : m_pRequests;
+}
+
+// A new object: copies that share the present one keep it.
+void VorBomTemplateItem::renewForCopies(Requests& own)
+{
+    own.pForCopies = nullptr;
+    if (own.groupingTokens.isEmpty() && own.sortingTokens.isEmpty() && own.filterObjTypes.isEmpty())
+        return;
+    auto pForCopies = std::make_shared<Requests>(own);
+    own.pForCopies = std::move(pForCopies);
 }
 
 void VorBomTemplateItem::findOwnGroupingTokens()
 {
     gatherRequests(getData(), ownRequests().groupingTokens, &VorBomDataToken::getGroupingRequest);
+    renewForCopies(ownRequests());
 }
 
 void VorBomTemplateItem::findOwnSortingTokens()
 {
     gatherRequests(getData(), ownRequests().sortingTokens, &VorBomDataToken::getSortingRequest);
+    renewForCopies(ownRequests());
 }
 
 void VorBomTemplateItem::findOwnFilterObjTypes()
 {
     gatherRequests(getData(), ownRequests().filterObjTypes, &VorBomDataToken::getFilteringRequest);
+    renewForCopies(ownRequests());
 }
 
 int VorBomTemplateItem::findDownGroups(void (VorBomTemplateItem::*findOwn)())

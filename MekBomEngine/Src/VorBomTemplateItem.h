@@ -21,6 +21,7 @@
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
 
+#include <atomic>
 #include <memory>
 
 class MEK_BOM_API VorBomTemplateItem : public VorBomItemBase
@@ -51,8 +52,8 @@ public:
     VorBomTemplateItem(const VorBomTemplateItem& other, eCopyPart);
 
     // Copies share the children and the first data row; caches and tuples are copied.
-    VorBomTemplateItem(const VorBomTemplateItem& other) = default;
-    VorBomTemplateItem& operator=(const VorBomTemplateItem& other) = default;
+    VorBomTemplateItem(const VorBomTemplateItem& other);
+    VorBomTemplateItem& operator=(const VorBomTemplateItem& other);
     ~VorBomTemplateItem() override = default;
 
     eTemplateItemType type() const { return m_nType; }
@@ -70,7 +71,7 @@ public:
     int findSortingTokens();
     int findFilterObjTypes();
 
-    // The caches as they stand.
+    // The caches as they stand. The references hold as long as the section and show what it has at the time.
     const VorStringArray& groupingTokens() const { return requests().groupingTokens; }
     const VorStringArray& sortingTokens() const { return requests().sortingTokens; } // each with its direction prefix
     const VorArray<int>& filterObjTypes() const { return requests().filterObjTypes; }
@@ -86,26 +87,35 @@ public:
 private:
     friend class VorBomTemplate; // fills the caches section by section
 
-    // What the tuples of a section ask for. Shared by copies, of which a report has one per line, and never changed
-    // once it is shared.
+    // What the tuples of a section ask for. A report has a copy of a section for every line and nobody asks those for
+    // their requests, so copies share one object, which never changes. Who is asked gets one of its own before it hands
+    // out a reference: that one is changed in place, and nobody else's.
     struct Requests
     {
         VorStringArray groupingTokens;
         VorStringArray sortingTokens;
         VorArray<int> filterObjTypes;
+        std::shared_ptr<Requests> pForCopies; // the same, for sections that are made from this one; null when all empty
     };
 
-    const Requests& requests() const { return m_pRequests != nullptr ? *m_pRequests : kNoRequests; }
-    Requests& ownRequests();
+    const Requests& requests() const { return ownRequests(); }
+    Requests& ownRequests() const
+    {
+        if (!m_ownsRequests.load(std::memory_order_acquire))
+            makeOwnRequests();
+        return *m_pRequests;
+    }
+    void makeOwnRequests() const;
+    std::shared_ptr<Requests> requestsForCopies() const;
+    static void renewForCopies(Requests& own);
 
     void findOwnGroupingTokens();
     void findOwnSortingTokens();
     void findOwnFilterObjTypes();
     int findDownGroups(void (VorBomTemplateItem::*findOwn)());
 
-    static const Requests kNoRequests;
-
     eTemplateItemType m_nType = kUnkTemplateItemType;
-    std::shared_ptr<const Requests> m_pRequests; // null as long as nothing was asked for
+    mutable std::atomic<bool> m_ownsRequests{ false };
+    mutable std::shared_ptr<Requests> m_pRequests; // shared while it is not owned, null then for none
     VorBomDataRow* m_pFirstDataRow = nullptr;
 };

@@ -194,3 +194,31 @@ TEST(VorBomDataRowTest, RowsWithoutUsedDataReportNothing)
     EXPECT_EQ(0, handles.length());
     EXPECT_EQ(0, tokens.length());
 }
+
+TEST(VorBomDataRowTest, ReferenceToEqualPartsShowsWhatTheRowHasAtTheTime)
+{
+    const LeakCheck leaks;
+    VorBomDataRow row;
+    const VorStringArray& handles = row.EqualPartObjectHandles();
+
+    row.setEqualPartObjectHandles(arrayOf({ L"1A8" }));
+    EXPECT_EQ(Texts{ L"1A8" }, elementsOf(handles));
+    row.setEqualPartObjectHandles(arrayOf({ L"1A9", L"1B0" }));
+    EXPECT_EQ((Texts{ L"1A9", L"1B0" }), elementsOf(handles));
+    row.setEqualPartObjectHandles(handles);
+    EXPECT_EQ((Texts{ L"1A9", L"1B0" }), elementsOf(handles)) << "its own";
+    row.setEqualPartObjectHandles(VorStringArray());
+    EXPECT_EQ(Texts(), elementsOf(handles));
+    VorBomDataRow other;
+    other.setEqualPartObjectHandles(arrayOf({ L"1C1" }));
+    row = other;
+    EXPECT_EQ(Texts{ L"1C1" }, elementsOf(handles));
+    row.setFrom(&other);
+    EXPECT_EQ(Texts{ L"1C1" }, elementsOf(handles));
+}
+
+// A model has millions of rows, of which hardly any stands for equal parts.
+TEST(VorBomDataRowTest, RowIsAsSmallAsItsBaseAHandleAPointerAndAFlag)
+{
+    EXPECT_EQ(sizeof(VorBomItemBase) + 3 * sizeof(void*), sizeof(VorBomDataRow));
+}

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include <memory>
 #include <string>
 
@@ -522,4 +524,20 @@ TEST(VorBomItemBaseTest, ListReachesAHundredThousandLevelsAndAMillionSiblings)
     const VorString text = listed(root, -numLevels - 1, 1, 1); // levels below 0 lead no blanks
 
     EXPECT_EQ(numLevels + numSiblings, text.length()); // one line break each
+}
+
+TEST(VorBomItemBaseTest, EveryFormOfNewMakesAnItem)
+{
+    const LeakCheck leaks;
+    delete new (std::nothrow) VorBomItemBase;
+    delete new (std::nothrow) VorBomTemplate;
+    delete[] new VorBomDataRow[3];
+
+    alignas(VorBomDataRow) unsigned char place[sizeof(VorBomDataRow)];
+    auto* pRow = new (place) VorBomDataRow;
+    pRow->addData(tuple(L"%A", 1));
+
+    EXPECT_EQ(static_cast<void*>(place), static_cast<void*>(pRow));
+    EXPECT_EQ(VorString(L"[%A:1]"), listOf(*pRow));
+    pRow->~VorBomDataRow();
 }

@@ -6,7 +6,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -189,4 +191,357 @@ TEST(VorBomSectionSinkTest, HundredThousandLevelsAreSurvived)
 
     EXPECT_EQ(1, VorBomEvaluator2::evaluate(&report.tmpl(), counter));
     EXPECT_EQ(100'001, counter.numSections) << "the deepest level has a section for each row";
+}
+
+namespace
+{
+// Writes down everything that it is handed, one line for each call.
+class FullLog : public VorBomSectionSink
+{
+public:
+    explicit FullLog(int requests = kTypedValues | kFailedFormulas) : VorBomSectionSink(requests) {}
+
+    void takeHeader(const VorBomReportSection& header) override
+    {
+        lines.push_back("header " + describe(header) + " row " + nameOf(header.pRow));
+    }
+    void takeFooter(const VorBomReportSection& footer) override
+    {
+        std::string line = "footer " + describe(footer) + " rows";
+        for (const VorBomDataRow& row : footer.countedRows)
+            line += " " + nameOf(&row);
+        EXPECT_EQ(nullptr, footer.pRow);
+        lines.push_back(line);
+    }
+    void takeMergedRow(const VorBomDataRow& row) override { lines.push_back("merged " + nameOf(&row)); }
+    void takeFailedFormula(const VorBomDataRow& row, const VorString& token, const VorString& message) override
+    {
+        lines.push_back("failed " + nameOf(&row) + " " + narrow(token) + ": " + narrow(message));
+    }
+    int takeProgress(int numRowsDone) override
+    {
+        numRows = numRowsDone;
+        return 1;
+    }
+
+    std::vector<std::string> lines;
+    int numRows = -1;
+
+private:
+    static std::string narrow(const VorString& text)
+    {
+        return std::string(text.getStringW(), text.getStringW() + text.length());
+    }
+    static std::string nameOf(const VorBomDataRow* pRow)
+    {
+        return narrow(pRow->getTupleAt(L"%Num")->value().asString());
+    }
+    static std::string describe(const VorBomReportSection& taken)
+    {
+        std::string text = std::to_string(taken.level);
+        const VorBomDataTupleArray& tuples = taken.section.getData();
+        for (int i = 0; i < tuples.length(); ++i)
+        {
+            text += " [" + narrow(tuples[i].value().asString());
+            if (taken.pValues != nullptr && taken.pValues[i].type != VorBomDataValue::kStringData)
+                text += " is " + narrow(VorBomDataValue(taken.pValues[i].number).asString()) + " in " +
+                        std::to_string(taken.pValues[i].unitType);
+            text += "]";
+        }
+        return text;
+    }
+};
+
+using Lines = std::vector<std::string>;
+
+Lines linesOf(Report& report, FullLog&& log = FullLog())
+{
+    report.tmpl().findUsedTokens();
+    EXPECT_EQ(1, VorBomEvaluator2::evaluate(&report.tmpl(), log));
+    return log.lines;
+}
+
+// Does nothing but what a test overrides.
+class QuietSink : public VorBomSectionSink
+{
+public:
+    void takeHeader(const VorBomReportSection&) override {}
+    void takeFooter(const VorBomReportSection&) override {}
+
+protected:
+    explicit QuietSink(int requests = kTextsAlone) : VorBomSectionSink(requests) {}
+};
+
+// Stops, or throws, at the given call of takeHeader, takeFooter, takeMergedRow or takeFailedFormula, counted from 1.
+class Interrupter : public VorBomSectionSink
+{
+public:
+    explicit Interrupter(int call) : VorBomSectionSink(kTypedValues | kFailedFormulas), m_call(call) {}
+
+    void takeHeader(const VorBomReportSection&) override { count(); }
+    void takeFooter(const VorBomReportSection&) override { count(); }
+    void takeMergedRow(const VorBomDataRow&) override { count(); }
+    void takeFailedFormula(const VorBomDataRow&, const VorString&, const VorString&) override { count(); }
+
+    int numCalls = 0;
+
+private:
+    void count()
+    {
+        if (++numCalls == m_call)
+            throw std::runtime_error("enough");
+    }
+
+    int m_call;
+};
+
+class Stopper : public QuietSink
+{
+public:
+    explicit Stopper(int numRows) : m_numRows(numRows) {}
+
+    void takeHeader(const VorBomReportSection&) override { ++numHeaders; }
+    int takeProgress(int numRowsDone) override
+    {
+        lastProgress = numRowsDone;
+        return numRowsDone < m_numRows ? 1 : 0;
+    }
+
+    int numHeaders = 0;
+    int lastProgress = -1;
+
+private:
+    int m_numRows;
+};
+
+// Groups by material with a failing formula, merged lines and footers on every level.
+void buildEventfulReport(Report& report)
+{
+    Item* pReport = report.addSection(nullptr, Item::kReportHeader, { { L"%Formula:%Weight/0", L"none" } });
+    report.addSection(nullptr, Item::kReportFooter, { { L"%SumBy:%Weight", 0.0 } });
+    Item* pGroup = report.addSection(pReport, Item::kGroupHeader,
+                                     { { L"%GroupBy:%Material", L"" }, { L"%SortAscBy:%Material", L"" } });
+    report.addSection(pReport, Item::kGroupFooter, { { L"%SumBy:%Weight", 0.0 } });
+    report.addSection(pGroup, Item::kDetails, { { L"%Weight", 0.0 }, { L"%Formula:%Weight*2", 0.0 } });
+    addPart(report, L"P1", L"S355", 4.0);
+    addPart(report, L"P2", L"S235", 2.5);
+    addPart(report, L"P3", L"S235", 2.5);
+    addPart(report, L"P4", L"S235", 1.0);
+}
+}
+
+TEST(VorBomSectionSinkTest, HeadersNameTheirRowsAndFootersThoseTheyCount)
+{
+    Report report;
+    buildGroupedReport(report);
+    addPart(report, L"P1", L"S235", 2.5);
+    addPart(report, L"P2", L"S235", 1.0);
+    addPart(report, L"P3", L"S355", 4.0);
+    static_cast<VorBomDataRow*>(report.data().child())->setUseThisDataForSums(0);
+
+    EXPECT_EQ((Lines{ "header 0 [Weights] row P1", "header 1 [] row P1", "header 2 [P1] [2.5] row P1",
+                      "header 2 [P2] [1] row P2", "footer 1 [1] rows P2", "header 1 [] row P3",
+                      "header 2 [P3] [4] row P3", "footer 1 [4] rows P3", "footer 0 [5] rows P2 P3" }),
+              linesOf(report, FullLog(VorBomSectionSink::kTextsAlone)));
+}
+
+TEST(VorBomSectionSinkTest, TypedValuesComeBesideTheTextsWithTheKindTheyAreShownIn)
+{
+    Report report;
+    Item* pReport = report.addSection(nullptr, Item::kReportHeader, { { L"%Length", 0.0 } });
+    report.addSection(nullptr, Item::kReportFooter,
+                      { { L"%SumBy:%Weight", 0.0 }, { L"%SumBy:%Formula:2*%Length*%Weight", 0.0 } });
+    report.addSection(pReport, Item::kDetails,
+                      { { L"%Num", L"" }, { L"%Quantity", 0 }, { L"%Formula:2*%Length*%Weight", 0.0 } });
+    report.addRow({ { L"%Num", L"P1" }, { L"%Quantity", 3 }, { L"%Weight", 2.5 }, { L"%Length", 100.0 } });
+    report.tmpl().getBomTemplateUnits()->AddTokenType(L"%Length", VorBomTemplateUnits::kDistanceUnit);
+    report.tmpl().getBomTemplateUnits()->AddTokenType(L"%Weight", VorBomTemplateUnits::kWeightUnit);
+
+    EXPECT_EQ((Lines{ "header 0 [100 is 100 in 1] row P1", "header 1 [P1] [3 is 3 in 0] [500 is 500 in 1] row P1",
+                      "footer 0 [2.5 is 2.5 in 2] [500 is 500 in 1] rows P1" }),
+              linesOf(report));
+}
+
+TEST(VorBomSectionSinkTest, MergedRowsAndFailedFormulasAreToldAsTheyHappen)
+{
+    Report report;
+    buildEventfulReport(report);
+
+    EXPECT_EQ((Lines{ "failed P2 %Formula:%Weight/0: Division by zero", "header 0 [none] row P2",
+                      "header 1 [] [] row P2", "header 2 [2.5 is 2.5 in 0] [5 is 5 in 0] row P2", "merged P3",
+                      "header 2 [1 is 1 in 0] [2 is 2 in 0] row P4", "footer 1 [3.5 is 3.5 in 0] rows P2 P4",
+                      "header 1 [] [] row P1", "header 2 [4 is 4 in 0] [8 is 8 in 0] row P1",
+                      "footer 1 [4 is 4 in 0] rows P1", "footer 0 [7.5 is 7.5 in 0] rows P2 P4 P1" }),
+              linesOf(report));
+}
+
+// The footer of a line is made before it shows that the line is merged.
+TEST(VorBomSectionSinkTest, FooterOfAMergedLineCountsItsRow)
+{
+    Report report;
+    Item* pReport = report.addSection(nullptr, Item::kReportHeader, {});
+    report.addSection(nullptr, Item::kReportFooter, { { L"%SumBy:%Weight", 0.0 } });
+    report.addSection(pReport, Item::kDetails, { { L"%Weight", 0.0 } });
+    report.addSection(pReport, Item::kGroupFooter, { { L"%SumBy:%Weight", 0.0 } });
+    addPart(report, L"P1", L"S235", 2.5);
+    addPart(report, L"P2", L"S235", 2.5);
+
+    EXPECT_EQ((Lines{ "header 0 row P1", "header 1 [2.5] row P1", "footer 1 [2.5] rows P1", "merged P2",
+                      "footer 1 [2.5] rows P2", "footer 0 [2.5] rows P1" }),
+              linesOf(report, FullLog(VorBomSectionSink::kTextsAlone)));
+}
+
+TEST(VorBomSectionSinkTest, FormulasThatAreNoneDoNotFail)
+{
+    Report report;
+    report.addSection(nullptr, Item::kDetails,
+                      { { L"%Num", L"" },
+                        { L"%Formula:1+2", L"" },
+                        { L"%Formula:%Weight", L"" },
+                        { L"%Formula:(%Name", L"" },
+                        { L"%Formula:%Unknown*2", L"" } });
+    addPart(report, L"P1", L"S235", 2.5);
+
+    const Lines lines = linesOf(report);
+
+    ASSERT_EQ(3u, lines.size());
+    EXPECT_EQ("failed P1 %Formula:(%Name: Impaired paranthesis", lines[0]);
+    EXPECT_EQ("failed P1 %Formula:%Unknown*2: ", lines[1].substr(0, 31));
+}
+
+TEST(VorBomSectionSinkTest, ProgressIsToldForEveryRow)
+{
+    Report report;
+    buildEventfulReport(report);
+    FullLog log;
+    VorBomEvaluator2::evaluate(&report.tmpl(), log);
+
+    EXPECT_EQ(4, log.numRows);
+}
+
+TEST(VorBomSectionSinkTest, StoppedEvaluationAnswersNoAndKeepsNothing)
+{
+    for (int numRows = 0; numRows <= 4; ++numRows)
+    {
+        Report report;
+        buildEventfulReport(report);
+        report.tmpl().findUsedTokens();
+        Stopper stopper(numRows);
+
+        EXPECT_EQ(0, VorBomEvaluator2::evaluate(&report.tmpl(), stopper));
+
+        EXPECT_EQ(numRows, stopper.lastProgress) << "nothing is called after that";
+        EXPECT_EQ(numRows == 0, stopper.numHeaders == 0);
+    }
+    Report report;
+    buildEventfulReport(report);
+    Stopper neverReached(5);
+    EXPECT_EQ(1, VorBomEvaluator2::evaluate(&report.tmpl(), neverReached));
+}
+
+TEST(VorBomSectionSinkTest, StoppingAndThrowingLeakNothing)
+{
+    const auto interruptAt = [](int call)
+    {
+        Report report;
+        buildEventfulReport(report);
+        report.tmpl().findUsedTokens();
+        Interrupter interrupter(call);
+        try
+        {
+            VorBomEvaluator2::evaluate(&report.tmpl(), interrupter);
+        }
+        catch (const std::runtime_error& error)
+        {
+            EXPECT_STREQ("enough", error.what());
+            EXPECT_EQ(call, interrupter.numCalls) << "nothing is called after that";
+            return true;
+        }
+        return false;
+    };
+    const auto interruptEverywhere = [&interruptAt]
+    {
+        int numCalls = 0;
+        while (interruptAt(numCalls + 1))
+            ++numCalls;
+        EXPECT_EQ(11, numCalls);
+        for (int numRows = 0; numRows <= 4; ++numRows)
+        {
+            Report report;
+            buildEventfulReport(report);
+            Stopper stopper(numRows);
+            EXPECT_EQ(0, VorBomEvaluator2::evaluate(&report.tmpl(), stopper));
+        }
+    };
+    interruptEverywhere(); // so that what a thread keeps for good is there before blocks are counted
+    const LeakCheck leaks;
+
+    interruptEverywhere();
+}
+
+TEST(VorBomSectionSinkTest, RowsOfAnInterruptedReportCanBeEvaluatedAgain)
+{
+    Report report;
+    buildEventfulReport(report);
+    report.tmpl().findUsedTokens();
+    Interrupter interrupter(5);
+    EXPECT_THROW(VorBomEvaluator2::evaluate(&report.tmpl(), interrupter), std::runtime_error);
+
+    FullLog log;
+    EXPECT_EQ(1, VorBomEvaluator2::evaluate(&report.tmpl(), log));
+
+    EXPECT_EQ("footer 0 [7.5 is 7.5 in 0] rows P2 P4 P1", log.lines.back());
+}
+
+TEST(VorBomSectionSinkTest, OtherTemplatesMayBeEvaluatedFromWithinACall)
+{
+    class Nesting : public QuietSink
+    {
+    public:
+        void takeHeader(const VorBomReportSection&) override { evaluateOthers(); }
+        void takeFooter(const VorBomReportSection& footer) override
+        {
+            evaluateOthers();
+            lastFooter = footer.section.getData()[0].value().asString();
+        }
+
+        VorString lastFooter;
+
+    private:
+        static void evaluateOthers()
+        {
+            Report inner;
+            buildEventfulReport(inner);
+            EXPECT_EQ(11u, linesOf(inner).size());
+            Report innerTree;
+            buildEventfulReport(innerTree);
+            EXPECT_EQ(1, innerTree.evaluate());
+        }
+    };
+    Report report;
+    buildEventfulReport(report);
+    report.tmpl().findUsedTokens();
+    Nesting nesting;
+
+    EXPECT_EQ(1, VorBomEvaluator2::evaluate(&report.tmpl(), nesting));
+    EXPECT_EQ(VorString(L"7.5"), nesting.lastFooter);
+}
+
+// The details' formula lends its text a unit, and the header has a column under that very text.
+TEST(VorBomSectionSinkTest, TreeShowsHeadersWhenTheirGroupsClose)
+{
+    const auto build = [](Report& report)
+    {
+        Item* pReport = report.addSection(nullptr, Item::kReportHeader, { { L"%Length*2", 7.0 } });
+        report.addSection(pReport, Item::kDetails, { { L"%Formula:%Length*2", 0.0 } });
+        report.addRow({ { L"%Num", L"P1" }, { L"%Length", 5.0 } });
+        report.tmpl().getBomTemplateUnits()->AddTokenType(L"%Length", VorBomTemplateUnits::kReservedUnitType);
+    };
+    Report tree;
+    build(tree);
+    Report sections;
+    build(sections);
+
+    EXPECT_EQ(VorString(L"[ kReportHeader][%Length*2:]\n [ kDetails     ][%Formula:%Length*2:]"), tree.evaluated());
+    EXPECT_EQ((Lines{ "header 0 [7 is 7 in 0] row P1", "header 1 [ is 10 in 7] row P1" }), linesOf(sections));
 }

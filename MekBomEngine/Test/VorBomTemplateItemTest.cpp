@@ -350,3 +350,49 @@ TEST(VorBomTemplateItemTest, ListLeadsEveryLineWithItsLabel)
                         L"[ kReportFooter]"),
               listOf(item));
 }
+
+TEST(VorBomTemplateItemTest, ReferencesShowWhatTheSectionHasAtTheTime)
+{
+    const LeakCheck leaks;
+    VorBomTemplateItem section(VorBomTemplateItem::kGroupHeader);
+    const VorStringArray& grouping = section.groupingTokens(); // before anything was found
+    const VorStringArray& sorting = section.sortingTokens();
+    const VorArray<int>& filters = section.filterObjTypes();
+    addTuples(section, { tuple(L"%GroupBy:%A", L""), tuple(L"%SortAscBy:%B", L""), tuple(L"%FilterBy:3", L"") });
+
+    section.findGroupingTokens();
+    section.findSortingTokens();
+    section.findFilterObjTypes();
+    EXPECT_EQ(Texts{ L"%A" }, elementsOf(grouping));
+    EXPECT_EQ(Texts{ L"%SortAscBy:%B" }, elementsOf(sorting));
+    EXPECT_EQ(Ints{ 3 }, elementsOf(filters));
+
+    section.addData(tuple(L"%GroupBy:%C", L""));
+    section.findGroupingTokens();
+    EXPECT_EQ((Texts{ L"%A", L"%C" }), elementsOf(grouping));
+    section = VorBomTemplateItem(VorBomTemplateItem::kDetails);
+    EXPECT_EQ(Texts(), elementsOf(grouping));
+    EXPECT_EQ(&grouping, &section.groupingTokens());
+}
+
+TEST(VorBomTemplateItemTest, ReferencesOfCopiesShowTheirOwn)
+{
+    const LeakCheck leaks;
+    VorBomTemplateItem section(VorBomTemplateItem::kGroupHeader);
+    section.addData(tuple(L"%GroupBy:%A", L""));
+    section.findGroupingTokens();
+    VorBomTemplateItem copy(section);
+    const VorBomTemplateItem evaluated(section, VorBomTemplateItem::kWithoutLinksAndTuples);
+    const VorBomTemplateItem copyOfCopy(copy);
+    const VorStringArray& ofCopy = copy.groupingTokens();
+
+    copy.addData(tuple(L"%GroupBy:%B", L""));
+    copy.findGroupingTokens();
+    section.addData(tuple(L"%GroupBy:%C", L""));
+    section.findGroupingTokens();
+
+    EXPECT_EQ((Texts{ L"%A", L"%B" }), elementsOf(ofCopy));
+    EXPECT_EQ((Texts{ L"%A", L"%C" }), elementsOf(section.groupingTokens()));
+    EXPECT_EQ(Texts{ L"%A" }, elementsOf(evaluated.groupingTokens()));
+    EXPECT_EQ(Texts{ L"%A" }, elementsOf(copyOfCopy.groupingTokens()));
+}

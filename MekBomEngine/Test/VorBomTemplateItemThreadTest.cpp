@@ -36,3 +36,30 @@ TEST(VorBomTemplateItemThreadTest, CachesMayBeFilledAnewWhileCopiesAreReadAndDes
         ASSERT_EQ(VorString(L"%A"), item.groupingTokens().first());
     }
 }
+
+TEST(VorBomTemplateItemThreadTest, OneSectionMayBeAskedOnSeveralThreadsAtOnce)
+{
+    VorBomTemplateItem source(VorBomTemplateItem::kGroupHeader);
+    source.addData(tuple(L"%GroupBy:%A", L""));
+    source.findGroupingTokens();
+    for (int round = 0; round < 200; ++round)
+    {
+        const VorBomTemplateItem section(source, VorBomTemplateItem::kWithoutLinksAndTuples);
+        const VorBomDataRow row;
+        const VorStringArray* asked[2] = {};
+        const VorStringArray* handles[2] = {};
+        const auto ask = [&](int thread)
+        {
+            asked[thread] = &section.groupingTokens();
+            handles[thread] = &row.EqualPartObjectHandles();
+            EXPECT_EQ(Texts{ L"%A" }, elementsOf(VorBomTemplateItem(section).groupingTokens()));
+        };
+        std::thread first(ask, 0);
+        std::thread second(ask, 1);
+        first.join();
+        second.join();
+
+        ASSERT_EQ(asked[0], asked[1]);
+        ASSERT_EQ(handles[0], handles[1]);
+    }
+}

@@ -578,3 +578,17 @@ TEST(VorBomTemplateTest, DefaultTokensWithoutUnitAreRegistered)
     EXPECT_EQ(Units::kNoUnit, units.getUnitType(L"%PosNum"));
     EXPECT_EQ(Units::kNoUnit, units.getUnitType(L"%Material"));
 }
+
+TEST(VorBomTemplateTest, ReferenceToSortingTokensOutlivesASecondSearch)
+{
+    BomTree<VorBomTemplate> bomTemplate;
+    Item* pGroup = newSection(Item::kGroupHeader, { tuple(L"%SortAscBy:%A", L"") });
+    bomTemplate.addChild(pGroup);
+    bomTemplate.findUsedTokens();
+    const VorStringArray& sorting = pGroup->sortingTokens();
+
+    pGroup->addData(tuple(L"%SortDescBy:%B", L""));
+    bomTemplate.findUsedTokens();
+
+    EXPECT_EQ((Texts{ L"%SortAscBy:%A", L"%SortDescBy:%B" }), elementsOf(sorting));
+}

@@ -1,6 +1,6 @@
 // What does a parts list of 10 to 100,000 rows of six fields cost until its fields are known?
 //   BM_RecordsWithoutQuotes   as programs export them
-//   BM_RecordsWithQuotes      the same with three of six fields in quotes, which takes the way through libcsv
+//   BM_RecordsWithQuotes      the same with three of six fields in quotes
 #include "CsvReader.h"
 
 #include "Support/BenchParts.h"

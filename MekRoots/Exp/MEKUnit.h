@@ -1,7 +1,7 @@
 // A unit of the catalogue and how precisely values are shown in it.
 //
-//   MEKUnit metres(3003, 3003, 2);
-//   metres.getVorUnitTransform().formatValue(2675000.0, 1, 0, 1, 1, L' ')  ->  2.68
+//   MEKUnit squareMetres(3003, 3003, 2);
+//   squareMetres.getVorUnitTransform().formatValue(2675000.0, 1, 0, 1, 1, L' ')  ->  2.68
 //
 // A small value: copies are independent and allocate nothing.
 #pragma once

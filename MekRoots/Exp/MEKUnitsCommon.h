@@ -2,7 +2,7 @@
 //
 //   MEKUnitsCommon::setCurrentUnits(VorUnitsManager::imperial());
 //   MEKUnit length(3, 3, 2);
-//   MEKUnitsCommon::getUnitOfDistance(length);     length is now feet and inches to 1/16"
+//   MEKUnitsCommon::getUnitOfDistance(length);     // length is now feet and inches to 1/16"
 //
 // They start as VorUnitsManager::metric(). Shared by all threads and safe to read and set from all of them; a reader
 // that asks for several kinds while they are being set may see old and new ones side by side.

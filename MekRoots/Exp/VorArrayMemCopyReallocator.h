@@ -1,6 +1,6 @@
 // The policy of an array that takes elements to new storage byte by byte. For plain values such as int and pointers.
 //
-//   VorArrayMemCopyReallocator<int>::relocate(pNew, pOld, 3);    the same three numbers at pNew
+//   VorArrayMemCopyReallocator<int>::relocate(pNew, pOld, 3);    // the same three numbers at pNew
 #pragma once
 
 #include <cstddef>

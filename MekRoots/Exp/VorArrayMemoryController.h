@@ -1,7 +1,7 @@
 // The policy of an array that obtains and frees its storage and ends the lives of its elements.
 //
-//   VorString* pTexts = VorArrayMemoryController<VorString>::allocate(8);    room for eight, none of them constructed
-//   VorArrayMemoryController<VorString>::destroy(pTexts, 3);                 ends the three that were
+//   VorString* pTexts = VorArrayMemoryController<VorString>::allocate(8);    // room for eight, none of them constructed
+//   VorArrayMemoryController<VorString>::destroy(pTexts, 3);                 // ends the three that were
 //   VorArrayMemoryController<VorString>::deallocate(pTexts, 8);
 //
 // All operations are for arrays and their policies.

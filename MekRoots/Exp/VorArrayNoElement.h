@@ -1,6 +1,6 @@
 // The element to which an access goes that has none: a[7] of an array of three.
 //
-//   int& number = VorArrayNoElement<int>::renew();    0, and may be written
+//   int& number = VorArrayNoElement<int>::renew();    // 0, and may be written
 //   VorArrayNoElement<int>::renew()               ->  0 again, at the same place
 //
 // There is one for each thread and type of element. It may still be asked for while the thread's last objects are

@@ -1,7 +1,7 @@
 // The policy of an array that takes elements to new storage as objects: each is moved to its new place and destroyed in
 // the old one. For every type that can be moved or copied.
 //
-//   VorArrayObjectCopyReallocator<VorString>::relocate(pNew, pOld, 3);    three texts live at pNew, none at pOld
+//   VorArrayObjectCopyReallocator<VorString>::relocate(pNew, pOld, 3);    // three texts live at pNew, none at pOld
 #pragma once
 
 #include <new>

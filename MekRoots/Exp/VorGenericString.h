@@ -3,7 +3,8 @@
 //   VorGenericString label;
 //   label.addToken(L"%Length");
 //   label.addEntry(L"%Length", 6000.0, 0, L"%.1f");
-//   label.findEntry(L"%Length", text)                ->  1, text is "6000.0"
+//   VorString text;
+//   label.findEntry(L"%Length", text)   ->  1, text is "6000.0"
 //
 // A token may be added without an entry (it is known, but has no value), and several times; the first entry counts, as
 // the first tuple of a row does. Owns its texts; copies are independent.

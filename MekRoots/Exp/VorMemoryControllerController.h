@@ -50,9 +50,7 @@ public:
 private:
     static std::size_t sizeOf(std::size_t numElements, std::size_t elementSize)
     {
-        constexpr int kHalfWidth = std::numeric_limits<std::size_t>::digits / 2;
-        const bool mayOverflow = (numElements | elementSize) >> kHalfWidth != 0; // spares most calls the division
-        if (mayOverflow && elementSize != 0 && numElements > std::numeric_limits<std::size_t>::max() / elementSize)
+        if (elementSize != 0 && numElements > std::numeric_limits<std::size_t>::max() / elementSize)
             throw std::bad_alloc();
         return numElements * elementSize;
     }

@@ -1,9 +1,11 @@
 // Numbers to wide text and back, with the characters that the C library gives in the C locale, whatever locale the host
 // has set, and without its printf and scanf.
 //
-//   writeGeneral(1234567.0, text)       ->  "1.23457e+06"    as "%g"
-//   writeFixed(2.5, 6, text)            ->  "2.500000"       as "%.6f"
-//   scanDouble(L" 12.5abc", end, 0)     ->  12.5, read up to "abc"
+//   wchar_t text[VorNumberText::fixedRoom(6)];
+//   VorNumberText::writeGeneral(1234567.0, text)      ->  11, text begins with "1.23457e+06", as "%g" has it
+//   VorNumberText::writeFixed(2.5, 6, text)           ->  8, text begins with "2.500000", as "%.6f" has it
+//   const wchar_t* pEnd = nullptr;
+//   VorNumberText::scanDouble(L" 12.5abc", pEnd, 0)   ->  12.5, pEnd is at "abc"
 //
 // The writers append no terminating zero and return the number of characters written. The caller provides the room.
 #pragma once

@@ -1,11 +1,11 @@
 // Turns a value of the model into one unit and into the text that a list shows, and back.
 //
-//   const VorUnitTransform& feet = MEKUnit(13, 13, 1016).getVorUnitTransform();     feet and inches to 1/16"
-//   feet.toDisplayUnits(2286.0)                        ->  90.0       inches
+//   const VorUnitTransform feet(13, 1016);             // feet and inches to 1/16"
+//   feet.toDisplayUnits(2286.0)                        ->  90.0, in inches
 //   feet.formatValue(2286.0, 1, 0, 1, 1, L'-')         ->  7'-6"
 //   feet.formatValue(-31.75, 1, 0, 1, 1, L'-')         ->  -1 1/4"
 //
-//   const VorUnitTransform& area = MEKUnit(3003, 3003, 2).getVorUnitTransform();    m², two decimals
+//   const VorUnitTransform area(3003, 2);              // m² to two decimals
 //   area.formatValue(167876533.0, 1, 0, 1, 1, L' ')    ->  167.88
 //   area.formatValue(2500000.0, 1, 1, 1, 1, L' ')      ->  2.5 m²
 //

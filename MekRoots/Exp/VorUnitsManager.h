@@ -1,7 +1,7 @@
 // One unit for each kind of quantity: the units in which somebody reads a list.
 //
 //   VorUnitsManager units = VorUnitsManager::imperial();
-//   units.setUnit(VorUnitsTransformArray::kWeight, L"kg/1");     kilograms all the same, to one decimal
+//   units.setUnit(VorUnitsTransformArray::kWeight, L"kg/1");     // kilograms all the same, to one decimal
 //   units.getUnit(VorUnitsTransformArray::kDistance)                        ->  feet and inches to 1/16"
 //
 // A plain value: copies are independent, and one object is for one thread at a time. The units that all threads share
@@ -39,12 +39,9 @@ public:
     int setUnit(VorUnitsTransformArray::eSystems system, const VorString& notation);
 
 private:
-    static constexpr int kNumSystems = 7;
+    using Units = std::array<MEKUnit, VorUnitsTransformArray::kNumSystems>; // in the order of kSystems
 
-    VorUnitsManager(const MEKUnit& distance, const MEKUnit& angle, const MEKUnit& weight, const MEKUnit& area,
-                    const MEKUnit& weightPerDistance, const MEKUnit& areaPerDistance, const MEKUnit& density);
+    explicit VorUnitsManager(const Units& units) : m_units(units) {}
 
-    static int indexOf(VorUnitsTransformArray::eSystems system);
-
-    std::array<MEKUnit, kNumSystems> m_units; // in the order of the constructor
+    Units m_units;
 };

@@ -10,6 +10,8 @@
 #include "MekExport.h"
 #include "VorString.h"
 
+#include <iterator>
+
 struct VorUnitDefinition;
 
 class MEK_UNITS_API VorUnitsTransformArray
@@ -26,6 +28,21 @@ public:
         kAreaPerDistance = 9,   // mm²/mm
         kDensity = 15           // kg/mm³
     };
+
+    // All of them. Whoever keeps something for each kind keeps it in this order: the one of kind `system` at
+    // indexOf(system).
+    static constexpr eSystems kSystems[] = { kDistance,          kAngle,           kWeight, kArea,
+                                             kWeightPerDistance, kAreaPerDistance, kDensity };
+    static constexpr int kNumSystems = static_cast<int>(std::size(kSystems));
+
+    // -1 for a number that is no kind of quantity.
+    static constexpr int indexOf(eSystems system)
+    {
+        for (int index = 0; index < kNumSystems; ++index)
+            if (kSystems[index] == system)
+                return index;
+        return -1;
+    }
 
     // Looks for the unit of kind `system` that is written `symbol`; 0 with `unit` untouched when there is none. Symbols
     // are taken exactly as written, with the raised digits or signs of print or in plain ASCII: "m²" and "m2", "°" and

@@ -9,7 +9,7 @@ namespace
 {
 std::atomic<DebugOutputSink> s_sink{ nullptr };
 
-// What no text may hold becomes the replacement character.
+// Surrogates and values beyond Unicode stand for no character; they become the replacement character.
 char32_t validCharacter(wchar_t character)
 {
     const auto value = static_cast<char32_t>(character);
@@ -17,6 +17,8 @@ char32_t validCharacter(wchar_t character)
     return value > 0x10FFFF || isSurrogate ? U'\xFFFD' : value;
 }
 
+// A byte of UTF-8 carries six bits of the character, the first one fewer and a mark of how many follow: U+00B2, which is
+// 00010 110010, is C2 B2.
 void appendUtf8(std::string& bytes, char32_t character)
 {
     const auto add = [&bytes](char32_t byte) { bytes += static_cast<char>(static_cast<unsigned char>(byte)); };

@@ -23,7 +23,8 @@ bool equalsText(const VorString& text, const wchar_t* other)
     return std::wcscmp(text.getStringW(), other) == 0;
 }
 
-// The program has few reporting sites, so a walk over those met so far is enough, and it allocates nothing.
+// The program has few reporting sites, so a walk over those met so far is enough: the millionth report of a site
+// allocates nothing.
 VorAssertReport& findOrAddSite(std::vector<VorAssertReport>& sites, const wchar_t* expression,
                                const wchar_t* sourcePath, int line)
 {
@@ -43,7 +44,7 @@ void VorAssert::vorAssert(const wchar_t* expression, const wchar_t* sourcePath, 
 {
     const wchar_t* expressionText = expression == nullptr ? L"" : expression;
     const wchar_t* pathText = sourcePath == nullptr ? L"" : sourcePath;
-    Handler handler = nullptr;
+    Handler handler = nullptr; // called without the lock, so that it may report itself
     {
         Reports& all = theReports();
         const std::lock_guard<std::mutex> lock(all.mutex);

@@ -20,6 +20,7 @@ CurrentUnits& currentUnits()
     return current;
 }
 
+// A copy, since the current units may change once the lock is released.
 int getUnitOf(VorUnitsTransformArray::eSystems system, MEKUnit& unit)
 {
     CurrentUnits& current = currentUnits();

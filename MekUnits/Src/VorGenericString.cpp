@@ -1,3 +1,5 @@
+// An entry is spread over three arrays, of tokens, texts and unit types, in which it has one index. Labels have a
+// handful of entries, so looking for one is a walk over their tokens.
 #include "MekRoots/Exp/VorGenericString.h"
 
 void VorGenericString::addToken(const VorString& token)

@@ -1,3 +1,9 @@
+// One text, 7'-6 1/2" in a reader of lengths, from its first character to its last:
+//   number 7, mark '      feet, since more follows: 7 is whole, and 84 inches are carried
+//   separator -
+//   number 6 1/2, mark "  inches, below 12; the last number, so that it may have a fraction
+//   84 and 6 1/2          are 90.5 inches in the unit of the smallest mark, which is 2298.7 mm
+// A text without marks, "7.5 ft", is a number and a unit; the reader's own unit is taken when none stands there.
 #include "VorQuantityReader.h"
 
 #include "MekRoots/Exp/VorAssert.h"
@@ -16,6 +22,7 @@ namespace
 {
 const wchar_t kSourcePath[] = L"MekUnits/Src/VorQuantityReader"; // named in assertion reports
 
+// Why a text is no quantity; explanationOf() has the words.
 enum eFault
 {
     kNoFault,
@@ -173,7 +180,7 @@ private:
         return m_marks.numMarks;
     }
 
-    // A minus belongs to what follows it.
+    // Passes over blanks and one minus: "7' - 6\"". A minus at the end is no separator, as nothing follows it.
     void skipSeparator()
     {
         skipBlanks(m_p);

@@ -1,6 +1,7 @@
 // Reads quantities as lists and drawings show them, and as people type them.
 //
-//   VorQuantityReader lengths(3);                        plain numbers are millimetres
+//   VorQuantityReader lengths(3);                        // plain numbers are millimetres
+//   double value = 0;
 //   lengths.read(L"2286", value)                    ->   1, value is 2286
 //   lengths.read(L"7'-6 1/2\"", value)              ->   1, value is 2298.7
 //   lengths.read(L"7.5 ft", value)                  ->   1, value is 2286

@@ -1,3 +1,8 @@
+// A slash divides units as well as it stands before a precision, so a word is tried as one after the other:
+//   "kg/m"        is a unit as it stands, shown as precisely as usual
+//   "kg/m/2"      is none; cut at its last slash, it is kg/m and 2 decimals
+//   "in/1/16"     is none either, but cut at "/1/" it is inches and 16 parts
+//   "ft-in/16"    is feet and inches, which have a fraction where others have decimals
 #include "VorUnitNotation.h"
 
 #include "MekRoots/Exp/VorCharacters.h"
@@ -14,7 +19,7 @@ const int kLargestDenominator = 256;
 const int kMostDecimals = 9;
 const std::size_t kMostDigits = 3; // of a denominator
 
-// A word cut into what names the unit and what is behind the slash.
+// A word cut at a separator: what names the unit, and what says how precisely it is shown.
 struct Pieces
 {
     std::wstring_view symbol;
@@ -44,11 +49,13 @@ int numberOf(std::wstring_view text)
     return number;
 }
 
+// Null when there is no unit of this symbol or name.
 const VorUnitDefinition* findUnit(std::wstring_view symbol)
 {
     return VorUnitsTransformArray::findUnit(VorString(symbol.data(), static_cast<int>(symbol.size())));
 }
 
+// These two set `unit` and answer 1, or leave it and answer 0 when there is no unit or the number is out of range.
 int setDecimals(const VorUnitDefinition* pUnit, int numDecimals, MEKUnit& unit)
 {
     if (pUnit == nullptr || numDecimals < 0 || numDecimals > kMostDecimals)

@@ -1,5 +1,9 @@
 // A unit and how precisely it is shown, in one word as users write it.
 //
+//   MEKUnit unit(3, 3, 1);
+//   VorUnitNotation::read(L"ft-in/16", unit)   ->  1, unit is feet and inches to 1/16"
+//   VorUnitNotation::write(unit)               ->  "ft-in/16"
+//
 //   "lb/1"        pounds to one decimal
 //   "ft-in/16"    feet and inches to 1/16"; their precision is a fraction's denominator, 1 being whole inches
 //   "ft-in/.2"    feet and inches to two decimals of an inch: a point asks for decimals wherever it stands

@@ -8,38 +8,40 @@
 namespace
 {
 const wchar_t kSourcePath[] = L"MekUnits/Src/VorUnitsManager"; // named in assertion reports
+
+// Reports a number that is no kind of quantity and answers -1.
+int indexOf(VorUnitsTransformArray::eSystems system)
+{
+    const int index = VorUnitsTransformArray::indexOf(system);
+    if (index < 0)
+        VorAssert::vorAssert(L"isSystem( system )", kSourcePath, __LINE__);
+    return index;
+}
 }
 
 VorUnitsManager::VorUnitsManager() : VorUnitsManager(metric()) {}
 
-VorUnitsManager::VorUnitsManager(const MEKUnit& distance, const MEKUnit& angle, const MEKUnit& weight,
-                                 const MEKUnit& area, const MEKUnit& weightPerDistance, const MEKUnit& areaPerDistance,
-                                 const MEKUnit& density)
-    : m_units{ { distance, angle, weight, area, weightPerDistance, areaPerDistance, density } }
-{
-}
-
 // clang-format off
 VorUnitsManager VorUnitsManager::metric()
 {
-    return VorUnitsManager(MEKUnit(3, 3, 1),       // mm
-                           MEKUnit(2006, 2006, 1), // degree
-                           MEKUnit(1009, 1009, 2), // kg
-                           MEKUnit(3003, 3003, 2), // m²
-                           MEKUnit(4000, 4000, 2), // kg/m
-                           MEKUnit(4100, 4100, 3), // m²/m
-                           MEKUnit(7001, 7001, 0)); // kg/m³
+    return VorUnitsManager(Units{ { MEKUnit(3, 3, 1),          // mm
+                                    MEKUnit(2006, 2006, 1),    // degree
+                                    MEKUnit(1009, 1009, 2),    // kg
+                                    MEKUnit(3003, 3003, 2),    // m²
+                                    MEKUnit(4000, 4000, 2),    // kg/m
+                                    MEKUnit(4100, 4100, 3),    // m²/m
+                                    MEKUnit(7001, 7001, 0) } }); // kg/m³
 }
 
 VorUnitsManager VorUnitsManager::imperial()
 {
-    return VorUnitsManager(MEKUnit(13, 13, 1016),  // feet and inches
-                           MEKUnit(2006, 2006, 1), // degree
-                           MEKUnit(1021, 1021, 1), // lb
-                           MEKUnit(3011, 3011, 2), // ft²
-                           MEKUnit(4011, 4011, 2), // lb/ft
-                           MEKUnit(4111, 4111, 2), // ft²/ft
-                           MEKUnit(7011, 7011, 1)); // lb/ft³
+    return VorUnitsManager(Units{ { MEKUnit(13, 13, 1016),     // feet and inches
+                                    MEKUnit(2006, 2006, 1),    // degree
+                                    MEKUnit(1021, 1021, 1),    // lb
+                                    MEKUnit(3011, 3011, 2),    // ft²
+                                    MEKUnit(4011, 4011, 2),    // lb/ft
+                                    MEKUnit(4111, 4111, 2),    // ft²/ft
+                                    MEKUnit(7011, 7011, 1) } }); // lb/ft³
 }
 // clang-format on
 
@@ -69,21 +71,4 @@ int VorUnitsManager::setUnit(VorUnitsTransformArray::eSystems system, const VorS
         return 0;
     setUnit(system, unit);
     return 1;
-}
-
-// Reports a number that is no kind of quantity and answers -1.
-int VorUnitsManager::indexOf(VorUnitsTransformArray::eSystems system)
-{
-    switch (system)
-    {
-        case VorUnitsTransformArray::kDistance: return 0;
-        case VorUnitsTransformArray::kAngle: return 1;
-        case VorUnitsTransformArray::kWeight: return 2;
-        case VorUnitsTransformArray::kArea: return 3;
-        case VorUnitsTransformArray::kWeightPerDistance: return 4;
-        case VorUnitsTransformArray::kAreaPerDistance: return 5;
-        case VorUnitsTransformArray::kDensity: return 6;
-    }
-    VorAssert::vorAssert(L"isSystem( system )", kSourcePath, __LINE__);
-    return -1;
 }

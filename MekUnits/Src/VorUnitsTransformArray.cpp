@@ -9,7 +9,7 @@
 
 namespace
 {
-// True when `word` is one of `names`, which have ", " between them.
+// True when `word` is one of `names`, which have ", " between them: "feet" of "foot, feet", but not "foo".
 bool isAmong(std::wstring_view names, std::wstring_view word)
 {
     const std::wstring_view separator = L", ";

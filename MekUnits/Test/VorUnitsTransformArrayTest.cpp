@@ -29,6 +29,19 @@ TEST(VorUnitsTransformArrayTest, KindsHaveTheNumbersThatClientsPass)
     EXPECT_EQ(15, Systems::kDensity);
 }
 
+TEST(VorUnitsTransformArrayTest, EveryKindIsListedOnceInTheOrderOfTheNumbers)
+{
+    for (int i = 0; i < Systems::kNumSystems; ++i)
+    {
+        EXPECT_EQ(i, Systems::indexOf(Systems::kSystems[i]));
+        EXPECT_NE(nullptr, Systems::findUnitOfModel(Systems::kSystems[i]));
+        EXPECT_TRUE(i == 0 || Systems::kSystems[i - 1] < Systems::kSystems[i]);
+    }
+    for (int i = 0; i < Systems::numUnits(); ++i)
+        EXPECT_NE(-1, Systems::indexOf(Systems::unitAt(i).system)) << Systems::unitAt(i).number;
+    EXPECT_EQ(-1, Systems::indexOf(static_cast<Systems::eSystems>(3)));
+}
+
 TEST(VorUnitsTransformArrayTest, UnitsAreFoundByPrintedAndAsciiSymbols)
 {
     EXPECT_EQ(3, unitOf(Systems::kDistance, L"mm"));

@@ -38,6 +38,9 @@ public:
     // Forgets the texts, not what was found out about the column.
     void clear();
 
+    // What the places for texts take: for a few texts little, never more than 16 KB.
+    std::size_t bytes() const { return m_entries.size() * sizeof(Entry); }
+
 private:
     struct Entry
     {
@@ -46,17 +49,21 @@ private:
     };
 
     static constexpr int kNumTrials = 256;     // arbitrary: enough to tell
-    static constexpr int kSetBits = 8;         // 16 KB, so that those of all columns fit the inner caches
+    static constexpr int kFewestSetBits = 1;   // 128 bytes: a report may have thousands of levels with a number each
+    static constexpr int kMostSetBits = 8;     // 16 KB, so that those of all columns fit the inner caches
     static constexpr std::size_t kNumWays = 4; // entries that a key may stand in, a line of the cache
     static constexpr int kFewestFoundIn = 4;   // one of so many, or remembering costs more than it saves
 
-    static std::size_t firstEntryFor(std::uint64_t key)
+    std::size_t firstEntryFor(std::uint64_t key) const
     {
-        return static_cast<std::size_t>(key * 0x9E3779B97F4A7C15U >> (64 - kSetBits)) * kNumWays; // Fibonacci hashing
+        return static_cast<std::size_t>(key * 0x9E3779B97F4A7C15U >> (64 - m_nSetBits)) * kNumWays; // Fibonacci hashing
     }
+    Entry* freeEntryFor(std::uint64_t key);
     Entry& entryToReplace(std::uint64_t key);
+    void resize(int setBits);
 
     std::vector<Entry> m_entries; // none before the first text, and once remembering has proved useless
+    int m_nSetBits = kFewestSetBits;
     int m_nNumFound = 0;
     int m_nNumRemembered = 0;
     bool m_isUseless = false;

@@ -177,3 +177,29 @@ TEST(VorBomTextMemoTest, AFewHundredNumbersHardlyTakeEachOthersPlaces)
 
     EXPECT_GE(numFound, 9 * 370);
 }
+
+TEST(VorBomTextMemoTest, AFewTextsTakeLittleRoom)
+{
+    VorBomTextMemo memo;
+    EXPECT_EQ(0u, memo.bytes());
+
+    memo.remember(1, textOf(1));
+
+    EXPECT_LE(memo.bytes(), 256u);
+}
+
+TEST(VorBomTextMemoTest, RoomGrowsWithTheTextsUpToABound)
+{
+    VorBomTextMemo memo;
+    for (std::uint64_t key = 0; key < 100; ++key)
+        look(memo, key * 0x123456789);
+    EXPECT_GT(memo.bytes(), 1600u);
+    EXPECT_LE(memo.bytes(), 16384u);
+
+    for (int round = 0; round < 10; ++round)
+        for (std::uint64_t key = 0; key < 100; ++key)
+            EXPECT_TRUE(look(memo, key * 0x123456789)) << "nothing is lost while there is room";
+    for (std::uint64_t key = 0; key < 400; ++key)
+        look(memo, key);
+    EXPECT_LE(memo.bytes(), 16384u);
+}

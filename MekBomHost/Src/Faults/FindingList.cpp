@@ -12,6 +12,14 @@ void FindingList::add(Finding finding)
         m_findings.push_back(std::move(finding));
 }
 
+void FindingList::addAllOf(const Fault& fault)
+{
+    const std::size_t numErrorsBefore = numErrors();
+    for (const Finding& finding : fault.findings())
+        add(finding);
+    m_numOf[Finding::kError] = numErrorsBefore + fault.numErrors();
+}
+
 void FindingList::throwIfAnyError() const
 {
     if (numErrors() > 0)

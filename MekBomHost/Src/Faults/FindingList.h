@@ -15,12 +15,17 @@
 
 namespace mekbom
 {
+class Fault;
+
 class FindingList
 {
 public:
     static constexpr std::size_t kMostKept = 10000; // of each severity; arbitrary: more than anybody reads
 
     void add(Finding finding);
+
+    // Adds the findings of `fault`, and counts its errors as it does.
+    void addAllOf(const Fault& fault);
 
     // Those that are kept, in the order in which they were added.
     const std::vector<Finding>& all() const { return m_findings; }

@@ -27,4 +27,11 @@ void StandardOutput::finish()
     if (std::fflush(stdout) != 0)
         failToWrite();
 }
+
+void StandardOutput::print(std::string_view text)
+{
+    StandardOutput output;
+    output.write(text);
+    output.finish();
+}
 }

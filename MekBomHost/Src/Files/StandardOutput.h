@@ -1,4 +1,6 @@
 // Standard output as the report's destination.
+//
+//   StandardOutput::print("7' 6\"\n");      throws a Fault when the device is full
 #pragma once
 
 #include "TextSink.h"
@@ -10,5 +12,8 @@ class StandardOutput : public TextSink
 public:
     void write(std::string_view text) override;
     void finish() override;
+
+    // Writes `text` as all of the output. Throws as write() does.
+    static void print(std::string_view text);
 };
 }

@@ -1,9 +1,10 @@
 #include "TextFile.h"
 
 #include "FileSource.h"
-#include "LineReader.h"
+#include "TextCheck.h"
 #include "Utf8.h"
 
+#include <string>
 #include <string_view>
 
 namespace mekbom::TextFile
@@ -11,10 +12,9 @@ namespace mekbom::TextFile
 VorString read(const std::string& path)
 {
     FileSource file(path);
-    LineReader reader(file);
-    std::string text;
-    for (std::string_view line; reader.next(line);)
-        text += line;
+    const std::string bytes = file.readAll();
+    const std::string_view text = Utf8::withoutByteOrderMark(bytes);
+    requireText(text, path);
     return Utf8::toWide(text);
 }
 }

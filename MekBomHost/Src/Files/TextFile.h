@@ -1,4 +1,4 @@
-// A text file as a whole, checked to be text: UTF-8 without zero bytes, as LineReader has it.
+// A text file as a whole, checked to be text: UTF-8 without zero bytes (TextCheck). A byte order mark in front is dropped.
 #pragma once
 
 #include "MekRoots/Exp/VorString.h"

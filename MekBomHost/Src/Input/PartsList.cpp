@@ -2,7 +2,8 @@
 
 #include "ColumnName.h"
 #include "Fault.h"
-#include "FaultList.h"
+#include "FindingCodes.h"
+#include "FindingList.h"
 #include "InputUnits.h"
 #include "MessageText.h"
 #include "PartsRows.h"
@@ -12,6 +13,8 @@
 #include "VorBomTokenCatalogue.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <utility>
 
 namespace mekbom
 {
@@ -19,14 +22,11 @@ namespace
 {
 const char* const kHandleToken = "%Handle";
 
-// A field that holds separators of other kinds is most likely a whole header row.
-std::string separatorHint(const std::string& field)
+// What is wrong with "--input-unit TOKEN=UNIT".
+[[noreturn]] void failInOption(const std::string& token, const std::string& unit, Finding finding)
 {
-    for (const char separator : { ';', '\t', '|' })
-        if (field.find(separator) != std::string::npos)
-            return std::string(" (is the file separated by ") +
-                   (separator == '\t' ? "tabs" : std::string(1, separator)) + "?)";
-    return "";
+    finding.source = "--input-unit " + token + "=" + unit;
+    throw Fault(kWrongUsage, finding);
 }
 
 int numFormulas(VorBomTemplate& reportTemplate)
@@ -58,13 +58,16 @@ const PartsColumn* PartsList::find(const std::string& token) const
 
 void PartsList::setInputUnit(const std::string& token, const std::string& unit)
 {
-    const std::string option = "--input-unit " + token + "=" + unit + ": ";
     const auto pColumn = std::find_if(m_columns.begin(), m_columns.end(),
                                       [&token](const PartsColumn& column) { return column.token == token; });
     if (pColumn == m_columns.end())
-        throw Fault(kWrongUsage, option + m_source.name() + " has no column " + inQuotes(token));
+        failInOption(token, unit,
+                     Finding::stating(FindingCodes::kUnitOfMissingColumn,
+                                      m_source.name() + " has no column " + inQuotes(token)));
     if (!pColumn->unitSymbol.empty() && pColumn->unitSymbol != unit)
-        throw Fault(kWrongUsage, option + "the column gives its unit already, " + inQuotes(pColumn->unitSymbol));
+        failInOption(token, unit,
+                     Finding::stating(FindingCodes::kUnitGivenTwice,
+                                      "the column gives its unit already, " + inQuotes(pColumn->unitSymbol)));
     pColumn->unitSymbol = unit;
     pColumn->unitIsFromUser = true;
 }
@@ -89,23 +92,53 @@ void PartsList::readHeader()
 {
     const Record* const pHeader = m_source.next();
     if (pHeader == nullptr)
-        throw Fault(kInvalidInput, m_source.name() + ": found nothing, expected a header row with column names");
-    FaultList faults;
-    m_headerPlace = m_source.name() + ":" + std::to_string(m_source.findingInRecord().begin.line) + ": ";
+        failWithoutHeader();
+    FindingList findings;
     for (const RecordCell& cell : *pHeader)
     {
         addColumn(cell.asText());
-        const PartsColumn& column = m_columns.back();
-        if (column.token == "%")
-            faults.add(m_headerPlace + "found no name in field " + std::to_string(m_columns.size()) +
-                       ", expected a column name");
-        else if (find(column.token) != &column)
-            faults.add(m_headerPlace + "found column " + inQuotes(column.token) + " a second time");
+        checkColumn(m_columns.back(), findings);
     }
-    if (m_columns.size() == 1 && !separatorHint(m_columns[0].name).empty())
-        faults.add(m_headerPlace + "found one column " + inQuotes(m_columns[0].name) +
-                   ", expected commas between columns" + separatorHint(m_columns[0].name));
-    faults.throwIfAny();
+    if (m_columns.size() == 1)
+        checkSeparator(m_columns.front(), findings);
+    findings.throwIfAnyError();
+}
+
+void PartsList::failWithoutHeader() const
+{
+    Finding finding = Finding::of(FindingCodes::kNoHeaderRow, "nothing", "a header row with column names");
+    finding.source = m_source.name();
+    throw Fault(kInvalidInput, finding);
+}
+
+// `column` is the last one so far.
+void PartsList::checkColumn(const PartsColumn& column, FindingList& findings) const
+{
+    if (column.token == "%")
+        addHeaderFinding(Finding::of(FindingCodes::kColumnWithoutName,
+                                     "no name in field " + std::to_string(m_columns.size()), "a column name"),
+                         findings);
+    else if (find(column.token) != &column)
+        addHeaderFinding(Finding::of(FindingCodes::kColumnTwice, "column " + inQuotes(column.token) + " a second time"),
+                         findings);
+}
+
+// A single column that holds separators of other kinds is most likely a whole header row.
+void PartsList::checkSeparator(const PartsColumn& column, FindingList& findings) const
+{
+    const std::size_t separator = column.name.find_first_of(";\t|");
+    if (separator == std::string::npos)
+        return;
+    const std::string name = column.name[separator] == '\t' ? "tabs" : column.name.substr(separator, 1);
+    addHeaderFinding(Finding::of(FindingCodes::kOtherSeparator, "one column " + inQuotes(column.name),
+                                 "commas between columns (is the file separated by " + name + "?)"),
+                     findings);
+}
+
+void PartsList::addHeaderFinding(Finding finding, FindingList& findings) const
+{
+    m_source.placeRecord(finding);
+    findings.add(std::move(finding));
 }
 
 void PartsList::addColumn(const std::string& heading)
@@ -132,15 +165,16 @@ void PartsList::resolveColumn(PartsColumn& column, const VorBomTemplateUnits& un
 
 void PartsList::resolveUnit(PartsColumn& column, const VorBomTemplateUnits& units) const
 {
-    const ExitStatus status = column.unitIsFromUser ? kWrongUsage : kInvalidInput;
-    const std::string found = placeOfUnit(column) + "found unit " + inQuotes(column.unitSymbol) + ", expected ";
     if (column.type != VorBomDataValue::kDoubleData)
-        throw Fault(status, found + "none: " + column.token +
-                                (column.type == VorBomDataValue::kIntData ? " is a whole number" : " is a text"));
+    {
+        const bool isWhole = column.type == VorBomDataValue::kIntData;
+        failInUnit(column, FindingCodes::kUnitOfNoQuantity, "none",
+                   column.token + (isWhole ? " is a whole number" : " is a text"));
+    }
     const VorBomTemplateUnits::eTokenUnitType kind = units.getUnitType(column.tupleToken);
     column.unit = InputUnits::find(column.unitSymbol, kind);
     if (!column.unit)
-        throw Fault(status, found + InputUnits::expectation(kind));
+        failInUnit(column, FindingCodes::kColumnUnitUnknown, InputUnits::expectation(kind));
     column.takesPlainNumbers = InputUnits::takesPlainNumbers(*column.unit);
     column.isInModelUnit = InputUnits::isOfModel(*column.unit);
     resolveQuantities(column, column.unit);
@@ -153,10 +187,16 @@ void PartsList::resolveQuantities(PartsColumn& column, const std::optional<MEKUn
         column.quantities.emplace(unit->unit());
 }
 
-std::string PartsList::placeOfUnit(const PartsColumn& column) const
+// The record read last is still the header row.
+void PartsList::failInUnit(const PartsColumn& column, const FindingCode& code, const std::string& expected,
+                           const std::string& remedy) const
 {
+    Finding finding = Finding::of(code, "unit " + inQuotes(column.unitSymbol), expected);
+    finding.remedy = remedy;
     if (column.unitIsFromUser)
-        return "--input-unit " + column.token + "=" + column.unitSymbol + ": ";
-    return m_headerPlace + "column " + inQuotes(column.name) + ": ";
+        failInOption(column.token, column.unitSymbol, finding);
+    m_source.placeCell(static_cast<std::size_t>(&column - m_columns.data()), finding);
+    finding.field = column.name;
+    throw Fault(kInvalidInput, finding);
 }
 }

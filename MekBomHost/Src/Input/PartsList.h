@@ -11,6 +11,7 @@
 // "7.5 ft". "Handle" is the identity of the object. Everything that is wrong is thrown as one Fault.
 #pragma once
 
+#include "FindingList.h"
 #include "PartsColumn.h"
 #include "QueryFilter.h"
 #include "RecordSource.h"
@@ -23,6 +24,8 @@
 
 namespace mekbom
 {
+struct FindingCode;
+
 class PartsList
 {
 public:
@@ -44,14 +47,18 @@ public:
 
 private:
     void readHeader();
+    [[noreturn]] void failWithoutHeader() const;
+    void checkColumn(const PartsColumn& column, FindingList& findings) const;
+    void checkSeparator(const PartsColumn& column, FindingList& findings) const;
+    void addHeaderFinding(Finding finding, FindingList& findings) const;
     void addColumn(const std::string& heading);
     void resolveColumn(PartsColumn& column, const VorBomTemplateUnits& units) const;
     void resolveUnit(PartsColumn& column, const VorBomTemplateUnits& units) const;
     static void resolveQuantities(PartsColumn& column, const std::optional<MEKUnit>& unit);
-    std::string placeOfUnit(const PartsColumn& column) const;
+    [[noreturn]] void failInUnit(const PartsColumn& column, const FindingCode& code, const std::string& expected,
+                                 const std::string& remedy = std::string()) const;
 
     RecordSource& m_source;
     std::vector<PartsColumn> m_columns;
-    std::string m_headerPlace; // "parts.csv:1: "
 };
 }

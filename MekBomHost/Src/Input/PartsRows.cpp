@@ -1,6 +1,7 @@
 #include "PartsRows.h"
 
 #include "CellNumber.h"
+#include "FindingCodes.h"
 #include "InputUnits.h"
 #include "MessageText.h"
 #include "Utf8.h"
@@ -8,6 +9,7 @@
 #include "VorBomDataTuple.h"
 
 #include <cmath>
+#include <utility>
 
 namespace mekbom
 {
@@ -46,7 +48,7 @@ void PartsRows::add(const Record& record)
 // The columns whose type was open are filled in last: `takeNext` gives their cells in the order of the rows.
 void PartsRows::finish()
 {
-    m_faults.throwIfAny();
+    m_findings.throwIfAnyError();
     m_rows.build();
     std::vector<std::size_t> openColumns;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
@@ -64,9 +66,10 @@ bool PartsRows::checkNumCells(const Record& record)
 {
     if (record.size() == m_columns.size())
         return true;
-    m_faults.add(m_source.name() + ":" + std::to_string(m_source.findingInRecord().begin.line) + ": found " +
-                 fieldCount(record.size()) + ", expected " + std::to_string(m_columns.size()) +
-                 " as in the header row");
+    Finding finding = Finding::of(FindingCodes::kWrongNumberOfFields, fieldCount(record.size()),
+                                  std::to_string(m_columns.size()) + " as in the header row");
+    m_source.placeRecord(finding);
+    m_findings.add(std::move(finding));
     return false;
 }
 
@@ -92,8 +95,8 @@ void PartsRows::readWhole(std::size_t column, std::string_view text)
 {
     int value = 0;
     if (!CellNumber::parse(text, value))
-        addFault(column, text,
-                 CellNumber::isWhole(text) ? "a whole number from -2147483648 to 2147483647" : "a whole number");
+        addFinding(FindingCodes::kCellIsNotWhole, column, text,
+                   CellNumber::isWhole(text) ? "a whole number from -2147483648 to 2147483647" : "a whole number");
     else if (m_columns[column].isWanted)
         m_rows.add(m_columns[column].tupleToken, value);
 }
@@ -110,7 +113,7 @@ void PartsRows::readNumber(std::size_t column, const RecordCell& cell)
     else if (!properties.isInModelUnit)
         value = properties.unit->getVorUnitTransform().toInternalUnits(value);
     if (!std::isfinite(value))
-        addFault(column, textOf(cell), "a smaller number");
+        addFinding(FindingCodes::kCellIsTooLarge, column, textOf(cell), "a smaller number");
     else if (properties.isWanted)
         m_rows.add(properties.tupleToken, value);
 }
@@ -153,16 +156,19 @@ bool PartsRows::readQuantity(std::size_t column, std::string_view text, double& 
     if (properties.quantities && properties.quantities->read(wideText, value) == 1)
         return true;
     const std::string hint = properties.quantities ? Utf8::toBytes(properties.quantities->explain(wideText)) : "";
-    addFault(column, text,
-             (properties.unit ? InputUnits::cellExpectation(*properties.unit) : "a number") +
-                 (hint.empty() ? "" : ": " + hint));
+    addFinding(FindingCodes::kCellIsNoNumber, column, text,
+               properties.unit ? InputUnits::cellExpectation(*properties.unit) : "a number", hint);
     return false;
 }
 
-void PartsRows::addFault(std::size_t column, std::string_view text, const std::string& expected)
+void PartsRows::addFinding(const FindingCode& code, std::size_t column, std::string_view text,
+                           const std::string& expected, const std::string& remedy)
 {
-    m_faults.add(m_source.name() + ":" + std::to_string(m_source.findingInCell(column).begin.line) + ": column " +
-                 inQuotes(m_columns[column].name) + ": found " + inQuotes(text) + ", expected " + expected);
+    Finding finding = Finding::of(code, inQuotes(text), expected);
+    m_source.placeCell(column, finding);
+    finding.field = m_columns[column].name;
+    finding.remedy = remedy;
+    m_findings.add(std::move(finding));
 }
 
 void PartsRows::addNumberAsHandle()

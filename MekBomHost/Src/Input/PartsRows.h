@@ -8,7 +8,7 @@
 #pragma once
 
 #include "ContentColumn.h"
-#include "FaultList.h"
+#include "FindingList.h"
 #include "PartsColumn.h"
 #include "RecordSource.h"
 #include "RowBatch.h"
@@ -22,6 +22,8 @@
 
 namespace mekbom
 {
+struct FindingCode;
+
 class PartsRows
 {
 public:
@@ -50,13 +52,14 @@ private:
     void readHandle(std::size_t column, std::string_view text);
     bool readPlainNumber(std::size_t column, const RecordCell& cell, double& value) const;
     bool readQuantity(std::size_t column, std::string_view text, double& value);
-    void addFault(std::size_t column, std::string_view text, const std::string& expected);
+    void addFinding(const FindingCode& code, std::size_t column, std::string_view text, const std::string& expected,
+                    const std::string& remedy = std::string());
     void addNumberAsHandle();
 
     const std::vector<PartsColumn>& m_columns;
     const RecordSource& m_source;
     VorBomData& m_data;
-    FaultList m_faults;
+    FindingList m_findings;
     RowBatch m_rows;                             // those that are not in the data yet
     std::vector<ContentColumn> m_contentColumns; // one for each column, used where the type is still open
     VorString m_numberToken;                     // empty when rows are not numbered

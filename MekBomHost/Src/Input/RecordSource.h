@@ -34,9 +34,9 @@ public:
     // The next record; null at the end. It is owned by the source, and it and its texts are good until the next call.
     virtual const Record* next() = 0;
 
-    // Where the record read last stands, and where its cell `index`, from 0, does: an error there with everything of a
-    // place that the source knows (Finding: source, begin, end, path), and nothing else.
-    virtual Finding findingInRecord() const = 0;
-    virtual Finding findingInCell(std::size_t index) const = 0;
+    // Fill in where the record read last stands, and where its cell `index` does, from 0: the finding's source and what
+    // is known of its begin, end and path. A record in a text has a line and no column.
+    virtual void placeRecord(Finding& finding) const = 0;
+    virtual void placeCell(std::size_t index, Finding& finding) const = 0;
 };
 }

@@ -1,80 +1,104 @@
 #include "Program.h"
 
-#include "CommandLine.h"
 #include "Fault.h"
-#include "ReportCommand.h"
+#include "Guard.h"
+#include "ReportVerb.h"
 #include "StandardOutput.h"
-#include "UnitsCommand.h"
 
-#include <cstddef>
+#include <CLI/CLI.hpp>
+
 #include <cstdio>
-#include <exception>
-#include <new>
 #include <string>
 
-namespace mekbom::Program
+namespace mekbom
 {
 namespace
 {
-const std::size_t kMostShown = 20; // errors; arbitrary: about a screen
+const char* const kVersion = "mekbom " MEK_VERSION;
+
+// The help of the command that was asked for, be it one within another.
+std::string helpOf(const CLI::App& app)
+{
+    const CLI::App* pCommand = &app;
+    std::string parents;
+    while (!pCommand->get_subcommands().empty())
+    {
+        parents += (parents.empty() ? "" : " ") + pCommand->get_name();
+        pCommand = pCommand->get_subcommands().front();
+    }
+    return pCommand->help(parents);
+}
+
+// Parses and gives the text to print instead of running a verb, if that is what was asked for: help or the version.
+std::string parse(CLI::App& app, int numArguments, const char* const* arguments)
+{
+    try
+    {
+        app.parse(numArguments, arguments);
+    }
+    catch (const CLI::CallForHelp&)
+    {
+        return helpOf(app);
+    }
+    catch (const CLI::CallForVersion& version)
+    {
+        return version.what() + std::string("\n");
+    }
+    catch (const CLI::ParseError& error)
+    {
+        throw Fault(kWrongUsage, error.what() + std::string("; see mekbom --help"));
+    }
+    return std::string();
+}
 
 void printMessage(const std::string& message)
 {
     std::fputs(("mekbom: " + message + "\n").c_str(), stderr);
 }
 
-// On purpose: a command is never destroyed. Freeing the report of a large model, block by block, takes a sixth of the
-// whole job, and the process is about to end. The pointer keeps all of it in sight of leak checkers.
-void runReport(const ReportOptions& options)
+void printErrors(const FindingList& findings)
 {
-    static ReportCommand* pCommand = nullptr;
-    pCommand = new ReportCommand(options);
-    pCommand->run();
-    for (const std::string& note : pCommand->notes())
-        printMessage("note: " + note);
+    std::size_t numShown = 0;
+    for (const Finding& finding : findings.all())
+        if (finding.severity == Finding::kError && numShown < Program::kMostErrorsShown)
+        {
+            printMessage(messageOf(finding));
+            ++numShown;
+        }
+    if (findings.numErrors() > numShown)
+        printMessage("and " + std::to_string(findings.numErrors() - numShown) + " more faults");
 }
 
-void runArguments(int numArguments, const char* const* arguments)
+void printFindings(const FindingList& findings)
 {
-    const CommandLine::Outcome outcome = CommandLine::parse(numArguments, arguments);
-    if (outcome.isReport)
-        return runReport(outcome.options);
-    StandardOutput output;
-    output.write(outcome.isAboutUnits ? UnitsCommand::textOf(outcome.units) : outcome.text);
-    output.finish();
+    if (findings.numErrors() > 0)
+        return printErrors(findings);
+    for (const Finding& finding : findings.all())
+        printMessage((finding.severity == Finding::kNote ? "note: " : "warning: ") + messageOf(finding));
 }
 }
 
-ExitStatus run(int numArguments, const char* const* arguments)
+ExitStatus Program::run(int numArguments, const char* const* arguments)
 {
-    return runGuarded([numArguments, arguments] { runArguments(numArguments, arguments); });
+    FindingList findings;
+    const ExitStatus status = runGuarded(findings, [&] { return runArguments(numArguments, arguments, findings); });
+    printFindings(findings);
+    return status;
 }
 
-ExitStatus runGuarded(const std::function<void()>& command)
+ExitStatus Program::runArguments(int numArguments, const char* const* arguments, FindingList& findings)
 {
-    try
-    {
-        command();
-        return kDone;
-    }
-    catch (const Fault& fault)
-    {
-        for (const std::string& message : fault.messages(kMostShown))
-            printMessage(message);
-        return fault.status();
-    }
-    catch (const std::bad_alloc&)
-    {
-        printMessage("internal fault: no memory left");
-    }
-    catch (const std::exception& exception)
-    {
-        printMessage(std::string("internal fault: ") + exception.what());
-    }
-    catch (...)
-    {
-        printMessage("internal fault");
-    }
-    return kInternalFault;
+    CLI::App app("Bills of materials from the parts lists of steel structures", "mekbom");
+    app.set_version_flag("--version", kVersion);
+    app.require_subcommand(1);
+    app.footer(ReportVerb::kNotes);
+    m_verbs = allVerbs();
+    m_verbs.declareOn(app);
+
+    const std::string text = parse(app, numArguments, arguments);
+    if (text.empty())
+        return m_verbs.called()->run(findings);
+    StandardOutput::print(text);
+    return kDone;
 }
 }

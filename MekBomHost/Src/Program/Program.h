@@ -1,16 +1,32 @@
-// The program without its main(): arguments in, exit status out.
+// The program without its main(): arguments in, exit status out, any number of times.
+//
+//   Program program;
+//   const char* const arguments[] = { "mekbom", "units", "read", "30'" };
+//   program.run(4, arguments);         prints 9144 and returns kDone
+//
+// Reports go to standard output or a file, findings to standard error: errors alone, or where there is none, what else
+// is worth knowing.
 #pragma once
 
 #include "ExitStatus.h"
+#include "FindingList.h"
+#include "VerbList.h"
 
-#include <functional>
+#include <cstddef>
 
-namespace mekbom::Program
+namespace mekbom
 {
-// Does what the arguments ask for. Reports go to standard output or a file, messages to standard error. To be called
-// once: what a report was made of is given back by the end of the process alone.
-ExitStatus run(int numArguments, const char* const* arguments);
+class Program
+{
+public:
+    static constexpr std::size_t kMostErrorsShown = 20; // arbitrary: about a screen
 
-// Runs `command` and turns whatever it throws into messages on standard error and an exit status.
-ExitStatus runGuarded(const std::function<void()>& command);
+    // Does what the arguments ask for. What the run needed memory for is freed by the next one, or with this object.
+    ExitStatus run(int numArguments, const char* const* arguments);
+
+private:
+    ExitStatus runArguments(int numArguments, const char* const* arguments, FindingList& findings);
+
+    VerbList m_verbs; // of the last run; a report lives in its verb
+};
 }

@@ -105,6 +105,12 @@ std::size_t countCharacters(std::string_view bytes)
     return bytes.size() - static_cast<std::size_t>(std::count_if(bytes.begin(), bytes.end(), continues));
 }
 
+std::string_view withoutByteOrderMark(std::string_view bytes)
+{
+    const std::string_view mark = "\xEF\xBB\xBF";
+    return bytes.substr(0, mark.size()) == mark ? bytes.substr(mark.size()) : bytes;
+}
+
 VorString toWide(std::string_view bytes)
 {
     wchar_t characters[kMostShort];

@@ -16,6 +16,9 @@ std::size_t findInvalid(std::string_view bytes);
 // Characters (code points), not bytes. For valid text.
 std::size_t countCharacters(std::string_view bytes);
 
+// Without the mark that some programs put in front of a file: "\xEF\xBB\xBFName" -> "Name".
+std::string_view withoutByteOrderMark(std::string_view bytes);
+
 // Anything invalid becomes U+FFFD, in both directions.
 VorString toWide(std::string_view bytes);
 std::string toBytes(const VorString& text);

@@ -65,4 +65,15 @@ TEST(FindingListTest, KeepsThousandsAndCountsTheOthers)
         EXPECT_EQ(FindingList::kMostKept + 7, fault.numErrors());
     }
 }
+
+TEST(FindingListTest, TheErrorsOfAFaultAreCountedAsTheFaultCountsThem)
+{
+    FindingList findings;
+    findings.add(findingOf(Finding::kError));
+
+    findings.addAllOf(Fault(kInvalidInput, { findingOf(Finding::kError), findingOf(Finding::kNote) }, 30));
+
+    EXPECT_EQ(3U, findings.all().size());
+    EXPECT_EQ(31U, findings.numErrors());
+}
 }

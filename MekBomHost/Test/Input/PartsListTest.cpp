@@ -29,15 +29,17 @@ public:
     const std::string& name() const override { return m_name; }
     const Record* next() override { return m_next < m_records.size() ? &m_records[m_next++] : nullptr; }
 
-    Finding findingInRecord() const override
+    void placeRecord(Finding& finding) const override
     {
-        Finding finding;
         finding.source = m_name;
         finding.begin.line = static_cast<int>(m_next);
-        return finding;
     }
 
-    Finding findingInCell(std::size_t) const override { return findingInRecord(); }
+    void placeCell(std::size_t index, Finding& finding) const override
+    {
+        placeRecord(finding);
+        finding.path = "/" + std::to_string(index);
+    }
 
 private:
     std::string m_name = "parts.xyz";
@@ -284,6 +286,29 @@ TEST(PartsListTest, CellsThatAreNoNumbersAreNamedWithTheirPlace)
               faultIn("Weight,%Quantity\n1,1\nabc,1\n1,2.5\n1,3000000000\n\"1,5\",1\n"));
 }
 
+TEST(PartsListTest, FindingsAreData)
+{
+    try
+    {
+        rowsOf("Name,Weight\nx,12\ny,1.x\n");
+        FAIL();
+    }
+    catch (const Fault& fault)
+    {
+        ASSERT_EQ(1u, fault.findings().size());
+        const Finding& finding = fault.findings().front();
+        EXPECT_EQ("MB710", finding.code);
+        EXPECT_EQ("parts.csv", finding.source);
+        EXPECT_EQ("Weight", finding.field);
+        EXPECT_EQ("\"1.x\"", finding.found);
+        EXPECT_EQ("a number", finding.expected);
+        EXPECT_EQ(3, finding.begin.line);
+        EXPECT_EQ(3, finding.begin.column);
+        EXPECT_EQ(3, finding.end.line);
+        EXPECT_EQ(6, finding.end.column);
+    }
+}
+
 TEST(PartsListTest, PlacesCountLinesWithinQuotes)
 {
     EXPECT_EQ("3 parts.csv:4: column \"Weight\": found \"abc\", expected a number\n",
@@ -329,12 +354,13 @@ TEST(PartsListTest, StoredNumbersThatDoNotFitAreNamedAsTextsAre)
                         { RecordCell(3e9), RecordCell() } });
     PartsList parts(source);
 
-    EXPECT_EQ("3 parts.xyz:2: column \"Quantity\": found \"2.5\", expected a whole number\n"
-              "3 parts.xyz:2: column \"Length [ft-in]\": found \"90\", expected feet and inches such as 7'-6 1/2\": "
-              "every number needs its mark\n"
-              "3 parts.xyz:3: column \"Quantity\": found \"3000000000\", expected a whole number from -2147483648 to "
-              "2147483647\n",
-              faultOf([&parts] { rowsOf(parts); }));
+    EXPECT_EQ(
+        "3 parts.xyz:2: /0: column \"Quantity\": found \"2.5\", expected a whole number\n"
+        "3 parts.xyz:2: /1: column \"Length [ft-in]\": found \"90\", expected feet and inches such as 7'-6 1/2\": "
+        "every number needs its mark\n"
+        "3 parts.xyz:3: /0: column \"Quantity\": found \"3000000000\", expected a whole number from -2147483648 to "
+        "2147483647\n",
+        faultOf([&parts] { rowsOf(parts); }));
 }
 
 TEST(PartsListTest, RaggedRowsAreNamedWithBothCounts)

@@ -2,12 +2,14 @@
 
 #include "Support/ProgramRun.h"
 
+#include "MekRoots/Test/Support/TestSupport.h"
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
-#include <new>
-#include <stdexcept>
 #include <string>
+#include <vector>
 
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 #define MEK_TEST_IS_SANITIZED
@@ -332,19 +334,6 @@ TEST(ProgramTest, AFullDeviceIsStatusFour)
     EXPECT_EQ("mekbom: standard output: cannot be written: No space left on device\n", readFile(errors));
 }
 
-TEST(ProgramTest, FaultsOfTheProgramItselfAreStatusSeventy)
-{
-    testing::internal::CaptureStderr();
-
-    EXPECT_EQ(kInternalFault, Program::runGuarded([] { throw std::logic_error("broken"); }));
-    EXPECT_EQ(kInternalFault, Program::runGuarded([] { throw std::bad_alloc(); }));
-    EXPECT_EQ(kInternalFault, Program::runGuarded([] { throw 5; }));
-    EXPECT_EQ(kDone, Program::runGuarded([] {}));
-
-    EXPECT_EQ("mekbom: internal fault: broken\nmekbom: internal fault: no memory left\nmekbom: internal fault\n",
-              testing::internal::GetCapturedStderr());
-}
-
 TEST(ProgramTest, RunningOutOfMemoryIsStatusSeventy)
 {
 #if defined(_WIN32) || defined(MEK_TEST_IS_SANITIZED)
@@ -391,5 +380,68 @@ TEST(ProgramTest, TheOutputIsTheSameInEveryLocale)
             "Name    Weight [kg]\n------  -----------\nTräger          2.5\n------  -----------\n                2.5\n",
             readFile(path));
     }
+}
+
+TEST(ProgramTest, TheCommandsAndTheVersionAreTold)
+{
+    const std::string help = runHere({ "--help" }).output;
+
+    EXPECT_EQ("Bills of materials from the parts lists of steel structures\nUsage: mekbom [OPTIONS] SUBCOMMAND\n",
+              help.substr(0, help.find("\nOptions:")));
+    EXPECT_NE(std::string::npos, help.find("  report                      Print a list from a parts list and"));
+    EXPECT_NE(std::string::npos, help.find("  units                       List the units, or convert a quantity"));
+    EXPECT_EQ(0u, runHere({ "--version" }).output.find("mekbom "));
+    EXPECT_EQ("mekbom: A subcommand is required; see mekbom --help\n", runHere({}).errors);
+}
+
+TEST(ProgramTest, OneProgramRunsManyTimes)
+{
+    const Job job(kParts, kTemplate);
+    const std::vector<std::string> report = { "report", "--data", job.parts(), "--template", job.templateFile() };
+    std::vector<std::string> imperial = report;
+    imperial.insert(imperial.end(), { "--units", "imperial" });
+    Program program;
+
+    for (int i = 0; i < 3; ++i)
+    {
+        EXPECT_EQ(kTable, runHere(program, report).output);
+        EXPECT_NE(std::string::npos, runHere(program, imperial).output.find("Weight [lb]"));
+        EXPECT_EQ(kMergedNote, runHere(program, report).errors);
+        EXPECT_EQ(kInvalidInput, runHere(program, { "report", "--data", "missing.csv" }).status);
+        EXPECT_EQ("7.5\n", runHere(program, { "units", "convert", "2286", "mm", "ft" }).output);
+        EXPECT_EQ(kWrongUsage, runHere(program, { "units", "converse" }).status);
+        EXPECT_EQ(0u, runHere(program, { "--version" }).output.find("mekbom "));
+    }
+}
+
+TEST(ProgramTest, WhatARunUsedIsFreed)
+{
+    const Job job(kParts, kTemplate);
+    const std::vector<std::string> report = { "report", "--data", job.parts(), "--template", job.templateFile() };
+    runHere(report); // the engine and the streams keep what they made for the first report
+    const LeakCheck leakCheck;
+
+    for (int i = 0; i < 3; ++i)
+        runHere(report);
+}
+
+TEST(ProgramTest, OfManyErrorsTwentyAreShown)
+{
+    const auto errorsFor = [](int numRows)
+    {
+        std::string parts = "%Name,%Weight\n";
+        for (int i = 0; i < numRows; ++i)
+            parts += "A,abc\n";
+        const Job job(parts, kTemplate);
+        return runHere({ "report", "--data", job.parts(), "--template", job.templateFile() }).errors;
+    };
+
+    const std::string twenty = errorsFor(20);
+    EXPECT_EQ(20, std::count(twenty.begin(), twenty.end(), '\n'));
+    EXPECT_EQ(std::string::npos, twenty.find("more"));
+    const std::string errors = errorsFor(27);
+    EXPECT_EQ(21, std::count(errors.begin(), errors.end(), '\n'));
+    EXPECT_NE(std::string::npos, errors.find(":21: column \"%Weight\": found \"abc\", expected a number\nmekbom: and "
+                                             "7 more faults\n"));
 }
 }

@@ -1,6 +1,4 @@
-#include "CommandLine.h"
 #include "CsvReader.h"
-#include "DisplaySettings.h"
 #include "FileSource.h"
 #include "PartsList.h"
 #include "Report.h"
@@ -9,8 +7,6 @@
 
 #include "Support/HostTestSupport.h"
 #include "Support/ReportTestSupport.h"
-
-#include "MekRoots/Exp/KTRepositoryProxy.h"
 
 #include <gtest/gtest.h>
 
@@ -21,6 +17,7 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 // Whole reports as folders of plain text, each named after the rule that it shows:
@@ -64,16 +61,30 @@ std::string testName(const testing::TestParamInfo<std::string>& info)
     return name;
 }
 
-ReportOptions optionsOf(const fs::path& folder)
+// Of the options of `mekbom report` those that cases use.
+struct CaseOptions
 {
-    std::vector<std::string> words = { "mekbom", "report" };
+    std::string units = "metric";
+    std::vector<std::pair<std::string, std::string>> inputUnits;
+};
+
+//   --units imperial
+//   --input-unit %Paint=m2
+CaseOptions optionsOf(const fs::path& folder)
+{
+    CaseOptions options;
     std::istringstream text(readFile(folder / "arguments.txt"));
-    for (std::string word; text >> word;)
-        words.push_back(word);
-    std::vector<const char*> arguments;
-    for (const std::string& word : words)
-        arguments.push_back(word.c_str());
-    return CommandLine::parse(static_cast<int>(arguments.size()), arguments.data()).options;
+    for (std::string option, value; text >> option >> value;)
+    {
+        const std::size_t equals = value.find('=');
+        if (option == "--units")
+            options.units = value;
+        else if (option == "--input-unit" && equals != std::string::npos)
+            options.inputUnits.emplace_back(value.substr(0, equals), value.substr(equals + 1));
+        else
+            ADD_FAILURE() << "no case has used " << option << " so far";
+    }
+    return options;
 }
 
 void hold(const fs::path& file, const std::string& text)
@@ -87,10 +98,9 @@ void hold(const fs::path& file, const std::string& text)
 // The report that the folder describes, not evaluated yet.
 std::unique_ptr<Report> readReport(const fs::path& folder)
 {
-    const ReportOptions options = optionsOf(folder);
-    DisplaySettings::load(options.settingsFile, options.settings);
+    const CaseOptions options = optionsOf(folder);
     auto pReport = std::make_unique<Report>(TemplateReader::read("template.json", readFile(folder / "template.json")),
-                                            UnitChoice::unitsOf(options.units, options.unitChoices));
+                                            UnitChoice::unitsOf(options.units, {}));
     FileSource file((folder / "data.csv").string());
     CsvReader records(file);
     PartsList parts(records);
@@ -100,11 +110,8 @@ std::unique_ptr<Report> readReport(const fs::path& folder)
     return pReport;
 }
 
-// The settings repository is shared by the process: every case ends with an empty one.
 class CaseFolderTest : public testing::TestWithParam<std::string>
 {
-protected:
-    ~CaseFolderTest() override { KTRepositoryProxy::clear(); }
 };
 }
 

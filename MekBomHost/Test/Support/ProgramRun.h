@@ -1,10 +1,15 @@
-// Runs the program as a user does: a process of its own, with its streams and its exit status.
+// Runs the program as a user does, in a process of its own, or within the test's, where that is enough.
 #pragma once
+
+#include "Program.h"
 
 #include "HostTestSupport.h"
 
+#include <gtest/gtest.h>
+
 #include <cstdlib>
 #include <string>
+#include <vector>
 
 #if !defined(_WIN32)
 #include <sys/wait.h>
@@ -38,5 +43,24 @@ inline ProgramRun runProgram(const std::string& arguments, const std::string& be
     const int result = std::system(
         (before + "\"" MEK_PROGRAM "\" " + arguments + " >\"" + output + "\" 2>\"" + errors + "\"").c_str());
     return { statusOf(result), readFile(output), readFile(errors) };
+}
+
+// Runs `program` in this process; what it prints is caught. `arguments` go to it as they are, without a shell.
+inline ProgramRun runHere(Program& program, const std::vector<std::string>& arguments)
+{
+    std::vector<const char*> words = { "mekbom" };
+    for (const std::string& argument : arguments)
+        words.push_back(argument.c_str());
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    const int status = program.run(static_cast<int>(words.size()), words.data());
+    const std::string errors = testing::internal::GetCapturedStderr();
+    return { status, testing::internal::GetCapturedStdout(), errors };
+}
+
+inline ProgramRun runHere(const std::vector<std::string>& arguments)
+{
+    Program program;
+    return runHere(program, arguments);
 }
 }

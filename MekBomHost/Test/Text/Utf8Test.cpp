@@ -87,4 +87,12 @@ TEST(Utf8Test, TheLocaleDoesNotMatter)
 
     std::setlocale(LC_ALL, before.c_str());
 }
+
+TEST(Utf8Test, AByteOrderMarkIsTakenOffTheFront)
+{
+    EXPECT_EQ("Name", Utf8::withoutByteOrderMark("\xEF\xBB\xBF"
+                                                 "Name"));
+    EXPECT_EQ("Name", Utf8::withoutByteOrderMark("Name"));
+    EXPECT_EQ("\xEF\xBB", Utf8::withoutByteOrderMark("\xEF\xBB"));
+}
 }

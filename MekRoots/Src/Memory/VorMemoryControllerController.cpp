@@ -1,3 +1,5 @@
+// Most calls find a heap and a size that the pool serves, and are done here in a few instructions. VorMemoryThread takes
+// the others: the first block of a thread, large ones, and those of a thread that has ended.
 #include "VorMemoryControllerController.h"
 
 #include "VorMemoryThread.h"
@@ -12,6 +14,7 @@ void* VorMemoryControllerController::allocate(std::size_t size, bool isAlignedTo
     return pHeap->allocate(size, isAlignedTo16);
 }
 
+// One piece is cut off the run for all of them. The heap has counted it as one live block, so the others are added.
 void* VorMemoryControllerController::allocateNeighbours(std::size_t numBlocks, std::size_t blockSize)
 {
     VorMemoryHeap* pHeap = VorMemoryThread::heap();

@@ -1,7 +1,7 @@
 // The pooled memory of one thread: a run of free memory, from which blocks of all sizes are cut one after the other.
 //
-//   void* pItem = heap.allocate(40, false);   the next 40 bytes of the run
-//   heap.release(pItem, 40);                  back to its page; to the heap it came from when that is another thread's
+//   void* pItem = heap.allocate(40, false);   // the next 40 bytes of the run
+//   heap.release(pItem, 40);                  // back to its page, whatever thread its heap belongs to
 //
 // The runs are stretches of the heap's pages, and this is the life of a page:
 //

@@ -4,8 +4,8 @@
 //   0 ------------------------- page ------------------------- kSize
 //   | head, bits | item | tuples ... | 8 | 8 | 8 | text | item | ...
 //
-//   page.takeRun(40, pFirst, pEnd);    a stretch of at least 40 free bytes, 3072 if so many are free: [pFirst, pEnd)
-//   page.putBack(pFirst, 40);          the first block of the run is free again
+//   page.takeRun(40, pFirst, pEnd);    // a stretch of at least 40 free bytes, 3072 if so many are free: [pFirst, pEnd)
+//   page.putBack(pFirst, 40);          // the first block of the run is free again
 //
 // Memory is handed out in runs of free granules and in the order of their addresses, whatever the order in which they
 // came back: what is allocated one after the other lies side by side and is met again in that order. Freeing a block

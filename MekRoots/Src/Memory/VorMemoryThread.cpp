@@ -1,9 +1,14 @@
+// The heap of a thread over its life:
+//   before its first block   s_pHeap is null; beginUseOfHeap() takes a heap and has End destroyed when the thread ends
+//   while it runs            s_pHeap is its heap, and all blocks go there directly
+//   after End is destroyed   s_pHeap is null again and the heap another thread's; thread-local objects that are
+//                            destroyed later still free blocks, each through a heap that is taken for that one call
 #include "VorMemoryThread.h"
 
 #include <cstdlib>
 #include <new>
 
-// Destroyed with its thread.
+// Destroyed with its thread, which is how the thread's end is noticed.
 struct VorMemoryThread::End
 {
     End() = default;

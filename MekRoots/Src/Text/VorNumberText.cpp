@@ -1,6 +1,9 @@
-// A scan first finds how far the number reaches, copying its characters to a narrow text, then converts that text with
-// std::from_chars, which knows no locale:
-//   L" -0x1.8p3mm"  ->  negative, hexadecimal, "1.8p3", end at "mm"  ->  -12.0
+// Scans have one fast path and one general path behind the white space and the sign.
+//   fast      "12.5 kg"      the digits 125 with one decimal are 125 / 10, which is exact (scanShortDecimal)
+//   general   "0x1.8p3mm"    the characters "1.8p3" up to "mm", as a hexadecimal number, are 12.0
+// The general path first finds how far the number reaches, copying its characters to a narrow text, and then converts
+// that text with std::from_chars, which knows no locale. It takes what the fast one declines: more digits than are
+// exact, exponents, hexadecimal numbers, decimal commas. Where both could read a number, both give the same one.
 #include "VorNumberText.h"
 
 #include "VorCharacters.h"
@@ -23,6 +26,7 @@ bool isHexDigit(wchar_t c)
     return isDigit(c) || (c >= L'a' && c <= L'f') || (c >= L'A' && c <= L'F');
 }
 
+// Answers the number of characters.
 int copyWide(const char* pFirst, const char* pEnd, wchar_t* out)
 {
     int length = 0;
@@ -63,6 +67,7 @@ private:
     const wchar_t* m_pEnd;
 };
 
+// Passes over one sign, if there is one; true for a minus.
 bool skipSign(Reader& reader)
 {
     const wchar_t c = reader.peek();
@@ -127,6 +132,7 @@ bool isHuge(const std::string& narrow, int exponentPerDigit)
     return exponent > -place * exponentPerDigit;
 }
 
+// std::from_chars tells neither zero from infinity nor sets a value when a number is beyond its type.
 template <class Number>
 Number convert(const std::string& narrow, bool isHexadecimal)
 {
@@ -209,6 +215,7 @@ void skipNanPayload(Reader& reader)
         reader.skip(length + 1);
 }
 
+// As wcstod reads what stands behind the sign: the longest number, going back as far as need be.
 bool scanUnsignedDouble(Reader& reader, bool decimalComma, double& value)
 {
     if (reader.skipWord("infinity") || reader.skipWord("inf"))
@@ -225,8 +232,8 @@ bool scanUnsignedDouble(Reader& reader, bool decimalComma, double& value)
     return scanDigits(reader, decimalComma, value);
 }
 
-// What stream scanning reads differently: it never goes back more than one character, so a text that starts like
-// "infinity" or "0x" and breaks off is no number at all. Only "0x." has gone far enough to be the number 0.
+// As swscanf does. Stream scanning never goes back more than one character, so a text that starts like "infinity" or
+// "0x" and breaks off is no number at all: "infin", "0xg". Only "0x." has gone far enough to be the number 0.
 bool scanUnsignedFloat(Reader& reader, float& value)
 {
     if (reader.skipWord("inf"))

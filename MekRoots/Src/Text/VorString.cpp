@@ -1,3 +1,7 @@
+// What happens to the block of "%Weight", the token that a hundred rows have for their weight: the first row makes it,
+// the others count its users up to 100. When one of them appends "/m", makeRoomAtEnd() finds that others use the block
+// too and makes a new one for this row; the old one has 99 users. The new one has room for nine characters and for half
+// of the seven there were, three more: a text that grows keeps growing, and mostly writes to a block that it has.
 #include "VorString.h"
 
 #include "VorArray.h"
@@ -43,7 +47,8 @@ int compareCharacters(const wchar_t* pFirst, int firstLength, const wchar_t* pSe
     return sign(firstLength, secondLength);
 }
 
-// A run of digits without its leading zeros, and where it ends. The terminating zero of the text ends every run.
+// A run of digits without its leading zeros, and where it ends: of "B007-2" the run at 1 is "7" and ends at the minus.
+// The terminating zero of the text ends every run.
 struct DigitRun
 {
     explicit DigitRun(const wchar_t* text)
@@ -69,6 +74,7 @@ struct DigitRun
     const wchar_t* pEnd;
 };
 
+// Of zero-terminated text; 0 for a null pointer. Lengths that 32 bits cannot hold are out of memory.
 int textLength(const wchar_t* text)
 {
     if (text == nullptr)
@@ -80,6 +86,7 @@ int textLength(const wchar_t* text)
 }
 }
 
+// A block is one piece of memory: its head, the characters there is room for and the terminating zero.
 VorString::Block* VorString::createBlock(int capacity)
 {
     const std::size_t size = sizeof(Block) + (static_cast<std::size_t>(capacity) + 1) * sizeof(wchar_t);
@@ -141,6 +148,8 @@ VorString VorString::right(int n) const
     return numKept == length() ? *this : VorString(getStringW() + length() - numKept, numKept);
 }
 
+// A text without the character keeps its block, which may have other users. One with it gets a new block, cut to the
+// characters that stay.
 void VorString::removeAll(wchar_t character)
 {
     const wchar_t* pFirst = getStringW();
@@ -168,6 +177,7 @@ int VorString::toInteger() const
     const bool isNegative = *pCharacter == L'-';
     if (*pCharacter == L'-' || *pCharacter == L'+')
         ++pCharacter;
+    // Digits are read until the value is past 32 bits, which can then only be clamped.
     constexpr long long kSmallest = std::numeric_limits<int>::min();
     constexpr long long kLargest = std::numeric_limits<int>::max();
     long long value = 0;
@@ -266,6 +276,8 @@ int VorString::compare(const VorString& a, const VorString& b, int n)
     return compareCharacters(a.getStringW(), std::min(a.length(), n), b.getStringW(), std::min(b.length(), n));
 }
 
+// "B2x" against "B10": the letters are equal, the runs 2 and 10 are not and decide. A digit against another character is
+// compared as a character.
 int VorString::compareWithNumbers(const VorString& a, const VorString& b)
 {
     if (a.sharesTextWith(b))

@@ -1,5 +1,9 @@
 // VorString::format. One directive, told on "%-8.3f" with 2.5:
 //   flags "-", width 8, precision 3, conversion 'f'  ->  digits "2.500"  ->  padded to "2.500   "
+// The C library's printf would do most of this, but it asks the locale for its decimal point. Digits come from
+// std::to_chars; what is done by hand is what surrounds them: sign or base mark, zeros and blanks up to the width.
+// A directive that nobody knows, "%y", stands in the text as it is and takes no argument.
+#include "VorCharacters.h"
 #include "VorNumberText.h"
 #include "VorString.h"
 
@@ -18,6 +22,7 @@ namespace
 // Widths and precisions stop here, so that a wrong argument cannot ask for gigabytes. Arbitrary.
 constexpr int kLargestWidth = 1000000;
 
+// Of an integer among the arguments, as the length mark in front of the conversion gives it.
 enum class eSize
 {
     kInt,
@@ -27,6 +32,7 @@ enum class eSize
     kLongLong
 };
 
+// What stands between '%' and the conversion, and the conversion: "%-8.3f".
 struct Directive
 {
     bool isLeftAligned = false;
@@ -139,7 +145,7 @@ private:
             return std::clamp(m_arguments.takeInt(), -kLargestWidth, kLargestWidth);
         }
         int number = 0;
-        for (; *m_pText >= L'0' && *m_pText <= L'9'; ++m_pText)
+        for (; VorCharacters::isDigit(*m_pText); ++m_pText)
             number = std::min(number * 10 + static_cast<int>(*m_pText - L'0'), kLargestWidth);
         return number;
     }
@@ -160,6 +166,7 @@ private:
         }
     }
 
+    // The marks j, z and t stand for types of this platform, which are as wide as int or as long long.
     static eSize sizeOf(std::size_t numBytes) { return numBytes == sizeof(int) ? eSize::kInt : eSize::kLongLong; }
 
     const wchar_t* m_pText;
@@ -176,7 +183,8 @@ void appendPadded(VorString& out, const Directive& directive, const wchar_t* tex
         out.append(L' ', padding);
 }
 
-// Sign or base mark, zeros up to the width when asked for, digits.
+// Appends the sign or base mark, zeros up to the width when asked for, and the digits: "-" and "42" are "-0042" in
+// "%05d".
 void appendNumber(VorString& out, const Directive& directive, const std::string& mark, const std::string& digits,
                   bool mayPadWithZeros)
 {
@@ -212,6 +220,7 @@ std::string integerDigits(unsigned long long value, int base, int precision)
     return digits.size() < wanted ? std::string(wanted - digits.size(), '0') + digits : digits;
 }
 
+// The smallest number has no positive one of its type, so its size is computed in bits.
 void appendSigned(VorString& out, const Directive& directive, long long value)
 {
     const auto bits = static_cast<unsigned long long>(value);
@@ -235,6 +244,7 @@ void appendUnsigned(VorString& out, const Directive& directive, unsigned long lo
     appendNumber(out, directive, mark, digits, directive.precision < 0);
 }
 
+// The buffer holds the largest double with all its whole digits, a point and the decimals, or an exponent.
 std::string floatDigits(double magnitude, std::chars_format format, int precision)
 {
     const auto room = std::size_t{ VorNumberText::kLargestDouble } + 10 + static_cast<std::size_t>(precision);

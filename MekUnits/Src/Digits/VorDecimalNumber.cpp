@@ -1,3 +1,9 @@
+// 0.680388555 kg in pounds of 45359237 / 100000000 kg, step by step:
+//   read         digits 680388555, the point before them            0.680388555
+//   multiply     by 100000000: every digit times that, with carry   68038855.5, the point behind 8 digits
+//   divide       by 45359237: 68038855 holds it once, the rest and the next digit, 22679618 and 5, five times, no rest
+//                                                                   1.5
+// Every step keeps at most 64 digits on the stack; nothing is allocated.
 #include "VorDecimalNumber.h"
 
 #include <charconv>
@@ -21,6 +27,7 @@ VorDecimalNumber::VorDecimalNumber(double value)
     m_nPointPosition = exponent + 1;
 }
 
+// From the last digit to the first, as on paper; the carry is a number of many digits.
 void VorDecimalNumber::multiply(std::uint64_t factor)
 {
     std::uint64_t carry = 0;
@@ -91,6 +98,8 @@ void VorDecimalNumber::dropLastZeros()
         --m_nNumDigits;
 }
 
+// The whole part and the fraction are rounded apart: of 11.96875 in sixteenths, 0.96875 is 15.5 parts, rounded 16, which
+// is one more whole: 12 and no parts.
 int VorDecimalNumber::roundToParts(unsigned int numParts, VorRoundedNumber& rounded) const
 {
     if (m_nPointPosition > VorRoundedNumber::kMostDigits)
@@ -115,7 +124,7 @@ int VorDecimalNumber::roundToParts(unsigned int numParts, VorRoundedNumber& roun
     return 1;
 }
 
-// What stands behind the point.
+// What stands behind the point: of 12.34 it is 0.34, of 0.0012 the number itself.
 VorDecimalNumber VorDecimalNumber::fraction() const
 {
     VorDecimalNumber result(0.0);
@@ -128,6 +137,7 @@ VorDecimalNumber VorDecimalNumber::fraction() const
     return result;
 }
 
+// What stands before the point, which is at most 15 digits here.
 std::uint64_t VorDecimalNumber::wholePart() const
 {
     std::uint64_t whole = 0;
@@ -136,6 +146,7 @@ std::uint64_t VorDecimalNumber::wholePart() const
     return whole;
 }
 
+// As text without a point, "15e-1", which std::from_chars turns into the nearest double.
 double VorDecimalNumber::toDouble() const
 {
     char text[kMostDigits + 16];

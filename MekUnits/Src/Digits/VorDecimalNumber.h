@@ -1,8 +1,8 @@
 // The decimal number that a person sees for a double, with the arithmetic that units need, on its digits.
 //
-//   VorDecimalNumber number(0.680388555);  kilograms: 6 8 0 3 8 8 5 5 5, none of them before the point
+//   VorDecimalNumber number(0.680388555);  // kilograms: 6 8 0 3 8 8 5 5 5, none of them before the point
 //   number.multiply(100000000);
-//   number.divide(45359237);               pounds: 1 5, one before the point
+//   number.divide(45359237);               // pounds: 1 5 and zeros, one before the point
 //   number.toDouble()                  ->  1.5
 //
 // Doubles are kept apart by their shortest text; a division of doubles would give 1.4999999999999998 here and round the

@@ -7,6 +7,7 @@ namespace
 {
 using VorCharacters::isDigit;
 
+// Moves `pText` behind the digits at its front, which may be none.
 std::wstring takeDigits(const wchar_t*& pText)
 {
     const wchar_t* const pBegin = pText;
@@ -39,7 +40,7 @@ bool VorQuantityNumber::scan(const wchar_t*& pText)
     return true;
 }
 
-// Alone; a whole number of zero then.
+// A fraction without a whole number in front: "1/2" is 0 and 1/2. Any size will do, "3/2" too.
 bool VorQuantityNumber::scanFraction(const wchar_t*& pText)
 {
     const wchar_t* p = pText;
@@ -57,6 +58,7 @@ bool VorQuantityNumber::scanFraction(const wchar_t*& pText)
     return true;
 }
 
+// "6 1/2" and "6-1/2", behind the 6. What looks like a fraction but is not smaller than one is left where it stands.
 bool VorQuantityNumber::scanFractionBehindWhole(const wchar_t*& pText)
 {
     const wchar_t* p = pText;
@@ -75,6 +77,7 @@ bool VorQuantityNumber::scanFractionBehindWhole(const wchar_t*& pText)
     return true;
 }
 
+// Point, decimals and exponent; an exponent without digits is left where it stands, as "7.5 e" is "7.5" and a letter.
 void VorQuantityNumber::scanRest(const wchar_t*& pText)
 {
     const wchar_t* const pBegin = pText;
@@ -96,6 +99,8 @@ std::uint64_t VorQuantityNumber::wholeNumber() const
     return numberOf(m_whole);
 }
 
+// 1'-0.274" is 12 carried and the number 0.274. They are put together as text, "12.274", and read at once: the sum of the
+// two doubles is 12.274000000000001.
 double VorQuantityNumber::toDouble(std::uint64_t carried) const
 {
     if (m_denominator != 0)

@@ -76,6 +76,7 @@ void VorQuantityText::addDecimals(std::uint64_t part, int numDecimals, int suppr
     writeDigits(part, numDecimals, m_text + m_nLength);
 }
 
+// 8 of 16 parts are "1/2".
 void VorQuantityText::addFraction(std::uint64_t part, std::uint64_t numParts)
 {
     const std::uint64_t divisor = std::gcd(part, numParts);

@@ -1,6 +1,10 @@
 // The text of one quantity while it is put together, piece by piece, in room of its own.
 //
-//   text.addInteger(7); text.addCharacter(L'\''); ...   ->  7'-6 1/2"
+//   VorQuantityText text;
+//   text.addInteger(7);
+//   text.addCharacter(L'\'');
+//   text.addFraction(8, 16);
+//   text.text()                ->  7'1/2
 #pragma once
 
 #include "MekRoots/Exp/VorString.h"
@@ -12,7 +16,7 @@ class VorDecimalNumber;
 class VorQuantityText
 {
 public:
-    // "-12.5": `parts` of ten to `numDecimals`, of which there are 9 at most. What most numbers of a report need, in one
+    // "-12.5" for 1250 parts and two decimals, of which there are 9 at most. What most numbers of a report need, in one
     // go: the same text as a sign, addInteger and addDecimals make.
     static VorString ofDecimal(bool isNegative, std::uint64_t parts, int numDecimals, int suppressLastZeros);
 

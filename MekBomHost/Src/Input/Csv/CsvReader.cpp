@@ -1,180 +1,278 @@
+// A record is read in one go over its stops, the bytes that may be a comma, a quote or a line end (StopScan). Of
+//
+//   HEA200,"7'-6""",12\n
+//
+// these are both commas, the five signs around 6 and its marks that are at most a comma, and the line end. What lies
+// between a field's begin and the stop that ends it is its cell; no byte is copied but for a field with doubled quotes.
+// Where the bytes that have been read end within the record, more are read and the record is begun anew: nothing has to
+// be kept of a record in part. A line is checked to be text once it is there whole, and only if a byte of it asks for
+// that; whatever else is wrong with a line is told after that.
 #include "CsvReader.h"
 
 #include "Fault.h"
+#include "FindingCodes.h"
 #include "MessageText.h"
+#include "TextCheck.h"
 #include "Utf8.h"
 
-#include <new>
+#include <algorithm>
 
 namespace mekbom
 {
 namespace
 {
-const std::size_t kFieldBlock = 4096; // by which the parser's own buffer grows
-
-// Nothing is a blank to be trimmed: blanks belong to the field.
-int isNoBlank(unsigned char)
-{
-    return 0;
-}
-
 bool endsLine(char byte)
 {
     return byte == '\n' || byte == '\r';
 }
 
+bool endsField(char byte)
+{
+    return byte == ',' || endsLine(byte);
 }
 
-CsvReader::CsvReader(ByteSource& source) : m_source(source), m_lines(source)
+bool isAsciiText(char byte)
 {
-    if (csv_init(&m_parser, CSV_STRICT | CSV_STRICT_FINI) != 0)
-        throw std::bad_alloc();
-    csv_set_space_func(&m_parser, isNoBlank);
-    csv_set_blk_size(&m_parser, kFieldBlock);
+    return byte != 0 && static_cast<unsigned char>(byte) < 0x80;
 }
 
-CsvReader::~CsvReader()
+std::string_view textBetween(const char* pBegin, const char* pEnd)
 {
-    csv_free(&m_parser);
+    return std::string_view(pBegin, static_cast<std::size_t>(pEnd - pBegin));
+}
 }
 
 const Record* CsvReader::next()
 {
-    return readRecord() ? &m_cells : nullptr;
+    if (m_nextLine == 0)
+        beginFile();
+    while (m_pNext != m_bytes.end() || !m_bytes.areLast())
+    {
+        const char firstByte = *m_pNext;
+        if (!scanRecord())
+            readMore();
+        else if (!endsLine(firstByte))
+        {
+            resolveDoubledQuotes();
+            return &m_cells;
+        }
+    }
+    return nullptr;
 }
 
-// The parser is fed line by line, so that a record is complete exactly when a line has been fed.
-bool CsvReader::readRecord()
+void CsvReader::placeRecord(Finding& finding) const
+{
+    finding.source = name();
+    finding.begin = { m_line, 0 };
+}
+
+void CsvReader::placeCell(std::size_t index, Finding& finding) const
+{
+    std::string_view text = m_cells[index].text();
+    for (const DoubledField& field : m_doubled)
+        if (field.index == index)
+            text = field.raw;
+    finding.source = name();
+    finding.begin = placeOf(text.data());
+    finding.end = placeOf(text.data() + text.size());
+}
+
+void CsvReader::beginFile()
+{
+    m_bytes.readMore();
+    m_pNext = Utf8::withoutByteOrderMark(textBetween(m_bytes.begin(), m_bytes.end())).data();
+    m_scan.begin(m_pNext, m_bytes.end());
+    m_nextLine = 1;
+}
+
+void CsvReader::readMore()
+{
+    m_bytes.dropTo(m_pNext);
+    m_bytes.readMore();
+    m_pNext = m_bytes.begin();
+    m_scan.begin(m_pNext, m_bytes.end());
+}
+
+// record := field { ',' field } line-end
+// field  := bytes | '"' { bytes | '""' } '"'
+//
+// False when more bytes are needed; then nothing has been used up.
+bool CsvReader::scanRecord()
 {
     beginRecord();
-    std::string_view line;
-    while (!m_isAtEnd && m_lines.next(line))
+    StopScan scan = m_scan; // a copy, which the compiler keeps in registers
+    for (const char* pField = m_pNext;; ++pField)
     {
-        if (!m_isWithinRecord && endsLine(line.front()))
+        const char* pStop = scan.next();
+        for (; !endsField(*pStop) && *pStop != '"'; pStop = scan.next())
+            passByte(*pStop);
+        if (*pStop == '"')
+        {
+            m_scan = scan;
+            pStop = takeQuotedField(pField, pStop);
+            if (pStop == nullptr)
+                return false;
+            scan = m_scan;
+        }
+        else
+            m_cells.emplace_back(textBetween(pField, pStop));
+        pField = pStop;
+        if (*pStop == ',')
             continue;
-        if (!m_isWithinRecord && !m_lines.holdsQuote())
-        {
-            m_recordLine = m_lines.lineNumber();
-            takeFields(line.data(), m_lines.borders());
-            return true;
-        }
-        parse(line);
-        if (!m_isWithinRecord)
-        {
-            takeFields(m_unquoted.data(), m_unquotedBorders);
-            return true;
-        }
-    }
-    if (!m_isAtEnd && m_isWithinRecord)
-        finish();
-    m_isAtEnd = true;
-    return !m_cells.empty();
-}
-
-Finding CsvReader::findingInRecord() const
-{
-    return findingOnLine(m_recordLine);
-}
-
-Finding CsvReader::findingInCell(std::size_t index) const
-{
-    return findingOnLine(m_fieldLines.empty() ? m_recordLine : m_fieldLines[index]);
-}
-
-Finding CsvReader::findingOnLine(int line) const
-{
-    Finding finding;
-    finding.source = name();
-    finding.begin.line = line;
-    return finding;
-}
-
-void CsvReader::fieldRead(void* pBytes, std::size_t length, void* pReader) noexcept
-{
-    static_cast<CsvReader*>(pReader)->addField(static_cast<const char*>(pBytes), length);
-}
-
-void CsvReader::recordRead(int, void* pReader) noexcept
-{
-    static_cast<CsvReader*>(pReader)->m_isWithinRecord = false;
-}
-
-void CsvReader::addField(const char* pBytes, std::size_t length) noexcept
-{
-    try
-    {
-        m_unquoted.append(pBytes, length).push_back('\0');
-        m_unquotedBorders.push_back(static_cast<std::ptrdiff_t>(m_unquoted.size()) - 1);
-        m_fieldLines.push_back(m_fieldLine);
-        m_fieldLine = m_lines.lineNumber();
-    }
-    catch (...)
-    {
-        m_failure = std::current_exception();
+        m_scan = scan;
+        const char* const pEnd = passLineEnd(pStop);
+        if (pEnd == nullptr)
+            return false;
+        m_nextLine = m_line + static_cast<int>(m_lineBegins.size()) - 1;
+        m_pNext = pEnd;
+        return true;
     }
 }
 
 void CsvReader::beginRecord()
 {
     m_cells.clear();
-    m_fieldLines.clear();
+    m_doubled.clear();
+    m_line = m_nextLine;
+    m_lineBegins.assign(1, m_pNext);
+    m_isPlain = true;
 }
 
-void CsvReader::takeFields(const char* pBytes, const std::vector<std::ptrdiff_t>& borders)
+// Takes the field that begins at `pField`, where `pQuote` is its first quote. Gives what ends it; null when more bytes
+// are needed.
+const char* CsvReader::takeQuotedField(const char* pField, const char* pQuote)
 {
-    for (std::size_t i = 1; i < borders.size(); ++i)
-        m_cells.emplace_back(
-            std::string_view(pBytes + borders[i - 1] + 1, static_cast<std::size_t>(borders[i] - borders[i - 1] - 1)));
+    if (pQuote != pField)
+        return failWithinField(pQuote);
+    bool hasDoubled = false;
+    const char* const pClosing = findClosingQuote(hasDoubled);
+    if (pClosing == nullptr && m_bytes.areLast())
+        failUnclosed(pField);
+    if (pClosing == nullptr || (pClosing + 1 == m_bytes.end() && !m_bytes.areLast()))
+        return nullptr;
+    if (!endsField(pClosing[1]))
+        return failBehindQuote(pField, pClosing + 1);
+    const std::string_view text = textBetween(pField + 1, pClosing);
+    if (hasDoubled)
+        m_doubled.push_back({ m_cells.size(), text });
+    m_cells.emplace_back(text);
+    return m_scan.next();
 }
 
-void CsvReader::parse(std::string_view line)
+// Null when it is not among the bytes.
+const char* CsvReader::findClosingQuote(bool& hasDoubled)
 {
-    if (!m_isWithinRecord)
-        beginParsing();
-    const std::size_t numParsed = csv_parse(&m_parser, line.data(), line.size(), fieldRead, recordRead, this);
-    rethrowFailure();
-    if (numParsed < line.size())
-        failAt(line, numParsed);
+    for (;;)
+    {
+        const char* const pStop = m_scan.next();
+        if (pStop == m_bytes.end())
+            return nullptr;
+        if (*pStop == '"')
+        {
+            if (pStop[1] != '"')
+                return pStop;
+            m_scan.next();
+            hasDoubled = true;
+        }
+        else if (!endsLine(*pStop))
+            passByte(*pStop);
+        else if (passLineEnd(pStop) == nullptr)
+            return nullptr;
+    }
 }
 
-void CsvReader::beginParsing()
+// Gives what follows the line end at `pStop`; null when more bytes are needed, be it only to tell CR from CRLF. The end
+// of the last bytes is a line end, too.
+const char* CsvReader::passLineEnd(const char* pStop)
 {
-    m_recordLine = m_fieldLine = m_lines.lineNumber();
-    m_isWithinRecord = true;
-    m_unquoted.clear();
-    m_unquotedBorders.assign(1, -1);
+    const char* const pEnd = m_bytes.end();
+    if (!m_bytes.areLast() && (pStop == pEnd || (*pStop == '\r' && pStop + 1 == pEnd)))
+        return nullptr;
+    if (!m_isPlain)
+        requireText(textBetween(m_lineBegins.back(), pStop), name(), lineOf(pStop));
+    if (pStop == pEnd)
+        return pEnd;
+    if (*pStop == '\r' && pStop[1] == '\n' && pStop + 1 != pEnd)
+        pStop = m_scan.next();
+    m_lineBegins.push_back(pStop + 1);
+    m_isPlain = true;
+    return pStop + 1;
 }
 
-// The last record may lack its line end, but not the quote that closes its last field.
-void CsvReader::finish()
+void CsvReader::passByte(char byte)
 {
-    if (csv_fini(&m_parser, fieldRead, recordRead, this) != 0)
-        throw Fault(kInvalidInput, m_source.name() + ":" + std::to_string(m_fieldLine) +
-                                       ": found the end of the file within the quoted field that starts here, expected "
-                                       "a closing quote");
-    rethrowFailure();
-    takeFields(m_unquoted.data(), m_unquotedBorders);
+    m_isPlain = m_isPlain && isAsciiText(byte);
 }
 
-void CsvReader::rethrowFailure()
+// Their texts are made once the record is complete, so that `m_resolved` grows once at most and no text moves.
+void CsvReader::resolveDoubledQuotes()
 {
-    if (m_failure != nullptr)
-        std::rethrow_exception(m_failure);
+    if (m_doubled.empty())
+        return;
+    m_resolved.clear();
+    m_resolved.reserve(textBetween(m_lineBegins.front(), m_pNext).size());
+    for (const DoubledField& field : m_doubled)
+    {
+        const std::size_t begin = m_resolved.size();
+        for (std::size_t i = 0; i < field.raw.size(); i += field.raw[i] == '"' ? 2 : 1)
+            m_resolved += field.raw[i];
+        m_cells[field.index] = RecordCell(std::string_view(m_resolved).substr(begin));
+    }
 }
 
-void CsvReader::failAt(std::string_view line, std::size_t offset)
+// The number of the line that a byte of the record is on.
+int CsvReader::lineOf(const char* pByte) const
 {
-    if (csv_error(&m_parser) != CSV_EPARSE)
-        throw std::bad_alloc();
-    const bool isQuote = line[offset] == '"';
-    std::string message = m_lines.place(line, offset) + ": found ";
-    std::string_view rest = line.substr(offset);
+    const auto next = std::upper_bound(m_lineBegins.begin(), m_lineBegins.end(), pByte);
+    return m_line + static_cast<int>(next - m_lineBegins.begin()) - 1;
+}
+
+TextPlace CsvReader::placeOf(const char* pByte) const
+{
+    const int line = lineOf(pByte);
+    const char* const pLine = m_lineBegins[static_cast<std::size_t>(line - m_line)];
+    return { line, static_cast<int>(Utf8::countCharacters(textBetween(pLine, pByte))) + 1 };
+}
+
+const char* CsvReader::failWithinField(const char* pQuote) const
+{
+    return failAt(pQuote, Finding::of(FindingCodes::kQuoteWithinField, "a quote within a field",
+                                      "the whole field in quotes and the quote doubled"));
+}
+
+// For a byte of the line that is the record's last so far: no comma, nor a line end.
+const char* CsvReader::failBehindQuote(const char* pField, const char* pByte) const
+{
+    const int fieldLine = lineOf(pField);
+    std::string_view rest = textBetween(pByte, m_bytes.end());
     Utf8::takeCodePoint(rest);
-    const std::string_view found = line.substr(offset, line.size() - rest.size() - offset);
-    message += isQuote ? "a quote within a field, expected the whole field in quotes and the quote doubled"
-                       : inQuotes(found) + " after a closing quote, expected a comma or the line's end";
-    if (m_fieldLine != m_lines.lineNumber())
-        message += " (the field starts on line " + std::to_string(m_fieldLine) + ")";
-    throw Fault(kInvalidInput, message);
+    std::string expected = "a comma or the line's end";
+    if (fieldLine != lineOf(pByte))
+        expected += " (the field starts on line " + std::to_string(fieldLine) + ")";
+    return failAt(pByte, Finding::of(FindingCodes::kTextBehindQuote,
+                                     inQuotes(textBetween(pByte, rest.data())) + " after a closing quote", expected));
+}
+
+// Null when more bytes are needed: whether the line as a whole is text comes first.
+const char* CsvReader::failAt(const char* pByte, Finding finding) const
+{
+    const char* const pLineEnd = std::find_if(pByte, m_bytes.end(), endsLine);
+    if (pLineEnd == m_bytes.end() && !m_bytes.areLast())
+        return nullptr;
+    requireText(textBetween(m_lineBegins.back(), pLineEnd), name(), lineOf(pByte));
+    finding.source = name();
+    finding.begin = placeOf(pByte);
+    finding.end = { finding.begin.line, finding.begin.column + 1 };
+    throw Fault(kInvalidInput, finding);
+}
+
+void CsvReader::failUnclosed(const char* pField) const
+{
+    requireText(textBetween(m_lineBegins.back(), m_bytes.end()), name(), lineOf(m_bytes.end()));
+    Finding finding = Finding::of(FindingCodes::kQuoteNotClosed,
+                                  "the end of the file within the quoted field that starts here", "a closing quote");
+    finding.source = name();
+    finding.begin.line = lineOf(pField);
+    throw Fault(kInvalidInput, finding);
 }
 }

@@ -1,73 +1,77 @@
 // The records of a comma-separated file, as RFC 4180 has them: quoted fields may hold commas, doubled quotes and line
-// breaks; blanks belong to the field; lines end with LF, CRLF or CR. Empty lines are skipped.
+// breaks; blanks belong to the field; lines end with LF, CRLF or CR. Empty lines between records are skipped, a byte
+// order mark in front is dropped.
 //
-//   "a,b"    ->   a | b
-//
-// Lines without any quote, which are nearly all, are taken as LineReader has split them, several times as fast as by
-// libcsv (CsvReaderBench), which gets the others.
+//   HEA200,"7'-6""",12       ->   HEA200 | 7'-6" | 12
 //
 // A quote where none may stand, a quoted field without its end, bytes that are not UTF-8 and zero bytes end the reading
 // with a Fault that names the place. How many fields a record has is left to the caller.
 #pragma once
 
 #include "ByteSource.h"
-#include "LineReader.h"
 #include "RecordSource.h"
-
-#include <csv.h>
+#include "SourceBytes.h"
+#include "StopScan.h"
 
 #include <cstddef>
-#include <exception>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace mekbom
 {
+struct FindingCode;
+
 class CsvReader : public RecordSource
 {
 public:
     // `source` is not owned and outlives the reader.
-    explicit CsvReader(ByteSource& source);
-    ~CsvReader() override;
+    explicit CsvReader(ByteSource& source) : m_source(source), m_bytes(source) {}
 
     const std::string& name() const override { return m_source.name(); }
     const Record* next() override;
 
-    // These name the physical line on which the record or the field starts.
-    Finding findingInRecord() const override;
-    Finding findingInCell(std::size_t index) const override;
+    // The line on which the record begins; the place of the field's text, without its quotes.
+    void placeRecord(Finding& finding) const override;
+    void placeCell(std::size_t index, Finding& finding) const override;
 
 private:
-    static void fieldRead(void* pBytes, std::size_t length, void* pReader) noexcept;
-    static void recordRead(int terminator, void* pReader) noexcept;
-    void addField(const char* pBytes, std::size_t length) noexcept;
+    // A field with doubled quotes.
+    struct DoubledField
+    {
+        std::size_t index;    // in the record
+        std::string_view raw; // between the outer quotes
+    };
 
-    bool readRecord();
+    void beginFile();
+    void readMore();
+    bool scanRecord();
     void beginRecord();
-    Finding findingOnLine(int line) const;
-    void takeFields(const char* pBytes, const std::vector<std::ptrdiff_t>& borders);
-    void parse(std::string_view line);
-    void beginParsing();
-    void finish();
-    void rethrowFailure();
-    [[noreturn]] void failAt(std::string_view line, std::size_t offset);
+    const char* takeQuotedField(const char* pField, const char* pQuote);
+    const char* findClosingQuote(bool& hasDoubled);
+    const char* passLineEnd(const char* pStop);
+    void passByte(char byte);
+    void resolveDoubledQuotes();
+
+    int lineOf(const char* pByte) const;
+    TextPlace placeOf(const char* pByte) const;
+    const char* failWithinField(const char* pQuote) const;
+    const char* failBehindQuote(const char* pField, const char* pByte) const;
+    const char* failAt(const char* pByte, Finding finding) const;
+    [[noreturn]] void failUnclosed(const char* pField) const;
 
     ByteSource& m_source;
-    LineReader m_lines;
-    csv_parser m_parser;
+    SourceBytes m_bytes;
+    StopScan m_scan;
+    const char* m_pNext = nullptr; // where the next record begins, among m_bytes
+    int m_nextLine = 0;            // the line on which it does; 0 before the first
 
-    Record m_cells; // of the line itself or of m_unquoted
-
-    // Of a record that libcsv has read: its fields, each followed by a zero, and what lies around them.
-    std::string m_unquoted;
-    std::vector<std::ptrdiff_t> m_unquotedBorders;
-    std::vector<int> m_fieldLines; // empty for other records
-    std::exception_ptr m_failure;  // from within the parser's callbacks, which must not throw through it
-
-    int m_recordLine = 0;
-    int m_fieldLine = 0; // where the field in progress starts
-    bool m_isWithinRecord = false;
-    bool m_isAtEnd = false;
+    // Of the record read last, or being read.
+    Record m_cells;
+    int m_line = 0;                        // on which it begins
+    std::vector<const char*> m_lineBegins; // of its lines, the first included
+    bool m_isPlain = true;                 // the last of them is surely text, without a look at all its bytes
+    std::vector<DoubledField> m_doubled;
+    std::string m_resolved; // the texts of these
 };
 }

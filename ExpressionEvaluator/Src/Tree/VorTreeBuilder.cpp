@@ -1,0 +1,58 @@
+#include "VorTreeBuilder.h"
+
+#include "ExpressionEvaluator/Src/VorExprEvTreeItemOperand.h"
+#include "ExpressionEvaluator/Src/VorExprEvTreeItemOperator.h"
+#include "ExpressionEvaluator/Src/VorExpressionEvaluator.h"
+
+#include "MekRoots/Exp/DebugOutput.h"
+
+#include <cstddef>
+#include <memory>
+
+int VorTreeBuilder::build()
+{
+    Reader::Stack::Room room;
+    return Reader(*this, room).read(m_text.begin()) != nullptr ? 1 : 0;
+}
+
+const wchar_t* VorTreeBuilder::readOperand(const wchar_t* pText, VorFormulaCharacters::eKind)
+{
+    VorExprEvTextView operand;
+    const wchar_t* pEnd = m_text.readOperand(pText, operand);
+    m_operands.push(new VorExprEvTreeItemOperand(operand));
+    return pEnd;
+}
+
+void VorTreeBuilder::addNothing()
+{
+    m_operands.push(new VorExprEvTreeItemOperand(VorExprEvTextView()));
+}
+
+// The upper operand is the right side, the one below the left.
+void VorTreeBuilder::combine(const VorWaitingOperator<Left>& waiting)
+{
+    auto pOperator = std::make_unique<VorExprEvTreeItemOperator>(m_text.operatorAt(waiting.left));
+    VorExprEvTreeItem* pRight = m_operands.pop();
+    VorExprEvTreeItem* pLeft = m_operands.pop();
+    pOperator->setChildren(pLeft, pRight);
+    m_operands.push(pOperator.release());
+}
+
+// Both stacks from the top down.
+void VorTreeBuilder::trace(const VorOperatorStack<Left>& waiting) const
+{
+    if (VorExpressionEvaluator::m_nTraceStacks == 0)
+        return;
+    OutputDebugStringW(L"\nOperator Stack\n");
+    for (std::size_t i = waiting.size() - 1; i > 0; --i) // no operator stands at the bottom
+    {
+        OutputDebugStringW(L"\n");
+        VorExprEvTreeItemOperator(m_text.operatorAt(waiting[i].left)).print();
+    }
+    OutputDebugStringW(L"\nOperand Stack\n");
+    for (const VorExprEvTreeItem* pItem = m_operands.top(); pItem != nullptr; pItem = pItem->next())
+    {
+        OutputDebugStringW(L"\n");
+        pItem->print();
+    }
+}

@@ -1,0 +1,46 @@
+// The bytes of a source, some hundred thousand at a time, for a reader that uses them up record by record.
+//
+//   bytes.readMore();                 "Name,Length\nHEA200,6000\nHEB3"    one record is there in part only
+//   bytes.dropTo(pThirdRecord);
+//   bytes.readMore();                 "HEB300,5500\n"                     it has moved to the front, more stands behind
+//
+// Behind the end stands a line end that is not the source's, so that a scan for line ends needs no look at where the
+// bytes end, and StopScan::kBlockSize bytes may be read there.
+#pragma once
+
+#include "ByteSource.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace mekbom
+{
+class SourceBytes
+{
+public:
+    // `source` is not owned and outlives this. There are no bytes until some are read.
+    explicit SourceBytes(ByteSource& source);
+
+    const char* begin() const { return m_buffer.data() + m_begin; }
+    const char* end() const { return m_buffer.data() + m_end; }
+
+    // Whether nothing follows end().
+    bool areLast() const { return m_sourceIsAtEnd; }
+
+    // Bytes up to `pBytes`, which lies among them, are used up.
+    void dropTo(const char* pBytes) { m_begin = static_cast<std::size_t>(pBytes - m_buffer.data()); }
+
+    // Reads until the buffer is full, which makes it twice as large where nothing was dropped: who looks at bytes anew
+    // after each call looks at each about twice. The bytes may move.
+    void readMore();
+
+private:
+    void makeRoom();
+
+    ByteSource& m_source;
+    std::vector<char> m_buffer;
+    std::size_t m_begin = 0;
+    std::size_t m_end = 0;
+    bool m_sourceIsAtEnd = false;
+};
+}

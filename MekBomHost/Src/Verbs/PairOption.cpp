@@ -1,0 +1,33 @@
+#include "PairOption.h"
+
+#include "Fault.h"
+#include "MessageText.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstddef>
+
+namespace mekbom
+{
+void PairOption::declareOn(CLI::App& command, const std::string& help)
+{
+    command.add_option(m_name, m_arguments, help + "; may be repeated")->type_name(m_form)->allow_extra_args(false);
+}
+
+std::vector<std::pair<std::string, std::string>> PairOption::pairs() const
+{
+    std::vector<std::pair<std::string, std::string>> pairs;
+    for (const std::string& argument : m_arguments)
+        pairs.push_back(pairOf(argument));
+    return pairs;
+}
+
+std::pair<std::string, std::string> PairOption::pairOf(const std::string& argument) const
+{
+    const std::size_t equals = argument.find('=');
+    if (equals == std::string::npos || equals == 0 || equals + 1 == argument.size())
+        throw Fault(kWrongUsage,
+                    m_name + ": found " + inQuotes(argument) + ", expected " + m_form + " such as " + m_example);
+    return { argument.substr(0, equals), argument.substr(equals + 1) };
+}
+}

@@ -1,0 +1,91 @@
+#include "Support/ProgramRun.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+// The options of `mekbom report`; ProgramTest shows what reports look like.
+
+namespace mekbom
+{
+namespace
+{
+class ReportVerbTest : public testing::Test
+{
+protected:
+    // Reports on one part of one weight and the length of seven and a half feet.
+    ProgramRun report(const std::vector<std::string>& options) const
+    {
+        std::vector<std::string> arguments = { "report", "--data", m_parts, "--template", m_template };
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        return runHere(arguments);
+    }
+
+    ScratchFolder m_folder;
+    std::string m_parts = m_folder.file("parts.csv", "%Weight,%Length\n10,2286\n");
+    std::string m_template = m_folder.file("list.json", R"({ "sections": [ { "type": "kDetails", "tuples": [
+        { "token": "%Weight" }, { "token": "%Length" } ] } ] })");
+};
+}
+
+TEST_F(ReportVerbTest, WithoutOptionsUnitsAreMetric)
+{
+    EXPECT_EQ("Weight [kg]  Length [mm]\n-----------  -----------\n         10         2286\n", report({}).output);
+}
+
+TEST_F(ReportVerbTest, OptionsMayBeRepeatedAndJoinedToTheirValues)
+{
+    EXPECT_EQ("Weight [lb]  Length [m]\n-----------  ----------\n         22        2.29\n",
+              report({ "--unit", "weight=lb/1", "--unit=length=m/2" }).output);
+    EXPECT_EQ("Weight [kg]  Length [mm]\n-----------  -----------\n       4.54     696772.8\n",
+              report({ "--input-unit", "%Weight=lb", "--input-unit=Length=ft" }).output);
+}
+
+TEST_F(ReportVerbTest, TheListGoesToAFileUnderEitherName)
+{
+    const std::string path = (m_folder / "list.txt").string();
+    for (const std::vector<std::string>& options :
+         { std::vector<std::string>{ "-o", path }, { "--output", path }, { "--output=" + path } })
+    {
+        writeFile(path, "old");
+        EXPECT_EQ("", report(options).output);
+        EXPECT_EQ("Weight", readFile(path).substr(0, 6));
+    }
+}
+
+TEST_F(ReportVerbTest, HelpShowsExamplesAndStatuses)
+{
+    for (const std::vector<std::string>& arguments :
+         { std::vector<std::string>{ "--help" }, { "report", "--help" }, { "-h" }, { "report", "-h" } })
+    {
+        const ProgramRun run = runHere(arguments);
+        EXPECT_EQ(kDone, run.status);
+        for (const char* const text :
+             { "mekbom report --data parts.csv", "Exit status", " 70  internal fault", "cutting-list" })
+            EXPECT_NE(std::string::npos, run.output.find(text)) << text;
+    }
+    EXPECT_NE(std::string::npos, runHere({ "report", "--help" }).output.find("Usage: mekbom report [OPTIONS]"));
+}
+
+TEST_F(ReportVerbTest, TextsThatAreNoPairsAreRefused)
+{
+    for (const char* const text : { "Paint", "=m2", "Paint=", "=" })
+        EXPECT_EQ("mekbom: --input-unit: found \"" + std::string(text) + "\", expected TOKEN=UNIT such as %Paint=m2\n",
+                  report({ "--input-unit", text }).errors);
+    EXPECT_EQ("mekbom: --unit: found \"length\", expected KIND=UNIT such as length=ft-in/16\n",
+              report({ "--unit", "length" }).errors);
+    EXPECT_EQ("mekbom: --setting: found \"=1\", expected NAME=NUMBER such as C40_SuppressZeroFeet=0\n",
+              report({ "--setting", "=1" }).errors);
+}
+
+TEST_F(ReportVerbTest, WrongUsageIsStatusTwo)
+{
+    for (const std::vector<std::string>& arguments : { std::vector<std::string>{ "report", "--dta", "x" },
+                                                       { "report", "parts.csv" },
+                                                       { "report", "--data" },
+                                                       { "report", "--data", "a", "--data", "b" },
+                                                       { "report", "--input-unit", "%Paint=m2", "b" } })
+        EXPECT_EQ(kWrongUsage, runHere(arguments).status);
+}
+}
