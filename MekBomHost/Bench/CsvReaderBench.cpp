@@ -2,6 +2,7 @@
 //   BM_RecordsWithoutQuotes   as programs export them
 //   BM_RecordsWithQuotes      the same with three of six fields in quotes
 #include "CsvReader.h"
+#include "MemorySource.h"
 
 #include "Support/BenchParts.h"
 
@@ -13,7 +14,7 @@ void readAll(benchmark::State& state, const std::string& text)
 {
     for (auto _ : state)
     {
-        mekbom::MemorySource source(text);
+        mekbom::MemorySource source("parts.csv", text);
         mekbom::CsvReader reader(source);
         std::size_t numFields = 0;
         while (const mekbom::Record* const pRecord = reader.next())

@@ -3,6 +3,7 @@
 //   BM_WriteTable    from an evaluated report, grouped by material, with a line for each row, to the text of its table
 //   BM_WrapTable     the same with a column too narrow for its texts, which takes the slower way over wrapped lines
 #include "CsvReader.h"
+#include "MemorySource.h"
 #include "PartsList.h"
 #include "Report.h"
 #include "TemplateReader.h"
@@ -29,7 +30,7 @@ std::unique_ptr<Report> reportWith(const std::string& members)
 
 void readRows(Report& report, const std::string& parts)
 {
-    MemorySource source(parts);
+    MemorySource source("parts.csv", parts);
     CsvReader records(source);
     PartsList(records).readRows(report.engineTemplate(), report.queryFilter());
 }

@@ -1,12 +1,9 @@
-// Parts lists of any length as texts, and where benchmarks read them from and print to.
+// Parts lists of any length as texts, and where benchmarks print to.
 #pragma once
 
-#include "ByteSource.h"
 #include "TextSink.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <cstring>
 #include <string>
 #include <string_view>
 
@@ -24,27 +21,6 @@ inline std::string partsText(long long numRows, const std::string& quote = std::
                 std::to_string(i % 20 + 1) + "\n";
     return text;
 }
-
-class MemorySource : public ByteSource
-{
-public:
-    // The bytes are not owned.
-    explicit MemorySource(std::string_view bytes) : m_rest(bytes) {}
-
-    const std::string& name() const override { return m_name; }
-
-    std::size_t read(char* pBytes, std::size_t size) override
-    {
-        const std::size_t numRead = std::min(size, m_rest.size());
-        std::memcpy(pBytes, m_rest.data(), numRead);
-        m_rest.remove_prefix(numRead);
-        return numRead;
-    }
-
-private:
-    std::string m_name = "memory";
-    std::string_view m_rest;
-};
 
 // Takes any text and counts its bytes.
 class CountingSink : public TextSink

@@ -1,12 +1,12 @@
 #include "PartsList.h"
 
-#include "ColumnName.h"
+#include "CellReader.h"
+#include "ColumnHeading.h"
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
 #include "InputUnits.h"
 #include "MessageText.h"
-#include "PartsRows.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
@@ -49,17 +49,17 @@ PartsList::PartsList(RecordSource& source) : m_source(source)
     readHeader();
 }
 
-const PartsColumn* PartsList::find(const std::string& token) const
+const InputColumn* PartsList::find(const std::string& token) const
 {
     const auto found = std::find_if(m_columns.begin(), m_columns.end(),
-                                    [&token](const PartsColumn& column) { return column.token == token; });
+                                    [&token](const InputColumn& column) { return column.token == token; });
     return found == m_columns.end() ? nullptr : &*found;
 }
 
 void PartsList::setInputUnit(const std::string& token, const std::string& unit)
 {
     const auto pColumn = std::find_if(m_columns.begin(), m_columns.end(),
-                                      [&token](const PartsColumn& column) { return column.token == token; });
+                                      [&token](const InputColumn& column) { return column.token == token; });
     if (pColumn == m_columns.end())
         failInOption(token, unit,
                      Finding::stating(FindingCodes::kUnitOfMissingColumn,
@@ -74,18 +74,18 @@ void PartsList::setInputUnit(const std::string& token, const std::string& unit)
 
 void PartsList::readRows(VorBomTemplate& reportTemplate, const QueryFilter& filter)
 {
-    for (PartsColumn& column : m_columns)
+    for (InputColumn& column : m_columns)
     {
         resolveColumn(column, *reportTemplate.getBomTemplateUnits());
         column.isWanted = reportTemplate.isTokenRequired(column.tupleToken) || filter.names(column.tupleToken);
     }
-    PartsRows rows(m_columns, m_source, *reportTemplate.getBomData());
-    rows.reserveTuples(numFormulas(reportTemplate));
+    CellReader cells(m_columns, m_source, *reportTemplate.getBomData());
+    cells.reserveTuples(numFormulas(reportTemplate));
     if (find(kHandleToken) == nullptr && reportTemplate.isTokenRequired(Utf8::toWide(kHandleToken)))
-        rows.numberRows(Utf8::toWide(kHandleToken));
+        cells.numberRows(Utf8::toWide(kHandleToken));
     while (const Record* const pRecord = m_source.next())
-        rows.add(*pRecord);
-    rows.finish();
+        cells.read(*pRecord);
+    cells.finish();
 }
 
 void PartsList::readHeader()
@@ -112,7 +112,7 @@ void PartsList::failWithoutHeader() const
 }
 
 // `column` is the last one so far.
-void PartsList::checkColumn(const PartsColumn& column, FindingList& findings) const
+void PartsList::checkColumn(const InputColumn& column, FindingList& findings) const
 {
     if (column.token == "%")
         addHeaderFinding(Finding::of(FindingCodes::kColumnWithoutName,
@@ -124,7 +124,7 @@ void PartsList::checkColumn(const PartsColumn& column, FindingList& findings) co
 }
 
 // A single column that holds separators of other kinds is most likely a whole header row.
-void PartsList::checkSeparator(const PartsColumn& column, FindingList& findings) const
+void PartsList::checkSeparator(const InputColumn& column, FindingList& findings) const
 {
     const std::size_t separator = column.name.find_first_of(";\t|");
     if (separator == std::string::npos)
@@ -143,8 +143,8 @@ void PartsList::addHeaderFinding(Finding finding, FindingList& findings) const
 
 void PartsList::addColumn(const std::string& heading)
 {
-    const ColumnName name = ColumnName::parse(heading);
-    PartsColumn column;
+    const ColumnHeading name = ColumnHeading::parse(heading);
+    InputColumn column;
     column.name = heading;
     column.token = name.token;
     column.tupleToken = Utf8::toWide(name.token);
@@ -153,7 +153,7 @@ void PartsList::addColumn(const std::string& heading)
     m_columns.push_back(column);
 }
 
-void PartsList::resolveColumn(PartsColumn& column, const VorBomTemplateUnits& units) const
+void PartsList::resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const
 {
     column.type = column.isHandle ? VorBomDataValue::kStringData : typeInCatalogue(column.tupleToken);
     if (column.unitSymbol.empty())
@@ -163,7 +163,7 @@ void PartsList::resolveColumn(PartsColumn& column, const VorBomTemplateUnits& un
     resolveUnit(column, units);
 }
 
-void PartsList::resolveUnit(PartsColumn& column, const VorBomTemplateUnits& units) const
+void PartsList::resolveUnit(InputColumn& column, const VorBomTemplateUnits& units) const
 {
     if (column.type != VorBomDataValue::kDoubleData)
     {
@@ -181,14 +181,14 @@ void PartsList::resolveUnit(PartsColumn& column, const VorBomTemplateUnits& unit
 }
 
 // A cell may name another unit than its column, as long as it is of the same kind.
-void PartsList::resolveQuantities(PartsColumn& column, const std::optional<MEKUnit>& unit)
+void PartsList::resolveQuantities(InputColumn& column, const std::optional<MEKUnit>& unit)
 {
     if (unit && column.type == VorBomDataValue::kDoubleData)
         column.quantities.emplace(unit->unit());
 }
 
 // The record read last is still the header row.
-void PartsList::failInUnit(const PartsColumn& column, const FindingCode& code, const std::string& expected,
+void PartsList::failInUnit(const InputColumn& column, const FindingCode& code, const std::string& expected,
                            const std::string& remedy) const
 {
     Finding finding = Finding::of(code, "unit " + inQuotes(column.unitSymbol), expected);

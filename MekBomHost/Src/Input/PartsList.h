@@ -7,12 +7,12 @@
 //   parts.readRows(*pTemplate, filter);    // into the template's data
 //
 // The catalogue of tokens decides what type a column has; a column it does not know has the type of its content
-// (ContentColumn). A cell of lengths, weights and other quantities may carry a unit of its own, as in "7'-6 1/2\"" and
+// (UntypedCells). A cell of lengths, weights and other quantities may carry a unit of its own, as in "7'-6 1/2\"" and
 // "7.5 ft". "Handle" is the identity of the object. Everything that is wrong is thrown as one Fault.
 #pragma once
 
 #include "FindingList.h"
-#include "PartsColumn.h"
+#include "InputColumn.h"
 #include "QueryFilter.h"
 #include "RecordSource.h"
 
@@ -32,10 +32,10 @@ public:
     // Reads the header row. `source` is not owned and outlives the list.
     explicit PartsList(RecordSource& source);
 
-    const std::vector<PartsColumn>& columns() const { return m_columns; }
+    const std::vector<InputColumn>& columns() const { return m_columns; }
 
     // The column with this token, or null.
-    const PartsColumn* find(const std::string& token) const;
+    const InputColumn* find(const std::string& token) const;
 
     // Says in which unit a column is given whose header row does not. Throws a Fault of status kWrongUsage when there
     // is no such column, or when its header row names another unit.
@@ -48,17 +48,17 @@ public:
 private:
     void readHeader();
     [[noreturn]] void failWithoutHeader() const;
-    void checkColumn(const PartsColumn& column, FindingList& findings) const;
-    void checkSeparator(const PartsColumn& column, FindingList& findings) const;
+    void checkColumn(const InputColumn& column, FindingList& findings) const;
+    void checkSeparator(const InputColumn& column, FindingList& findings) const;
     void addHeaderFinding(Finding finding, FindingList& findings) const;
     void addColumn(const std::string& heading);
-    void resolveColumn(PartsColumn& column, const VorBomTemplateUnits& units) const;
-    void resolveUnit(PartsColumn& column, const VorBomTemplateUnits& units) const;
-    static void resolveQuantities(PartsColumn& column, const std::optional<MEKUnit>& unit);
-    [[noreturn]] void failInUnit(const PartsColumn& column, const FindingCode& code, const std::string& expected,
+    void resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const;
+    void resolveUnit(InputColumn& column, const VorBomTemplateUnits& units) const;
+    static void resolveQuantities(InputColumn& column, const std::optional<MEKUnit>& unit);
+    [[noreturn]] void failInUnit(const InputColumn& column, const FindingCode& code, const std::string& expected,
                                  const std::string& remedy = std::string()) const;
 
     RecordSource& m_source;
-    std::vector<PartsColumn> m_columns;
+    std::vector<InputColumn> m_columns;
 };
 }

@@ -1,6 +1,6 @@
 #include "ReportJob.h"
 
-#include "ColumnName.h"
+#include "ColumnHeading.h"
 #include "CsvReader.h"
 #include "DataTokens.h"
 #include "DisplaySettings.h"
@@ -83,7 +83,7 @@ void ReportJob::openParts()
     m_pRecords = std::make_unique<CsvReader>(*m_request.pParts);
     m_pParts = std::make_unique<PartsList>(*m_pRecords);
     for (const auto& [token, unit] : m_request.inputUnits)
-        m_pParts->setInputUnit(ColumnName::tokenOf(token), unit);
+        m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);
 }
 
 ReportTemplate ReportJob::readTemplate()

@@ -1,15 +1,6 @@
 // Up to eight bytes of text as one number, so that short cells are read, compared and told apart without a loop over
 // their bytes, whose end no processor foresees.
-//
-//   ByteWord::of("S355")                       ->  0x35353353: 'S' is 0x53 and lowest, zeros stand above the last
-//   ByteWord::of("S355") == ByteWord::of("S35")   ->  false
-//   char bytes[ByteWord::kSize];
-//   ByteWord::write(0x35353353, bytes)         ->  "S355"
-//
-// Two texts of up to eight bytes are the same if their words are, unless zero bytes end one of them.
 #pragma once
-
-#include "MekRoots/Exp/VorBits.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -58,7 +49,4 @@ inline std::string_view write(std::uint64_t word, char (&bytes)[kSize])
         bytes[size++] = static_cast<char>(word & 0xFF);
     return std::string_view(bytes, size);
 }
-
-// The lowest bit of a word is in the first byte that has one.
-using VorBits::lowestBit;
 }

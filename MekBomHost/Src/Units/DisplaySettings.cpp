@@ -1,10 +1,10 @@
 #include "DisplaySettings.h"
 
-#include "CellNumber.h"
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "IniFile.h"
 #include "MessageText.h"
+#include "NumberReader.h"
 
 #include <algorithm>
 #include <iterator>
@@ -56,7 +56,7 @@ void readEnvironment(const DisplaySettings::Pairs& environment, DisplaySettings&
 {
     for (const auto& [name, value] : environment)
         if (const Setting* const pSetting = findSetting(name))
-            if (!CellNumber::parse(value, settings.*pSetting->pNumber))
+            if (!NumberReader::read(value, settings.*pSetting->pNumber))
                 failUsage("environment", noWholeNumber(inQuotes(value) + " for " + name));
 }
 
@@ -67,7 +67,7 @@ void readFile(const NamedText& file, DisplaySettings& settings, FindingList& fin
     {
         const Setting* const pSetting = findSetting(ini.key());
         int number = 0;
-        if (!CellNumber::parse(ini.value(), number))
+        if (!NumberReader::read(ini.value(), number))
             ini.fail(noWholeNumber("\"" + ini.value() + "\" for " + ini.key()));
         if (pSetting != nullptr)
             settings.*pSetting->pNumber = number;
@@ -82,7 +82,7 @@ void readOption(const std::string& name, const std::string& value, DisplaySettin
     const Setting* const pSetting = findSetting(name);
     if (pSetting == nullptr)
         failUsage("--setting", Finding::of(FindingCodes::kSettingUnknown, inQuotes(name), "one of " + namesOfAll()));
-    if (!CellNumber::parse(value, settings.*pSetting->pNumber))
+    if (!NumberReader::read(value, settings.*pSetting->pNumber))
         failUsage("--setting " + name, noWholeNumber(inQuotes(value)));
 }
 }

@@ -5,6 +5,7 @@
 #include "TemplateReader.h"
 #include "Utf8.h"
 
+#include "Support/FakeSource.h"
 #include "Support/HostTestSupport.h"
 
 #include "MekRoots/Test/Support/TestSupport.h"
@@ -13,40 +14,12 @@
 
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace mekbom
 {
 namespace
 {
-// Hands over the records it is made with; each stands on a line of its own.
-class FakeSource : public RecordSource
-{
-public:
-    explicit FakeSource(std::vector<Record> records) : m_records(std::move(records)) {}
-
-    const std::string& name() const override { return m_name; }
-    const Record* next() override { return m_next < m_records.size() ? &m_records[m_next++] : nullptr; }
-
-    void placeRecord(Finding& finding) const override
-    {
-        finding.source = m_name;
-        finding.begin.line = static_cast<int>(m_next);
-    }
-
-    void placeCell(std::size_t index, Finding& finding) const override
-    {
-        placeRecord(finding);
-        finding.path = "/" + std::to_string(index);
-    }
-
-private:
-    std::string m_name = "parts.xyz";
-    std::vector<Record> m_records;
-    std::size_t m_next = 0;
-};
-
 // A template whose details show these tokens.
 ReportTemplate templateShowing(const std::vector<std::string>& tokens)
 {
@@ -63,7 +36,7 @@ ReportTemplate templateShowing(const std::vector<std::string>& tokens)
 std::vector<std::string> tokensOf(const PartsList& parts)
 {
     std::vector<std::string> tokens;
-    for (const PartsColumn& column : parts.columns())
+    for (const InputColumn& column : parts.columns())
         tokens.push_back(column.token);
     return tokens;
 }
@@ -336,10 +309,10 @@ TEST(PartsListTest, CellsAreCheckedEvenIfNobodyWantsThem)
 // What a format with numbers of its own hands over.
 TEST(PartsListTest, StoredNumbersAreTakenAsTheyAreAndAsTextsWhereTheColumnHasTexts)
 {
-    const auto text = [](const char* pText) { return RecordCell(std::string_view(pText)); };
-    FakeSource source({ { text("Handle"), text("Name"), text("Quantity"), text("Length [m]"), text("Other") },
-                        { RecordCell(7.0), RecordCell(120.5), RecordCell(4.0), RecordCell(0.1), RecordCell(3.0) },
-                        { RecordCell(), RecordCell(), RecordCell(), text("1 ft"), RecordCell(2.5) } });
+    FakeSource source(
+        { { textCell("Handle"), textCell("Name"), textCell("Quantity"), textCell("Length [m]"), textCell("Other") },
+          { RecordCell(7.0), RecordCell(120.5), RecordCell(4.0), RecordCell(0.1), RecordCell(3.0) },
+          { RecordCell(), RecordCell(), RecordCell(), textCell("1 ft"), RecordCell(2.5) } });
     PartsList parts(source);
 
     EXPECT_EQ("7: [%Handle t 7] [%Name t 120.5] [%Quantity i 4] [%Length d 100] [%Other d 3]\n"
@@ -349,7 +322,7 @@ TEST(PartsListTest, StoredNumbersAreTakenAsTheyAreAndAsTextsWhereTheColumnHasTex
 
 TEST(PartsListTest, StoredNumbersThatDoNotFitAreNamedAsTextsAre)
 {
-    FakeSource source({ { RecordCell(std::string_view("Quantity")), RecordCell(std::string_view("Length [ft-in]")) },
+    FakeSource source({ { textCell("Quantity"), textCell("Length [ft-in]") },
                         { RecordCell(2.5), RecordCell(90.0) },
                         { RecordCell(3e9), RecordCell() } });
     PartsList parts(source);

@@ -193,7 +193,7 @@ TEST_F(RealDataTest, TheOtherFilesAreRead)
         all.pTemplate = std::make_unique<VorBomTemplate>();
         auto* const pDetails = new VorBomTemplateItem(VorBomTemplateItem::kDetails);
         all.pTemplate->addChild(pDetails);
-        for (const PartsColumn& column : parts.columns())
+        for (const InputColumn& column : parts.columns())
             pDetails->addData(VorBomDataTuple(column.tupleToken, VorString()));
         all.pTemplate->findUsedTokens();
 

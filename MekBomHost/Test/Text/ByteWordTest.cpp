@@ -33,10 +33,4 @@ TEST(ByteWordTest, WordsBecomeBytesAgain)
     for (const char* const text : { "", "a", "ab", "abc", "B37304", "S355J2+N", "\xC3\xA4" })
         EXPECT_EQ(text, ByteWord::write(ByteWord::of(text), bytes));
 }
-
-TEST(ByteWordTest, TheLowestBitIsFound)
-{
-    for (int bit = 0; bit < 64; ++bit)
-        EXPECT_EQ(bit, ByteWord::lowestBit(~std::uint64_t{ 0 } << bit));
-}
 }

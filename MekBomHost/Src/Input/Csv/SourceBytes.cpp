@@ -6,11 +6,6 @@
 
 namespace mekbom
 {
-namespace
-{
-const std::size_t kFirstSize = 1 << 18; // measured: no faster beyond
-}
-
 SourceBytes::SourceBytes(ByteSource& source) : m_source(source), m_buffer(kFirstSize)
 {
     m_buffer[m_end] = '\n';

@@ -1,10 +1,14 @@
 // Gives equal cells of a column one and the same text, so that a million rows of "S355J2" hold its characters once.
 //
+//   const VorString first = texts.textOf("S355J2");
+//   const VorString second = texts.textOf("S355J2");     // shares its characters with `first`
+//
 // Remembers all texts up to some ten thousand, then begins anew. In a column where hardly any comes back, such as one of
 // numbers of parts, it stops looking for some ten thousand texts: they would only fill the processor's caches. One for
 // each column, so that a column of marks does not drive out one of materials.
 #pragma once
 
+#include "MekRoots/Exp/VorMemoryHint.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <cstddef>
@@ -14,7 +18,7 @@
 
 namespace mekbom
 {
-class TextCache
+class TextPool
 {
 public:
     // The wide text of `bytes`, valid UTF-8 without zero bytes and not empty; good until the next call.
@@ -26,10 +30,10 @@ public:
     bool isLooking() const { return m_numUnshared == 0; } // only then the next ones may be called
     const VorString& find(std::string_view bytes);
     const VorString& find(std::uint64_t key); // the text of up to eight bytes, as ByteWord::of gives them
-    void fetch(std::uint64_t key) const { fetchMemory(&m_entries[placeOf(key)]); } // so that find() need not wait
-
-    // Brings memory into the processor's caches, where the compiler knows how to.
-    static void fetchMemory(const void* pMemory);
+    void willFind(std::uint64_t key) const
+    {
+        VorMemoryHint::willRead(&m_entries[placeOf(key)]);
+    } // so that find() need not wait
 
 private:
     // Of an open-addressed table.
@@ -57,13 +61,4 @@ private:
     std::size_t m_numUnshared = 0; // texts to be made without a look
     VorString m_unshared;          // the last of them that textOf() gave
 };
-
-inline void TextCache::fetchMemory(const void* pMemory)
-{
-#if defined(__GNUC__)
-    __builtin_prefetch(pMemory);
-#else
-    static_cast<void>(pMemory);
-#endif
-}
 }

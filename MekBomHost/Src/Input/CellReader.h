@@ -1,17 +1,25 @@
-// Turns the records of a parts list into data rows, checking every cell on the way.
+// Reads the cells of a parts list's records, each as its column has it, and makes a data row of every record.
 //
-//   rows.add(record);      // for each record that `source` hands over
-//   rows.finish();
+//   CellReader cells(columns, source, data);
+//   while (const Record* const pRecord = source.next())
+//       cells.read(*pRecord);
+//   cells.finish();
 //
-// A cell becomes a tuple of its column's type; an empty cell becomes nothing. Cells of columns that nobody wants are
-// checked too, so that whether a parts list is sound does not depend on the template.
+// A cell becomes a tuple of its column's type; an empty cell becomes nothing:
+//
+//   columns                  %Name      %Length in ft     %Quantity
+//   record                   HEA200     7.5               (nothing)
+//   row                      [%Name:HEA200][%Length:2286]
+//
+// Cells of columns that nobody wants are checked too, so that whether a parts list is sound does not depend on the
+// template.
 #pragma once
 
-#include "ContentColumn.h"
 #include "FindingList.h"
-#include "PartsColumn.h"
+#include "InputColumn.h"
 #include "RecordSource.h"
-#include "RowBatch.h"
+#include "RowBuilder.h"
+#include "UntypedCells.h"
 
 #include "VorBomData.h"
 
@@ -24,11 +32,11 @@ namespace mekbom
 {
 struct FindingCode;
 
-class PartsRows
+class CellReader
 {
 public:
-    // Nothing of this is owned; all of it outlives the rows. They are appended to `data`, which owns them.
-    PartsRows(const std::vector<PartsColumn>& columns, const RecordSource& source, VorBomData& data);
+    // `columns`, `source` and `data` are not owned and outlive the reader. Rows are appended to `data`, which owns them.
+    CellReader(const std::vector<InputColumn>& columns, const RecordSource& source, VorBomData& data);
 
     // Rows get room for that many more tuples: the evaluation adds one for each formula.
     void reserveTuples(int numTuples) { m_rows.reserveTuples(numTuples); }
@@ -36,10 +44,10 @@ public:
     // Each row gets its number, from 1, as its handle: for data that bring none.
     void numberRows(const VorString& handleToken);
 
-    // Makes a row of the record that `source` has handed over last.
-    void add(const Record& record);
+    // Makes a row of the record that `source` has handed over last, or notes what is wrong with it.
+    void read(const Record& record);
 
-    // Completes the rows once all are added. Throws a Fault with what was wrong in any of them.
+    // Completes the rows once all records are read. Throws a Fault with what was wrong in any of them.
     void finish();
 
 private:
@@ -56,13 +64,13 @@ private:
                     const std::string& remedy = std::string());
     void addNumberAsHandle();
 
-    const std::vector<PartsColumn>& m_columns;
+    const std::vector<InputColumn>& m_columns;
     const RecordSource& m_source;
     VorBomData& m_data;
     FindingList m_findings;
-    RowBatch m_rows;                             // those that are not in the data yet
-    std::vector<ContentColumn> m_contentColumns; // one for each column, used where the type is still open
-    VorString m_numberToken;                     // empty when rows are not numbered
+    RowBuilder m_rows;                        // those that are not in the data yet
+    std::vector<UntypedCells> m_untypedCells; // one for each column, used where the type is still open
+    VorString m_numberToken;                  // empty when rows are not numbered
     int m_numRows = 0;
     std::string m_numberText; // of the cell that is being read, if it is a number
 };

@@ -1,6 +1,7 @@
-#include "ColumnName.h"
+#include "ColumnHeading.h"
 
-#include <algorithm>
+#include "MekRoots/Exp/VorCharacters.h"
+
 #include <cstddef>
 
 namespace mekbom
@@ -9,14 +10,12 @@ namespace
 {
 std::string_view trimmed(std::string_view text)
 {
-    const std::string_view blanks = " \t\r\n";
-    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
-    return text.substr(0, text.find_last_not_of(blanks) + 1);
+    return VorCharacters::trimmed(text, " \t\r\n");
 }
 }
 
 // field := name [ '[' unit ']' ]
-ColumnName ColumnName::parse(std::string_view field)
+ColumnHeading ColumnHeading::parse(std::string_view field)
 {
     field = trimmed(field);
     const std::size_t bracket = field.rfind('[');
@@ -26,7 +25,7 @@ ColumnName ColumnName::parse(std::string_view field)
     return { tokenOf(trimmed(field.substr(0, bracket))), std::string(unit) };
 }
 
-std::string ColumnName::tokenOf(std::string_view name)
+std::string ColumnHeading::tokenOf(std::string_view name)
 {
     return !name.empty() && name.front() == '%' ? std::string(name) : "%" + std::string(name);
 }

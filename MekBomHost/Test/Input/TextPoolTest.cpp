@@ -1,4 +1,4 @@
-#include "TextCache.h"
+#include "TextPool.h"
 
 #include "ByteWord.h"
 #include "Utf8.h"
@@ -12,9 +12,9 @@
 
 namespace mekbom
 {
-TEST(TextCacheTest, EqualTextsShareTheirCharacters)
+TEST(TextPoolTest, EqualTextsShareTheirCharacters)
 {
-    TextCache cache;
+    TextPool cache;
     const VorString first = cache.textOf("S355J2");
     cache.textOf("S235JR");
 
@@ -24,17 +24,17 @@ TEST(TextCacheTest, EqualTextsShareTheirCharacters)
     EXPECT_TRUE(first.sharesTextWith(second));
 }
 
-TEST(TextCacheTest, EveryTextIsRightHoweverManyThereAre)
+TEST(TextPoolTest, EveryTextIsRightHoweverManyThereAre)
 {
-    TextCache cache;
+    TextPool cache;
     for (int round = 0; round < 2; ++round)
         for (int i = 0; i < 10'000; ++i)
             ASSERT_EQ(std::to_string(i), toUtf8(cache.textOf(std::to_string(i))));
 }
 
-TEST(TextCacheTest, UniqueTextsAreNotLookedForButTextsThatComeBackLaterAre)
+TEST(TextPoolTest, UniqueTextsAreNotLookedForButTextsThatComeBackLaterAre)
 {
-    TextCache cache;
+    TextPool cache;
     for (int i = 0; i < 5'000; ++i)
         cache.textOf(std::to_string(i));
     const VorString unshared = cache.textOf("S355J2");
@@ -47,9 +47,9 @@ TEST(TextCacheTest, UniqueTextsAreNotLookedForButTextsThatComeBackLaterAre)
     EXPECT_TRUE(shared.sharesTextWith(cache.textOf("S355J2")));
 }
 
-TEST(TextCacheTest, ManyDifferentTextsAreSharedWhenTheyComeBack)
+TEST(TextPoolTest, ManyDifferentTextsAreSharedWhenTheyComeBack)
 {
-    TextCache cache;
+    TextPool cache;
     const VorString first = cache.textOf("B0");
     std::mt19937 random(1);
     for (int i = 0; i < 100'000; ++i)
@@ -58,10 +58,10 @@ TEST(TextCacheTest, ManyDifferentTextsAreSharedWhenTheyComeBack)
     EXPECT_TRUE(first.sharesTextWith(cache.textOf("B0")));
 }
 
-TEST(TextCacheTest, TextsOfAnyLengthAreToldApart)
+TEST(TextPoolTest, TextsOfAnyLengthAreToldApart)
 {
     const std::string text = "\xC3\x84nderung am Tr\xC3\xA4ger, gr\xC3\xBCn";
-    TextCache cache;
+    TextPool cache;
     for (int round = 0; round < 2; ++round)
         for (std::size_t length = 1; length <= text.size(); ++length)
         {
@@ -72,9 +72,9 @@ TEST(TextCacheTest, TextsOfAnyLengthAreToldApart)
         }
 }
 
-TEST(TextCacheTest, LongTextsAreShared)
+TEST(TextPoolTest, LongTextsAreShared)
 {
-    TextCache cache;
+    TextPool cache;
     for (const char* const text : { "a text of many words", "S355J2+N/Tr\xC3\xA4ger" })
     {
         const VorString first = cache.textOf(text);
@@ -83,9 +83,9 @@ TEST(TextCacheTest, LongTextsAreShared)
 }
 
 // Looked up in steps, as many texts at once are.
-TEST(TextCacheTest, TextsStayWhereTheyAreUntilMoreAreAnnounced)
+TEST(TextPoolTest, TextsStayWhereTheyAreUntilMoreAreAnnounced)
 {
-    TextCache cache;
+    TextPool cache;
     cache.prepare(1000);
     ASSERT_TRUE(cache.isLooking());
     const VorString& first = cache.find(ByteWord::of("S355J2"));

@@ -1,9 +1,9 @@
-#include "PartsRows.h"
+#include "CellReader.h"
 
-#include "CellNumber.h"
 #include "FindingCodes.h"
 #include "InputUnits.h"
 #include "MessageText.h"
+#include "NumberReader.h"
 #include "Utf8.h"
 
 #include "VorBomDataTuple.h"
@@ -21,17 +21,17 @@ std::string fieldCount(std::size_t numFields)
 }
 }
 
-PartsRows::PartsRows(const std::vector<PartsColumn>& columns, const RecordSource& source, VorBomData& data)
-    : m_columns(columns), m_source(source), m_data(data), m_rows(data, columns.size()), m_contentColumns(columns.size())
+CellReader::CellReader(const std::vector<InputColumn>& columns, const RecordSource& source, VorBomData& data)
+    : m_columns(columns), m_source(source), m_data(data), m_rows(data, columns.size()), m_untypedCells(columns.size())
 {
 }
 
-void PartsRows::numberRows(const VorString& handleToken)
+void CellReader::numberRows(const VorString& handleToken)
 {
     m_numberToken = handleToken;
 }
 
-void PartsRows::add(const Record& record)
+void CellReader::read(const Record& record)
 {
     if (!checkNumCells(record))
         return;
@@ -46,7 +46,7 @@ void PartsRows::add(const Record& record)
 }
 
 // The columns whose type was open are filled in last: `takeNext` gives their cells in the order of the rows.
-void PartsRows::finish()
+void CellReader::finish()
 {
     m_findings.throwIfAnyError();
     m_rows.build();
@@ -59,10 +59,10 @@ void PartsRows::finish()
     for (VorBomItemBase* pRow = m_data.child(); pRow != nullptr; pRow = pRow->next())
         for (const std::size_t column : openColumns)
             if (VorBomDataTuple* pTuple = pRow->getTupleAt(m_columns[column].tupleToken))
-                pTuple->value() = m_contentColumns[column].takeNext();
+                pTuple->value() = m_untypedCells[column].takeNext();
 }
 
-bool PartsRows::checkNumCells(const Record& record)
+bool CellReader::checkNumCells(const Record& record)
 {
     if (record.size() == m_columns.size())
         return true;
@@ -73,7 +73,7 @@ bool PartsRows::checkNumCells(const Record& record)
     return false;
 }
 
-void PartsRows::readCell(std::size_t column, const RecordCell& cell)
+void CellReader::readCell(std::size_t column, const RecordCell& cell)
 {
     switch (m_columns[column].type)
     {
@@ -83,7 +83,7 @@ void PartsRows::readCell(std::size_t column, const RecordCell& cell)
     }
 }
 
-std::string_view PartsRows::textOf(const RecordCell& cell)
+std::string_view CellReader::textOf(const RecordCell& cell)
 {
     if (!cell.isNumber())
         return cell.text();
@@ -91,19 +91,19 @@ std::string_view PartsRows::textOf(const RecordCell& cell)
     return m_numberText;
 }
 
-void PartsRows::readWhole(std::size_t column, std::string_view text)
+void CellReader::readWhole(std::size_t column, std::string_view text)
 {
     int value = 0;
-    if (!CellNumber::parse(text, value))
+    if (!NumberReader::read(text, value))
         addFinding(FindingCodes::kCellIsNotWhole, column, text,
-                   CellNumber::isWhole(text) ? "a whole number from -2147483648 to 2147483647" : "a whole number");
+                   NumberReader::isWhole(text) ? "a whole number from -2147483648 to 2147483647" : "a whole number");
     else if (m_columns[column].isWanted)
         m_rows.add(m_columns[column].tupleToken, value);
 }
 
-void PartsRows::readNumber(std::size_t column, const RecordCell& cell)
+void CellReader::readNumber(std::size_t column, const RecordCell& cell)
 {
-    const PartsColumn& properties = m_columns[column];
+    const InputColumn& properties = m_columns[column];
     double value = 0;
     if (!readPlainNumber(column, cell, value))
     {
@@ -118,30 +118,30 @@ void PartsRows::readNumber(std::size_t column, const RecordCell& cell)
         m_rows.add(properties.tupleToken, value);
 }
 
-bool PartsRows::readPlainNumber(std::size_t column, const RecordCell& cell, double& value) const
+bool CellReader::readPlainNumber(std::size_t column, const RecordCell& cell, double& value) const
 {
     if (!m_columns[column].takesPlainNumbers)
         return false;
     if (!cell.isNumber())
-        return CellNumber::parse(cell.text(), value);
+        return NumberReader::read(cell.text(), value);
     value = cell.number();
     return true;
 }
 
-void PartsRows::readText(std::size_t column, std::string_view text)
+void CellReader::readText(std::size_t column, std::string_view text)
 {
-    const PartsColumn& properties = m_columns[column];
+    const InputColumn& properties = m_columns[column];
     if (properties.isHandle)
         return readHandle(column, text);
     if (!properties.isWanted)
         return;
     if (properties.type == VorBomDataValue::kStringData)
         return m_rows.addText(properties.tupleToken, column, text);
-    m_contentColumns[column].add(text);
+    m_untypedCells[column].add(text);
     m_rows.add(properties.tupleToken, 0); // a place for the value that finish() sets
 }
 
-void PartsRows::readHandle(std::size_t column, std::string_view text)
+void CellReader::readHandle(std::size_t column, std::string_view text)
 {
     m_rows.setHandle(text);
     if (m_columns[column].isWanted)
@@ -149,9 +149,9 @@ void PartsRows::readHandle(std::size_t column, std::string_view text)
 }
 
 // A cell that is more than a number.
-bool PartsRows::readQuantity(std::size_t column, std::string_view text, double& value)
+bool CellReader::readQuantity(std::size_t column, std::string_view text, double& value)
 {
-    const PartsColumn& properties = m_columns[column];
+    const InputColumn& properties = m_columns[column];
     const VorString wideText = Utf8::toWide(text);
     if (properties.quantities && properties.quantities->read(wideText, value) == 1)
         return true;
@@ -161,8 +161,8 @@ bool PartsRows::readQuantity(std::size_t column, std::string_view text, double& 
     return false;
 }
 
-void PartsRows::addFinding(const FindingCode& code, std::size_t column, std::string_view text,
-                           const std::string& expected, const std::string& remedy)
+void CellReader::addFinding(const FindingCode& code, std::size_t column, std::string_view text,
+                            const std::string& expected, const std::string& remedy)
 {
     Finding finding = Finding::of(code, inQuotes(text), expected);
     m_source.placeCell(column, finding);
@@ -171,7 +171,7 @@ void PartsRows::addFinding(const FindingCode& code, std::size_t column, std::str
     m_findings.add(std::move(finding));
 }
 
-void PartsRows::addNumberAsHandle()
+void CellReader::addNumberAsHandle()
 {
     ++m_numRows;
     m_rows.setHandle(std::to_string(m_numRows));

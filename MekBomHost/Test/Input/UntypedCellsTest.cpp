@@ -1,4 +1,4 @@
-#include "ContentColumn.h"
+#include "UntypedCells.h"
 
 #include "MekRoots/Test/Support/TestSupport.h"
 
@@ -37,23 +37,23 @@ const TypeCase kTypes[] = {
 };
 }
 
-TEST(ContentColumnTest, AllCellsTogetherDecideTheType)
+TEST(UntypedCellsTest, AllCellsTogetherDecideTheType)
 {
     for (const TypeCase& test : kTypes)
     {
-        ContentColumn column;
+        UntypedCells column;
         for (const std::string& cell : test.cells)
             column.add(cell);
         EXPECT_EQ(test.type, column.type()) << (test.cells.empty() ? "" : test.cells.front());
     }
 }
 
-TEST(ContentColumnTest, CellsComeBackInTheirOrderAndType)
+TEST(UntypedCellsTest, CellsComeBackInTheirOrderAndType)
 {
-    ContentColumn numbers;
+    UntypedCells numbers;
     numbers.add("4");
     numbers.add("12.5");
-    ContentColumn texts;
+    UntypedCells texts;
     texts.add("M16");
     texts.add("007");
     texts.add("M16");

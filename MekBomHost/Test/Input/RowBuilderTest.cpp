@@ -1,4 +1,4 @@
-#include "RowBatch.h"
+#include "RowBuilder.h"
 
 #include "Utf8.h"
 
@@ -22,11 +22,11 @@ VorString nameOf(const VorBomItemBase& row)
     return row.getTupleAt(kName)->value().asString();
 }
 
-class RowBatchTest : public testing::Test
+class RowBuilderTest : public testing::Test
 {
 protected:
-    RowBatchTest() : m_batch(m_data, 4) {}
-    ~RowBatchTest() override { m_data.empty(); }
+    RowBuilderTest() : m_batch(m_data, 4) {}
+    ~RowBuilderTest() override { m_data.empty(); }
 
     void addRow(const std::string& handle, const std::string& name, double length, int quantity)
     {
@@ -49,11 +49,11 @@ protected:
     }
 
     VorBomData m_data;
-    RowBatch m_batch;
+    RowBuilder m_batch;
 };
 }
 
-TEST_F(RowBatchTest, RowsHaveTheirDataInTheOrderInWhichTheyWereAdded)
+TEST_F(RowBuilderTest, RowsHaveTheirDataInTheOrderInWhichTheyWereAdded)
 {
     addRow("1A7", "HEA200", 2286.5, 3);
     addRow("a long handle", "a long name", 1, -2);
@@ -67,7 +67,7 @@ TEST_F(RowBatchTest, RowsHaveTheirDataInTheOrderInWhichTheyWereAdded)
     EXPECT_EQ(VorString(L"1A7"), static_cast<VorBomDataRow*>(m_data.child())->objectHandle());
 }
 
-TEST_F(RowBatchTest, RowsMayBeWithoutHandleAndWithoutData)
+TEST_F(RowBuilderTest, RowsMayBeWithoutHandleAndWithoutData)
 {
     addRow("1A7", "HEA200", 1, 1);
     m_batch.beginRow();
@@ -79,7 +79,7 @@ TEST_F(RowBatchTest, RowsMayBeWithoutHandleAndWithoutData)
     EXPECT_EQ(0, pRow->getData().length());
 }
 
-TEST_F(RowBatchTest, RowsHoldRoomForWhatTheyHaveAndWhatIsReserved)
+TEST_F(RowBuilderTest, RowsHoldRoomForWhatTheyHaveAndWhatIsReserved)
 {
     m_batch.reserveTuples(2);
     addRow("1A7", "HEA200", 1, 1);
@@ -89,7 +89,7 @@ TEST_F(RowBatchTest, RowsHoldRoomForWhatTheyHaveAndWhatIsReserved)
     EXPECT_EQ(6, m_data.child()->getData().physicalLength());
 }
 
-TEST_F(RowBatchTest, RowsOfAllBatchesFollowEachOtherAndShareTheirTexts)
+TEST_F(RowBuilderTest, RowsOfAllBatchesFollowEachOtherAndShareTheirTexts)
 {
     std::string expected;
     for (int i = 0; i < 10'000; ++i)
@@ -111,7 +111,7 @@ TEST_F(RowBatchTest, RowsOfAllBatchesFollowEachOtherAndShareTheirTexts)
     EXPECT_TRUE(first.sharesTextWith(nameOf(*pRow)));
 }
 
-TEST_F(RowBatchTest, TextsThatDoNotComeBackAreKeptAsWell)
+TEST_F(RowBuilderTest, TextsThatDoNotComeBackAreKeptAsWell)
 {
     for (int i = 0; i < 20'000; ++i)
         addRow("1A7", (i % 2 == 0 ? "B" : "a part by itself, number ") + std::to_string(i), 1, 1);

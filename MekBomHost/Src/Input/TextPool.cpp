@@ -1,4 +1,10 @@
-#include "TextCache.h"
+// A table with open addressing. The key of "S355J2" is its six bytes as one number, 32 4A 35 35 33 53 with the 'S'
+// lowest: equal keys are equal texts, which need not be compared, and the wide text of a new one can be made from its key.
+// A longer text has a hash for a key, whose lowest byte is 0 as no text's first byte is, and is compared. The key times
+// an odd number scatters over the places; the next free place is taken where one is in use.
+// When a column's texts turn out not to come back, the table is given up for a while (isWorthALook), because a look for
+// each of a million different texts would only wait for memory.
+#include "TextPool.h"
 
 #include "ByteWord.h"
 #include "Utf8.h"
@@ -48,7 +54,7 @@ bool isSame(const VorString& text, std::string_view bytes)
 }
 }
 
-const VorString& TextCache::textOf(std::string_view bytes)
+const VorString& TextPool::textOf(std::string_view bytes)
 {
     prepare(1);
     if (isLooking())
@@ -57,7 +63,7 @@ const VorString& TextCache::textOf(std::string_view bytes)
     return m_unshared;
 }
 
-void TextCache::prepare(std::size_t numTexts)
+void TextPool::prepare(std::size_t numTexts)
 {
     m_numUnshared -= std::min(m_numUnshared, numTexts);
     if (m_numUnshared > 0 || 2 * (m_numTexts + numTexts) <= m_entries.size())
@@ -73,7 +79,7 @@ void TextCache::prepare(std::size_t numTexts)
         resize(numEntries);
 }
 
-const VorString& TextCache::find(std::string_view bytes)
+const VorString& TextPool::find(std::string_view bytes)
 {
     if (bytes.size() <= ByteWord::kSize)
         return find(ByteWord::of(bytes));
@@ -86,7 +92,7 @@ const VorString& TextCache::find(std::string_view bytes)
     return insert(m_entries[place], key, bytes);
 }
 
-const VorString& TextCache::find(std::uint64_t key)
+const VorString& TextPool::find(std::uint64_t key)
 {
     ++m_numLooks;
     std::size_t place = placeOf(key);
@@ -97,7 +103,7 @@ const VorString& TextCache::find(std::uint64_t key)
     return insert(m_entries[place], key, ByteWord::write(key, bytes));
 }
 
-const VorString& TextCache::insert(Entry& entry, std::uint64_t key, std::string_view bytes)
+const VorString& TextPool::insert(Entry& entry, std::uint64_t key, std::string_view bytes)
 {
     entry.text = Utf8::toWide(bytes);
     entry.key = key;
@@ -106,19 +112,19 @@ const VorString& TextCache::insert(Entry& entry, std::uint64_t key, std::string_
 }
 
 // True until it has shown that hardly any text comes back.
-bool TextCache::isWorthALook() const
+bool TextPool::isWorthALook() const
 {
     return m_numTexts < kTextsOnTrial || (m_numLooks - m_numTexts) * kLooksPerFound >= m_numLooks;
 }
 
-void TextCache::forgetAll()
+void TextPool::forgetAll()
 {
     m_entries = std::vector<Entry>();
     m_numTexts = 0;
     m_numLooks = 0;
 }
 
-void TextCache::resize(std::size_t numEntries)
+void TextPool::resize(std::size_t numEntries)
 {
     std::vector<Entry> entries(numEntries);
     m_entries.swap(entries);
@@ -129,7 +135,7 @@ void TextCache::resize(std::size_t numEntries)
             freeEntry(entry.key) = std::move(entry);
 }
 
-TextCache::Entry& TextCache::freeEntry(std::uint64_t key)
+TextPool::Entry& TextPool::freeEntry(std::uint64_t key)
 {
     std::size_t place = placeOf(key);
     while (m_entries[place].key != 0)

@@ -1,4 +1,4 @@
-#include "ColumnName.h"
+#include "ColumnHeading.h"
 
 #include <gtest/gtest.h>
 
@@ -33,19 +33,19 @@ const NameCase kNames[] = {
 };
 }
 
-TEST(ColumnNameTest, FieldsAreSplitIntoTokenAndUnit)
+TEST(ColumnHeadingTest, FieldsAreSplitIntoTokenAndUnit)
 {
     for (const NameCase& test : kNames)
     {
-        const ColumnName name = ColumnName::parse(test.field);
+        const ColumnHeading name = ColumnHeading::parse(test.field);
         EXPECT_EQ(test.token, name.token) << test.field;
         EXPECT_EQ(test.unit, name.unit) << test.field;
     }
 }
 
-TEST(ColumnNameTest, TokensGetTheirPercentSign)
+TEST(ColumnHeadingTest, TokensGetTheirPercentSign)
 {
-    EXPECT_EQ("%Paint", ColumnName::tokenOf("Paint"));
-    EXPECT_EQ("%Paint", ColumnName::tokenOf("%Paint"));
+    EXPECT_EQ("%Paint", ColumnHeading::tokenOf("Paint"));
+    EXPECT_EQ("%Paint", ColumnHeading::tokenOf("%Paint"));
 }
 }

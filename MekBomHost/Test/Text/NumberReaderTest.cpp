@@ -1,4 +1,4 @@
-#include "CellNumber.h"
+#include "NumberReader.h"
 
 #include <gtest/gtest.h>
 
@@ -16,17 +16,17 @@ namespace
 std::optional<double> numberOf(const std::string& text)
 {
     double value = -1;
-    return CellNumber::parse(text, value) ? std::optional<double>(value) : std::nullopt;
+    return NumberReader::read(text, value) ? std::optional<double>(value) : std::nullopt;
 }
 
 std::optional<int> wholeOf(const std::string& text)
 {
     int value = -1;
-    return CellNumber::parse(text, value) ? std::optional<int>(value) : std::nullopt;
+    return NumberReader::read(text, value) ? std::optional<int>(value) : std::nullopt;
 }
 }
 
-TEST(CellNumberTest, NumbersAreReadWithSignPointAndExponent)
+TEST(NumberReaderTest, NumbersAreReadWithSignPointAndExponent)
 {
     EXPECT_EQ(2.5, numberOf("2.5"));
     EXPECT_EQ(-2.5, numberOf("-2.5"));
@@ -39,7 +39,7 @@ TEST(CellNumberTest, NumbersAreReadWithSignPointAndExponent)
 }
 
 // Short numbers are read in another way than long ones: both must give the double next to the number.
-TEST(CellNumberTest, NumbersOfAnyLengthAreTheNearestDouble)
+TEST(NumberReaderTest, NumbersOfAnyLengthAreTheNearestDouble)
 {
     const std::string digits = "9071992547409931";
     for (std::size_t length = 1; length <= digits.size(); ++length)
@@ -54,7 +54,7 @@ TEST(CellNumberTest, NumbersOfAnyLengthAreTheNearestDouble)
     EXPECT_TRUE(std::signbit(*numberOf("-0")));
 }
 
-TEST(CellNumberTest, ShortTextsAreReadAsTheStandardLibraryReadsThem)
+TEST(NumberReaderTest, ShortTextsAreReadAsTheStandardLibraryReadsThem)
 {
     std::mt19937 random(1);
     for (int i = 0; i < 500'000; ++i)
@@ -72,7 +72,7 @@ TEST(CellNumberTest, ShortTextsAreReadAsTheStandardLibraryReadsThem)
     }
 }
 
-TEST(CellNumberTest, WhatIsNoNumberIsNotRead)
+TEST(NumberReaderTest, WhatIsNoNumberIsNotRead)
 {
     for (const char* const text :
          { "",     " ",   "abc", "2,5",  "1 000",    "2.5kg", "+-2",   "-+2",   "--2",  "+",    "-",   ".",  "e5",
@@ -80,7 +80,7 @@ TEST(CellNumberTest, WhatIsNoNumberIsNotRead)
         EXPECT_FALSE(numberOf(text)) << text;
 }
 
-TEST(CellNumberTest, WholeNumbersHaveThirtyTwoBits)
+TEST(NumberReaderTest, WholeNumbersHaveThirtyTwoBits)
 {
     EXPECT_EQ(2147483647, wholeOf("2147483647"));
     EXPECT_EQ(-2147483647 - 1, wholeOf("-2147483648"));
@@ -90,23 +90,23 @@ TEST(CellNumberTest, WholeNumbersHaveThirtyTwoBits)
         EXPECT_FALSE(wholeOf(text)) << text;
 }
 
-TEST(CellNumberTest, WholeTextsMayBeLongerThanANumber)
+TEST(NumberReaderTest, WholeTextsMayBeLongerThanANumber)
 {
-    EXPECT_TRUE(CellNumber::isWhole("99999999999999999999"));
-    EXPECT_TRUE(CellNumber::isWhole("-7 "));
-    EXPECT_FALSE(CellNumber::isWhole("7.0"));
-    EXPECT_FALSE(CellNumber::isWhole("-"));
-    EXPECT_FALSE(CellNumber::isWhole(""));
+    EXPECT_TRUE(NumberReader::isWhole("99999999999999999999"));
+    EXPECT_TRUE(NumberReader::isWhole("-7 "));
+    EXPECT_FALSE(NumberReader::isWhole("7.0"));
+    EXPECT_FALSE(NumberReader::isWhole("-"));
+    EXPECT_FALSE(NumberReader::isWhole(""));
 }
 
-TEST(CellNumberTest, LeadingZerosAreSeen)
+TEST(NumberReaderTest, LeadingZerosAreSeen)
 {
-    EXPECT_TRUE(CellNumber::hasLeadingZeros("007"));
-    EXPECT_TRUE(CellNumber::hasLeadingZeros("-07"));
-    EXPECT_TRUE(CellNumber::hasLeadingZeros("00"));
-    EXPECT_FALSE(CellNumber::hasLeadingZeros("0"));
-    EXPECT_FALSE(CellNumber::hasLeadingZeros("0.7"));
-    EXPECT_FALSE(CellNumber::hasLeadingZeros("70"));
-    EXPECT_FALSE(CellNumber::hasLeadingZeros(""));
+    EXPECT_TRUE(NumberReader::hasLeadingZeros("007"));
+    EXPECT_TRUE(NumberReader::hasLeadingZeros("-07"));
+    EXPECT_TRUE(NumberReader::hasLeadingZeros("00"));
+    EXPECT_FALSE(NumberReader::hasLeadingZeros("0"));
+    EXPECT_FALSE(NumberReader::hasLeadingZeros("0.7"));
+    EXPECT_FALSE(NumberReader::hasLeadingZeros("70"));
+    EXPECT_FALSE(NumberReader::hasLeadingZeros(""));
 }
 }

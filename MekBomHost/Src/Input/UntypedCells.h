@@ -1,5 +1,5 @@
-// The cells of a column that the catalogue of tokens does not know, kept until all have been seen and their one type is
-// clear:
+// The cells of a column that the catalogue of tokens does not know, kept as texts until all have been seen and their one
+// type is clear:
 //
 //   "4", "12"            ->  whole numbers
 //   "4", "12.5"          ->  numbers
@@ -8,7 +8,7 @@
 //                            not be shown as they are written
 #pragma once
 
-#include "TextCache.h"
+#include "TextPool.h"
 
 #include "VorBomDataValue.h"
 
@@ -19,7 +19,7 @@
 
 namespace mekbom
 {
-class ContentColumn
+class UntypedCells
 {
 public:
     // `cell` is not empty.
@@ -38,6 +38,6 @@ private:
     bool m_allAreInts = true;
     bool m_allAreWhole = true;
     bool m_allAreNumbers = true;
-    TextCache m_texts;
+    TextPool m_texts;
 };
 }

@@ -11,12 +11,12 @@
 
 namespace mekbom
 {
-struct ColumnName
+struct ColumnHeading
 {
     std::string token; // with its '%'; only "%" when the field has no name
     std::string unit;  // as written between the brackets, empty without them
 
-    static ColumnName parse(std::string_view field);
+    static ColumnHeading parse(std::string_view field);
 
     // `name` with a '%' in front unless it starts with one.
     static std::string tokenOf(std::string_view name);

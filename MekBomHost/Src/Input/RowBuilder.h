@@ -1,14 +1,16 @@
-// The next few rows of a parts list, made together: their texts that come back, such as marks, are first all looked for
-// and then all copied, so that the memory in which they lie, far apart from each other, is waited for once.
+// Makes data rows of values that have been read and checked: takes them value by value, and makes some rows at a time.
 //
-//   batch.beginRow(handle);
-//   batch.add(lengthToken, 2286.0);
-//   batch.addText(nameToken, 3, "HEA200");      the text of a cell of column 3
-//   if (batch.isFull())
-//       batch.build();
+//   rows.beginRow();
+//   rows.setHandle("1A7");
+//   rows.add(lengthToken, 2286.0);
+//   rows.addText(nameToken, 3, "HEA200");      // the text of a cell of column 3
+//   if (rows.isFull())
+//       rows.build();                          // appended to the data
+//
+// Equal texts of a column share their characters (TextPool).
 #pragma once
 
-#include "TextCache.h"
+#include "TextPool.h"
 
 #include "VorBomData.h"
 #include "VorBomDataTuple.h"
@@ -22,13 +24,13 @@
 
 namespace mekbom
 {
-class RowBatch
+class RowBuilder
 {
 public:
     // `data` is not owned and outlives this; it owns the rows. Rows have at most one datum for each column and one more.
-    RowBatch(VorBomData& data, std::size_t numColumns);
-    RowBatch(const RowBatch&) = delete;
-    RowBatch& operator=(const RowBatch&) = delete;
+    RowBuilder(VorBomData& data, std::size_t numColumns);
+    RowBuilder(const RowBuilder&) = delete;
+    RowBuilder& operator=(const RowBuilder&) = delete;
 
     // Rows get room for that many more tuples.
     void reserveTuples(int numTuples) { m_numReserved = numTuples; }
@@ -38,8 +40,8 @@ public:
     // Must not be full.
     void beginRow();
 
-    // Complete the row begun last. Tokens are not owned and outlive the batch; texts are valid UTF-8 and not
-    // empty.
+    // These complete the row begun last. Tokens are not owned and stay as they are until the row is built; texts are
+    // copied, valid UTF-8 and not empty.
     void setHandle(std::string_view text);
     void add(const VorString& token, int value);
     void add(const VorString& token, double value);
@@ -52,7 +54,7 @@ public:
 private:
     static constexpr std::size_t kMostRows = 64; // measured: no faster beyond
 
-    // What `type` says.
+    // A value of the kind that `type` says, still to become a tuple of its row.
     struct Datum
     {
         const VorString* pToken;
@@ -72,11 +74,11 @@ private:
         std::uint64_t shortHandle; // the same where it has up to eight bytes, until the row is built; else 0
     };
 
-    // For a text that is still to be found.
+    // A short text that is still to be found in its pool.
     struct LookUp
     {
         Datum* pDatum;
-        TextCache* pTexts;
+        TextPool* pTexts;
         std::uint64_t key;
     };
 
@@ -86,8 +88,8 @@ private:
     void buildRow(Row& row, std::size_t endDatum);
 
     VorBomData& m_data;
-    std::vector<TextCache> m_texts; // one for each column
-    std::vector<Row> m_rows;        // the first m_numRows of them
+    std::vector<TextPool> m_texts; // one for each column
+    std::vector<Row> m_rows;       // the first m_numRows of them
     std::size_t m_numRows = 0;
     std::vector<Datum> m_values; // of all rows, one after the other: the first m_numValues of them
     std::size_t m_numValues = 0;

@@ -12,7 +12,7 @@
 
 namespace mekbom
 {
-struct PartsColumn
+struct InputColumn
 {
     std::string name;       // as the header row has it, for messages
     std::string token;      // "%Length"

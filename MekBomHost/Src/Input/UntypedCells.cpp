@@ -1,10 +1,10 @@
-#include "ContentColumn.h"
+#include "UntypedCells.h"
 
-#include "CellNumber.h"
+#include "NumberReader.h"
 
 namespace mekbom
 {
-void ContentColumn::add(std::string_view cell)
+void UntypedCells::add(std::string_view cell)
 {
     m_bytes += cell;
     m_ends.push_back(m_bytes.size());
@@ -12,12 +12,12 @@ void ContentColumn::add(std::string_view cell)
         return;
     int whole = 0;
     double number = 0;
-    m_allAreInts = m_allAreInts && CellNumber::parse(cell, whole);
-    m_allAreWhole = m_allAreWhole && CellNumber::isWhole(cell);
-    m_allAreNumbers = CellNumber::parse(cell, number) && !CellNumber::hasLeadingZeros(cell);
+    m_allAreInts = m_allAreInts && NumberReader::read(cell, whole);
+    m_allAreWhole = m_allAreWhole && NumberReader::isWhole(cell);
+    m_allAreNumbers = NumberReader::read(cell, number) && !NumberReader::hasLeadingZeros(cell);
 }
 
-VorBomDataValue::eBomDataValueType ContentColumn::type() const
+VorBomDataValue::eBomDataValueType UntypedCells::type() const
 {
     if (m_ends.empty() || !m_allAreNumbers)
         return VorBomDataValue::kStringData;
@@ -26,7 +26,7 @@ VorBomDataValue::eBomDataValueType ContentColumn::type() const
     return m_allAreWhole ? VorBomDataValue::kStringData : VorBomDataValue::kDoubleData;
 }
 
-VorBomDataValue ContentColumn::takeNext()
+VorBomDataValue UntypedCells::takeNext()
 {
     const std::size_t begin = m_next == 0 ? 0 : m_ends[m_next - 1];
     const std::string_view cell = std::string_view(m_bytes).substr(begin, m_ends[m_next] - begin);
@@ -35,8 +35,8 @@ VorBomDataValue ContentColumn::takeNext()
     double number = 0;
     switch (type())
     {
-        case VorBomDataValue::kIntData: CellNumber::parse(cell, whole); return VorBomDataValue(whole);
-        case VorBomDataValue::kDoubleData: CellNumber::parse(cell, number); return VorBomDataValue(number);
+        case VorBomDataValue::kIntData: NumberReader::read(cell, whole); return VorBomDataValue(whole);
+        case VorBomDataValue::kDoubleData: NumberReader::read(cell, number); return VorBomDataValue(number);
         default: return VorBomDataValue(m_texts.textOf(cell));
     }
 }

@@ -1,0 +1,11 @@
+#include "MemorySource.h"
+
+namespace mekbom
+{
+std::size_t MemorySource::read(char* pBytes, std::size_t size)
+{
+    const std::size_t numRead = m_rest.copy(pBytes, size);
+    m_rest.remove_prefix(numRead);
+    return numRead;
+}
+}

@@ -1,0 +1,115 @@
+// Nearly all numbers are a few digits, perhaps with a point among them. "12.50" is read as the digits 1250, two of them
+// behind the point, and is 1250 / 100: so few digits are an exact double, a power of ten is another, and the quotient of
+// exact doubles is the double next to the true one, 12.5. That is the number std::from_chars finds by a longer way,
+// which all other texts take.
+#include "NumberReader.h"
+
+#include "MekRoots/Exp/VorCharacters.h"
+#include "MekRoots/Exp/VorPowersOfTen.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+
+namespace mekbom::NumberReader
+{
+namespace
+{
+using VorCharacters::isDigit;
+
+struct PlainNumber
+{
+    std::int64_t digits = 0;     // 1250
+    std::size_t numDecimals = 0; // 2, of "12.50"
+};
+
+// digits [ '.' digits ], of up to as many characters as a double holds digits; false for any other text, which may be a
+// number all the same.
+bool readPlain(std::string_view text, PlainNumber& number)
+{
+    const std::size_t size = text.size();
+    if (size == 0 || size > static_cast<std::size_t>(std::numeric_limits<double>::digits10))
+        return false;
+    std::size_t numBehindPoint = 0;
+    for (std::size_t i = 0; i < size; ++i)
+    {
+        if (isDigit(text[i]))
+            number.digits = number.digits * 10 + (text[i] - '0');
+        else if (text[i] == '.' && numBehindPoint == 0 && i > 0)
+            numBehindPoint = size - i;
+        else
+            return false;
+    }
+    number.numDecimals = numBehindPoint == 0 ? 0 : numBehindPoint - 1;
+    return numBehindPoint != 1;
+}
+
+std::string_view withoutBlanks(std::string_view text)
+{
+    return VorCharacters::trimmed(text, " \t");
+}
+
+// std::from_chars knows no plus sign.
+std::string_view withoutPlus(std::string_view text)
+{
+    return text.size() > 1 && text[0] == '+' && text[1] != '-' ? text.substr(1) : text;
+}
+
+std::string_view withoutSign(std::string_view text)
+{
+    return !text.empty() && (text[0] == '+' || text[0] == '-') ? text.substr(1) : text;
+}
+
+template <class Number>
+bool readAny(std::string_view text, Number& value)
+{
+    text = withoutPlus(withoutBlanks(text));
+    Number number = 0;
+    const char* const pEnd = text.data() + text.size();
+    const std::from_chars_result result = std::from_chars(text.data(), pEnd, number);
+    if (text.empty() || result.ec != std::errc() || result.ptr != pEnd)
+        return false;
+    value = number;
+    return true;
+}
+}
+
+bool read(std::string_view text, int& value)
+{
+    PlainNumber number;
+    if (!readPlain(text, number) || number.numDecimals > 0 || number.digits > std::numeric_limits<int>::max())
+        return readAny(text, value);
+    value = static_cast<int>(number.digits);
+    return true;
+}
+
+bool read(std::string_view text, double& value)
+{
+    PlainNumber plain;
+    if (readPlain(text, plain))
+    {
+        value = static_cast<double>(plain.digits) / VorPowersOfTen::kAll<double>[plain.numDecimals];
+        return true;
+    }
+    double number = 0;
+    if (!readAny(text, number) || !std::isfinite(number))
+        return false;
+    value = number;
+    return true;
+}
+
+bool isWhole(std::string_view text)
+{
+    text = withoutSign(withoutBlanks(text));
+    return !text.empty() && std::all_of(text.begin(), text.end(), isDigit<char>);
+}
+
+bool hasLeadingZeros(std::string_view text)
+{
+    text = withoutSign(withoutBlanks(text));
+    return text.size() > 1 && text[0] == '0' && isDigit(text[1]);
+}
+}
