@@ -1,12 +1,5 @@
 // Up to eight bytes of text as one number, so that short cells are read, compared and told apart without a loop over
 // their bytes, whose end no processor foresees.
-//
-//   ByteWord::of("S355")                       ->  0x35353353: 'S' is 0x53 and lowest, zeros stand above the last
-//   ByteWord::of("S355") == ByteWord::of("S35")   ->  false
-//   char bytes[ByteWord::kSize];
-//   ByteWord::write(0x35353353, bytes)         ->  "S355"
-//
-// Two texts of up to eight bytes are the same if their words are, unless zero bytes end one of them.
 #pragma once
 
 #include <cstddef>
