@@ -28,6 +28,7 @@ using VorStringArrayArray = VorArray<VorStringArray>;
 class MEK_BOM_API VorBomDataRow : public VorBomItemBase
 {
 public:
+    // Without handles, counted in sums. Copies take handles and links over as they stand: sub-rows are shared.
     VorBomDataRow() = default;
     VorBomDataRow(const VorBomDataRow& other);
     VorBomDataRow& operator=(const VorBomDataRow& other);

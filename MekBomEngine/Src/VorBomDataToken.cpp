@@ -1,3 +1,7 @@
+// A request is a prefix and what follows it, mostly a list. Told on "%SortAscBy: %A,%SortDescBy:%B":
+//   starts with "%SortAscBy:"           it is a sorting request
+//   blanks removed, split at commas     "%SortAscBy:%A" and "%SortDescBy:%B": a direction stays with its element
+//   removeSortingPrefix                 "%A" ascending, "%B" descending
 #include "VorBomDataToken.h"
 
 #include "VorBomTokenCatalogue.h"

@@ -53,6 +53,7 @@ public:
     VorBomDataTuple& operator=(VorBomDataTuple&& other) noexcept = default;
     ~VorBomDataTuple() = default;
 
+    // The references live as long as the tuple. Only an assignment replaces the token.
     const VorBomDataToken& token() const { return m_token; }
     const VorBomDataValue& value() const { return m_value; }
     VorBomDataValue& value() { return m_value; }

@@ -1,11 +1,10 @@
 // Turns a template with its data into the evaluated report: sorted, grouped, summed, computed and shown in the
 // template's units.
 //
-//   std::unique_ptr<VorBomTemplate> pTemplate = ...;   // sections as children, rows under getBomData()
 //   pTemplate->setUnitsForTokens(&units);              // 1. the units to show numbers in
 //   pTemplate->findUsedTokens();                       // 2. fills the grouping and sorting caches of the sections
 //   VorBomTemplate result;
-//   VorBomEvaluator2::evaluate(pTemplate.get(), &result);   // 3.
+//   VorBomEvaluator2::evaluate(pTemplate, &result);    // 3. of sections as children, rows under getBomData()
 //
 // Call order. evaluate() reads the sections' grouping and sorting caches as they stand and fills none: without step 2 a
 // report is neither grouped nor sorted. setUnitsForTokens and findUsedTokens may be called in either order.

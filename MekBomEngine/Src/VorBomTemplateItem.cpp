@@ -1,3 +1,9 @@
+// What a section asks for (Requests) is shared until somebody asks. Told on a group header of a template, and two sections
+// of a report made from it:
+//   header.findGroupingTokens()       the header has an object of its own, { %PosNum }, and makes a second one for copies
+//   two sections are made from it     both point to the second one; a million would cost no more
+//   first.groupingTokens()            the first gets an object of its own, and answers with a reference into that
+//   first.findGroupingTokens()        fills it anew, in place: the reference shows it, and the other section knows nothing
 #include "VorBomTemplateItem.h"
 
 #include "MekRoots/Exp/VorAssert.h"

@@ -19,6 +19,7 @@
 class MEK_BOM_API VorBomTokenCatalogue
 {
 public:
+    // One kind of token. Owns nothing: names are literals.
     struct Entry
     {
         // Takes the length from the literal.
@@ -33,6 +34,7 @@ public:
         {
         }
 
+        // Whether `token` is this one, or starts with its name where that stands for all that do.
         bool matches(const VorString& token) const;
 
         const wchar_t* name;

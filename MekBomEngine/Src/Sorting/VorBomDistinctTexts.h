@@ -1,6 +1,10 @@
 // The different texts of a column, numbered from 0 in the order in which they are met.
 //
-//   indexOf("S235")  ->  0      indexOf("S355")  ->  1      indexOf("S235")  ->  0
+//   VorBomDistinctTexts steels;
+//   steels.indexOf(s235)       ->  0
+//   steels.indexOf(s355)       ->  1
+//   steels.indexOf(s235Again)  ->  0, be it the same text or an equal one
+//   steels.texts().size()      ->  2
 //
 // The texts are not owned and must outlive this object.
 #pragma once

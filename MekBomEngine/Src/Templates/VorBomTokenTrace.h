@@ -1,8 +1,8 @@
 // Collects the tokens that a template names, each once as far as required, for VorBomTemplate::findUsedTokens.
 //
-//   VorBomTokenTrace trace(tokens);                   // goes on with what `tokens` holds
-//   trace.addTuple(L"%SumBy:%Formula:%A*%B");         // itself, "%Formula:%A*%B", "%A", "%B"
-//   trace.addSortingTokens({ "%SortAscBy:%Name" });   // "%Name"
+//   VorBomTokenTrace trace(tokens);                      // goes on with what `tokens` holds
+//   trace.addTuple(L"%SumBy:%Formula:%A*%B");            // itself, "%Formula:%A*%B", "%A", "%B"
+//   trace.addSortingTokens(section.sortingTokens());     // of "%SortAscBy:%Name" the token "%Name"
 //   trace.sort();
 //
 // Tokens are told apart exactly. `tokens` is not owned and not touched by others while the trace lives.

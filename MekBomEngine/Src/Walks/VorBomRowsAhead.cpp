@@ -1,3 +1,10 @@
+// Told on rows 1, 2, 3 ... while row 1 is being evaluated. Four fetches are on their way, none of which needs what another
+// of them brings:
+//   row 6                   whose address row 5 has, which came a row ago
+//   tuples of row 4         whose address row 4 has
+//   payloads of row 3       whose addresses its tuples have
+//   texts of row 2          whose addresses its payloads have
+// When row 2 is evaluated, each step takes the row after.
 #include "VorBomRowsAhead.h"
 
 #include "VorBomDataRow.h"
