@@ -17,7 +17,7 @@ public:
     class Iterator
     {
     public:
-        // At the first counted row from `pRow` on, or at `pEnd`.
+        // Stands at the first counted row from `pRow` on, or at `pEnd` when there is none.
         Iterator(VorBomDataRow* const* pRow, VorBomDataRow* const* pEnd) : m_pRow(pRow), m_pEnd(pEnd) { skip(); }
 
         const VorBomDataRow& operator*() const { return **m_pRow; }
@@ -41,7 +41,7 @@ public:
     };
 
     VorBomCountedRows() = default; // none
-    // Those of `rows` that count at the time they are read. The list is not owned, must not change, and holds no null.
+    // The rows of `rows` that count at the time they are read. The list is not owned, must not change, and holds no null.
     explicit VorBomCountedRows(const VorArray<VorBomDataRow*>& rows) : m_pBegin(rows.begin()), m_pEnd(rows.end()) {}
 
     Iterator begin() const { return Iterator(m_pBegin, m_pEnd); }

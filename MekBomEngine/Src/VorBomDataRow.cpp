@@ -95,7 +95,7 @@ VorStringArray& VorBomDataRow::ownHandles() const
     return *pNew.release();
 }
 
-// Without asking `other`, which would give it an array.
+// Reads the pointer of `other` rather than ask for its handles, which would give it an array.
 void VorBomDataRow::takeHandlesOf(const VorBomDataRow& other)
 {
     const VorStringArray* pHandles = other.m_pEqualPartObjectHandles.load();

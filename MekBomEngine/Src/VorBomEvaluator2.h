@@ -29,7 +29,7 @@
 //   - rows whose details section equals the one before under the same parent are merged away: that section is dropped
 //     and getUseThisDataForSums() of the row becomes 0, so that no total counts it;
 //   - the template's units learn the unit of each formula shown.
-// For a second evaluation from the start, build fresh data.
+// Whoever wants to evaluate a second time from the start builds fresh data.
 //
 // Threads: evaluations on different threads may run at once, each with its own template, data and result.
 #pragma once

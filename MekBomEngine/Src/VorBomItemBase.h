@@ -77,8 +77,8 @@ public:
     // it children with setChild. The tuples stay. Pinned by VorBomItemBaseTest.EmptyLeavesTheLinksAndTuples.
     void empty();
 
-    // The tuples, in their order: append one, replace all, or work on the list itself. Nothing keeps two from having one
-    // token; the first is found then.
+    // The tuples, in their order: append one, replace all, or work on the list itself. Two may have the same token; the
+    // first is found then.
     void addData(const VorBomDataTuple& tuple) { m_data.append(tuple); }
     void addData(VorBomDataTuple&& tuple) { m_data.append(std::move(tuple)); }
     void setData(const VorBomDataTupleArray& data) { m_data = data; }

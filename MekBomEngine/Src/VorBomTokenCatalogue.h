@@ -47,7 +47,7 @@ public:
     // The first entry that matches the whole token, its prefix not stripped; null when there is none. Case counts.
     static const Entry* find(const VorString& token);
 
-    // Half-open range over the table: text tokens, then whole numbers, then numbers.
+    // The table as a half-open range: tokens of texts, then of whole numbers, then of numbers.
     static const Entry* begin();
     static const Entry* end();
 };

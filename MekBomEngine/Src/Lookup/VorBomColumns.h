@@ -4,7 +4,7 @@
 //   columns.find(row);
 //   columns[1]   ->  the row's first tuple "%Weight", or null
 //
-// Finds what VorBomItemBase::getTupleAt finds. What columns[] answers is valid until find() is called for another row or
+// Finds what VorBomItemBase::getTupleAt finds. What columns[] answers is valid until find() is asked for another row or
 // the row gets further tuples.
 #pragma once
 
@@ -25,7 +25,7 @@ public:
     // No row has the column from now on. To be called before the first row.
     void leaveOut(int column) { m_leftOut.push_back(column); }
 
-    // To be moved only: it points into its own list of positions.
+    // Columns are moved, never copied: they point into their own list of positions.
     VorBomColumns(const VorBomColumns&) = delete;
     VorBomColumns& operator=(const VorBomColumns&) = delete;
     VorBomColumns(VorBomColumns&&) noexcept = default;

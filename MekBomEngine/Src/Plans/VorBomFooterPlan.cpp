@@ -77,7 +77,7 @@ void takeValue(VorBomDataValue& columnValue, const VorBomDataValue& rowValue, bo
     columnValue = rowValue; // an empty value changes nothing
 }
 
-// Of plain tokens the tokens themselves, of totals what they add up.
+// What each column is looked up by in rows: a plain token by itself, a total by the token that it adds up.
 std::vector<VorString> tokensOf(const VorBomDataTupleArray& tuples)
 {
     std::vector<VorString> tokens;

@@ -49,7 +49,7 @@ VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum,
     return VorBomDataTuple(column.token().token(), pDatum->value(), cells, column.used());
 }
 
-// The same tuple once more, without the report that the first one raised.
+// Makes the tuple once more that tupleFor() made, without the report that it may have raised.
 VorBomDataTuple tupleAgainFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, VorBomPayloadCells& cells)
 {
     const bool isEmpty = pDatum != nullptr && pDatum->value().type() == VorBomDataValue::kUnknownData;

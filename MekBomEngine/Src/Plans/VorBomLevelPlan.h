@@ -24,7 +24,7 @@ public:
     // 1 when the rows agree in what the header groups by; answers as VorBomDataRow::compare being 0.
     int isSameGroup(VorBomDataRow& row, VorBomDataRow& lastRow);
 
-    // From now on the values of both sections are kept when they are shown.
+    // Lets both sections keep their values when they are shown, from now on.
     void keepValues();
 
     VorBomHeaderPlan header;

@@ -24,11 +24,11 @@ public:
     // The number of the text equal to `text`, a new one if there is none yet.
     std::uint32_t indexOf(const VorString& text);
 
-    // In the order of their numbers.
+    // The texts in the order of their numbers; each is the first of its equals that was met.
     const std::vector<const VorString*>& texts() const { return m_texts; }
 
 private:
-    // Of the open-addressed table: a text's hash and number. Free while `number` is kNone.
+    // A place of the open-addressed table, with the hash and the number of a text. It is free while `number` is kNone.
     struct Slot
     {
         std::uint32_t hash = 0;

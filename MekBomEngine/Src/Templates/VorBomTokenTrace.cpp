@@ -53,7 +53,7 @@ bool VorBomTokenTrace::addIfNew(const VorString& token)
     return true;
 }
 
-// Nothing for a token that is no formula.
+// Adds nothing for a token that is no formula.
 void VorBomTokenTrace::addTokensOfFormula(VorString token)
 {
     if (!VorBomDataToken::removeFormulaPrefix(token))

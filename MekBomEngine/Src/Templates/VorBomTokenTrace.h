@@ -24,11 +24,12 @@ public:
     // Pinned by VorBomTemplateTest.FormulaTokensMayRepeatInTheTrace.
     void addTuple(const VorString& token);
 
+    // The tokens themselves, those to sort by without their direction prefixes, as far as they are new.
     void addGroupingTokens(const VorStringArray& tokens);
-    // Without their direction prefixes.
     void addSortingTokens(const VorStringArray& tokens);
 
-    // Ascending without regard to case; tokens that differ in case only stay in the order they were found in.
+    // Puts all tokens in ascending order without regard to case. Tokens that differ in case alone stay in the order in
+    // which they were found.
     void sort();
 
 private:
