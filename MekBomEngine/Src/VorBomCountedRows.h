@@ -41,7 +41,7 @@ public:
     };
 
     VorBomCountedRows() = default; // none
-    // The rows of `rows` that count at the time they are read. The list is not owned, must not change, and holds no null.
+    // The rows of `rows` that count when they are read. The list is not owned, must not change, and holds no null.
     explicit VorBomCountedRows(const VorArray<VorBomDataRow*>& rows) : m_pBegin(rows.begin()), m_pEnd(rows.end()) {}
 
     Iterator begin() const { return Iterator(m_pBegin, m_pEnd); }

@@ -1,4 +1,4 @@
-// Told on rows 1, 2, 3 ... while row 1 is being evaluated. Four fetches are on their way, and none needs what another of
+// Told on rows 1, 2, 3 ... while row 1 is evaluated. Four fetches are on their way, and none needs what another of
 // them brings:
 //   row 6                   whose address row 5 has, which came a row ago
 //   tuples of row 4         whose address row 4 has
