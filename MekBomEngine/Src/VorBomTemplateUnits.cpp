@@ -1,8 +1,8 @@
 // Kinds of quantity are numbered three ways: by eTokenUnitType, which template files carry; by eSystems, which units
 // managers are asked by; and by their places in VorUnitsTransformArray::kSystems, where the units stand here.
 //
-//   %Area is of type kAreaUnit, 3; its system is kArea, 4; its unit is m_units[3]
-//   %Angle is of type kAngleUnit, 4; its system is kAngle, 1; its unit is m_units[1]
+//   areas     type kAreaUnit, 3     system kArea, 4      unit m_units[3]
+//   angles    type kAngleUnit, 4    system kAngle, 1     unit m_units[1]
 //
 // One table below leads from types to places; from there kSystems leads to systems.
 #include "VorBomTemplateUnits.h"
@@ -74,7 +74,7 @@ VorBomTemplateUnits::eTokenUnitType VorBomTemplateUnits::unitTypeOf(VorUnitsTran
 
 void VorBomTemplateUnits::setUnits(const VorUnitsManager* pManager)
 {
-    for (const std::size_t unit : kUnitOfType) // in the order in which managers have always been asked
+    for (const std::size_t unit : kUnitOfType) // as managers have always been asked: distance, weight, area ...
         if (unit != kNone)
             m_units[unit] = pManager->getUnit(Systems::kSystems[unit]);
     readSettings();
