@@ -1,3 +1,8 @@
+// A number is formatted only if its text is not known yet. Told on "%Formula:%Length*2" in a report in millimetres:
+//   100.0    the units know no type for "%Length*2", so that of %Length is registered; "100" is made and remembered
+//   100.0    the text remembered is shown, the same text shared
+//   then another column registers a type of its own, and numTokenTypes() has grown
+//   100.0    the type is looked up anew, as that column may have been about this very formula, and the text made anew
 #include "VorBomDisplayColumn.h"
 
 #include "MekRoots/Exp/VorNumberText.h"

@@ -1,3 +1,6 @@
+// Told on [%Weight:12.5][%Name:HEA200], shown in pounds, by a plan that keeps values:
+//   %Weight    12.5 is written down, the number becomes "27.56", and its column knows now: that was a weight
+//   %Name      a text is written down as what it is, and shown as it stands
 #include "VorBomDisplayPlan.h"
 
 namespace

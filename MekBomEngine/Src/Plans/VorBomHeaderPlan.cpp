@@ -1,3 +1,9 @@
+// Told on a details section %Weight 0.0, "%Formula:%Weight*2" "" and a row %Weight 2.5:
+//   process             the payloads of both tuples come from one stretch of cells; 2.5 is the row's, "" the template's
+//   computeFormulas     5.0 replaces "" in its cell, and a tuple with 5.0 is appended to the row. Its cell is one of a
+//                       stretch that serves many rows, since it stays with the row when the section goes
+//   leaveLastFormula    after the last row that section is made once more, and its last formula computed by the
+//                       evaluator that leaves variables and errors in the thread's lists
 #include "VorBomHeaderPlan.h"
 
 #include "ExpressionEvaluator/Src/ExpressionsEvaluator.h"

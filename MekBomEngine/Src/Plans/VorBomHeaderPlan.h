@@ -45,7 +45,7 @@ public:
 
     // From now on computeFormulas() writes down the formulas that fail: each costs another evaluation, for its message.
     void keepFailures() { m_keepsFailures = true; }
-    // Those of the section computed last, in its order; none unless they are kept.
+    // The failures of the section computed last, in the order of its tuples; none unless they are kept.
     const std::vector<Failure>& failures() const { return m_failures; }
 
     // Shows such sections.
