@@ -57,5 +57,4 @@ private:
 
     const wchar_t* m_pText; // not owned
     unsigned int m_nLength;
-    wchar_t m_cSeparator;
 };
