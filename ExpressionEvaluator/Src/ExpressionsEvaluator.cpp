@@ -1,7 +1,7 @@
 // The formula "a=4;a*2" of 7 characters is evaluated in two statements:
 //   "a=4"      3 characters, up to the separator
-//   "a*2\0"    4 characters: no separator follows, so that it is the last one and gets what the formula has without as many
-//              as the statement before it. The text has 3 more of them; the view answers zero for the fourth.
+//   "a*2\0"    4 characters: no separator follows, so that it is the last one, as long as the formula without as many
+//              characters as the statement before it has. The text has 3 more; the view answers zero for the fourth.
 // Each is parsed into a tree of its own, and variables are all that passes from one to the next.
 #include "ExpressionsEvaluator.h"
 

@@ -31,7 +31,7 @@ int VorExprEvTextView::measureText() const
     return clampedLength(nEnd + std::wcslen(m_pText + nEnd));
 }
 
-// Both views have the same length. One that reaches beyond its text has zero characters there, so that the other one must
+// Both views have the same length. One that reaches beyond its text has zero characters there, and the other one must
 // have them, too.
 bool VorExprEvTextView::hasSameCharacters(const VorExprEvTextView& other) const
 {

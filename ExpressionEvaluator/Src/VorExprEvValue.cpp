@@ -26,8 +26,8 @@ constexpr double kParts = 1e6;
 constexpr double kMostParts = 17592186044416.0; // 2^44
 constexpr double kTooCloseToCall = 1.0 / 256;
 
-// 2^52: from here on there are only whole numbers, so that a sum with it is rounded to one, ties to even. A library call
-// for that would cost as much as the rest.
+// 2^52: from here on there are only whole numbers, so that a sum with it is rounded to one, ties to even. A call of the
+// library for that would cost as much as the rest.
 constexpr double kWholeNumbers = 4503599627370496.0;
 
 static_assert(VorNumberText::fixedRoom(kDecimals) < VorExprEvValue::kBufferLength, "every double has its text");

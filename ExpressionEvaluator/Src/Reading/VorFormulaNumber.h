@@ -16,9 +16,9 @@
 namespace VorFormulaNumber
 {
 // Reads digits, or digits with a point among or behind them, from the zero-terminated text, which begins with a digit,
-// and answers where the operand ends. Null if the operand goes on, and where a single division does not give the number:
-// it does if a float holds both the digits without their point and the power of ten to divide them by, for the quotient
-// of two exact floats is rounded to the float nearest to the text. `number` is untouched when null is answered.
+// and answers where the operand ends. Null, with `number` untouched, if the operand goes on, and where one division
+// does not give the number. It does if a float holds both the digits without their point and the power of ten to divide
+// them by: the quotient of two exact floats is rounded to the float nearest to the text.
 inline const wchar_t* scanShort(const wchar_t* pText, double& number)
 {
     constexpr std::uint64_t kMostExact = 1U << 24;

@@ -15,10 +15,10 @@
 //   4      waiting +
 //   end    waiting         combine +
 //
-// The client is a class of its own for whoever makes something of a formula: its number (VorFormulaCalculator), its tree
-// (VorTreeBuilder), the steps to compute it by later (VorCompiledFormula). It has
+// Whoever makes something of a formula has a client class of its own for it: its number (VorFormulaCalculator), its
+// tree (VorTreeBuilder), the steps to compute it by later (VorCompiledFormula). Such a client has
 //
-//   eKind kindAt(const wchar_t* pText)             what stands there; kEnd at the statement's end, which is not looked at
+//   eKind kindAt(const wchar_t* pText)             what stands there; kEnd at the end, whatever stands there
 //   const wchar_t* readOperand(pText, eKind kind)  takes the operand there; answers where it ends, or null to give up
 //   void addNothing()                              takes the missing left side of a negation for an operand
 //   Left left(const wchar_t* pText)                what to keep with the operator at pText, which begins to wait

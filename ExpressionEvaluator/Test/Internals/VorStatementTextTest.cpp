@@ -43,8 +43,8 @@ TEST(VorStatementTextTest, AStatementWithinATextIsReadAsIfItStoodAlone)
     EXPECT_EQ("3 4", operandAt(text, 3));
 }
 
-// The last statement of several is measured by the one before it: "a=4;2*a" ends in the statement "2*a", which has a zero
-// character that the text has not.
+// The last statement of several is measured by the one before it: that of "a=4;2*a" is one character longer than "2*a",
+// and that character is zero.
 TEST(VorStatementTextTest, TheLastOperandTakesInTheZeroCharactersBeyondTheText)
 {
     const VorStatementText beyond(VorExprEvTextView(L"2*a", 0, 5, 3));
