@@ -1,7 +1,7 @@
 #include "Finding.h"
 
 #include "FindingCodes.h"
-#include "MessageText.h"
+#include "InQuotes.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #include "CellReader.h"
 
 #include "FindingCodes.h"
+#include "InQuotes.h"
 #include "InputUnits.h"
-#include "MessageText.h"
 #include "NumberReader.h"
 #include "Utf8.h"
 

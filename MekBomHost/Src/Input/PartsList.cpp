@@ -5,8 +5,8 @@
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
+#include "InQuotes.h"
 #include "InputUnits.h"
-#include "MessageText.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"

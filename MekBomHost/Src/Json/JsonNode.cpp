@@ -1,6 +1,6 @@
 #include "JsonNode.h"
 
-#include "MessageText.h"
+#include "InQuotes.h"
 
 #include <algorithm>
 #include <charconv>

@@ -5,8 +5,8 @@
 #include "TemplateReader.h"
 
 #include "FindingCodes.h"
+#include "InQuotes.h"
 #include "JsonReader.h"
-#include "MessageText.h"
 #include "Utf8.h"
 
 #include "VorBomDataTuple.h"

@@ -2,8 +2,8 @@
 
 #include "Fault.h"
 #include "FindingCodes.h"
+#include "InQuotes.h"
 #include "IniFile.h"
-#include "MessageText.h"
 #include "NumberReader.h"
 
 #include <algorithm>

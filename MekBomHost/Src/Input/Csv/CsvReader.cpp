@@ -11,7 +11,7 @@
 
 #include "Fault.h"
 #include "FindingCodes.h"
-#include "MessageText.h"
+#include "InQuotes.h"
 #include "TextCheck.h"
 #include "Utf8.h"
 

@@ -1,4 +1,4 @@
-#include "MessageText.h"
+#include "InQuotes.h"
 
 #include "Utf8.h"
 
