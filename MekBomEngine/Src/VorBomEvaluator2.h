@@ -108,9 +108,12 @@ private:
     // 1 when both hold as many tuples and equal values in them, whatever their tokens.
     static int isEqualAsEvaluated(const VorBomTemplateItem* pFirst, const VorBomTemplateItem* pSecond);
 
-    // Formulas and display. The row may be null.
+    // Computes the formulas of a section that was made from the row, or from none when that is null, and appends their
+    // results to the row. The formula computed last leaves its variables and errors in the thread's lists.
     static void evaluateExpressions(VorBomTemplateItem* pItem, VorBomDataRow* pRow);
+    // Replaces numbers by the texts that a report shows for them.
     static void applyUnitsForData(VorBomTemplateUnits* pUnits, VorBomDataTupleArray& tuples);
+    // Appends the row's data, not null, as plain entries: doubles to one decimal. Reports "false" for an empty value.
     static void fillGenericString(VorGenericString& target, const VorBomDataRow* pRow);
 
     // What the comparisons sort by: entry i of an order array, 1 ascending or 0 descending, is for token i. Refilled
