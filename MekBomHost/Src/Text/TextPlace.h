@@ -14,7 +14,7 @@ namespace mekbom
 struct TextPlace
 {
     int line = 0;   // 0 where it is not known
-    int column = 0; // likewise: then the line as a whole is meant
+    int column = 0; // 0 where the line as a whole is meant, or its column is not known
 };
 
 // From the first character of something to the one behind its last.
