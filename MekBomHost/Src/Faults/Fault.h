@@ -27,8 +27,13 @@ public:
     // of which `findings` may hold fewer.
     Fault(ExitStatus status, std::vector<Finding> findings, std::size_t numErrors);
 
+    // What the program ends with.
     ExitStatus status() const { return m_status; }
+
+    // What there is to say, in the order in which it was found.
     const std::vector<Finding>& findings() const { return m_findings; }
+
+    // How many errors there were, those that are not among the findings included.
     std::size_t numErrors() const { return m_numErrors; }
 
 private:

@@ -28,7 +28,7 @@ struct TextSpan
 class PlaceCounter
 {
 public:
-    // The bytes are not owned and outlive the counter. They begin in line `firstLine` of their file.
+    // The bytes are not owned and must outlive the counter. They begin in line `firstLine` of their file.
     explicit PlaceCounter(std::string_view text, int firstLine = 1)
         : m_text(text), m_firstLine(firstLine), m_place{ firstLine, 1 }
     {

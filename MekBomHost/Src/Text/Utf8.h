@@ -18,6 +18,12 @@ namespace mekbom::Utf8
 // The offset of the first byte that belongs to no valid UTF-8 sequence; bytes.size() when there is none.
 std::size_t findInvalid(std::string_view bytes);
 
+// Whether a character starts with the byte: all others of one are 10xxxxxx. For valid text.
+inline bool startsCharacter(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+}
+
 // Characters (code points), not bytes. For valid text.
 std::size_t countCharacters(std::string_view bytes);
 
