@@ -8,6 +8,7 @@
 // each column, so that a column of marks does not drive out one of materials.
 #pragma once
 
+#include "MekRoots/Exp/VorFibonacciHash.h"
 #include "MekRoots/Exp/VorMemoryHint.h"
 #include "MekRoots/Exp/VorString.h"
 
@@ -45,17 +46,14 @@ private:
 
     const VorString& insert(Entry& entry, std::uint64_t key, std::string_view bytes);
     Entry& freeEntry(std::uint64_t key);
-    std::size_t placeOf(std::uint64_t key) const { return static_cast<std::size_t>(key * kHashFactor >> m_shift); }
+    std::size_t placeOf(std::uint64_t key) const { return VorFibonacciHash::placeOf(key, m_numBits); }
     std::size_t next(std::size_t place) const { return (place + 1) & (m_entries.size() - 1); }
     bool isWorthALook() const;
     void forgetAll();
     void resize(std::size_t numEntries);
 
-    static constexpr std::uint64_t kHashFactor =
-        0x9E3779B97F4A7C15; // odd, irregular: two to the 64 by the golden ratio
-
     std::vector<Entry> m_entries; // none before the first use; a power of two, at least half of them free
-    int m_shift = 0;              // of a key's hash, to a place
+    int m_numBits = 0;            // of a place: two to their power is the number of entries
     std::size_t m_numTexts = 0;
     std::size_t m_numLooks = 0;
     std::size_t m_numUnshared = 0; // texts to be made without a look
