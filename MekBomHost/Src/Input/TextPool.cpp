@@ -26,7 +26,7 @@ const std::size_t kTextsOnTrial = 4096;
 const std::size_t kLooksPerFound = 64;
 const std::size_t kTextsWithoutLook = 1 << 16;
 
-// Of a text of more than eight bytes. Its first byte is zero, so that it is the key of no shorter one.
+// The key of a text of more than eight bytes. Its lowest byte is zero, so that it is the key of no shorter text.
 std::uint64_t hashOf(std::string_view bytes)
 {
     using namespace ByteWord;

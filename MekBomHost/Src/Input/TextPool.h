@@ -4,8 +4,8 @@
 //   const VorString second = texts.textOf("S355J2");     // shares its characters with `first`
 //
 // Remembers all texts up to some ten thousand, then begins anew. In a column where hardly any comes back, such as one of
-// numbers of parts, it stops looking for some ten thousand texts: they would only fill the processor's caches. One for
-// each column, so that a column of marks does not drive out one of materials.
+// numbers of parts, it stops looking for some ten thousand texts: they would only fill the processor's caches. Each
+// column has a pool of its own, so that a column of marks does not drive out one of materials.
 #pragma once
 
 #include "MekRoots/Exp/VorFibonacciHash.h"
@@ -33,11 +33,11 @@ public:
     const VorString& find(std::uint64_t key); // the text of up to eight bytes, as ByteWord::of gives them
     void willFind(std::uint64_t key) const
     {
-        VorMemoryHint::willRead(&m_entries[placeOf(key)]);
-    } // so that find() need not wait
+        VorMemoryHint::willRead(&m_entries[placeOf(key)]); // so that find() need not wait
+    }
 
 private:
-    // Of an open-addressed table.
+    // The table is open-addressed: an entry stands at its place or, where that was taken, at the next free one.
     struct Entry
     {
         std::uint64_t key = 0; // 0 where there is no text

@@ -33,7 +33,7 @@ public:
     static constexpr std::size_t kMostTexts = 126; // so that a number fits into a byte with other uses
     static constexpr std::size_t kNone = kMostTexts;
 
-    // `text` is not empty.
+    // The number of `text`, which is not empty; it gets the next one when it is new. kNone for a text without.
     std::size_t numberOf(const VorString& text)
     {
         if (m_isGivenUp)
@@ -50,7 +50,7 @@ public:
         return m_texts.size() < kMostTexts ? add(text, slot) : miss();
     }
 
-    // Valid as long as this object.
+    // The text of that number, in UTF-8. Its characters live as long as this object.
     const ShownText& text(std::size_t number) const { return m_texts[number]; }
     const std::vector<ShownText>& texts() const { return m_texts; }
 
@@ -72,7 +72,7 @@ private:
     VorHitTrial m_trial{ kNumLooks, kLooksPerFind }; // misses count from when all numbers are taken
     bool m_isGivenUp = false;
     std::vector<ShownText> m_texts;
-    std::vector<std::unique_ptr<std::string>> m_bytes; // that m_texts refer to
-    std::vector<VorString> m_originals;                // which keep their characters where they are
+    std::vector<std::unique_ptr<std::string>> m_bytes; // what m_texts refer to
+    std::vector<VorString> m_originals;                // kept, so that no other text comes to lie at their addresses
 };
 }

@@ -31,7 +31,7 @@ void addFile(CLI::App& command, const std::string& name, std::string& file, cons
     command.add_option(name, file, help)->type_name("FILE");
 }
 
-// The variables that are named like a setting.
+// The variables of the process that are named like a setting, with what they hold.
 ReportRequest::Pairs environment()
 {
     ReportRequest::Pairs variables;
