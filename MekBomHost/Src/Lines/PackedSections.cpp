@@ -175,7 +175,7 @@ void PackedSections::appendOther(std::string_view text)
     m_pNext = std::copy(text.begin(), text.end(), m_pNext);
 }
 
-// Where there is room for it.
+// There must be room for it.
 void PackedSections::append(Number number)
 {
     std::memcpy(m_pNext, &number, sizeof number);

@@ -38,12 +38,11 @@ std::size_t RepeatedTexts::add(const VorString& text, std::size_t slot)
 // For a text that there is no number for.
 std::size_t RepeatedTexts::miss()
 {
-    ++m_numMissed;
-    if (m_numFound + m_numMissed < kNumTrials)
+    m_trial.countMiss();
+    if (!m_trial.isOver())
         return kNone;
-    m_isGivenUp = m_numFound < m_numMissed;
-    m_numFound = 0;
-    m_numMissed = 0;
+    m_isGivenUp = m_trial.hasFailed();
+    m_trial.begin();
     return kNone;
 }
 }

@@ -1,9 +1,13 @@
+// A setting may be made three times, and the last one counts: C40_SuppressZeroFeet is 1 as long as nobody says
+// anything, 0 with the variable of that name in the environment, 1 again with a line of the settings file, and 0 with "
+// --setting C40_SuppressZeroFeet=0". All of them are read, so that a mistake shows even where another one comes over
+// it.
 #include "DisplaySettings.h"
 
 #include "Fault.h"
 #include "FindingCodes.h"
+#include "InQuotes.h"
 #include "IniFile.h"
-#include "MessageText.h"
 #include "NumberReader.h"
 
 #include <algorithm>
