@@ -1,9 +1,9 @@
 // A table with open addressing. The key of "S355J2" is its six bytes as one number, 32 4A 35 35 33 53 with the 'S'
-// lowest: equal keys are equal texts, which need not be compared, and the wide text of a new one can be made from its key.
-// A longer text has a hash for a key, whose lowest byte is 0 as no text's first byte is, and is compared. Keys scatter
-// over the places (VorFibonacciHash); the next free place is taken where one is in use.
-// When a column's texts turn out not to come back, the table is given up for a while (isWorthALook), because a look for
-// each of a million different texts would only wait for memory.
+// lowest: equal keys are equal texts, which need not be compared, and the wide text of a new one can be made from its
+// key. A longer text has a hash for a key, whose lowest byte is 0 as no text's first byte is, and is compared. Keys
+// scatter over the places (VorFibonacciHash); the next free place is taken where one is in use. When a column's texts
+// turn out not to come back, the table is given up for a while (isWorthALook), because a look for each of a million
+// different texts would only wait for memory.
 #include "TextPool.h"
 
 #include "ByteWord.h"
@@ -21,7 +21,7 @@ const int kHashBits = 64;
 const std::size_t kFirstNumEntries = 256;              // a column of materials needs no more
 const std::size_t kMostTexts = std::size_t{ 1 } << 16; // with places for twice as many, 2 MB
 
-// After so many texts it shows whether any come back: of 50,000 different ones in any order, 1 look in 25 has found one.
+// After so many texts it shows whether any come back: of 50,000 different ones in any order, 1 look in 25 finds one.
 const std::size_t kTextsOnTrial = 4096;
 const std::size_t kLooksPerFound = 64;
 const std::size_t kTextsWithoutLook = 1 << 16;

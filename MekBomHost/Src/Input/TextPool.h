@@ -3,8 +3,8 @@
 //   const VorString first = texts.textOf("S355J2");
 //   const VorString second = texts.textOf("S355J2");     // shares its characters with `first`
 //
-// Remembers all texts up to some ten thousand, then begins anew. In a column where hardly any comes back, such as one of
-// numbers of parts, it stops looking for some ten thousand texts: they would only fill the processor's caches. Each
+// Remembers all texts up to some ten thousand, then begins anew. In a column where hardly any comes back, such as one
+// of numbers of parts, it stops looking for some ten thousand texts: they would only fill the processor's caches. Each
 // column has a pool of its own, so that a column of marks does not drive out one of materials.
 #pragma once
 

@@ -1,5 +1,5 @@
-// The cells of a column that the catalogue of tokens does not know, kept as texts until all have been seen and their one
-// type is clear:
+// The cells of a column that the catalogue of tokens does not know, kept as texts until all have been seen and their
+// one type is clear:
 //
 //   "4", "12"            ->  whole numbers
 //   "4", "12.5"          ->  numbers

@@ -27,8 +27,8 @@ namespace mekbom
 class EvaluatedReport
 {
 public:
-    // `sections` took the evaluation of `reportTemplate`, whose numbers were shown in `units`. The report owns none of the
-    // three; template and sections must outlive it.
+    // `sections` took the evaluation of `reportTemplate`, whose numbers were shown in `units`. The report owns none of
+    // the three; template and sections must outlive it.
     EvaluatedReport(const ReportTemplate& reportTemplate, const VorUnitsManager& units, const PackedSections& sections)
         : m_title(reportTemplate.title), m_layout(reportTemplate, units), m_sections(sections)
     {
@@ -48,8 +48,8 @@ public:
     // The sections of which there is any line, from the outermost level inwards.
     std::vector<SectionPlace> placesWithLines() const;
 
-    // For each column, how long its longest text is and whether all are plain, without a look at the lines. The labels of
-    // sections do not count.
+    // For each column, how long its longest text is and whether all are plain, without a look at the lines. The labels
+    // of sections do not count.
     std::vector<TextExtent> textExtents() const;
 
 private:

@@ -68,8 +68,8 @@ public:
 private:
     using Number = std::uint32_t;
 
-    // What the first byte of a text says: up to kLongestPlain the length of a plain one, from kFirstRepeated on the number
-    // of a repeated one, kOther that it is neither.
+    // What the first byte of a text says: up to kLongestPlain the length of a plain one, from kFirstRepeated on the
+    // number of a repeated one, kOther that it is neither.
     static constexpr std::size_t kLongestPlain = 127;
     static constexpr std::size_t kFirstRepeated = kLongestPlain + 1;
     static constexpr std::size_t kOther = 255;

@@ -4,9 +4,9 @@
 //   slot 18   free
 //   slot 19   the address of "S355"   number 1
 //
-// Texts are kept, so that no other text comes to lie at the address of one that is numbered. When all numbers are taken,
-// every thousand look-ups decide whether the table is worth asking: a token whose texts differ from row to row, such as
-// a handle, is given up when fewer than half of its texts had a number.
+// Texts are kept, so that no other text comes to lie at the address of one that is numbered. When all numbers are
+// taken, every thousand look-ups decide whether the table is worth asking: a token whose texts differ from row to row,
+// such as a handle, is given up when fewer than half of its texts had a number.
 #include "RepeatedTexts.h"
 
 #include "Utf8.h"

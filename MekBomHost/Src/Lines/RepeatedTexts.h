@@ -7,9 +7,9 @@
 //   texts.numberOf(L"S355");      // 1
 //   texts.text(0).view();         // "S235"
 //
-// Copies of a text share its characters, so a text is known by their address, without a look at them. An equal text with
-// characters of its own has another number: that costs memory, no more. No text gets a number once kMostTexts have one;
-// and when most texts are then found to have none, the token is given up, and no text is looked up any more.
+// Copies of a text share its characters, so a text is known by their address, without a look at them. An equal text
+// with characters of its own has another number: that costs memory, no more. No text gets a number once kMostTexts have
+// one; and when most texts are then found to have none, the token is given up, and no text is looked up any more.
 #pragma once
 
 #include "ShownText.h"

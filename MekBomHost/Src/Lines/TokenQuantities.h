@@ -45,8 +45,8 @@ public:
     // The same kind, with the name that users know it by; null for what has no unit, as whole numbers and texts.
     const UnitKind* kindOf(const VorString& token) const;
 
-    // The kind of all numbers that one column shows under these tokens; null where the first has none, and where another
-    // one has another.
+    // The kind of all numbers that one column shows under these tokens; null where the first has none, and where
+    // another one has another.
     //   { "%Weight", "%SumBy:%Weight", "%Name" }  ->  weight
     const UnitKind* commonKindOf(const std::vector<VorString>& tokens) const;
 

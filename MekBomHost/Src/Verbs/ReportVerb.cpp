@@ -1,5 +1,5 @@
-// Files are named here and read by the job, so that this verb and a program that has its texts in memory differ in their
-// sources alone:
+// Files are named here and read by the job, so that this verb and a program that has its texts in memory differ in
+// their sources alone:
 //
 //   --data -             a FileSource of standard input        --template default   no source and no candidates
 //   --data sample        no source: the built-in rows          no --template        a source for each shipped template

@@ -3,8 +3,8 @@
 //   mekbom report                                                   the shipped hall, in the template that suits it
 //   mekbom report --data parts.csv --template list.json -o list.txt
 //
-// The verb is where files come in: it turns options into the sources of a ReportRequest, lets a ReportJob make the report
-// and hands it to a writer. A report that cannot be made leaves nothing written, and the file of `-o` as it was.
+// The verb is where files come in: it turns options into the sources of a ReportRequest, lets a ReportJob make the
+// report and hands it to a writer. A report that cannot be made leaves nothing written, and the file of `-o` as it was.
 #pragma once
 
 #include "PairOption.h"

@@ -33,8 +33,8 @@ public:
     // Says that the bytes before `pBytes`, which lies among them, are used up: the next readMore() overwrites them.
     void dropTo(const char* pBytes) { m_begin = static_cast<std::size_t>(pBytes - m_buffer.data()); }
 
-    // Reads until the buffer is full or the source at its end. Where nothing was dropped, the buffer first becomes twice as
-    // large, so that who looks at all bytes anew after each call looks at each about twice. The bytes may move.
+    // Reads until the buffer is full or the source at its end. Where nothing was dropped, the buffer first becomes
+    // twice as large, so that who looks at all bytes anew after each call looks at each about twice. Bytes may move.
     void readMore();
 
 private:

@@ -63,8 +63,8 @@ private:
         m_stops = stops;
     }
 
-    // Eight bits, one for each byte of `word`. Without its highest bit a byte plus 127 - ',' reaches that bit unless it is
-    // a stop; the product brings the eight bits together.
+    // Eight bits, one for each byte of `word`. Without its highest bit a byte plus 127 - ',' reaches that bit unless it
+    // is a stop; the product brings the eight bits together.
     static std::uint64_t stopsOf(std::uint64_t word)
     {
         const std::uint64_t highBits = ByteWord::kEachByte * 0x80;
