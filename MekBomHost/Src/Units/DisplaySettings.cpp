@@ -57,11 +57,13 @@ Finding noWholeNumber(const std::string& found)
     throw Fault(kWrongUsage, finding);
 }
 
+// Elsewhere a number may have blanks around it. A variable holds the number alone, as nobody lines variables up.
 void readEnvironment(const DisplaySettings::Pairs& environment, DisplaySettings& settings)
 {
     for (const auto& [name, value] : environment)
         if (const Setting* const pSetting = findSetting(name))
-            if (!NumberReader::read(value, settings.*pSetting->pNumber))
+            if (value.find_first_of(" \t") != std::string::npos ||
+                !NumberReader::read(value, settings.*pSetting->pNumber))
                 failUsage("environment", noWholeNumber(inQuotes(value) + " for " + name));
 }
 
