@@ -3,6 +3,7 @@
 // Fuzz/Seeds/evaluateFormulaFuzz.
 #include "ExpressionEvaluator/Test/Reference/ReferenceFormula.h"
 #include "VorCompiledFormula.h"
+#include "VorFormulaText.h"
 #include "evaluateFormula.h"
 
 #include "MekRoots/Exp/VorAssert.h"
@@ -62,8 +63,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t siz
     require(isSame(result, expected));
 
     const VorCompiledFormula compiled(formula.c_str(), static_cast<int>(formula.size()));
-    const bool isFormula = formula.size() >= 4 && formula.find_first_of(L"*/+-=()") != std::wstring::npos;
-    if (isFormula && compiled.isCompiled())
+    if (VorFormulaText::isFormula(formula) && compiled.isCompiled())
     {
         result = -1.25;
         require(evaluateCompiled(compiled, result) == isExpected);

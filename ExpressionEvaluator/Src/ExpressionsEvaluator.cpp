@@ -1,5 +1,11 @@
+// The formula "a=4;a*2" of 7 characters is evaluated in two statements:
+//   "a=4"      3 characters, up to the separator
+//   "a*2\0"    4 characters: no separator follows, so that it is the last one, as long as the formula without as many
+//              characters as the statement before it has. The text has 3 more; the view answers zero for the fourth.
+// Each is parsed into a tree of its own, and variables are all that passes from one to the next.
 #include "ExpressionsEvaluator.h"
 
+#include "Reading/VorFormulaCharacters.h"
 #include "VorExprEvTreeItem.h"
 #include "VorExprEvVariableList.h"
 #include "VorExprEvalErrorHandler.h"
@@ -18,7 +24,8 @@ namespace
 {
 constexpr unsigned int kMostCharacters = std::numeric_limits<int>::max(); // views count in int
 
-// Every node from the root on, each before its left and then its right side.
+// Prints every node from the root on, each before its left and then its right side, without recursion: a tree may be as
+// deep as its formula is long.
 void traceTree(const VorExprEvTreeItem* pRoot)
 {
     std::vector<const VorExprEvTreeItem*> pending{ pRoot };
@@ -42,7 +49,7 @@ bool ExpressionsEvaluator::isTraced()
 }
 
 ExpressionsEvaluator::ExpressionsEvaluator(const wchar_t* text, unsigned int length)
-    : m_pText(text), m_nLength(text == nullptr ? 0 : std::min(length, kMostCharacters)), m_cSeparator(L';')
+    : m_pText(text), m_nLength(text == nullptr ? 0 : std::min(length, kMostCharacters))
 {
     VorExprEvVariableList::ofThread().clear();
     VorExprEvalErrorHandler::ofThread().clear();
@@ -98,6 +105,6 @@ int ExpressionsEvaluator::evaluateStatement(const VorExprEvTextView& statement, 
 int ExpressionsEvaluator::findSeparator(int nStart) const
 {
     const std::wstring_view text(m_pText, m_nLength);
-    const std::size_t nFound = text.find(m_cSeparator, static_cast<std::size_t>(nStart));
+    const std::size_t nFound = text.find(VorFormulaCharacters::kSeparator, static_cast<std::size_t>(nStart));
     return nFound == std::wstring_view::npos ? -1 : static_cast<int>(nFound);
 }

@@ -26,8 +26,8 @@ public:
     // every evaluation: set it while none runs.
     static int m_nTraceTrees;
 
-    // Whether anything of an evaluation is to be seen in the debug output, this or VorExpressionEvaluator::m_nTraceStacks.
-    // Who has a quicker way to compute a formula takes this one then.
+    // Whether trees (m_nTraceTrees) or stacks (VorExpressionEvaluator::m_nTraceStacks) are to be seen in the debug
+    // output. Whoever has a quicker way to compute a formula goes through this class then.
     static bool isTraced();
 
     // `length` characters of formula, behind which the text goes on to a terminating zero; a null text is a formula of
@@ -57,5 +57,4 @@ private:
 
     const wchar_t* m_pText; // not owned
     unsigned int m_nLength;
-    wchar_t m_cSeparator;
 };

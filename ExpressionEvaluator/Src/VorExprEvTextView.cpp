@@ -6,7 +6,7 @@
 
 namespace
 {
-// Views count in int: of a longer text no more is seen.
+// Views count in int, so that of a longer text no more than 2^31 - 1 characters are seen.
 int clampedLength(std::size_t length)
 {
     constexpr std::size_t kMost = std::numeric_limits<int>::max();
@@ -22,7 +22,7 @@ std::wstring_view VorExprEvTextView::restOfText() const
     return { pStart, std::wcslen(pStart) };
 }
 
-// The view itself may hold zero characters that do not end the text.
+// A zero character within the view does not end the text: of "a\0b+c" the view [0,3) has a text of 5 characters.
 int VorExprEvTextView::measureText() const
 {
     if (m_pText == nullptr)
@@ -31,7 +31,8 @@ int VorExprEvTextView::measureText() const
     return clampedLength(nEnd + std::wcslen(m_pText + nEnd));
 }
 
-// For views of the same length.
+// Both views have the same length. One that reaches beyond its text has zero characters there, and the other one must
+// have them, too.
 bool VorExprEvTextView::hasSameCharacters(const VorExprEvTextView& other) const
 {
     std::wstring_view shorter = existingPart();

@@ -1,3 +1,9 @@
+// A number is looked for in the formula from the operand's start on, wherever the operand ends. The operands of "1e+5"
+// are "1e" and "5", and evaluate to
+//   "1e"     100000     as "1e+5" is a number
+//   "5"      5
+// so that the sum is 100005. What is no number is the name of a variable. Names begin with '%' or a letter, and few
+// with one that numbers begin with ("inf"), so that the first character mostly tells the two apart before any scan.
 #include "VorExprEvTreeItemOperand.h"
 
 #include "Reading/VorFormulaCharacters.h"

@@ -36,8 +36,9 @@ public:
         return canDivide ? 1 : 0;
     }
 
-    // The same number, and of two NaNs the left one. Processors keep the sign of the first operand that is a NaN, and
-    // compilers are free to take the sides of '*' and '+' for the first in either order. What trees evaluate to.
+    // As calculate, and what trees are evaluated by: when a side is a NaN, the result is that NaN, and of two the left
+    // one. calculate leaves its sign open: processors keep that of the first operand that is a NaN, and which side of a
+    // '*' or '+' comes first is the compiler's choice.
     static int calculateInOrder(wchar_t operation, double left, double right, double& result);
 
     explicit VorExprEvTreeItemOperator(const VorExprEvTextView& text) : VorExprEvTreeItem(text) {}

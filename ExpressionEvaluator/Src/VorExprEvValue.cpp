@@ -1,3 +1,9 @@
+// A formula's double is shown as "%f", and whoever wants it as a double gets what that text reads as. readBack gives it
+// without the text. For 1/3:
+//   1/3 * 1e6       333333.33...     so the text is 333333 millionths, "0.333333"
+//   333333 / 1e6    0.333333         correctly rounded, as reading the text is
+// The product may be off a little. Where it lies about in the middle between two whole numbers, as for 0.0000005, and
+// where it is huge, the text is written and read after all.
 #include "VorExprEvValue.h"
 
 #include "MekRoots/Exp/VorAssert.h"
@@ -16,13 +22,14 @@ constexpr int kImpossibleTypeLine = 172;                                 // visi
 constexpr int kDecimals = 6;
 constexpr double kParts = 1e6;
 
-// Below this many millionths the product with 1e6 is off by less than kTooCloseToCall.
+// Below this many millionths, the product with 1e6 is off by less than kTooCloseToCall.
 constexpr double kMostParts = 17592186044416.0; // 2^44
 constexpr double kTooCloseToCall = 1.0 / 256;
 
-// 2^52: from here on there are only whole numbers, so that a sum with it is rounded to one, ties to even. A library call
-// for that would cost as much as the rest.
+// 2^52: from here on there are only whole numbers, so that a sum with it is rounded to one, ties to even. A call of the
+// library for that would cost as much as the rest.
 constexpr double kWholeNumbers = 4503599627370496.0;
+
 static_assert(VorNumberText::fixedRoom(kDecimals) < VorExprEvValue::kBufferLength, "every double has its text");
 
 std::size_t cellSize(VorExprEvValue::eType type)
@@ -95,8 +102,7 @@ int VorExprEvValue::toText(wchar_t* buffer) const
     return 0;
 }
 
-// Unless the value lies about in the middle between two texts, its text is the nearest whole number of millionths, and
-// reading it gives the quotient of two whole numbers, correctly rounded, as a division does.
+// NaNs and infinities go by their texts, too: for none of them is the product below kMostParts.
 double VorExprEvValue::readBack(double value)
 {
     const double parts = value * kParts;
@@ -126,7 +132,8 @@ void VorExprEvValue::copyTo(VorExprEvValue& target) const
     }
 }
 
-// The value's own cell when it already has that type: a formula passes through one value from start to end.
+// A value that already has the type keeps its cell. A whole formula is evaluated through one value, so that it asks for
+// memory once.
 void* VorExprEvValue::makeCell(eType type)
 {
     if (m_nType != type)

@@ -18,7 +18,7 @@ public:
 
     const VorExprEvTextView& name() const { return m_name; }
 
-    // The same name in another place.
+    // The same name, viewed in another place, for a list that keeps names of its own.
     void setName(const VorExprEvTextView& name) { m_name = name; }
 
     const VorExprEvValue& value() const { return m_value; }

@@ -17,6 +17,7 @@ void VorExprEvalErrorHandler::raise(VorExprEvalError::eCode code)
     ++m_nCount;
 }
 
+// The list is walked to its end, but only once: evaluation stops at the statement that raised these errors.
 const VorExprEvalError* VorExprEvalErrorHandler::oldest() const
 {
     const VorExprEvalError* pError = m_pHead;

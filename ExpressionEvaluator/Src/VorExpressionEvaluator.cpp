@@ -10,6 +10,7 @@ VorExpressionEvaluator::~VorExpressionEvaluator()
     delete m_pRoot;
 }
 
+// A tree that is not whole, as the parentheses do not balance, is handed over like any other: traces show it.
 int VorExpressionEvaluator::parse(const VorExprEvTextView& statement, VorExprEvTreeItem*& pRoot)
 {
     VorTreeBuilder builder(statement);

@@ -3,7 +3,7 @@
 //   const wchar_t text[] = L"2*(3+a)";
 //   VorExpressionEvaluator evaluator;
 //   evaluator.parse(VorExprEvTextView(text, 0, 7));   // 1
-//   evaluator.root()                                  // *(2, +(3, a))
+//   evaluator.root()  ->  the tree *(2, +(3, a))
 //
 // How a statement is read:
 //   - Blanks are " \t\n\r", and zero characters between operands. Operators are "*/+-=()". An operand is everything

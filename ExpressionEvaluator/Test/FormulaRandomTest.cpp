@@ -7,6 +7,7 @@
 #include "ExpressionEvaluator/Src/ExpressionsEvaluator.h"
 #include "ExpressionEvaluator/Src/VorExprEvVariableList.h"
 #include "ExpressionEvaluator/Src/VorExprEvalErrorHandler.h"
+#include "ExpressionEvaluator/Src/VorFormulaText.h"
 #include "ExpressionEvaluator/Src/evaluateFormula.h"
 #include "ExpressionEvaluator/Test/Reference/RandomCases.h"
 #include "ExpressionEvaluator/Test/Reference/ReferenceFormula.h"
@@ -170,12 +171,6 @@ std::wstring expectedOfFunction(const std::wstring& formula, const std::vector<F
     return std::to_wstring(answer) + L" " + describeDouble(result);
 }
 
-// The function refuses what is shorter or has no operator, and defines nothing then.
-bool isFormula(const std::wstring& formula)
-{
-    return formula.size() >= 4 && formula.find_first_of(L"*/+-=()") != std::wstring::npos;
-}
-
 // What the facade leaves in the lists of this thread.
 std::wstring expectedToBeLeft(const std::wstring& formula, const std::vector<FormulaVariable>& variables)
 {
@@ -202,7 +197,7 @@ TEST(FormulaRandomTest, RandomFormulasGiveWhatTheReferenceGives)
         ASSERT_EQ(expectedOfFunction(formula, numbers), evaluatedByFunction(formula, numbers))
             << formulaAndRepetition(seed, formula);
         const std::wstring left = describeWhatIsLeft();
-        if (isFormula(formula))
+        if (VorFormulaText::isFormula(formula)) // the function defines nothing for any other text
         {
             ASSERT_EQ(expectedToBeLeft(formula, numbers), left) << formulaAndRepetition(seed, formula);
         }

@@ -1,5 +1,7 @@
 #include "RandomFormula.h"
 
+#include "ExpressionEvaluator/Src/VorFormulaText.h"
+
 #include <cstddef>
 #include <cwchar>
 #include <iterator>
@@ -29,7 +31,13 @@ const wchar_t* const kLongNumbers[] = { L"0X1P-2",
                                         L"99999999999999999999999999999999999999",
                                         L"0.333333333333333333333333333333333333333" };
 const wchar_t* const kGaps[] = { L" ", L"  ", L"\t", L"\n", L"\r", L"\f", L"\v", L" \t " };
-const wchar_t kAnyCharacter[] = L"*/+-=()*/+-=();; \t\f.0123456789abexpnif%";
+
+// Operators twice, so that every third character is one.
+std::wstring anyCharacters()
+{
+    const std::wstring operators(VorFormulaText::kOperators);
+    return operators + operators + L";; \t\f.0123456789abexpnif%";
+}
 }
 
 std::wstring RandomFormula::write()
@@ -111,10 +119,11 @@ void RandomFormula::writeNumber()
 
 void RandomFormula::spoil(int numTimes)
 {
+    static const std::wstring s_characters = anyCharacters();
     for (int i = 0; i < numTimes && !m_text.empty(); ++i)
     {
         const auto place = static_cast<std::size_t>(m_dice.below(static_cast<int>(m_text.size())));
-        const wchar_t any = anyOf(kAnyCharacter);
+        const wchar_t any = anyOf(s_characters.c_str());
         switch (m_dice.below(4))
         {
             case 0: m_text.erase(place, 1); break;

@@ -2,6 +2,7 @@
 
 namespace
 {
+// On purpose not the product's: a mistake there would go unnoticed.
 const std::wstring kFormulaDelimiters = L"*/+-=() \t\n\r";
 
 bool isToken(const std::wstring& text)

@@ -11,8 +11,8 @@
 #include <cstdint>
 #include <string_view>
 
-// A set of characters whose codes are below 64, a bit each: asking costs a comparison and a shift, and letters leave at
-// the comparison.
+// A set of characters whose codes are below 64, a bit each. To ask costs a comparison and a shift; for a letter, whose
+// code is above, the comparison is enough.
 class VorCharacterSet
 {
 public:
@@ -20,6 +20,14 @@ public:
     {
         for (const wchar_t character : characters)
             m_nBits |= std::uint64_t(1) << character;
+    }
+
+    // This set and one more character.
+    constexpr VorCharacterSet with(wchar_t character) const
+    {
+        VorCharacterSet set(*this);
+        set.m_nBits |= std::uint64_t(1) << character;
+        return set;
     }
 
     constexpr bool holds(wchar_t character) const
@@ -41,7 +49,7 @@ inline constexpr VorCharacterSet kBlanks(VorFormulaText::kBlanks);
 inline constexpr wchar_t kSeparator = L';'; // between statements
 
 // What stands behind an operand in a zero-terminated formula.
-inline constexpr VorCharacterSet kOperandEnds(std::wstring_view(L"*/+-=();\0", 9));
+inline constexpr VorCharacterSet kOperandEnds = kOperators.with(kSeparator).with(L'\0');
 
 // Passes over the blanks behind an operand of a zero-terminated formula; null if it does not end here.
 inline const wchar_t* endOperand(const wchar_t* pText)
@@ -85,7 +93,7 @@ constexpr bool startsOperand(eKind kind)
 class KindTable
 {
 public:
-    // Of the text of one statement alone, where ';' is part of an operand, and zero characters are nothing.
+    // The kinds in the text of one statement: a ';' is part of an operand there, and zero characters are nothing.
     static constexpr KindTable ofStatement()
     {
         KindTable table(kOperand);
@@ -99,7 +107,8 @@ public:
         return table;
     }
 
-    // Of a zero-terminated formula, where both end a statement. Operands are told apart by how they begin.
+    // The kinds in a zero-terminated formula, where a ';' and the zero end a statement. Operands are told apart by how
+    // they begin.
     static constexpr KindTable ofFormula()
     {
         KindTable table = ofStatement();

@@ -1,5 +1,9 @@
-// The numbers that formulas are full of, read without a call: "2", "1.19", "0.00000785". All others, and what surrounds
-// a number, are read by VorNumberText::scanFloat.
+// Reads the numbers that formulas are full of, such as "2", "1.19" and "0.00000785", without calling the general scan:
+//
+//   VorFormulaNumber::scanShort(L"1.19 *a", number)   ->  "*a", number the float nearest to 1.19, which is 119 / 100
+//   VorFormulaNumber::scanShort(L"1e5*a", number)     ->  null: the operand does not end behind its digits
+//
+// All other numbers are left to VorNumberText::scanFloat, which gives the same float for these.
 #pragma once
 
 #include "VorFormulaCharacters.h"
@@ -11,10 +15,10 @@
 
 namespace VorFormulaNumber
 {
-// Reads digits, or digits with a point among or behind them, from the zero-terminated text and answers where the operand
-// ends. Null if it does not end there, and for a number that a single division cannot give: if the digits without the
-// point make a whole number that a float holds exactly, and it holds the power of ten to divide it by, then their
-// quotient is the float nearest to the text.
+// Reads digits, or digits with a point among or behind them, from the zero-terminated text, which begins with a digit,
+// and answers where the operand ends. Null, with `number` untouched, if the operand goes on, and where one division
+// does not give the number. It does if a float holds both the digits without their point and the power of ten to divide
+// them by: the quotient of two exact floats is rounded to the float nearest to the text.
 inline const wchar_t* scanShort(const wchar_t* pText, double& number)
 {
     constexpr std::uint64_t kMostExact = 1U << 24;

@@ -4,8 +4,8 @@
 //   readOperand  2
 //   readOperand  3
 //   readOperand  a
-//   combine      +       the end is as good as the ')', which ends all that waits
-//   combine      *
+//   combine      +       at the ')'
+//   combine      *       there, too: a ')' ends the waiting of all operators but '=', also of those before its '('
 //
 // An operator waits until one that binds no tighter comes after it, a ')' or the end. "2*3+4":
 //   2      waiting
@@ -15,10 +15,10 @@
 //   4      waiting +
 //   end    waiting         combine +
 //
-// The client is a class of its own for whoever makes something of a formula: its number (VorFormulaCalculator), its tree
-// (VorTreeBuilder), the steps to compute it by later (VorFormulaCompiler). It has
+// Whoever makes something of a formula has a client class of its own for it: its number (VorFormulaCalculator), its
+// tree (VorTreeBuilder), the steps to compute it by later (VorCompiledFormula). Such a client has
 //
-//   eKind kindAt(const wchar_t* pText)             what stands there; kEnd at the statement's end, which is not looked at
+//   eKind kindAt(const wchar_t* pText)             what stands there; kEnd at the end, whatever stands there
 //   const wchar_t* readOperand(pText, eKind kind)  takes the operand there; answers where it ends, or null to give up
 //   void addNothing()                              takes the missing left side of a negation for an operand
 //   Left left(const wchar_t* pText)                what to keep with the operator at pText, which begins to wait
@@ -29,7 +29,7 @@
 //   kTakesOddStatements                            false to give up where operands and operators do not take turns
 //   kIsTraced                                      false when trace does nothing
 //
-// It need not be told to give up twice: what has been given up is read no further.
+// Once the client has given up, the reader asks it for nothing more.
 #pragma once
 
 #include "VorFormulaCharacters.h"
@@ -95,8 +95,8 @@ public:
 private:
     static constexpr eKind kBottom = static_cast<eKind>(VorFormulaCharacters::kAssignment - 1);
 
-    // Where the side of an operator ends that begins here: what is opened and negated, and an operand. A '-' is a
-    // negation here. When another operator or the end stands in place of the operand, the side is missing.
+    // Reads one side of an operator and answers where it ends: any number of '(' and of '-', each of them a negation
+    // here, and behind them the operand. When another operator or the end stands in its place, the side is missing.
     const wchar_t* readSide(const wchar_t* pText)
     {
         for (;; ++pText)
@@ -158,8 +158,8 @@ private:
         ++m_nDepth;
     }
 
-    // On purpose back to an '=' or the start, not to the '(' alone. The ')' itself need not wait: nothing is left below
-    // that it could hold back. Only who traces sees it.
+    // On purpose this combines back to an '=' or to the start, and not to the '(' alone. The ')' itself need not wait,
+    // as nothing that it could hold back is left below it. It waits all the same where traces show what waits.
     void close(const wchar_t* pText)
     {
         combineFor(VorFormulaCharacters::kParenthesis);
@@ -191,7 +191,7 @@ private:
         m_client.trace(m_waiting);
     }
 
-    // Whatever binds as tight as `kind` or tighter. Parentheses fall away.
+    // Combines whatever binds as tight as `kind` or tighter. Parentheses that waited fall away.
     void combineAll(eKind kind)
     {
         while (m_waiting.top().kind >= kind)

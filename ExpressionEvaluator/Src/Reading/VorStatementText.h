@@ -29,8 +29,8 @@ public:
         return pText == m_pEnd ? VorFormulaCharacters::kEnd : VorFormulaCharacters::kKindsInStatement[*pText];
     }
 
-    // Answers where the operand at `pText` ends. Blanks at its end are left out, but the operand that reaches the end of
-    // the text takes in the zero characters beyond it.
+    // Answers where the operand at `pText` ends. Blanks at its end are no part of it, but the zero characters beyond
+    // the text are part of an operand that reaches the text's end.
     const wchar_t* readOperand(const wchar_t* pText, VorExprEvTextView& operand) const
     {
         const int nStart = placeOf(pText);

@@ -1,7 +1,9 @@
 // A stack of nodes, linked through the nodes' own `next`: pushing costs no memory. Owns what is on it, and deletes what
 // is left on it at its end, each node with everything below it.
 //
-//   stack.push(pA);  stack.push(pB);  stack.pop()  ->  pB
+//   stack.push(pA);
+//   stack.push(pB);
+//   stack.pop()  ->  pB
 #pragma once
 
 #include "VorExprEvTreeItem.h"

@@ -38,7 +38,9 @@ void VorTreeBuilder::combine(const VorWaitingOperator<Left>& waiting)
     m_operands.push(pOperator.release());
 }
 
-// Both stacks from the top down.
+// Shows both stacks from the top down. For "2*3" at its end:
+//   Operator Stack    *
+//   Operand Stack     3 2
 void VorTreeBuilder::trace(const VorOperatorStack<Left>& waiting) const
 {
     if (VorExpressionEvaluator::m_nTraceStacks == 0)

@@ -1,5 +1,5 @@
-// What a client is told, as text: "2 3 *" for operands 2 and 3 and their product, "0" for the missing side of a negation,
-// "no" at the end where the reader gives up or parentheses are not balanced.
+// What a client is told is compared as text: "2 3 *" for the operands 2 and 3 and their product, "0" for the missing
+// side of a negation, "no" at the end where the reader gives up or parentheses are not balanced.
 #include "ExpressionEvaluator/Src/Reading/VorStatementReader.h"
 #include "ExpressionEvaluator/Src/Reading/VorStatementText.h"
 

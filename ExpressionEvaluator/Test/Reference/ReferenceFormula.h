@@ -1,6 +1,7 @@
 // A second, slow and obvious evaluator of formulas that the product is compared with: standard containers, copies
 // everywhere, recursion over the tree, and the C library's own scanning and formatting of numbers. It shares no code
-// with the product. It is header-only so that the tests of reports use it too.
+// with the product: that it has operators, blanks and a shortest length of its own is on purpose, or a mistake in the
+// product's would go unnoticed. It is header-only so that the tests of reports use it too.
 //   FormulaOutcome outcome = ReferenceFormula(L"a=Length/1000;a*2", { { L"Length", FormulaValue::real(500) } }).run();
 //   outcome.result 1, outcome.text L"1.000000", outcome.errors empty, outcome.variables a = 0.5, Length = 500
 // Numbers are scanned as the GNU C library's swscanf does in the C locale; a test program never leaves that locale.

@@ -30,14 +30,6 @@ VorBomDisplayColumn::VorBomDisplayColumn(const VorBomDataToken& token)
 {
 }
 
-void VorBomDisplayColumn::show(VorBomTemplateUnits& units, VorBomDataValue& value)
-{
-    if (value.type() == VorBomDataValue::kIntData)
-        value.set(textOf(*static_cast<const int*>(value.data())));
-    else if (value.type() == VorBomDataValue::kDoubleData)
-        value.set(textOf(*static_cast<const double*>(value.data()), units));
-}
-
 VorString VorBomDisplayColumn::textOf(int value)
 {
     const auto key = static_cast<std::uint64_t>(value);

@@ -5,11 +5,6 @@
 
 namespace
 {
-bool isNumber(const VorBomDataValue& value)
-{
-    return value.type() == VorBomDataValue::kIntData || value.type() == VorBomDataValue::kDoubleData;
-}
-
 VorBomTypedValue typed(const VorBomDataValue& value)
 {
     VorBomTypedValue typedValue;
@@ -38,11 +33,7 @@ void VorBomDisplayPlan::show(VorBomTemplateUnits& units, VorBomDataTupleArray& t
     }
     VorBomDataTuple* pTuple = tuples.begin();
     for (VorBomDisplayColumn& column : m_columns)
-    {
-        VorBomDataValue& value = pTuple++->value();
-        if (isNumber(value)) // spares most columns the call
-            column.show(units, value);
-    }
+        column.show(units, pTuple++->value());
 }
 
 // A column knows the unit of a number only once it has shown it.

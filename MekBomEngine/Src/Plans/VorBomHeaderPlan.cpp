@@ -35,25 +35,20 @@ VorBomDataTuple copyOf(const VorBomDataTuple& column, VorBomPayloadCells& cells)
 }
 
 // The row's value, if it has one, under the column's token.
-VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, VorBomPayloadCells& cells)
+VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, VorBomPayloadCells& cells,
+                         bool isReported)
 {
     if (pDatum == nullptr)
         return copyOf(column, cells);
     if (pDatum->value().type() == VorBomDataValue::kUnknownData)
     {
-        VorAssert::vorAssert(L"false", kSourcePath, __LINE__);
+        if (isReported)
+            VorAssert::vorAssert(L"false", kSourcePath, __LINE__);
         return copyOf(column, cells);
     }
     if (pDatum->used() != 1)
         pDatum->setUsed(1); // rows of an earlier evaluation are marked: their memory need not be written
     return VorBomDataTuple(column.token().token(), pDatum->value(), cells, column.used());
-}
-
-// Makes the tuple once more that tupleFor() made, without the report that it may have raised.
-VorBomDataTuple tupleAgainFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, VorBomPayloadCells& cells)
-{
-    const bool isEmpty = pDatum != nullptr && pDatum->value().type() == VorBomDataValue::kUnknownData;
-    return tupleFor(column, isEmpty ? nullptr : pDatum, cells);
 }
 }
 
@@ -72,19 +67,19 @@ VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLay
 
 std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row)
 {
-    return makeSection(row, tupleFor);
+    return makeSection(row, true);
 }
 
-template <class TupleFor>
-std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::makeSection(VorBomDataRow& row, TupleFor makeTuple)
+std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::makeSection(VorBomDataRow& row, bool isEmptyDatumReported)
 {
     m_columns.find(row);
     const VorBomDataTupleArray& columns = m_section.getData();
     auto pEvaluated = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
     VorBomPayloadCells cells(columns.length());
     pEvaluated->getData().setPhysicalLength(columns.length());
-    pEvaluated->getData().appendMade(columns.length(), [this, &cells, makeTuple, pColumns = columns.begin()](int i)
-                                     { return makeTuple(pColumns[i], m_columns[i], cells); });
+    pEvaluated->getData().appendMade(columns.length(),
+                                     [this, &cells, isEmptyDatumReported, pColumns = columns.begin()](int i)
+                                     { return tupleFor(pColumns[i], m_columns[i], cells, isEmptyDatumReported); });
     return pEvaluated;
 }
 
@@ -120,7 +115,7 @@ int VorBomHeaderPlan::leaveLastFormula()
         return 0;
     if (ExpressionsEvaluator::isTraced())
         return 1; // nothing was compiled, and computing again would be seen
-    const std::unique_ptr<VorBomTemplateItem> pEvaluated = makeSection(*m_pLastRow, tupleAgainFor);
+    const std::unique_ptr<VorBomTemplateItem> pEvaluated = makeSection(*m_pLastRow, false); // it was, the first time
     VorBomDataTupleArray& tuples = pEvaluated->getData();
     for (VorBomFormulaColumn& formula : m_formulas)
     {

@@ -52,8 +52,7 @@ public:
     VorBomDisplayPlan& display() { return m_display; }
 
 private:
-    template <class TupleFor>
-    std::unique_ptr<VorBomTemplateItem> makeSection(VorBomDataRow& row, TupleFor makeTuple);
+    std::unique_ptr<VorBomTemplateItem> makeSection(VorBomDataRow& row, bool isEmptyDatumReported);
     VorBomPayloadCells& cellsForRows();
 
     const VorBomTemplateItem& m_section;
