@@ -13,9 +13,11 @@
 class VorBomCountedRows
 {
 public:
+    // What a range-based for needs, and no more. Steps over rows that are not counted.
     class Iterator
     {
     public:
+        // Stands at the first counted row from `pRow` on, or at `pEnd` when there is none.
         Iterator(VorBomDataRow* const* pRow, VorBomDataRow* const* pEnd) : m_pRow(pRow), m_pEnd(pEnd) { skip(); }
 
         const VorBomDataRow& operator*() const { return **m_pRow; }
@@ -39,6 +41,7 @@ public:
     };
 
     VorBomCountedRows() = default; // none
+    // The rows of `rows` that count when they are read. The list is not owned, must not change, and holds no null.
     explicit VorBomCountedRows(const VorArray<VorBomDataRow*>& rows) : m_pBegin(rows.begin()), m_pEnd(rows.end()) {}
 
     Iterator begin() const { return Iterator(m_pBegin, m_pEnd); }

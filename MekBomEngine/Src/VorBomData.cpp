@@ -53,6 +53,7 @@ void appendRandomRows(VorBomData& data)
 {
     for (int handle = kFirstRandomHandle; handle <= kLastRandomHandle; ++handle)
     {
+        // Drawn in this order, in statements of their own: arguments of a call are evaluated in any.
         const int position = std::rand() % kNumChoices;
         const int weight = std::rand() % kNumChoices;
         const int material = std::rand() % kNumChoices;

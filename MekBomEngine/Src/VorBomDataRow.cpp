@@ -1,3 +1,7 @@
+// Handles of equal parts. Of a million rows few have any, so a row has no array but a pointer to one, null at first:
+//   setEqualPartObjectHandles with none     the pointer stays null
+//   EqualPartObjectHandles                  makes an empty array, which is the row's from now on
+//   setEqualPartObjectHandles with two      fills that same array: a reference handed out before shows both
 #include "VorBomDataRow.h"
 
 #include "VorBomTupleFinder.h"
@@ -91,7 +95,7 @@ VorStringArray& VorBomDataRow::ownHandles() const
     return *pNew.release();
 }
 
-// Without asking `other`, which would give it an array.
+// Reads the pointer of `other` rather than ask for its handles, which would give it an array.
 void VorBomDataRow::takeHandlesOf(const VorBomDataRow& other)
 {
     const VorStringArray* pHandles = other.m_pEqualPartObjectHandles.load();

@@ -28,6 +28,7 @@ using VorStringArrayArray = VorArray<VorStringArray>;
 class MEK_BOM_API VorBomDataRow : public VorBomItemBase
 {
 public:
+    // A new row has no handles and counts in sums. Copies take handles and links as they stand: sub-rows are shared.
     VorBomDataRow() = default;
     VorBomDataRow(const VorBomDataRow& other);
     VorBomDataRow& operator=(const VorBomDataRow& other);

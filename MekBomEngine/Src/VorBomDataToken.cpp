@@ -1,3 +1,7 @@
+// A request is a prefix and what follows it, mostly a list. Told on "%SortAscBy: %A,%SortDescBy:%B":
+//   starts with "%SortAscBy:"           it is a sorting request
+//   blanks removed, split at commas     "%SortAscBy:%A" and "%SortDescBy:%B": a direction stays with its element
+//   removeSortingPrefix                 "%A" ascending, "%B" descending
 #include "VorBomDataToken.h"
 
 #include "VorBomTokenCatalogue.h"
@@ -21,7 +25,7 @@ const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomDataToken";
 const VorString kComma(L",");
 const VorString kFormulaDelimiters(VorFormulaText::kDelimiters.data());
 
-// As `text.find(prefix, 0) == 0`, without a search through the whole text.
+// Answers as `text.find(prefix, 0) == 0` does, without a search through the whole text.
 bool startsWith(const VorString& text, const VorString& prefix)
 {
     return VorString::compare(text, prefix, prefix.length()) == 0;

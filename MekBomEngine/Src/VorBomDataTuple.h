@@ -29,14 +29,14 @@ public:
     VorBomDataTuple(const VorString& token, const VorBomDataValue& value) : m_token(token), m_value(value) {}
     VorBomDataTuple(const VorString& token, VorBomDataValue&& value) : m_token(token), m_value(std::move(value)) {}
 
-    // The same with the payload in one of `cells`: an int, a double or a VorString.
+    // Takes an int, a double or a VorString, whose payload comes into one of `cells`.
     template <class Value>
     VorBomDataTuple(const VorString& token, const Value& value, VorBomPayloadCells& cells)
         : m_token(token), m_value(value, cells)
     {
     }
 
-    // The same with a value of any kind and a used flag.
+    // Takes a copy of a value of any kind, whose payload comes into one of `cells`, and a used flag.
     VorBomDataTuple(const VorString& token, const VorBomDataValue& value, VorBomPayloadCells& cells, int used)
         : m_token(token), m_value(value, cells)
     {
@@ -53,6 +53,7 @@ public:
     VorBomDataTuple& operator=(VorBomDataTuple&& other) noexcept = default;
     ~VorBomDataTuple() = default;
 
+    // The references live as long as the tuple. Only an assignment replaces the token.
     const VorBomDataToken& token() const { return m_token; }
     const VorBomDataValue& value() const { return m_value; }
     VorBomDataValue& value() { return m_value; }

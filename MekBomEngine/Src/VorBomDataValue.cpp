@@ -1,3 +1,9 @@
+// Payloads of all kinds live in cells of one size, so that a value keeps its cell when its kind changes, as a number of
+// a report does when it is shown:
+//   VorBomDataValue value(12.5)       takes a cell and makes the double in it
+//   value.set(VorString(L"12.5"))     makes the text in the same cell; the cell is not given back and taken again
+//   value.set(13)                     ends the text's life and makes the int in its place
+//   value = VorBomDataValue()         changes nothing, on purpose
 #include "VorBomDataValue.h"
 
 #include "MekRoots/Exp/VorAssert.h"

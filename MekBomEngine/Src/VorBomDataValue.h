@@ -4,6 +4,12 @@
 //   weight.type()      ->  kDoubleData
 //   weight.asString()  ->  "12.5"
 //
+//   kind            made from      data() is      asString()
+//   kIntData        12             int*           "12"
+//   kDoubleData     12.5           double*        "12.5"
+//   kStringData     a text         VorString*     the text
+//   kUnknownData    nothing        null           ""
+//
 // Invariants:
 //   1. type() is kUnknownData exactly when data() is null; a value without type is called empty.
 //   2. The payload is a block of its own, owned by this value and shared with no other; copies are independent.
@@ -40,7 +46,7 @@ public:
     // Reports a type that is none of the four; the copy is empty then.
     VorBomDataValue(const VorBomDataValue& other) { copy(other, VorBomPayloadCells::takeOne); }
 
-    // The same with a payload in one of `cells`.
+    // Make the same values with payloads in `cells`.
     VorBomDataValue(int value, VorBomPayloadCells& cells) { create<int>(cells.take(), kIntData, value); }
     VorBomDataValue(double value, VorBomPayloadCells& cells) { create<double>(cells.take(), kDoubleData, value); }
     VorBomDataValue(const VorString& value, VorBomPayloadCells& cells)
@@ -107,7 +113,7 @@ public:
         return isSameText ? 0 : compareAnew(other);
     }
 
-    // The same for two numbers that are in no value.
+    // Compares two numbers as compare() does two values that hold them.
     static int compareDoubles(double first, double second);
 
     // Natural order of two texts, "B2" before "B10", as VorString::compareWithNumbers says. Reports and answers -1 for

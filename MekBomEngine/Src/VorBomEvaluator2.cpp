@@ -48,7 +48,7 @@ void leaveLastFormula(VorBomEngineStateArray& stack)
         --level;
 }
 
-// Destroys what an evaluation that ends early has made and nobody has taken.
+// Destroys, when it goes, what an evaluation that ends early has made and nobody has taken.
 class SectionsInProgress
 {
 public:

@@ -1,11 +1,10 @@
 // Turns a template with its data into the evaluated report: sorted, grouped, summed, computed and shown in the
 // template's units.
 //
-//   std::unique_ptr<VorBomTemplate> pTemplate = ...;   // sections as children, rows under getBomData()
 //   pTemplate->setUnitsForTokens(&units);              // 1. the units to show numbers in
 //   pTemplate->findUsedTokens();                       // 2. fills the grouping and sorting caches of the sections
 //   VorBomTemplate result;
-//   VorBomEvaluator2::evaluate(pTemplate.get(), &result);   // 3.
+//   VorBomEvaluator2::evaluate(pTemplate, &result);    // 3. of sections as children, rows under getBomData()
 //
 // Call order. evaluate() reads the sections' grouping and sorting caches as they stand and fills none: without step 2 a
 // report is neither grouped nor sorted. setUnitsForTokens and findUsedTokens may be called in either order.
@@ -30,7 +29,7 @@
 //   - rows whose details section equals the one before under the same parent are merged away: that section is dropped
 //     and getUseThisDataForSums() of the row becomes 0, so that no total counts it;
 //   - the template's units learn the unit of each formula shown.
-// For a second evaluation from the start, build fresh data.
+// Whoever wants to evaluate a second time from the start builds fresh data.
 //
 // Threads: evaluations on different threads may run at once, each with its own template, data and result.
 #pragma once
@@ -108,9 +107,12 @@ private:
     // 1 when both hold as many tuples and equal values in them, whatever their tokens.
     static int isEqualAsEvaluated(const VorBomTemplateItem* pFirst, const VorBomTemplateItem* pSecond);
 
-    // Formulas and display. The row may be null.
+    // Computes the formulas of a section that was made from the row, or from none when that is null, and appends their
+    // results to the row. The formula computed last leaves its variables and errors in the thread's lists.
     static void evaluateExpressions(VorBomTemplateItem* pItem, VorBomDataRow* pRow);
+    // Replaces numbers by the texts that a report shows for them.
     static void applyUnitsForData(VorBomTemplateUnits* pUnits, VorBomDataTupleArray& tuples);
+    // Appends the row's data, not null, as plain entries: doubles to one decimal. Reports "false" for an empty value.
     static void fillGenericString(VorGenericString& target, const VorBomDataRow* pRow);
 
     // What the comparisons sort by: entry i of an order array, 1 ascending or 0 descending, is for token i. Refilled

@@ -6,9 +6,11 @@
 #include "VorBomEvaluator2.h"
 
 #include "VorBomDisplayPlan.h"
-#include "VorBomFormulaColumn.h"
+#include "VorBomHeaderPlan.h"
 
 #include "MekRoots/Exp/VorAssert.h"
+
+#include <memory>
 
 namespace
 {
@@ -19,17 +21,10 @@ void VorBomEvaluator2::evaluateExpressions(VorBomTemplateItem* pItem, VorBomData
 {
     if (pItem == nullptr)
         return;
-    VorBomDataTupleArray& tuples = pItem->getData();
-    for (int i = 0; i < tuples.length(); ++i)
-    {
-        const VorString& token = tuples[i].token().token();
-        double result = 0;
-        if (!VorBomDataToken::isFormula(token) || !VorBomFormulaColumn::computeOnce(tuples, i, pRow, result))
-            continue;
-        tuples[i].value().set(result);
-        if (pRow != nullptr)
-            pRow->addData(VorBomDataTuple(token, result));
-    }
+    VorBomDataRow noRow; // has no numbers; the results that it gets go with it
+    VorBomHeaderPlan plan(std::make_shared<VorBomRowLayouts>(), *pItem);
+    plan.computeFormulas(*pItem, pRow != nullptr ? pRow : &noRow);
+    plan.leaveLastFormula();
 }
 
 void VorBomEvaluator2::applyUnitsForData(VorBomTemplateUnits* pUnits, VorBomDataTupleArray& tuples)

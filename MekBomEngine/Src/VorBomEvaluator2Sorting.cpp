@@ -1,5 +1,8 @@
 // The sorting operations of VorBomEvaluator2. Input rows are put in order by VorBomSortedRows; evaluated sections are
-// sorted here, each header together with the footer that follows it.
+// sorted here, each header together with the footer that follows it:
+//   sections under one parent     H1 F1 H2 F2, opened by rows named "B" and "A"
+//   pairs, sorted by %Name        (H2, F2) (H1, F1): a section sorts by the data of the row that opened it
+//   linked again                  H2 F2 H1 F1
 #include "VorBomEvaluator2.h"
 
 #include "VorBomSortedRows.h"

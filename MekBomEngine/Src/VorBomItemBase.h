@@ -3,7 +3,8 @@
 //   VorBomItemBase item;
 //   item.addData(VorBomDataTuple(L"%PosNum", 12));
 //   item.addData(VorBomDataTuple(L"%Weight", 3.5));
-//   item.list(text, 0, 0, 0)   appends   "[%PosNum:12][%Weight:3.5]"
+//   VorString text;
+//   item.list(text, 0, 0, 0);   // text is now "[%PosNum:12][%Weight:3.5]"
 //
 // Children are a chain: child() is the first, each one's next() the following, lastChild() where addChild goes on.
 //
@@ -52,10 +53,11 @@ public:
     // Appends one line per item to `out`: for each tuple "[token:value]", as VorBomDataValue::asString shows the value.
     // With `withChildren` 1 the children follow on lines of their own, each led by one blank per level; with
     // `withNext` 1 the siblings do, after the children. The children's siblings are listed only when this item's are.
-    //   list(out, 0, 1, 1)  ->  "[%A:1]\n [%B:2]\n  [%C:3]\n [%D:4]\n[%E:5]"
+    //   root.list(out, 0, 1, 1);   // "[%A:1]\n [%B:2]\n  [%C:3]\n [%D:4]\n[%E:5]"
     // `level` is the item's own depth, which leads no blanks itself. Returns 1.
     virtual int list(VorString& out, int level, int withChildren, int withNext);
 
+    // The links, each null at its end. Setting one neither destroys nor unhangs what it named before.
     VorBomItemBase* next() const { return m_pNext; }
     VorBomItemBase* child() const { return m_pChild; }
     VorBomItemBase* lastChild() const { return m_pLastChild; }
@@ -75,6 +77,8 @@ public:
     // it children with setChild. The tuples stay. Pinned by VorBomItemBaseTest.EmptyLeavesTheLinksAndTuples.
     void empty();
 
+    // The tuples, in their order: append one, replace all, or work on the list itself. Two may have the same token; the
+    // first is found then.
     void addData(const VorBomDataTuple& tuple) { m_data.append(tuple); }
     void addData(VorBomDataTuple&& tuple) { m_data.append(std::move(tuple)); }
     void setData(const VorBomDataTupleArray& data) { m_data = data; }

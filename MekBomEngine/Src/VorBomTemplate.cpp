@@ -114,6 +114,11 @@ void VorBomTemplate::setUnitsForTokens(const VorUnitsManager* pManager)
         m_pUnits->AddTokenType(entry.token, entry.type);
 }
 
+// Told on a group header with "%GroupBy:%PosNum" and its footer with "%SumBy:%Weight":
+//   tuples of the header        %GroupBy:%PosNum
+//   what it groups by           %PosNum
+//   tuples of the footer        %SumBy:%Weight, and what that sums: %Weight
+//
 // Every section is visited, so each fills its own caches only: going down the nested group headers from every one of
 // them would cost the square of their depth.
 int VorBomTemplate::findUsedTokens()

@@ -39,7 +39,8 @@ public:
         kNoOptions = 0
     };
 
-    // Without sections; empty data; the current units, no token registered; no options, no filter.
+    // A new template has no sections, no rows, no options and no filter. Its units are the current ones, and know no
+    // token.
     VorBomTemplate();
 
     VorBomTemplate(const VorBomTemplate& other) = default;

@@ -1,3 +1,9 @@
+// What a section asks for (Requests) is shared until somebody asks. Told on a group header of a template and two
+// sections of a report made from it:
+//   header.findGroupingTokens()       the header has an object of its own, { %PosNum }, and makes one more for copies
+//   two sections are made from it     both point to that one; a million would cost no more
+//   first.groupingTokens()            the first gets an object of its own, and answers with a reference into that
+//   first.findGroupingTokens()        fills it anew, in place: the reference shows it, the other section does not
 #include "VorBomTemplateItem.h"
 
 #include "MekRoots/Exp/VorAssert.h"
@@ -18,7 +24,8 @@ const wchar_t* const kLabels[] = {
 };
 static_assert(sizeof kLabels / sizeof *kLabels == VorBomTemplateItem::kReportFooter + 1, "one label per type");
 
-// Of all sections, since it is needed once for each at most.
+// One lock serves all sections: those of a template have requests of their own and need it no more, those of a report
+// are seldom asked.
 std::mutex requestsMutex;
 
 // Replaces `cache` by what all tokens of `tuples` answer to `request`.
@@ -92,7 +99,7 @@ int VorBomTemplateItem::list(VorString& out, int level, int withChildren, int wi
     return VorBomItemBase::list(out, level, withChildren, withNext);
 }
 
-// Behind a lock: two threads may ask one section of a finished report at once.
+// Takes the lock, since two threads may ask one section of a finished report at once.
 void VorBomTemplateItem::makeOwnRequests() const
 {
     const std::lock_guard<std::mutex> lock(requestsMutex);

@@ -6,8 +6,15 @@
 //   group.findGroupingTokens();
 //   group.groupingTokens()  ->  "%PosNum"
 //
-// The tuples are the section's columns and its instructions. Group headers nest: a group header among the children
-// groups again within the group. Children of a section are sections and nothing else. Ownership and copying are those
+// The tuples are the section's columns and its instructions. Sections nest: the first child of a section opens the next
+// level, and the sibling after that child closes it.
+//   kBomTemplate
+//     kReportHeader          opens the report
+//       kGroupHeader         opens a group; another group header in its place under it groups again within the group
+//         kDetails           a line for every row
+//       kGroupFooter         closes the group
+//     kReportFooter          closes the report
+// Children of a section are sections and nothing else. Ownership and copying are those
 // of VorBomItemBase.
 //
 // What the tuples ask for is cached, and the evaluation reads the caches as they stand: they are filled by the find

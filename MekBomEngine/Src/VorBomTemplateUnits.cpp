@@ -1,3 +1,10 @@
+// Kinds of quantity are numbered three ways: by eTokenUnitType, which template files carry; by eSystems, which units
+// managers are asked by; and by their places in VorUnitsTransformArray::kSystems, where the units stand here.
+//
+//   %Area is of type kAreaUnit, 3; its system is kArea, 4; its unit is m_units[3]
+//   %Angle is of type kAngleUnit, 4; its system is kAngle, 1; its unit is m_units[1]
+//
+// One table below leads from types to places; from there kSystems leads to systems.
 #include "VorBomTemplateUnits.h"
 
 #include "MekRoots/Exp/KTRepositoryProxy.h"
@@ -6,10 +13,34 @@
 #include "MekRoots/Exp/VorUnitTransform.h"
 #include "MekRoots/Exp/VorUnitsTransformArray.h"
 
+#include <cstddef>
+#include <iterator>
 #include <utility>
 
 namespace
 {
+using Systems = VorUnitsTransformArray;
+
+constexpr std::size_t indexOf(Systems::eSystems system)
+{
+    return static_cast<std::size_t>(Systems::indexOf(system));
+}
+
+// For each eTokenUnitType, by its number, which of the units its numbers are shown in.
+constexpr std::size_t kNone = Systems::kNumSystems;
+constexpr std::size_t kUnitOfType[] = {
+    kNone, // kNoUnit
+    indexOf(Systems::kDistance),
+    indexOf(Systems::kWeight),
+    indexOf(Systems::kArea),
+    indexOf(Systems::kAngle),
+    indexOf(Systems::kWeightPerDistance),
+    indexOf(Systems::kAreaPerDistance),
+    kNone, // kReservedUnitType
+    indexOf(Systems::kDensity),
+};
+static_assert(std::size(kUnitOfType) == VorBomTemplateUnits::kDensityUnit + 1, "one entry for each type");
+
 const int kShowUnitSymbol = 0; // columns name their unit once, not in every cell
 
 VorString plainText(double value)
@@ -19,34 +50,33 @@ VorString plainText(double value)
 }
 }
 
-// The numbers are those of the units' catalogue: unit, unit of input, format.
+// The numbers are those of the units' catalogue: unit, unit of input, format. They stand until the current units come.
 VorBomTemplateUnits::VorBomTemplateUnits()
-    : m_distanceUnit(3, 3, 2),
-      m_weightUnit(1009, 1009, 112),
-      m_areaUnit(3003, 3, 2),
-      m_angleUnit(2006, 2006, 81),
-      m_weightPerDistanceUnit(4000, 4000, 2),
-      m_areaPerDistanceUnit(4100, 4100, 2),
-      m_densityUnit(7001, 7001, 552)
+    : m_units{ MEKUnit(3, 3, 2),       MEKUnit(2006, 2006, 81), MEKUnit(1009, 1009, 112), MEKUnit(3003, 3, 2),
+               MEKUnit(4000, 4000, 2), MEKUnit(4100, 4100, 2),  MEKUnit(7001, 7001, 552) }
 {
-    MEKUnitsCommon::getUnitOfDistance(m_distanceUnit);
-    MEKUnitsCommon::getUnitOfWeight(m_weightUnit);
-    MEKUnitsCommon::getUnitOfArea(m_areaUnit);
-    MEKUnitsCommon::getUnitOfAngle(m_angleUnit);
-    MEKUnitsCommon::getUnitOfWeightPerDistance(m_weightPerDistanceUnit);
-    MEKUnitsCommon::getUnitOfAreaPerDistance(m_areaPerDistanceUnit);
-    MEKUnitsCommon::getUnitOfDensity(m_densityUnit);
+    MEKUnitsCommon::getUnitOfDistance(m_units[indexOf(Systems::kDistance)]);
+    MEKUnitsCommon::getUnitOfWeight(m_units[indexOf(Systems::kWeight)]);
+    MEKUnitsCommon::getUnitOfArea(m_units[indexOf(Systems::kArea)]);
+    MEKUnitsCommon::getUnitOfAngle(m_units[indexOf(Systems::kAngle)]);
+    MEKUnitsCommon::getUnitOfWeightPerDistance(m_units[indexOf(Systems::kWeightPerDistance)]);
+    MEKUnitsCommon::getUnitOfAreaPerDistance(m_units[indexOf(Systems::kAreaPerDistance)]);
+    MEKUnitsCommon::getUnitOfDensity(m_units[indexOf(Systems::kDensity)]);
+}
+
+VorBomTemplateUnits::eTokenUnitType VorBomTemplateUnits::unitTypeOf(VorUnitsTransformArray::eSystems system)
+{
+    for (std::size_t type = 0; type < std::size(kUnitOfType); ++type)
+        if (kUnitOfType[type] != kNone && Systems::kSystems[kUnitOfType[type]] == system)
+            return static_cast<eTokenUnitType>(type);
+    return kNoUnit;
 }
 
 void VorBomTemplateUnits::setUnits(const VorUnitsManager* pManager)
 {
-    m_distanceUnit = pManager->getUnit(VorUnitsTransformArray::kDistance);
-    m_weightUnit = pManager->getUnit(VorUnitsTransformArray::kWeight);
-    m_areaUnit = pManager->getUnit(VorUnitsTransformArray::kArea);
-    m_angleUnit = pManager->getUnit(VorUnitsTransformArray::kAngle);
-    m_weightPerDistanceUnit = pManager->getUnit(VorUnitsTransformArray::kWeightPerDistance);
-    m_areaPerDistanceUnit = pManager->getUnit(VorUnitsTransformArray::kAreaPerDistance);
-    m_densityUnit = pManager->getUnit(VorUnitsTransformArray::kDensity);
+    for (const std::size_t unit : kUnitOfType) // in the order in which managers have always been asked
+        if (unit != kNone)
+            m_units[unit] = pManager->getUnit(Systems::kSystems[unit]);
     readSettings();
 }
 
@@ -102,17 +132,10 @@ void VorBomTemplateUnits::readSettings()
 // Null for a type that has no unit.
 const MEKUnit* VorBomTemplateUnits::unitOfType(eTokenUnitType type) const
 {
-    switch (type)
-    {
-        case kDistanceUnit: return &m_distanceUnit;
-        case kWeightUnit: return &m_weightUnit;
-        case kAreaUnit: return &m_areaUnit;
-        case kAngleUnit: return &m_angleUnit;
-        case kWeightPerDistanceUnit: return &m_weightPerDistanceUnit;
-        case kAreaPerDistanceUnit: return &m_areaPerDistanceUnit;
-        case kDensityUnit: return &m_densityUnit;
-        default: return nullptr;
-    }
+    const auto number = static_cast<std::size_t>(type); // a negative one becomes one too large
+    if (number >= std::size(kUnitOfType) || kUnitOfType[number] == kNone)
+        return nullptr;
+    return &m_units[kUnitOfType[number]];
 }
 
 VorString VorBomTemplateUnits::formatIn(const MEKUnit& unit, double value) const

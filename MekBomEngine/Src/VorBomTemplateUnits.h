@@ -14,6 +14,9 @@
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
 #include "MekRoots/Exp/VorUnitsManager.h"
+#include "MekRoots/Exp/VorUnitsTransformArray.h"
+
+#include <array>
 
 class MEK_BOM_API VorBomTemplateUnits
 {
@@ -31,6 +34,10 @@ public:
         kReservedUnitType = 7, // shown as empty text
         kDensityUnit = 8
     };
+
+    // The type whose numbers are shown in the unit of that kind of quantity; kNoUnit for a number that is no kind.
+    //   VorBomTemplateUnits::unitTypeOf(VorUnitsTransformArray::kAngle)   ->  kAngleUnit
+    static eTokenUnitType unitTypeOf(VorUnitsTransformArray::eSystems system);
 
     // No token registered; the units that MEKUnitsCommon has as current ones; trailing zeros, zero feet and zero inches
     // suppressed; a blank between feet and inches.
@@ -81,13 +88,7 @@ private:
     VorString formatIn(const MEKUnit& unit, double value) const;
 
     VorStringHashMap<eTokenUnitType> m_tokenTypes;
-    MEKUnit m_distanceUnit;
-    MEKUnit m_weightUnit;
-    MEKUnit m_areaUnit;
-    MEKUnit m_angleUnit;
-    MEKUnit m_weightPerDistanceUnit;
-    MEKUnit m_areaPerDistanceUnit;
-    MEKUnit m_densityUnit;
+    std::array<MEKUnit, VorUnitsTransformArray::kNumSystems> m_units; // in the order of kSystems
     int m_nSuppressLastZeros = 1;
     int m_nSuppressZeroFeet = 1;
     int m_nSuppressZeroInch = 1;

@@ -19,6 +19,7 @@
 class MEK_BOM_API VorBomTokenCatalogue
 {
 public:
+    // One kind of token. Owns nothing: names are literals.
     struct Entry
     {
         // Takes the length from the literal.
@@ -33,6 +34,7 @@ public:
         {
         }
 
+        // Whether `token` is this one, or starts with its name where that stands for all that do.
         bool matches(const VorString& token) const;
 
         const wchar_t* name;
@@ -45,7 +47,7 @@ public:
     // The first entry that matches the whole token, its prefix not stripped; null when there is none. Case counts.
     static const Entry* find(const VorString& token);
 
-    // Half-open range over the table: text tokens, then whole numbers, then numbers.
+    // The table as a half-open range: tokens of texts, then of whole numbers, then of numbers.
     static const Entry* begin();
     static const Entry* end();
 };

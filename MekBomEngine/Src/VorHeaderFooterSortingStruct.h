@@ -1,5 +1,10 @@
 // What moves as one when evaluated sections are sorted: a header or details section, and the footer that follows it.
-// Owns nothing.
+//
+//   VorHeaderFooterSortingStruct pair;
+//   pair.m_pHeaderItem = pHeader;   // of the siblings H1 F1 H2 the first two; H2 makes a pair by itself
+//   pair.m_pFooterItem = pFooter;
+//
+// Neither section is owned, and copies are as good as their source.
 #pragma once
 
 #include "VorBomTemplateItem.h"

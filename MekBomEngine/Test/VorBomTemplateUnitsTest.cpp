@@ -53,6 +53,20 @@ TEST_F(VorBomTemplateUnitsTest, TypesHaveTheirNumbers)
     EXPECT_EQ(8, Units::kDensityUnit);
 }
 
+TEST_F(VorBomTemplateUnitsTest, EveryKindOfQuantityHasItsType)
+{
+    using Systems = VorUnitsTransformArray;
+
+    EXPECT_EQ(Units::kDistanceUnit, Units::unitTypeOf(Systems::kDistance));
+    EXPECT_EQ(Units::kWeightUnit, Units::unitTypeOf(Systems::kWeight));
+    EXPECT_EQ(Units::kAreaUnit, Units::unitTypeOf(Systems::kArea));
+    EXPECT_EQ(Units::kAngleUnit, Units::unitTypeOf(Systems::kAngle));
+    EXPECT_EQ(Units::kWeightPerDistanceUnit, Units::unitTypeOf(Systems::kWeightPerDistance));
+    EXPECT_EQ(Units::kAreaPerDistanceUnit, Units::unitTypeOf(Systems::kAreaPerDistance));
+    EXPECT_EQ(Units::kDensityUnit, Units::unitTypeOf(Systems::kDensity));
+    EXPECT_EQ(Units::kNoUnit, Units::unitTypeOf(static_cast<Systems::eSystems>(3)));
+}
+
 TEST_F(VorBomTemplateUnitsTest, TokensWithoutUnitShowAsPrintfShowsThem)
 {
     Units units;

@@ -1,6 +1,6 @@
-// Records of CSV: whatever bytes come, they are read as the same records when the reader's buffer ends amid them; what is
-// read, written with every field in quotes, is read again as it was; and all else is refused with a fault. Input: a CSV
-// file. Seeds: Fuzz/Seeds/CsvReaderFuzz.
+// Records of CSV: whatever bytes come, they are read as the same records when the reader's buffer ends amid them; what
+// is read, written with every field in quotes, is read again as it was; and all else is refused with a fault. Input: a
+// CSV file. Seeds: Fuzz/Seeds/CsvReaderFuzz.
 #include "CsvReader.h"
 #include "Fault.h"
 #include "MemorySource.h"

@@ -14,7 +14,6 @@
 #include "ExpressionEvaluator/Src/Reading/VorFormulaNumber.h"
 #include "ExpressionEvaluator/Src/VorExprEvVariableList.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -74,20 +73,29 @@ private:
     // character, and no variable has that.
     const wchar_t* findName(const wchar_t* pText, double& value) const
     {
-        const wchar_t* pNext = nullptr;
-        const std::wstring_view name = textAt(pText, pNext);
-        if (m_bReachesPastEnd && *pNext == L'\0')
-            return nullptr;
         for (const Variable* pVariable = m_variables.announcedEnd(); pVariable != m_variables.announced();)
         {
-            --pVariable;
-            if (pVariable->length != name.size() || pVariable->pName[name.size() - 1] != name.back() ||
-                !std::equal(name.begin(), name.end(), pVariable->pName))
+            const wchar_t* pNext = readName(pText, (--pVariable)->pName);
+            if (pNext == nullptr)
                 continue;
             value = pVariable->value;
-            return pNext;
+            return m_bReachesPastEnd && *pNext == L'\0' ? nullptr : pNext;
         }
         return nullptr;
+    }
+
+    // Where the operand at `pText` ends if it is that name. An operand has neither an operator in it nor a blank at its
+    // end; a name that has is never found.
+    static const wchar_t* readName(const wchar_t* pText, const wchar_t* pName)
+    {
+        if (*pText != *pName)
+            return nullptr;
+        std::size_t i = 1;
+        while (pText[i] == pName[i] && !VorFormulaCharacters::kOperandEnds.holds(pText[i]))
+            ++i;
+        if (pName[i] != L'\0' || VorFormulaCharacters::kBlanks.holds(pText[i - 1]))
+            return nullptr;
+        return VorFormulaCharacters::endOperand(pText + i);
     }
 
     const wchar_t* readUnusual(const wchar_t* pText, double& value);

@@ -1,3 +1,8 @@
+// Told on the columns %Weight and %Name, with two layouts of rows: 0 is %Num %Name %Weight, 1 is %Num %Weight.
+//   first row of layout 0    its positions { 2, 1 } are found and kept
+//   next row of layout 0     nothing to do but to take the row's tuples
+//   first row of layout 1    positions { 1, kNone } are found and kept beside those of layout 0
+//   row without a layout     positions are found for this row alone
 #include "VorBomColumns.h"
 
 #include "VorBomTupleFinder.h"

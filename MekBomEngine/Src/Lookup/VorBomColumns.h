@@ -4,7 +4,8 @@
 //   columns.find(row);
 //   columns[1]   ->  the row's first tuple "%Weight", or null
 //
-// Finds what VorBomItemBase::getTupleAt finds. The tuples are those of the row asked for last, as it was then.
+// Finds what VorBomItemBase::getTupleAt finds. What columns[] answers is valid until find() is asked for another row or
+// the row gets further tuples.
 #pragma once
 
 #include "VorBomItemBase.h"
@@ -24,7 +25,7 @@ public:
     // No row has the column from now on. To be called before the first row.
     void leaveOut(int column) { m_leftOut.push_back(column); }
 
-    // To be moved only: it points into its own list of positions.
+    // Columns are moved, never copied: they point into their own list of positions.
     VorBomColumns(const VorBomColumns&) = delete;
     VorBomColumns& operator=(const VorBomColumns&) = delete;
     VorBomColumns(VorBomColumns&&) noexcept = default;
@@ -60,7 +61,7 @@ private:
     std::vector<Positions> m_positions; // per layout; empty where none was asked for
     Positions m_positionsOfRow;         // of a row that has no layout
 
-    // Of the row asked for last.
+    // The row that find() was called for last: its layout, the positions in it, its tuples.
     int m_nLayout = VorBomRowLayouts::kNoLayout;
     const int* m_pPositions = nullptr;
     VorBomDataTuple* m_pTuples = nullptr;

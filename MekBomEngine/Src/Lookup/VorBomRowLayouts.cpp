@@ -1,3 +1,9 @@
+// A row is looked at as little as possible. Told on rows that carry %Num and %Weight:
+//   first row                   no layout is known: number 0 is made of its tokens, to be found by their hash
+//   second row                  its tokens are those of the layout met last: 0 again, and nothing is hashed
+//   second row, asked again     it is remembered and has two tuples still: 0, and no token is looked at
+//   second row, grown           a formula's result was appended. Only that third token is compared, with the layout
+//                               that a row of layout 0 had when one last grew
 #include "VorBomRowLayouts.h"
 
 #include <utility>
@@ -16,7 +22,7 @@ bool hasLayout(const VorBomDataTupleArray& tuples, const std::vector<VorString>&
     return true;
 }
 
-// Over the addresses of the tokens' texts.
+// Hashes the addresses of the tokens' texts, not their characters: a layout is told by the former.
 std::size_t hashOf(const VorBomDataTupleArray& tuples)
 {
     std::size_t hash = 0;

@@ -5,7 +5,7 @@ VorBomTupleFinder::VorBomTupleFinder(const VorBomDataTupleArray& tuples, int num
     if (numTokens <= kFewTokens || tuples.length() <= kFewTokens)
         return;
     m_indices.emplace();
-    bool inserted = false;
+    bool inserted = false; // a later tuple with the same token is not: the first counts
     for (int i = 0; i < tuples.length(); ++i)
         m_indices->findOrInsert(tuples[i].token().token(), i, inserted);
 }

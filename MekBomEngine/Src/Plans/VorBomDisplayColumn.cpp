@@ -1,3 +1,8 @@
+// A number is formatted only if its text is not known yet. Told on "%Formula:%Length*2" in a report in millimetres:
+//   100.0    the units know no type for "%Length*2", so that of %Length is registered; "100" is made and remembered
+//   100.0    the text remembered is shown, the same text shared
+//   then another column registers a type of its own, and numTokenTypes() has grown
+//   100.0    the type is looked up anew, as that column may have been about this very formula, and the text made anew
 #include "VorBomDisplayColumn.h"
 
 #include "MekRoots/Exp/VorNumberText.h"
@@ -23,14 +28,6 @@ VorString withoutSumPrefix(const VorBomDataToken& token)
 VorBomDisplayColumn::VorBomDisplayColumn(const VorBomDataToken& token)
     : m_name(withoutSumPrefix(token)), m_isFormula(VorBomDataToken::removeFormulaPrefix(m_name) != 0)
 {
-}
-
-void VorBomDisplayColumn::show(VorBomTemplateUnits& units, VorBomDataValue& value)
-{
-    if (value.type() == VorBomDataValue::kIntData)
-        value.set(textOf(*static_cast<const int*>(value.data())));
-    else if (value.type() == VorBomDataValue::kDoubleData)
-        value.set(textOf(*static_cast<const double*>(value.data()), units));
 }
 
 VorString VorBomDisplayColumn::textOf(int value)

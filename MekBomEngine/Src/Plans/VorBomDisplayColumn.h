@@ -22,7 +22,13 @@ public:
 
     // Replaces a number by its text; texts and empty values stay. Integers get no units. A formula's unit, once found,
     // is registered with `units` under the formula's text.
-    void show(VorBomTemplateUnits& units, VorBomDataValue& value);
+    void show(VorBomTemplateUnits& units, VorBomDataValue& value)
+    {
+        if (value.type() == VorBomDataValue::kIntData)
+            value.set(textOf(*static_cast<const int*>(value.data())));
+        else if (value.type() == VorBomDataValue::kDoubleData)
+            value.set(textOf(*static_cast<const double*>(value.data()), units));
+    }
 
     // The kind of unit that the last double was shown in.
     VorBomTemplateUnits::eTokenUnitType unitType() const { return m_type; }

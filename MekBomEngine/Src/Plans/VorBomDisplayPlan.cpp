@@ -1,12 +1,10 @@
+// Told on [%Weight:12.5][%Name:HEA200], shown in pounds, by a plan that keeps values:
+//   %Weight    12.5 is written down, the number becomes "27.56", and its column knows now: that was a weight
+//   %Name      a text is written down as what it is, and shown as it stands
 #include "VorBomDisplayPlan.h"
 
 namespace
 {
-bool isNumber(const VorBomDataValue& value)
-{
-    return value.type() == VorBomDataValue::kIntData || value.type() == VorBomDataValue::kDoubleData;
-}
-
 VorBomTypedValue typed(const VorBomDataValue& value)
 {
     VorBomTypedValue typedValue;
@@ -35,11 +33,7 @@ void VorBomDisplayPlan::show(VorBomTemplateUnits& units, VorBomDataTupleArray& t
     }
     VorBomDataTuple* pTuple = tuples.begin();
     for (VorBomDisplayColumn& column : m_columns)
-    {
-        VorBomDataValue& value = pTuple++->value();
-        if (isNumber(value)) // spares most columns the call
-            column.show(units, value);
-    }
+        column.show(units, pTuple++->value());
 }
 
 // A column knows the unit of a number only once it has shown it.

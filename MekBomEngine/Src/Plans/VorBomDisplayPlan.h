@@ -4,7 +4,7 @@
 //   show(units, it)   %Name "HEA200", %Weight "27.56", %Quantity "3"
 //   values()          text, 12.5 as a weight, 3                        what they were, once keepValues() was called
 //
-// One evaluation's own.
+// A plan is for the units of one evaluation, and for its thread.
 #pragma once
 
 #include "VorBomDataTuple.h"
@@ -17,7 +17,7 @@
 class VorBomDisplayPlan
 {
 public:
-    // For tuples under the tokens of `tuples`, in their order.
+    // The plan shows sections that have the tokens of `tuples`, in the same order.
     explicit VorBomDisplayPlan(const VorBomDataTupleArray& tuples);
 
     // From now on show() writes down what it replaces.

@@ -1,3 +1,9 @@
+// The footer of the open group is there from the start. Told on "%SumBy:%Weight" 0.0 and "%Material" "":
+//   beginFooter                  0.0 and "", a copy of the template's section
+//   row 2.5, S235                2.5 and S235: a total adds, a plain token takes the value over
+//   row 1.5 without material     4.0 and S235: what a row lacks changes nothing
+//   row that does not count      4.0 and S235
+//   finish                       this footer is handed over, and the next begun as a fresh copy
 #include "VorBomFooterPlan.h"
 
 #include "MekRoots/Exp/VorAssert.h"
@@ -71,7 +77,7 @@ void takeValue(VorBomDataValue& columnValue, const VorBomDataValue& rowValue, bo
     columnValue = rowValue; // an empty value changes nothing
 }
 
-// Of plain tokens the tokens themselves, of totals what they add up.
+// What each column is looked up by in rows: a plain token by itself, a total by the token that it adds up.
 std::vector<VorString> tokensOf(const VorBomDataTupleArray& tuples)
 {
     std::vector<VorString> tokens;

@@ -27,7 +27,7 @@ public:
     // they do must be settled by now.
     void takeNewRows(const VorBomDataRowPointerArray& rows);
 
-    // The same, then hands the footer over and begins the next one.
+    // Takes in those rows, too, then hands the footer over and begins the next one.
     std::unique_ptr<VorBomTemplateItem> finish(const VorBomDataRowPointerArray& rows);
 
     // Shows finished footers.

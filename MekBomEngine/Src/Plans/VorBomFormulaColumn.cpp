@@ -1,3 +1,8 @@
+// Told on "%Formula:%Length*%Quantity/1000" in a section %Length 2000, for rows %Quantity 3, %Quantity 4 ...:
+//   made, once         the text is compiled; for %Length and %Quantity it is noted where section and rows have them
+//   compute, per row   2000 and 3 are fetched from there, in the order of the names, and the compiled formula gives 6
+//   computeOnce        every number becomes a variable of an evaluator that reads the text: for what is not compiled,
+//                      for messages, and while a debug switch wants to see each formula
 #include "VorBomFormulaColumn.h"
 
 #include "ExpressionEvaluator/Src/ExpressionsEvaluator.h"

@@ -20,7 +20,7 @@
 class VorBomFormulaColumn
 {
 public:
-    // For the tuple at `index` of sections made from one with these tuples; it must be a formula.
+    // `tuples` are those of the section that all others are made from; the one at `index` must be a formula.
     VorBomFormulaColumn(std::shared_ptr<VorBomRowLayouts> pLayouts, const VorBomDataTupleArray& tuples, int index);
 
     int index() const { return m_nIndex; }
@@ -29,7 +29,7 @@ public:
     // the message of a formula that fails, which costs another evaluation.
     int compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result, VorString* pMessage = nullptr);
 
-    // The same through the formula evaluator, whose variables and errors of this thread are afterwards those of the
+    // Computes it by the formula evaluator, whose variables and errors of this thread are afterwards those of the
     // formula. What a debug switch lets see is seen once.
     static int computeOnce(const VorBomDataTupleArray& tuples, int index, const VorBomDataRow* pRow, double& result,
                            VorString* pMessage = nullptr);

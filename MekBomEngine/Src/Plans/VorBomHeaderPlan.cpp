@@ -1,3 +1,9 @@
+// Told on a details section %Weight 0.0, "%Formula:%Weight*2" "" and a row %Weight 2.5:
+//   process             the payloads of both tuples come from one stretch of cells; 2.5 is the row's, "" the template's
+//   computeFormulas     5.0 replaces "" in its cell, and a tuple with 5.0 is appended to the row. Its cell is one of a
+//                       stretch that serves many rows, since it stays with the row when the section goes
+//   leaveLastFormula    after the last row that section is made once more, and its last formula computed by the
+//                       evaluator that leaves variables and errors in the thread's lists
 #include "VorBomHeaderPlan.h"
 
 #include "ExpressionEvaluator/Src/ExpressionsEvaluator.h"
@@ -29,25 +35,20 @@ VorBomDataTuple copyOf(const VorBomDataTuple& column, VorBomPayloadCells& cells)
 }
 
 // The row's value, if it has one, under the column's token.
-VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, VorBomPayloadCells& cells)
+VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, VorBomPayloadCells& cells,
+                         bool isReported)
 {
     if (pDatum == nullptr)
         return copyOf(column, cells);
     if (pDatum->value().type() == VorBomDataValue::kUnknownData)
     {
-        VorAssert::vorAssert(L"false", kSourcePath, __LINE__);
+        if (isReported)
+            VorAssert::vorAssert(L"false", kSourcePath, __LINE__);
         return copyOf(column, cells);
     }
     if (pDatum->used() != 1)
         pDatum->setUsed(1); // rows of an earlier evaluation are marked: their memory need not be written
     return VorBomDataTuple(column.token().token(), pDatum->value(), cells, column.used());
-}
-
-// The same tuple once more, without the report that the first one raised.
-VorBomDataTuple tupleAgainFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, VorBomPayloadCells& cells)
-{
-    const bool isEmpty = pDatum != nullptr && pDatum->value().type() == VorBomDataValue::kUnknownData;
-    return tupleFor(column, isEmpty ? nullptr : pDatum, cells);
 }
 }
 
@@ -66,19 +67,19 @@ VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLay
 
 std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row)
 {
-    return makeSection(row, tupleFor);
+    return makeSection(row, true);
 }
 
-template <class TupleFor>
-std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::makeSection(VorBomDataRow& row, TupleFor makeTuple)
+std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::makeSection(VorBomDataRow& row, bool isEmptyDatumReported)
 {
     m_columns.find(row);
     const VorBomDataTupleArray& columns = m_section.getData();
     auto pEvaluated = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
     VorBomPayloadCells cells(columns.length());
     pEvaluated->getData().setPhysicalLength(columns.length());
-    pEvaluated->getData().appendMade(columns.length(), [this, &cells, makeTuple, pColumns = columns.begin()](int i)
-                                     { return makeTuple(pColumns[i], m_columns[i], cells); });
+    pEvaluated->getData().appendMade(columns.length(),
+                                     [this, &cells, isEmptyDatumReported, pColumns = columns.begin()](int i)
+                                     { return tupleFor(pColumns[i], m_columns[i], cells, isEmptyDatumReported); });
     return pEvaluated;
 }
 
@@ -114,7 +115,7 @@ int VorBomHeaderPlan::leaveLastFormula()
         return 0;
     if (ExpressionsEvaluator::isTraced())
         return 1; // nothing was compiled, and computing again would be seen
-    const std::unique_ptr<VorBomTemplateItem> pEvaluated = makeSection(*m_pLastRow, tupleAgainFor);
+    const std::unique_ptr<VorBomTemplateItem> pEvaluated = makeSection(*m_pLastRow, false); // it was, the first time
     VorBomDataTupleArray& tuples = pEvaluated->getData();
     for (VorBomFormulaColumn& formula : m_formulas)
     {

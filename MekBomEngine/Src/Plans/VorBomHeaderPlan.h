@@ -45,15 +45,14 @@ public:
 
     // From now on computeFormulas() writes down the formulas that fail: each costs another evaluation, for its message.
     void keepFailures() { m_keepsFailures = true; }
-    // Those of the section computed last, in its order; none unless they are kept.
+    // The failures of the section computed last, in the order of its tuples; none unless they are kept.
     const std::vector<Failure>& failures() const { return m_failures; }
 
     // Shows such sections.
     VorBomDisplayPlan& display() { return m_display; }
 
 private:
-    template <class TupleFor>
-    std::unique_ptr<VorBomTemplateItem> makeSection(VorBomDataRow& row, TupleFor makeTuple);
+    std::unique_ptr<VorBomTemplateItem> makeSection(VorBomDataRow& row, bool isEmptyDatumReported);
     VorBomPayloadCells& cellsForRows();
 
     const VorBomTemplateItem& m_section;

@@ -1,3 +1,6 @@
+// Told on a level that groups by %Material and %Length: rows S235 100.0 and S235 100.0000001 are of one group, since
+// equality is that of VorBomDataTuple::compareValues. Two rows that both lack %Length agree in that; one that lacks it
+// differs from one that has it.
 #include "VorBomLevelPlan.h"
 
 namespace

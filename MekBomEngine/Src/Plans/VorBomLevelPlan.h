@@ -1,8 +1,9 @@
 // What one level of a report asks of every row: its header, its footer, and when a row opens a new group. All plans of
 // an evaluation share one set of layouts, so that a row's layout is told once for all levels.
 //
-//   header "%GroupBy:%Material", rows S235, S235, S355
-//   isSameGroup(second, first)  ->  1      isSameGroup(third, second)  ->  0
+//   VorBomLevelPlan plan(layouts, header, nullptr);   // header "%GroupBy:%Material", rows S235, S235, S355
+//   plan.isSameGroup(second, first)   ->  1
+//   plan.isSameGroup(third, second)   ->  0
 #pragma once
 
 #include "VorBomColumns.h"
@@ -23,7 +24,7 @@ public:
     // 1 when the rows agree in what the header groups by; answers as VorBomDataRow::compare being 0.
     int isSameGroup(VorBomDataRow& row, VorBomDataRow& lastRow);
 
-    // From now on the values of both sections are kept when they are shown.
+    // Lets both sections keep their values when they are shown, from now on.
     void keepValues();
 
     VorBomHeaderPlan header;
@@ -31,5 +32,5 @@ public:
 
 private:
     VorBomColumns m_grouping;
-    VorBomColumns m_groupingOfLast;
+    VorBomColumns m_groupingOfLast; // the same: a list of columns knows one row at a time, and two are compared
 };

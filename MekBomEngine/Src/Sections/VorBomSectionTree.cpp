@@ -17,7 +17,7 @@ void VorBomSectionTree::take(VorBomEngineStateArray& stack, int level)
         destroySections(completedGroup);
         return;
     }
-    pParent->addChild(completedGroup.m_pEvaluatedHeader);
+    pParent->addChild(completedGroup.m_pEvaluatedHeader); // either may be null, which adds nothing
     pParent->addChild(completedGroup.m_pEvaluatedFooter);
     completedGroup.m_pSectionBefore = static_cast<const VorBomTemplateItem*>(pParent->lastChild());
     completedGroup.m_pEvaluatedHeader = nullptr;

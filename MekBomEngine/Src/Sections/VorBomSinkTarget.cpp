@@ -1,3 +1,10 @@
+// Told on rows A, A, B grouped by name, under levels 0 report, 1 group, 2 details:
+//   open 0, open 1    each header is shown, handed over and destroyed
+//   open 2, take 2    the line of the first A is handed over when it is complete, and kept, to compare the next with
+//   open 2            the line of the second A reads as that one: the engine destroys it
+//   takeMergedRow     its row is handed over instead
+//   take 2            no section is left: the first A's line stays the one to compare with
+//   take 1            the footer of group A is handed over and destroyed; then B goes as A did
 #include "VorBomSinkTarget.h"
 
 #include "VorBomLevelPlan.h"

@@ -1,5 +1,5 @@
 // Hands the sections of a report to a host's sink: a header when its group opens, a footer when it closes, a line when it
-// is complete. Keeps none but the one that the next line is compared with.
+// is complete. Keeps no section but the one that the next line is compared with.
 #pragma once
 
 #include "VorBomSectionSink.h"
@@ -19,7 +19,7 @@ public:
     int takeProgress(int numRowsDone) override { return m_sink.takeProgress(numRowsDone); }
 
 private:
-    using Section = std::unique_ptr<const VorBomTemplateItem>;
+    using Section = std::unique_ptr<const VorBomTemplateItem>; // nothing hangs in it, so it goes without empty()
 
     void handOverHeader(const VorBomTemplateItem& header, const VorBomEngineState& group, int level);
     void handOverFooter(const VorBomTemplateItem& footer, const VorBomEngineState& group, int level);

@@ -1,3 +1,8 @@
+// Two tables answer, one after the other. Told on the column S235, S355, S235, whose first and third cell share a text:
+//   S235    its address is not among the recent ones: hashed, found nowhere, gets number 0 and a recent place
+//   S355    likewise, number 1
+//   S235    its address is a recent one: 0, without a look at its characters
+// An equal text at another address is hashed and found in the table of numbers.
 #include "VorBomDistinctTexts.h"
 
 namespace
@@ -16,7 +21,7 @@ std::uint32_t hashOf(const VorString& text)
 std::uint32_t VorBomDistinctTexts::indexOf(const VorString& text)
 {
     const wchar_t* pCharacters = text.getStringW();
-    constexpr std::uintptr_t kBlockWidth = 16; // neighbouring texts lie about so far apart
+    constexpr std::uintptr_t kBlockWidth = 16; // bytes that neighbouring texts lie apart, or about so many
     Recent& recent = m_recent[reinterpret_cast<std::uintptr_t>(pCharacters) / kBlockWidth % kNumRecent];
     if (recent.pCharacters != pCharacters)
         recent = { pCharacters, findOrAdd(text) };

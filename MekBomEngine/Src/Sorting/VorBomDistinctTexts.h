@@ -1,6 +1,10 @@
 // The different texts of a column, numbered from 0 in the order in which they are met.
 //
-//   indexOf("S235")  ->  0      indexOf("S355")  ->  1      indexOf("S235")  ->  0
+//   VorBomDistinctTexts steels;
+//   steels.indexOf(s235)       ->  0
+//   steels.indexOf(s355)       ->  1
+//   steels.indexOf(s235Again)  ->  0, be it the same text or an equal one
+//   steels.texts().size()      ->  2
 //
 // The texts are not owned and must outlive this object.
 #pragma once
@@ -20,11 +24,11 @@ public:
     // The number of the text equal to `text`, a new one if there is none yet.
     std::uint32_t indexOf(const VorString& text);
 
-    // In the order of their numbers.
+    // The texts in the order of their numbers; each is the first of its equals that was met.
     const std::vector<const VorString*>& texts() const { return m_texts; }
 
 private:
-    // Of the open-addressed table: a text's hash and number. Free while `number` is kNone.
+    // A place of the open-addressed table, with the hash and the number of a text. It is free while `number` is kNone.
     struct Slot
     {
         std::uint32_t hash = 0;

@@ -1,3 +1,12 @@
+// Numbers are ranked by sorting them with their rows, texts by sorting the few that differ. Told on a column with the
+// values 2.5, none, 1.0, 2.5 in rows 0 to 3:
+//   sorted by the bytes of their keys      1.0 of row 2, 2.5 of row 0, 2.5 of row 3
+//   do comparisons tell the same?          yes: neighbours are equal, or further apart than what counts as equal
+//   ranks of rows 0 to 3                   2 0 1 2
+//   rows 0 to 3, ascending by these        1 2 0 3: counted per rank, then each put in its place
+//
+// Between 2.5 and 2.5000001 the answer would be no. Comparing calls the two equal, and three such values in a row may
+// have equal neighbours but unequal ends: there is no order to rank by, and create() leaves it to comparisons.
 #include "VorBomRanks.h"
 
 #include "VorBomDistinctTexts.h"
@@ -132,6 +141,7 @@ NumbersOfRows<Number> sortedNumbers(const std::vector<const VorBomDataTuple*>& t
     return numbers;
 }
 
+// Whether comparing any two neighbours tells what their sorted order tells; then it does so for all pairs.
 template <class Number>
 bool compareAsTheyAreSorted(const NumbersOfRows<Number>& numbers)
 {
@@ -202,6 +212,7 @@ int VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bo
     return 1;
 }
 
+// Equal numbers stand side by side once they are sorted, and a new rank begins where two differ.
 template <class Number>
 int VorBomRanks::rankNumbers(const std::vector<const VorBomDataTuple*>& tuples)
 {

@@ -17,8 +17,8 @@
 class VorBomRanks
 {
 public:
-    // For one tuple per row, null for a row without the datum, which ranks lowest. 0 with no ranks when the column
-    // cannot be ranked.
+    // Ranks a column of one tuple per row, null for a row without the datum, which ranks lowest. Answers 0, and has no
+    // ranks then, when the column cannot be ranked.
     int create(const std::vector<const VorBomDataTuple*>& tuples, VorBomDataToken::eSortType sortType);
 
     // Reorders `rows`, which are indices into the column, by rank; rows of equal rank keep their order.

@@ -1,3 +1,8 @@
+// Told on rows 0 to 2 with S355 100, S235 200, S355 300, by %Material ascending, then %Length descending:
+//   columns                        S355 S235 S355 and 100 200 300: every row is looked up once
+//   ranks                          2 1 2 and 1 2 3
+//   by %Length, descending         2 1 0: the last key goes first
+//   by %Material, stably           1 2 0: rows of one material stay in the order of their lengths
 #include "VorBomSortedRows.h"
 
 #include "VorBomColumns.h"

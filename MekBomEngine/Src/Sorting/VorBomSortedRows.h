@@ -1,8 +1,8 @@
 // The rows of a list in the order of its sort keys, the first key counting most; rows equal under all keys keep their
 // order. A row without a key's datum stands before those that have it when ascending, after them when descending.
 //
-//   VorBomSortedRows rows(data, { L"%Material", L"%Length" }, { 1, 0 });   material ascending, length descending
-//   rows.sorted()
+//   VorBomSortedRows rows(data, tokens, orders);   // %Material and %Length, 1 and 0: length descending
+//   rows.sorted()  ->  S235 200, S355 300, S355 100
 //
 // Each row's tuples are looked up once. Columns that can be ranked (VorBomRanks), as nearly all can, are sorted by
 // counting ranks, from the last key to the first; if one cannot, values are compared in a stable merge.
@@ -23,6 +23,7 @@ public:
     // `orders` holds 1 for ascending or 0 for descending, one for each token.
     VorBomSortedRows(VorBomData& data, const VorStringArray& tokens, const VorArray<int>& orders);
 
+    // All rows, in order; the data's own chain stays as it is.
     std::vector<VorBomItemBase*> sorted();
 
     // The row that was last when the rows were looked up; null without rows.

@@ -1,7 +1,7 @@
 // Builds the sections of VorBomTemplate::createDefaultTemplate.
 //
 //   VorBomDefaultTemplate sections;                  // seven sections with their tuples, not linked
-//   sections.linkInto(*pTemplate, kFullTree);        // the template owns them now
+//   sections.linkInto(*pTemplate, VorBomDefaultTemplate::kFullTree);   // the template owns them now
 //   VorBomDefaultTemplate::registerUnitsWith(*pTemplate->getBomTemplateUnits());
 //
 // Sections that the layout leaves unlinked belong to whoever holds this object.

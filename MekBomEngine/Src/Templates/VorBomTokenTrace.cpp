@@ -1,3 +1,7 @@
+// Told on a trace that holds %A already:
+//   addTuple "%SumBy:%A"            "%SumBy:%A" is added; %A is known
+//   addTuple "%Formula:%A*%B"       itself is added, then %A once more and %B: those of a formula always are
+//   addTuple "%Formula:%A*%B"       known, so nothing is added, and what it computes is not looked at
 #include "VorBomTokenTrace.h"
 
 #include "VorBomDataToken.h"
@@ -49,7 +53,7 @@ bool VorBomTokenTrace::addIfNew(const VorString& token)
     return true;
 }
 
-// Nothing for a token that is no formula.
+// Adds nothing for a token that is no formula.
 void VorBomTokenTrace::addTokensOfFormula(VorString token)
 {
     if (!VorBomDataToken::removeFormulaPrefix(token))

@@ -1,8 +1,8 @@
 // Collects the tokens that a template names, each once as far as required, for VorBomTemplate::findUsedTokens.
 //
-//   VorBomTokenTrace trace(tokens);                   // goes on with what `tokens` holds
-//   trace.addTuple(L"%SumBy:%Formula:%A*%B");         // itself, "%Formula:%A*%B", "%A", "%B"
-//   trace.addSortingTokens({ "%SortAscBy:%Name" });   // "%Name"
+//   VorBomTokenTrace trace(tokens);                      // goes on with what `tokens` holds
+//   trace.addTuple(L"%SumBy:%Formula:%A*%B");            // itself, "%Formula:%A*%B", "%A", "%B"
+//   trace.addSortingTokens(section.sortingTokens());     // of "%SortAscBy:%Name" the token "%Name"
 //   trace.sort();
 //
 // Tokens are told apart exactly. `tokens` is not owned and not touched by others while the trace lives.
@@ -24,11 +24,12 @@ public:
     // Pinned by VorBomTemplateTest.FormulaTokensMayRepeatInTheTrace.
     void addTuple(const VorString& token);
 
+    // The tokens themselves, those to sort by without their direction prefixes, as far as they are new.
     void addGroupingTokens(const VorStringArray& tokens);
-    // Without their direction prefixes.
     void addSortingTokens(const VorStringArray& tokens);
 
-    // Ascending without regard to case; tokens that differ in case only stay in the order they were found in.
+    // Puts all tokens in ascending order without regard to case. Tokens that differ in case alone stay in the order in
+    // which they were found.
     void sort();
 
 private:

@@ -1,3 +1,6 @@
+// Told on an item A with the children B and C and the sibling D, where B has a child E. What is still to come after the
+// subtree at hand waits in a list:
+//   here A, waiting none    here B, waiting D    here E, waiting D C    here C, waiting D    here D, waiting none
 #include "VorBomItemWalk.h"
 
 void VorBomItemWalk::advance(bool intoChildren, bool alongSiblings)

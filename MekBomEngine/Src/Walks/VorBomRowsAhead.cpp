@@ -1,3 +1,10 @@
+// Told on rows 1, 2, 3 ... while row 1 is evaluated. Four fetches are on their way, and none needs what another of
+// them brings:
+//   row 6                   whose address row 5 has, which came a row ago
+//   tuples of row 4         whose address row 4 has
+//   payloads of row 3       whose addresses its tuples have
+//   texts of row 2          whose addresses its payloads have
+// When row 2 is evaluated, each step takes the row after.
 #include "VorBomRowsAhead.h"
 
 #include "VorBomDataRow.h"
@@ -10,7 +17,7 @@ namespace
 {
 constexpr std::size_t kLine = 64; // bytes in a line of the cache
 
-// To be inlined: g++ takes a function that only fetches for one without effect and drops calls of it.
+// Must be inlined: g++ takes a function that only fetches for one without effect and drops calls of it.
 inline void bringIn(const void* pMemory, std::size_t size)
 {
     const char* pLine = static_cast<const char*>(pMemory);

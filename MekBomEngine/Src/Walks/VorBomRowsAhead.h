@@ -13,7 +13,7 @@ class VorBomRowsAhead
 public:
     explicit VorBomRowsAhead(VorBomItemBase* pFirst);
 
-    // To be called once for each row, before it is looked at.
+    // Call it once for each row, before the row is looked at.
     void advance();
 
 private:

@@ -15,7 +15,7 @@ namespace mekbom
 class MemorySource : public ByteSource
 {
 public:
-    // `name` is what messages call it. The bytes are not owned and outlive the source.
+    // `name` is what messages call it. The bytes are not owned and must outlive the source.
     MemorySource(std::string name, std::string_view bytes) : m_name(std::move(name)), m_rest(bytes) {}
 
     const std::string& name() const override { return m_name; }

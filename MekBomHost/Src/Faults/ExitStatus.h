@@ -1,4 +1,5 @@
-// What the program tells its caller. Scripts rely on the numbers; `mekbom --help` lists them.
+// What the program tells its caller. Scripts rely on the numbers; `mekbom --help` lists them. Each Fault carries
+// one, so that whoever runs a report without the program learns the same.
 #pragma once
 
 namespace mekbom

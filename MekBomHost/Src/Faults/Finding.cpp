@@ -1,7 +1,16 @@
+// A message is made of the parts of a finding that are known, each place followed by a colon:
+//
+//   source       begin  path              found             expected
+//   list.json  : 12:34: /columns/0/width: found the number 500, expected one from 1 to 200
+//
+//   source       begin  field             found        expected  remedy
+//   parts.csv  : 3    : column "Weight" : found "n/a", expected a number
+//
+// A statement takes the place of found and expected, a sentence that of the whole line.
 #include "Finding.h"
 
 #include "FindingCodes.h"
-#include "MessageText.h"
+#include "InQuotes.h"
 
 #include <utility>
 

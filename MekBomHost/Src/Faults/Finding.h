@@ -42,7 +42,7 @@ struct Finding
     Finding in(const std::string& file, const TextSpan& span) const;
 
     eSeverity severity = kError;
-    std::string code; // "MB710", one of FindingCodes
+    std::string code; // "MB710", one of FindingCodes; empty for a fault of the program's own
 
     // Where. What is not known is empty or 0.
     std::string source; // the file as the user named it, or the option: "parts.csv", "--unit length=foo"

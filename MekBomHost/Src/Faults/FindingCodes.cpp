@@ -54,7 +54,6 @@ const std::vector<FindingCode>& all()
         kBaseUnknown,
         kNoQuantity,
         kEntryMalformed,
-
         kSettingUnknown,
         kSettingIsNoNumber,
         kSettingUnused,

@@ -20,6 +20,7 @@ class FindingList
 public:
     static constexpr std::size_t kMostKept = 10000; // of each severity; arbitrary: more than anybody reads
 
+    // Keeps the finding if there is room for one of its severity, and counts it.
     void add(Finding finding);
 
     // Adds what somebody else has found: `findings`, of which those are kept that this list has room for, and all of

@@ -11,6 +11,7 @@ namespace mekbom
 {
 namespace
 {
+// Nobody expected it, so it has neither code nor place; what it says of itself is all there is to tell.
 ExitStatus failInternally(FindingList& findings, const std::string& reason)
 {
     Finding finding;

@@ -1,3 +1,6 @@
+// Nearly all files are text, and the whole of them is looked at without counting lines. Only when a byte is wrong is
+// its place counted, from the front: of "a\r\nTr\xE4ger" offset 5 is line 2, column 3. The first wrong byte is the one
+// that is named, whether it is a zero byte or no UTF-8.
 #include "TextCheck.h"
 
 #include "Fault.h"

@@ -14,13 +14,14 @@ std::size_t FileSource::read(char* pBytes, std::size_t size)
 {
     if (m_pFile == nullptr)
         open();
-    errno = 0;
+    errno = 0; // not every system sets it when reading fails
     const std::size_t numRead = std::fread(pBytes, 1, size, m_pFile.get());
     if (numRead == 0 && std::ferror(m_pFile.get()) != 0)
         failToRead(errno);
     return numRead;
 }
 
+// Standard input belongs to the process.
 void FileSource::Closer::operator()(std::FILE* pFile) const
 {
     if (pFile != stdin)

@@ -1,5 +1,5 @@
-// The bytes of a file, or of standard input. The file is opened when the first byte is asked for, so that the sources of
-// a job can be named beforehand and a missing one is found when its turn comes.
+// The bytes of a file, or of standard input. The file is opened when the first byte is asked for, so that the sources
+// of a job can be named beforehand and a missing one is found when its turn comes.
 //
 //   FileSource file("parts.csv");
 //   const std::string bytes = file.readAll();      throws a Fault of status kInvalidInput when there is no such file
@@ -16,9 +16,10 @@ namespace mekbom
 class FileSource : public ByteSource
 {
 public:
+    // Reads the file at `path`, which is also what messages call it.
     explicit FileSource(const std::string& path) : m_name(path) {}
 
-    // Reads standard input to its end.
+    // Reads standard input, which stays open afterwards.
     FileSource();
 
     const std::string& name() const override { return m_name; }

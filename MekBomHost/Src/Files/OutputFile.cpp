@@ -1,9 +1,9 @@
 // How a list takes the place of an older one, for the path "list.txt":
 //
-//   list.txt                "old"; opened for writing and closed again, since its owner may have protected it
-//   list.txt.mekbom0.tmp    made with "x", which fails where such a file is, so that nobody else's is written to; takes
-//                           the new text, is given the rights of list.txt and is put on the disk
-//   list.txt                is what the temporary file is now renamed to: whoever looks sees "old" or all of the new text
+//   list.txt               "old"; opened for writing and closed again, since its owner may have protected it
+//   list.txt.mekbom0.tmp   made with "x", which fails where such a file is, so that nobody else's is written to; takes
+//                          the new text, is given the rights of list.txt and is put on the disk
+//   list.txt               is what the temporary file is now renamed to: whoever looks sees "old" or all the new text
 //
 // Without finish() the temporary file is removed and "old" stays.
 #include "OutputFile.h"

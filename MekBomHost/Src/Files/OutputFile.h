@@ -21,9 +21,12 @@ namespace mekbom
 class OutputFile : public TextSink
 {
 public:
-    // Throws a Fault of status kOutputNotWritten when there can be no such file.
+    // Throws a Fault of status kOutputNotWritten when there can be no such file, or when the one that is there is
+    // protected; nothing has changed then.
     explicit OutputFile(const std::string& path);
 
+    // Both throw a Fault of status kOutputNotWritten, as when the disk is full: what stood at the path still does, but
+    // for what cannot be replaced.
     void write(std::string_view text) override;
     void finish() override;
 

@@ -1,3 +1,5 @@
+// An installed program "/usr/bin/mekbom" has its files in "/usr/share/mekbom", wherever the installation was moved to;
+// one that runs from the folder it was built in has no such folder beside it, and takes them from the source tree.
 #include "ShippedFiles.h"
 
 #include "Fault.h"

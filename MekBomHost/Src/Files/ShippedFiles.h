@@ -1,5 +1,8 @@
 // The parts list and the templates that come with the program.
 //
+//   FileSource parts(ShippedFiles::find(ShippedFiles::kPartsList));
+//   ShippedFiles::templates().front()   ->  "Templates/cutting-list.json"
+//
 // They lie in "../share/mekbom" beside the program's folder once it is installed; a program that runs where it was
 // built finds them in the source tree, whose place was compiled in.
 #pragma once
@@ -9,12 +12,15 @@
 
 namespace mekbom::ShippedFiles
 {
-// "hall.csv", "Templates/cutting-list.json"  ->  the file's path. Throws a Fault of status kInvalidInput, which names
-// the folders looked at, when it is in none of them.
+// The path of the file that is called so below the folder of shipped files: "Templates/cutting-list.json" may be
+// "/usr/share/mekbom/Templates/cutting-list.json". Throws a Fault of status kInvalidInput, which names the folders that
+// were looked into, when it is in none of them.
 std::string find(const std::string& relativePath);
 
-// The templates that a list may be printed with when the user names none, in order of preference.
+// The templates that a list may be printed with when the user names none, in order of preference, as find() takes
+// them.
 const std::vector<std::string>& templates();
 
+// The parts list that examples use, as find() takes it.
 extern const char* const kPartsList;
 }

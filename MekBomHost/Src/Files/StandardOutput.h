@@ -1,6 +1,8 @@
 // Standard output as the report's destination.
 //
-//   StandardOutput::print("7' 6\"\n");      throws a Fault when the device is full
+//   StandardOutput::print("7' 6\"\n");      throws a Fault of status kOutputNotWritten when the device is full
+//
+// The text reaches the system with finish() at the latest.
 #pragma once
 
 #include "TextSink.h"

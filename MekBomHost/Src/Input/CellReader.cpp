@@ -1,8 +1,16 @@
+// Most columns have a type before the first cell is read: the catalogue of tokens knows it, or the heading names a
+// unit. What any other column holds is known only when all of its cells have been seen. Until then their rows hold
+// zeros in the place of the values, and the texts are kept apart (UntypedCells), in the order of the rows:
+//
+//   rows read                    [%Grip:0]   (no cell)   [%Grip:0]           texts  "40", "12.5"
+//   finish(): all are numbers    [%Grip:40]  (no cell)   [%Grip:12.5]
+//
+// So a column is of one type in all rows, and a parts list of a million rows is read once.
 #include "CellReader.h"
 
 #include "FindingCodes.h"
+#include "InQuotes.h"
 #include "InputUnits.h"
-#include "MessageText.h"
 #include "NumberReader.h"
 #include "Utf8.h"
 

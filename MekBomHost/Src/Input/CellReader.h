@@ -35,7 +35,7 @@ struct FindingCode;
 class CellReader
 {
 public:
-    // `columns`, `source` and `data` are not owned and outlive the reader. Rows are appended to `data`, which owns them.
+    // `columns`, `source` and `data` are not owned and outlive the reader. The rows go to `data`, which owns them.
     CellReader(const std::vector<InputColumn>& columns, const RecordSource& source, VorBomData& data);
 
     // Rows get room for that many more tuples: the evaluation adds one for each formula.

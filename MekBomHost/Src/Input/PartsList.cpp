@@ -1,3 +1,10 @@
+// The header row is read first and alone, since which template suits a parts list depends on its columns. What a column
+// holds is settled when the rows are read, since the template may say of which kind the numbers of a token are:
+//
+//   heading "Length [ft]"                 token %Length, unit "ft"
+//   the catalogue of tokens knows it      numbers, which the template shows as lengths
+//   the unit is one of lengths            a cell 7.5 is 2286 mm; so is one that says 2286 mm
+//   nothing asks for %Length              its cells are checked all the same, and no row gets a datum of them
 #include "PartsList.h"
 
 #include "CellReader.h"
@@ -5,8 +12,8 @@
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
+#include "InQuotes.h"
 #include "InputUnits.h"
-#include "MessageText.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"

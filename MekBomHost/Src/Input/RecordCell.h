@@ -4,7 +4,7 @@
 //   RecordCell(std::string_view("7.5 ft")).text()     ->  "7.5 ft"
 //   RecordCell(7.5).number()                          ->  7.5
 //
-// An empty text is nothing. Two words, copied freely; the characters of a text stay with the source.
+// An empty text is nothing. A cell is two words, to be copied freely; the characters of a text stay with its source.
 #pragma once
 
 #include "NumberText.h"
@@ -27,13 +27,13 @@ public:
     bool isNothing() const { return m_size == 0; }
     bool isNumber() const { return m_size == kIsNumber; }
 
-    // Of a cell that is a number.
+    // The cell must be a number.
     double number() const { return m_number; }
 
-    // Of any other; UTF-8 without zero bytes.
+    // The cell must not be a number; the text is UTF-8 without zero bytes, and empty when the cell is nothing.
     std::string_view text() const { return std::string_view(m_pText, m_size); }
 
-    // Of any cell; a number as the shortest text that identifies it.
+    // Every cell has this text: that of a number is the shortest one that identifies it.
     std::string asText() const { return isNumber() ? numberText(m_number) : std::string(text()); }
 
 private:
@@ -44,6 +44,6 @@ private:
         const char* m_pText;
         double m_number;
     };
-    std::size_t m_size; // of the text
+    std::size_t m_size; // of the text, in bytes; kIsNumber without one
 };
 }

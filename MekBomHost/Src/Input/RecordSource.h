@@ -3,10 +3,27 @@
 //   while (const Record* pRecord = source.next())
 //       use(*pRecord);
 //
-// The first record names the columns ("Name", "Length [ft]"); each of the others is one part, with its cells in the same
-// order. A source of a format that has numbers hands them over as they are stored; one of texts leaves it to the reader
-// of the cells which of them are numbers. What no record can be made of ends the reading with a Fault of status
+// A format is a class in a folder of its own beside Input/Csv, which ReportJob makes. This one reads memory:
+//
+//   class MemoryRecords : public RecordSource
+//   {
+//   public:
+//       explicit MemoryRecords(std::vector<Record> records) : m_records(std::move(records)) {}
+//       const std::string& name() const override { return m_name; }
+//       const Record* next() override { return m_numRead < m_records.size() ? &m_records[m_numRead++] : nullptr; }
+//       void placeRecord(Finding& finding) const override { finding.source = m_name; }
+//       void placeCell(std::size_t, Finding& finding) const override { finding.source = m_name; }
+//   private:
+//       std::string m_name = "parts";
+//       std::vector<Record> m_records;
+//       std::size_t m_numRead = 0;
+//   };
+//
+// The first record names the columns ("Name", "Length [ft]"); each of the others is one part, with its cells in the
+// same order. A source of a format that has numbers hands them over as they are stored; one of texts leaves it to the
+// reader of the cells which of them are numbers. What no record can be made of ends the reading with a Fault of status
 // kInvalidInput that names the place; what the cells ought to hold, and how many there ought to be, is not its concern.
+// A source is read once, from its begin to its end, by one thread at a time.
 #pragma once
 
 #include "Finding.h"

@@ -1,9 +1,9 @@
-// Most texts of a parts list come back, a mark such as "B417" on some twenty rows of a million. Its row gets a copy that
-// shares the characters, and making one touches three places of memory, none of which the processor's caches hold: the
-// entry of the pool, found by the text's bytes; the characters it names; the count of their users beside them. Row by
-// row, the processor would wait for one after the other. So of 64 rows all entries are asked for first, while the cells
-// are still being read (addText), then all texts are found and their counts asked for (findTexts), and only then are the
-// rows made (buildRow): the waits for 64 rows lie on top of each other.
+// Most texts of a parts list come back, a mark such as "B417" on some twenty rows of a million. Its row gets a copy
+// that shares the characters, and making one touches three places of memory, none of which the processor's caches hold:
+// the entry of the pool, found by the text's bytes; the characters it names; the count of their users beside them. Row
+// by row, the processor would wait for one after the other. So of 64 rows all entries are asked for first, while the
+// cells are still being read (addText), then all texts are found and their counts asked for (findTexts), and only then
+// are the rows made (buildRow): the waits for 64 rows lie on top of each other.
 #include "RowBuilder.h"
 
 #include "ByteWord.h"

@@ -7,7 +7,7 @@
 //   if (rows.isFull())
 //       rows.build();                          // appended to the data
 //
-// Equal texts of a column share their characters (TextPool).
+// Equal texts of a column share their characters (TextPool). Rows that nobody has built when the builder goes are lost.
 #pragma once
 
 #include "TextPool.h"
@@ -27,7 +27,7 @@ namespace mekbom
 class RowBuilder
 {
 public:
-    // `data` is not owned and outlives this; it owns the rows. Rows have at most one datum for each column and one more.
+    // `data` is not owned and outlives this; it owns the rows. A row has at most one datum for each column and one more.
     RowBuilder(VorBomData& data, std::size_t numColumns);
     RowBuilder(const RowBuilder&) = delete;
     RowBuilder& operator=(const RowBuilder&) = delete;
@@ -37,7 +37,7 @@ public:
 
     bool isFull() const { return m_numRows == kMostRows; }
 
-    // Must not be full.
+    // The builder must not be full: once it is, build() comes first.
     void beginRow();
 
     // These complete the row begun last. Tokens are not owned and stay as they are until the row is built; texts are
@@ -48,7 +48,7 @@ public:
     void addHandle(const VorString& token); // the one that was set, as a datum
     void addText(const VorString& token, std::size_t column, std::string_view text);
 
-    // Appends the rows to the data; none are left.
+    // Appends the rows begun so far to the data, which may be none, and begins anew.
     void build();
 
 private:

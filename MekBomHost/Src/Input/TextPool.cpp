@@ -1,9 +1,9 @@
 // A table with open addressing. The key of "S355J2" is its six bytes as one number, 32 4A 35 35 33 53 with the 'S'
-// lowest: equal keys are equal texts, which need not be compared, and the wide text of a new one can be made from its key.
-// A longer text has a hash for a key, whose lowest byte is 0 as no text's first byte is, and is compared. The key times
-// an odd number scatters over the places; the next free place is taken where one is in use.
-// When a column's texts turn out not to come back, the table is given up for a while (isWorthALook), because a look for
-// each of a million different texts would only wait for memory.
+// lowest: equal keys are equal texts, which need not be compared, and the wide text of a new one can be made from its
+// key. A longer text has a hash for a key, whose lowest byte is 0 as no text's first byte is, and is compared. Keys
+// scatter over the places (VorFibonacciHash); the next free place is taken where one is in use. When a column's texts
+// turn out not to come back, the table is given up for a while (isWorthALook), because a look for each of a million
+// different texts would only wait for memory.
 #include "TextPool.h"
 
 #include "ByteWord.h"
@@ -21,19 +21,19 @@ const int kHashBits = 64;
 const std::size_t kFirstNumEntries = 256;              // a column of materials needs no more
 const std::size_t kMostTexts = std::size_t{ 1 } << 16; // with places for twice as many, 2 MB
 
-// After so many texts it shows whether any come back: of 50,000 different ones in any order, 1 look in 25 has found one.
+// After so many texts it shows whether any come back: of 50,000 different ones in any order, 1 look in 25 finds one.
 const std::size_t kTextsOnTrial = 4096;
 const std::size_t kLooksPerFound = 64;
 const std::size_t kTextsWithoutLook = 1 << 16;
 
-// Of a text of more than eight bytes. Its first byte is zero, so that it is the key of no shorter one.
-std::uint64_t hashOf(std::string_view bytes, std::uint64_t factor)
+// The key of a text of more than eight bytes. Its lowest byte is zero, so that it is the key of no shorter text.
+std::uint64_t hashOf(std::string_view bytes)
 {
     using namespace ByteWord;
     std::uint64_t hash = load<std::uint64_t>(bytes.data() + bytes.size() - kSize);
     for (std::size_t i = 0; i + kSize < bytes.size(); i += kSize)
     {
-        hash = (hash ^ load<std::uint64_t>(bytes.data() + i)) * factor;
+        hash = (hash ^ load<std::uint64_t>(bytes.data() + i)) * VorFibonacciHash::kFactor;
         hash ^= hash >> kHashBits / 2;
     }
     return hash << 8 | std::uint64_t{ 1 } << (kHashBits - 1);
@@ -84,7 +84,7 @@ const VorString& TextPool::find(std::string_view bytes)
     if (bytes.size() <= ByteWord::kSize)
         return find(ByteWord::of(bytes));
     ++m_numLooks;
-    const std::uint64_t key = hashOf(bytes, kHashFactor);
+    const std::uint64_t key = hashOf(bytes);
     std::size_t place = placeOf(key);
     for (; m_entries[place].key != 0; place = next(place))
         if (m_entries[place].key == key && isSame(m_entries[place].text, bytes))
@@ -111,7 +111,8 @@ const VorString& TextPool::insert(Entry& entry, std::uint64_t key, std::string_v
     return entry.text;
 }
 
-// True until it has shown that hardly any text comes back.
+// True until it has shown that hardly any text comes back. The trial is as long as there are new texts, however many
+// looks find one: a column of few texts is never on trial, so this is not VorHitTrial, which counts looks.
 bool TextPool::isWorthALook() const
 {
     return m_numTexts < kTextsOnTrial || (m_numLooks - m_numTexts) * kLooksPerFound >= m_numLooks;
@@ -128,8 +129,8 @@ void TextPool::resize(std::size_t numEntries)
 {
     std::vector<Entry> entries(numEntries);
     m_entries.swap(entries);
-    for (m_shift = kHashBits; numEntries > 1; numEntries /= 2)
-        --m_shift;
+    for (m_numBits = 0; numEntries > 1; numEntries /= 2)
+        ++m_numBits;
     for (Entry& entry : entries)
         if (entry.key != 0)
             freeEntry(entry.key) = std::move(entry);

@@ -3,11 +3,12 @@
 //   const VorString first = texts.textOf("S355J2");
 //   const VorString second = texts.textOf("S355J2");     // shares its characters with `first`
 //
-// Remembers all texts up to some ten thousand, then begins anew. In a column where hardly any comes back, such as one of
-// numbers of parts, it stops looking for some ten thousand texts: they would only fill the processor's caches. One for
-// each column, so that a column of marks does not drive out one of materials.
+// Remembers all texts up to some ten thousand, then begins anew. In a column where hardly any comes back, such as one
+// of numbers of parts, it stops looking for some ten thousand texts: they would only fill the processor's caches. Each
+// column has a pool of its own, so that a column of marks does not drive out one of materials.
 #pragma once
 
+#include "MekRoots/Exp/VorFibonacciHash.h"
 #include "MekRoots/Exp/VorMemoryHint.h"
 #include "MekRoots/Exp/VorString.h"
 
@@ -32,11 +33,11 @@ public:
     const VorString& find(std::uint64_t key); // the text of up to eight bytes, as ByteWord::of gives them
     void willFind(std::uint64_t key) const
     {
-        VorMemoryHint::willRead(&m_entries[placeOf(key)]);
-    } // so that find() need not wait
+        VorMemoryHint::willRead(&m_entries[placeOf(key)]); // so that find() need not wait
+    }
 
 private:
-    // Of an open-addressed table.
+    // The table is open-addressed: an entry stands at its place or, where that was taken, at the next free one.
     struct Entry
     {
         std::uint64_t key = 0; // 0 where there is no text
@@ -45,17 +46,14 @@ private:
 
     const VorString& insert(Entry& entry, std::uint64_t key, std::string_view bytes);
     Entry& freeEntry(std::uint64_t key);
-    std::size_t placeOf(std::uint64_t key) const { return static_cast<std::size_t>(key * kHashFactor >> m_shift); }
+    std::size_t placeOf(std::uint64_t key) const { return VorFibonacciHash::placeOf(key, m_numBits); }
     std::size_t next(std::size_t place) const { return (place + 1) & (m_entries.size() - 1); }
     bool isWorthALook() const;
     void forgetAll();
     void resize(std::size_t numEntries);
 
-    static constexpr std::uint64_t kHashFactor =
-        0x9E3779B97F4A7C15; // odd, irregular: two to the 64 by the golden ratio
-
     std::vector<Entry> m_entries; // none before the first use; a power of two, at least half of them free
-    int m_shift = 0;              // of a key's hash, to a place
+    int m_numBits = 0;            // of a place: two to their power is the number of entries
     std::size_t m_numTexts = 0;
     std::size_t m_numLooks = 0;
     std::size_t m_numUnshared = 0; // texts to be made without a look

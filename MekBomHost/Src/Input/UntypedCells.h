@@ -1,5 +1,5 @@
-// The cells of a column that the catalogue of tokens does not know, kept as texts until all have been seen and their one
-// type is clear:
+// The cells of a column that the catalogue of tokens does not know, kept as texts until all have been seen and their
+// one type is clear:
 //
 //   "4", "12"            ->  whole numbers
 //   "4", "12.5"          ->  numbers
@@ -25,10 +25,10 @@ public:
     // `cell` is not empty.
     void add(std::string_view cell);
 
-    // Of all cells added: kIntData, kDoubleData or kStringData; kStringData without any.
+    // The one type that all cells added have: kIntData, kDoubleData or kStringData; kStringData when there are none.
     VorBomDataValue::eBomDataValueType type() const;
 
-    // The values of the cells in the order they were added; as many calls as cells.
+    // The value of the first cell that has not been taken yet. To be called once for each cell, after the last add().
     VorBomDataValue takeNext();
 
 private:

@@ -24,8 +24,8 @@ namespace mekbom
 class Report
 {
 public:
-    // `settings` say how numbers are shown, whatever the settings repository of the process holds; `contents` what is to
-    // be known of a line beside its texts.
+    // `settings` say how numbers are shown, whatever the settings repository of the process holds; `contents` what is
+    // to be known of a line beside its texts.
     Report(ReportTemplate reportTemplate, const VorUnitsManager& units,
            const DisplaySettings& settings = DisplaySettings(), LineContents contents = LineContents());
 

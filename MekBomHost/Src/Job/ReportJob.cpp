@@ -1,3 +1,10 @@
+// The order of the steps decides which mistake a user is told of first, and most need what an earlier one has found:
+//
+//   header row of the parts list     says which columns there are
+//   template                         without one named, the candidate that suits these columns best
+//   settings, units, Report          the template's tokens get their kinds of quantity
+//   records                          are read in these kinds, and only the data that the template asks for
+//   evaluation                       only now is it known how many rows were merged
 #include "ReportJob.h"
 
 #include "ColumnHeading.h"

@@ -28,8 +28,8 @@ class ReportJob
 public:
     explicit ReportJob(ReportRequest request);
 
-    // Makes the report. Throws nothing: returns kDone when there is one, and otherwise what kind of mistake kept it from
-    // being made, with at least one error among the findings. To be called once.
+    // Makes the report. Throws nothing: returns kDone when there is one, and otherwise what kind of mistake kept it
+    // from being made, with at least one error among the findings. To be called once.
     ExitStatus run();
 
     // What was found until now. Findings that are no errors may stand beside a report.

@@ -4,7 +4,7 @@
 #include "JsonChecker.h"
 
 #include "FindingCodes.h"
-#include "MessageText.h"
+#include "InQuotes.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -5,7 +5,8 @@
 //   json.throwIfAnyError();
 //
 // The finding says "list.json:12:34: /columns/0/width: found the number 500, expected one from 1 to 200". Reading goes
-// on after a mistake, with a fallback in place of the value, so that one run shows all of them.
+// on after a mistake, with a fallback in place of the value, so that one run shows all of them; whoever reads asks with
+// throwIfAnyError() before using what was read. Nodes and items are looked at only while a question is answered.
 #pragma once
 
 #include "FindingList.h"
@@ -41,9 +42,11 @@ public:
     bool booleanOf(const JsonItem& object, const std::string& key, bool fallback);
 
     // Which of `names` the member is, from 0; -1 when it is missing or, with a finding, none of them.
+    //   { "align": "right" }, names "left" and "right"   gives 1
     int choiceOf(const JsonItem& object, const std::string& key, const std::vector<std::string>& names);
 
-    // The elements of an array; none when the member is missing or, with a finding, no array.
+    // The elements of an array, reached as "/columns/0", "/columns/1"; none when the member is missing or, with a
+    // finding, no array.
     std::vector<JsonItem> elementsOf(const JsonItem& object, const std::string& key);
 
     // Whether the item is of that kind; whether it is an object, with no other keys than these. Adds a finding when

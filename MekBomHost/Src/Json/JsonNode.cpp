@@ -1,6 +1,6 @@
 #include "JsonNode.h"
 
-#include "MessageText.h"
+#include "InQuotes.h"
 
 #include <algorithm>
 #include <charconv>
@@ -11,7 +11,8 @@ namespace
 {
 const int kLongestNumber = 400; // the digits of any double, written out
 
-// As the file has it, as far as the double tells: a whole number in full, others as short as they can be.
+// As the file has it, as far as the double tells: a whole number in full, "1000000", others as short as they can be,
+// "0.1".
 std::string textOf(double number, bool isWhole)
 {
     char text[kLongestNumber];

@@ -35,10 +35,10 @@ struct JsonNode
     double number = 0;              // of kInteger and kNumber
     std::string text;               // of kText, in UTF-8, without its quotes
     std::string key;                // of an object's member
-    TextSpan keySpan;               // likewise, with its quotes
+    TextSpan keySpan;               // of an object's member: the key with its quotes
     std::vector<JsonNode> children; // elements or members, in the order of the file
 
-    // The member named `memberKey`, or null.
+    // The member named `memberKey`, which is a part of this node; null when there is none, and for what is no object.
     const JsonNode* find(const std::string& memberKey) const;
 
     // What a message says was found: "an object", "the number 5", "\"kFoo\"" in its quotes.

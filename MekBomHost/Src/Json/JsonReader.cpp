@@ -10,7 +10,7 @@
 
 #include "Fault.h"
 #include "FindingCodes.h"
-#include "MessageText.h"
+#include "InQuotes.h"
 #include "Utf8.h"
 
 #include <nlohmann/json.hpp>

@@ -3,7 +3,8 @@
 //   JsonReader("list.json", "{ \"title\": 5 }").read().find("title")->span.begin   ->  line 1, column 12
 //
 // A text that is no JSON, an object that has a key twice, and nesting deeper than kDeepest end the reading with a Fault
-// of status kInvalidInput, whose one finding names the place.
+// of status kInvalidInput, whose one finding names the place. What the values mean is not its business: that is asked
+// of the nodes by a JsonChecker, which goes on after a mistake.
 #pragma once
 
 #include "Finding.h"
@@ -20,10 +21,11 @@ class JsonReader
 public:
     static constexpr int kDeepest = 500; // arbitrary: no list nests its groups so deep, and reading it recurses
 
-    // Both texts outlive the reader. `name` is the file's, for findings; `text` should be UTF-8, which read() checks.
+    // Both texts must outlive the reader, but not the nodes, which own theirs. `name` is the file's, for findings;
+    // `text` should be UTF-8, which read() checks, and may begin with a byte order mark.
     JsonReader(const std::string& name, std::string_view text) : m_name(name), m_text(text), m_places(text) {}
 
-    // The outermost value. To be called once.
+    // The outermost value with all that is in it. To be called once.
     JsonNode read();
 
 private:

@@ -1,4 +1,5 @@
 // An evaluated report as a writer of any format gets it: its title, its columns, and its lines as often as wanted.
+// Formats share it: nothing here knows how a column is drawn or a value is spelt in a file.
 //
 //   const EvaluatedReport report(reportTemplate, units, sections);
 //   for (const ReportColumn& column : report.columns())
@@ -26,8 +27,8 @@ namespace mekbom
 class EvaluatedReport
 {
 public:
-    // `sections` took the evaluation of `reportTemplate`, whose numbers were shown in `units`. Owns none of the three;
-    // template and sections must outlive the report.
+    // `sections` took the evaluation of `reportTemplate`, whose numbers were shown in `units`. The report owns none of
+    // the three; template and sections must outlive it.
     EvaluatedReport(const ReportTemplate& reportTemplate, const VorUnitsManager& units, const PackedSections& sections)
         : m_title(reportTemplate.title), m_layout(reportTemplate, units), m_sections(sections)
     {
@@ -41,13 +42,14 @@ public:
     // What each section of the template shows in which column.
     const ReportLayout& layout() const { return m_layout; }
 
-    // The lines from the first one on. Valid as long as the report.
+    // The lines, from the first one on whenever this is called. They are valid as long as the report.
     ReportLines lines() const { return ReportLines(m_layout, m_sections); }
 
     // The sections of which there is any line, from the outermost level inwards.
     std::vector<SectionPlace> placesWithLines() const;
 
-    // How far the texts of all lines reach, for each column, without a look at the lines; labels are left out.
+    // For each column, how long its longest text is and whether all are plain, without a look at the lines. The labels
+    // of sections do not count.
     std::vector<TextExtent> textExtents() const;
 
 private:

@@ -1,5 +1,8 @@
 // What a writer wants of every line beside its texts. All of it takes memory for as long as the report is kept, so that
-// nothing is kept unless a writer asks.
+// nothing is kept unless a writer asks:
+//
+//   LineContents wanted;
+//   wanted.values = true;            // such as one of a format that has numbers, which are more than texts of digits
 #pragma once
 
 namespace mekbom

@@ -1,6 +1,6 @@
-// A section is a number for its place, its texts, and its values where they are kept. Texts are of three kinds: one that
-// many lines repeat is a single byte, its number; a plain one its length in a byte and its characters; any other one the
-// byte kOther, its length as a number, and its bytes. A value is its bytes as they stand in memory.
+// A section is a number for its place, its texts, and its values where they are kept. Texts are of three kinds: one
+// that many lines repeat is a single byte, its number; a plain one its length in a byte and its characters; any other
+// one the byte kOther, its length as a number, and its bytes. A value is its bytes as they stand in memory.
 //
 //   a details line of level 2 that shows "HEA200", the first text that lines repeat under that token, and "2.5"
 //
@@ -175,7 +175,7 @@ void PackedSections::appendOther(std::string_view text)
     m_pNext = std::copy(text.begin(), text.end(), m_pNext);
 }
 
-// Where there is room for it.
+// There must be room for it.
 void PackedSections::append(Number number)
 {
     std::memcpy(m_pNext, &number, sizeof number);

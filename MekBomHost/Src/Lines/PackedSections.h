@@ -37,7 +37,7 @@ namespace mekbom
 // What is known of many texts without a look at each.
 struct TextExtent
 {
-    std::uint32_t longest = 0; // in bytes; of the plain ones alone when there are others
+    std::uint32_t longest = 0; // in bytes; says nothing unless all are plain
     bool areAllPlain = true;
 };
 
@@ -46,7 +46,7 @@ class PackedSections : public VorBomSectionSink
 public:
     class Reader;
 
-    // `reportTemplate` is read here alone.
+    // `reportTemplate` is read while this is constructed, and not looked at later.
     explicit PackedSections(const ReportTemplate& reportTemplate, LineContents contents = LineContents());
 
     void takeHeader(const VorBomReportSection& header) override;
@@ -68,8 +68,8 @@ public:
 private:
     using Number = std::uint32_t;
 
-    // What the first byte of a text says: the length of a plain one up to kLongestPlain, from kFirstRepeated on the
-    // number of a repeated one, or kOther.
+    // What the first byte of a text says: up to kLongestPlain the length of a plain one, from kFirstRepeated on the
+    // number of a repeated one, kOther that it is neither.
     static constexpr std::size_t kLongestPlain = 127;
     static constexpr std::size_t kFirstRepeated = kLongestPlain + 1;
     static constexpr std::size_t kOther = 255;
@@ -80,9 +80,9 @@ private:
     {
         bool hasLine = false;
         bool isTaken = false;
-        std::vector<int> tuples;                  // that are shown
-        std::vector<RepeatedTexts> repeatedTexts; // one for each of the tuples, as the next
-        std::vector<TextExtent> extents;          // of the texts that are not repeated
+        std::vector<int> tuples;                  // the indices of those that are shown
+        std::vector<RepeatedTexts> repeatedTexts; // one for each of these tuples
+        std::vector<TextExtent> extents;          // one for each of them, of its texts that are not repeated
     };
 
     // Entries follow each other without gaps, and none goes on in the next page.
@@ -118,7 +118,8 @@ private:
     char* m_pPageEnd = nullptr;
 };
 
-// Reads sections from the first to the last. What it reads lives as long as the sections and does not change meanwhile.
+// Reads sections from the first to the last. What it reads lives as long as the sections, to which nothing may be added
+// meanwhile. Several readers may read the same sections.
 class PackedSections::Reader
 {
 public:

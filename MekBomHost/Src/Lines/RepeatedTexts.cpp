@@ -4,9 +4,9 @@
 //   slot 18   free
 //   slot 19   the address of "S355"   number 1
 //
-// Texts are kept, so that no other text comes to lie at the address of one that is numbered. When all numbers are taken,
-// every thousand look-ups decide whether the table is worth asking: a token whose texts differ from row to row, such as
-// a handle, is given up when fewer than half of its texts had a number.
+// Texts are kept, so that no other text comes to lie at the address of one that is numbered. When all numbers are
+// taken, every thousand look-ups decide whether the table is worth asking: a token whose texts differ from row to row,
+// such as a handle, is given up when fewer than half of its texts had a number.
 #include "RepeatedTexts.h"
 
 #include "Utf8.h"
@@ -38,12 +38,11 @@ std::size_t RepeatedTexts::add(const VorString& text, std::size_t slot)
 // For a text that there is no number for.
 std::size_t RepeatedTexts::miss()
 {
-    ++m_numMissed;
-    if (m_numFound + m_numMissed < kNumTrials)
+    m_trial.countMiss();
+    if (!m_trial.isOver())
         return kNone;
-    m_isGivenUp = m_numFound < m_numMissed;
-    m_numFound = 0;
-    m_numMissed = 0;
+    m_isGivenUp = m_trial.hasFailed();
+    m_trial.begin();
     return kNone;
 }
 }

@@ -7,13 +7,15 @@
 //   texts.numberOf(L"S355");      // 1
 //   texts.text(0).view();         // "S235"
 //
-// Copies of a text share its characters, so a text is known by their address, without a look at them. An equal text with
-// characters of its own has another number: that costs memory, no more. No text gets a number once kMostTexts have one;
-// and when most texts are then found to have none, the token is given up, and no text is looked up any more.
+// Copies of a text share its characters, so a text is known by their address, without a look at them. An equal text
+// with characters of its own has another number: that costs memory, no more. No text gets a number once kMostTexts have
+// one; and when most texts are then found to have none, the token is given up, and no text is looked up any more.
 #pragma once
 
 #include "ShownText.h"
 
+#include "MekRoots/Exp/VorFibonacciHash.h"
+#include "MekRoots/Exp/VorHitTrial.h"
 #include "MekRoots/Exp/VorString.h"
 
 #include <array>
@@ -31,7 +33,7 @@ public:
     static constexpr std::size_t kMostTexts = 126; // so that a number fits into a byte with other uses
     static constexpr std::size_t kNone = kMostTexts;
 
-    // `text` is not empty.
+    // The number of `text`, which is not empty; it gets the next one when it is new. kNone for a text without.
     std::size_t numberOf(const VorString& text)
     {
         if (m_isGivenUp)
@@ -42,36 +44,35 @@ public:
         {
             if (m_characters[slot] != pCharacters)
                 continue;
-            ++m_numFound;
+            m_trial.countFind();
             return m_numbers[slot];
         }
         return m_texts.size() < kMostTexts ? add(text, slot) : miss();
     }
 
-    // Valid as long as this object.
+    // The text of that number, in UTF-8. Its characters live as long as this object.
     const ShownText& text(std::size_t number) const { return m_texts[number]; }
     const std::vector<ShownText>& texts() const { return m_texts; }
 
 private:
-    static constexpr int kNumTrials = 1000; // arbitrary: enough to tell
+    static constexpr int kNumLooks = 1000; // arbitrary: enough to tell
+    static constexpr int kLooksPerFind = 2;
     static constexpr int kSlotBits = 8;
     static constexpr std::size_t kNumSlots = std::size_t{ 1 } << kSlotBits; // twice as many as texts
 
     static std::size_t firstSlotOf(const wchar_t* pCharacters)
     {
-        const auto address = static_cast<std::uint64_t>(reinterpret_cast<std::uintptr_t>(pCharacters));
-        return static_cast<std::size_t>(address * 0x9E3779B97F4A7C15U >> (64 - kSlotBits)); // Fibonacci hashing
+        return VorFibonacciHash::placeOf(reinterpret_cast<std::uintptr_t>(pCharacters), kSlotBits);
     }
     std::size_t add(const VorString& text, std::size_t slot);
     std::size_t miss();
 
     std::array<const wchar_t*, kNumSlots> m_characters{}; // an open-addressed table; null for a free slot
     std::array<unsigned char, kNumSlots> m_numbers{};
-    int m_numFound = 0;
-    int m_numMissed = 0; // since all numbers are taken
+    VorHitTrial m_trial{ kNumLooks, kLooksPerFind }; // misses count from when all numbers are taken
     bool m_isGivenUp = false;
     std::vector<ShownText> m_texts;
-    std::vector<std::unique_ptr<std::string>> m_bytes; // that m_texts refer to
-    std::vector<VorString> m_originals;                // which keep their characters where they are
+    std::vector<std::unique_ptr<std::string>> m_bytes; // what m_texts refer to
+    std::vector<VorString> m_originals;                // kept, so that no other text comes to lie at their addresses
 };
 }

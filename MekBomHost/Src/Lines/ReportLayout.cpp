@@ -156,7 +156,7 @@ int ReportLayout::columnFor(const VorString& token, const VorString& tupleToken,
     return own < 0 || holds(taken, own) ? addColumn(tupleToken) : own;
 }
 
-// -1 when there is none.
+// The index of the column with that token; -1 when there is none.
 int ReportLayout::findColumn(const VorString& token) const
 {
     const auto found = std::find_if(m_columns.begin(), m_columns.end(),

@@ -43,7 +43,7 @@ class ReportLayout
 {
 public:
     // The template's data say what type the columns have that the catalogue of tokens does not know. `units` are those
-    // that the template's numbers are shown in. Both are read here alone.
+    // that the template's numbers are shown in. Both are read while this is constructed, and not looked at later.
     ReportLayout(const ReportTemplate& reportTemplate, const VorUnitsManager& units);
 
     const std::vector<ReportColumn>& columns() const { return m_columns; }

@@ -18,7 +18,7 @@
 
 namespace mekbom
 {
-// Which sections stand on a line: a header, a footer of the same level, or both.
+// Which sections stand on a line: a header, a footer, or a header and its own footer.
 struct LinePlace
 {
     int level = 0; // 0 is the report's outermost; headers of the deepest level are details
@@ -26,17 +26,17 @@ struct LinePlace
     bool hasFooter = false;
 };
 
-// What it refers to lives as long as the report.
+// The texts, label and rows that a line refers to live as long as the report.
 struct ReportLine
 {
     LinePlace place;
     std::string_view label; // UTF-8; empty for most lines
-    int labelColumn = -1;   // one that shows nothing on this line; -1 without label, and where there is no such column
+    int labelColumn = -1;   // the first that shows nothing on this line; -1 without a label or such a column
 
     std::vector<ShownText> texts;         // one for each column
     std::vector<VorBomTypedValue> values; // one for each column where values are kept, else none
 
-    // None unless rows are kept.
+    // Lists of no rows unless rows are kept.
     RowList headerRows; // of details the line's own row and those merged into it, else the one that opened the group
     RowList footerRows; // that the footer counts
 };

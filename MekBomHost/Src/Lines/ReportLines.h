@@ -24,7 +24,7 @@ namespace mekbom
 class ReportLines
 {
 public:
-    // `sections` are those of a report whose template has this layout. Owns neither; both must outlive the lines.
+    // `sections` are those of a report whose template has this layout. Neither is owned; both must outlive the lines.
     ReportLines(const ReportLayout& layout, const PackedSections& sections);
 
     // The next line; false, with `line` as it was, at the end. Whatever `line` held is overwritten.
@@ -39,7 +39,7 @@ private:
     const ReportLayout& m_layout;
     PackedSections::Reader m_reader;
     bool m_hasValues;
-    SectionPlace m_next; // that is on no line yet
+    SectionPlace m_next; // the section read ahead, which is on no line yet
     bool m_hasNext = false;
 };
 }

@@ -16,7 +16,7 @@
 
 namespace mekbom
 {
-// A part of such an array; none where nobody asked for rows. Owns no row.
+// One of the lists, to be read in a loop; empty where nobody asked for rows. It owns no row.
 struct RowList
 {
     const VorBomDataRow* const* begin() const { return pBegin; }

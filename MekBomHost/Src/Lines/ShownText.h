@@ -1,4 +1,4 @@
-// A text that a line of a report shows, in UTF-8. Does not own its characters: they are those of the evaluated report.
+// A text that a line of a report shows, in UTF-8. It does not own its characters, which are the evaluated report's.
 #pragma once
 
 #include <cstdint>

@@ -85,7 +85,7 @@ std::string TokenQuantities::symbolOf(const UnitKind& kind) const
     return Utf8::toBytes(VorUnitsTransformArray::findUnit(m_units.getUnit(kind.system).unit())->symbol);
 }
 
-// Of the first row that has the datum.
+// The type that the datum has in the first row that has it; kUnknownData when none has.
 VorBomDataValue::eBomDataValueType TokenQuantities::typeInData(const VorString& datum) const
 {
     for (const VorBomItemBase* pRow = m_data.child(); pRow != nullptr; pRow = pRow->next())

@@ -23,7 +23,7 @@ namespace mekbom
 class TokenQuantities
 {
 public:
-    // Owns none of the three, which must outlive it. `units` are those that `tokenUnits` show numbers in.
+    // None of the three is owned; all must outlive this object. `units` are those that `tokenUnits` show numbers in.
     TokenQuantities(const VorBomData& data, const VorBomTemplateUnits& tokenUnits, const VorUnitsManager& units)
         : m_data(data), m_tokenUnits(tokenUnits), m_units(units)
     {
@@ -42,11 +42,11 @@ public:
     // that of its first token that has one.
     VorBomTemplateUnits::eTokenUnitType unitTypeOf(const VorString& token) const;
 
-    // The same by name; null for what has no unit, as whole numbers and texts.
+    // The same kind, with the name that users know it by; null for what has no unit, as whole numbers and texts.
     const UnitKind* kindOf(const VorString& token) const;
 
-    // The kind of all numbers that one column shows under these tokens; null where the first has none, and where another
-    // one has another.
+    // The kind of all numbers that one column shows under these tokens; null where the first has none, and where
+    // another one has another.
     //   { "%Weight", "%SumBy:%Weight", "%Name" }  ->  weight
     const UnitKind* commonKindOf(const std::vector<VorString>& tokens) const;
 

@@ -1,5 +1,6 @@
-// Writes evaluated reports in one format. A format is a class of its own in a folder of its own beside Output/Text, and
-// a line in the table of Output/Formats/ReportFormats.cpp; nothing else knows of it.
+// Writes evaluated reports in one format: the interface that a new output format implements. A format is a
+// class of its own in a folder of its own beside Output/Text, and a line in the table of
+// Output/Formats/ReportFormats.cpp; nothing else knows of it.
 //
 //   class MarkdownWriter : public ReportWriter
 //   {

@@ -17,7 +17,8 @@ namespace
 {
 const char* const kVersion = "mekbom " MEK_VERSION;
 
-// The help of the command that was asked for, be it one within another.
+// The help of the command that was asked for, be it one within another: for `mekbom units convert --help` that of
+// convert, whose usage begins with "mekbom units convert".
 std::string helpOf(const CLI::App& app)
 {
     const CLI::App* pCommand = &app;

@@ -1,8 +1,10 @@
 // The names of the data that a template is about, without what steers, sums or computes them.
 //
-//   "%GroupBy:%Name", "%SumBy:%Weight", "%Formula:%Length/1000", "%Handle"   ->   "%Length", "%Name", "%Weight"
+//   const std::vector<std::string> tokens = DataTokens::of(reportTemplate);
 //
-// The handle is left out: every object has one.
+// Of a template that has the tokens "%GroupBy:%Name", "%SumBy:%Weight", "%Formula:%Length/1000" and "%Handle" these are
+// "%Length", "%Name" and "%Weight". The handle is left out: every object has one. A parts list should have columns for
+// all others, and the more of them it has, the better the template suits it.
 #pragma once
 
 #include "VorBomTemplate.h"

@@ -1,3 +1,5 @@
+// "%Weight, !%BoltName" is two conditions. A row that carries %Weight 2.5 and %Name "HEA200" meets both; one that
+// carries %Weight 0.1 and %BoltName "M16" fails the second. Only whether a row has the datum counts, not its value.
 #include "QueryFilter.h"
 
 #include "Utf8.h"

@@ -1,3 +1,6 @@
+// A section is a row of tuples, the table a row of columns; which tuple stands in which column follows from their
+// tokens. Of the details { "%Name", "%Weight" } and the footer { "%GroupBy:%Name", "%SumBy:%Weight" } the total stands
+// below the weights, in column "%Weight", and "%GroupBy:%Name" only steers and stands nowhere.
 #include "ReportTemplate.h"
 
 #include "VorBomDataToken.h"

@@ -1,3 +1,6 @@
+// Each candidate is read as a template, since its data stand all over its sections. A parts list with the columns %Name
+// and %Weight has two of the three data of a template that shows %Name, %Length and %Weight, and one of the two of
+// another that shows %BoltName and %Weight: the first suits it better.
 #include "TemplateChoice.h"
 
 #include "DataTokens.h"

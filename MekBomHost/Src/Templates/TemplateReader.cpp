@@ -5,8 +5,9 @@
 #include "TemplateReader.h"
 
 #include "FindingCodes.h"
+#include "InQuotes.h"
 #include "JsonReader.h"
-#include "MessageText.h"
+#include "UnitKinds.h"
 #include "Utf8.h"
 
 #include "VorBomDataTuple.h"
@@ -35,18 +36,6 @@ const Named<Section::eTemplateItemType> kSectionTypes[] = {
     { "kGroupHeader", Section::kGroupHeader },   { "kDetails", Section::kDetails },
     { "kGroupFooter", Section::kGroupFooter },   { "kPageFooter", Section::kPageFooter },
     { "kReportFooter", Section::kReportFooter },
-};
-
-const Named<Units::eTokenUnitType> kUnitTypes[] = {
-    { "kNoUnit", Units::kNoUnit },
-    { "kDistanceUnit", Units::kDistanceUnit },
-    { "kWeightUnit", Units::kWeightUnit },
-    { "kAreaUnit", Units::kAreaUnit },
-    { "kAngleUnit", Units::kAngleUnit },
-    { "kWeightPerDistanceUnit", Units::kWeightPerDistanceUnit },
-    { "kAreaPerDistanceUnit", Units::kAreaPerDistanceUnit },
-    { "kReservedUnitType", Units::kReservedUnitType },
-    { "kDensityUnit", Units::kDensityUnit },
 };
 
 const Named<ColumnStyle::eAlignment> kAlignments[] = { { "left", ColumnStyle::kLeft },
@@ -118,9 +107,9 @@ void TemplateReader::readTokenUnits(const JsonItem& root)
         return;
     for (const JsonNode& member : pUnits->children)
     {
-        Units::eTokenUnitType type = Units::kNoUnit;
-        readChoice(m_json, { *pUnits, "/tokenUnits" }, member.key, kUnitTypes, type);
-        m_template.pTemplate->getBomTemplateUnits()->AddTokenType(Utf8::toWide(member.key), type);
+        const int type = m_json.choiceOf({ *pUnits, "/tokenUnits" }, member.key, UnitKinds::typeNames());
+        m_template.pTemplate->getBomTemplateUnits()->AddTokenType(
+            Utf8::toWide(member.key), type < 0 ? Units::kNoUnit : static_cast<Units::eTokenUnitType>(type));
     }
 }
 

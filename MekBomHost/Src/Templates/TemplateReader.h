@@ -4,6 +4,10 @@
 //   ReportTemplate list = TemplateReader::read("list.json", text);
 //   list.title   ->  "Bolts"
 //
+// A file has the sections of the engine's template, each with its tuples and the sections below it, and beside them
+// what the program alone knows: a title, columns with their labels and widths, the label of a section. Types have the
+// names that the engine's enumerators have.
+//
 // Every mistake is a finding of its own, and unknown keys are mistakes. What is no mistake but has no effect, such as a
 // third section in a level, is a note.
 #pragma once
@@ -21,8 +25,8 @@ namespace mekbom
 class TemplateReader
 {
 public:
-    // The template, with the notes among its findings. `name` is the file's, for findings. Throws a Fault of status
-    // kInvalidInput with a finding for each mistake:
+    // The template, with the notes among its findings; neither text is needed afterwards. `name` is the file's, for
+    // findings. Throws a Fault of status kInvalidInput with a finding for each mistake:
     //   "list.json:12:15: /sections/0/tuples/1/token: found the number 5, expected a text"
     static ReportTemplate read(const std::string& name, std::string_view text);
 

@@ -1,6 +1,6 @@
 // Nearly all numbers are a few digits, perhaps with a point among them. "12.50" is read as the digits 1250, two of them
-// behind the point, and is 1250 / 100: so few digits are an exact double, a power of ten is another, and the quotient of
-// exact doubles is the double next to the true one, 12.5. That is the number std::from_chars finds by a longer way,
+// behind the point, and is 1250 / 100: so few digits are an exact double, a power of ten is another, and the quotient
+// of exact doubles is the double next to the true one, 12.5. That is the number std::from_chars finds by a longer way,
 // which all other texts take.
 #include "NumberReader.h"
 

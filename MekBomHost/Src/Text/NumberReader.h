@@ -10,11 +10,12 @@
 
 namespace mekbom::NumberReader
 {
-// False, with `value` untouched, for anything else and for what the type cannot hold.
+// Sets `value` to the number that all of `text` is. False, with `value` untouched, for anything else and for what the
+// type cannot hold: "2.5" is no int, "1e400" is no double.
 bool read(std::string_view text, int& value);
 bool read(std::string_view text, double& value);
 
-// True for digits with an optional sign, however many.
+// True for digits with an optional sign, however many: also for a whole number that no int holds.
 bool isWhole(std::string_view text);
 
 // True when the number loses something by being read as one: "007" is an article number, not seven.

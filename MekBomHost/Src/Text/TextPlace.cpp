@@ -1,16 +1,9 @@
 #include "TextPlace.h"
 
+#include "Utf8.h"
+
 namespace mekbom
 {
-namespace
-{
-// All bytes of a character but its first are 10xxxxxx in UTF-8.
-bool startsCharacter(char byte)
-{
-    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-}
-}
-
 // Counts on from the offset asked for last, or from the front if that lies behind.
 TextPlace PlaceCounter::placeOf(std::size_t offset)
 {
@@ -23,7 +16,7 @@ TextPlace PlaceCounter::placeOf(std::size_t offset)
     {
         if (m_text[m_offset] == '\n')
             m_place = { m_place.line + 1, 1 };
-        else if (startsCharacter(m_text[m_offset]))
+        else if (Utf8::startsCharacter(m_text[m_offset]))
             ++m_place.column;
     }
     return m_place;

@@ -14,7 +14,7 @@ namespace mekbom
 struct TextPlace
 {
     int line = 0;   // 0 where it is not known
-    int column = 0; // likewise: then the line as a whole is meant
+    int column = 0; // 0 where the line as a whole is meant, or its column is not known
 };
 
 // From the first character of something to the one behind its last.
@@ -28,7 +28,7 @@ struct TextSpan
 class PlaceCounter
 {
 public:
-    // The bytes are not owned and outlive the counter. They begin in line `firstLine` of their file.
+    // The bytes are not owned and must outlive the counter. They begin in line `firstLine` of their file.
     explicit PlaceCounter(std::string_view text, int firstLine = 1)
         : m_text(text), m_firstLine(firstLine), m_place{ firstLine, 1 }
     {

@@ -107,8 +107,7 @@ std::size_t findInvalid(std::string_view bytes)
 
 std::size_t countCharacters(std::string_view bytes)
 {
-    const auto continues = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; };
-    return bytes.size() - static_cast<std::size_t>(std::count_if(bytes.begin(), bytes.end(), continues));
+    return static_cast<std::size_t>(std::count_if(bytes.begin(), bytes.end(), startsCharacter));
 }
 
 std::string_view withoutByteOrderMark(std::string_view bytes)

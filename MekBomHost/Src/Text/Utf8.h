@@ -18,13 +18,20 @@ namespace mekbom::Utf8
 // The offset of the first byte that belongs to no valid UTF-8 sequence; bytes.size() when there is none.
 std::size_t findInvalid(std::string_view bytes);
 
+// Whether a character starts with the byte: all others of one are 10xxxxxx. For valid text.
+inline bool startsCharacter(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
+}
+
 // Characters (code points), not bytes. For valid text.
 std::size_t countCharacters(std::string_view bytes);
 
 // Without the mark that some programs put in front of a file: "\xEF\xBB\xBFName" -> "Name".
 std::string_view withoutByteOrderMark(std::string_view bytes);
 
-// Anything invalid becomes U+FFFD, in both directions: each byte that belongs to no sequence, each lone surrogate.
+// From UTF-8 and to it; append() adds to what `bytes` holds. Anything invalid becomes U+FFFD, in both directions: each
+// byte that belongs to no sequence, each lone surrogate.
 VorString toWide(std::string_view bytes);
 std::string toBytes(const VorString& text);
 void append(std::string& bytes, const VorString& text);
@@ -34,8 +41,10 @@ void append(std::string& bytes, const VorString& text);
 int displayWidth(int codePoint);
 int displayWidth(std::string_view bytes);
 
-// Reads the code point at the start of `bytes`, which is not empty, and removes it; U+FFFD, one byte removed, where
-// none is.
+// Removes the code point at the start of `bytes`, which must not be empty, and returns it; where no valid one starts,
+// removes one byte and returns U+FFFD.
 int takeCodePoint(std::string_view& bytes);
-void appendCodePoint(std::string& bytes, int codePoint); // a valid one
+
+// The reverse, for a valid code point.
+void appendCodePoint(std::string& bytes, int codePoint);
 }

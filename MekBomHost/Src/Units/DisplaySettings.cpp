@@ -1,9 +1,13 @@
+// A setting may be made three times, and the last one counts: C40_SuppressZeroFeet is 1 as long as nobody says
+// anything, 0 with the variable of that name in the environment, 1 again with a line of the settings file, and 0 with "
+// --setting C40_SuppressZeroFeet=0". All of them are read, so that a mistake shows even where another one comes over
+// it.
 #include "DisplaySettings.h"
 
 #include "Fault.h"
 #include "FindingCodes.h"
+#include "InQuotes.h"
 #include "IniFile.h"
-#include "MessageText.h"
 #include "NumberReader.h"
 
 #include <algorithm>
@@ -53,11 +57,13 @@ Finding noWholeNumber(const std::string& found)
     throw Fault(kWrongUsage, finding);
 }
 
+// Elsewhere a number may have blanks around it. A variable holds the number alone, as nobody lines variables up.
 void readEnvironment(const DisplaySettings::Pairs& environment, DisplaySettings& settings)
 {
     for (const auto& [name, value] : environment)
         if (const Setting* const pSetting = findSetting(name))
-            if (!NumberReader::read(value, settings.*pSetting->pNumber))
+            if (value.find_first_of(" \t") != std::string::npos ||
+                !NumberReader::read(value, settings.*pSetting->pNumber))
                 failUsage("environment", noWholeNumber(inQuotes(value) + " for " + name));
 }
 

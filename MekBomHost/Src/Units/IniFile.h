@@ -3,8 +3,8 @@
 //   for (IniFile ini({ "shop.ini", "; ours\nlength = mm\n" }); ini.next();)
 //       take(ini.key(), ini.value(), ini.line());      "length", "mm", 2
 //
-// What lines may be is KTIniReader's to say. Throws a Fault of status kInvalidInput for bytes that are no text and for
-// a malformed line. In UTF-8.
+// What lines may be is KTIniReader's to say. Whatever is wrong ends the reading with a Fault of status kInvalidInput
+// that names the file and the line. All texts are UTF-8.
 #pragma once
 
 #include "Finding.h"
@@ -19,13 +19,13 @@ namespace mekbom
 class IniFile
 {
 public:
-    // The name is kept, of the text a copy.
+    // Keeps copies of name and text. Throws for bytes that are no text.
     explicit IniFile(const NamedText& file);
 
-    // Goes to the next entry; false at the end.
+    // Goes to the next entry, from before the first one at the start; false at the end. Throws for a malformed line.
     bool next();
 
-    // Of the entry.
+    // The entry that next() has gone to; to be asked for only while it answers true.
     const std::string& key() const { return m_key; }
     const std::string& value() const { return m_value; }
     int line() const { return m_reader.line(); }

@@ -1,3 +1,5 @@
+// "ft" of kind kDistanceUnit is asked of the catalogue twice: by its symbol, which may be of any kind, and by its kind,
+// whose system must be that of the unit found. So "kg" is no unit of lengths, though it is one.
 #include "InputUnits.h"
 
 #include "UnitKinds.h"

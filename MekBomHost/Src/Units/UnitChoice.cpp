@@ -5,8 +5,8 @@
 
 #include "Fault.h"
 #include "FindingCodes.h"
+#include "InQuotes.h"
 #include "IniFile.h"
-#include "MessageText.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 

@@ -1,12 +1,14 @@
 // The units that a list is printed in, as the user chooses them.
 //
-//   UnitChoice::unitsOf("imperial", { { "weight", "kg/1" } })    feet and inches, but kilograms to one decimal
-//   UnitChoice::unitsOf(NamedText{ "shop.ini", text }, {})       those of a file, whose text may be:
+//   UnitChoice::unitsOf("imperial", { { "weight", "kg/1" } })   ->  feet and inches, but kilograms to one decimal
+//   UnitChoice::unitsOf(NamedText{ "shop.ini", text }, {})      ->  those of a file
 //
-//       ; what our shop reads
-//       base = imperial            units of kinds that are not named: metric, without this line, or imperial
-//       length = ft-in/32
-//       area = m2/1
+// The text of such a file, where a base stands for all kinds that are not named and is metric if there is none:
+//
+//   ; what our shop reads
+//   base = imperial
+//   length = ft-in/32
+//   area = m2/1
 //
 // Kinds are those of UnitKinds, units and precisions those of VorUnitNotation. The answer is a value: two reports in
 // one process may have different ones.
@@ -27,7 +29,7 @@ using Choices = std::vector<std::pair<std::string, std::string>>; // kind and un
 extern const char* const kMetric;
 extern const char* const kImperial;
 
-// Whether `word` names units to start from; if not, it is most likely the name of a file.
+// Whether `word` names units to start from, kMetric or kImperial; if not, it is most likely the name of a file.
 bool isBase(const std::string& word);
 
 // The units of a base, or of a file, with `choices` over them, of which the last of a kind holds. Throws a Fault: of

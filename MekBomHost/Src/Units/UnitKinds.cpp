@@ -1,6 +1,7 @@
 #include "UnitKinds.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace mekbom::UnitKinds
 {
@@ -17,21 +18,20 @@ const UnitKind* findIf(const Predicate& isWanted)
 }
 }
 
-const std::vector<UnitKind>& all()
+const std::array<UnitKind, Systems::kNumSystems>& all()
 {
-    static const std::vector<UnitKind> kinds = {
-        { "length", "distance", Units::kDistanceUnit, Systems::kDistance,
-          "a unit of distance such as mm, m, in or ft" },
-        { "angle", "", Units::kAngleUnit, Systems::kAngle, "a unit of angle such as rad or deg" },
-        { "weight", "", Units::kWeightUnit, Systems::kWeight, "a unit of weight such as kg or lb" },
-        { "area", "", Units::kAreaUnit, Systems::kArea, "a unit of area such as mm2, m2 or ft2" },
-        { "weight-per-length", "weight-per-distance", Units::kWeightPerDistanceUnit, Systems::kWeightPerDistance,
+    static constexpr std::array<UnitKind, Systems::kNumSystems> kKinds = { {
+        { Systems::kDistance, "length", "distance", "a unit of distance such as mm, m, in or ft" },
+        { Systems::kAngle, "angle", "", "a unit of angle such as rad or deg" },
+        { Systems::kWeight, "weight", "", "a unit of weight such as kg or lb" },
+        { Systems::kArea, "area", "", "a unit of area such as mm2, m2 or ft2" },
+        { Systems::kWeightPerDistance, "weight-per-length", "weight-per-distance",
           "a unit of weight per distance such as kg/m or lb/ft" },
-        { "area-per-length", "area-per-distance", Units::kAreaPerDistanceUnit, Systems::kAreaPerDistance,
+        { Systems::kAreaPerDistance, "area-per-length", "area-per-distance",
           "a unit of area per distance such as m2/m or ft2/ft" },
-        { "density", "", Units::kDensityUnit, Systems::kDensity, "a unit of density such as kg/m3 or lb/ft3" },
-    };
-    return kinds;
+        { Systems::kDensity, "density", "", "a unit of density such as kg/m3 or lb/ft3" },
+    } };
+    return kKinds;
 }
 
 const UnitKind* find(std::string_view name)
@@ -42,12 +42,23 @@ const UnitKind* find(std::string_view name)
 
 const UnitKind* find(Units::eTokenUnitType type)
 {
-    return findIf([type](const UnitKind& kind) { return kind.type == type; });
+    return findIf([type](const UnitKind& kind) { return Units::unitTypeOf(kind.system) == type; });
 }
 
 const UnitKind* find(Systems::eSystems system)
 {
-    return findIf([system](const UnitKind& kind) { return kind.system == system; });
+    const int index = Systems::indexOf(system);
+    return index < 0 ? nullptr : &all()[static_cast<std::size_t>(index)];
+}
+
+const std::vector<std::string>& typeNames()
+{
+    static const std::vector<std::string> names = {
+        "kNoUnit",      "kDistanceUnit",          "kWeightUnit",          "kAreaUnit",
+        "kAngleUnit",   "kWeightPerDistanceUnit", "kAreaPerDistanceUnit", "kReservedUnitType",
+        "kDensityUnit",
+    };
+    return names;
 }
 
 std::string names()

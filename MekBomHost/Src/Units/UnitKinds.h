@@ -1,16 +1,18 @@
-// The kinds of quantity that parts lists carry and lists show, by the words that users have for them.
+// The words that users have for the kinds of quantity which parts lists carry and lists show.
 //
 //   UnitKinds::find("length")->system                                ->  VorUnitsTransformArray::kDistance
 //   UnitKinds::find(VorBomTemplateUnits::kWeightUnit)->expectation   ->  "a unit of weight such as kg or lb"
+//   UnitKinds::typeNames()[VorBomTemplateUnits::kWeightUnit]         ->  "kWeightUnit"
 //
-// Here the three ways meet in which kinds are told: the words of users, the types that template files and tokens have,
-// and the systems of the units catalogue. Nothing else in the program pairs them.
+// Which kinds there are, and in which order, is VorUnitsTransformArray's to say; which type of token belongs to which
+// of them, VorBomTemplateUnits'. Here they only get names. All answers live as long as the program.
 #pragma once
 
 #include "VorBomTemplateUnits.h"
 
 #include "MekRoots/Exp/VorUnitsTransformArray.h"
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,25 +21,29 @@ namespace mekbom
 {
 struct UnitKind
 {
-    const char* name;      // as the command line and units files have it
-    const char* otherName; // a second word for the same; empty without one
-    VorBomTemplateUnits::eTokenUnitType type;
     VorUnitsTransformArray::eSystems system;
+    const char* name;        // as the command line and units files have it: "length"
+    const char* otherName;   // a second word for the same, "distance"; empty without one
     const char* expectation; // what a message says was expected
 };
 
 namespace UnitKinds
 {
-// In the order in which they are listed to users.
-const std::vector<UnitKind>& all();
+// In the order of VorUnitsTransformArray::kSystems, in which they are also listed to users.
+const std::array<UnitKind, VorUnitsTransformArray::kNumSystems>& all();
 
-// The kind of that name or number, which lives as long as the program; null when there is none. Types without a unit,
-// kNoUnit and kReservedUnitType, have none. Names are taken as written, case included.
+// The kind that is called so by either name, taken as written, case included; null when none is.
 const UnitKind* find(std::string_view name);
+
+// The kind that the engine numbers so; null for a number that is none, and for the types that have no unit: kNoUnit and
+// kReservedUnitType.
 const UnitKind* find(VorBomTemplateUnits::eTokenUnitType type);
 const UnitKind* find(VorUnitsTransformArray::eSystems system);
 
-// "length, angle, weight ..."
+// What template files call the types of tokens: the name of each eTokenUnitType, by its number.
+const std::vector<std::string>& typeNames();
+
+// "length, angle, weight ...": what a message says a kind may be.
 std::string names();
 }
 }

@@ -1,3 +1,6 @@
+// Each line of the table is one unit of the catalogue, and nothing in it is written down here: "in/3" is what
+// VorUnitNotation writes for inches with their usual precision, "25.4 mm" what one inch is by their transform. Columns
+// are as wide as their widest text on a terminal, where "m²" takes two places and three bytes.
 #include "UnitTable.h"
 
 #include "NumberText.h"

@@ -1,4 +1,5 @@
-// The catalogue of units as a table for users: kind, symbol, how it is asked for, what it is, source and names.
+// The catalogue of units as a table for users: kind, symbol, how it is asked for, what it is, source and names. The
+// lines are those of the catalogue, so a unit that is added there shows here.
 //
 //   Kind    Symbol  --unit  One is   Source              Names
 //   length  mm      mm/1    1 mm     SI (NIST SP 811)    millimetre, millimetres, millimeter, millimeters

@@ -2,7 +2,7 @@
 
 #include "Fault.h"
 #include "FindingCodes.h"
-#include "MessageText.h"
+#include "InQuotes.h"
 
 #include <CLI/CLI.hpp>
 

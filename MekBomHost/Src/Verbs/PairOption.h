@@ -28,8 +28,8 @@ public:
     // Adds the option to `command`; parsing fills this object, which outlives it.
     void declareOn(CLI::App& command, const std::string& help);
 
-    // In the order in which they were given. Throws a Fault of status kWrongUsage for a text without an equals sign, and
-    // for one with nothing on either side of it.
+    // The pairs in the order in which they were given. Throws a Fault of status kWrongUsage for a text without an
+    // equals sign, and for one with nothing on either side of it.
     std::vector<std::pair<std::string, std::string>> pairs() const;
 
 private:

@@ -1,7 +1,7 @@
 #include "QuantityWords.h"
 
 #include "Fault.h"
-#include "MessageText.h"
+#include "InQuotes.h"
 #include "Utf8.h"
 
 namespace mekbom::QuantityWords

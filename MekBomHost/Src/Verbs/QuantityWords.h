@@ -1,4 +1,10 @@
 // How the verbs about units refuse words that they cannot take.
+//
+//   QuantityWords::refuse(FindingCodes::kNoQuantity, "1,5", "a quantity in mm", L"the decimal sign is a point");
+//
+// ends the verb with the message
+//
+//   found "1,5", expected a quantity in mm: the decimal sign is a point
 #pragma once
 
 #include "FindingCodes.h"
@@ -9,8 +15,7 @@
 
 namespace mekbom::QuantityWords
 {
-// Throws a Fault of status kWrongUsage:  found "1,5", expected a quantity in mm: the decimal sign is a point
-// `hint`, which follows the colon, may be empty.
+// Throws a Fault of status kWrongUsage. `hint`, which follows the colon, may be empty; then the colon goes, too.
 [[noreturn]] void refuse(const FindingCode& code, const std::string& found, const std::string& expected,
                          const VorString& hint = VorString());
 }

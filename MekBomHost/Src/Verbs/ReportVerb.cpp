@@ -1,3 +1,11 @@
+// Files are named here and read by the job, so that this verb and a program that has its texts in memory differ in
+// their sources alone:
+//
+//   --data -             a FileSource of standard input        --template default   no source and no candidates
+//   --data sample        no source: the built-in rows          no --template        a source for each shipped template
+//   no --data            a FileSource of the shipped hall      --units house.ini    a source, if there is such a file
+//
+// The list is written only once all of it has been evaluated.
 #include "ReportVerb.h"
 
 #include "DisplaySettings.h"
@@ -31,7 +39,7 @@ void addFile(CLI::App& command, const std::string& name, std::string& file, cons
     command.add_option(name, file, help)->type_name("FILE");
 }
 
-// The variables that are named like a setting.
+// The variables of the process that are named like a setting, with what they hold.
 ReportRequest::Pairs environment()
 {
     ReportRequest::Pairs variables;

@@ -1,5 +1,10 @@
-// `mekbom report`: reads parts list and template, evaluates, prints the table. When it cannot, nothing has been
-// written.
+// `mekbom report`: reads parts list and template, evaluates, writes the list.
+//
+//   mekbom report                                                   the shipped hall, in the template that suits it
+//   mekbom report --data parts.csv --template list.json -o list.txt
+//
+// The verb is where files come in: it turns options into the sources of a ReportRequest, lets a ReportJob make the
+// report and hands it to a writer. A report that cannot be made leaves nothing written, and the file of `-o` as it was.
 #pragma once
 
 #include "PairOption.h"
@@ -31,7 +36,7 @@ private:
     void write(const ReportWriter& writer) const;
     bool isSample() const;
 
-    // Options.
+    // What the options were given as. None of these files is opened before the job reads it.
     std::string m_data;             // a file or one of the words for something else; empty for the shipped parts list
     std::string m_templateName;     // a file or "default"; empty for a shipped template that suits the data
     std::string m_units = "metric"; // to print in, as UnitChoice takes them

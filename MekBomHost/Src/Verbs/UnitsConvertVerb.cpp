@@ -1,3 +1,9 @@
+// A quantity goes by way of the unit that the model keeps its kind in:
+//
+//   "7.5" ft  ->  2286 mm  ->  7' 6"       for  mekbom units convert 7.5 ft ft-in/16
+//
+// The unit it is given in decides what kind it is of; the other one must be of the same. A quantity that names a unit
+// itself, such as 2286mm, is read in that.
 #include "UnitsConvertVerb.h"
 
 #include "QuantityWords.h"

@@ -9,13 +9,11 @@
 //           count.add_option("file", m_file, "Text file")->required();
 //           return count;
 //       }
-//
 //       ExitStatus run(FindingList&) override
 //       {
 //           StandardOutput::print(std::to_string(numLinesOf(m_file)) + "\n");
 //           return kDone;
 //       }
-//
 //   private:
 //       std::string m_file;
 //   };

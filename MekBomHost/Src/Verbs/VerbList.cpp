@@ -1,3 +1,5 @@
+// Parsing only notes which verb was called. It runs when its caller says so: all options are parsed then, of verbs
+// within verbs too, and what a verb throws does not pass through the parser.
 #include "VerbList.h"
 
 #include "ReportVerb.h"

@@ -1,5 +1,7 @@
 #include "FindingCodes.h"
 
+#include "Support/HostTestSupport.h"
+
 #include <gtest/gtest.h>
 
 #include <cstddef>
@@ -8,6 +10,26 @@
 
 namespace mekbom
 {
+namespace
+{
+// How many codes the header defines.
+std::size_t numDefined()
+{
+    const std::string header = readFile(MEK_TEST_DIR "/../Src/Faults/FindingCodes.h");
+    const std::string definition = "inline constexpr FindingCode ";
+    std::size_t count = 0;
+    for (std::size_t pos = header.find(definition); pos != std::string::npos; pos = header.find(definition, pos + 1))
+        ++count;
+    return count;
+}
+}
+
+// The last code of a hundred leaves no gap when it is forgotten.
+TEST(FindingCodesTest, NoneIsForgottenInTheList)
+{
+    EXPECT_EQ(numDefined(), FindingCodes::all().size());
+}
+
 TEST(FindingCodesTest, NumbersFollowEachOtherWithoutGapsWithinTheirHundred)
 {
     int last = 700;

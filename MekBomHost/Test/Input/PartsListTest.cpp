@@ -65,7 +65,7 @@ std::string rowsOf(PartsList& parts)
 
 std::string rowsOf(const std::string& text)
 {
-    TextSource source(text);
+    MemorySource source("parts.csv", text);
     CsvReader records(source);
     PartsList parts(records);
     return rowsOf(parts);
@@ -108,7 +108,7 @@ TEST(PartsListTest, TheHandleIsTheRowsIdentityAndADatum)
 
 TEST(PartsListTest, RowsWithoutHandleColumnAreNumberedForATemplateThatAsks)
 {
-    TextSource source("%Weight\n5\n6\n");
+    MemorySource source("parts.csv", "%Weight\n5\n6\n");
     CsvReader records(source);
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Weight", "%Handle" });
@@ -122,7 +122,7 @@ TEST(PartsListTest, RowsWithoutHandleColumnAreNumberedForATemplateThatAsks)
 
 TEST(PartsListTest, OnlyWhatTheTemplateOrTheFilterAsksForIsKept)
 {
-    TextSource source("%Name,%Weight,%BoltName,Extra\nHEA200,5,M16,x\n");
+    MemorySource source("parts.csv", "%Name,%Weight,%BoltName,Extra\nHEA200,5,M16,x\n");
     CsvReader records(source);
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%SumBy:%Weight" });
@@ -139,7 +139,7 @@ TEST(PartsListTest, OnlyWhatTheTemplateOrTheFilterAsksForIsKept)
 
 TEST(PartsListTest, TokensAndEqualTextsAreShared)
 {
-    TextSource source("%Name,Extra\nHEA200,x\nHEA200,x\n");
+    MemorySource source("parts.csv", "%Name,Extra\nHEA200,x\nHEA200,x\n");
     CsvReader records(source);
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Name", "%Extra" });
@@ -164,7 +164,7 @@ TEST(PartsListTest, UnitsOfTheHeaderRowConvert)
 
 TEST(PartsListTest, UnitsOfTheUserConvert)
 {
-    TextSource source("%Paint\n2.5\n");
+    MemorySource source("parts.csv", "%Paint\n2.5\n");
     CsvReader records(source);
     PartsList parts(records);
     parts.setInputUnit("%Paint", "m2");
@@ -234,7 +234,7 @@ TEST(PartsListTest, UnitsThatDoNotFitAreNamed)
 
 TEST(PartsListTest, UnitsOfTheUserAreTheUsersToMend)
 {
-    TextSource source("%Paint,%Length [mm],%Name\n2.5,1,x\n");
+    MemorySource source("parts.csv", "%Paint,%Length [mm],%Name\n2.5,1,x\n");
     CsvReader records(source);
     PartsList parts(records);
     const auto faultWith = [&parts](const char* token, const char* unit)
@@ -297,7 +297,7 @@ TEST(PartsListTest, CellsOfAColumnWithUnitAreNumbers)
 
 TEST(PartsListTest, CellsAreCheckedEvenIfNobodyWantsThem)
 {
-    TextSource source("%Name,%Weight\nx,abc\n");
+    MemorySource source("parts.csv", "%Name,%Weight\nx,abc\n");
     CsvReader records(source);
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Name" });

@@ -13,6 +13,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -27,12 +28,13 @@ const char* const kParts = "%Name,%Length\nHEA200,2286\nIPE360,152.4\n";
 const char* const kDetails = R"({ "sections": [ { "type": "kDetails", "tuples": [
     { "token": "%Name" }, { "token": "%Length" } ] } ] })";
 
-std::unique_ptr<ByteSource> text(const std::string& name, const std::string& content)
+// What the texts of a request view outlives the job.
+std::unique_ptr<ByteSource> text(const std::string& name, std::string_view content)
 {
-    return std::make_unique<TextSource>(content, 1 << 20, name);
+    return std::make_unique<MemorySource>(name, content);
 }
 
-ReportRequest requestFor(const std::string& parts, const std::string& templateText)
+ReportRequest requestFor(std::string_view parts, std::string_view templateText)
 {
     ReportRequest request;
     request.pParts = text("parts.csv", parts);
@@ -140,12 +142,13 @@ TEST(ReportJobTest, SettingsOfTheEnvironmentHaveTheLowestRank)
     const auto lengthWith = [](const std::string& environment, const std::string& file, const std::string& option)
     {
         const std::string name = "C40_SuppressZeroFeet";
+        const std::string settings = name + "=" + file;
         ReportRequest request = requestFor(
             "%Length\n152.4\n", R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Length" } ] } ] })");
         request.units = "imperial";
         request.environment = { { name, environment } };
         if (!file.empty())
-            request.pSettings = text("a.ini", name + "=" + file);
+            request.pSettings = text("a.ini", settings);
         if (!option.empty())
             request.settings = { { name, option } };
         const std::string table = outcomeOf(std::move(request));
@@ -254,10 +257,10 @@ TEST(ReportJobTest, OptionsThatCannotBeTakenAreWrongUsage)
 
 TEST(ReportJobTest, ASourceThatFailsIsAFinding)
 {
-    class BrokenSource : public TextSource
+    class BrokenSource : public MemorySource
     {
     public:
-        BrokenSource() : TextSource("") {}
+        BrokenSource() : MemorySource("parts.csv", "") {}
         std::size_t read(char*, std::size_t) override { throw std::runtime_error("torn"); }
     };
     ReportRequest request = requestFor(kParts, kDetails);

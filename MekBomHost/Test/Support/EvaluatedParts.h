@@ -30,7 +30,8 @@ class EvaluatedParts
 public:
     EvaluatedParts(const std::string& templateText, const std::vector<Part>& parts,
                    LineContents contents = LineContents(), VorUnitsManager units = VorUnitsManager::metric())
-        : m_units(std::move(units)), m_template(TemplateReader::read("list.json", templateText)),
+        : m_units(std::move(units)),
+          m_template(TemplateReader::read("list.json", templateText)),
           m_sections(m_template, contents)
     {
         VorBomTemplate& engineTemplate = *m_template.pTemplate;

@@ -1,13 +1,13 @@
 // Small builders for the program's tests: text as input and output, faults as text, files that go away.
 #pragma once
 
-#include "ByteSource.h"
 #include "Fault.h"
+#include "MemorySource.h"
 #include "TextSink.h"
 
 #include <algorithm>
 #include <atomic>
-#include <cstring>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -18,29 +18,22 @@
 namespace mekbom
 {
 // Gives a text, `blockSize` bytes at a time: what a reader does at the seams must not depend on where they are.
-class TextSource : public ByteSource
+class BlockSource : public MemorySource
 {
 public:
-    explicit TextSource(std::string text, std::size_t blockSize = 1 << 20, std::string name = "parts.csv")
-        : m_name(std::move(name)), m_text(std::move(text)), m_blockSize(blockSize)
+    // The bytes are not owned and outlive the source.
+    BlockSource(std::string_view bytes, std::size_t blockSize)
+        : MemorySource("parts.csv", bytes), m_blockSize(blockSize)
     {
     }
-
-    const std::string& name() const override { return m_name; }
 
     std::size_t read(char* pBytes, std::size_t size) override
     {
-        const std::size_t numRead = std::min({ size, m_blockSize, m_text.size() - m_begin });
-        std::memcpy(pBytes, m_text.data() + m_begin, numRead);
-        m_begin += numRead;
-        return numRead;
+        return MemorySource::read(pBytes, std::min(size, m_blockSize));
     }
 
 private:
-    std::string m_name;
-    std::string m_text;
     std::size_t m_blockSize;
-    std::size_t m_begin = 0;
 };
 
 class StringSink : public TextSink
@@ -64,8 +57,9 @@ inline std::string faultOf(const std::function<void()>& action)
     }
     catch (const Fault& fault)
     {
-        for (const std::string& message : fault.messages(fault.numErrors()))
-            text += std::to_string(fault.status()) + " " + message + "\n";
+        for (const Finding& finding : fault.findings())
+            if (finding.severity == Finding::kError)
+                text += std::to_string(fault.status()) + " " + messageOf(finding) + "\n";
     }
     return text;
 }

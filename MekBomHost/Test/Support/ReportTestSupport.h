@@ -21,7 +21,7 @@ inline std::unique_ptr<Report> reportOf(const std::string& templateText, const s
                                         const VorUnitsManager& units = VorUnitsManager::metric())
 {
     auto pReport = std::make_unique<Report>(TemplateReader::read("list.json", templateText), units);
-    TextSource source(partsText);
+    MemorySource source("parts.csv", partsText);
     CsvReader records(source);
     PartsList(records).readRows(pReport->engineTemplate(), pReport->queryFilter());
     return pReport;

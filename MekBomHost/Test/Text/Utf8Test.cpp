@@ -35,6 +35,15 @@ const InvalidCase kInvalid[] = {
 };
 }
 
+TEST(Utf8Test, OneByteOfEachCharacterStartsIt)
+{
+    std::string starts;
+    for (const char byte : std::string("aT\xC3\xA4\xE6\xA2\x81\xF0\x9F\x94\xA9"))
+        starts += Utf8::startsCharacter(byte) ? '1' : '0';
+
+    EXPECT_EQ("11101001000", starts);
+}
+
 TEST(Utf8Test, InvalidBytesAreFound)
 {
     for (const InvalidCase& test : kInvalid)

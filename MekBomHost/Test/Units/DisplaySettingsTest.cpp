@@ -122,6 +122,14 @@ TEST(DisplaySettingsTest, AVariableThatIsNoWholeNumberIsNamed)
               faultFrom({ { { "C40_SuppressZeroFeet", "yes" } }, {}, {} }));
 }
 
+TEST(DisplaySettingsTest, AVariableWithBlanksAroundItsNumberIsRefused)
+{
+    EXPECT_EQ("2 environment: found \" 1\" for C40_SuppressZeroFeet, expected a whole number\n",
+              faultFrom({ { { "C40_SuppressZeroFeet", " 1" } }, {}, {} }));
+    EXPECT_EQ("2 environment: found \"1 \" for C40_SuppressZeroFeet, expected a whole number\n",
+              faultFrom({ { { "C40_SuppressZeroFeet", "1 " } }, {}, {} }));
+}
+
 TEST(DisplaySettingsTest, TwoReportsShowTheSameLengthByTheirOwnSettings)
 {
     FindingList findings;

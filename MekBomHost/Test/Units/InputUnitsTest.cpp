@@ -69,7 +69,10 @@ TEST(InputUnitsTest, FeetAndInchesTakeNoPlainNumbers)
 TEST(InputUnitsTest, EveryKindHasItsUnitOfTheModel)
 {
     for (const UnitKind& kind : UnitKinds::all())
-        EXPECT_EQ(2.5, InputUnits::ofModel(kind.type)->getVorUnitTransform().toInternalUnits(2.5)) << kind.name;
+    {
+        const std::optional<MEKUnit> unit = InputUnits::ofModel(Units::unitTypeOf(kind.system));
+        EXPECT_EQ(2.5, unit->getVorUnitTransform().toInternalUnits(2.5)) << kind.name;
+    }
     EXPECT_FALSE(InputUnits::ofModel(Units::kNoUnit));
     EXPECT_FALSE(InputUnits::ofModel(Units::kReservedUnitType));
 }

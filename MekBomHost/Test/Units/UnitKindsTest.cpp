@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+
 namespace mekbom
 {
 using Units = VorBomTemplateUnits;
@@ -18,13 +20,36 @@ TEST(UnitKindsTest, KindsAreFoundByBothTheirNames)
     EXPECT_EQ("length, angle, weight, area, weight-per-length, area-per-length, density", UnitKinds::names());
 }
 
+TEST(UnitKindsTest, KindsStandInTheCommonOrder)
+{
+    for (int i = 0; i < Systems::kNumSystems; ++i)
+        EXPECT_EQ(Systems::kSystems[i], UnitKinds::all()[static_cast<std::size_t>(i)].system) << i;
+    for (const UnitKind& kind : UnitKinds::all())
+        EXPECT_EQ(&kind, UnitKinds::find(kind.system)) << kind.name;
+    EXPECT_EQ(nullptr, UnitKinds::find(static_cast<Systems::eSystems>(3)));
+}
+
 TEST(UnitKindsTest, EveryTypeWithAUnitIsOfOneKind)
 {
     for (int type = Units::kNoUnit; type <= Units::kDensityUnit; ++type)
     {
         const UnitKind* const pKind = UnitKinds::find(static_cast<Units::eTokenUnitType>(type));
         EXPECT_EQ(type == Units::kNoUnit || type == Units::kReservedUnitType, pKind == nullptr) << type;
-        EXPECT_TRUE(pKind == nullptr || pKind == UnitKinds::find(pKind->system)) << type;
+        EXPECT_TRUE(pKind == nullptr || type == Units::unitTypeOf(pKind->system)) << type;
     }
+}
+
+TEST(UnitKindsTest, EveryTypeHasItsName)
+{
+    ASSERT_EQ(Units::kDensityUnit + 1U, UnitKinds::typeNames().size());
+    EXPECT_EQ("kNoUnit", UnitKinds::typeNames()[Units::kNoUnit]);
+    EXPECT_EQ("kDistanceUnit", UnitKinds::typeNames()[Units::kDistanceUnit]);
+    EXPECT_EQ("kWeightUnit", UnitKinds::typeNames()[Units::kWeightUnit]);
+    EXPECT_EQ("kAreaUnit", UnitKinds::typeNames()[Units::kAreaUnit]);
+    EXPECT_EQ("kAngleUnit", UnitKinds::typeNames()[Units::kAngleUnit]);
+    EXPECT_EQ("kWeightPerDistanceUnit", UnitKinds::typeNames()[Units::kWeightPerDistanceUnit]);
+    EXPECT_EQ("kAreaPerDistanceUnit", UnitKinds::typeNames()[Units::kAreaPerDistanceUnit]);
+    EXPECT_EQ("kReservedUnitType", UnitKinds::typeNames()[Units::kReservedUnitType]);
+    EXPECT_EQ("kDensityUnit", UnitKinds::typeNames()[Units::kDensityUnit]);
 }
 }

@@ -68,6 +68,21 @@ TEST_F(ReportVerbTest, HelpShowsExamplesAndStatuses)
     EXPECT_NE(std::string::npos, runHere({ "report", "--help" }).output.find("Usage: mekbom report [OPTIONS]"));
 }
 
+// Options are looked at when the report is made, so who asks how they are written need not write them well.
+TEST_F(ReportVerbTest, HelpIsShownBesideAnOptionThatIsWrong)
+{
+    const std::string help = runHere({ "report", "--help" }).output;
+    for (const std::vector<std::string>& arguments : { std::vector<std::string>{ "report", "--unit", "x", "--help" },
+                                                       { "report", "--data", "nowhere.csv", "--help" },
+                                                       { "report", "--help", "--setting", "=1" } })
+    {
+        const ProgramRun run = runHere(arguments);
+        EXPECT_EQ(kDone, run.status);
+        EXPECT_EQ(help, run.output);
+        EXPECT_EQ("", run.errors);
+    }
+}
+
 TEST_F(ReportVerbTest, TextsThatAreNoPairsAreRefused)
 {
     for (const char* const text : { "Paint", "=m2", "Paint=", "=" })

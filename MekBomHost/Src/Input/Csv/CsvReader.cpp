@@ -11,7 +11,7 @@
 
 #include "Fault.h"
 #include "FindingCodes.h"
-#include "MessageText.h"
+#include "InQuotes.h"
 #include "TextCheck.h"
 #include "Utf8.h"
 
@@ -96,7 +96,7 @@ void CsvReader::readMore()
 // record := field { ',' field } line-end
 // field  := bytes | '"' { bytes | '""' } '"'
 //
-// False when more bytes are needed; then nothing has been used up.
+// Gives false when more bytes are needed; nothing of the record has been used up then.
 bool CsvReader::scanRecord()
 {
     beginRecord();
@@ -159,7 +159,7 @@ const char* CsvReader::takeQuotedField(const char* pField, const char* pQuote)
     return m_scan.next();
 }
 
-// Null when it is not among the bytes.
+// Gives null when the closing quote is not among the bytes that have been read.
 const char* CsvReader::findClosingQuote(bool& hasDoubled)
 {
     for (;;)
@@ -204,7 +204,8 @@ void CsvReader::passByte(char byte)
     m_isPlain = m_isPlain && isAsciiText(byte);
 }
 
-// Their texts are made once the record is complete, so that `m_resolved` grows once at most and no text moves.
+// The texts of fields with doubled quotes are made once the record is complete: then `m_resolved` grows once at most,
+// and no text moves while another one is made.
 void CsvReader::resolveDoubledQuotes()
 {
     if (m_doubled.empty())
@@ -240,7 +241,7 @@ const char* CsvReader::failWithinField(const char* pQuote) const
                                       "the whole field in quotes and the quote doubled"));
 }
 
-// For a byte of the line that is the record's last so far: no comma, nor a line end.
+// Refuses the byte behind a closing quote, which is neither a comma nor a line end.
 const char* CsvReader::failBehindQuote(const char* pField, const char* pByte) const
 {
     const int fieldLine = lineOf(pField);
@@ -253,7 +254,8 @@ const char* CsvReader::failBehindQuote(const char* pField, const char* pByte) co
                                      inQuotes(textBetween(pByte, rest.data())) + " after a closing quote", expected));
 }
 
-// Null when more bytes are needed: whether the line as a whole is text comes first.
+// Throws, unless more bytes are needed, when it gives null: a line that is no text is told of before anything else that
+// is wrong with it, so the line has to be there as a whole.
 const char* CsvReader::failAt(const char* pByte, Finding finding) const
 {
     const char* const pLineEnd = std::find_if(pByte, m_bytes.end(), endsLine);

@@ -5,7 +5,8 @@
 //   HEA200,"7'-6""",12       ->   HEA200 | 7'-6" | 12
 //
 // A quote where none may stand, a quoted field without its end, bytes that are not UTF-8 and zero bytes end the reading
-// with a Fault that names the place. How many fields a record has is left to the caller.
+// with a Fault that names the place. How many fields a record has is left to the caller. Cells are views of bytes that
+// the reader holds, and good until the next record is asked for.
 #pragma once
 
 #include "ByteSource.h"
@@ -36,7 +37,7 @@ public:
     void placeCell(std::size_t index, Finding& finding) const override;
 
 private:
-    // A field with doubled quotes.
+    // A field with doubled quotes: its cell needs a text without them.
     struct DoubledField
     {
         std::size_t index;    // in the record
@@ -66,12 +67,12 @@ private:
     const char* m_pNext = nullptr; // where the next record begins, among m_bytes
     int m_nextLine = 0;            // the line on which it does; 0 before the first
 
-    // Of the record read last, or being read.
+    // What is known of the record that was read last, or is being read.
     Record m_cells;
-    int m_line = 0;                        // on which it begins
-    std::vector<const char*> m_lineBegins; // of its lines, the first included
-    bool m_isPlain = true;                 // the last of them is surely text, without a look at all its bytes
+    int m_line = 0;                        // the line on which it begins
+    std::vector<const char*> m_lineBegins; // where each of its lines begins
+    bool m_isPlain = true;                 // its last line is surely text, without a look at all its bytes
     std::vector<DoubledField> m_doubled;
-    std::string m_resolved; // the texts of these
+    std::string m_resolved; // the texts of these fields, one after the other
 };
 }

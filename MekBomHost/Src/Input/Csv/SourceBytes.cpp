@@ -1,3 +1,11 @@
+// Before more bytes are read, those that are used up make room: what is left of a record moves to the front.
+//
+//   | Name,Length HEA200,6000 | HEB3 |   | spare |      "HEB3" begins a record that goes on behind the buffer
+//   | HEB3 |                             | spare |      makeRoom()
+//   | HEB300,5500 IPE360,7000 ...        | spare |      readMore(), with a line end behind the last byte
+//
+// A record that fills the buffer all alone gets one of twice the size. The spare bytes are what a StopScan may look at
+// behind the end.
 #include "SourceBytes.h"
 
 #include "StopScan.h"

@@ -18,10 +18,10 @@ namespace mekbom
 class SourceBytes
 {
 public:
-    // Of the buffer, at first.
+    // The size of the buffer at first.
     static constexpr std::size_t kFirstSize = 1 << 18; // measured: no faster beyond
 
-    // `source` is not owned and outlives this. There are no bytes until some are read.
+    // `source` is not owned and outlives this object. Nothing is read before the first readMore().
     explicit SourceBytes(ByteSource& source);
 
     const char* begin() const { return m_buffer.data() + m_begin; }
@@ -30,11 +30,11 @@ public:
     // Whether nothing follows end().
     bool areLast() const { return m_sourceIsAtEnd; }
 
-    // Bytes up to `pBytes`, which lies among them, are used up.
+    // Says that the bytes before `pBytes`, which lies among them, are used up: the next readMore() overwrites them.
     void dropTo(const char* pBytes) { m_begin = static_cast<std::size_t>(pBytes - m_buffer.data()); }
 
-    // Reads until the buffer is full, which makes it twice as large where nothing was dropped: who looks at bytes anew
-    // after each call looks at each about twice. The bytes may move.
+    // Reads until the buffer is full or the source at its end. Where nothing was dropped, the buffer first becomes
+    // twice as large, so that who looks at all bytes anew after each call looks at each about twice. Bytes may move.
     void readMore();
 
 private:

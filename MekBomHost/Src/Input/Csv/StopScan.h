@@ -26,7 +26,7 @@ namespace mekbom
 class StopScan
 {
 public:
-    // As many bytes behind the end may be read, whatever they are.
+    // So many bytes behind the end must be readable, whatever they are: bytes are looked at by whole blocks.
     static constexpr std::size_t kBlockSize = 64;
 
     void begin(const char* pBytes, const char* pEnd)
@@ -36,7 +36,7 @@ public:
         m_stops = 0;
     }
 
-    // The next stop; the end when there is none left.
+    // The next stop; the end, however often it is asked for, when there is none left.
     const char* next()
     {
         while (m_stops == 0)
@@ -63,8 +63,8 @@ private:
         m_stops = stops;
     }
 
-    // Eight bits, one for each byte of `word`. Without its highest bit a byte plus 127 - ',' reaches that bit unless it is
-    // a stop; the product brings the eight bits together.
+    // Eight bits, one for each byte of `word`. Without its highest bit a byte plus 127 - ',' reaches that bit unless it
+    // is a stop; the product brings the eight bits together.
     static std::uint64_t stopsOf(std::uint64_t word)
     {
         const std::uint64_t highBits = ByteWord::kEachByte * 0x80;
@@ -72,9 +72,9 @@ private:
         return ((~passed | word) & highBits) / 0x80 * 0x0102040810204080 >> 56;
     }
 
-    const char* m_pBlock = nullptr; // that of the stops
+    const char* m_pBlock = nullptr; // the block that the stops are in
     const char* m_pNextBlock = nullptr;
     const char* m_pEnd = nullptr;
-    std::uint64_t m_stops = 0; // of that block, those still to come
+    std::uint64_t m_stops = 0; // a bit for each stop of the block that is still to come, the first one lowest
 };
 }

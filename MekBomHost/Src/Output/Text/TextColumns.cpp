@@ -2,7 +2,7 @@
 // width is known from the longest of them, without a look at each:
 //
 //   %Name      "HEA200", "L50"        longest 6, all plain             ->   6
-//   %Material  "S235", "Träger S3"    longest 4, not all plain         ->   all lines are read: 9
+//   %Material  "S235", "Träger S3"    not all plain                    ->   all lines are read: 9
 //
 // That spares most reports a reading of all lines, which is a twelfth of all the instructions of a report of 100,000.
 #include "TextColumns.h"

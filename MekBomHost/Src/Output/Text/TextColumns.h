@@ -34,7 +34,7 @@ struct TextColumn
 
 namespace TextColumns
 {
-// One for each column of the report.
+// One for each column of the report, in their order.
 std::vector<TextColumn> of(const EvaluatedReport& report);
 }
 }

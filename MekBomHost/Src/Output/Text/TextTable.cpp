@@ -1,5 +1,5 @@
-// Nearly all lines are plain: printable ASCII that fits its columns. Such a line is made of blanks as wide as the table,
-// each text is copied straight into its place among them, and what follows the last text is cut off:
+// Nearly all lines are plain: printable ASCII that fits its columns. Such a line is made of blanks as wide as the
+// table, each text is copied straight into its place among them, and what follows the last text is cut off:
 //
 //   widths 6, 8, 5; texts "L50", "", "2.5", the last aligned right
 //     "                         "     each column and the two blanks after it

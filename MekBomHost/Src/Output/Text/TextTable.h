@@ -27,7 +27,7 @@ namespace mekbom
 class TextTable
 {
 public:
-    // Owns neither; both must outlive the table.
+    // Neither is owned; both must outlive the table.
     TextTable(const EvaluatedReport& report, TextSink& sink);
 
     // Writes the whole table into the sink and finishes that. To be called once.
@@ -52,6 +52,6 @@ private:
     const std::vector<TextColumn> m_columns;
     std::size_t m_lineWidth = 0;                     // of all columns, each with the blanks after it
     std::vector<std::vector<std::string>> m_wrapped; // for each column the lines of the cell that is being written
-    std::string m_text;                              // written but not passed on to the sink
+    std::string m_text;                              // what has been written but not passed on to the sink
 };
 }

@@ -14,6 +14,7 @@
 
 namespace mekbom::WordWrap
 {
-// At least one line. Line breaks end a line, tabs become blanks, other control characters U+FFFD.
+// The lines of `text`, of which there is at least one. Line breaks end a line, tabs become blanks, other
+// control characters U+FFFD.
 std::vector<std::string> wrap(std::string_view text, int width);
 }

@@ -33,7 +33,7 @@ std::string placeOf(const CsvReader& reader, std::size_t index)
 // Each record as "line: [field][field]" and a line end.
 std::string recordsOf(const std::string& text, std::size_t blockSize = 1 << 20)
 {
-    TextSource source(text, blockSize);
+    BlockSource source(text, blockSize);
     CsvReader reader(source);
     std::string records;
     while (const Record* const pRecord = reader.next())
@@ -150,7 +150,7 @@ private:
 
 std::vector<Texts> textsOf(const std::string& text, std::size_t blockSize)
 {
-    TextSource source(text, blockSize);
+    BlockSource source(text, blockSize);
     CsvReader reader(source);
     std::vector<Texts> records;
     while (const Record* const pRecord = reader.next())
@@ -231,7 +231,7 @@ TEST(CsvReaderTest, RecordsAreTheSameWhereverTheBufferEnds)
 
 TEST(CsvReaderTest, CellsKnowTheirPlaceFromBeginToEnd)
 {
-    TextSource source("h\n\"T\"\"r\xC3\xA4\r\ner\",c,\"\"\n");
+    MemorySource source("parts.csv", "h\n\"T\"\"r\xC3\xA4\r\ner\",c,\"\"\n");
     CsvReader reader(source);
     reader.next();
     ASSERT_NE(nullptr, reader.next());
@@ -243,7 +243,7 @@ TEST(CsvReaderTest, CellsKnowTheirPlaceFromBeginToEnd)
 
 TEST(CsvReaderTest, FieldsKnowTheLineTheyStartOn)
 {
-    TextSource source("h\n\"a\nb\",c,\"d\ne\",f\n");
+    MemorySource source("parts.csv", "h\n\"a\nb\",c,\"d\ne\",f\n");
     CsvReader reader(source);
     reader.next();
 
@@ -258,7 +258,7 @@ TEST(CsvReaderTest, FieldsKnowTheLineTheyStartOn)
 
 TEST(CsvReaderTest, NothingFollowsTheEnd)
 {
-    TextSource source("a\n");
+    MemorySource source("parts.csv", "a\n");
     CsvReader reader(source);
 
     EXPECT_NE(nullptr, reader.next());

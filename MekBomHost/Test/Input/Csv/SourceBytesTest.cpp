@@ -30,7 +30,7 @@ const std::string& longText()
 
 TEST(SourceBytesTest, ThereAreNoneBeforeSomeAreRead)
 {
-    TextSource source("abc");
+    MemorySource source("parts.csv", "abc");
     SourceBytes bytes(source);
 
     EXPECT_EQ("", textOf(bytes));
@@ -44,7 +44,7 @@ TEST(SourceBytesTest, ThereAreNoneBeforeSomeAreRead)
 
 TEST(SourceBytesTest, ALineEndStandsBehindThem)
 {
-    TextSource source("abc", 1);
+    BlockSource source("abc", 1);
     SourceBytes bytes(source);
 
     EXPECT_EQ('\n', *bytes.end());
@@ -54,7 +54,7 @@ TEST(SourceBytesTest, ALineEndStandsBehindThem)
 
 TEST(SourceBytesTest, WhatIsDroppedMakesRoomAndWhatIsNotStays)
 {
-    TextSource source(longText(), 70'000);
+    BlockSource source(longText(), 70'000);
     SourceBytes bytes(source);
     std::string text;
 
@@ -71,7 +71,7 @@ TEST(SourceBytesTest, WhatIsDroppedMakesRoomAndWhatIsNotStays)
 
 TEST(SourceBytesTest, BytesThatAreNotDroppedAreAllKept)
 {
-    TextSource source(longText());
+    MemorySource source("parts.csv", longText());
     SourceBytes bytes(source);
     int numReads = 0;
 

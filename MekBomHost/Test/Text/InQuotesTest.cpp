@@ -1,23 +1,23 @@
-#include "MessageText.h"
+#include "InQuotes.h"
 
 #include <gtest/gtest.h>
 
 namespace mekbom
 {
-TEST(MessageTextTest, TextsStandInQuotes)
+TEST(InQuotesTest, TextsStandInQuotes)
 {
     EXPECT_EQ("\"HEA200\"", inQuotes("HEA200"));
     EXPECT_EQ("\"\"", inQuotes(""));
     EXPECT_EQ("\"Träger\"", inQuotes("Träger"));
 }
 
-TEST(MessageTextTest, ControlCharactersReachNoTerminal)
+TEST(InQuotesTest, ControlCharactersReachNoTerminal)
 {
     EXPECT_EQ("\"a?b?[31m?c\"", inQuotes("a\nb\x1B[31m\xC2\x9B"
                                          "c"));
 }
 
-TEST(MessageTextTest, LongTextsAreCut)
+TEST(InQuotesTest, LongTextsAreCut)
 {
     const std::string fits(kMostQuoted, 'x');
 
@@ -25,7 +25,7 @@ TEST(MessageTextTest, LongTextsAreCut)
     EXPECT_EQ("\"" + fits + "...\"", inQuotes(fits + "y"));
 }
 
-TEST(MessageTextTest, BrokenCharactersAreReplaced)
+TEST(InQuotesTest, BrokenCharactersAreReplaced)
 {
     EXPECT_EQ("\"\xEF\xBF\xBD\"", inQuotes("\xC3"));
 }

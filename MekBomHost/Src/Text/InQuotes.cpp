@@ -1,4 +1,6 @@
-#include "MessageText.h"
+// The text may be anything, a whole file in one cell among it, so it is read character by character and no further than
+// it is shown: of "a", ESC, "[2J", which would clear the screen, remains "a?[2J".
+#include "InQuotes.h"
 
 #include "Utf8.h"
 
