@@ -55,6 +55,56 @@ private:
     bool m_hasOperators = false;
 };
 
+// Reads zero-terminated formulas of several statements, gives up at an operand that begins with "x", and at every '='
+// unless told otherwise. Counts what it is asked, and writes down what waits: "+*|" for a '*' upon a '+'.
+class Counter
+{
+public:
+    struct Left
+    {
+    };
+    static constexpr bool kTakesOddStatements = false;
+    static constexpr bool kIsTraced = true;
+
+    int numOperands = 0;
+    int numCombined = 0;
+    int numAssigned = 0;
+    bool mayAssign = false;
+    std::wstring waited;
+
+    VorFormulaCharacters::eKind kindAt(const wchar_t* pText) const
+    {
+        return VorFormulaCharacters::kKindsInFormula[*pText];
+    }
+    const wchar_t* readOperand(const wchar_t* pText, VorFormulaCharacters::eKind)
+    {
+        ++numOperands;
+        if (*pText == L'x')
+            return nullptr;
+        while (!VorFormulaCharacters::kOperandEnds.holds(*pText))
+            ++pText;
+        return pText;
+    }
+    void addNothing() {}
+    Left left(const wchar_t*) const { return {}; }
+    void combine(const VorWaitingOperator<Left>&) { ++numCombined; }
+    bool canAssign(const wchar_t*) const { return mayAssign; }
+    void assign(const VorWaitingOperator<Left>&) { ++numAssigned; }
+    void trace(const VorOperatorStack<Left>& waiting)
+    {
+        for (std::size_t i = 1; i < waiting.size(); ++i) // no operator stands at the bottom
+            waited += waiting[i].character;
+        waited += L'|';
+    }
+};
+
+// Where the statement ends, or null.
+const wchar_t* readBy(Counter& counter, const wchar_t* statement)
+{
+    VorOperatorStack<Counter::Left>::Room room;
+    return VorStatementReader<Counter>(counter, room).read(statement);
+}
+
 struct Case
 {
     const wchar_t* statement;
@@ -113,4 +163,67 @@ TEST(VorStatementReaderTest, ItKnowsWhetherThereWasAnOperator)
         EXPECT_TRUE(Listener<true>(statement).hasOperators()) << statement;
     for (const wchar_t* statement : { L"", L" ", L"12", L"my length" })
         EXPECT_FALSE(Listener<true>(statement).hasOperators()) << statement;
+}
+
+TEST(VorStatementReaderTest, StatementsAreReadOneAfterTheOther)
+{
+    Counter counter;
+    counter.mayAssign = true;
+    VorOperatorStack<Counter::Left>::Room room;
+    VorStatementReader<Counter> reader(counter, room);
+
+    const wchar_t* pEnd = reader.read(L"7;a=1+2;3*(4-5)");
+    ASSERT_STREQ(L";a=1+2;3*(4-5)", pEnd);
+    EXPECT_FALSE(reader.hasOperators());
+    pEnd = reader.read(pEnd + 1);
+    ASSERT_STREQ(L";3*(4-5)", pEnd);
+    pEnd = reader.read(pEnd + 1);
+
+    EXPECT_STREQ(L"", pEnd);
+    EXPECT_TRUE(reader.hasOperators());
+    EXPECT_EQ(7, counter.numOperands);
+    EXPECT_EQ(3, counter.numCombined);
+    EXPECT_EQ(1, counter.numAssigned);
+}
+
+TEST(VorStatementReaderTest, AClientThatHasGivenUpIsAskedNothingMore)
+{
+    Counter atOperand;
+    EXPECT_EQ(nullptr, readBy(atOperand, L"1+x*2+3"));
+    EXPECT_EQ(2, atOperand.numOperands);
+    EXPECT_EQ(0, atOperand.numCombined);
+
+    Counter atAssignment;
+    EXPECT_EQ(nullptr, readBy(atAssignment, L"1+a=2"));
+    EXPECT_EQ(2, atAssignment.numOperands);
+    EXPECT_EQ(0, atAssignment.numCombined);
+    EXPECT_EQ(0, atAssignment.numAssigned);
+}
+
+TEST(VorStatementReaderTest, OperatorsMayWaitInAnyNumber)
+{
+    constexpr int kDeep = 1000; // far beyond the room they have at first
+    std::wstring formula;
+    for (int i = 0; i < kDeep; ++i)
+        formula += L"1+(";
+    formula += L"1" + std::wstring(kDeep, L')');
+    Counter counter;
+
+    EXPECT_NE(nullptr, readBy(counter, formula.c_str()));
+    EXPECT_EQ(kDeep + 1, counter.numOperands);
+    EXPECT_EQ(kDeep, counter.numCombined);
+}
+
+TEST(VorStatementReaderTest, WhatWaitsIsTracedBeforeAndAfterCombining)
+{
+    const wchar_t* const kTraces[][2] = {
+        { L"7", L"||" },       { L"2*3+4", L"*||+||" },     { L"2+3*4", L"+*||" },
+        { L"(1)", L"(||)||" }, { L"2*(3+a)", L"*(+||)||" }, { L"(1+2", L"(+|(+|" }
+    }; // not balanced: nothing is combined
+    for (const auto& [statement, waited] : kTraces)
+    {
+        Counter counter;
+        readBy(counter, statement);
+        EXPECT_EQ(waited, counter.waited) << statement;
+    }
 }
