@@ -2,10 +2,10 @@
 //
 //   variables.announce(names, values, 2);             // a = 2, b = 3
 //   VorFormulaOperands operands(variables);
-//   operands.read(L"b * 2", value)   ->  "* 2", value 3
-//   operands.read(L"2", value)       ->  "", value 2
-//   operands.read(L"c+1", value)     ->  null: nothing is known of c
-//   operands.read(L"(2)", value)     ->  null: no operand begins there
+//   operands.read(L"b * 2", VorFormulaCharacters::kName, value)          ->  "* 2", value 3
+//   operands.read(L"2", VorFormulaCharacters::kDigit, value)             ->  "", value 2
+//   operands.read(L"c+1", VorFormulaCharacters::kName, value)            ->  null: nothing is known of c
+//   operands.read(L"(2)", VorFormulaCharacters::kParenthesis, value)     ->  null: no operand begins there
 //
 // Owns nothing. Makes no variable, but announces those that are assigned.
 #pragma once
