@@ -581,7 +581,7 @@ TEST(VorBomTemplateTest, DefaultTokensWithoutUnitAreRegistered)
 
 TEST(VorBomTemplateTest, ReferenceToSortingTokensOutlivesASecondSearch)
 {
-    BomTree<VorBomTemplate> bomTemplate;
+    VorBomTemplate bomTemplate;
     Item* pGroup = newSection(Item::kGroupHeader, { tuple(L"%SortAscBy:%A", L"") });
     bomTemplate.addChild(pGroup);
     bomTemplate.findUsedTokens();
