@@ -138,7 +138,7 @@ function(mek_add_header_examples target)
         return()
     endif()
     file(GLOB_RECURSE headers CONFIGURE_DEPENDS Src/*.h Exp/*.h)
-    file(GLOB given CONFIGURE_DEPENDS Test/Given/*.inc)
+    file(GLOB_RECURSE given CONFIGURE_DEPENDS Test/Given/*.inc)
     set(script ${PROJECT_SOURCE_DIR}/Scripts/extract_examples.py)
     set(source ${CMAKE_CURRENT_BINARY_DIR}/${target}.cpp)
     add_custom_command(OUTPUT ${source}

@@ -9,7 +9,7 @@ An example is an indented block of a comment that holds a statement or a line "e
     //   weight.asString()  ->  "12.5"          what follows an arrow, or a statement and two blanks, is prose
 
 Each becomes the body of a function. What the examples of VorBomDataRow.h take as given stands in VorBomDataRow.inc in
-the folder GIVEN, which may lack it: declarations that come before each of them; what starts with #include, namespace,
+the folder GIVEN or a folder in it, which may lack it: declarations that come before each of them; what starts with #include, namespace,
 struct, class, template or using in the first column comes before all of them.
 """
 
@@ -73,8 +73,8 @@ def examples_of(header):
 def given_for(header, folder):
     """Three lists of lines: includes, what comes before all examples, what comes before each."""
     includes, before_all, before_each, depth = [], [], [], 0
-    path = pathlib.Path(folder) / (pathlib.Path(header).stem + ".inc")
-    for line in path.read_text(encoding="utf-8").split("\n") if path.exists() else []:
+    path = next(pathlib.Path(folder).rglob(pathlib.Path(header).stem + ".inc"), None)
+    for line in path.read_text(encoding="utf-8").split("\n") if path else []:
         if line.startswith("#include"):
             includes.append(line)
         elif depth > 0 or BEFORE_ALL.match(line) or before_all[-1:] and not before_all[-1].rstrip().endswith((";", "}")):
