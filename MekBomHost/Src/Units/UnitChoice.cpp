@@ -69,7 +69,7 @@ VorUnitsManager withChoices(VorUnitsManager units, const Choices& choices)
     for (const auto& [kind, unit] : choices)
         if (std::optional<Finding> finding = choose(units, kind, unit))
         {
-            finding->source = "--unit " + kind + "=" + unit;
+            finding->source = std::string("--unit ").append(kind).append("=").append(unit);
             throw Fault(kWrongUsage, *finding);
         }
     return units;
