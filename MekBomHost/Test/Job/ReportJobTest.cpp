@@ -219,14 +219,15 @@ TEST(ReportJobTest, ANoteLetsTheReportBeMade)
 
 TEST(ReportJobTest, OfTheCandidatesTheOneIsTakenThatSuitsTheParts)
 {
-    const auto request = []
+    const auto listOf = [](const std::string& token)
+    { return "{ \"sections\": [ { \"type\": \"kDetails\", \"tuples\": [ { \"token\": \"" + token + "\" } ] } ] }"; };
+    const std::string lists[] = { listOf("%Name"), listOf("%BoltName"), listOf("%Role") };
+    const auto request = [&lists]
     {
         ReportRequest choice;
         choice.pParts = text("parts.csv", "%BoltName\nM16\n");
-        for (const std::string token : { "%Name", "%BoltName", "%Role" })
-            choice.candidates.push_back(text(token, "{ \"sections\": [ { \"type\": \"kDetails\", \"tuples\": [ { "
-                                                    "\"token\": \"" +
-                                                        token + "\" } ] } ] }"));
+        for (const std::string& list : lists)
+            choice.candidates.push_back(text("list.json", list));
         return choice;
     };
 
