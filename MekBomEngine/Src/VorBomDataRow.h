@@ -35,6 +35,7 @@ public:
     ~VorBomDataRow() override;
 
     // The handle, in the model, of the object described.
+    // Any text; empty until it is set. The engine reports it and looks for nothing by it.
     const VorString& objectHandle() const { return m_objectHandle; }
     void setObjectHandle(const VorString& handle) { m_objectHandle = handle; }
 
@@ -44,6 +45,8 @@ public:
     void setEqualPartObjectHandles(const VorStringArray& handles);
 
     // 1 at first; 0 takes the row out of sums and of the template's report of used data.
+    // Any number but 0 counts. Not only hosts set it: a row whose line was merged into an equal one has 0 after the
+    // report.
     int getUseThisDataForSums() const { return m_nUseThisDataForSums; }
     void setUseThisDataForSums(int use) { m_nUseThisDataForSums = use; }
 

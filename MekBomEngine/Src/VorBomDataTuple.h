@@ -6,6 +6,18 @@
 //
 // Owns both; copies are independent. Kept small, since a large model has tens of millions of them: 24 bytes
 // where a derived class may use what its base leaves over, 32 bytes elsewhere.
+//
+// What the value means depends on whose tuple it is. In a row it is the datum: a number in the model's internal units
+// (millimetre, kilogram, radian and what follows from them) or a text. In a section of a template it is what the
+// column shows, or a total starts from, until a row brings something. In an evaluated section it is the number that
+// was found, summed or computed, and after that section was shown the text that the report shows.
+//
+// Tokens are texts that share their characters when they are copied. Rows whose equal tokens are copies of one
+// VorString are looked up fastest, and only they are recognised as rows of one layout: whoever makes a million rows
+// should make each token once and hand it to all of them.
+//
+// Nothing here reports anything of its own or fails, but for std::bad_alloc where the system has no memory left. One
+// tuple is for one thread at a time; copies may go to others.
 #pragma once
 
 #include "VorBomDataToken.h"
@@ -21,6 +33,9 @@ class MEK_BOM_API VorBomDataTuple
 {
 public:
     VorBomDataTuple() = default; // empty token, empty value
+    // The token is kept as given: it need not begin with "%", and neither its kind in the catalogue nor that of the
+    // value is looked at. An int under a token whose data are doubles stays an int, and comparing it with a double is
+    // reported later.
     VorBomDataTuple(const VorString& token, int value) : m_token(token), m_value(value) {}
     VorBomDataTuple(const VorString& token, double value) : m_token(token), m_value(value) {}
     VorBomDataTuple(const VorString& token, const VorString& value) : m_token(token), m_value(value) {}
@@ -30,6 +45,7 @@ public:
     VorBomDataTuple(const VorString& token, VorBomDataValue&& value) : m_token(token), m_value(std::move(value)) {}
 
     // Takes an int, a double or a VorString, whose payload comes into one of `cells`.
+    // The cells are not kept: they may go before the tuple does.
     template <class Value>
     VorBomDataTuple(const VorString& token, const Value& value, VorBomPayloadCells& cells)
         : m_token(token), m_value(value, cells)
@@ -37,6 +53,7 @@ public:
     }
 
     // Takes a copy of a value of any kind, whose payload comes into one of `cells`, and a used flag.
+    // For copies of a template's columns, which bring their flag along.
     VorBomDataTuple(const VorString& token, const VorBomDataValue& value, VorBomPayloadCells& cells, int used)
         : m_token(token), m_value(value, cells)
     {
@@ -54,11 +71,15 @@ public:
     ~VorBomDataTuple() = default;
 
     // The references live as long as the tuple. Only an assignment replaces the token.
+    // Values are changed in place, through value().set(): what reports do to every number that they show.
     const VorBomDataToken& token() const { return m_token; }
     const VorBomDataValue& value() const { return m_value; }
     VorBomDataValue& value() { return m_value; }
 
     // Orders what two rows carry under one token: as VorBomDataValue::compare; a datum after none, and 0 for none twice.
+    // Neither is owned. For grouping, for sorting and for VorBomDataRow::compare, so that the three cannot come to
+    // differ. Reports what VorBomDataValue::compare reports: unlike kinds, which are less both ways round, and two
+    // empty values.
     static int compareValues(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
     {
         if (pFirst != nullptr && pSecond != nullptr)
@@ -67,11 +88,15 @@ public:
     }
 
     // 1 when the report uses this datum. The evaluation sets it on what it copies from rows into sections.
+    // 0 at first. Any number is kept, but only 1 counts where used data are asked for. Nothing in the engine resets
+    // the flag: rows of an earlier report keep their marks.
     int used() const { return m_value.nUsed; }
     void setUsed(int used) { m_value.nUsed = used; }
 
 private:
     // The flag stands in the last bytes of the value, which the value itself has no use for.
+    // A class of its own is needed for that: a member of a derived class may lie in the bytes by which its base is
+    // padded, a member beside a member may not.
     struct MarkedValue : VorBomDataValue
     {
         using VorBomDataValue::VorBomDataValue;

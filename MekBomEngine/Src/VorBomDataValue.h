@@ -15,6 +15,17 @@
 //   2. The payload is a block of its own, owned by this value and shared with no other; copies are independent.
 //   3. Values of different kinds are never converted to each other.
 //
+// Units: numbers are in the model's internal units, millimetre, kilogram, radian and what follows from them, or have
+// no unit at all. A value does not know which; its token does, and VorBomTemplateUnits turns one into the text of the
+// other.
+//
+// Memory: a value is a pointer and a kind, and its payload lies in a cell of VorBomPayloadCells. Once it has a cell, a
+// value keeps it through every set(), whatever the kind. Where the system has no memory left, std::bad_alloc passes
+// through: a value under construction then does not come to be, and one that is being set stays empty if it was empty.
+//
+// Threads: one value is for one thread at a time. Copies may go to other threads, also those of texts, which share
+// their characters; a value may be destroyed on another thread than the one that made it.
+//
 // Misuse is reported as "false" from "MekBomEngine/Src/VorBomDataValue" and survived with the answers stated below.
 #pragma once
 
@@ -38,6 +49,7 @@ public:
         kStringData = 3   // one VorString
     };
 
+    // An empty value takes no memory. The others copy what they are given; a text is copied by sharing its characters.
     VorBomDataValue() noexcept = default;
     VorBomDataValue(int value) { create<int>(VorBomPayloadCells::takeOne(), kIntData, value); }
     VorBomDataValue(double value) { create<double>(VorBomPayloadCells::takeOne(), kDoubleData, value); }
@@ -47,6 +59,7 @@ public:
     VorBomDataValue(const VorBomDataValue& other) { copy(other, VorBomPayloadCells::takeOne); }
 
     // Make the same values with payloads in `cells`.
+    // The cells need not outlive the value: each belongs to the value from then on, which gives it back by itself.
     VorBomDataValue(int value, VorBomPayloadCells& cells) { create<int>(cells.take(), kIntData, value); }
     VorBomDataValue(double value, VorBomPayloadCells& cells) { create<double>(cells.take(), kDoubleData, value); }
     VorBomDataValue(const VorString& value, VorBomPayloadCells& cells)
@@ -82,6 +95,9 @@ public:
     }
 
     // Replace payload and type. The text may be this value's own.
+    // A pointer that data() gave earlier is not to be used after a change of kind, although the cell is the same one:
+    // what lies in it is another type. A value of a corrupt type is reported, its payload left where it is, and a new
+    // cell taken.
     void set(int value);
     void set(double value)
     {
@@ -101,11 +117,16 @@ public:
 
     // The payload, to be cast by type(): int*, double* or VorString*; null for an empty value. It lives until this value
     // changes.
+    // Owned by this value and never to be freed by the caller. What is written through the pointer must be of the kind
+    // that type() names; the value does not notice anything else.
     void* data() const { return m_pData; }
     eBomDataValueType type() const { return m_nType; }
 
     // Sign of this minus other. Doubles closer than 1e-6 are equal, whatever their size, and so is a NaN and anything;
     // texts compare as VorString::compare says. Reports and answers -1 for unlike kinds, 0 for two empty values.
+    // Unlike kinds are less both ways round, so a list of mixed kinds has no order: whoever sorts must end, and keep
+    // every element, whatever the answers are (vorStableMergeSort). Nor are close doubles a proper order: of 0, 0.8e-6
+    // and 1.6e-6 each neighbour is equal to the next, but the first is less than the last.
     int compare(const VorBomDataValue& other) const
     {
         const bool isSameText = m_nType == kStringData && other.m_nType == kStringData &&
@@ -114,13 +135,17 @@ public:
     }
 
     // Compares two numbers as compare() does two values that hold them.
+    // Here, so that what ranks whole columns (VorBomRanks) and what compares two values cannot come to differ.
     static int compareDoubles(double first, double second);
 
     // Natural order of two texts, "B2" before "B10", as VorString::compareWithNumbers says. Reports and answers -1 for
     // unlike kinds, 0 for two numbers or two empty values.
+    // For tokens whose sort type is VorBomDataToken::kSortAlphanumeric. Numbers are reported since
+    // natural order is about the digits within a text.
     int compareAlphanumeric(const VorBomDataValue& other) const;
 
     // "%d" of an int, "%g" of a double, the text itself, nothing for an empty value. Units are not applied here.
+    // What list() shows. In a report doubles read otherwise: VorBomTemplateUnits::getDisplayString makes their texts.
     VorString asString() const;
 
 protected:
@@ -128,15 +153,23 @@ protected:
     void empty();
 
 private:
+    // Tests make values of corrupt types through it.
     friend struct VorBomDataValueAccess;
 
+    // Each reads the payload as one kind: only after type() was asked, and never of an empty value.
     int intValue() const { return *static_cast<const int*>(m_pData); }
     double doubleValue() const { return *static_cast<const double*>(m_pData); }
     const VorString& textValue() const { return *static_cast<const VorString*>(m_pData); }
+    // compare() without its way out for a shared text, with all that may be reported.
     int compareAnew(const VorBomDataValue& other) const;
+    // Swaps payloads and kinds; nothing is copied.
     void exchange(VorBomDataValue& other) noexcept;
+    // set() for any kind of present payload, an empty or corrupt one too.
     void replaceBy(double value);
     void replaceBy(VorString&& value);
+    // The one ends the payload's life and leaves its cell, the other answers a cell without a living payload. Between
+    // freeCell() and the payload that is then made in it the type is out of date: nothing that may throw may stand
+    // there.
     void endPayload();
     void* freeCell();
 
@@ -144,6 +177,7 @@ private:
                   "a value keeps its cell when its kind changes");
 
     // Give a value that is empty its payload.
+    // create() also replaces a number, whose life needs no ending; it would leak a text.
     template <class Payload, class Value>
     void create(void* pCell, eBomDataValueType type, Value&& value)
     {

@@ -5,6 +5,17 @@
 //   level 2   details                          the row just being placed
 //
 // Owns none of the sections and rows it points to. Copies are field by field and share the plan.
+//
+// The levels of a template form an array, outermost first: the stack that the steps of an evaluation are handed. One
+// row passes through all of them in that order. A group is taken after those within it, which stand later in the array.
+//
+// Invariants between two rows:
+//   1. m_dataRows is empty exactly where no group is open; on the deepest level it always is.
+//   2. m_pEvaluatedHeader and m_pEvaluatedFooter are null on the deepest level: its line was taken.
+//   3. No level has an evaluated footer: it is made when a group closes and taken with it.
+//
+// The array is made for one evaluation and is used by its thread alone. Sections that were evaluated and not yet taken
+// are destroyed by the evaluation when it ends early, not by this class.
 #pragma once
 
 #include "VorBomDataRow.h"

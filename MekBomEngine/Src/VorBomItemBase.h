@@ -13,6 +13,15 @@
 // their source, so only one of the two may be emptied. Everything that is hung in a tree to be emptied must come from
 // `new`.
 //
+// Rows hang among rows and sections among sections: who walks a tree casts what it meets to the kind of its root,
+// unasked.
+//
+// Errors: what misuse is reported is named below; everything else asks its caller to keep the rules and checks
+// nothing. Null is a link like any other where it is not excluded. std::bad_alloc passes through where the system has
+// no memory.
+//
+// Threads: one tree is for one thread at a time. Trees that share no items, nor children by copying, are independent.
+//
 // Trees of any depth and width are fine: nothing here recurses.
 #pragma once
 
@@ -37,6 +46,8 @@ public:
     virtual ~VorBomItemBase() = default;
 
     // Items come from the pool that tuples and texts come from.
+    // The size is needed to give a block back to the pool, and the language hands it to operator delete only where the
+    // most derived class is known, which the virtual destructor sees to.
     static void* operator new(std::size_t size) { return VorMemoryControllerController::allocateArray(1, size); }
     static void operator delete(void* pItem, std::size_t size)
     {
@@ -58,6 +69,7 @@ public:
     virtual int list(VorString& out, int level, int withChildren, int withNext);
 
     // The links, each null at its end. Setting one neither destroys nor unhangs what it named before.
+    // None is owned. lastChild() is what addChild() goes on from, and not always the last of the chain: see there.
     VorBomItemBase* next() const { return m_pNext; }
     VorBomItemBase* child() const { return m_pChild; }
     VorBomItemBase* lastChild() const { return m_pLastChild; }

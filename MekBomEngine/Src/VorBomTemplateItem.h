@@ -17,8 +17,17 @@
 // Children of a section are sections and nothing else. Ownership and copying are those
 // of VorBomItemBase.
 //
+// Whether a section opens or closes a level is told by where it stands, not by its type; siblings after the one that
+// closes it are not evaluated. The type decides the rest: only lines of kDetails are merged with an equal line before,
+// and only nested kGroupHeader sections are searched by the find operations. Page headers and footers are carried for hosts that lay out pages; the engine gives them no meaning.
+//
 // What the tuples ask for is cached, and the evaluation reads the caches as they stand: they are filled by the find
 // operations, for a whole template by VorBomTemplate::findUsedTokens, which the host calls once the sections are built.
+// findUsedTokens fills what groups and sorts. What filters (filterObjTypes) is filled by findFilterObjTypes alone, and
+// the engine filters nothing by it: that is the host's to do, before it makes rows.
+//
+// A section is for one thread at a time, with one exception: the three caches of a finished report's sections may be
+// asked for by several threads at once, and so may the same section be.
 #pragma once
 
 #include "VorBomDataRow.h"
@@ -48,6 +57,7 @@ public:
         kReportFooter = 8
     };
 
+    // A section has no tuples, no children and empty caches until it is given some.
     VorBomTemplateItem() = default; // of type kUnkTemplateItemType
     explicit VorBomTemplateItem(eTemplateItemType type) : m_nType(type) {}
 
@@ -59,6 +69,8 @@ public:
     VorBomTemplateItem(const VorBomTemplateItem& other, eCopyPart);
 
     // Copies share the children and the first data row; caches and tuples are copied.
+    // Assigning fills the target's own caches in place: references handed out by it show the new content. Only one of
+    // two sections that share children may be emptied.
     VorBomTemplateItem(const VorBomTemplateItem& other);
     VorBomTemplateItem& operator=(const VorBomTemplateItem& other);
     ~VorBomTemplateItem() override = default;
@@ -70,10 +82,14 @@ public:
     void setType(eTemplateItemType type);
 
     // The first child, not grandchild, of that type; null when there is none.
+    // Not owned by the caller; it lives as long as it hangs here. The time it takes grows with the number of children.
     VorBomTemplateItem* getSubItemAt(eTemplateItemType type) const;
 
     // Fill this section's cache anew with what its tuples ask for, repeated requests repeatedly, then do the same for
     // the first child of type kGroupHeader, and so on down; other children are left alone. Return 1.
+    // To be called after the tuples were added and again when they change: addData() and setData() leave the caches as
+    // they are. What a request is, VorBomDataToken tells; tuples that ask for nothing are passed over. Nothing is
+    // reported.
     int findGroupingTokens();
     int findSortingTokens();
     int findFilterObjTypes();
@@ -84,6 +100,9 @@ public:
     const VorArray<int>& filterObjTypes() const { return requests().filterObjTypes; }
 
     // The first row placed in an evaluated section. Not owned, may be null.
+    // The evaluation sets it to the row that opened the group, by whose data evaluated sections are sorted and from
+    // which on used data are reported. So the rows must live as long as either is still to be asked; sections of a
+    // template have none.
     VorBomDataRow* getFirstDataRow() const { return m_pFirstDataRow; }
     void setFirstDataRow(VorBomDataRow* pRow) { m_pFirstDataRow = pRow; }
 
@@ -105,6 +124,9 @@ private:
         std::shared_ptr<Requests> pForCopies; // the same, for sections that are made from this one; null when all empty
     };
 
+    // Asking is what makes a section's requests its own; whoever only copies goes through requestsForCopies(), which
+    // does not. The flag is read without a lock, as everybody asks who evaluates; the lock is taken the first time
+    // alone.
     const Requests& requests() const { return ownRequests(); }
     Requests& ownRequests() const
     {
@@ -116,6 +138,7 @@ private:
     std::shared_ptr<Requests> requestsForCopies() const;
     static void renewForCopies(Requests& own);
 
+    // This section's cache alone, without those of the groups within it.
     void findOwnGroupingTokens();
     void findOwnSortingTokens();
     void findOwnFilterObjTypes();

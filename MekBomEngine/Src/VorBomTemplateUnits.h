@@ -7,6 +7,11 @@
 //
 // Values are in the model's internal units: millimetre, kilogram, radian and what follows from them. Tokens are compared
 // exactly, case included. Copies are independent.
+//
+// Nothing here fails or reports: a token that nobody registered is shown without unit, and a type that means nothing
+// as empty text. One object is for one thread at a time; evaluations that run at once have one each, as templates do.
+// The evaluation of a report registers the formulas that it shows, so an object that served one knows more tokens than
+// before.
 #pragma once
 
 #include "MekRoots/Exp/MEKUnit.h"
@@ -53,6 +58,8 @@ public:
     //   "C40_SuppressZeroFeet"              1 shows 0'-6" as 6"
     //   "C40_SuppressZeroInch"              1 shows 7'-0" as 7'
     //   "C40_ShowMinusBetweenFeetAndInch"   nonzero shows 7'-6", 0 shows 7' 6"
+    // The units are copied: the manager is not owned and may change or go afterwards. Texts that were shown before
+    // stay what they are; what is shown from now on is in the new units. Registered tokens keep their types.
     void setUnits(const VorUnitsManager* pManager);
 
     // Replaces the display settings, for a report that has its own: what the repository holds counts no more, until
@@ -66,6 +73,8 @@ public:
                             int showMinusBetweenFeetAndInch);
 
     // Registers `token`. The first registration wins: a token that has a type keeps it.
+    // That holds for kNoUnit, too: registered as having no unit, a token never gets one, not even a formula from its
+    // tokens. The type is stored as given, also one that is none of the nine, which is shown as empty text then.
     void AddTokenType(VorString token, eTokenUnitType type);
 
     // The registered type; kNoUnit for a token that is not registered.

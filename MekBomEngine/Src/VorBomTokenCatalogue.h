@@ -6,6 +6,13 @@
 //
 // Answers without reporting anything, for callers to whom an unknown token is no mistake; VorBomDataToken::getTokenType
 // reports. The table never changes and may be read by several threads. A new token is one line in the .cpp.
+//
+// The whole token is compared, case included. Prefixes of the report language are the caller's to strip:
+// "%SumBy:%Weight" is not found although "%Weight" is, and formulas are not in the table at all. What the catalogue
+// says of a kind is what templates may rely on; it does not make anybody convert a value that is of another kind.
+//
+// A look-up passes over some hundred entries, so whoever asks for every row asks once and keeps the pointer. Entries
+// are constants of the program: pointers to them hold as long as it runs, are owned by nobody and never to be deleted.
 #pragma once
 
 #include "VorBomDataToken.h"
@@ -23,6 +30,7 @@ public:
     struct Entry
     {
         // Takes the length from the literal.
+        // Entries are made by the table alone, when the program is compiled; nothing runs at its start.
         template <std::size_t N>
         constexpr Entry(const wchar_t (&entryName)[N], VorBomDataValue::eBomDataValueType valueType,
                         VorBomDataToken::eSortType entrySort, bool entryIsPrefix = false)
@@ -37,6 +45,8 @@ public:
         // Whether `token` is this one, or starts with its name where that stands for all that do.
         bool matches(const VorString& token) const;
 
+        // Ends with a zero. One entry, "%%PaintMeter", is none that VorBomDataToken::isToken would call a token, on
+        // purpose: data carry it so.
         const wchar_t* name;
         int length; // of the name, in characters
         VorBomDataValue::eBomDataValueType type;
@@ -45,6 +55,8 @@ public:
     };
 
     // The first entry that matches the whole token, its prefix not stripped; null when there is none. Case counts.
+    // A prefix entry matches its own name as well: "%UserAttr" alone is found like "%UserAttr7". No two entries match
+    // one token with different answers, so their order matters to nobody but a reader.
     static const Entry* find(const VorString& token);
 
     // The table as a half-open range: tokens of texts, then of whole numbers, then of numbers.

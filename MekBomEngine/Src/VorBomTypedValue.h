@@ -5,6 +5,9 @@
 //   %Quantity 3, shown as "3"                  ->   kIntData, 3.0, kNoUnit: whole numbers take no units
 //   %Name "HEA200"                             ->   kStringData; the text is the one that is shown
 //   a token without value                      ->   kUnknownData; nothing is shown
+//
+// Handed to a sink that asks for typed values, one for each tuple of a section and in their order. It owns nothing and
+// is as good when copied; numbers have not been rounded for display, though results of formulas have six decimals.
 #pragma once
 
 #include "VorBomDataValue.h"

@@ -5,6 +5,10 @@
 //   pair.m_pFooterItem = pFooter;
 //
 // Neither section is owned, and copies are as good as their source.
+//
+// Only the header takes part in comparing: a pair stands where the data of the row that opened its header put it.
+// Lists of pairs move them byte by byte, which the two plain pointers allow; a member with a copy constructor of its
+// own would not.
 #pragma once
 
 #include "VorBomTemplateItem.h"
@@ -15,6 +19,7 @@
 class MEK_BOM_API VorHeaderFooterSortingStruct
 {
 public:
+    // Null only in a pair that was not filled yet.
     VorBomTemplateItem* m_pHeaderItem = nullptr;
     VorBomTemplateItem* m_pFooterItem = nullptr; // null when no footer follows
 };

@@ -4,7 +4,7 @@
 //   section            %Name "", %Weight 0.0, "%Formula:%Weight*2" ""     row  %Weight 2.5, %Name HEA200
 //   process            %Name HEA200, %Weight 2.5, "%Formula:%Weight*2" ""
 //   computeFormulas    the same with 5.0 under the formula, which the row carries then, too
-//   showInUnits        texts in the units of the report
+//   display().show     texts in the units of the report
 //
 // A plan serves rows of any layout, but one evaluation and one thread only.
 #pragma once
