@@ -30,6 +30,7 @@ std::uint32_t VorBomDistinctTexts::indexOf(const VorString& text)
 
 std::uint32_t VorBomDistinctTexts::findOrAdd(const VorString& text)
 {
+    // Slots keep the hash: texts are compared only where hashes agree, and grow() hashes nothing again.
     const std::uint32_t hash = hashOf(text);
     std::size_t i = hash % m_slots.size();
     for (; m_slots[i].number != kNone; i = (i + 1) % m_slots.size())

@@ -76,6 +76,7 @@ struct NumberOfRow
     std::uint32_t row;
 };
 
+// The smallest int becomes 0. The upper four bytes of every key are 0, so that sorting passes over them.
 std::uint64_t sortKey(int number)
 {
     return static_cast<std::uint64_t>(static_cast<std::int64_t>(number) - std::numeric_limits<int>::min());
@@ -98,6 +99,7 @@ using NumbersOfRows = std::vector<NumberOfRow<Number>>;
 template <class Number>
 void sortByKeys(NumbersOfRows<Number>& numbers)
 {
+    // All bytes are counted in one pass over the numbers: how often a byte occurs does not depend on their order.
     constexpr std::size_t kNumBytes = sizeof(std::uint64_t);
     std::array<std::array<std::size_t, 256>, kNumBytes> places = {};
     for (const NumberOfRow<Number>& entry : numbers)
@@ -113,6 +115,7 @@ void sortByKeys(NumbersOfRows<Number>& numbers)
         std::array<std::size_t, 256>& place = places[byte];
         if (numbers.empty() || place[valueOf(numbers.front())] == numbers.size())
             continue;
+        // Counts 2, 0, 3 become the first places 0, 2, 2.
         std::size_t begin = 0;
         for (std::size_t& count : place)
             begin += std::exchange(count, begin);
@@ -154,6 +157,7 @@ bool compareAsTheyAreSorted(const NumbersOfRows<Number>& numbers)
 
 int VorBomRanks::create(const std::vector<const VorBomDataTuple*>& tuples, VorBomDataToken::eSortType sortType)
 {
+    // Rank 0 is there even where every row has the datum, and no row has it then.
     m_nNumRanks = 1;
     if (std::all_of(tuples.begin(), tuples.end(), isMissing))
     {
@@ -161,6 +165,7 @@ int VorBomRanks::create(const std::vector<const VorBomDataTuple*>& tuples, VorBo
         return 1;
     }
     const bool isNatural = sortType == VorBomDataToken::kSortAlphanumeric;
+    // Numbers in natural order, and values of several kinds, are what comparing reports; ranking them would hide it.
     switch (commonType(tuples))
     {
         case VorBomDataValue::kStringData: return rankTexts(tuples, isNatural);
@@ -173,6 +178,7 @@ int VorBomRanks::create(const std::vector<const VorBomDataTuple*>& tuples, VorBo
 // Counts how many rows have each rank, then puts the rows in their places, from the first on.
 void VorBomRanks::sortStably(std::vector<std::uint32_t>& rows, bool isAscending) const
 {
+    // Descending mirrors the ranks instead of reversing the rows, which would turn round rows of equal rank, too.
     const auto placeOf = [&](std::uint32_t row) { return isAscending ? m_ranks[row] : m_nNumRanks - 1 - m_ranks[row]; };
     std::vector<std::uint32_t> next(m_nNumRanks + 1);
     for (const std::uint32_t row : rows)
@@ -189,6 +195,7 @@ void VorBomRanks::sortStably(std::vector<std::uint32_t>& rows, bool isAscending)
 // Equal texts are found by their characters first: a column has far fewer texts than rows, and only those are compared.
 int VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bool naturally)
 {
+    // Until the ranks are known m_ranks holds the number of each row's text.
     VorBomDistinctTexts distinct;
     m_ranks.assign(tuples.size(), 0);
     for (std::size_t row = 0; row < tuples.size(); ++row)

@@ -8,6 +8,7 @@ VorBomSortKeys::VorBomSortKeys(const VorStringArray& tokens, const VorArray<int>
 
 int VorBomSortKeys::Key::compare(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
 {
+    // Descending turns the place of a missing datum round as well.
     const int order = compareValues(pFirst, pSecond);
     return isAscending ? order : -order;
 }

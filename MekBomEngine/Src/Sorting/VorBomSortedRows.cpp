@@ -20,6 +20,7 @@ VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorStringArray& token
         m_rows.push_back(pRow);
     for (Column& column : m_columns)
         column.resize(m_rows.size());
+    // The pointers outlive `columns`: they hold as long as no row gets a tuple, and none does while rows are sorted.
     VorBomColumns columns(std::make_shared<VorBomRowLayouts>(), std::vector<VorString>(tokens.begin(), tokens.end()));
     for (std::size_t row = 0; row < m_rows.size(); ++row)
     {
@@ -46,6 +47,7 @@ std::vector<VorBomItemBase*> VorBomSortedRows::sorted()
 // False with `indices` untouched when a column cannot be ranked, or its token is one that comparing reports as unknown.
 bool VorBomSortedRows::sortByRanks(std::vector<std::uint32_t>& indices) const
 {
+    // All columns are ranked before any sorting, so that giving up leaves nothing half sorted.
     std::vector<VorBomRanks> ranks(m_keys.count());
     for (std::size_t key = 0; key < m_keys.count(); ++key)
     {
