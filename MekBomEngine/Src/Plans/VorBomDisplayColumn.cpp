@@ -44,6 +44,7 @@ VorString VorBomDisplayColumn::textOf(double value, VorBomTemplateUnits& units)
 {
     if (m_nTypesKnown != units.numTokenTypes())
         lookUpType(units);
+    // By its bits and not by comparing: 0.0 and -0.0 are equal but may read differently, and a NaN equals nothing.
     std::uint64_t key = 0;
     static_assert(sizeof key == sizeof value, "the bits of a double tell it from all others");
     std::memcpy(&key, &value, sizeof key);
@@ -60,9 +61,11 @@ void VorBomDisplayColumn::lookUpType(VorBomTemplateUnits& units)
         registerFormulaUnit(units);
     m_type = units.getUnitType(m_name);
     m_texts.clear();
+    // Read last, as registering this formula has raised it.
     m_nTypesKnown = units.numTokenTypes();
 }
 
+// The first of its tokens that has a unit lends it: "%Length*%Weight" is shown as a length.
 void VorBomDisplayColumn::registerFormulaUnit(VorBomTemplateUnits& units) const
 {
     if (units.getUnitType(m_name) != VorBomTemplateUnits::kNoUnit)

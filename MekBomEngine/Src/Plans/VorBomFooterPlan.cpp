@@ -54,6 +54,7 @@ void addToTotal(VorBomDataValue& total, const VorBomDataValue& added)
         setToZeroLike(added, total);
     if (total.type() == VorBomDataValue::kIntData && added.type() == VorBomDataValue::kIntData)
     {
+        // In 64 bits no two ints overflow, and whether the sum fits 32 is seen afterwards.
         const long long sum = static_cast<long long>(intOf(total)) + intOf(added);
         if (sum >= std::numeric_limits<int>::min() && sum <= std::numeric_limits<int>::max())
             total.set(static_cast<int>(sum));
@@ -101,6 +102,7 @@ VorBomFooterPlan::VorBomFooterPlan(const std::shared_ptr<VorBomRowLayouts>& pLay
     beginFooter();
 }
 
+// To be called when the row has passed through all levels: only then do formulas stand in it and is it known to count.
 void VorBomFooterPlan::takeNewRows(const VorBomDataRowPointerArray& rows)
 {
     for (; m_nTakenRows < rows.length(); ++m_nTakenRows)

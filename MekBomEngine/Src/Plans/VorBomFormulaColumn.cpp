@@ -97,6 +97,7 @@ VorBomFormulaColumn::VorBomFormulaColumn(std::shared_ptr<VorBomRowLayouts> pLayo
 int VorBomFormulaColumn::compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result,
                                  VorString* pMessage)
 {
+    // What is traced must be what is computed, so tracing does without the compiled form.
     if (!m_isCompiled || ExpressionsEvaluator::isTraced())
         return computeOnce(tuples, m_nIndex, pRow, result, pMessage);
     if (computeCompiled(tuples, pRow, result))
@@ -161,6 +162,7 @@ std::vector<int> VorBomFormulaColumn::tuplesNamed(const VorString& name, const V
     return indices;
 }
 
+// A text under the name does not end the search: an earlier tuple of that token may have a number.
 int VorBomFormulaColumn::findInSection(std::size_t name, const VorBomDataTupleArray& tuples, double& value) const
 {
     for (const int index : m_tuplesOfName[name])

@@ -1,3 +1,9 @@
+// A key has a set of four places. Told on a column whose numbers are all different:
+//   first text                there are no places yet: 2 sets are made, 128 bytes
+//   fifth text of one set     no place is free: 8 sets, and every entry moves to its new one
+//   more                      32, 128 and 256 sets, the most; from then on a text in a full set replaces another
+//   256 looks                 hardly one has found its text: the places are given up, and later texts not remembered
+// A column that passes its trial is tried again with the next 256 looks.
 #include "VorBomTextMemo.h"
 
 #include <algorithm>
