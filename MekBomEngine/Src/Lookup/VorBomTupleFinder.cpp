@@ -2,6 +2,7 @@
 
 VorBomTupleFinder::VorBomTupleFinder(const VorBomDataTupleArray& tuples, int numTokens) : m_tuples(tuples)
 {
+    // Without a table the cost is the product of the two numbers; while one of them is small, so is that.
     if (numTokens <= kFewTokens || tuples.length() <= kFewTokens)
         return;
     m_indices.emplace();

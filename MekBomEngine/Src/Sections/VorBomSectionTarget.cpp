@@ -2,6 +2,7 @@
 
 namespace
 {
+// A header of a tree may have lines and whole groups in it by now; deleting it alone would leak them.
 void destroy(VorBomTemplateItem*& pSection)
 {
     if (pSection != nullptr)

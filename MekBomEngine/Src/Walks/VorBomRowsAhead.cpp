@@ -61,6 +61,8 @@ void bringInTexts(const VorBomItemBase& row)
 }
 }
 
+// The foremost step stands four rows ahead. The first rows are met with less help or none, which a long list
+// does not feel.
 VorBomRowsAhead::VorBomRowsAhead(VorBomItemBase* pFirst)
 {
     VorBomItemBase* pRow = pFirst;
