@@ -21,6 +21,7 @@ const SampleRow kSampleRows[] = {
     { 1, 123.4, L"Mat1" }, { 2, 200.1, L"Mat2" }, { 3, 300.2, L"Mat3" }, { 4, 400.3, L"Mat4" },
     { 1, 300.2, L"Mat1" }, { 1, 400.3, L"Mat1" }, { 1, 300.2, L"Mat2" }, { 1, 400.3, L"Mat1" },
 };
+// One hundred rows after the fixed ones.
 const int kFirstRandomHandle = 13;
 const int kLastRandomHandle = 112;
 const int kNumChoices = 4; // of each random value

@@ -56,6 +56,8 @@ int getRest(const VorString& text, const VorString& prefix, VorString& rest)
 
 // list = element { "," element }     where an element of no characters and all that follows it are the last element
 //
+//   "%A,%B,,%C" has the elements "%A", "%B" and ",%C": the comma where the third should begin ends the split.
+//
 // Calls `append` for each element of `list` without its blanks.
 template <class Append>
 void splitAtCommas(VorString list, Append append)
@@ -177,6 +179,7 @@ VorStringArray VorBomDataToken::getTokensFromFormula(const VorString& formula)
 
 VorBomDataValue::eBomDataValueType VorBomDataToken::getTokenType(const VorString& token)
 {
+    // The sum of a formula is a formula still, and so a double: the sum's prefix goes first.
     VorString name = token;
     stripPrefix(name, kSumPrefix);
     if (startsWith(name, kFormulaPrefix))

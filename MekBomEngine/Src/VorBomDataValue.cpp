@@ -108,6 +108,7 @@ int VorBomDataValue::compareDoubles(double first, double second)
 {
     if (std::fabs(first - second) < kEqualTolerance)
         return 0;
+    // Two equal infinities come here as well: their difference is a NaN, which is less than nothing.
     if (second > first)
         return -1;
     return first > second ? 1 : 0; // 0 for a NaN, which is neither

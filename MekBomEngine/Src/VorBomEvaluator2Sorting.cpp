@@ -123,6 +123,7 @@ int VorBomEvaluator2::sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngin
         if (state.m_pHeader != nullptr)
             appendSortKeys(state.m_pHeader->sortingTokens(), ascending, m_arrTokensToSortDataRow,
                            m_arrSortOrderForDataRow);
+    // A single row is not compared, so a token that nobody knows is not reported for it.
     const bool hasTwoRows = pData->child() != nullptr && pData->child()->next() != nullptr;
     if (m_arrTokensToSortDataRow.isEmpty() || !hasTwoRows)
         return 1;
@@ -153,6 +154,7 @@ int VorBomEvaluator2::compareDataRow(const void* pFirst, const void* pSecond)
                         [&](std::size_t key) { return pSecondItemData->getTupleAt(keys.token(key)); });
 }
 
+// A list of what is still to be done instead of recursion: groups may nest as deep as a template does.
 int VorBomEvaluator2::sortSubGroupsOnLevels(VorBomTemplateItem* pItem, VorBomEngineStateArray& stack, int level)
 {
     struct Place
@@ -236,6 +238,7 @@ int VorBomEvaluator2::compareEvaluatedItems(const void* pFirst, const void* pSec
     return 0;
 }
 
+// Tokens and types are not looked at: the section before may be the footer of a line, too.
 int VorBomEvaluator2::isEqualAsEvaluated(const VorBomTemplateItem* pFirst, const VorBomTemplateItem* pSecond)
 {
     const VorBomDataTupleArray& first = pFirst->getData();

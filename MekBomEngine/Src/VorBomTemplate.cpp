@@ -64,12 +64,14 @@ const TokenUnit kTokenUnits[] = {
 std::vector<VorBomTemplateItem*> sectionsBreadthFirst(VorBomTemplateItem* pRoot)
 {
     std::vector<VorBomTemplateItem*> sections{ pRoot };
+    // By index, since the list grows while it is gone through.
     for (std::size_t i = 0; i < sections.size(); ++i)
         for (VorBomItemBase* pItem = sections[i]->child(); pItem != nullptr; pItem = pItem->next())
             sections.push_back(static_cast<VorBomTemplateItem*>(pItem));
     return sections;
 }
 
+// From the section's first row to the end of the data, not of the section: rows are one chain.
 void reportUsedData(VorBomTemplateItem& section, VorStringArrayArray& handles, VorStringArrayArray& tokens)
 {
     for (VorBomItemBase* pItem = section.getFirstDataRow(); pItem != nullptr; pItem = pItem->next())
@@ -146,6 +148,7 @@ const VorStringArray& VorBomTemplate::getTokenTrace()
 
 bool VorBomTemplate::isTokenRequired(const VorString& token) const
 {
+    // In the order in which findUsedTokens left the trace, which is empty before.
     return std::binary_search(m_tokenTrace.begin(), m_tokenTrace.end(), token, VorStringLessNoCase());
 }
 

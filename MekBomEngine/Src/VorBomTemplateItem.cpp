@@ -122,6 +122,7 @@ std::shared_ptr<VorBomTemplateItem::Requests> VorBomTemplateItem::requestsForCop
 // A new object: copies that share the present one keep it.
 void VorBomTemplateItem::renewForCopies(Requests& own)
 {
+    // Before the copy is made: else each copy would hold the one before it, a chain that every search makes longer.
     own.pForCopies = nullptr;
     if (own.groupingTokens.isEmpty() && own.sortingTokens.isEmpty() && own.filterObjTypes.isEmpty())
         return;

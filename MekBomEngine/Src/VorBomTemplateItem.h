@@ -95,6 +95,8 @@ public:
     int findFilterObjTypes();
 
     // The caches as they stand. The references hold as long as the section and show what it has at the time.
+    // A section that groups by nothing has one group, to which all rows of the group around it belong. An element to sort
+    // by that has no prefix sorts in the direction of the one before it. All are in the order of the tuples.
     const VorStringArray& groupingTokens() const { return requests().groupingTokens; }
     const VorStringArray& sortingTokens() const { return requests().sortingTokens; } // each with its direction prefix
     const VorArray<int>& filterObjTypes() const { return requests().filterObjTypes; }

@@ -77,7 +77,8 @@ public:
     // tokens. The type is stored as given, also one that is none of the nine, which is shown as empty text then.
     void AddTokenType(VorString token, eTokenUnitType type);
 
-    // The registered type; kNoUnit for a token that is not registered.
+    // The registered type; kNoUnit for a token that is not registered. Tokens are looked up as they are: that "%Weight"
+    // is registered says nothing of "%SumBy:%Weight".
     eTokenUnitType getUnitType(VorString token) const;
 
     // How many tokens are registered. What getUnitType() answers for a token can change only together with this number,
@@ -88,6 +89,7 @@ public:
     // prints it for a token without unit.
     // On purpose: kReservedUnitType, and any type that is none of the nine, gives empty text.
     // Pinned by VorBomTemplateUnitsTest.ReservedAndUnknownTypesShowNothing.
+    // How many decimals there are is the unit's format; the settings only drop zeros and shape feet and inches.
     VorString getDisplayString(VorString token, double value) const;
     VorString getDisplayString(eTokenUnitType type, double value) const; // for every token of that type
 

@@ -121,6 +121,7 @@ constexpr VorBomTokenCatalogue::Entry kEntries[] = {
 
 bool VorBomTokenCatalogue::Entry::matches(const VorString& token) const
 {
+    // The lengths first: most entries are ruled out by them, without a look at a character.
     const bool fits = isPrefix ? token.length() >= length : token.length() == length;
     return fits && std::wmemcmp(token.getStringW(), name, static_cast<std::size_t>(length)) == 0;
 }
