@@ -16,6 +16,9 @@
 // VorString are looked up fastest, and only they are recognised as rows of one layout: whoever makes a million rows
 // should make each token once and hand it to all of them.
 //
+// Which of two tuples with equal tokens counts is the rule of the list that they stand in, not theirs: a look-up finds
+// the first (VorBomItemBase::getTupleAt).
+//
 // Nothing here reports anything of its own or fails, but for std::bad_alloc where the system has no memory left. One
 // tuple is for one thread at a time; copies may go to others.
 #pragma once

@@ -41,6 +41,7 @@ class MEK_BOM_API VorBomDataValue
 {
 public:
     // The numbers are part of the contract: catalogue, sorting and sums switch on them.
+    // A type that is none of the four is called corrupt. Nothing here makes one; a stray write into a value may.
     enum eBomDataValueType : int
     {
         kUnknownData = 0, // no payload
@@ -82,12 +83,15 @@ public:
     // On purpose: assigning an empty value leaves the target exactly as it was, it does not clear it; callers overlay
     // values and rely on it. Reports and leaves the target alone as well when the other type is none of the four.
     // Pinned by VorBomDataValueTest.AssigningEmptyKeepsTheTarget.
+    // A target that has a cell keeps it, whatever it held: no memory is given back and taken again.
     VorBomDataValue& operator=(const VorBomDataValue& other);
 
     // Takes the payload over; `other` is empty afterwards. An empty `other` leaves the target alone, as above, so that
     // assigning a temporary means the same as assigning a named value. Assigning a value to itself changes nothing.
+    // Other than in copying, the target's cell is given back: the payload that it takes over has one.
     VorBomDataValue& operator=(VorBomDataValue&& other) noexcept;
 
+    // Gives the payload's cell back. A corrupt type is reported, and its cell is lost rather than freed by guess.
     ~VorBomDataValue()
     {
         if (m_nType != kUnknownData)
@@ -136,6 +140,7 @@ public:
 
     // Compares two numbers as compare() does two values that hold them.
     // Here, so that what ranks whole columns (VorBomRanks) and what compares two values cannot come to differ.
+    // Infinities of one sign are equal to each other.
     static int compareDoubles(double first, double second);
 
     // Natural order of two texts, "B2" before "B10", as VorString::compareWithNumbers says. Reports and answers -1 for
@@ -146,6 +151,7 @@ public:
 
     // "%d" of an int, "%g" of a double, the text itself, nothing for an empty value. Units are not applied here.
     // What list() shows. In a report doubles read otherwise: VorBomTemplateUnits::getDisplayString makes their texts.
+    // A corrupt type reads as empty text and is not reported here.
     VorString asString() const;
 
 protected:

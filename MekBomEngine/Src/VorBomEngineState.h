@@ -17,8 +17,8 @@
 // The array is made for one evaluation and is used by its thread alone. Sections that were evaluated and not yet taken
 // are destroyed by the evaluation when it ends early, not by this class.
 //
-// Rows that do not count in sums stand among m_dataRows as well: a group is compared with the last row that came, counted
-// or not, and who adds up passes them over.
+// Rows that do not count in sums stand among m_dataRows as well: a group is compared with the last row that came,
+// counted or not, and who adds up passes them over.
 #pragma once
 
 #include "VorBomDataRow.h"

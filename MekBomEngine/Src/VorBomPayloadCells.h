@@ -22,7 +22,7 @@
 class MEK_BOM_API VorBomPayloadCells
 {
 public:
-    // Bytes of a cell, whatever the kind of its payload.
+    // Bytes of a cell, whatever the kind of its payload. Cells are aligned to as many bytes.
     static constexpr std::size_t kCellSize = sizeof(double);
 
     // Takes memory for `numCells`, 0 or more. Too few are no mistake: take() goes on without neighbours.

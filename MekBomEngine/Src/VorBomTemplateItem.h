@@ -19,7 +19,8 @@
 //
 // Whether a section opens or closes a level is told by where it stands, not by its type; siblings after the one that
 // closes it are not evaluated. The type decides the rest: only lines of kDetails are merged with an equal line before,
-// and only nested kGroupHeader sections are searched by the find operations. Page headers and footers are carried for hosts that lay out pages; the engine gives them no meaning.
+// and only nested kGroupHeader sections are searched by the find operations. Page headers and
+// footers are carried for hosts that lay out pages; the engine gives them no meaning.
 //
 // What the tuples ask for is cached, and the evaluation reads the caches as they stand: they are filled by the find
 // operations, for a whole template by VorBomTemplate::findUsedTokens, which the host calls once the sections are built.
@@ -95,8 +96,9 @@ public:
     int findFilterObjTypes();
 
     // The caches as they stand. The references hold as long as the section and show what it has at the time.
-    // A section that groups by nothing has one group, to which all rows of the group around it belong. An element to sort
-    // by that has no prefix sorts in the direction of the one before it. All are in the order of the tuples.
+    // A section that groups by nothing has one group, to which all rows of the group around it belong; on the deepest
+    // level every row is one, whatever is asked for. An element to sort by that has no prefix sorts in the direction of
+    // the one before it. All are in the order of the tuples.
     const VorStringArray& groupingTokens() const { return requests().groupingTokens; }
     const VorStringArray& sortingTokens() const { return requests().sortingTokens; } // each with its direction prefix
     const VorArray<int>& filterObjTypes() const { return requests().filterObjTypes; }

@@ -60,6 +60,7 @@ public:
     static const Entry* find(const VorString& token);
 
     // The table as a half-open range: tokens of texts, then of whole numbers, then of numbers.
+    // Each entry has the sort type of its kind: numbers sort as numbers, texts naturally or plainly.
     static const Entry* begin();
     static const Entry* end();
 };
