@@ -23,6 +23,7 @@ std::vector<std::pair<std::string, std::string>> PairOption::pairs() const
     return pairs;
 }
 
+// The first equals sign divides the two; the second word may hold others.
 std::pair<std::string, std::string> PairOption::pairOf(const std::string& argument) const
 {
     const std::size_t equals = argument.find('=');
