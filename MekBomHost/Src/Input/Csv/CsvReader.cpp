@@ -69,6 +69,7 @@ void CsvReader::placeRecord(Finding& finding) const
     finding.begin = { m_line, 0 };
 }
 
+// The cell of a field with doubled quotes is a text made of it, which stands elsewhere: its place is that of the field.
 void CsvReader::placeCell(std::size_t index, Finding& finding) const
 {
     std::string_view text = m_cells[index].text();
@@ -80,6 +81,7 @@ void CsvReader::placeCell(std::size_t index, Finding& finding) const
     finding.end = placeOf(text.data() + text.size());
 }
 
+// The first reading fills the buffer or ends the source, so a byte order mark is there whole.
 void CsvReader::beginFile()
 {
     m_bytes.readMore();
