@@ -242,6 +242,7 @@ RowList PackedSections::Reader::rows() const
     return m_sections.m_contents.rows ? m_sections.m_rows.list(m_numSections - 1) : RowList();
 }
 
+// A value begins wherever the text before it ends, so it is copied and not pointed at: its address need not be aligned.
 void PackedSections::Reader::read(VorBomTypedValue& value)
 {
     turnPages();
