@@ -8,8 +8,6 @@
 //   { "columns": [ { "token": "%Name", "width": "8" } ] }
 //     elementsOf(root, "columns")          gives the item "/columns/0"
 //     integerOf(that, "width", ...)        adds a finding about "/columns/0/width"
-//
-// A member that is missing is not wrong, and gives the fallback in silence, unless a question says that it is required.
 #include "JsonChecker.h"
 
 #include "FindingCodes.h"
