@@ -211,6 +211,8 @@ void TemplateReader::checkColumns(const JsonItem& root)
                                                    ", which no printed section shows"));
 }
 
+// A column is shown by the tuples that columnTokenOf() gives it, not by those that have its token: "%Weight" may hold
+// nothing but totals.
 bool TemplateReader::isShown(const VorString& columnToken) const
 {
     for (const auto& [pSection, style] : m_template.sectionStyles)
