@@ -2,6 +2,8 @@
 
 namespace mekbom
 {
+// A source may give fewer bytes than it is asked for before it is at its end, as a pipe does; only none at all is the
+// end.
 std::string ByteSource::readAll()
 {
     const std::size_t blockSize = 1 << 16;

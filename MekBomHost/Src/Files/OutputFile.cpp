@@ -70,6 +70,8 @@ void OutputFile::write(std::string_view text)
         failWithSystemReason();
 }
 
+// The file is closed before it is renamed: Windows renames no open one, and some file systems tell only at the closing
+// that they could not keep what was written.
 void OutputFile::finish()
 {
     if (std::fflush(m_pFile.get()) != 0 || (m_isReplacement && synchronize(m_pFile.get()) != 0))
@@ -107,6 +109,8 @@ void OutputFile::checkIsWritable()
 }
 
 // "x" makes sure that the file is a new one.
+// It stands beside the target, so that the renaming stays within one file system, where it is done at once or not at
+// all.
 void OutputFile::openTemporary()
 {
     for (int attempt = 0; attempt < kMostAttempts && m_pFile == nullptr; ++attempt)

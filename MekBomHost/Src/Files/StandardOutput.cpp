@@ -26,6 +26,7 @@ void StandardOutput::write(std::string_view text)
         failToWrite();
 }
 
+// What was written may still lie in a buffer: that the disk is full shows only when this is emptied.
 void StandardOutput::finish()
 {
     if (std::fflush(stdout) != 0)

@@ -39,6 +39,8 @@ void CellReader::numberRows(const VorString& handleToken)
     m_numberToken = handleToken;
 }
 
+// A record with a wrong cell makes a row all the same, of the cells that are right: reading goes on, so that one run
+// tells all mistakes, and finish() throws before anybody sees such a row.
 void CellReader::read(const Record& record)
 {
     if (!checkNumCells(record))
@@ -54,6 +56,8 @@ void CellReader::read(const Record& record)
 }
 
 // The columns whose type was open are filled in last: `takeNext` gives their cells in the order of the rows.
+// A row has a tuple of such a column exactly where a text of it was kept, so the next tuple met always belongs to the
+// next text. That holds only if no row with these tokens was in the data before the first record.
 void CellReader::finish()
 {
     m_findings.throwIfAnyError();
@@ -81,6 +85,7 @@ bool CellReader::checkNumCells(const Record& record)
     return false;
 }
 
+// A column whose type is still open is read as one of texts.
 void CellReader::readCell(std::size_t column, const RecordCell& cell)
 {
     switch (m_columns[column].type)
@@ -91,6 +96,7 @@ void CellReader::readCell(std::size_t column, const RecordCell& cell)
     }
 }
 
+// The text of a number lies in `m_numberText`: it is good until the next cell that is a number.
 std::string_view CellReader::textOf(const RecordCell& cell)
 {
     if (!cell.isNumber())
@@ -99,6 +105,7 @@ std::string_view CellReader::textOf(const RecordCell& cell)
     return m_numberText;
 }
 
+// Two mistakes, two expectations: "4.5" is not whole, "3000000000" is, but has no room in 32 bits.
 void CellReader::readWhole(std::size_t column, std::string_view text)
 {
     int value = 0;
@@ -109,6 +116,9 @@ void CellReader::readWhole(std::size_t column, std::string_view text)
         m_rows.add(m_columns[column].tupleToken, value);
 }
 
+// A quantity comes from its reader in the model's unit; a plain number is still in the column's, 7.5 ft say, and
+// becomes 2286 mm here. Whether the value is finite is asked after that: 1e308 is a number, but as feet it is none in
+// mm. A column that is not in the model's unit always has a unit (PartsList::resolveUnit).
 void CellReader::readNumber(std::size_t column, const RecordCell& cell)
 {
     const InputColumn& properties = m_columns[column];
@@ -126,6 +136,8 @@ void CellReader::readNumber(std::size_t column, const RecordCell& cell)
         m_rows.add(properties.tupleToken, value);
 }
 
+// In a column of feet and inches "7" is no plain number: it goes to the reader of quantities, which knows what the
+// layout takes.
 bool CellReader::readPlainNumber(std::size_t column, const RecordCell& cell, double& value) const
 {
     if (!m_columns[column].takesPlainNumbers)

@@ -15,6 +15,8 @@ std::string_view trimmed(std::string_view text)
 }
 
 // field := name [ '[' unit ']' ]
+// The last brackets count, and only at the end: "Size [nominal] [mm]" is %Size [nominal] in mm, "Bolt [M16] type" names
+// no unit.
 ColumnHeading ColumnHeading::parse(std::string_view field)
 {
     field = trimmed(field);

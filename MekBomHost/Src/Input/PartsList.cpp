@@ -63,6 +63,8 @@ const InputColumn* PartsList::find(const std::string& token) const
     return found == m_columns.end() ? nullptr : &*found;
 }
 
+// To say again what the heading says is no mistake: a script may pass its units with files that name them and with
+// files that do not.
 void PartsList::setInputUnit(const std::string& token, const std::string& unit)
 {
     const auto pColumn = std::find_if(m_columns.begin(), m_columns.end(),
@@ -79,6 +81,9 @@ void PartsList::setInputUnit(const std::string& token, const std::string& unit)
     pColumn->unitIsFromUser = true;
 }
 
+// All that a cell needs to know of the template is settled here, once for each column; CellReader asks no template. The
+// filter's tokens are wanted, too: it looks at the rows, and would take a datum that was not kept for one that is not
+// there.
 void PartsList::readRows(VorBomTemplate& reportTemplate, const QueryFilter& filter)
 {
     for (InputColumn& column : m_columns)
@@ -119,6 +124,7 @@ void PartsList::failWithoutHeader() const
 }
 
 // `column` is the last one so far.
+// find() gives the first of the name: if that is another one, this one has the name a second time.
 void PartsList::checkColumn(const InputColumn& column, FindingList& findings) const
 {
     if (column.token == "%")
@@ -160,6 +166,8 @@ void PartsList::addColumn(const std::string& heading)
     m_columns.push_back(column);
 }
 
+// A unit makes numbers of a column that the catalogue does not know: nobody gives texts in feet. Without one, numbers
+// are in the model's unit of the kind that the template, or the catalogue, says they are.
 void PartsList::resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const
 {
     column.type = column.isHandle ? VorBomDataValue::kStringData : typeInCatalogue(column.tupleToken);

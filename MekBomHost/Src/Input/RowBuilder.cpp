@@ -18,6 +18,8 @@
 
 namespace mekbom
 {
+// Rows, values and texts that are in no pool get as much room as 64 rows can need, and never move: look-ups point at
+// values, and values at handles and texts.
 RowBuilder::RowBuilder(VorBomData& data, std::size_t numColumns)
     : m_data(data), m_texts(numColumns), m_rows(kMostRows), m_values(kMostRows * (numColumns + 1))
 {
@@ -25,6 +27,8 @@ RowBuilder::RowBuilder(VorBomData& data, std::size_t numColumns)
     begin();
 }
 
+// A row has at most one text for each column, so no pool is asked for more texts than it is prepared for, and what it
+// gave stays where it is until the rows are built.
 void RowBuilder::begin()
 {
     m_numRows = 0;
@@ -71,11 +75,14 @@ void RowBuilder::add(const VorString& token, double value)
     addDatum(token, VorBomDataValue::kDoubleData).number = value;
 }
 
+// The handle may not be made yet; buildRow() makes it before the row's tuples.
 void RowBuilder::addHandle(const VorString& token)
 {
     addDatum(token, VorBomDataValue::kStringData).pText = &m_rows[m_numRows - 1].handle;
 }
 
+// Only a text of up to eight bytes can wait, since its key holds all of them. The bytes of a longer one belong to the
+// record, which is gone when the rows are built, so that is found at once.
 void RowBuilder::addText(const VorString& token, std::size_t column, std::string_view text)
 {
     Datum& datum = addDatum(token, VorBomDataValue::kStringData);

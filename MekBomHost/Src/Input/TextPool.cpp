@@ -27,6 +27,8 @@ const std::size_t kLooksPerFound = 64;
 const std::size_t kTextsWithoutLook = 1 << 16;
 
 // The key of a text of more than eight bytes. Its lowest byte is zero, so that it is the key of no shorter text.
+// It is made of words of eight bytes, of which the last ends with the text and may overlap the one before: of 20 bytes
+// these are bytes 12 to 19, then 0 to 7 and 8 to 15. The highest bit is set, since the key 0 marks a free place.
 std::uint64_t hashOf(std::string_view bytes)
 {
     using namespace ByteWord;
@@ -63,6 +65,8 @@ const VorString& TextPool::textOf(std::string_view bytes)
     return m_unshared;
 }
 
+// All that moves texts happens here: the table is judged, emptied or made larger only when it would be more than half
+// full. So between two calls find() may hand out references, and always meets a free place.
 void TextPool::prepare(std::size_t numTexts)
 {
     m_numUnshared -= std::min(m_numUnshared, numTexts);

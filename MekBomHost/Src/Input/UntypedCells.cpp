@@ -1,9 +1,18 @@
+// The type is narrowed down while the cells come in, so that no cell is looked at again before its value is made:
+//
+//   "4"              whole numbers so far
+//   "12345678901"    whole, but beyond 32 bits: texts so far
+//   "12.5"           not whole, and so numbers after all
+//   "M16"            texts, whatever comes
+//
+// The cells are kept in one text, with the places where they end: a million cells are two allocations that grow.
 #include "UntypedCells.h"
 
 #include "NumberReader.h"
 
 namespace mekbom
 {
+// Once a cell was no number the other two flags are not kept up: type() asks for that first.
 void UntypedCells::add(std::string_view cell)
 {
     m_bytes += cell;

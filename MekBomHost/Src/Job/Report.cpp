@@ -15,6 +15,7 @@ Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units, cons
     engineTemplate().findUsedTokens();
 }
 
+// The filter comes before the evaluation: no total may count a row that it leaves out.
 void Report::evaluate()
 {
     m_template.queryFilter.apply(*engineTemplate().getBomData());

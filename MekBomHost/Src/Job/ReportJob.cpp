@@ -104,6 +104,7 @@ ReportTemplate ReportJob::readTemplate()
     return reportTemplate;
 }
 
+// The sources can be read only once, so their texts are kept: the one that is chosen is parsed again.
 ReportTemplate ReportJob::readSuitableTemplate()
 {
     std::vector<NamedText> candidates;
@@ -122,6 +123,7 @@ void ReportJob::readRows()
     m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->queryFilter());
 }
 
+// The rows change hands: the sample has to let go of them, or both would delete them.
 void ReportJob::takeSampleRows()
 {
     const std::unique_ptr<VorBomData> pSample(VorBomData::createDefaultData());

@@ -1,6 +1,13 @@
 // Each question about a member is answered in the same order: a missing member is no mistake unless it is required, one
 // of the wrong kind is a finding and as good as missing, and only then its value is looked at. So "width": "wide" gives
 // one finding, not two, and reading goes on with the fallback.
+//
+// Questions come from the root down, and each item that is handed out knows how it was reached, so a path costs no
+// search when something is wrong:
+//
+//   { "columns": [ { "token": "%Name", "width": "8" } ] }
+//     elementsOf(root, "columns")          gives the item "/columns/0"
+//     integerOf(that, "width", ...)        adds a finding about "/columns/0/width"
 #include "JsonChecker.h"
 
 #include "FindingCodes.h"

@@ -23,6 +23,8 @@ std::string textOf(double number, bool isWhole)
 }
 }
 
+// Objects are asked for a few keys that the program knows, so one search after the other is good enough. Whether a key
+// comes twice is asked of all keys, and JsonReader keeps a set for that.
 const JsonNode* JsonNode::find(const std::string& memberKey) const
 {
     const auto found = std::find_if(children.begin(), children.end(),

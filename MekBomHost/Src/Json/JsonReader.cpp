@@ -134,6 +134,7 @@ private:
     };
 
     // Where the token stands that the parser has just taken.
+    // To be called once for each token, in their order: the next one is looked for behind the end of this one.
     TextSpan takeSpan(JsonNode::eKind kind)
     {
         const bool isNumber = kind == JsonNode::kInteger || kind == JsonNode::kNumber;
@@ -142,6 +143,8 @@ private:
         return m_reader.spanOf(begin, m_endOfLast);
     }
 
+    // The node is given its place and key here and its content by the caller, in `m_pLast`. Adding to the children of
+    // the innermost open node moves only nodes that are closed, so no pointer of `m_open` is lost.
     bool addValue(JsonNode::eKind kind)
     {
         JsonNode node;
@@ -217,6 +220,8 @@ void JsonReader::requireUtf8()
              Finding::of(FindingCodes::kTextIsNotUtf8, "a byte that is not UTF-8", "text in UTF-8"));
 }
 
+// Braces and brackets are tokens and not passed over: an opening one begins its node, and close() notes where a closing
+// one ends.
 std::size_t JsonReader::findToken(std::size_t offset) const
 {
     const std::string_view between = " \t\r\n,:\xEF\xBB\xBF"; // with the byte order mark in front of the first

@@ -43,6 +43,7 @@ bool canShareLine(const SectionLayout& header, const SectionLayout& footer)
 }
 
 // A label stands where the line shows nothing else.
+// Without such a column `labelColumn` stays -1, and a writer has to find another place.
 void placeLabel(SectionLayout& section, std::size_t numColumns)
 {
     for (int column = 0; column < static_cast<int>(numColumns) && section.labelColumn < 0; ++column)
@@ -106,6 +107,8 @@ void ReportLayout::layOutLevels(const ReportTemplate& reportTemplate)
 }
 
 // A level may lack its footer.
+// The columns come in the order of shownTuplesOf(), in which PackedSections packs the texts: ReportLines relies on both
+// being the same.
 SectionLayout ReportLayout::layOut(const ReportTemplate& reportTemplate, const VorBomItemBase* pSection)
 {
     SectionLayout section;

@@ -48,6 +48,7 @@ void ReportLines::take(ReportLine& line)
     m_hasNext = m_reader.nextSection(m_next);
 }
 
+// The i-th text of a packed section belongs to the i-th column of its layout; all texts come before all values.
 void ReportLines::fill(ReportLine& line, const SectionLayout& section)
 {
     for (const int column : section.columns)

@@ -22,6 +22,7 @@ using Units = VorBomTemplateUnits;
 
 // The type that `token` would have if it was registered now. The engine shows a formula as of its operand's kind only
 // where no template has said otherwise: one that gave it to kNoUnit before has taken its unit away.
+// Asked of a copy, on purpose: the template's own units stay as they are.
 Units::eTokenUnitType registeredLast(Units units, const VorString& token, Units::eTokenUnitType type)
 {
     units.AddTokenType(token, type);
@@ -68,6 +69,7 @@ const UnitKind* TokenQuantities::kindOf(const VorString& token) const
     return typeOf(token) == VorBomDataValue::kDoubleData ? UnitKinds::find(unitTypeOf(token)) : nullptr;
 }
 
+// What has no kind, a text or a count, does not disturb: no unit is printed beside it.
 const UnitKind* TokenQuantities::commonKindOf(const std::vector<VorString>& tokens) const
 {
     const UnitKind* const pFirst = tokens.empty() ? nullptr : kindOf(tokens.front());
@@ -86,6 +88,8 @@ std::string TokenQuantities::symbolOf(const UnitKind& kind) const
 }
 
 // The type that the datum has in the first row that has it; kUnknownData when none has.
+// For a datum that no row has, this looks at all of them, once for each question about a token that the catalogue does
+// not know: for a column of the report, not for its lines.
 VorBomDataValue::eBomDataValueType TokenQuantities::typeInData(const VorString& datum) const
 {
     for (const VorBomItemBase* pRow = m_data.child(); pRow != nullptr; pRow = pRow->next())

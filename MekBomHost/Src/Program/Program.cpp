@@ -72,6 +72,7 @@ void printErrors(const FindingList& findings)
         printMessage("and " + std::to_string(findings.numErrors() - numShown) + " more faults");
 }
 
+// Warnings and notes are about a report, and where there is an error there is none.
 void printFindings(const FindingList& findings)
 {
     if (findings.numErrors() > 0)

@@ -19,6 +19,7 @@ bool isDatum(const VorString& token)
 }
 }
 
+// %Handle is not among them: rows of a parts list without such a column are numbered, so nobody misses it.
 std::vector<std::string> of(VorBomTemplate& reportTemplate)
 {
     std::vector<std::string> tokens;

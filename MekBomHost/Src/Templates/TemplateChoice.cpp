@@ -46,6 +46,7 @@ Finding noneSuits(const std::string& dataName)
 }
 }
 
+// Of candidates that suit the columns equally well the first one stays, so their order is part of the rule.
 const NamedText& choose(const std::string& dataName, const std::vector<NamedText>& candidates,
                         const std::function<bool(const std::string&)>& hasColumn)
 {

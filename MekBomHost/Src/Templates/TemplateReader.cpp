@@ -100,6 +100,7 @@ void TemplateReader::readQueryFilter(const JsonItem& root)
             Finding::of(FindingCodes::kNoQueryFilter, inQuotes(filter), "tokens such as \"%Weight, !%BoltName\""));
 }
 
+// The names stand in the order of the engine's enumerators, so the number of a choice is the type.
 void TemplateReader::readTokenUnits(const JsonItem& root)
 {
     const JsonNode* const pUnits = root.node.find("tokenUnits");
@@ -135,6 +136,7 @@ void TemplateReader::readColumn(const JsonItem& column)
     m_template.columns.push_back(style);
 }
 
+// Goes down as deep as the sections are nested, which JsonReader::kDeepest bounds.
 void TemplateReader::readSections(const JsonItem& parent, const std::string& key, VorBomItemBase& parentItem)
 {
     const std::vector<JsonItem> sections = m_json.elementsOf(parent, key);
@@ -175,6 +177,8 @@ void TemplateReader::readSection(const JsonItem& section, VorBomItemBase& parent
     readSections(section, "children", *pSection);
 }
 
+// Every tuple gets an entry among the section's columns, be it an empty one, so that both are found by the same index.
+// A tuple whose value is wrong gets an entry alone: that template is thrown away.
 void TemplateReader::readTuple(const JsonItem& tuple, VorBomItemBase& sectionItem, SectionStyle& style)
 {
     const VorString token = Utf8::toWide(m_json.requiredTextOf(tuple, "token"));
@@ -196,6 +200,7 @@ void TemplateReader::readTuple(const JsonItem& tuple, VorBomItemBase& sectionIte
 }
 
 // A column that nothing is shown in is most likely misspelled.
+// Called only when all else is right: then each element of the array has its style at the same index.
 void TemplateReader::checkColumns(const JsonItem& root)
 {
     const std::vector<JsonItem> columns = m_json.elementsOf(root, "columns");
@@ -206,6 +211,8 @@ void TemplateReader::checkColumns(const JsonItem& root)
                                                    ", which no printed section shows"));
 }
 
+// A column is shown by the tuples that columnTokenOf() gives it, not by those that have its token: "%Weight" may hold
+// nothing but totals.
 bool TemplateReader::isShown(const VorString& columnToken) const
 {
     for (const auto& [pSection, style] : m_template.sectionStyles)

@@ -28,6 +28,8 @@ struct PlainNumber
 
 // digits [ '.' digits ], of up to as many characters as a double holds digits; false for any other text, which may be a
 // number all the same.
+// `numBehindPoint` counts the point as well, so that 0 says that there is none. A text that ends in its point, "12.",
+// is left to the longer way.
 bool readPlain(std::string_view text, PlainNumber& number)
 {
     const std::size_t size = text.size();

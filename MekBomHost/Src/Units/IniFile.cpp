@@ -22,6 +22,7 @@ VorString textOf(const NamedText& file)
 
 IniFile::IniFile(const NamedText& file) : m_name(file.name), m_reader(textOf(file)) {}
 
+// The reader ends at the end of the text as at a line that it cannot read, and only its fault tells the two apart.
 bool IniFile::next()
 {
     if (m_reader.next() == 0)

@@ -26,6 +26,7 @@ VorUnitDefinition::eLayout layoutOf(const MEKUnit& unit)
 }
 }
 
+// kReservedUnitType is a type without a system: no unit is of it, so none is found.
 std::optional<MEKUnit> find(const std::string& symbol, Units::eTokenUnitType kind)
 {
     const VorUnitDefinition* const pUnit = Catalogue::findUnit(Utf8::toWide(symbol));

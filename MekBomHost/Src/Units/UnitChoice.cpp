@@ -64,6 +64,7 @@ VorUnitsManager unitsOfFile(const NamedText& file)
     return units;
 }
 
+// Choices are made one after the other, on top of the base or the file: of two for one kind the last one counts.
 VorUnitsManager withChoices(VorUnitsManager units, const Choices& choices)
 {
     for (const auto& [kind, unit] : choices)

@@ -1,3 +1,6 @@
+// One table for the seven kinds, in the order of VorUnitsTransformArray: the index of a system there is the index of
+// its kind here, and kDistance is "length" because both come first. The types of tokens, such as kDistanceUnit, have
+// other numbers, since some of them have no unit; their kinds are found by way of the system.
 #include "UnitKinds.h"
 
 #include <algorithm>
@@ -34,6 +37,7 @@ const std::array<UnitKind, Systems::kNumSystems>& all()
     return kKinds;
 }
 
+// A kind without a second name has an empty one, which an empty word must not find.
 const UnitKind* find(std::string_view name)
 {
     return findIf([name](const UnitKind& kind)
@@ -51,6 +55,7 @@ const UnitKind* find(Systems::eSystems system)
     return index < 0 ? nullptr : &all()[static_cast<std::size_t>(index)];
 }
 
+// All types, those without a unit too: a template may say that a token has none.
 const std::vector<std::string>& typeNames()
 {
     static const std::vector<std::string> names = {

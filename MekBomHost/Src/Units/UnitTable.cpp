@@ -75,6 +75,7 @@ int widthOf(const std::vector<Row>& rows, std::size_t column)
 }
 }
 
+// The last column is not filled up, so that no line ends in blanks.
 std::string text()
 {
     const std::vector<Row> table = rows();

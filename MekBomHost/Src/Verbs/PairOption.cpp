@@ -10,6 +10,7 @@
 
 namespace mekbom
 {
+// An option with a list of values would take all words up to the next option; this one takes one word each time.
 void PairOption::declareOn(CLI::App& command, const std::string& help)
 {
     command.add_option(m_name, m_arguments, help + "; may be repeated")->type_name(m_form)->allow_extra_args(false);
@@ -23,6 +24,7 @@ std::vector<std::pair<std::string, std::string>> PairOption::pairs() const
     return pairs;
 }
 
+// The first equals sign divides the two; the second word may hold others.
 std::pair<std::string, std::string> PairOption::pairOf(const std::string& argument) const
 {
     const std::size_t equals = argument.find('=');

@@ -112,6 +112,7 @@ CLI::App& ReportVerb::declareOn(CLI::App& parent)
     return report;
 }
 
+// The output is opened only once there is a report: a run that fails leaves the list of the run before as it was.
 ExitStatus ReportVerb::run(FindingList& findings)
 {
     const std::unique_ptr<ReportWriter> pWriter = ReportFormats::createWriter(ReportFormats::kText);

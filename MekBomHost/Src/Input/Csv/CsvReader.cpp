@@ -42,6 +42,9 @@ std::string_view textBetween(const char* pBegin, const char* pEnd)
 }
 }
 
+// An empty line is a record of one empty field to scanRecord(); it is told by its first byte and passed over. A line
+// that is "" begins with a quote and is a record. Behind the last of the bytes read stands a line end (SourceBytes), so
+// the first byte may be looked at even where none has been read yet.
 const Record* CsvReader::next()
 {
     if (m_nextLine == 0)
@@ -66,6 +69,7 @@ void CsvReader::placeRecord(Finding& finding) const
     finding.begin = { m_line, 0 };
 }
 
+// The cell of a field with doubled quotes is a text made of it, which stands elsewhere: its place is that of the field.
 void CsvReader::placeCell(std::size_t index, Finding& finding) const
 {
     std::string_view text = m_cells[index].text();
@@ -77,6 +81,7 @@ void CsvReader::placeCell(std::size_t index, Finding& finding) const
     finding.end = placeOf(text.data() + text.size());
 }
 
+// The first reading fills the buffer or ends the source, so a byte order mark is there whole.
 void CsvReader::beginFile()
 {
     m_bytes.readMore();
@@ -85,6 +90,8 @@ void CsvReader::beginFile()
     m_nextLine = 1;
 }
 
+// Bytes move, so whatever points at them is worth nothing afterwards: one more reason to begin a record that was not
+// complete anew rather than to go on with it.
 void CsvReader::readMore()
 {
     m_bytes.dropTo(m_pNext);
@@ -97,6 +104,7 @@ void CsvReader::readMore()
 // field  := bytes | '"' { bytes | '""' } '"'
 //
 // Gives false when more bytes are needed; nothing of the record has been used up then.
+// The copy of the scan is written back before anything is called that goes on with it, and read again behind that.
 bool CsvReader::scanRecord()
 {
     beginRecord();
@@ -160,6 +168,9 @@ const char* CsvReader::takeQuotedField(const char* pField, const char* pQuote)
 }
 
 // Gives null when the closing quote is not among the bytes that have been read.
+// Where a quote is the last of the bytes read it seems to close the field, since a line end stands behind it, though
+// the next byte of the source may double it: takeQuotedField() asks for more bytes then. Line ends within the field are
+// passed, and the lines checked, as between records.
 const char* CsvReader::findClosingQuote(bool& hasDoubled)
 {
     for (;;)
@@ -199,6 +210,8 @@ const char* CsvReader::passLineEnd(const char* pStop)
     return pStop + 1;
 }
 
+// Only stops come here, and every byte that may make a line something else than text is a stop: zeros and all beyond
+// ASCII. A line without any needs no second look.
 void CsvReader::passByte(char byte)
 {
     m_isPlain = m_isPlain && isAsciiText(byte);
@@ -222,6 +235,8 @@ void CsvReader::resolveDoubledQuotes()
 }
 
 // The number of the line that a byte of the record is on.
+// Lines are not counted byte by byte while a record is read: where each of its lines begins is enough to tell, when a
+// message asks for it.
 int CsvReader::lineOf(const char* pByte) const
 {
     const auto next = std::upper_bound(m_lineBegins.begin(), m_lineBegins.end(), pByte);

@@ -40,6 +40,7 @@ void makeRoomForText(TextColumn& column, const ShownText& text)
 }
 
 // As wide as its heading needs.
+// A template's width limits the heading and labels in every column, other texts only where these are not numbers.
 TextColumn describe(const ReportColumn& described)
 {
     TextColumn column;
@@ -74,6 +75,7 @@ bool makeRoomForLongest(TextColumn& column, TextExtent extent)
     return true;
 }
 
+// However many columns have to be measured, the lines are read once.
 void makeRoomForTexts(const EvaluatedReport& report, std::vector<TextColumn>& columns)
 {
     const std::vector<TextExtent> extents = report.textExtents();

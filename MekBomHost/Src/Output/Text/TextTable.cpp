@@ -76,6 +76,8 @@ void TextTable::writeRule()
 }
 
 // What comes between two lines. The first line has the rule of the heading before it.
+// A header gets a blank line above it when the line before it is of a deeper level or a footer alone: a group of
+// several lines ends there. Groups of one line each follow without.
 void TextTable::writeSeparation(const LinePlace& place, const LinePlace& previous)
 {
     const bool isFirst = !previous.hasHeader && !previous.hasFooter;
@@ -109,6 +111,8 @@ bool TextTable::isPlain(const ReportLine& line) const
     return true;
 }
 
+// All texts must fit their columns, which isPlain() has made sure of: one that is longer than its column would run into
+// the next.
 void TextTable::writePlain(const std::vector<ShownText>& texts)
 {
     const std::size_t begin = m_text.size();
@@ -169,6 +173,7 @@ std::size_t TextTable::writeText(const TextColumn& column, const std::string& te
     return numFree - indent;
 }
 
+// `m_text` keeps its memory from block to block.
 void TextTable::passOn(std::size_t least)
 {
     if (m_text.size() < least)

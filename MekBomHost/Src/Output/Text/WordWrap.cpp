@@ -57,6 +57,8 @@ public:
     }
 
 private:
+    // `codePoint` is the one that went too far and stands at the line's end. What goes on is all that stands behind the
+    // last blank, or that character alone: it holds no blank, so endLine() may forget where the last one was.
     void cut(int codePoint)
     {
         std::string last;
@@ -82,6 +84,7 @@ private:
 };
 }
 
+// The CR of a CRLF is dropped; the LF then ends the line.
 std::vector<std::string> wrap(std::string_view text, int width)
 {
     LineFiller filler(width);
