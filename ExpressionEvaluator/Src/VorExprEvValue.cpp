@@ -102,7 +102,8 @@ int VorExprEvValue::toText(wchar_t* buffer) const
     return 0;
 }
 
-// NaNs and infinities go by their texts, too: for none of them is the product below kMostParts.
+// NaNs and infinities go by their texts, too: for none of them is the product below kMostParts. Zero keeps its sign: a
+// small negative number is "-0.000000", which reads as -0.0.
 double VorExprEvValue::readBack(double value)
 {
     const double parts = value * kParts;
