@@ -26,7 +26,7 @@ bool isHexDigit(wchar_t c)
     return isDigit(c) || (c >= L'a' && c <= L'f') || (c >= L'A' && c <= L'F');
 }
 
-// Answers the number of characters.
+// Answers the number of characters. What std::to_chars writes is ASCII, so that every byte is a character.
 int copyWide(const char* pFirst, const char* pEnd, wchar_t* out)
 {
     int length = 0;
@@ -206,7 +206,8 @@ bool scanDigits(Reader& reader, bool decimalComma, Number& value)
     return true;
 }
 
-// "(" letters, digits and underscores ")" after "nan"; passed over when whole.
+// "(" letters, digits and underscores ")" after "nan"; passed over when whole. One without its closing parenthesis is
+// left where it stands.
 void skipNanPayload(Reader& reader)
 {
     if (reader.peek() != L'(')

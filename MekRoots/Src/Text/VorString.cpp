@@ -39,6 +39,7 @@ int findCharacters(const VorString& text, const wchar_t* pWanted, int wantedLeng
     return pFound == pEnd && wantedLength > 0 ? -1 : static_cast<int>(pFound - pFirst);
 }
 
+// Zero characters are compared like any others; they end no text here.
 int compareCharacters(const wchar_t* pFirst, int firstLength, const wchar_t* pSecond, int secondLength)
 {
     const int shared = std::min(firstLength, secondLength);

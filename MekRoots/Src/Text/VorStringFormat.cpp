@@ -200,6 +200,7 @@ void appendNumber(VorString& out, const Directive& directive, const std::string&
     appendPadded(out, directive, text.data(), static_cast<int>(text.size()));
 }
 
+// Of the two flags for numbers that are not negative, '+' beats the blank.
 std::string signMark(const Directive& directive, bool isNegative)
 {
     return isNegative ? "-" : (directive.showsPlus ? "+" : (directive.showsBlank ? " " : ""));
