@@ -176,7 +176,8 @@ private:
         return kNoFault;
     }
 
-    // The first mark from `first` on that stands here; the number of marks when none does.
+    // The first mark from `first` on that stands here; the number of marks when none does. The end of the text is asked
+    // for apart, as std::wcschr finds a zero in every text.
     int findMark(int first) const
     {
         for (int i = first; i < m_marks.numMarks; ++i)
@@ -196,7 +197,8 @@ private:
             m_p = p;
     }
 
-    // On the decimal digits, as conversions are: 7.1' is 85.2", which a product of doubles misses.
+    // On the decimal digits, as conversions are: 7.1' is 85.2", which a product of doubles misses. A number that is not
+    // finite has no digits.
     double toModel(double number, unsigned int size) const
     {
         if (!std::isfinite(number))

@@ -129,7 +129,8 @@ int VorDecimalNumber::roundToParts(unsigned int numParts, VorRoundedNumber& roun
     return 1;
 }
 
-// What stands behind the point: of 12.34 it is 0.34, of 0.0012 the number itself.
+// What stands behind the point: of 12.34 it is 0.34, of 0.0012 the number itself. Where nothing does, it is the digit
+// 0, as a number has at least one.
 VorDecimalNumber VorDecimalNumber::fraction() const
 {
     VorDecimalNumber result(0.0);
@@ -142,7 +143,8 @@ VorDecimalNumber VorDecimalNumber::fraction() const
     return result;
 }
 
-// What stands before the point, which is at most 15 digits here.
+// What stands before the point, which is at most 15 digits here. Zeros at the end may not be among the digits: 1200 can
+// be the digits 1 and 2 with the point behind four.
 std::uint64_t VorDecimalNumber::wholePart() const
 {
     std::uint64_t whole = 0;
