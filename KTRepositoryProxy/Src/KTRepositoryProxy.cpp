@@ -142,6 +142,7 @@ int KTRepositoryProxy::readIni(const VorString& text, int& line, VorString& faul
     return 1;
 }
 
+// As with readIni(), nothing is stored before all variables have turned out well.
 int KTRepositoryProxy::readEnvironment(VorString& fault)
 {
     Settings settings;
