@@ -115,6 +115,7 @@ double VorExprEvValue::readBack(double value)
     return rounded / kParts;
 }
 
+// A cell is given back with the size it was asked for with, which only the type tells: it is reset last.
 void VorExprEvValue::release()
 {
     VorMemoryControllerController::deallocateArray(m_pData, 1, cellSize(m_nType));
