@@ -60,6 +60,7 @@ int ExpressionsEvaluator::addVariable(const VorExprEvTextView& name, VorExprEvVa
     return VorExprEvVariableList::ofThread().addVariable(name, value);
 }
 
+// The text is measured once for all statements; each measuring what is left of it would take quadratic time.
 int ExpressionsEvaluator::evaluate(wchar_t* buffer)
 {
     const int nFormulaLength = static_cast<int>(m_nLength);
@@ -85,7 +86,8 @@ int ExpressionsEvaluator::evaluate(wchar_t* buffer)
     }
 }
 
-// The text of the statement's value in `buffer`, which a statement without operands leaves as it is.
+// The text of the statement's value in `buffer`, which a statement without operands leaves as it is. A tree that is not
+// whole is traced but not evaluated; parsing has raised its error.
 int ExpressionsEvaluator::evaluateStatement(const VorExprEvTextView& statement, wchar_t* buffer) const
 {
     VorExpressionEvaluator parser;

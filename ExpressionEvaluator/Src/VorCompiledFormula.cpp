@@ -68,6 +68,7 @@ private:
         m_nHighest = std::max(m_nHighest, ++m_nHeight);
     }
 
+    // The map holds views of the caller's text, which outlives the writer; the names themselves are copies.
     int indexOfName(std::wstring_view name)
     {
         const auto [found, isNew] = m_indices.emplace(name, static_cast<int>(m_formula.m_names.size()));
@@ -83,6 +84,7 @@ private:
     int m_nHighest = 0;
 };
 
+// The reader may give up halfway. The steps until then stay unused, but names() promises none.
 VorCompiledFormula::VorCompiledFormula(const wchar_t* text, int length)
 {
     const std::wstring_view formula(text, static_cast<std::size_t>(length));
@@ -92,6 +94,9 @@ VorCompiledFormula::VorCompiledFormula(const wchar_t* text, int length)
         m_names.clear();
 }
 
+// Whether the stack is high enough need not be asked: a formula that wants more than kDeepest places is not compiled.
+// Which of two NaNs goes on shows in the sign of the result alone, so that only evaluations that end in one are done
+// again with the left one first.
 template <bool kLeftFirst>
 int VorCompiledFormula::compute(const double* values, double& result) const
 {

@@ -7,9 +7,9 @@
 //   formula.evaluate(values, result)       ->  1, result 31.4
 //
 // Only formulas of one statement without an assignment, not nested deeper than usual, are compiled; all others are left
-// to ExpressionsEvaluator. For those that are, success and result are those that ExpressionsEvaluator and the conversion
-// of its text give, bit for bit, the rounding to six decimals and the sign of a NaN included. Neither compiling nor
-// evaluating touches the variables and errors of the thread, and nothing is traced.
+// to ExpressionsEvaluator. For those that are, success and result are those that ExpressionsEvaluator and the
+// conversion of its text give, bit for bit, the rounding to six decimals and the sign of a NaN included. Neither
+// compiling nor evaluating touches the variables and errors of the thread, and nothing is traced.
 //
 // Owns all it needs; the text may go. Objects may be shared by threads once they are built.
 #pragma once

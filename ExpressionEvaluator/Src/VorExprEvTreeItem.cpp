@@ -44,6 +44,8 @@ void VorExprEvTreeItem::operator delete(void* pBlock, std::size_t size)
     VorMemoryControllerController::deallocateArray(pBlock, 1, size);
 }
 
+// The debug output wants a terminated text, which a view is not: its characters are copied, as many as there is room
+// for.
 int VorExprEvTreeItem::printText() const
 {
     wchar_t buffer[VorExprEvValue::kBufferLength] = L"0";

@@ -53,6 +53,7 @@ struct Waiting
     double left;
 };
 
+// One evaluation of a tree. The value is the caller's, and holds that of the whole tree at the end.
 class Walk
 {
 public:
@@ -99,7 +100,8 @@ void Walk::goDown(const VorExprEvTreeItem* pItem)
         m_value.release();
 }
 
-// The operator that waits for the value: with it as its left side goes down the right one, or is finished.
+// The operator that waits for the value: with it as its left side goes down the right one, or is finished. Going down
+// may enlarge the stack, so that `waiting` is not looked at after that.
 void Walk::goUp()
 {
     Waiting& waiting = m_waiting.top();
@@ -113,6 +115,7 @@ void Walk::goUp()
     finish(m_waiting.pop());
 }
 
+// A division by zero raises its error and goes on with 0.0; the end of the statement asks for errors.
 void Walk::finish(const Waiting& waiting)
 {
     if (waiting.operation == L'=')

@@ -102,7 +102,8 @@ int VorExprEvValue::toText(wchar_t* buffer) const
     return 0;
 }
 
-// NaNs and infinities go by their texts, too: for none of them is the product below kMostParts.
+// NaNs and infinities go by their texts, too: for none of them is the product below kMostParts. Zero keeps its sign: a
+// small negative number is "-0.000000", which reads as -0.0.
 double VorExprEvValue::readBack(double value)
 {
     const double parts = value * kParts;
@@ -114,6 +115,7 @@ double VorExprEvValue::readBack(double value)
     return rounded / kParts;
 }
 
+// A cell is given back with the size it was asked for with, which only the type tells: it is reset last.
 void VorExprEvValue::release()
 {
     VorMemoryControllerController::deallocateArray(m_pData, 1, cellSize(m_nType));

@@ -1,3 +1,9 @@
+// A formula over %Weight and %Paint, computed for one row after the other:
+//   row 1    announce copies "%Weight" and "%Paint" into m_announcedNames and sets a value beside each
+//   row 2    announce meets the same names in the same places (isStillNamed) and sets the values alone
+// As long as nobody asks for a variable, none is made. Whoever calls find, head or prepend asks: makeAnnounced puts
+// variables for all that is announced at the head of the list, the oldest first, so that the newest comes to stand
+// before all others.
 #include "VorExprEvVariableList.h"
 
 #include <functional>
@@ -23,6 +29,7 @@ const VorExprEvVariable* VorExprEvVariableList::head()
     return m_pHead;
 }
 
+// The end is set last: arguments that do not all find room leave nothing announced.
 int VorExprEvVariableList::announce(const wchar_t* const* names, const double* values, int count)
 {
     Announced* pNext = m_announced;
@@ -75,6 +82,7 @@ bool VorExprEvVariableList::nameAnew(Announced* pPlace, std::wstring_view name)
     return true;
 }
 
+// Nothing is announced any more before the first variable is made: prepend comes back here.
 void VorExprEvVariableList::makeAnnounced()
 {
     const Announced* pEnd = std::exchange(m_pAnnouncedEnd, m_announced);
@@ -89,6 +97,8 @@ int VorExprEvVariableList::addVariable(const VorExprEvTextView& name, VorExprEvV
     return 1;
 }
 
+// A list that is short enough to be walked has no index, and none is begun here; findInIndex builds it when it is
+// needed.
 void VorExprEvVariableList::prepend(const VorExprEvTextView& name, const VorExprEvValue& value)
 {
     makeAnnounced();

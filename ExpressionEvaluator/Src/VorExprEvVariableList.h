@@ -5,12 +5,13 @@
 //   list.find(VorExprEvTextView(L"a", 0, 1))  ->  the 3
 //
 // Each thread has one list (ofThread), emptied when an ExpressionsEvaluator is constructed on that thread and kept
-// until the next one is, whatever happens in between. Names are views, so their characters must stay as long as the list
-// holds them, unless keepNames has made them its own.
+// until the next one is, whatever happens in between. Names are views, so their characters must stay as long as the
+// list holds them, unless keepNames has made them its own.
 //
-// evaluateFormula goes a shorter way: it announces its variables, numbers with copied names that cost no memory of their
-// own, and the list makes variables of them only for who asks for one. Whoever computes a formula for many rows announces
-// the same names in the same places each time: a name that is still there from the time before is not copied again.
+// evaluateFormula goes a shorter way: it announces its variables, numbers with copied names that cost no memory of
+// their own, and the list makes variables of them only for who asks for one. Whoever computes a formula for many rows
+// announces the same names in the same places each time: a name that is still there from the time before is not copied
+// again.
 //
 // Invariant: the index is either empty or holds, for every name in the list, its newest variable.
 #pragma once

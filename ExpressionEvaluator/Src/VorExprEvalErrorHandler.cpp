@@ -26,6 +26,7 @@ const VorExprEvalError* VorExprEvalErrorHandler::oldest() const
     return pError;
 }
 
+// In a loop: an error does not own the one before it.
 void VorExprEvalErrorHandler::deleteErrors()
 {
     while (m_pHead != nullptr)

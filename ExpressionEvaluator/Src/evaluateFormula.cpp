@@ -1,3 +1,9 @@
+// "(%Weight+%Paint)*2" is computed in one of two ways, which give the same number, bit for bit:
+//   quickly   the variables are announced, and VorFormulaCalculator computes while it reads. It answers 0 for all that
+//             could go wrong, an unknown name or a divisor near zero, and raises no error.
+//   by tree   whatever the quick way declines, and all formulas while trees or stacks are traced. ExpressionsEvaluator
+//             tells what the formula is worth, and leaves its errors to be asked for.
+// Either way the thread's variables are those of this formula afterwards.
 #include "evaluateFormula.h"
 
 #include "ExpressionsEvaluator.h"
@@ -15,6 +21,7 @@ namespace
 {
 constexpr std::size_t kLongestFormula = std::numeric_limits<int>::max();
 
+// Looks at no more characters than it needs: a long formula is not measured for this.
 bool isTooShort(const wchar_t* formula)
 {
     std::size_t nLength = 0;
@@ -39,6 +46,8 @@ void addVariables(const wchar_t* const* names, const double* values, int count)
             variables.prepend(names[i], values[i]);
 }
 
+// The evaluator is made before a text without an operator is refused: it empties the list of what the quick way
+// announced.
 int evaluateByTree(const wchar_t* formula, const wchar_t* const* names, const double* values, int count, double& result)
 {
     const std::wstring_view text(formula);
@@ -55,6 +64,7 @@ int evaluateByTree(const wchar_t* formula, const wchar_t* const* names, const do
     return 1;
 }
 
+// A null formula leaves the thread's lists as they are. Any other empties both, even if it is refused.
 int evaluateOrThrow(const wchar_t* formula, const wchar_t* const* names, const double* values, int count,
                     double* result)
 {
@@ -82,6 +92,7 @@ int evaluateFormula(const wchar_t* formula, const wchar_t* const* names, const d
     {
         return evaluateOrThrow(formula, names, values, count, result);
     }
+    // No memory, as a rule. Callers in C could not catch anything.
     catch (...)
     {
         return 0;

@@ -22,7 +22,9 @@
 // Returns 0 with `*result` untouched when
 //   - the formula is null, shorter than four characters (on purpose, however valid), or has none of "*/+-=()",
 //   - `names` or `values` is null, or `count` is negative,
-//   - the parentheses do not balance, a name is unknown, a divisor lies within 0.0001 of zero, or a '=' has no left side.
-// The thread's variables and errors are then and after a success those of this formula, with names of their own.
+//   - the parentheses do not balance, a name is unknown, a divisor lies within 0.0001 of zero, or a '=' has no
+//     left side.
+// The thread's variables and errors are then and after a success those of this formula, with names of their own. A null
+// formula leaves both as they are.
 extern "C" MEK_EXPRESSION_API int evaluateFormula(const wchar_t* formula, const wchar_t* const* names,
                                                   const double* values, int count, double* result);

@@ -19,6 +19,7 @@ bool isComment(const std::wstring& line)
     return line.empty() || line[0] == L';' || line[0] == L'#';
 }
 
+// Brackets with nothing between them name no section, and are refused as an entry without '='.
 bool isSection(const std::wstring& line)
 {
     return line.size() > 2 && line.front() == L'[' && line.back() == L']';
@@ -36,6 +37,7 @@ KTIniReader::KTIniReader(const VorString& text) : m_text(text.getStringW(), stat
         m_nNext = 1;
 }
 
+// After a fault nothing more is read, so that line() stays the number of the line that has it.
 int KTIniReader::next()
 {
     while (m_fault.isEmpty() && m_nNext < m_text.size())
@@ -58,6 +60,8 @@ std::wstring KTIniReader::takeLine()
 }
 
 // entry := key '=' value
+// A line is refused for a zero character before anything else: whoever reads its texts up to their terminating zero
+// would see less of them than stands there.
 int KTIniReader::readEntry(const std::wstring& line)
 {
     const std::size_t zero = line.find(L'\0');

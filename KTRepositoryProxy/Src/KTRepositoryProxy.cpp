@@ -38,6 +38,7 @@ void setDefaults(const Settings& settings)
 }
 
 // False, with `number` untouched, for anything but digits with an optional sign, and for what 32 bits cannot hold.
+// Digits are read until the number is past 32 bits, and those left over then make the text none.
 bool readWholeNumber(const wchar_t* pText, int& number)
 {
     const bool isNegative = *pText == L'-';
@@ -55,7 +56,8 @@ bool readWholeNumber(const wchar_t* pText, int& number)
     return true;
 }
 
-// Adds the setting; false with a fault for a value that is no whole number.
+// Adds the setting; false with a fault for a value that is no whole number. The key is among the settings then all the
+// same: the caller gives up all of them.
 bool addSetting(const VorString& key, const VorString& value, Settings& settings, VorString& fault)
 {
     if (readWholeNumber(value.getStringW(), settings[key]))
@@ -140,6 +142,7 @@ int KTRepositoryProxy::readIni(const VorString& text, int& line, VorString& faul
     return 1;
 }
 
+// As with readIni(), nothing is stored before all variables have turned out well.
 int KTRepositoryProxy::readEnvironment(VorString& fault)
 {
     Settings settings;

@@ -13,6 +13,7 @@ extern "C" MEK_ROOTS_API void OutputDebugStringW(const wchar_t* text);
 using DebugOutputSink = void (*)(const wchar_t* text);
 
 // Sends debug output to `sink` from now on, null for standard error, and returns the sink before it. Process-wide and
-// safe from several threads; the sink is called on the writing thread.
+// safe from several threads; the sink is called on the writing thread. A sink that has been replaced may still be
+// called by a thread that was writing at that moment.
 MEK_ROOTS_API DebugOutputSink setDebugOutputSink(DebugOutputSink sink);
 #endif

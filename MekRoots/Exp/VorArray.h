@@ -1,7 +1,7 @@
 // The growable array of this system with all that belongs to it.
 //
 //   VorStringArray tokens;                                  // an array of texts with the usual policies
-//   VorArray<int, VorArrayMemCopyReallocator<int>> types;   // one of plain values, taken along byte by byte as it grows
+//   VorArray<int, VorArrayMemCopyReallocator<int>> types;   // one of plain values, copied byte by byte as it grows
 //   VorStringHashMap<int> typeOfToken;                      // a map from texts to numbers, built on such an array
 //
 // The array itself, with its lengths, is in VorArrayTemplate.h; where it gets its storage and how elements move there,

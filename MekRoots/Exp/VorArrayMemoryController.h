@@ -1,6 +1,6 @@
 // The policy of an array that obtains and frees its storage and ends the lives of its elements.
 //
-//   VorString* pTexts = VorArrayMemoryController<VorString>::allocate(8);    // room for eight, none of them constructed
+//   VorString* pTexts = VorArrayMemoryController<VorString>::allocate(8);    // room for eight, none constructed
 //   VorArrayMemoryController<VorString>::destroy(pTexts, 3);                 // ends the three that were
 //   VorArrayMemoryController<VorString>::deallocate(pTexts, 8);
 //

@@ -1,5 +1,5 @@
-// How arrays and their policies report misuse: under one source path and, whatever header they stand in, under the lines
-// by which callers have always told these reports apart.
+// How arrays and their policies report misuse: under one source path and, whatever header they stand in, under the
+// lines by which callers have always told these reports apart.
 //
 //   VorArrayMisuse::report(L"isValid( index )", VorArrayMisuse::kModifiableElementLine);
 //   VorAssert::reports()  ->  one entry { "isValid( index )", "MekRoots/Exp/VorArray", 516, count 1 }

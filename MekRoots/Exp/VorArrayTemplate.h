@@ -3,8 +3,8 @@
 //   VorStringArray tokens;                       // logical length 0, physical length 0, block of 8
 //   tokens.append(VorString(L"%Weight"));        // logical length 1, physical length 8
 //
-// Lengths are signed 32-bit. The logical length counts elements; the physical length follows the block rule below and is
-// what callers see; the capacity, the room there really is, grows by half once it is past a few elements, so that a
+// Lengths are signed 32-bit. The logical length counts elements; the physical length follows the block rule below and
+// is what callers see; the capacity, the room there really is, grows by half once it is past a few elements, so that a
 // million appends cost linear time whatever block was chosen. Only the elements below the logical length exist.
 //
 // Physical length: an append at index n beyond it makes it (n / block + 1) * block. setPhysicalLength keeps the storage
@@ -69,8 +69,8 @@ public:
     template <class... Arguments>
     T& emplace(Arguments&&... arguments);
 
-    // Appends `numElements` elements, the i-th of them what make(i) returns, made in its place. `make` must not refer to
-    // this array. Appends nothing for a count below 1.
+    // Appends `numElements` elements, the i-th of them what make(i) returns, made in its place. `make` must not refer
+    // to this array. Appends nothing for a count below 1.
     template <class Make>
     void appendMade(int numElements, Make make);
 
@@ -183,6 +183,7 @@ void VorArray<T, R, M>::append(const T* pElements, int numElements)
         VorArrayMisuse::report(L"pElements != NULL && numElements > 0", VorArrayMisuse::kElementsToAppendLine);
         return;
     }
+    // Own elements are found again by their index, since growing moves them.
     const bool isOwn = standsHere(pElements);
     const std::ptrdiff_t ownIndex = isOwn ? pElements - m_pElements : 0;
     makeRoomFor(lengthWith(numElements));
@@ -209,6 +210,7 @@ void VorArray<T, R, M>::appendMade(int numElements, Make make)
     if (numElements < 1)
         return;
     makeRoomFor(lengthWith(numElements));
+    // Counted one by one, so that the array is whole when `make` throws.
     T* pElement = m_pElements + m_nLength;
     for (int i = 0; i < numElements; ++i, ++pElement)
     {
@@ -319,6 +321,7 @@ void VorArray<T, R, M>::swap(int first, int second)
 template <class T, class R, class M>
 bool VorArray<T, R, M>::standsHere(const T* pElement) const
 {
+    // It orders any two pointers; '<' says nothing about pointers into different arrays.
     const std::less<const T*> isBefore;
     return m_pElements != nullptr && !isBefore(pElement, m_pElements) && isBefore(pElement, m_pElements + m_nLength);
 }
@@ -367,6 +370,7 @@ void VorArray<T, R, M>::makeRoomFor(int length)
 template <class T, class R, class M>
 void VorArray<T, R, M>::moveToCapacity(int capacity)
 {
+    // First, so that nothing has changed when there is no memory.
     T* pElements = M::allocate(capacity);
     R::relocate(pElements, m_pElements, m_nLength);
     M::deallocate(m_pElements, m_nCapacity);

@@ -25,7 +25,8 @@ struct VorAssertReport
 class MEK_ROOTS_API VorAssert
 {
 public:
-    // Called on the reporting thread, after the report is recorded. It must not throw.
+    // Called on the reporting thread, after the report is recorded. It must not throw. It may report itself, and must
+    // see to it that this ends.
     using Handler = void (*)(const wchar_t* expression, const wchar_t* sourcePath, int line);
 
     // Records one report. Null texts count as empty ones.

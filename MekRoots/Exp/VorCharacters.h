@@ -5,8 +5,8 @@
 //   VorCharacters::isBlank('\n')                        ->  false, a blank stands within a line
 //   VorCharacters::trimmed(L" a = b \r", L" \t\r")      ->  "a = b"
 //
-// These are the characters of ASCII in every locale; all others are neither digit nor letter nor space. Which characters
-// may surround a text differs from format to format, so whoever trims says which: there is no usual set.
+// These are the characters of ASCII in every locale; all others are neither digit nor letter nor space. Which
+// characters may surround a text differs from format to format, so whoever trims says which: there is no usual set.
 #pragma once
 
 #include <algorithm>

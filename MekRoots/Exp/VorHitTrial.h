@@ -7,8 +7,8 @@
 //   trial.hasFailed()                     ->  true: a table that finds so little costs more than it saves
 //   trial.begin();                        counts anew
 //
-// For tables of texts or numbers met before, each with numbers of looks and finds of its own: how much a find saves, and
-// a miss costs, is theirs to know.
+// For tables of texts or numbers met before, each with numbers of looks and finds of its own: how much a find saves,
+// and a miss costs, is theirs to know.
 #pragma once
 
 class VorHitTrial

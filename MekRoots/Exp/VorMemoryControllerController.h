@@ -1,7 +1,7 @@
 // Where the arrays, texts and value payloads of this system get their memory.
 //
-// Blocks of up to kLargestPooledBlock bytes come from a pool: pages of one thread each, cut in the order of addresses, so
-// that the millions of small payloads of a report cost a few instructions each and lie side by side in the order in
+// Blocks of up to kLargestPooledBlock bytes come from a pool: pages of one thread each, cut in the order of addresses,
+// so that the millions of small payloads of a report cost a few instructions each and lie side by side in the order in
 // which they were made. A block may be freed on another thread than the one that allocated it, and while thread-local
 // objects are destroyed. Larger blocks come from the system. Under AddressSanitizer every block does, so that leaks and
 // overruns are seen.
@@ -32,8 +32,8 @@ public:
     // The most bytes that are served as neighbours: an eighth of a page.
     static constexpr std::size_t kLargestNeighbourhood = 8192;
 
-    // `numBlocks` blocks of `blockSize` bytes, a multiple of 8, side by side for the price of one; each is given back by
-    // itself, as deallocateArray(pBlock, 1, blockSize). Null when the pool does not serve so much at once.
+    // `numBlocks` blocks of `blockSize` bytes, a multiple of 8, side by side for the price of one; each is given back
+    // by itself, as deallocateArray(pBlock, 1, blockSize). Null when the pool does not serve so much at once.
     static void* allocateNeighbours(std::size_t numBlocks, std::size_t blockSize);
 
     // Gives back what allocateArray returned for the same two numbers. Null is allowed.

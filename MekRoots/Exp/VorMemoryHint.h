@@ -6,8 +6,8 @@
 //       work(*pRow);
 //   }
 //
-// A hint changes nothing but time: any address will do, null and freed memory too. It is none where the compiler does not
-// know how to give it.
+// A hint changes nothing but time: any address will do, null and freed memory too. It is none where the compiler does
+// not know how to give it.
 #pragma once
 
 namespace VorMemoryHint

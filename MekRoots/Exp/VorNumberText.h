@@ -30,7 +30,8 @@ MEK_ROOTS_API int writeInteger(long long value, wchar_t* out);
 // As "%g": six significant digits, trailing zeros dropped. Needs kGeneralRoom characters.
 MEK_ROOTS_API int writeGeneral(double value, wchar_t* out);
 
-// As "%.*f", the exact decimal expansion correctly rounded; decimals from 0 to kMostDecimals. Needs fixedRoom(decimals).
+// As "%.*f", the exact decimal expansion correctly rounded; decimals from 0 to kMostDecimals. Needs
+// fixedRoom(decimals).
 MEK_ROOTS_API int writeFixed(double value, int decimals, wchar_t* out);
 
 // What a scan found at the start of a text.

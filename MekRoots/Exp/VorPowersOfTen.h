@@ -13,8 +13,8 @@
 
 namespace VorPowersOfTen
 {
-// Ten to the n is 5 to the n and n zero bits, which the exponent holds: a floating-point number is exact while 5 to the n
-// fits its digits.
+// Ten to the n is 5 to the n and n zero bits, which the exponent holds: a floating-point number is exact while 5 to the
+// n fits its digits.
 template <class Number>
 constexpr int largestExponent()
 {

@@ -98,6 +98,8 @@ VorStringHashMap<V>& VorStringHashMap<V>::operator=(const VorStringHashMap& othe
 template <class V>
 typename VorStringHashMap<V>::Node* VorStringHashMap<V>::findOrInsert(const VorString& key, V value, bool& inserted)
 {
+    // Before the look-up, so that the bucket found stays the right one. A key that is there already can make the map
+    // grow by it one node early.
     growFor(m_nCount + 1);
     const int bucket = bucketOf(key);
     Node* pNode = findInBucket(key, bucket);
@@ -150,9 +152,11 @@ void VorStringHashMap<V>::growFor(int numElements)
     const std::int64_t* pCount = kBucketCounts;
     while (*pCount < numElements)
         ++pCount;
+    // From here on the chains grow instead.
     if (*pCount > std::numeric_limits<int>::max())
         return;
 
+    // All buckets are there before the first node moves: without memory for them the map is as it was.
     BucketArray grown;
     grown.setLogicalLength(static_cast<int>(*pCount));
     std::swap(m_buckets, grown);

@@ -9,7 +9,8 @@ namespace
 {
 std::atomic<DebugOutputSink> s_sink{ nullptr };
 
-// Surrogates and values beyond Unicode stand for no character; they become the replacement character.
+// Surrogates and values beyond Unicode stand for no character; they become the replacement character. A wchar_t is a
+// whole character here: the platform where it is half of one has a debug output of its own.
 char32_t validCharacter(wchar_t character)
 {
     const auto value = static_cast<char32_t>(character);
@@ -17,8 +18,8 @@ char32_t validCharacter(wchar_t character)
     return value > 0x10FFFF || isSurrogate ? U'\xFFFD' : value;
 }
 
-// A byte of UTF-8 carries six bits of the character, the first one fewer and a mark of how many follow: U+00B2, which is
-// 00010 110010, is C2 B2.
+// A byte of UTF-8 carries six bits of the character, the first one fewer and a mark of how many follow: U+00B2, which
+// is 00010 110010, is C2 B2.
 void appendUtf8(std::string& bytes, char32_t character)
 {
     const auto add = [&bytes](char32_t byte) { bytes += static_cast<char>(static_cast<unsigned char>(byte)); };
@@ -31,6 +32,7 @@ void appendUtf8(std::string& bytes, char32_t character)
         addTrail(6 * i);
 }
 
+// One write for the whole text, so that the texts of several threads stand one behind the other.
 void writeToStandardError(const wchar_t* text)
 {
     std::string bytes;

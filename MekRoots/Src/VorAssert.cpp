@@ -18,6 +18,8 @@ Reports& theReports()
     return *pReports;
 }
 
+// By its characters: the same literal may stand at several addresses, one in each library that has it from a header. No
+// VorString is made of it, since that would be an allocation for every report.
 bool equalsText(const VorString& text, const wchar_t* other)
 {
     return std::wcscmp(text.getStringW(), other) == 0;
@@ -40,6 +42,7 @@ VorAssertReport& findOrAddSite(std::vector<VorAssertReport>& sites, const wchar_
 }
 }
 
+// A handler that another thread replaces meanwhile may be called once more.
 void VorAssert::vorAssert(const wchar_t* expression, const wchar_t* sourcePath, int line)
 {
     const wchar_t* expressionText = expression == nullptr ? L"" : expression;

@@ -111,6 +111,7 @@ public:
     const std::wstring& symbol() const { return m_symbol; }
 
 private:
+    // A comma may divide thousands or begin the decimals. As nobody can tell which, it is refused.
     eFault parseSize(double& size)
     {
         VorQuantityNumber number;
@@ -123,6 +124,8 @@ private:
     }
 
     // plain := number [ unit ]
+    // A digit in the place of the unit belongs to a grouped number, "1 234". The format of the transform is of no
+    // matter, as nothing is shown.
     eFault parsePlain(const VorQuantityNumber& number, double& size)
     {
         m_symbol = m_p;
@@ -143,6 +146,7 @@ private:
     }
 
     // marked := number mark { [ blanks | '-' ] number mark }, each mark smaller than the one before it
+    // What is carried stays within 64 bits: 15 digits of degrees, the most that isWhole() takes, are 3.6e18 seconds.
     eFault parseMarked(VorQuantityNumber number, double& size)
     {
         int mark = findMark(0);
@@ -159,6 +163,7 @@ private:
             skipBlanks(m_p);
             const int next = findMark(mark + 1);
             if (next == m_marks.numMarks)
+                // "7' 6" lacks a mark; behind the 6 of "7' 6x" stands something else.
                 return *m_p == 0 ? kNoMark : kNoQuantity;
             ++m_p;
             const unsigned int ratio = m_marks.pMarks[mark].size / m_marks.pMarks[next].size;
@@ -171,7 +176,8 @@ private:
         return kNoFault;
     }
 
-    // The first mark from `first` on that stands here; the number of marks when none does.
+    // The first mark from `first` on that stands here; the number of marks when none does. The end of the text is asked
+    // for apart, as std::wcschr finds a zero in every text.
     int findMark(int first) const
     {
         for (int i = first; i < m_marks.numMarks; ++i)
@@ -191,7 +197,8 @@ private:
             m_p = p;
     }
 
-    // On the decimal digits, as conversions are: 7.1' is 85.2", which a product of doubles misses.
+    // On the decimal digits, as conversions are: 7.1' is 85.2", which a product of doubles misses. A number that is not
+    // finite has no digits.
     double toModel(double number, unsigned int size) const
     {
         if (!std::isfinite(number))
@@ -242,6 +249,7 @@ int VorQuantityReader::read(const VorString& text, double& value) const
     return Parser(*m_pUnit, text).parse(value) == kNoFault ? 1 : 0;
 }
 
+// Reads the text a second time, so that read() need not keep what only a message wants.
 VorString VorQuantityReader::explain(const VorString& text) const
 {
     Parser parser(*m_pUnit, text);

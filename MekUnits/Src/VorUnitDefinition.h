@@ -33,6 +33,7 @@ struct VorUnitDefinition
 
     static constexpr std::uint64_t kLargestFactor = 1000000000000000000; // arithmetic on digits needs ten times that
 
-    // 1 for the unit in which the model keeps its values.
+    // 1 for the unit in which the model keeps its values. Units that happen to have the same numbers answer 1, too: t/m
+    // is as many kg/mm.
     int isOfModel() const { return layout == kPlainNumber && numerator == 1 && denominator == 1 ? 1 : 0; }
 };

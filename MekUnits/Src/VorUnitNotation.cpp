@@ -95,6 +95,8 @@ int VorUnitNotation::read(const VorString& text, MEKUnit& unit)
     return setDecimals(pUnit, numberOf(usual.precision), unit);
 }
 
+// The mark of the precision is left out where read() expects that very kind of precision: a fraction for feet and
+// inches, decimals for all others.
 VorString VorUnitNotation::write(const MEKUnit& unit)
 {
     const VorUnitDefinition* const pUnit = VorUnitsTransformArray::findUnit(unit.unit());

@@ -36,8 +36,8 @@ const wchar_t kDegreeSign = L'\u00B0';
 const wchar_t kMinuteMark = L'\'';
 const wchar_t kSecondMark = L'"'; // the last mark of either layout; huge values are seconds or inches alone
 
-// How far a product of a value and m_dPartsPerInternalUnit, relative to its size, can stand from the decimal number that
-// is shown: 6 roundings of half a unit in the last place, 7e-16 in all, with some room.
+// How far a product of a value and m_dPartsPerInternalUnit, relative to its size, can stand from the decimal number
+// that is shown: 6 roundings of half a unit in the last place, 7e-16 in all, with some room.
 const double kProductTolerance = 4e-15;
 
 // Products from here on have no tolerance below a half left.
@@ -72,9 +72,10 @@ unsigned int partsOf(int format)
 // Whole numbers up to this are exact doubles, as is then every product and sum of them up to this.
 constexpr std::uint64_t kLargestExact = std::uint64_t{ 1 } << 53;
 
-// Sets `scaled` to what scaleExactly says of `size`, a value without its sign; 0 with `scaled` untouched when `size` has
-// more than three decimals or one of the numbers is too large to be sure. A double next to a number of at most 15 digits
-// is shown as that very number, here as thousandths / 1000; what it becomes is then one quotient of two exact doubles.
+// Sets `scaled` to what scaleExactly says of `size`, a value without its sign; 0 with `scaled` untouched when `size`
+// has more than three decimals or one of the numbers is too large to be sure. A double next to a number of at most 15
+// digits is shown as that very number, here as thousandths / 1000; what it becomes is then one quotient of two exact
+// doubles.
 int scaleQuickly(double size, std::uint64_t numerator, std::uint64_t denominator, double& scaled)
 {
     constexpr double kMostThousandths = 1e15;
@@ -137,8 +138,9 @@ bool isHalfway(double size, std::uint64_t below, unsigned int numParts, const Vo
            static_cast<double>(numHalves * unit.numerator) / static_cast<double>(halvesPerUnit * unit.denominator);
 }
 
-// Rounds `product`, the parts of a value without its sign; 0 with `parts` untouched when it is close to the middle between
-// two parts, or too large to tell, infinite or undefined.
+// Rounds `product`, the parts of a value without its sign; 0 with `parts` untouched when it is close to the middle
+// between two parts, or too large to tell, infinite or undefined. The first comparison is written so that a NaN fails
+// it.
 int roundFarFromMiddle(double product, std::uint64_t& parts)
 {
     if (!(product < kQuickLimit))
@@ -205,6 +207,8 @@ void addNumber(VorQuantityText& text, const VorRoundedNumber& number, const Layo
     text.addFraction(number.part, layout.numParts);
 }
 
+// Inches show wherever feet do not, so that zero is 0" and never nothing. Behind feet a fraction alone has its zero in
+// front: 7'-0 1/2".
 void addFeetAndInches(VorQuantityText& text, const VorRoundedNumber& number, const Layout& layout)
 {
     const std::uint64_t feet = number.whole / kInchesPerFoot;
@@ -277,6 +281,8 @@ VorUnitTransform::VorUnitTransform(int unit, int format)
 {
 }
 
+// The other conversion is called by its full name, here as in formatInPieces: a derived class that overrides one of
+// them changes neither the other nor the texts.
 double VorUnitTransform::toDisplayUnits(double internalValue) const
 {
     const double quotient = scaleExactly(internalValue, m_pUnit->denominator, m_pUnit->numerator);
@@ -291,8 +297,8 @@ double VorUnitTransform::toInternalUnits(double displayValue) const
     return scaleExactly(displayValue, m_pUnit->numerator, m_pUnit->denominator);
 }
 
-// Plain decimals that are quickly told are made here and the rest elsewhere, so that most numbers of a report do not pay
-// for what others need.
+// Plain decimals that are quickly told are made here and the rest elsewhere, so that most numbers of a report do not
+// pay for what others need.
 VorString VorUnitTransform::formatValue(double internalValue, int suppressLastZeros, int showUnitSymbol,
                                         int suppressZeroFeet, int suppressZeroInch, wchar_t feetInchSeparator) const
 {
@@ -306,6 +312,8 @@ VorString VorUnitTransform::formatValue(double internalValue, int suppressLastZe
                           feetInchSeparator);
 }
 
+// Rounds as formatValue does, and on the decimal digits where that cannot tell. A number that does not fit even then
+// has too many digits before its point and is shown with an exponent.
 VorString VorUnitTransform::formatInPieces(double internalValue, int suppressLastZeros, int showUnitSymbol,
                                            int suppressZeroFeet, int suppressZeroInch, wchar_t feetInchSeparator) const
 {

@@ -22,6 +22,7 @@ int indexOf(VorUnitsTransformArray::eSystems system)
 VorUnitsManager::VorUnitsManager() : VorUnitsManager(metric()) {}
 
 // clang-format off
+// Here and in imperial() the units stand in the order of kSystems: getUnit() finds them by their place alone.
 VorUnitsManager VorUnitsManager::metric()
 {
     return VorUnitsManager(Units{ { MEKUnit(3, 3, 1),          // mm
@@ -64,6 +65,7 @@ void VorUnitsManager::setUnit(VorUnitsTransformArray::eSystems system, const MEK
     m_units[static_cast<std::size_t>(index)] = unit;
 }
 
+// The kind is looked at before the unit is set: "kg" for a distance is a mistake of the user and not one to report.
 int VorUnitsManager::setUnit(VorUnitsTransformArray::eSystems system, const VorString& notation)
 {
     MEKUnit unit = getUnit(system);

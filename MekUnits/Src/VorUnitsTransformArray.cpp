@@ -23,6 +23,7 @@ bool isAmong(std::wstring_view names, std::wstring_view word)
     return false;
 }
 
+// The empty text names no unit; it would be found in the list of a unit that has no names.
 bool isWritten(const VorUnitDefinition& unit, std::wstring_view symbol)
 {
     return !symbol.empty() && (symbol == unit.symbol || symbol == unit.asciiSymbol || isAmong(unit.names, symbol));
@@ -56,6 +57,7 @@ const VorUnitDefinition* VorUnitsTransformArray::findUnit(int number)
     return VorUnitCatalogue::findUnit(number);
 }
 
+// The first of them counts: a weight per distance is kg/mm, although t/m has the same numbers.
 const VorUnitDefinition* VorUnitsTransformArray::findUnitOfModel(eSystems system)
 {
     for (const VorUnitDefinition& unit : VorUnitCatalogue::kUnits)

@@ -66,6 +66,7 @@ public:
 
     void assign(const VorWaitingOperator<double>&)
     {
+        // The sign of a NaN is not known here, and a later statement could show it.
         if (std::isnan(m_value) || !m_operands.assign(m_assigned, m_value))
             m_bFails = true;
     }
@@ -81,6 +82,9 @@ private:
 };
 }
 
+// A step that fails is noticed only at the end. Until then the number is a wrong one and does no harm: what it is
+// assigned to is taken back with all other assignments. One reader reads all statements, as any of them may have the
+// operator that makes the text a formula.
 int VorFormulaCalculator::calculate(const wchar_t* formula, double& result)
 {
     VorFormulaOperands operands(m_variables);

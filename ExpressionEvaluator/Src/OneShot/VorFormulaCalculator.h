@@ -11,8 +11,8 @@
 // are numbers or known names, nothing is divided by anything near zero, an assignment is all of its statement and has a
 // name on its left, and variables are few. For any other formula 0 is answered, `result` is as before, the variables
 // are announced as they were, and ExpressionsEvaluator has to tell what it is worth. Where both answer, they give the
-// same number, bit for bit, that of ExpressionsEvaluator read from its text, and leave the same variables. A NaN is left
-// to ExpressionsEvaluator, too: its sign depends on which side of an operator comes first.
+// same number, bit for bit, that of ExpressionsEvaluator read from its text, and leave the same variables. A NaN is
+// left to ExpressionsEvaluator, too: its sign depends on which side of an operator comes first.
 #pragma once
 
 class VorExprEvVariableList;

@@ -26,8 +26,8 @@ public:
     {
     }
 
-    // Reads the operand at `pText`, which is in the same formula every time, and answers where it ends, the blanks behind
-    // it passed over; null, with `value` undefined, when there is none or it has no value.
+    // Reads the operand at `pText`, which is in the same formula every time, and answers where it ends, the blanks
+    // behind it passed over; null, with `value` undefined, when there is none or it has no value.
     const wchar_t* read(const wchar_t* pText, VorFormulaCharacters::eKind kind, double& value)
     {
         switch (kind)

@@ -28,7 +28,9 @@ void VorTreeBuilder::addNothing()
     m_operands.push(new VorExprEvTreeItemOperand(VorExprEvTextView()));
 }
 
-// The upper operand is the right side, the one below the left.
+// The upper operand is the right side, the one below the left. Of a single one, as in "5*", it is the right side, and
+// the left one is missing. The operator is made before both are taken: should there be no memory for it, they still
+// belong to the stack.
 void VorTreeBuilder::combine(const VorWaitingOperator<Left>& waiting)
 {
     auto pOperator = std::make_unique<VorExprEvTreeItemOperator>(m_text.operatorAt(waiting.left));

@@ -1,9 +1,10 @@
-// Most calls find a heap and a size that the pool serves, and are done here in a few instructions. VorMemoryThread takes
-// the others: the first block of a thread, large ones, and those of a thread that has ended.
+// Most calls find a heap and a size that the pool serves, and are done here in a few instructions. VorMemoryThread
+// takes the others: the first block of a thread, large ones, and those of a thread that has ended.
 #include "VorMemoryControllerController.h"
 
 #include "VorMemoryThread.h"
 
+// The limit stands in both headers, since the public one does not include that of the heap.
 static_assert(VorMemoryHeap::kLargestBlock == VorMemoryControllerController::kLargestPooledBlock, "one limit");
 
 void* VorMemoryControllerController::allocate(std::size_t size, bool isAlignedTo16)
@@ -26,6 +27,7 @@ void* VorMemoryControllerController::allocateNeighbours(std::size_t numBlocks, s
     return pBlocks;
 }
 
+// Neighbours come back here one by one, each with its own size and its own place in the count of live blocks.
 void VorMemoryControllerController::release(void* pBlock, std::size_t size)
 {
     VorMemoryHeap* pHeap = VorMemoryThread::heap();

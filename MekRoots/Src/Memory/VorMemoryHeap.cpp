@@ -1,8 +1,8 @@
 // A block's life, for 40 bytes asked for on thread A and given back on thread B: A cuts 40 bytes off its run. When the
 // run is too short, say 32 bytes are left of it, A puts these back and takes the next run of the same page, then of a
-// page to which enough has come back, then of an empty page. B sees that the page is A's and pushes the block onto one of
-// A's lists of blocks from elsewhere; A puts those back when its run is next too short, or, once A has ended, whoever
-// needs memory does.
+// page to which enough has come back, then of an empty page. B sees that the page is A's and pushes the block onto one
+// of A's lists of blocks from elsewhere; A puts those back when its run is next too short, or, once A has ended,
+// whoever needs memory does.
 //
 // The size of a block stands nowhere: whoever frees it knows it. A block that waits in a list from elsewhere holds its
 // size itself, unless it is a single granule and has no room for it.
@@ -25,7 +25,9 @@ struct EmptyPage
     EmptyPage* pNext;
 };
 
-// Puts a block at the head of a list that many threads add to and one empties.
+// Puts a block at the head of a list that many threads add to and one empties. Nobody takes a single block off, only
+// the whole list at once, so a head that is the same again after it was read is still the right one to link to. The
+// release lets whoever takes the list see what was written into the block.
 template <class Block>
 void push(std::atomic<Block*>& head, Block* pBlock)
 {
@@ -52,6 +54,7 @@ struct VorMemoryHeap::Shared
     VorMemoryHeap* takeIdle(bool withBlocksFromElsewhere);
 };
 
+// The last page is added first, so that pages are taken in the order of their addresses.
 void VorMemoryHeap::Shared::addChunk()
 {
     chunks.push_back(nullptr); // before there is a chunk to lose
@@ -69,6 +72,8 @@ void* VorMemoryHeap::Shared::takeEmptyPage()
     return pPage;
 }
 
+// Walks all heaps, of which there are as many as threads had one at the same time: threads that follow one another
+// share one.
 VorMemoryHeap* VorMemoryHeap::Shared::takeIdle(bool withBlocksFromElsewhere)
 {
     for (VorMemoryHeap* pHeap = pHeaps; pHeap != nullptr; pHeap = pHeap->m_pNextHeap)
@@ -87,6 +92,7 @@ VorMemoryHeap::Shared& VorMemoryHeap::shared()
     return *pShared;
 }
 
+// An idle heap comes first: it brings the pages with it that its last thread left.
 VorMemoryHeap& VorMemoryHeap::takeOne()
 {
     Shared& all = shared();
@@ -105,6 +111,8 @@ void VorMemoryHeap::handBack(VorMemoryHeap& heap)
     heap.m_isIdle = true;
 }
 
+// The count of a single heap may be below zero, since a block is counted up where it is made and down where it is
+// freed. Only the sum has a meaning.
 long long VorMemoryHeap::numLive()
 {
     Shared& all = shared();
@@ -115,6 +123,9 @@ long long VorMemoryHeap::numLive()
     return numLive;
 }
 
+// Comes here when the run is too short, or does not stand at a multiple of 16 where the block must. The gap is asked
+// for in either case: where the next run stands is known only once there is one. Blocks from elsewhere are put back
+// first, since the next run may be made of them.
 void* VorMemoryHeap::allocateSlowly(std::size_t size, bool isAlignedTo16)
 {
     if (hasBlocksFromElsewhere())
@@ -132,8 +143,9 @@ void* VorMemoryHeap::allocateSlowly(std::size_t size, bool isAlignedTo16)
     return cut(size);
 }
 
-// Makes the run one of at least `size` bytes. Its rest goes back first, so that the next run may be the present one with
-// what has come back behind it.
+// Makes the run one of at least `size` bytes. Its rest goes back first, so that the next run may be the present one
+// with what has come back behind it. There is no run while the next one is looked for: should there be no memory for
+// another page, nothing of the present one is cut twice.
 void VorMemoryHeap::takeNextRun(std::size_t size)
 {
     if (m_pPage != nullptr)
@@ -172,7 +184,8 @@ void VorMemoryHeap::enterNextPage()
 }
 
 // Memory for a page: an empty one, if need be one that is empty only once the blocks are put back that other threads
-// freed for heaps now idle.
+// freed for heaps now idle. The lock is not held while they are put back, as review() takes it for every page that
+// becomes empty.
 void* VorMemoryHeap::takeMemory()
 {
     Shared& all = shared();
@@ -209,6 +222,8 @@ void VorMemoryHeap::review(VorMemoryPage& page)
     all.addEmptyPage(&page);
 }
 
+// Runs on the thread that frees, while the thread of this heap may be at work: nothing but the two lists may be
+// touched. What is too small to hold its size is one granule, as sizes are rounded up to granules.
 void VorMemoryHeap::takeFromElsewhere(void* pBlock, std::size_t size)
 {
     if (size < sizeof(LargeForeignBlock))
@@ -217,6 +232,7 @@ void VorMemoryHeap::takeFromElsewhere(void* pBlock, std::size_t size)
         push(m_pLargeFromElsewhere, ::new (pBlock) LargeForeignBlock{ nullptr, size });
 }
 
+// A link is read before its block is put back: that may be the last one of its page, which is anybody's then.
 void VorMemoryHeap::collectFromElsewhere()
 {
     ForeignBlock* pSmall = m_pFromElsewhere.exchange(nullptr, std::memory_order_acquire);

@@ -69,7 +69,8 @@ public:
             putBack(page, pBlock, size);
     }
 
-    // Counts blocks that are allocated, or with -1 freed, by this heap's thread outside the heap; its own count already.
+    // Counts blocks that this heap's thread allocates, or with -1 frees, outside the heap. Those of the heap are
+    // counted already.
     void addLive(long long change)
     {
         m_nNumLive.store(m_nNumLive.load(std::memory_order_relaxed) + change, std::memory_order_relaxed);
@@ -109,6 +110,8 @@ private:
     void leavePage();
     static void* takeMemory();
 
+    // Most blocks come back to a page in use and are done here; a page that was left is looked at again with each of
+    // its blocks.
     void putBack(VorMemoryPage& page, void* pBlock, std::size_t size)
     {
         page.putBack(pBlock, size);

@@ -1,5 +1,5 @@
-// A page of the pool: 64 KB in which blocks of all sizes lie side by side, and one bit for each 8 bytes, a granule, that
-// says whether it is free.
+// A page of the pool: 64 KB in which blocks of all sizes lie side by side, and one bit for each 8 bytes, a granule,
+// that says whether it is free.
 //
 //   0 ------------------------- page ------------------------- kSize
 //   | head, bits | item | tuples ... | 8 | 8 | 8 | text | item | ...
@@ -104,7 +104,8 @@ public:
 
     bool isEmpty() const { return m_nNumFree == kNumGranules - kFirstGranule; }
 
-    // Whether a search for runs is worth while: an eighth of the page has come back since the last one began. Arbitrary.
+    // Whether a search for runs is worth while: an eighth of the page has come back since the last one began.
+    // Arbitrary.
     bool isWorthOffering() const { return m_nNumReturned >= kNumGranules / 8; }
 
     bool isInUse = false; // kept by the heap: true for its current page and for offered ones

@@ -41,6 +41,7 @@ public:
     VorMemoryHeap* operator->() const { return s_pHeap; }
 };
 
+// After the thread's end nothing is left that would be destroyed later and hand this heap back; HeapForOneCall does it.
 void VorMemoryThread::beginUseOfHeap()
 {
     s_pHeap = &VorMemoryHeap::takeOne();
@@ -56,6 +57,7 @@ void VorMemoryThread::endUseOfHeap()
     s_pHeap = nullptr;
 }
 
+// Blocks of the system need a heap, too: it counts them among the live ones.
 void* VorMemoryThread::allocate(std::size_t size, bool isAlignedTo16)
 {
     if (size == 0)

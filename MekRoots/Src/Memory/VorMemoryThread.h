@@ -1,5 +1,5 @@
-// A thread's heap, and what the pool does where there is none: the first block of a thread, blocks too large for the pool,
-// and whatever the thread's last objects still free when its heap has gone to the next thread.
+// A thread's heap, and what the pool does where there is none: the first block of a thread, blocks too large for the
+// pool, and whatever the thread's last objects still free when its heap has gone to the next thread.
 #pragma once
 
 #include "VorMemoryHeap.h"

@@ -26,7 +26,7 @@ bool isHexDigit(wchar_t c)
     return isDigit(c) || (c >= L'a' && c <= L'f') || (c >= L'A' && c <= L'F');
 }
 
-// Answers the number of characters.
+// Answers the number of characters. What std::to_chars writes is ASCII, so that every byte is a character.
 int copyWide(const char* pFirst, const char* pEnd, wchar_t* out)
 {
     int length = 0;
@@ -35,7 +35,8 @@ int copyWide(const char* pFirst, const char* pEnd, wchar_t* out)
     return length;
 }
 
-// The characters of a text from left to right, zeros past its end.
+// The characters of a text from left to right, zeros past its end. So a rule looks ahead as far as it likes and need
+// not ask how much is left.
 class Reader
 {
 public:
@@ -111,7 +112,9 @@ void copyExponent(Reader& reader, wchar_t mark, std::string& narrow)
 }
 
 // Whether a number too large or too small for its type is the former: the decimal (or hexadecimal) place of its first
-// nonzero digit against its exponent.
+// nonzero digit against its exponent. "0.001e400" begins three places behind the point, and 400 is above 3: huge.
+// "1000e-500" begins four places before it, and -500 is below -4: tiny. There is a nonzero digit, as zero is in range
+// with any exponent; an exponent that 64 bits cannot hold decides by its sign.
 bool isHuge(const std::string& narrow, int exponentPerDigit)
 {
     const char mark = exponentPerDigit == 1 ? 'e' : 'p';
@@ -144,8 +147,9 @@ Number convert(const std::string& narrow, bool isHexadecimal)
     return isHuge(narrow, isHexadecimal ? 4 : 1) ? std::numeric_limits<Number>::infinity() : Number(0);
 }
 
-// Decimal numbers so short that their digits and the power of ten behind the point are exact: the quotient of the two is
-// the number nearest to the text. False with nothing passed for all others.
+// Decimal numbers so short that their digits and the power of ten behind the point are exact: the quotient of the two
+// is the number nearest to the text. False with nothing passed for all others. What stands behind the digits may belong
+// to the number as well: a digit too many, an exponent, the rest of "0x", a decimal comma. The general path knows.
 template <class Number>
 bool scanShortDecimal(Reader& reader, Number& value)
 {
@@ -202,7 +206,8 @@ bool scanDigits(Reader& reader, bool decimalComma, Number& value)
     return true;
 }
 
-// "(" letters, digits and underscores ")" after "nan"; passed over when whole.
+// "(" letters, digits and underscores ")" after "nan"; passed over when whole. One without its closing parenthesis is
+// left where it stands.
 void skipNanPayload(Reader& reader)
 {
     if (reader.peek() != L'(')
@@ -273,6 +278,7 @@ int VorNumberText::writeFixed(double value, int decimals, wchar_t* out)
     return copyWide(narrow, result.ptr, out);
 }
 
+// The sign is put on at the end and not by a negation, so that "-0" and "-nan" have theirs.
 double VorNumberText::scanDouble(const wchar_t* text, const wchar_t*& end, int decimalComma)
 {
     Reader reader(text, text + std::char_traits<wchar_t>::length(text));

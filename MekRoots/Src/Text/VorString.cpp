@@ -26,7 +26,8 @@ int sign(Number a, Number b)
     return a < b ? -1 : (b < a ? 1 : 0);
 }
 
-// Position of the first [pWanted, pWanted + wantedLength) in `text` at or after `start`, or -1.
+// Position of the first [pWanted, pWanted + wantedLength) in `text` at or after `start`, or -1. The end of the text
+// means that nothing was found, but the empty text is found there, too.
 int findCharacters(const VorString& text, const wchar_t* pWanted, int wantedLength, int start)
 {
     start = std::max(start, 0);
@@ -38,6 +39,7 @@ int findCharacters(const VorString& text, const wchar_t* pWanted, int wantedLeng
     return pFound == pEnd && wantedLength > 0 ? -1 : static_cast<int>(pFound - pFirst);
 }
 
+// Zero characters are compared like any others; they end no text here.
 int compareCharacters(const wchar_t* pFirst, int firstLength, const wchar_t* pSecond, int secondLength)
 {
     const int shared = std::min(firstLength, secondLength);
@@ -136,6 +138,7 @@ int VorString::find(const wchar_t* text, int start) const
     return findCharacters(*this, text == nullptr ? L"" : text, textLength(text), start);
 }
 
+// Where nothing is cut off, left and right answer this very text, which costs a user and no block.
 VorString VorString::left(int n) const
 {
     const int numKept = std::clamp(n, 0, length());
@@ -192,6 +195,7 @@ double VorString::toDouble(const wchar_t* text, int flag)
     return text == nullptr ? 0.0 : VorNumberText::scanDouble(text, pEnd, flag);
 }
 
+// An empty text takes over the block of the other one.
 VorString& VorString::operator+=(const VorString& other)
 {
     if (isEmpty())
@@ -213,6 +217,8 @@ VorString& VorString::operator+=(wchar_t character)
     return *this;
 }
 
+// When the characters are part of this text, a second user holds their block: makeRoomAtEnd() must take a new one then,
+// and the old one stays until they are copied.
 void VorString::append(const wchar_t* text, int length)
 {
     if (text == nullptr || length < 1)
@@ -232,6 +238,7 @@ bool VorString::equals(const VorString& other) const
     return length() == other.length() && std::equal(getStringW(), getStringW() + length(), other.getStringW());
 }
 
+// std::less orders any two pointers; '<' says nothing about pointers into different blocks.
 bool VorString::holdsCharacter(const wchar_t* pCharacter) const
 {
     const std::less<const wchar_t*> isBefore;
@@ -239,7 +246,9 @@ bool VorString::holdsCharacter(const wchar_t* pCharacter) const
 }
 
 // Lengthens the text by `numCharacters`, which the caller writes to the place returned. The block is this text's own
-// afterwards, with room to spare when the text has grown before.
+// afterwards, with room to spare when the text has grown before. The room grows by half, so that a text put together
+// from many pieces is copied about twice in all. The acquire belongs to the release of a user that has just gone on
+// another thread: it has read its last before this one writes.
 wchar_t* VorString::makeRoomAtEnd(int numCharacters)
 {
     const int oldLength = length();
@@ -276,8 +285,8 @@ int VorString::compare(const VorString& a, const VorString& b, int n)
     return compareCharacters(a.getStringW(), std::min(a.length(), n), b.getStringW(), std::min(b.length(), n));
 }
 
-// "B2x" against "B10": the letters are equal, the runs 2 and 10 are not and decide. A digit against another character is
-// compared as a character.
+// "B2x" against "B10": the letters are equal, the runs 2 and 10 are not and decide. A digit against another character
+// is compared as a character.
 int VorString::compareWithNumbers(const VorString& a, const VorString& b)
 {
     if (a.sharesTextWith(b))
@@ -325,6 +334,8 @@ int VorString::strCompareNoCase(const void* pFirst, const void* pSecond)
     return sign(first.length(), second.length());
 }
 
+// Every round passes over a run of delimiters and takes what stands before the next one. A run at the end of the text
+// leaves an empty piece, which is dropped.
 void VorString::getTokens(const VorString& text, VorStringArray& pieces, const VorString& delimiters)
 {
     // Copies, since both may be elements of `pieces`. NOLINTBEGIN(performance-unnecessary-copy-initialization)

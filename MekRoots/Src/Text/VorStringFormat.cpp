@@ -60,6 +60,7 @@ public:
     double takeDouble() { return va_arg(m_list, double); }
     const wchar_t* takeText() { return va_arg(m_list, const wchar_t*); }
 
+    // Arguments shorter than an int are passed as one and cut back here: "%hhd" shows 300 as 44.
     long long takeSigned(eSize size)
     {
         switch (size)
@@ -129,6 +130,7 @@ private:
         directive.width = -directive.width;
     }
 
+    // A point alone asks for a precision of 0; a negative '*' is no precision.
     void readPrecision(Directive& directive)
     {
         if (*m_pText != L'.')
@@ -184,7 +186,8 @@ void appendPadded(VorString& out, const Directive& directive, const wchar_t* tex
 }
 
 // Appends the sign or base mark, zeros up to the width when asked for, and the digits: "-" and "42" are "-0042" in
-// "%05d".
+// "%05d". Zeros give way to a '-' flag. The caller says where else they must not stand: integers with a precision,
+// infinities and NaNs are filled up with blanks.
 void appendNumber(VorString& out, const Directive& directive, const std::string& mark, const std::string& digits,
                   bool mayPadWithZeros)
 {
@@ -197,6 +200,7 @@ void appendNumber(VorString& out, const Directive& directive, const std::string&
     appendPadded(out, directive, text.data(), static_cast<int>(text.size()));
 }
 
+// Of the two flags for numbers that are not negative, '+' beats the blank.
 std::string signMark(const Directive& directive, bool isNegative)
 {
     return isNegative ? "-" : (directive.showsPlus ? "+" : (directive.showsBlank ? " " : ""));
@@ -228,6 +232,8 @@ void appendSigned(VorString& out, const Directive& directive, long long value)
     appendNumber(out, directive, signMark(directive, value < 0), digits, directive.precision < 0);
 }
 
+// The alternate form marks a hexadecimal number with "0x", unless it is 0, and an octal one with a zero in front,
+// unless it has one.
 void appendUnsigned(VorString& out, const Directive& directive, unsigned long long value)
 {
     const bool isHexadecimal = directive.conversion == L'x' || directive.conversion == L'X';
@@ -254,7 +260,8 @@ std::string floatDigits(double magnitude, std::chars_format format, int precisio
     return digits;
 }
 
-// "%#g": all significant digits, trailing zeros too.
+// "%#g": all significant digits, trailing zeros too. Which form it is depends on the exponent after rounding: 9.99 to
+// two digits is 1.0e+01, and shown as "10.".
 std::string generalDigitsWithZeros(double magnitude, int precision)
 {
     const int numDigits = std::max(precision, 1);
@@ -293,6 +300,7 @@ std::string directiveDigits(const Directive& directive, double magnitude)
     return digits;
 }
 
+// The sign is the bit of the number: "-0.0" has a minus, although it is not below zero.
 void appendFloat(VorString& out, const Directive& directive, double value)
 {
     std::string digits = directiveDigits(directive, std::fabs(value));
@@ -301,6 +309,7 @@ void appendFloat(VorString& out, const Directive& directive, double value)
     appendNumber(out, directive, signMark(directive, std::signbit(value)), digits, std::isfinite(value));
 }
 
+// With a precision the text need not end in a zero, so no more of its characters are looked at than will be shown.
 void appendText(VorString& out, const Directive& directive, const wchar_t* text)
 {
     const wchar_t* pFirst = text == nullptr ? L"(null)" : text;
@@ -339,7 +348,8 @@ bool appendConverted(VorString& out, const Directive& directive, Arguments& argu
     }
 }
 
-// Appends what the directive at `pDirective`, which points to its '%', gives; returns the position after it.
+// Appends what the directive at `pDirective`, which points to its '%', gives; returns the position after it. Of "50%"
+// the '%' is the whole directive, and stands in the text.
 const wchar_t* appendDirective(VorString& out, const wchar_t* pDirective, Arguments& arguments)
 {
     Directive directive;

@@ -10,8 +10,8 @@ namespace VorUnitCatalogue
 using Systems = VorUnitsTransformArray;
 using Unit = VorUnitDefinition;
 
-// Where factors come from. The international yard is 0.9144 m, so the inch is 25.4 mm and the foot 304.8 mm, and the pound is
-// 0.45359237 kg, all exactly.
+// Where factors come from. The international yard is 0.9144 m, so the inch is 25.4 mm and the foot 304.8 mm, and the
+// pound is 0.45359237 kg, all exactly.
 inline constexpr wchar_t kSi[] = L"SI (NIST SP 811)";
 inline constexpr wchar_t kBesideSi[] = L"beside the SI (NIST SP 811, table 6)";
 inline constexpr wchar_t kAppendixB[] = L"NIST SP 811, appendix B";

@@ -23,11 +23,13 @@ VorDecimalNumber::VorDecimalNumber(double value)
             m_digits[m_nNumDigits++] = static_cast<unsigned char>(*p - '0');
 
     int exponent = 0;
+    // The plus that std::to_chars writes is none that std::from_chars reads.
     std::from_chars(p[1] == '+' ? p + 2 : p + 1, end.ptr, exponent);
     m_nPointPosition = exponent + 1;
 }
 
-// From the last digit to the first, as on paper; the carry is a number of many digits.
+// From the last digit to the first, as on paper; the carry is a number of many digits. It stays below the factor, so
+// that what is added up in a step stays below ten times the factor, within 64 bits.
 void VorDecimalNumber::multiply(std::uint64_t factor)
 {
     std::uint64_t carry = 0;
@@ -53,7 +55,7 @@ void VorDecimalNumber::putInFront(std::uint64_t number)
         m_digits[i] = static_cast<unsigned char>(number % 10);
 }
 
-// Long division, digit by digit, as on paper.
+// Long division, digit by digit, as on paper. Zeros at the front of the quotient are not kept; the point moves instead.
 void VorDecimalNumber::divide(std::uint64_t divisor)
 {
     const VorDecimalNumber dividend = *this;
@@ -73,6 +75,8 @@ void VorDecimalNumber::divide(std::uint64_t divisor)
         m_digits[m_nNumDigits++] = 0;
 }
 
+// 9.96 to two digits: the 6 rounds up, both nines become zeros, and a 1 is put before them. Without the zeros that is
+// 1, with two digits before the point: 10.
 void VorDecimalNumber::roundToDigits(int numDigits)
 {
     if (numDigits >= m_nNumDigits)
@@ -98,8 +102,9 @@ void VorDecimalNumber::dropLastZeros()
         --m_nNumDigits;
 }
 
-// The whole part and the fraction are rounded apart: of 11.96875 in sixteenths, 0.96875 is 15.5 parts, rounded 16, which
-// is one more whole: 12 and no parts.
+// The whole part and the fraction are rounded apart: of 11.96875 in sixteenths, 0.96875 is 15.5 parts, rounded 16,
+// which is one more whole: 12 and no parts. Parts such as 0.03 begin with a zero behind the point, which is no digit of
+// theirs (lastDigit is negative); they are rounded down.
 int VorDecimalNumber::roundToParts(unsigned int numParts, VorRoundedNumber& rounded) const
 {
     if (m_nPointPosition > VorRoundedNumber::kMostDigits)
@@ -124,7 +129,8 @@ int VorDecimalNumber::roundToParts(unsigned int numParts, VorRoundedNumber& roun
     return 1;
 }
 
-// What stands behind the point: of 12.34 it is 0.34, of 0.0012 the number itself.
+// What stands behind the point: of 12.34 it is 0.34, of 0.0012 the number itself. Where nothing does, it is the digit
+// 0, as a number has at least one.
 VorDecimalNumber VorDecimalNumber::fraction() const
 {
     VorDecimalNumber result(0.0);
@@ -137,7 +143,8 @@ VorDecimalNumber VorDecimalNumber::fraction() const
     return result;
 }
 
-// What stands before the point, which is at most 15 digits here.
+// What stands before the point, which is at most 15 digits here. Zeros at the end may not be among the digits: 1200 can
+// be the digits 1 and 2 with the point behind four.
 std::uint64_t VorDecimalNumber::wholePart() const
 {
     std::uint64_t whole = 0;

@@ -16,6 +16,7 @@ std::wstring takeDigits(const wchar_t*& pText)
     return std::wstring(pBegin, pText);
 }
 
+// The caller has seen to it that there are at most kMostDigits of them, which 64 bits hold.
 std::uint64_t numberOf(const std::wstring& digits)
 {
     std::uint64_t number = 0;
@@ -25,6 +26,7 @@ std::uint64_t numberOf(const std::wstring& digits)
 }
 }
 
+// A fraction is tried first, since its numerator alone would be taken for a whole number.
 bool VorQuantityNumber::scan(const wchar_t*& pText)
 {
     const wchar_t* p = pText;
@@ -99,8 +101,8 @@ std::uint64_t VorQuantityNumber::wholeNumber() const
     return numberOf(m_whole);
 }
 
-// 1'-0.274" is 12 carried and the number 0.274. They are put together as text, "12.274", and read at once: the sum of the
-// two doubles is 12.274000000000001.
+// 1'-0.274" is 12 carried and the number 0.274. They are put together as text, "12.274", and read at once: the sum of
+// the two doubles is 12.274000000000001.
 double VorQuantityNumber::toDouble(std::uint64_t carried) const
 {
     if (m_denominator != 0)

@@ -11,7 +11,8 @@
 class VorQuantityNumber
 {
 public:
-    // Reads a number without sign at `pText` and moves `pText` behind it; false with `pText` untouched when there is none.
+    // Reads a number without sign at `pText` and moves `pText` behind it; false with `pText` untouched when there is
+    // none.
     //   number := digits [ gap fraction ] | fraction | ( digits [ '.' digits ] | '.' digits ) [ exponent ]
     //   fraction := digits '/' digits     smaller than one where it stands behind a whole number
     //   gap := blanks | '-'

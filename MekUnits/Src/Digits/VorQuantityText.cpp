@@ -57,6 +57,7 @@ VorString VorQuantityText::ofDecimal(bool isNegative, std::uint64_t parts, int n
     return VorString(pFirst, static_cast<int>(pEnd - pFirst));
 }
 
+// The length is moved on first, as digits are written from their end.
 void VorQuantityText::addInteger(std::uint64_t number)
 {
     const int numDigits = countDigits(number);
@@ -85,6 +86,7 @@ void VorQuantityText::addFraction(std::uint64_t part, std::uint64_t numParts)
     addInteger(numParts / divisor);
 }
 
+// Comes only with numbers too large for kMostDigits digits before the point, so that the exponent is never negative.
 void VorQuantityText::addWithExponent(VorDecimalNumber number)
 {
     number.roundToDigits(VorRoundedNumber::kMostDigits);

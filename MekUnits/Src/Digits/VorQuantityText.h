@@ -23,8 +23,8 @@ public:
     void addCharacter(wchar_t character) { m_text[m_nLength++] = character; }
     void addInteger(std::uint64_t number);
 
-    // "." and the digits of `part` of ten to `numDecimals`; with `suppressLastZeros` without trailing zeros, and nothing
-    // when there are only those.
+    // "." and the digits of `part` of ten to `numDecimals`; with `suppressLastZeros` without trailing zeros, and
+    // nothing when there are only those.
     void addDecimals(std::uint64_t part, int numDecimals, int suppressLastZeros);
 
     // "5/16": `part` of `numParts`, reduced.
