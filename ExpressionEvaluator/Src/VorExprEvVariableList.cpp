@@ -122,13 +122,13 @@ void VorExprEvVariableList::keepNames()
     std::size_t nLength = 0;
     for (const VorExprEvVariable* pVariable = m_pHead; pVariable != nullptr; pVariable = pVariable->next())
         nLength += pVariable->name().existingPart().size();
-    std::wstring names;
-    names.reserve(nLength); // so that the views stay good
+    std::vector<wchar_t> names; // a std::wstring would move short ones, and the views with them
+    names.reserve(nLength);     // so that the views stay good
     for (VorExprEvVariable* pVariable = m_pHead; pVariable != nullptr; pVariable = pVariable->next())
     {
         const std::wstring_view name = pVariable->name().existingPart();
         const wchar_t* pKept = names.data() + names.size();
-        names += name;
+        names.insert(names.end(), name.begin(), name.end());
         pVariable->setName(VorExprEvTextView(pKept, 0, pVariable->name().length(), static_cast<int>(name.size())));
     }
     m_names = std::move(names);

@@ -20,9 +20,9 @@
 
 #include <cstddef>
 #include <iterator>
-#include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 class MEK_EXPRESSION_API VorExprEvVariableList
 {
@@ -116,5 +116,5 @@ private:
     Announced* m_pAnnouncedEnd = m_announced;           // newer than all that are in the list
     Announced* m_pNamedEnd = m_announced;               // those before it have a name: their own, or of the time before
     wchar_t m_announcedNames[kMostAnnouncedCharacters]; // one after the other, in the order of m_announced
-    std::wstring m_names;                               // those kept
+    std::vector<wchar_t> m_names;                       // those kept
 };

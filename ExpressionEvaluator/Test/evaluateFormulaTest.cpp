@@ -416,6 +416,16 @@ TEST_F(evaluateFormulaTest, NothingOfTheCallersTextsIsLookedAtAfterwards)
     }
 }
 
+// The names of few characters once were kept in a place that was gone when the call returned.
+TEST_F(evaluateFormulaTest, NamesOfFewCharactersAreKeptBesideAFailedFormula)
+{
+    const wchar_t* const names[] = { L"a" };
+    const double values[] = { 2.0 };
+    ASSERT_EQ(0, evaluateFormula(L"a/0+1", names, values, 1, nullptr));
+
+    EXPECT_EQ(VorString(L"a=2.000000"), variables());
+}
+
 TEST_F(evaluateFormulaTest, NamesAreKeptHoweverManyAndLong)
 {
     for (const int numNames : { 3, 32, 33, 100 })
