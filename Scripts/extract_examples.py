@@ -9,8 +9,8 @@ An example is an indented block of a comment that holds a statement or a line "e
     //   weight.asString()  ->  "12.5"          what follows an arrow, or a statement and two blanks, is prose
 
 Each becomes the body of a function. What the examples of VorBomDataRow.h take as given stands in VorBomDataRow.inc in
-the folder GIVEN or a folder in it, which may lack it: declarations that come before each of them; what starts with #include, namespace,
-struct, class, template or using in the first column comes before all of them.
+the folder GIVEN or one in it, which may lack it: declarations that come before each of them; what starts with #include,
+namespace, struct, class, template or using in the first column comes before all of them.
 """
 
 import pathlib

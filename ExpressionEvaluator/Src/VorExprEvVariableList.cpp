@@ -53,7 +53,8 @@ int VorExprEvVariableList::announce(std::wstring_view name, double value)
     return 1;
 }
 
-// Whether the place holds that name from the time before. Names are short: a loop takes half the time of std::wcscmp.
+// Whether the place holds that name from the time before. Names are short: a loop is
+// no slower than std::wcscmp.
 bool VorExprEvVariableList::isStillNamed(const Announced* pPlace, const wchar_t* pName) const
 {
     if (pPlace >= m_pNamedEnd)

@@ -426,6 +426,38 @@ TEST_F(evaluateFormulaTest, NamesOfFewCharactersAreKeptBesideAFailedFormula)
     EXPECT_EQ(VorString(L"a=2.000000"), variables());
 }
 
+// Names are copied only where they differ from those of the call before: each call differs from the last in another way.
+TEST_F(evaluateFormulaTest, NamesFollowTheCallersFromCallToCall)
+{
+    struct Call
+    {
+        std::vector<const wchar_t*> names;
+        const wchar_t* formula;
+        double result;
+        const wchar_t* variables; // the newest first
+    };
+    const Call calls[] = {
+        { { L"%A", L"%Bolt", L"%C" }, L"%A+%Bolt*%C", 7.0, L"%C=3.000000 %Bolt=2.000000 %A=1.000000" },
+        { { L"%A", L"%Bolt", L"%C" }, L"%A+%Bolt+%C", 6.0, L"%C=3.000000 %Bolt=2.000000 %A=1.000000" },
+        { { L"%A", L"%Bo", L"%C" }, L"%C*10+%Bo", 32.0, L"%C=3.000000 %Bo=2.000000 %A=1.000000" },
+        { { L"%Longer", L"%Bo", L"%C" }, L"%C*10+%Bo", 32.0, L"%C=3.000000 %Bo=2.000000 %Longer=1.000000" },
+        { { L"%Longer", nullptr, L"%C" }, L"%C-%Longer", 2.0, L"%C=3.000000 %Longer=1.000000" },
+        { { L"%Longer", L"%Cx", L"%C" },
+          L"x=%C;x*%Cx*1",
+          6.0,
+          L"x=3.000000 %C=3.000000 %Cx=2.000000 %Longer=1.000000" },
+        { { L"%Longer", L"%Cx", L"%C" }, L"%Cx*%C", 6.0, L"%C=3.000000 %Cx=2.000000 %Longer=1.000000" },
+    };
+    const double values[] = { 1.0, 2.0, 3.0 };
+    for (const Call& call : calls)
+    {
+        double result = 0.0;
+        ASSERT_EQ(1, evaluateFormula(call.formula, call.names.data(), values, 3, &result)) << toUtf8(call.formula);
+        EXPECT_EQ(call.result, result) << toUtf8(call.formula);
+        EXPECT_EQ(VorString(call.variables), variables()) << toUtf8(call.formula);
+    }
+}
+
 TEST_F(evaluateFormulaTest, NamesAreKeptHoweverManyAndLong)
 {
     for (const int numNames : { 3, 32, 33, 100 })
