@@ -1,6 +1,6 @@
 #include "FindingCodes.h"
 
-#include <algorithm>
+#include "MistakeCodes.h"
 
 namespace mekbom::FindingCodes
 {
@@ -63,8 +63,10 @@ const std::vector<FindingCode>& all()
 
 const FindingCode* find(std::string_view name)
 {
-    const auto found =
-        std::find_if(all().begin(), all().end(), [name](const FindingCode& code) { return name == code.name; });
-    return found == all().end() ? nullptr : &*found;
+    for (const std::vector<FindingCode>* const pCodes : { &MistakeCodes::all(), &all() })
+        for (const FindingCode& code : *pCodes)
+            if (name == code.name)
+                return &code;
+    return nullptr;
 }
 }

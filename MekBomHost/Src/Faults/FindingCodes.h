@@ -5,7 +5,8 @@
 //   FindingCodes::find("MB710")->sentence    ->  "A cell of a column of numbers or quantities holds none."
 //
 // MB7xx are about parts lists, MB8xx about template files, MB9xx about options, settings, units, and files as such.
-// MB1xx to MB6xx are kept for the mistakes of template authors.
+// MB1xx to MB6xx, the mistakes of those who
+// write lists, are MistakeCodes.
 #pragma once
 
 #include "Finding.h"
@@ -25,6 +26,7 @@ struct FindingCode
 namespace FindingCodes
 {
 constexpr auto kError = Finding::kError;
+constexpr auto kWarning = Finding::kWarning;
 constexpr auto kNote = Finding::kNote;
 
 // Parts lists.
@@ -102,7 +104,7 @@ inline constexpr FindingCode kSettingUnused = { "MB917", kNote, "A settings file
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();
 
-// The code of that name, or null.
+// The code of that name, be it one of these or of MistakeCodes; null when there is none.
 const FindingCode* find(std::string_view name);
 }
 }

@@ -39,6 +39,11 @@ struct ReportRequest
     std::unique_ptr<ByteSource> pUnits; // an INI text of units in place of that word; may be null
     Pairs unitChoices;                  // of one kind each, over both: "length", "ft-in/16"
 
+    std::string where;                  // which rows the list is about, beside what the template says; empty for all
+    std::vector<std::string> rowTotals; // "%Weight": columns whose values are those of all pieces of their row
+    std::vector<std::string> allowed;   // "MB105": mistakes that stop no report
+    bool checksTotals = false;          // add up every total a second time, from the rows, and compare
+
     LineContents contents; // what the writer wants of lines beside their texts
 };
 }

@@ -30,10 +30,16 @@ VorString ReportTemplate::columnTokenOf(const VorBomItemBase& section, int tuple
         return VorString();
     if (index < named.size() && named[index].isEmpty() == 0)
         return named[index];
-    const auto isOwn = [&token](const ColumnStyle& column) { return column.token == token.token(); };
-    if (std::any_of(columns.begin(), columns.end(), isOwn) || token.getSummingRequest(summed) == 0)
+    if (columnStyleOf(token.token()) != nullptr || token.getSummingRequest(summed) == 0)
         return token.token();
     return summed;
+}
+
+const ColumnStyle* ReportTemplate::columnStyleOf(const VorString& columnToken) const
+{
+    const auto found = std::find_if(columns.begin(), columns.end(),
+                                    [&columnToken](const ColumnStyle& column) { return column.token == columnToken; });
+    return found == columns.end() ? nullptr : &*found;
 }
 
 std::vector<int> ReportTemplate::shownTuplesOf(const VorBomItemBase& section) const

@@ -15,6 +15,7 @@
 #include "VorBomTemplate.h"
 #include "VorBomTemplateItem.h"
 
+#include <map>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -22,9 +23,24 @@
 
 namespace mekbom
 {
-// How one column of the table is to look.
+// Where something stands in a template file, for findings about its meaning.
+struct TemplatePlace
+{
+    std::string path; // "/sections/0/tuples/1"
+    TextSpan span;
+};
+
+// How one column of the table is to look, and what its numbers are.
 struct ColumnStyle
 {
+    // How rows are sorted by the column's token, instead of as the catalogue of tokens says.
+    enum eOrder
+    {
+        kByCatalogue,
+        kNatural, // "P2" before "P10"
+        kPlain    // "P10" before "P2"
+    };
+
     enum eAlignment
     {
         kByType, // numbers right, texts left
@@ -36,6 +52,16 @@ struct ColumnStyle
     std::string label; // UTF-8; empty for one made of the token
     int width = 0;     // in characters on a terminal; 0 for what the longest text needs
     eAlignment alignment = kByType;
+
+    std::string unit;          // "m/2": the unit, with a precision, that the column's numbers are shown in; empty for
+                               // that of the list
+    int decimals = -1;         // of numbers without a unit; -1 for as many as the data have
+    bool hasThousands = false; // a blank between groups of three digits
+    eOrder order = kByCatalogue;
+    std::string result;    // what a formula gives: a kind ("weight"), "none", or a label of its own ("EUR"); empty
+                           // where that follows from the formula's tokens
+    bool isHidden = false; // the column is not printed, and tells lines apart all the same
+    TemplatePlace place;
 };
 
 // How the lines of one section are to look.
@@ -44,6 +70,25 @@ struct SectionStyle
     bool isPrinted = true;
     std::string label;                   // stands in the first column that the line leaves empty
     std::vector<VorString> columnTokens; // for each tuple the column that the file names; empty texts for the usual one
+    bool isSummary = false;              // its groups are printed without the lines below them
+    TemplatePlace place;
+    std::vector<TemplatePlace> tuplePlaces; // of each tuple
+};
+
+// What becomes of lines that read alike.
+enum eEqualLines
+{
+    kEqualLinesOpen,  // the template does not say: the engine's own way, as long as no printed total loses by it
+    kCountEqualLines, // one line, whose pieces and totals are those of all
+    kKeepEqualLines,  // a line each
+    kMergeEqualLines  // the engine's own way: one line, and the other rows leave all totals
+};
+
+// Of what kind a token is that the catalogue does not know.
+enum eOwnToken
+{
+    kOwnNumber,
+    kOwnText
 };
 
 struct ReportTemplate
@@ -52,6 +97,10 @@ struct ReportTemplate
     std::string title; // UTF-8
     QueryFilter queryFilter;
     std::vector<ColumnStyle> columns; // in the order of the table; columns not named here follow
+    eEqualLines equalLines = kEqualLinesOpen;
+    std::map<std::string, std::string> allowed; // mistakes that the template excuses, by code, with the reason
+    std::map<std::string, eOwnToken> ownTokens; // what the template says of tokens that the catalogue does not know
+    std::map<std::string, TemplatePlace> tokenUnitPlaces; // of the entries of "tokenUnits"
     std::unordered_map<const VorBomItemBase*, SectionStyle> sectionStyles;
 
     std::vector<Finding> findings; // what the file says to no effect; none of them is an error
@@ -64,6 +113,9 @@ struct ReportTemplate
     //   "%Weight"         ->  "%Weight"
     //   "%SumBy:%Weight"  ->  "%Weight", unless there is a column "%SumBy:%Weight"
     VorString columnTokenOf(const VorBomItemBase& section, int tupleIndex) const;
+
+    // The style of the column with that token; null when the template describes none.
+    const ColumnStyle* columnStyleOf(const VorString& columnToken) const;
 
     // Which of a section's tuples have a column; none when the section is not printed.
     std::vector<int> shownTuplesOf(const VorBomItemBase& section) const;

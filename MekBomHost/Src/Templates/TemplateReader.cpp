@@ -41,9 +41,18 @@ const Named<Section::eTemplateItemType> kSectionTypes[] = {
 const Named<ColumnStyle::eAlignment> kAlignments[] = { { "left", ColumnStyle::kLeft },
                                                        { "right", ColumnStyle::kRight } };
 
+const Named<ColumnStyle::eOrder> kOrders[] = { { "natural", ColumnStyle::kNatural }, { "plain", ColumnStyle::kPlain } };
+
+const Named<eEqualLines> kEqualLines[] = { { "count", kCountEqualLines },
+                                           { "keep", kKeepEqualLines },
+                                           { "merge", kMergeEqualLines } };
+
+const Named<eOwnToken> kOwnTokens[] = { { "number", kOwnNumber }, { "text", kOwnText } };
+
 const int kLeastInt = std::numeric_limits<int>::min();
 const int kGreatestInt = std::numeric_limits<int>::max();
 const std::size_t kNumUsedSiblings = 2;
+const int kMostDecimals = 15;  // a double has no more
 const int kWidestColumn = 200; // arbitrary: wider than any terminal line that one would read
 
 // Sets `value` to that of the entry whose name the member is. Leaves it alone when the member is missing or wrong.
@@ -69,8 +78,8 @@ ReportTemplate TemplateReader::build(const JsonNode& root)
 {
     m_template.pTemplate = std::make_unique<VorBomTemplate>();
     const JsonItem item{ root, std::string() };
-    if (m_json.isObjectOf(
-            item, { "$schema", "title", "queryFilter", "presentationOptions", "tokenUnits", "columns", "sections" }))
+    if (m_json.isObjectOf(item, { "$schema", "title", "queryFilter", "presentationOptions", "tokenUnits", "tokens",
+                                  "equalLines", "allow", "columns", "sections" }))
     {
         m_json.textOf(item, "$schema"); // of use to editors only
         m_template.title = m_json.textOf(item, "title");
@@ -78,6 +87,9 @@ ReportTemplate TemplateReader::build(const JsonNode& root)
             m_json.integerOf(item, "presentationOptions", kLeastInt, kGreatestInt, 0));
         readQueryFilter(item);
         readTokenUnits(item);
+        readOwnTokens(item);
+        readChoice(m_json, item, "equalLines", kEqualLines, m_template.equalLines);
+        readAllowed(item);
         readColumns(item);
         readSections(item, "sections", *m_template.pTemplate);
         if (m_template.pTemplate->child() == nullptr)
@@ -111,13 +123,33 @@ void TemplateReader::readTokenUnits(const JsonItem& root)
         const int type = m_json.choiceOf({ *pUnits, "/tokenUnits" }, member.key, UnitKinds::typeNames());
         m_template.pTemplate->getBomTemplateUnits()->AddTokenType(
             Utf8::toWide(member.key), type < 0 ? Units::kNoUnit : static_cast<Units::eTokenUnitType>(type));
+        m_template.tokenUnitPlaces[member.key] = { "/tokenUnits/" + member.key, member.keySpan };
     }
+}
+
+void TemplateReader::readOwnTokens(const JsonItem& root)
+{
+    const JsonNode* const pTokens = root.node.find("tokens");
+    if (pTokens == nullptr || !m_json.isOfKind({ *pTokens, "/tokens" }, JsonNode::kObject))
+        return;
+    for (const JsonNode& member : pTokens->children)
+        readChoice(m_json, { *pTokens, "/tokens" }, member.key, kOwnTokens, m_template.ownTokens[member.key]);
+}
+
+void TemplateReader::readAllowed(const JsonItem& root)
+{
+    const JsonNode* const pAllowed = root.node.find("allow");
+    if (pAllowed == nullptr || !m_json.isOfKind({ *pAllowed, "/allow" }, JsonNode::kObject))
+        return;
+    for (const JsonNode& member : pAllowed->children)
+        m_template.allowed[member.key] = m_json.requiredTextOf({ *pAllowed, "/allow" }, member.key);
 }
 
 void TemplateReader::readColumns(const JsonItem& root)
 {
     for (const JsonItem& column : m_json.elementsOf(root, "columns"))
-        if (m_json.isObjectOf(column, { "token", "label", "width", "align" }))
+        if (m_json.isObjectOf(column, { "token", "label", "width", "align", "unit", "decimals", "thousands", "order",
+                                        "result", "hidden" }))
             readColumn(column);
 }
 
@@ -129,6 +161,13 @@ void TemplateReader::readColumn(const JsonItem& column)
     style.label = m_json.textOf(column, "label");
     style.width = m_json.integerOf(column, "width", 1, kWidestColumn, 0);
     readChoice(m_json, column, "align", kAlignments, style.alignment);
+    style.unit = m_json.textOf(column, "unit");
+    style.decimals = m_json.integerOf(column, "decimals", 0, kMostDecimals, -1);
+    style.hasThousands = m_json.booleanOf(column, "thousands", false);
+    readChoice(m_json, column, "order", kOrders, style.order);
+    style.result = m_json.textOf(column, "result");
+    style.isHidden = m_json.booleanOf(column, "hidden", false);
+    style.place = { column.path, column.node.span };
     for (const ColumnStyle& other : m_template.columns)
         if (other.token == style.token)
             m_json.add(column, Finding::of(FindingCodes::kColumnDescribedTwice,
@@ -141,7 +180,7 @@ void TemplateReader::readSections(const JsonItem& parent, const std::string& key
 {
     const std::vector<JsonItem> sections = m_json.elementsOf(parent, key);
     for (const JsonItem& section : sections)
-        if (m_json.isObjectOf(section, { "type", "print", "label", "tuples", "children" }))
+        if (m_json.isObjectOf(section, { "type", "print", "label", "summary", "tuples", "children" }))
             readSection(section, parentItem);
     noteUnused(sections);
 }
@@ -171,6 +210,8 @@ void TemplateReader::readSection(const JsonItem& section, VorBomItemBase& parent
     SectionStyle& style = m_template.sectionStyles[pSection];
     style.isPrinted = m_json.booleanOf(section, "print", true);
     style.label = m_json.textOf(section, "label");
+    style.isSummary = m_json.booleanOf(section, "summary", false);
+    style.place = { section.path, section.node.span };
     for (const JsonItem& tuple : m_json.elementsOf(section, "tuples"))
         if (m_json.isObjectOf(tuple, { "token", "value", "column" }))
             readTuple(tuple, *pSection, style);
@@ -183,6 +224,8 @@ void TemplateReader::readTuple(const JsonItem& tuple, VorBomItemBase& sectionIte
 {
     const VorString token = Utf8::toWide(m_json.requiredTextOf(tuple, "token"));
     style.columnTokens.push_back(Utf8::toWide(m_json.textOf(tuple, "column")));
+    const JsonNode* const pToken = tuple.node.find("token");
+    style.tuplePlaces.push_back({ tuple.path + "/token", pToken == nullptr ? tuple.node.span : pToken->span });
     const JsonNode* const pValue = tuple.node.find("value");
     switch (pValue == nullptr ? JsonNode::kNull : pValue->kind)
     {

@@ -36,6 +36,8 @@ private:
     ReportTemplate build(const JsonNode& root);
     void readQueryFilter(const JsonItem& root);
     void readTokenUnits(const JsonItem& root);
+    void readOwnTokens(const JsonItem& root);
+    void readAllowed(const JsonItem& root);
     void readColumns(const JsonItem& root);
     void readColumn(const JsonItem& column);
     void readSections(const JsonItem& parent, const std::string& key, VorBomItemBase& parentItem);

@@ -109,6 +109,15 @@ CLI::App& ReportVerb::declareOn(CLI::App& parent)
     m_settings.declareOn(report, "One of the settings below");
     addFile(report, "-o,--output", m_output, "File to write, - for standard output [-]");
     m_inputUnits.declareOn(report, "Unit of a column whose header names none");
+    report.add_option("--where", m_where, "Which rows to list, such as \"%Material = 'S355' and %Length > 6 m\"")
+        ->type_name("CONDITION");
+    report.add_option("--row-totals", m_rowTotals, "Columns whose values are those of all pieces of a row")
+        ->type_name("TOKEN,...")
+        ->delimiter(',');
+    report.add_option("--allow", m_allowed, "Mistakes that stop no report, such as MB105")
+        ->type_name("CODE,...")
+        ->delimiter(',');
+    report.add_flag("--check-totals", m_checksTotals, "Add up every total a second time, from the rows");
     return report;
 }
 
@@ -133,6 +142,10 @@ ReportRequest ReportVerb::request() const
     request.inputUnits = m_inputUnits.pairs();
     request.unitChoices = m_unitChoices.pairs();
     request.settings = m_settings.pairs();
+    request.where = m_where;
+    request.rowTotals = m_rowTotals;
+    request.allowed = m_allowed;
+    request.checksTotals = m_checksTotals;
     request.pParts = parts();
     addTemplates(request);
     request.environment = environment();

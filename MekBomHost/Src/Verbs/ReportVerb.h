@@ -15,6 +15,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace mekbom
 {
@@ -44,6 +45,10 @@ private:
     std::string m_settingsFile; // empty for none
     PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
     std::string m_output = "-"; // a file or standard output
+    std::string m_where;
+    std::vector<std::string> m_rowTotals;
+    std::vector<std::string> m_allowed;
+    bool m_checksTotals = false;
     PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
 
     std::unique_ptr<ReportJob> m_pJob; // keeps what the last report was made of
