@@ -47,12 +47,13 @@ int numReadOf(const VorExprEvTextView& view)
     return static_cast<int>(pEnd - pStart);
 }
 
-FormulaNode operandOf(const VorExprEvTextView& view)
+FormulaNode operandOf(const VorExprEvTextView& view, const wchar_t* pFormula)
 {
     FormulaNode node;
     if (!view.hasText())
         return node;
     node.text = textOf(view);
+    node.start = static_cast<int>(view.text() + view.start() - pFormula);
     node.kind = FormulaNode::kName;
     if (VorExprEvTreeItemOperand::scanNumber(view, node.number))
     {
@@ -72,7 +73,7 @@ int takeSide(const VorExprEvTreeItem* pSide, std::vector<int>& waiting)
     return side;
 }
 
-int addTree(const VorExprEvTreeItem* pRoot, FormulaTree& tree)
+int addTree(const VorExprEvTreeItem* pRoot, const wchar_t* pFormula, FormulaTree& tree)
 {
     const std::vector<const VorExprEvTreeItem*> items = itemsOf(pRoot);
     std::vector<int> waiting;
@@ -89,7 +90,7 @@ int addTree(const VorExprEvTreeItem* pRoot, FormulaTree& tree)
             node.left = takeSide((*item)->left(), waiting);
         }
         else
-            node = operandOf(view);
+            node = operandOf(view, pFormula);
         waiting.push_back(tree.add(node));
     }
     return waiting.empty() ? FormulaNode::kNoSide : waiting.back();
@@ -105,7 +106,7 @@ EngineReading EngineReading::read(const VorString& formula)
         VorExpressionEvaluator parser;
         reading.isBalanced = parser.parse(statements.current()) != 0;
         if (reading.isBalanced)
-            reading.tree.endStatement(addTree(parser.root(), reading.tree));
+            reading.tree.endStatement(addTree(parser.root(), formula.getStringW(), reading.tree));
     }
     return reading;
 }

@@ -11,6 +11,7 @@
 #include "ConstantFactors.h"
 #include "Dimension.h"
 #include "EngineReading.h"
+#include "FormulaWalk.h"
 #include "InQuotes.h"
 #include "NumberText.h"
 #include "UnitKinds.h"
@@ -18,9 +19,7 @@
 
 #include "ExpressionEvaluator/Src/VorExprEvTreeItemOperator.h"
 
-#include <map>
 #include <utility>
-#include <vector>
 
 namespace mekbom
 {
@@ -100,15 +99,13 @@ public:
     const Term& result() const { return m_result; }
 
 private:
-    struct ByText
-    {
-        bool operator()(const VorString& a, const VorString& b) const { return VorString::compare(a, b) < 0; }
-    };
+    using Walk = FormulaWalk<Term, Derivation>;
+    friend Walk;
 
-    Term termOf(const FormulaNode& node, const FormulaTree& tree);
-    Term operandOf(const VorString& name);
-    Term assign(const FormulaNode& node, const FormulaTree& tree);
-    Term takeSide(int side);
+    Term ofNothing() { return ofConstant(0.0, "0"); }
+    Term ofNumber(const FormulaNode& node) { return ofConstant(node.number, Utf8::toBytes(node.text)); }
+    Term ofName(const VorString& name);
+    Term combine(const FormulaNode& node, Term left, Term right);
     Term sum(Term left, Term right);
     Term sumWithConstant(Term term, const FormulaConstant& constant);
     void settle(Term& term);
@@ -116,61 +113,23 @@ private:
     void conclude();
 
     const FormulaOperands& m_operands;
-    std::map<VorString, Term, ByText> m_variables; // assigned so far
-    std::vector<Term> m_waiting;                   // for the operators above them
     Term m_result;
     FormulaResult m_found;
+    bool m_bDividesArea = false; // by a length
 };
 
-// The result is that of the last statement that has an operand.
 FormulaResult Derivation::derive(const FormulaTree& tree)
 {
     if (tree.root() == FormulaNode::kNoSide)
         note(FormulaResult::kUnreadable, "there is nothing to compute");
-    auto root = tree.roots().begin();
-    for (std::size_t i = 0; i < tree.nodes().size(); ++i)
-    {
-        if (tree.nodes()[i].isComputed)
-            m_waiting.push_back(termOf(tree.nodes()[i], tree));
-        while (root != tree.roots().end() && *root == FormulaNode::kNoSide)
-            ++root;
-        if (root != tree.roots().end() && *root == static_cast<int>(i))
-        {
-            m_result = takeSide(*root);
-            ++root;
-        }
-    }
+    m_result = Walk(*this).run(tree);
     settle(m_result);
     conclude();
     return m_found;
 }
 
-// The right side was computed last.
-Term Derivation::termOf(const FormulaNode& node, const FormulaTree& tree)
+Term Derivation::ofName(const VorString& name)
 {
-    switch (node.kind)
-    {
-        case FormulaNode::kNothing: return ofConstant(0.0, "0");
-        case FormulaNode::kNumber: return ofConstant(node.number, Utf8::toBytes(node.text));
-        case FormulaNode::kName: return operandOf(node.text);
-        default: break;
-    }
-    if (node.operation == L'=')
-        return assign(node, tree);
-    Term right = takeSide(node.right);
-    Term left = takeSide(node.left);
-    if (left.isConstant && right.isConstant)
-        return compute(node.operation, left, right);
-    if (node.operation == L'*' || node.operation == L'/')
-        return multiply(node.operation == L'/', std::move(left), std::move(right));
-    return sum(std::move(left), std::move(right));
-}
-
-Term Derivation::operandOf(const VorString& name)
-{
-    const auto variable = m_variables.find(name);
-    if (variable != m_variables.end())
-        return variable->second;
     const FormulaOperand operand = m_operands(name);
     const std::string text = Utf8::toBytes(name);
     switch (operand.meaning)
@@ -184,21 +143,16 @@ Term Derivation::operandOf(const VorString& name)
     return ofUncertain(Dimension());
 }
 
-Term Derivation::assign(const FormulaNode& node, const FormulaTree& tree)
+Term Derivation::combine(const FormulaNode& node, Term left, Term right)
 {
-    Term term = takeSide(node.right);
-    if (node.left != FormulaNode::kNoSide)
-        m_variables[tree.nodes()[static_cast<std::size_t>(node.left)].text] = term;
-    return term;
-}
-
-Term Derivation::takeSide(int side)
-{
-    if (side == FormulaNode::kNoSide)
-        return ofConstant(0.0, "0");
-    Term term = std::move(m_waiting.back());
-    m_waiting.pop_back();
-    return term;
+    if (left.isConstant && right.isConstant)
+        return compute(node.operation, left, right);
+    const bool isQuotient = node.operation == L'/';
+    m_bDividesArea = m_bDividesArea || (isQuotient && left.dimension.kind() == VorBomTemplateUnits::kAreaUnit &&
+                                        right.dimension.kind() == VorBomTemplateUnits::kDistanceUnit);
+    if (isQuotient || node.operation == L'*')
+        return multiply(isQuotient, std::move(left), std::move(right));
+    return sum(std::move(left), std::move(right));
 }
 
 Term Derivation::sum(Term left, Term right)
@@ -255,6 +209,7 @@ void Derivation::conclude()
         return;
     m_found.measure = isFree ? FormulaResult::kPlain : FormulaResult::kKind;
     m_found.kind = kind;
+    m_found.mayBeAreaPerLength = m_bDividesArea && kind == VorBomTemplateUnits::kDistanceUnit;
 }
 
 bool contradicts(const Term& result, FormulaResult::eReason reason, VorBomTemplateUnits::eTokenUnitType declared)
@@ -285,6 +240,7 @@ FormulaResult FormulaResult::of(const VorString& formula, const FormulaOperands&
         return result;
     result.measure = kPlain;
     result.kind = VorBomTemplateUnits::kNoUnit;
+    result.mayBeAreaPerLength = false;
     if (const UnitKind* const pKind = UnitKinds::find(declared))
     {
         result.measure = kKind;

@@ -47,8 +47,12 @@ struct FormulaResult
     eReason reason = kNone;                                                  // why derive() could not tell, which may
                                                                              // have been declared nevertheless
     std::string what;                                                        // the reason in words, UTF-8
-    std::string label;         // what a column calls it, other than a kind: "EUR"; UTF-8
+    bool mayBeAreaPerLength = false; // a length that is an area divided by a length
+    std::string label;               // what a column calls it, other than a kind: "EUR"; UTF-8
     std::string contradiction; // why it cannot be what its column says: "is area, declared as weight"; empty for none
+
+    // Whether nothing is known of its measure although every token is.
+    bool isOfKnownTokens() const { return reason == kNoKind || reason == kHiddenUnit || reason == kUnlikeSum; }
 
     // What follows from the formula and its operands alone.
     static FormulaResult derive(const VorString& formula, const FormulaOperands& operands);

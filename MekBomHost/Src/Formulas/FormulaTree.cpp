@@ -8,9 +8,8 @@
 // and so on. No depth of tree needs a deep stack of calls.
 #include "FormulaTree.h"
 
+#include "NumberText.h"
 #include "Utf8.h"
-
-#include <charconv>
 
 namespace mekbom
 {
@@ -31,13 +30,6 @@ constexpr Piece ofCharacter(char character)
     return { 0, character };
 }
 
-std::string shortestText(double number)
-{
-    char text[24];
-    const std::to_chars_result end = std::to_chars(text, text + sizeof(text), static_cast<float>(number));
-    return std::string(text, end.ptr);
-}
-
 VorString withoutZeros(const VorString& text)
 {
     return VorString(text.getStringW()); // up to the first
@@ -46,7 +38,7 @@ VorString withoutZeros(const VorString& text)
 std::string operandText(const FormulaNode& node)
 {
     if (node.kind == FormulaNode::kNumber && node.numRead != node.text.length())
-        return shortestText(node.number);
+        return singleText(static_cast<float>(node.number));
     return Utf8::toBytes(withoutZeros(node.text));
 }
 }
@@ -95,14 +87,15 @@ std::string FormulaTree::text() const
         text += separator;
         separator = ";";
         if (root != FormulaNode::kNoSide)
-            writeStatement(root, text);
+            text += textOf(root);
     }
     return text;
 }
 
 // An assignment that is a whole statement needs no brackets.
-void FormulaTree::writeStatement(int root, std::string& text) const
+std::string FormulaTree::textOf(int root) const
 {
+    std::string text;
     std::vector<Piece> pending = { ofNode(root) };
     while (!pending.empty())
     {
@@ -134,5 +127,6 @@ void FormulaTree::writeStatement(int root, std::string& text) const
         pending.push_back(ofCharacter(static_cast<char>(node.operation)));
         pending.push_back(ofNode(node.left));
     }
+    return text;
 }
 }

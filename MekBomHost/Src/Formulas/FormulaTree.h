@@ -36,6 +36,7 @@ struct FormulaNode
     wchar_t operation = 0;   // of an operator: one of "*/+-="
     int left = kNoSide; // of an operator: index into the nodes; kNoSide where the formula has none, which counts as 0
     int right = kNoSide;
+    int start = 0;       // of a number or a name: where it stands in the formula
     double number = 0.0; // of a number: what the engine reads it as, in single precision
     VorString text;  // as written; a name may end in zero characters, and of the left side of a negation it is empty
     int numRead = 0; // of a number: how many characters from its first on make it up; they may be fewer than those
@@ -65,9 +66,11 @@ public:
     //   "a=4;2,5*-a"  ->  "a=4;(2*(-a))"
     std::string text() const;
 
+    // The same of what stands below one node.
+    std::string textOf(int node) const;
+
 private:
     void markSides(const FormulaNode& node);
-    void writeStatement(int root, std::string& text) const;
 
     std::vector<FormulaNode> m_nodes;
     std::vector<int> m_roots;
