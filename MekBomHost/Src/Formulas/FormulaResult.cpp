@@ -128,9 +128,11 @@ FormulaResult Derivation::derive(const FormulaTree& tree)
     return m_found;
 }
 
+// No operand has a name that reaches beyond the formula.
 Term Derivation::ofName(const VorString& name)
 {
-    const FormulaOperand operand = m_operands(name);
+    const bool isWithinFormula = name == VorString(name.getStringW());
+    const FormulaOperand operand = isWithinFormula ? m_operands(name) : FormulaOperand();
     const std::string text = Utf8::toBytes(name);
     switch (operand.meaning)
     {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace mekbom
 {
@@ -145,6 +146,20 @@ TEST(FormulaResultTest, VariablesCarryWhatTheyWereAssigned)
         { L"x=%Length ;2*x", "nobody knows \"x?\"" }, // no variable has that name with a zero character behind it
     };
     expectMeasures(cases);
+}
+
+TEST(FormulaResultTest, NobodyIsAskedForNamesThatAreAssignedOrReachBeyondTheFormula)
+{
+    std::vector<VorString> asked;
+    const auto operandOf = [&](const VorString& name)
+    {
+        asked.push_back(name);
+        return operandOfTest(name);
+    };
+
+    FormulaResult::derive(L"x=%Length ;y=%Weight*x;2*x", operandOf);
+
+    EXPECT_EQ((std::vector<VorString>{ L"%Length", L"%Weight" }), asked);
 }
 
 TEST(FormulaResultTest, AColumnSaysWhatDoesNotFollow)
