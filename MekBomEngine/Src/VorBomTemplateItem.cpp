@@ -38,6 +38,8 @@ void gatherRequests(const VorBomDataTupleArray& tuples, Cache& cache, int (VorBo
 }
 }
 
+// Made for every line of a report, so the tuples, which a line gets anew, are not copied, and what it asks for is
+// shared.
 VorBomTemplateItem::VorBomTemplateItem(const VorBomTemplateItem& other, eCopyPart)
     : m_nType(other.m_nType), m_pRequests(other.requestsForCopies()), m_pFirstDataRow(other.m_pFirstDataRow)
 {
@@ -51,6 +53,8 @@ VorBomTemplateItem::VorBomTemplateItem(const VorBomTemplateItem& other)
 {
 }
 
+// The requests go into the object that this section has, not by sharing that of the other: references to it were handed
+// out, and show the new content.
 VorBomTemplateItem& VorBomTemplateItem::operator=(const VorBomTemplateItem& other)
 {
     if (this == &other)
