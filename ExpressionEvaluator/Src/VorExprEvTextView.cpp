@@ -14,8 +14,10 @@ int clampedLength(std::size_t length)
 }
 }
 
+// Of a text that nobody has measured, what is asked for is measured here and not kept: views do not change.
 std::wstring_view VorExprEvTextView::restOfText() const
 {
+    // A view without text, or of a measured one, has an end to stop at; the other stops at the terminating zero.
     if (m_pText == nullptr || m_nTextLength != kNotMeasured)
         return textUpTo(m_nTextLength);
     const wchar_t* pStart = m_pText + m_nStart;
