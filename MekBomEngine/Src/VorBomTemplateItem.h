@@ -159,6 +159,6 @@ private:
 
     eTemplateItemType m_nType = kUnkTemplateItemType;
     mutable std::atomic<bool> m_ownsRequests{ false };
-    mutable std::shared_ptr<Requests> m_pRequests; // shared while it is not owned, null then for none
+    mutable std::shared_ptr<Requests> m_pRequests; // until owned, shared with other sections, or null for no requests
     VorBomDataRow* m_pFirstDataRow = nullptr;
 };

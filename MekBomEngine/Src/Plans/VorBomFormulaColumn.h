@@ -25,8 +25,8 @@ public:
 
     int index() const { return m_nIndex; }
 
-    // 0 with `result` untouched when the formula is none or fails. The row may be null. `pMessage`, if not null, is set to
-    // the message of a formula that fails, which costs another evaluation.
+    // 0 with `result` untouched when the formula is none or fails. The row may be null. `pMessage`, if not null, is set
+    // to the message of a formula that fails, which costs another evaluation.
     int compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result, VorString* pMessage = nullptr);
 
     // Computes it by the formula evaluator, whose variables and errors of this thread are afterwards those of the
@@ -44,8 +44,8 @@ private:
     VorString m_formula;
     VorCompiledFormula m_compiled;
     bool m_isCompiled;
-    // Where a name of the compiled formula gets its value from: first the row, if the name is one of its tokens, then the
-    // section's tuples of that token, in this order.
+    // Where a name of the compiled formula gets its value from: first the row, if the name is one of its tokens, then
+    // the section's tuples of that token, in this order.
     VorBomColumns m_rowColumns;
     std::vector<std::vector<int>> m_tuplesOfName;
     std::vector<double> m_values;
