@@ -1,3 +1,7 @@
+// A view may end before its text does, or behind it. Told on two views of the text "a*23":
+//   [2,3), the text's length not given    shows "2"; restOfText() looks for the terminating zero now, and is "23"
+//   [0,6), the text's length given as 4   shows "a*23" and two zero characters; at(5) is zero, the memory not looked at
+// Equal views have the same length, the zero characters beyond the text included.
 #include "VorExprEvTextView.h"
 
 #include <cwchar>

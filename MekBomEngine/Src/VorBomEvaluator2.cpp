@@ -223,7 +223,7 @@ int VorBomEvaluator2::addedInGroup(VorBomDataRow* pRow, VorBomEngineStateArray& 
 int VorBomEvaluator2::endGroup(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits)
 {
     VorBomEngineState& state = stack.begin()[level];
-    // So it is on all levels of a report without rows, and on the deepest, whose group closed with its row.
+    // No group is open on any level of a report without rows, nor on the deepest level, where it closed with its row.
     if (state.m_bGroupOpen != 1)
         return 1;
     state.m_bGroupOpen = 0;

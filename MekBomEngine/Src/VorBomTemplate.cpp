@@ -1,3 +1,8 @@
+// A template holds its sections, units and data together. Told on sections that name %Length and %Name:
+//   setUnitsForTokens    registers every token that is known to have a unit, used or not; %Length is a distance
+//   findUsedTokens       traces %Length and %Name, and fills what the sections group and sort by
+//   isTokenRequired      tells the host that lengths and names are all that it has to gather from its model
+//   getBomData           takes the rows that carry these; then all is there that an evaluation reads
 #include "VorBomTemplate.h"
 
 #include "VorBomDefaultTemplate.h"

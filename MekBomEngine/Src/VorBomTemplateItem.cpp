@@ -123,7 +123,7 @@ std::shared_ptr<VorBomTemplateItem::Requests> VorBomTemplateItem::requestsForCop
     return m_ownsRequests.load(std::memory_order_relaxed) ? m_pRequests->pForCopies : m_pRequests;
 }
 
-// A new object: copies that share the present one keep it.
+// Makes a new object, as the copies that share the present one are to keep it.
 void VorBomTemplateItem::renewForCopies(Requests& own)
 {
     // Before the copy is made: else each copy would hold the one before it, a chain that every search makes longer.

@@ -3,10 +3,10 @@
 //   section  %Length 2000, "%Formula:%Length*%Quantity/1000"      row  %Quantity 3
 //   compute(tuples, row, result)  ->  1, result 6
 //
-// The formula sees the numbers of the section's other tuples by their tokens, of equal tokens the last, and before them
-// the numbers of the row for every token the formula names. Texts define nothing. Formulas of 3 characters or fewer, or
-// without any of "*/+-=()", are taken for plain tokens or numbers and not computed. The result has passed through its
-// text, so it has six decimals.
+// A token in the formula stands for the row's number under it; where the row has none, for that of the section's last
+// other tuple that has the token and a number. A name that is no token is looked for in the section alone. Texts define
+// nothing. Formulas of 3 characters or fewer, or without any of "*/+-=()", are taken for plain tokens or numbers and
+// not computed. The result has passed through its text, so it has six decimals.
 #pragma once
 
 #include "VorBomColumns.h"

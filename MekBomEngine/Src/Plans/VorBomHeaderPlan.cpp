@@ -119,7 +119,7 @@ int VorBomHeaderPlan::leaveLastFormula()
         return 0;
     if (ExpressionsEvaluator::isTraced())
         return 1; // nothing was compiled, and computing again would be seen
-    const std::unique_ptr<VorBomTemplateItem> pEvaluated = makeSection(*m_pLastRow, false); // it was, the first time
+    const std::unique_ptr<VorBomTemplateItem> pEvaluated = makeSection(*m_pLastRow, false); // reported before
     VorBomDataTupleArray& tuples = pEvaluated->getData();
     for (VorBomFormulaColumn& formula : m_formulas)
     {
