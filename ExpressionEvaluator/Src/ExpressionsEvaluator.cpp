@@ -1,7 +1,7 @@
 // The formula "a=4;a*2" of 7 characters is evaluated in two statements:
 //   "a=4"      3 characters, up to the separator
-//   "a*2\0"    4 characters: no separator follows, so it is the last one, and its length is that of the formula, 7, less
-//              that of the statement before it, 3. The text has 3 more; the view answers zero for the fourth.
+//   "a*2\0"    4 characters: no separator follows, so it is the last one, and its length is that of the formula, 7,
+//              less that of the statement before it, 3. The text has 3 more; the view answers zero for the fourth.
 // Each is parsed into a tree of its own, and variables are all that passes from one to the next.
 #include "ExpressionsEvaluator.h"
 
