@@ -1,7 +1,7 @@
 // "a=4;a*2" of 7 characters has two statements:
 //   "a=4"      3 characters, up to the separator
-//   "a*2\0"    4 characters: no separator follows, so that it is the last one, as long as the formula without as many
-//              characters as the statement before it has. The text has 3 more; the view answers zero for the fourth.
+//   "a*2\0"    4 characters: no separator follows, so it is the last one, and its length is that of the formula, 7,
+//              less that of the statement before it, 3. The text has 3 more; the view answers zero for the fourth.
 #include "VorFormulaStatements.h"
 
 #include "Reading/VorFormulaCharacters.h"
