@@ -6,9 +6,10 @@
 //
 // A formula has one statement more than it has separators; those without an operand count.
 //
-// On purpose the last of several statements reaches beyond the formula: it is as long as the formula without as many
-// characters as the statement before it has. VorExprEvTextView answers zero for the characters that are not there, and
-// ExpressionsEvaluator.h tells what comes of it.
+// On purpose the last of several statements reaches beyond the formula, since its length is that of the formula less that
+// of the statement before it. VorExprEvTextView answers zero for the characters that are not there, and
+// ExpressionsEvaluator.h tells what comes of it. Pinned by
+// VorFormulaStatementsTest.TheLastOfSeveralStatementsReachesBeyondTheFormula.
 //
 // Views the text, which must outlive it and go on to a terminating zero. Costs no more than one pass over the text.
 #pragma once

@@ -3,7 +3,7 @@
 //
 //   const auto findings = FormulaRules::check(L"2*3+(4+5)*6", operands);
 //   findings.front().code        ->  "MB404"
-//   findings.front().statement   ->  "\"2*3+(4+5)*6\" is read as (((2*3)+(4+5))*6), not as ((2*3)+((4+5)*6))"
+//   findings.front().statement   ->  "2*3+(4+5)*6" is read as "(((2*3)+(4+5))*6)", not as "((2*3)+((4+5)*6))"
 //
 // The codes are those from MB401 on of MistakeCodes, without two for which a formula alone is not enough: that it stands
 // only in a footer (MB403), and that rows lack one of its tokens (MB413). Nor is it said that no catalogue knows a token
