@@ -14,6 +14,8 @@
 
 #include "InQuotes.h"
 
+#include "MekRoots/Exp/VorCharacters.h"
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -27,16 +29,11 @@ using Row = std::array<int, kLongest + 1>;
 const int kSlip = kLongest + 1;   // more than all letters of a word in the wrong case
 const int kCharactersPerSlip = 3; // arbitrary: one slip in "dat", two in "length", none in "id"
 
-char lowerOf(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 int costOf(char one, char other)
 {
     if (one == other)
         return 0;
-    return lowerOf(one) == lowerOf(other) ? 1 : kSlip;
+    return VorCharacters::toLower(one) == VorCharacters::toLower(other) ? 1 : kSlip;
 }
 
 // What it costs to make `word` of `other`, both no longer than kLongest; anything above `limit` when it is more.
