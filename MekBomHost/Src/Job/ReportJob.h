@@ -43,6 +43,7 @@ private:
     void openParts();
     ReportTemplate readTemplate();
     ReportTemplate readSuitableTemplate();
+    ReportTemplate readColumnsTemplate();
     void readRows();
     void takeSampleRows();
     void noteMissingColumns();
