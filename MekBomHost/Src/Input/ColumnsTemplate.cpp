@@ -131,8 +131,10 @@ std::vector<std::string> tokenUnits(const Columns& columns)
         const std::optional<MEKUnit> unit = InputUnits::find(column.unitSymbol, VorBomTemplateUnits::kNoUnit);
         if (!isOwn(column) || !unit)
             continue;
-        const auto type = VorBomTemplateUnits::unitTypeOf(unit->getVorUnitTransform().system());
-        members.push_back(jsonText(column.token) + ": " + jsonText(UnitKinds::typeNames()[type]));
+        const VorBomTemplateUnits::eTokenUnitType type =
+            VorBomTemplateUnits::unitTypeOf(unit->getVorUnitTransform().system());
+        members.push_back(jsonText(column.token) + ": " +
+                          jsonText(UnitKinds::typeNames()[static_cast<std::size_t>(type)]));
     }
     return members;
 }
