@@ -31,4 +31,21 @@ std::vector<std::string> of(VorBomTemplate& reportTemplate)
     }
     return tokens;
 }
+
+// sum := "%SumBy:" ( token | formula )
+std::set<std::string> computedWith(VorBomTemplate& reportTemplate)
+{
+    std::set<std::string> tokens;
+    for (const VorString& token : reportTemplate.getTokenTrace())
+    {
+        VorString operand = token;
+        const bool isSummed = VorBomDataToken(token).getSummingRequest(operand) == 1;
+        if (VorBomDataToken::removeFormulaPrefix(operand) == 1)
+            for (const VorString& inFormula : VorBomDataToken::getTokensFromFormula(operand))
+                tokens.insert(Utf8::toBytes(inFormula));
+        else if (isSummed)
+            tokens.insert(Utf8::toBytes(operand));
+    }
+    return tokens;
+}
 }

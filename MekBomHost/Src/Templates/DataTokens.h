@@ -9,6 +9,7 @@
 
 #include "VorBomTemplate.h"
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -17,4 +18,8 @@ namespace mekbom::DataTokens
 // Sorted as the template's token trace is, each name once. In UTF-8. The template finds its used tokens for that,
 // unless it has done so.
 std::vector<std::string> of(VorBomTemplate& reportTemplate);
+
+// Those of them that it sums or computes with, so that their values have to be numbers: above these are "%Weight" and
+// "%Length".
+std::set<std::string> computedWith(VorBomTemplate& reportTemplate);
 }
