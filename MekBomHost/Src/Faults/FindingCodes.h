@@ -4,9 +4,8 @@
 //   FindingCodes::kCellIsNoNumber.name       ->  "MB710"
 //   FindingCodes::find("MB710")->sentence    ->  "A cell of a column of numbers or quantities holds none."
 //
-// MB7xx are about parts lists, MB8xx about template files, MB9xx about options, settings, units, and files as such.
-// MB1xx to MB6xx, the mistakes of those who
-// write lists, are MistakeCodes.
+// MB7xx are about parts lists, MB8xx about template files, MB9xx about options, settings, units, and files as
+// such. MB1xx to MB6xx, the mistakes of those who write lists, are MistakeCodes.
 #pragma once
 
 #include "Finding.h"
@@ -59,6 +58,17 @@ inline constexpr FindingCode kColumnMissing = { "MB716", kNote,
 inline constexpr FindingCode kRowsMerged = { "MB717", kNote, "Lines equal to the one before them count in no total." };
 inline constexpr FindingCode kNoSuitableTemplate = { "MB718", kError,
                                                      "The columns suit none of the templates there are to choose." };
+inline constexpr FindingCode kUnitLacking = { "MB719", kError,
+                                              "A column of areas or the like has numbers, and nobody says in which "
+                                              "unit." };
+inline constexpr FindingCode kTotalOfNoPieces = { "MB720", kError,
+                                                  "A row of no pieces has a value that is one of all its pieces." };
+inline constexpr FindingCode kRowTotalOfMissingColumn = {
+    "MB721", kError, "Row totals are announced for a column that the parts list has not."
+};
+inline constexpr FindingCode kRowTotalOfNoNumber = { "MB722", kError,
+                                                     "Row totals are announced for a column of texts or of whole "
+                                                     "numbers." };
 
 // Template files.
 inline constexpr FindingCode kNoJson = { "MB801", kError, "A template file is no JSON with comments." };

@@ -31,6 +31,7 @@ public:
 
     // The template whose data the rows go to.
     VorBomTemplate& engineTemplate() { return *m_template.pTemplate; }
+    const ReportTemplate& reportTemplate() const { return m_template; }
     const QueryFilter& queryFilter() const { return m_template.queryFilter; }
 
     // Leaves out the rows that the template is not about, then evaluates. To be called once.

@@ -18,9 +18,12 @@
 #include "TemplateChoice.h"
 #include "TemplateReader.h"
 #include "UnitChoice.h"
+#include "Utf8.h"
 
 #include "VorBomData.h"
+#include "VorBomDataTuple.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -50,11 +53,21 @@ VorUnitsManager unitsOf(const ReportRequest& request)
     return UnitChoice::unitsOf(request.units, request.unitChoices);
 }
 
-[[noreturn]] void refuseInputUnits()
+// The sample rows have no columns that an option could be about.
+[[noreturn]] void refuseForSample(const std::string& option)
 {
     Finding finding = Finding::stating(FindingCodes::kOptionWithoutUse, "the sample data are no parts list");
-    finding.source = "--input-unit";
+    finding.source = option;
     throw Fault(kWrongUsage, finding);
+}
+
+// "%A, %B"
+std::string joined(const std::vector<std::string>& tokens)
+{
+    std::string text;
+    for (const std::string& token : tokens)
+        text += (text.empty() ? "" : ", ") + token;
+    return text;
 }
 }
 
@@ -84,13 +97,17 @@ void ReportJob::openParts()
     if (m_request.pParts == nullptr)
     {
         if (!m_request.inputUnits.empty())
-            refuseInputUnits();
+            refuseForSample("--input-unit");
+        if (!m_request.rowTotals.empty())
+            refuseForSample("--row-totals");
         return;
     }
     m_pRecords = std::make_unique<CsvReader>(*m_request.pParts);
     m_pParts = std::make_unique<PartsList>(*m_pRecords);
     for (const auto& [token, unit] : m_request.inputUnits)
         m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);
+    for (const std::string& token : m_request.rowTotals)
+        m_pParts->setRowTotal(ColumnHeading::tokenOf(token));
 }
 
 ReportTemplate ReportJob::readTemplate()
@@ -120,27 +137,42 @@ void ReportJob::readRows()
     if (m_pParts == nullptr)
         return takeSampleRows();
     noteMissingColumns();
-    m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->queryFilter());
+    m_pParts->setOwnTokens(m_pReport->reportTemplate().ownTokens);
+    m_partsFacts = m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->queryFilter());
+    for (const Finding& finding : m_pParts->findings())
+        m_findings.add(finding);
 }
 
-// The rows change hands: the sample has to let go of them, or both would delete them.
+// The rows change hands: the sample has to let go of them, or both would delete them. Each is one piece, as a row of a
+// parts list is that does not say how many it stands for.
 void ReportJob::takeSampleRows()
 {
     const std::unique_ptr<VorBomData> pSample(VorBomData::createDefaultData());
-    m_pReport->engineTemplate().getBomData()->setChild(pSample->child());
+    VorBomTemplate& reportTemplate = m_pReport->engineTemplate();
+    reportTemplate.getBomData()->setChild(pSample->child());
     pSample->setChild(nullptr);
+    const VorString piecesToken = Utf8::toWide(PartsList::kPiecesToken);
+    if (!reportTemplate.isTokenRequired(piecesToken))
+        return;
+    for (VorBomItemBase* pRow = reportTemplate.getBomData()->child(); pRow != nullptr; pRow = pRow->next())
+        if (pRow->getTupleAt(piecesToken) == nullptr)
+            pRow->addData(VorBomDataTuple(piecesToken, 1));
 }
 
+// A template may do without some of its data; but a file whose pieces are called "Qty" must not be counted wrong without
+// a word.
 void ReportJob::noteMissingColumns()
 {
-    std::string missing;
+    std::vector<std::string> missing;
     for (const std::string& token : DataTokens::of(m_pReport->engineTemplate()))
         if (m_pParts->find(token) == nullptr)
-            missing += (missing.empty() ? "" : ", ") + token;
+            missing.push_back(token);
     if (missing.empty())
         return;
-    Finding finding = Finding::saying(FindingCodes::kColumnMissing, m_pRecords->name() + " has no column for " +
-                                                                        missing + ", which the template asks for");
+    std::string text = m_pRecords->name() + " has no column for " + joined(missing) + ", which the template asks for";
+    if (std::find(missing.begin(), missing.end(), PartsList::kPiecesToken) != missing.end())
+        text += "; each row counts as one piece";
+    Finding finding = Finding::saying(FindingCodes::kColumnMissing, text);
     finding.source = m_pRecords->name();
     m_findings.add(finding);
 }
