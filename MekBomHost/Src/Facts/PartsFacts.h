@@ -1,6 +1,6 @@
 // What is known of a parts list once its rows have been read: how many there are, and how far each column is filled.
 //
-//   const PartsFacts facts = parts.readRows(*pTemplate, filter);
+//   const PartsFacts facts = parts.readRows(*pTemplate);
 //   const ColumnFacts* const pWeight = facts.find("%Weight");
 //   facts.numRows            ->  417
 //   pWeight->numFilled       ->  120: what the foot of a list says as "Weight: 120 of 417 rows"

@@ -54,11 +54,14 @@ auto* findIn(Columns& columns, const std::string& token)
     return found == columns.end() ? nullptr : &*found;
 }
 
-// Case counts: a template that asks for "%Length" has no use for a column "%length".
-std::set<std::string> tracedTokens(VorBomTemplate& reportTemplate)
+// What the template traces, and others beside it. Case counts: a template that asks for "%Length" has no use for a column
+// "%length".
+std::set<std::string> wantedTokens(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
 {
     std::set<std::string> tokens;
     for (const VorString& token : reportTemplate.getTokenTrace())
+        tokens.insert(Utf8::toBytes(token));
+    for (const VorString& token : otherTokens)
         tokens.insert(Utf8::toBytes(token));
     return tokens;
 }
@@ -119,16 +122,16 @@ void PartsList::setRowTotal(const std::string& token)
     pColumn->isRowTotal = true;
 }
 
-PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const QueryFilter& filter)
+PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
 {
-    resolveColumns(reportTemplate, filter);
+    const std::set<std::string> wanted = wantedTokens(reportTemplate, otherTokens);
+    findWantedColumns(wanted);
+    resolveColumns(reportTemplate);
     CellReader cells(m_columns, m_source, *reportTemplate.getBomData());
     cells.reserveTuples(numFormulas(reportTemplate));
-    const auto isAskedFor = [&](const char* token)
-    { return reportTemplate.isTokenRequired(Utf8::toWide(token)) || filter.names(Utf8::toWide(token)); };
-    if (find(kHandleToken) == nullptr && isAskedFor(kHandleToken))
+    if (find(kHandleToken) == nullptr && wanted.count(kHandleToken) > 0)
         cells.numberRows(Utf8::toWide(kHandleToken));
-    if (isAskedFor(kPiecesToken))
+    if (wanted.count(kPiecesToken) > 0)
         cells.countPieces(Utf8::toWide(kPiecesToken));
     while (const Record* const pRecord = m_source.next())
         cells.read(*pRecord);
@@ -204,11 +207,23 @@ void PartsList::addColumn(const std::string& heading)
     m_columns.push_back(column);
 }
 
+// The number of pieces is wanted, too, where another column is divided by it.
+void PartsList::findWantedColumns(const std::set<std::string>& wantedTokens)
+{
+    bool dividesByPieces = false;
+    for (InputColumn& column : m_columns)
+    {
+        column.isWanted = wantedTokens.count(column.token) > 0;
+        dividesByPieces = dividesByPieces || (column.isWanted && column.isRowTotal);
+    }
+    if (InputColumn* const pPieces = dividesByPieces ? findColumn(kPiecesToken) : nullptr)
+        pPieces->isWanted = true;
+}
+
 // All that a cell needs to know of the template is settled here, once for each column; CellReader asks no template.
 // What the heading of a column says that nobody wants is not looked at, and may be wrong, unlike what the user says.
-void PartsList::resolveColumns(VorBomTemplate& reportTemplate, const QueryFilter& filter)
+void PartsList::resolveColumns(VorBomTemplate& reportTemplate)
 {
-    findWantedColumns(reportTemplate, filter);
     const std::set<std::string> computed = DataTokens::computedWith(reportTemplate);
     for (InputColumn& column : m_columns)
         if (column.isWanted || column.unitIsFromUser || column.isRowTotal)
@@ -216,21 +231,6 @@ void PartsList::resolveColumns(VorBomTemplate& reportTemplate, const QueryFilter
             resolveColumn(column, *reportTemplate.getBomTemplateUnits());
             column.whyNumbers = whyNumbers(column, computed);
         }
-}
-
-// The filter's tokens are wanted, too: it looks at the rows, and would take a datum that was not kept for one that is
-// not there. So is the number of pieces where another column is divided by it.
-void PartsList::findWantedColumns(VorBomTemplate& reportTemplate, const QueryFilter& filter)
-{
-    const std::set<std::string> traced = tracedTokens(reportTemplate);
-    bool dividesByPieces = false;
-    for (InputColumn& column : m_columns)
-    {
-        column.isWanted = traced.count(column.token) > 0 || filter.names(column.tupleToken);
-        dividesByPieces = dividesByPieces || (column.isWanted && column.isRowTotal);
-    }
-    if (InputColumn* const pPieces = dividesByPieces ? findColumn(kPiecesToken) : nullptr)
-        pPieces->isWanted = true;
 }
 
 // Without a unit, numbers are in the model's unit of the kind that the template, or the catalogue, says they are: but

@@ -5,7 +5,7 @@
 //   PartsList parts(records);              // reads the header row
 //   parts.setInputUnit("%Paint", "m2");
 //   parts.setRowTotal("%Weight");
-//   const PartsFacts facts = parts.readRows(*pTemplate, filter);    // into the template's data
+//   const PartsFacts facts = parts.readRows(*pTemplate);    // into the template's data
 //
 // The catalogue of tokens decides what type a column has. A column it does not know has numbers if its heading names a
 // unit, the template says so, or the list computes with it; else it has the type of its content (UntypedCells).
@@ -21,7 +21,6 @@
 #include "FindingList.h"
 #include "InputColumn.h"
 #include "PartsFacts.h"
-#include "QueryFilter.h"
 #include "RecordSource.h"
 #include "ReportTemplate.h"
 
@@ -62,9 +61,8 @@ public:
     void setOwnTokens(const std::map<std::string, eOwnToken>& ownTokens) { m_ownTokens = ownTokens; }
 
     // Appends one row for each record to the template's data, and tells what is known of them. Rows carry the data that
-    // the template asks for, whose tokens must have been found already, and those that `filter` names. To be called
-    // once.
-    PartsFacts readRows(VorBomTemplate& reportTemplate, const QueryFilter& filter);
+    // the template asks for, whose tokens must have been found already, and those of `otherTokens`. To be called once.
+    PartsFacts readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens = {});
 
     // What readRows() has found. None of it is an error.
     const std::vector<Finding>& findings() const { return m_findings; }
@@ -76,8 +74,8 @@ private:
     void checkSeparator(const InputColumn& column, FindingList& findings) const;
     void addHeaderFinding(Finding finding, FindingList& findings) const;
     void addColumn(const std::string& heading);
-    void resolveColumns(VorBomTemplate& reportTemplate, const QueryFilter& filter);
-    void findWantedColumns(VorBomTemplate& reportTemplate, const QueryFilter& filter);
+    void findWantedColumns(const std::set<std::string>& wantedTokens);
+    void resolveColumns(VorBomTemplate& reportTemplate);
     void resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const;
     VorBomDataValue::eBomDataValueType typeOf(const InputColumn& column, const VorBomTemplateUnits& units) const;
     std::string whyNumbers(const InputColumn& column, const std::set<std::string>& computed) const;

@@ -47,7 +47,9 @@ private:
     void openParts();
     ReportTemplate readTemplate();
     ReportTemplate readSuitableTemplate();
+    void addFilter();
     void readRows();
+    void checkFilterTokens() const;
     void takeSampleRows();
     void noteMissingColumns();
     void noteMergedRows();

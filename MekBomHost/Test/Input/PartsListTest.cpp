@@ -50,7 +50,7 @@ char letterOf(VorBomDataValue::eBomDataValueType type)
 std::string rowsOf(PartsList& parts)
 {
     const ReportTemplate shown = templateShowing(tokensOf(parts));
-    parts.readRows(*shown.pTemplate, QueryFilter());
+    parts.readRows(*shown.pTemplate);
     std::string rows;
     for (VorBomItemBase* pRow = shown.pTemplate->getBomData()->child(); pRow != nullptr; pRow = pRow->next())
     {
@@ -113,23 +113,21 @@ TEST(PartsListTest, RowsWithoutHandleColumnAreNumberedForATemplateThatAsks)
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Weight", "%Handle" });
 
-    parts.readRows(*shown.pTemplate, QueryFilter());
+    parts.readRows(*shown.pTemplate);
 
     const auto* const pSecond = static_cast<VorBomDataRow*>(shown.pTemplate->getBomData()->child()->next());
     EXPECT_EQ(VorString(L"2"), pSecond->objectHandle());
     EXPECT_EQ(VorString(L"2"), pSecond->getTupleAt(L"%Handle")->value().asString());
 }
 
-TEST(PartsListTest, OnlyWhatTheTemplateOrTheFilterAsksForIsKept)
+TEST(PartsListTest, OnlyWhatTheTemplateOrTheCallerAsksForIsKept)
 {
     MemorySource source("parts.csv", "%Name,%Weight,%BoltName,Extra\nHEA200,5,M16,x\n");
     CsvReader records(source);
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%SumBy:%Weight" });
-    QueryFilter filter;
-    QueryFilter::parse("!%BoltName", filter);
 
-    parts.readRows(*shown.pTemplate, filter);
+    parts.readRows(*shown.pTemplate, { L"%BoltName" });
 
     VorBomItemBase* const pRow = shown.pTemplate->getBomData()->child();
     ASSERT_EQ(2, pRow->getData().length());
@@ -143,7 +141,7 @@ TEST(PartsListTest, TokensAndEqualTextsAreShared)
     CsvReader records(source);
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Name", "%Extra" });
-    parts.readRows(*shown.pTemplate, QueryFilter());
+    parts.readRows(*shown.pTemplate);
     const VorBomItemBase* const pFirst = shown.pTemplate->getBomData()->child();
 
     for (int i = 0; i < 2; ++i)
@@ -170,7 +168,7 @@ TEST(PartsListTest, UnitsOfTheUserConvert)
     parts.setInputUnit("%Paint", "m2");
     const ReportTemplate shown = templateShowing({ "%Paint" });
 
-    parts.readRows(*shown.pTemplate, QueryFilter());
+    parts.readRows(*shown.pTemplate);
 
     EXPECT_EQ(VorString(L"2.5e+06"), shown.pTemplate->getBomData()->child()->getData()[0].value().asString());
 }
@@ -245,7 +243,7 @@ TEST(PartsListTest, UnitsOfTheUserAreTheUsersToMend)
     EXPECT_EQ("", faultWith("%Length", "mm"));
     EXPECT_EQ("", faultWith("%Paint", "kg"));
     EXPECT_EQ("2 --input-unit %Paint=kg: found unit \"kg\", expected a unit of area such as mm2, m2 or ft2\n",
-              faultOf([&parts] { parts.readRows(*templateShowing({ "%Paint" }).pTemplate, QueryFilter()); }));
+              faultOf([&parts] { parts.readRows(*templateShowing({ "%Paint" }).pTemplate); }));
 }
 
 TEST(PartsListTest, CellsThatAreNoNumbersAreNamedWithTheirPlace)
@@ -302,7 +300,7 @@ TEST(PartsListTest, ColumnsThatNobodyWantsMayHoldAnything)
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Name", "%Formula:%Length/2" });
 
-    const PartsFacts facts = parts.readRows(*shown.pTemplate, QueryFilter());
+    const PartsFacts facts = parts.readRows(*shown.pTemplate);
 
     EXPECT_EQ(1, shown.pTemplate->getBomData()->child()->getData().length());
     EXPECT_EQ(1u, facts.columns.size());
@@ -334,7 +332,7 @@ TEST(PartsListTest, AKindOfTheTemplateNeedsAUnitAsOneOfTheCatalogueDoes)
                                                                      "\"tuples\": [ { \"token\": \"%Fire\" } ] } ] }");
         shown.pTemplate->setUnitsForTokens(nullptr);
         shown.pTemplate->findUsedTokens();
-        return faultOf([&] { parts.readRows(*shown.pTemplate, QueryFilter()); });
+        return faultOf([&] { parts.readRows(*shown.pTemplate); });
     };
 
     EXPECT_EQ("", faultWith("kDistanceUnit"));
@@ -357,7 +355,7 @@ TEST(PartsListTest, ColumnsThatTheListComputesWithMustBeNumbers)
         CsvReader records(source);
         PartsList parts(records);
         const ReportTemplate shown = templateShowing({ token });
-        const std::string fault = faultOf([&] { parts.readRows(*shown.pTemplate, QueryFilter()); });
+        const std::string fault = faultOf([&] { parts.readRows(*shown.pTemplate); });
         return fault.empty()
                    ? std::string(1, letterOf(shown.pTemplate->getBomData()->child()->getData()[0].value().type()))
                    : fault;
@@ -383,7 +381,7 @@ TEST(PartsListTest, TheTemplateSaysWhatATokenOfItsOwnIs)
         PartsList parts(records);
         parts.setOwnTokens({ { "%Rev", kind } });
         const ReportTemplate shown = templateShowing({ "%Rev" });
-        const std::string fault = faultOf([&] { parts.readRows(*shown.pTemplate, QueryFilter()); });
+        const std::string fault = faultOf([&] { parts.readRows(*shown.pTemplate); });
         if (!fault.empty())
             return fault;
         const VorBomDataValue& value = shown.pTemplate->getBomData()->child()->getData()[0].value();
@@ -408,7 +406,7 @@ TEST(PartsListTest, RowsAreOnePieceWhereTheyDoNotSayHowMany)
         PartsList parts(records);
         const ReportTemplate shown = templateShowing({ "%SumBy:%Quantity" });
 
-        parts.readRows(*shown.pTemplate, QueryFilter());
+        parts.readRows(*shown.pTemplate);
 
         const VorBomDataTuple* const pPieces = shown.pTemplate->getBomData()->child()->getTupleAt(L"%Quantity");
         ASSERT_NE(nullptr, pPieces);
@@ -426,7 +424,7 @@ TEST(PartsListTest, RowTotalsAreDividedInTheUnitOfTheirColumn)
     parts.setRowTotal("%Price");
     const ReportTemplate shown = templateShowing({ "%Weight", "%Price" });
 
-    parts.readRows(*shown.pTemplate, QueryFilter());
+    parts.readRows(*shown.pTemplate);
 
     const VorBomItemBase* const pFirst = shown.pTemplate->getBomData()->child();
     EXPECT_EQ(VorString(L"11.3398"), pFirst->getTupleAt(L"%Weight")->value().asString());
@@ -445,7 +443,7 @@ TEST(PartsListTest, RowTotalsAreOfColumnsWithNumbers)
             [&]
             {
                 parts.setRowTotal(pToken);
-                parts.readRows(*templateShowing({}).pTemplate, QueryFilter());
+                parts.readRows(*templateShowing({}).pTemplate);
             });
     };
 
@@ -461,7 +459,7 @@ TEST(PartsListTest, RepeatedHandlesAreFoundAndStopNothing)
     CsvReader records(source);
     PartsList parts(records);
 
-    parts.readRows(*templateShowing({ "%Name" }).pTemplate, QueryFilter());
+    parts.readRows(*templateShowing({ "%Name" }).pTemplate);
 
     ASSERT_EQ(1u, parts.findings().size());
     EXPECT_EQ("parts.csv: handle \"2A0\" stands in rows 1 and 2", messageOf(parts.findings().front()));
