@@ -16,6 +16,7 @@
 #include "Guard.h"
 #include "InQuotes.h"
 #include "NamedText.h"
+#include "NearestWord.h"
 #include "TemplateChoice.h"
 #include "TemplateReader.h"
 #include "UnitChoice.h"
@@ -26,6 +27,7 @@
 #include "VorBomTokenCatalogue.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -64,12 +66,12 @@ VorUnitsManager unitsOf(const ReportRequest& request)
 }
 
 // "%A, %B"
-std::string joined(const std::vector<std::string>& tokens)
+std::string joined(const std::vector<std::string>& texts)
 {
-    std::string text;
-    for (const std::string& token : tokens)
-        text += (text.empty() ? "" : ", ") + token;
-    return text;
+    std::string all;
+    for (const std::string& text : texts)
+        all += (all.empty() ? "" : ", ") + text;
+    return all;
 }
 }
 
@@ -185,18 +187,42 @@ void ReportJob::takeSampleRows()
 // a word.
 void ReportJob::noteMissingColumns()
 {
+    const std::vector<std::string> asked = DataTokens::of(m_pReport->engineTemplate());
     std::vector<std::string> missing;
-    for (const std::string& token : DataTokens::of(m_pReport->engineTemplate()))
-        if (m_pParts->find(token) == nullptr)
-            missing.push_back(token);
+    std::copy_if(asked.begin(), asked.end(), std::back_inserter(missing),
+                 [this](const std::string& token) { return m_pParts->find(token) == nullptr; });
     if (missing.empty())
         return;
     std::string text = m_pRecords->name() + " has no column for " + joined(missing) + ", which the template asks for";
     if (std::find(missing.begin(), missing.end(), PartsList::kPiecesToken) != missing.end())
         text += "; each row counts as one piece";
+    const std::string meant = columnsMeant(missing, asked);
+    if (!meant.empty())
+        text += "; did you mean " + meant + "?";
     Finding finding = Finding::saying(FindingCodes::kColumnMissing, text);
     finding.source = m_pRecords->name();
     m_findings.add(finding);
+}
+
+// A column that nobody knows may be a missing one misspelled, unless it is nearer to another token: "%Lenght" is no
+// "%Weight", even where only that is missing.
+//   "%Length by \"length\", %Weight by \"Wieght\""
+std::string ReportJob::columnsMeant(const std::vector<std::string>& missing,
+                                    const std::vector<std::string>& asked) const
+{
+    std::vector<std::string> known = asked; // in front: of equally near tokens the list's own is meant
+    for (const auto* pEntry = VorBomTokenCatalogue::begin(); pEntry != VorBomTokenCatalogue::end(); ++pEntry)
+        known.push_back(Utf8::toBytes(pEntry->name));
+    std::vector<std::string> meant;
+    for (const InputColumn& column : m_pParts->columns())
+    {
+        if (VorBomTokenCatalogue::find(column.tupleToken) != nullptr)
+            continue;
+        const std::string nearest = NearestWord::of(column.token, known);
+        if (nearest != column.token && std::find(missing.begin(), missing.end(), nearest) != missing.end())
+            meant.push_back(nearest + " by " + inQuotes(column.name));
+    }
+    return joined(meant);
 }
 
 void ReportJob::noteMergedRows()

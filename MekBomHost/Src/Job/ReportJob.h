@@ -21,6 +21,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace mekbom
 {
@@ -52,6 +53,7 @@ private:
     void checkFilterTokens() const;
     void takeSampleRows();
     void noteMissingColumns();
+    std::string columnsMeant(const std::vector<std::string>& missing, const std::vector<std::string>& asked) const;
     void noteMergedRows();
 
     ReportRequest m_request;

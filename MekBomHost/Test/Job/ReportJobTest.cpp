@@ -274,6 +274,25 @@ TEST(ReportJobTest, RowsWithoutPiecesAreOneAndAFileWithoutThemIsNoted)
     EXPECT_NE(std::string::npos, tableOf(job).find("\nB            1\n")) << tableOf(job);
 }
 
+TEST(ReportJobTest, MisspelledColumnsAreGuessed)
+{
+    const char* const list = R"({ "sections": [ { "type": "kDetails", "tuples": [
+        { "token": "%Name" }, { "token": "%Length" }, { "token": "%Weight" }, { "token": "%Role" } ] } ] })";
+    const auto noteFor = [list](const char* pParts)
+    {
+        ReportJob job(requestFor(pParts, list));
+        EXPECT_EQ(kDone, job.run());
+        return job.findings().all().empty() ? std::string() : messageOf(job.findings().all()[0]);
+    };
+
+    EXPECT_EQ("parts.csv has no column for %Length, %Name, %Role, %Weight, which the template asks for; did you mean "
+              "%Length by \"length\", %Weight by \"Wieght [kg]\"?",
+              noteFor("MName,length,Wieght [kg],Remark\nA,1,2,x\n"));
+    // Nearer to a column that is there, or to another token.
+    EXPECT_EQ("parts.csv has no column for %Weight, which the template asks for",
+              noteFor("Name,Length,Lenght,Role,Widht\nA,1,2,x,3\n"));
+}
+
 TEST(ReportJobTest, SampleRowsAreOnePieceEach)
 {
     ReportRequest request;
