@@ -57,7 +57,8 @@ CellReader::CellReader(const std::vector<InputColumn>& columns, const RecordSour
       m_source(source),
       m_data(data),
       m_rows(data, columns.size()),
-      m_contents(columns.size()),
+      m_untypedCells(columns.size()),
+      m_notes(columns.size()),
       m_handleColumn(indexOf(columns, [](const InputColumn& column) { return column.isHandle; })),
       m_piecesColumn(indexOf(columns, [](const InputColumn& column) { return column.isPieces; }))
 {
@@ -66,7 +67,7 @@ CellReader::CellReader(const std::vector<InputColumn>& columns, const RecordSour
         if (columns[i].isWanted || columns[i].isHandle)
             m_columnsToRead.push_back(i);
         if (!columns[i].whyNumbers.empty())
-            m_contents[i].untypedCells.takeNumbersAlone();
+            m_untypedCells[i].takeNumbersAlone();
         m_dividesRowTotals = m_dividesRowTotals || (columns[i].isWanted && columns[i].isRowTotal);
     }
 }
@@ -117,7 +118,7 @@ void CellReader::fillOpenColumns()
     for (VorBomItemBase* pRow = m_data.child(); pRow != nullptr; pRow = pRow->next())
         for (const std::size_t column : openColumns)
             if (VorBomDataTuple* pTuple = pRow->getTupleAt(m_columns[column].tupleToken))
-                pTuple->value() = m_contents[column].untypedCells.takeNext();
+                pTuple->value() = m_untypedCells[column].takeNext();
 }
 
 PartsFacts CellReader::facts() const
@@ -127,12 +128,11 @@ PartsFacts CellReader::facts() const
     for (std::size_t i = 0; i < m_columns.size(); ++i)
     {
         const InputColumn& column = m_columns[i];
-        const Content& content = m_contents[i];
         const bool isOpen = column.type == VorBomDataValue::kUnknownData;
+        const UntypedCells& untyped = m_untypedCells[i];
         if (column.isWanted)
-            facts.columns.push_back({ column.token, column.name, isOpen ? content.untypedCells.type() : column.type,
-                                      content.numFilled,
-                                      isOpen ? content.untypedCells.numDecimals() : content.numDecimals });
+            facts.columns.push_back({ column.token, column.name, isOpen ? untyped.type() : column.type,
+                                      m_notes[i].numFilled, isOpen ? untyped.numDecimals() : m_notes[i].numDecimals });
     }
     return facts;
 }
@@ -160,7 +160,7 @@ int CellReader::piecesOf(const Record& record) const
 // A column whose type is still open is read as one of texts.
 void CellReader::readCell(std::size_t column, const RecordCell& cell)
 {
-    ++m_contents[column].numFilled;
+    ++m_notes[column].numFilled;
     switch (m_columns[column].type)
     {
         case VorBomDataValue::kIntData: readWhole(column, textOf(cell)); break;
@@ -183,54 +183,47 @@ std::string_view CellReader::textOf(const RecordCell& cell)
 void CellReader::readWhole(std::size_t column, std::string_view text)
 {
     int value = 0;
-    const std::string_view whole = NumberReader::withoutZeroDecimals(text);
-    if (NumberReader::read(whole, value))
-        m_rows.add(m_columns[column].tupleToken, value);
-    else
-        addFinding(codeOf(text, FindingCodes::kCellIsNotWhole), column, text,
-                   NumberReader::isWhole(whole) ? "a whole number from -2147483648 to 2147483647" : "a whole number");
+    if (NumberReader::read(text, value) || NumberReader::read(NumberReader::withoutZeroDecimals(text), value))
+        return m_rows.add(m_columns[column].tupleToken, value);
+    const bool isWhole = NumberReader::isWhole(NumberReader::withoutZeroDecimals(text));
+    addFinding(codeOf(text, FindingCodes::kCellIsNotWhole), column, text,
+               isWhole ? "a whole number from -2147483648 to 2147483647" : "a whole number");
 }
 
 // A quantity comes from its reader in the model's unit; a plain number is still in the column's, 7.5 ft say, and
 // becomes 2286 mm here. Whether the value is finite is asked after that: 1e308 is a number, but as feet it is none in
-// mm. A column that is not in the model's unit always has a unit (PartsList::resolveUnit).
+// mm. A column that is not in the model's unit always has a unit (PartsList::resolveUnit). In a column of feet and
+// inches "7" is no plain number: it goes to the reader of quantities, which knows what the layout takes.
 void CellReader::readNumber(std::size_t column, const RecordCell& cell)
 {
     const InputColumn& properties = m_columns[column];
+    const std::string_view text = textOf(cell);
     double value = 0;
-    if (!readPlainNumber(column, cell, value))
+    int numDecimals = 0;
+    if (!properties.takesPlainNumbers || !NumberReader::read(text, value, numDecimals))
     {
-        if (!readQuantity(column, textOf(cell), value))
+        if (!readQuantity(column, text, value))
             return;
     }
     else if (!properties.lackingUnit.empty())
-        return refuseForWantOfUnit(column, textOf(cell));
+        return refuseForWantOfUnit(column, text);
     else if (!properties.isInModelUnit)
         value = properties.unit->getVorUnitTransform().toInternalUnits(value);
     if (!std::isfinite(value))
-        addFinding(FindingCodes::kCellIsTooLarge, column, textOf(cell), "a smaller number");
-    else
-        addNumber(column, cell, value);
+        return addFinding(FindingCodes::kCellIsTooLarge, column, text, "a smaller number");
+    if (properties.isRowTotal && !divideByPieces(value))
+        return addFinding(FindingCodes::kTotalOfNoPieces, column, text, "0 in a row of 0 pieces");
+    int& mostDecimals = m_notes[column].numDecimals;
+    mostDecimals = std::max(mostDecimals, numDecimals);
+    m_rows.add(properties.tupleToken, value);
 }
 
-// `value` is in the model's unit; one of all pieces of its row becomes that of one piece.
-void CellReader::addNumber(std::size_t column, const RecordCell& cell, double value)
+// False when there are no pieces to divide by.
+bool CellReader::divideByPieces(double& value) const
 {
-    if (m_columns[column].isRowTotal && m_numPieces == 0 && value != 0)
-        return addFinding(FindingCodes::kTotalOfNoPieces, column, textOf(cell), "0 in a row of 0 pieces");
-    if (m_columns[column].isRowTotal && m_numPieces != 0)
-        value /= m_numPieces;
-    m_rows.add(m_columns[column].tupleToken, value);
-}
-
-// In a column of feet and inches "7" is no plain number: it goes to the reader of quantities, which knows what the
-// layout takes.
-bool CellReader::readPlainNumber(std::size_t column, const RecordCell& cell, double& value)
-{
-    int numDecimals = 0;
-    if (!m_columns[column].takesPlainNumbers || !NumberReader::read(textOf(cell), value, numDecimals))
-        return false;
-    m_contents[column].numDecimals = std::max(m_contents[column].numDecimals, numDecimals);
+    if (m_numPieces == 0)
+        return value == 0;
+    value /= m_numPieces;
     return true;
 }
 
@@ -251,7 +244,7 @@ void CellReader::readUntyped(std::size_t column, std::string_view text)
     double value = 0;
     if (!properties.whyNumbers.empty() && !NumberReader::read(text, value))
         return addFinding(codeOf(text, MistakeCodes::kKindsMixed), column, text, "a number", properties.whyNumbers);
-    m_contents[column].untypedCells.add(text);
+    m_untypedCells[column].add(text);
     m_rows.add(properties.tupleToken, 0); // a place for the value that finish() sets
 }
 
@@ -279,7 +272,7 @@ bool CellReader::readQuantity(std::size_t column, std::string_view text, double&
 void CellReader::refuseForWantOfUnit(std::size_t column, std::string_view text)
 {
     const InputColumn& properties = m_columns[column];
-    if (std::exchange(m_contents[column].isRefused, true))
+    if (std::exchange(m_notes[column].isRefused, true))
         return;
     addFinding(FindingCodes::kUnitLacking, column, text, "a number with its unit",
                "write the heading " + inQuotes(properties.name + " [" + properties.lackingUnit + "]") +

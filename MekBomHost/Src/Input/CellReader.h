@@ -59,10 +59,9 @@ public:
     const std::vector<Finding>& findings() const { return m_findings.all(); }
 
 private:
-    // What is gathered of a column while its cells come in.
-    struct Content
+    // What is noted of a column while its cells come in.
+    struct Notes
     {
-        UntypedCells untypedCells; // used where the type is still open
         int numFilled = 0;
         int numDecimals = 0;
         bool isRefused = false; // for want of a unit, which is said once
@@ -74,11 +73,10 @@ private:
     std::string_view textOf(const RecordCell& cell);
     void readWhole(std::size_t column, std::string_view text);
     void readNumber(std::size_t column, const RecordCell& cell);
-    void addNumber(std::size_t column, const RecordCell& cell, double value);
+    bool divideByPieces(double& value) const;
     void readText(std::size_t column, std::string_view text);
     void readUntyped(std::size_t column, std::string_view text);
     void readHandle(std::size_t column, std::string_view text);
-    bool readPlainNumber(std::size_t column, const RecordCell& cell, double& value);
     bool readQuantity(std::size_t column, std::string_view text, double& value);
     void refuseForWantOfUnit(std::size_t column, std::string_view text);
     void addFinding(const FindingCode& code, std::size_t column, std::string_view text, const std::string& expected,
@@ -93,7 +91,8 @@ private:
     VorBomData& m_data;
     FindingList m_findings;
     RowBuilder m_rows;                        // those that are not in the data yet
-    std::vector<Content> m_contents;          // one for each column
+    std::vector<UntypedCells> m_untypedCells; // one for each column, used where the type is still open
+    std::vector<Notes> m_notes;               // one for each column
     std::vector<std::size_t> m_columnsToRead; // those that are wanted, and that of the handle
     std::size_t m_handleColumn;               // that of the pieces as well: the number of columns where there is none
     std::size_t m_piecesColumn;

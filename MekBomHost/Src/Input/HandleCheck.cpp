@@ -74,7 +74,7 @@ std::string counted(std::size_t number, const char* singular, const char* plural
 void HandleCheck::add(std::string_view handle)
 {
     m_bytes += handle;
-    m_ends.push_back(m_bytes.size());
+    m_bounds.push_back(m_bytes.size());
 }
 
 std::vector<Finding> HandleCheck::findings() const
@@ -85,31 +85,29 @@ std::vector<Finding> HandleCheck::findings() const
     return findings;
 }
 
-std::string_view HandleCheck::handleOf(std::size_t row) const
-{
-    const std::size_t begin = row == 0 ? 0 : m_ends[row - 1];
-    return std::string_view(m_bytes).substr(begin, m_ends[row] - begin);
-}
-
 std::vector<HandleCheck::Repetition> HandleCheck::repetitions() const
 {
     std::vector<Repetition> repetitions;
     RowTable table(numRows());
+    std::array<std::string_view, kRowsAtOnce> handles{};
     std::array<std::uint64_t, kRowsAtOnce> keys{};
     for (std::size_t first = 0; first < numRows(); first += kRowsAtOnce)
     {
-        const std::size_t end = std::min(first + kRowsAtOnce, numRows());
-        for (std::size_t row = first; row < end; ++row)
-            table.willFind(keys[row - first] = keyOf(handleOf(row)));
-        for (std::size_t row = first; row < end; ++row)
+        const std::size_t numHandles = std::min(kRowsAtOnce, numRows() - first);
+        for (std::size_t i = 0; i < numHandles; ++i)
         {
-            const std::string_view handle = handleOf(row);
-            if (handle.empty())
-                continue;
-            const std::size_t same = table.findOrEnter(
-                keys[row - first], row, [this, handle](std::size_t other) { return handleOf(other) == handle; });
-            if (same != row)
-                repetitions.push_back({ same, row });
+            handles[i] = handleOf(first + i);
+            keys[i] = keyOf(handles[i]);
+            table.willFind(keys[i]);
+        }
+        for (std::size_t i = 0; i < numHandles; ++i)
+        {
+            const std::size_t same = handles[i].empty() ? first + i
+                                                        : table.findOrEnter(keys[i], first + i,
+                                                                            [&](std::size_t other)
+                                                                            { return handleOf(other) == handles[i]; });
+            if (same != first + i)
+                repetitions.push_back({ same, first + i });
         }
     }
     return repetitions;

@@ -35,13 +35,16 @@ private:
         std::size_t row;
     };
 
-    std::size_t numRows() const { return m_ends.size(); }
-    std::string_view handleOf(std::size_t row) const; // from 0
+    std::size_t numRows() const { return m_bounds.size() - 1; }
+    std::string_view handleOf(std::size_t row) const // from 0
+    {
+        return std::string_view(m_bytes.data() + m_bounds[row], m_bounds[row + 1] - m_bounds[row]);
+    }
     std::vector<Repetition> repetitions() const;
     void addRepeated(std::vector<Finding>& findings) const;
     void addMissing(std::vector<Finding>& findings) const;
 
-    std::string m_bytes; // the handles one after the other
-    std::vector<std::size_t> m_ends;
+    std::string m_bytes;                    // the handles one after the other
+    std::vector<std::size_t> m_bounds{ 0 }; // where each begins and the one before it ends
 };
 }
