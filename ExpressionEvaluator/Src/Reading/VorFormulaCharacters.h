@@ -8,6 +8,7 @@
 
 #include "MekRoots/Exp/VorCharacters.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string_view>
 
@@ -58,6 +59,14 @@ inline const wchar_t* endOperand(const wchar_t* pText)
         if (!kBlanks.holds(*pText))
             return nullptr;
     return pText;
+}
+
+// Whether an operand can read like this: it has no operator in it and no blank at its end. Blanks at the start are let
+// pass, as nobody reads an operand from a blank on.
+inline bool canBeOperand(std::wstring_view text)
+{
+    const auto endsHere = [](wchar_t character) { return kOperandEnds.holds(character); };
+    return !text.empty() && !kBlanks.holds(text.back()) && std::none_of(text.begin(), text.end(), endsHere);
 }
 
 // Digits, point, sign, white space as the C library knows it, and the zero that ends a text.
