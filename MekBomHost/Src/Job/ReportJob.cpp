@@ -25,6 +25,7 @@
 #include "Utf8.h"
 
 #include "VorBomData.h"
+#include "VorBomDataTuple.h"
 #include "VorBomTokenCatalogue.h"
 
 #include <utility>
@@ -56,10 +57,11 @@ VorUnitsManager unitsOf(const ReportRequest& request)
     return UnitChoice::unitsOf(request.units, request.unitChoices);
 }
 
-[[noreturn]] void refuseInputUnits()
+// The sample rows have no columns that an option could be about.
+[[noreturn]] void refuseForSample(const std::string& option)
 {
     Finding finding = Finding::stating(FindingCodes::kOptionWithoutUse, "the sample data are no parts list");
-    finding.source = "--input-unit";
+    finding.source = option;
     throw Fault(kWrongUsage, finding);
 }
 }
@@ -91,13 +93,17 @@ void ReportJob::openParts()
     if (m_request.pParts == nullptr)
     {
         if (!m_request.inputUnits.empty())
-            refuseInputUnits();
+            refuseForSample("--input-unit");
+        if (!m_request.rowTotals.empty())
+            refuseForSample("--row-totals");
         return;
     }
     m_pRecords = std::make_unique<CsvReader>(*m_request.pParts);
     m_pParts = std::make_unique<PartsList>(*m_pRecords);
     for (const auto& [token, unit] : m_request.inputUnits)
         m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);
+    for (const std::string& token : m_request.rowTotals)
+        m_pParts->setRowTotal(ColumnHeading::tokenOf(token));
 }
 
 ReportTemplate ReportJob::readTemplate()
@@ -138,7 +144,10 @@ void ReportJob::readRows()
         return takeSampleRows();
     noteMissingColumns();
     checkFilterTokens();
-    m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->filterTokens());
+    m_pParts->setOwnTokens(m_pReport->reportTemplate().ownTokens);
+    m_partsFacts = m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->filterTokens());
+    for (const Finding& finding : m_pParts->findings())
+        m_findings.add(finding);
 }
 
 void ReportJob::addFilter()
@@ -159,12 +168,20 @@ void ReportJob::checkFilterTokens() const
                                     m_pReport->reportTemplate().queryFilter.names(token));
 }
 
-// The rows change hands: the sample has to let go of them, or both would delete them.
+// The rows change hands: the sample has to let go of them, or both would delete them. Each is one piece, as a row of a
+// parts list is that does not say how many it stands for.
 void ReportJob::takeSampleRows()
 {
     const std::unique_ptr<VorBomData> pSample(VorBomData::createDefaultData());
-    m_pReport->engineTemplate().getBomData()->setChild(pSample->child());
+    VorBomTemplate& reportTemplate = m_pReport->engineTemplate();
+    reportTemplate.getBomData()->setChild(pSample->child());
     pSample->setChild(nullptr);
+    const VorString piecesToken = Utf8::toWide(PartsList::kPiecesToken);
+    if (!reportTemplate.isTokenRequired(piecesToken))
+        return;
+    for (VorBomItemBase* pRow = reportTemplate.getBomData()->child(); pRow != nullptr; pRow = pRow->next())
+        if (pRow->getTupleAt(piecesToken) == nullptr)
+            pRow->addData(VorBomDataTuple(piecesToken, 1));
 }
 
 void ReportJob::noteMissingColumns()
