@@ -45,6 +45,7 @@ bool ExpressionsEvaluator::isTraced()
     return m_nTraceTrees != 0 || VorExpressionEvaluator::m_nTraceStacks != 0;
 }
 
+// What an earlier formula left goes here and not at its end, since hosts ask for variables and errors in between.
 ExpressionsEvaluator::ExpressionsEvaluator(const wchar_t* text, unsigned int length)
     : m_pText(text), m_nLength(text == nullptr ? 0 : std::min(length, kMostCharacters))
 {
@@ -52,6 +53,7 @@ ExpressionsEvaluator::ExpressionsEvaluator(const wchar_t* text, unsigned int len
     VorExprEvalErrorHandler::ofThread().clear();
 }
 
+// The variables are the thread's and not this object's: another evaluator on the thread would empty them.
 int ExpressionsEvaluator::addVariable(const VorExprEvTextView& name, VorExprEvValue& value)
 {
     return VorExprEvVariableList::ofThread().addVariable(name, value);

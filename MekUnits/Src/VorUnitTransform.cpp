@@ -55,6 +55,7 @@ const VorUnitDefinition& unitOrModelUnit(int unit)
     return kModelUnit;
 }
 
+// Formats 2, 112 and 552 are two decimals, by their last digit; 1016, a fraction, is -1.
 int decimalsOf(int format)
 {
     if (format >= kFirstFraction)
@@ -62,6 +63,7 @@ int decimalsOf(int format)
     return format > 0 ? format % 10 : 0;
 }
 
+// Format 2 is hundred parts, 1016 is sixteen, and 1000, which would be none, is one: whole numbers.
 unsigned int partsOf(int format)
 {
     if (format >= kFirstFraction)

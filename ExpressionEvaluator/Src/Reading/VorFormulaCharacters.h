@@ -79,7 +79,7 @@ enum eKind : signed char
     kProduct = 3,     // '*' and '/'
     kNothing = 4,     // blanks and zero characters
     kEnd = 5,         // of the statement
-    kOperand = 6,     // all that is nothing else
+    kOperand = 6,     // everything else
     kDigit = 7,       // an operand, most likely a number
     kName = 8         // an operand that is no number
 };

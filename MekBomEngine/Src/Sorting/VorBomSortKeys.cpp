@@ -1,3 +1,6 @@
+// Told on %Name, descending, and rows with B2, with B10 and without a name. The catalogue sorts %Name naturally:
+//   B2 and B10     B2 is less, and descending makes that 1: B10 stands first
+//   B2 and none    a datum is more than none, and descending makes that -1: the row without a name stands last
 #include "VorBomSortKeys.h"
 
 #include "VorBomDataToken.h"
