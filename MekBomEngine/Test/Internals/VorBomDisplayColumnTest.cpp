@@ -18,11 +18,11 @@ VorString shown(VorBomDisplayColumn& column, Units& units, Number number)
     return value.asString();
 }
 
-class InBrackets : public VorBomNumberFormat
+class AsWord : public VorBomNumberFormat
 {
 public:
-    VorString textOf(int value) const override { return VorString(L"<") + VorBomDataValue(value).asString() + L">"; }
-    VorString textOf(double value) const override { return VorString(L"(") + VorBomDataValue(value).asString() + L")"; }
+    VorString textOf(int value) const override { return VorString(value == 2 ? L"two" : L"other"); }
+    VorString textOf(double value) const override { return VorString(value == 2.5 ? L"two and a half" : L"other"); }
 };
 
 VorString shownUnder(const wchar_t* token, Units& units, double number)
@@ -99,13 +99,13 @@ TEST(VorBomDisplayColumnTest, FormatOfTheHostShowsNumbersInPlaceOfTheUnits)
     Units units;
     units.AddTokenType(L"%Weight", kHidden);
     VorBomDisplayColumn column((VorBomDataToken(VorString(L"%Weight"))));
-    const InBrackets format;
+    const AsWord format;
     column.setFormat(&format);
 
     for (int time = 0; time < 2; ++time) // the second time from memory
     {
-        EXPECT_EQ(VorString(L"<2>"), shown(column, units, 2));
-        EXPECT_EQ(VorString(L"(2.5)"), shown(column, units, 2.5));
+        EXPECT_EQ(VorString(L"two"), shown(column, units, 2));
+        EXPECT_EQ(VorString(L"two and a half"), shown(column, units, 2.5));
     }
     EXPECT_EQ(kHidden, column.unitType());
 }

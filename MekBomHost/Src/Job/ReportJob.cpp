@@ -24,6 +24,7 @@
 #include "VorBomData.h"
 #include "VorBomTokenCatalogue.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -76,6 +77,7 @@ ExitStatus ReportJob::makeReport()
         m_findings.add(finding);
     const DisplaySettings settings = settingsOf(m_request, m_findings);
     m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
+    refuseWrongNumbers();
     addFilter();
     readRows();
     m_pReport->evaluate();
@@ -117,6 +119,21 @@ ReportTemplate ReportJob::readSuitableTemplate()
     const auto hasColumn = [this](const std::string& token) { return m_pParts->find(token) != nullptr; };
     const NamedText& file = TemplateChoice::choose(m_pRecords->name(), candidates, hasColumn);
     return TemplateReader::read(file.name, file.text);
+}
+
+// Before rows are read: a template that is wrong is wrong for all of them.
+void ReportJob::refuseWrongNumbers()
+{
+    std::vector<Finding> errors = m_pReport->numberErrors();
+    const auto isAllowed = [this](const Finding& finding)
+    {
+        const std::vector<std::string>& codes = m_request.allowed;
+        return std::find(codes.begin(), codes.end(), finding.code) != codes.end() ||
+               m_pReport->reportTemplate().allowed.count(finding.code) > 0;
+    };
+    errors.erase(std::remove_if(errors.begin(), errors.end(), isAllowed), errors.end());
+    if (!errors.empty())
+        throw Fault(kInvalidInput, errors, errors.size());
 }
 
 void ReportJob::readRows()

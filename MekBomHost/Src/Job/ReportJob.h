@@ -43,6 +43,7 @@ private:
     void openParts();
     ReportTemplate readTemplate();
     ReportTemplate readSuitableTemplate();
+    void refuseWrongNumbers();
     void addFilter();
     void readRows();
     void checkFilterTokens() const;
