@@ -88,8 +88,8 @@ public:
 
     // Has rows be sorted by `token` in this order, whatever the catalogue of tokens says of it. Of two calls for one
     // token the last one counts. Groups, sums and other templates are left alone.
-    //   pTemplate->setSortType(L"%Phase", VorBomDataToken::kSortAlphanumeric);   // 1, 2, 10 instead of 1, 10, 2
-    //   pTemplate->setSortType(L"%Zone", VorBomDataToken::kSortString);          // not in the catalogue: no report
+    //   reportTemplate.setSortType(L"%Phase", VorBomDataToken::kSortAlphanumeric);   // 1, 2, 10 instead of 1, 10, 2
+    //   reportTemplate.setSortType(L"%Zone", VorBomDataToken::kSortString);          // not in the catalogue: no report
     // Natural order is for texts: numbers under such a token are reported, as under those of the catalogue.
     void setSortType(const VorString& token, VorBomDataToken::eSortType sortType);
     const VorBomDataToken::SortTypes& sortTypes() const { return m_sortTypes; }
