@@ -49,6 +49,7 @@ private:
     ReportTemplate readTemplate();
     ReportTemplate readSuitableTemplate();
     ReportTemplate readColumnsTemplate();
+    void refuseWrongNumbers();
     void addFilter();
     void readRows();
     void checkFilterTokens() const;
