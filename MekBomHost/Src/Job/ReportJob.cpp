@@ -183,8 +183,8 @@ void ReportJob::takeSampleRows()
             pRow->addData(VorBomDataTuple(piecesToken, 1));
 }
 
-// A template may do without some of its data; but a file whose pieces are called "Qty" must not be counted wrong without
-// a word.
+// A template may do without some of its data; but a file whose pieces are called "Qty" must not be counted wrong
+// without a word.
 void ReportJob::noteMissingColumns()
 {
     const std::vector<std::string> asked = DataTokens::of(m_pReport->engineTemplate());
