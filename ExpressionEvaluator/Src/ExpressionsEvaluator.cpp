@@ -1,7 +1,7 @@
 // The formula "a=4;a*2" of 7 characters is evaluated in two statements:
 //   "a=4"      3 characters, up to the separator
-//   "a*2\0"    4 characters: no separator follows, so that it is the last one, as long as the formula without as many
-//              characters as the statement before it has. The text has 3 more; the view answers zero for the fourth.
+//   "a*2\0"    4 characters: no separator follows, so it is the last one, and its length is that of the formula, 7,
+//              less that of the statement before it, 3. The text has 3 more; the view answers zero for the fourth.
 // Each is parsed into a tree of its own, and variables are all that passes from one to the next.
 #include "ExpressionsEvaluator.h"
 
@@ -48,6 +48,7 @@ bool ExpressionsEvaluator::isTraced()
     return m_nTraceTrees != 0 || VorExpressionEvaluator::m_nTraceStacks != 0;
 }
 
+// What an earlier formula left goes here and not at its end, since hosts ask for variables and errors in between.
 ExpressionsEvaluator::ExpressionsEvaluator(const wchar_t* text, unsigned int length)
     : m_pText(text), m_nLength(text == nullptr ? 0 : std::min(length, kMostCharacters))
 {
@@ -55,6 +56,7 @@ ExpressionsEvaluator::ExpressionsEvaluator(const wchar_t* text, unsigned int len
     VorExprEvalErrorHandler::ofThread().clear();
 }
 
+// The variables are the thread's and not this object's: another evaluator on the thread would empty them.
 int ExpressionsEvaluator::addVariable(const VorExprEvTextView& name, VorExprEvValue& value)
 {
     return VorExprEvVariableList::ofThread().addVariable(name, value);

@@ -26,8 +26,8 @@ public:
     // The section is not owned and must not change as long as the plan is used.
     VorBomFooterPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section);
 
-    // Takes in the rows of the open group that came since the last call. Rows that do not count are passed over; whether
-    // they do must be settled by now.
+    // Takes in the rows of the open group that came since the last call. Rows that do not count are passed over;
+    // whether they do must be settled by now.
     void takeNewRows(const VorBomDataRowPointerArray& rows);
 
     // Takes in those rows, too, then hands the footer over and begins the next one.
@@ -36,7 +36,7 @@ public:
     // For each column of the footer finished last how many of its counted rows had a datum for it.
     const int* numRowsWithDatum() const { return m_numFoundInFinished.data(); }
 
-    // Shows finished footers.
+    // Shows the footers that finish() has handed over.
     VorBomDisplayPlan& display() { return m_display; }
 
 private:

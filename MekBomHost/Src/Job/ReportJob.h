@@ -43,7 +43,9 @@ private:
     void openParts();
     ReportTemplate readTemplate();
     ReportTemplate readSuitableTemplate();
+    void addFilter();
     void readRows();
+    void checkFilterTokens() const;
     void takeSampleRows();
     void noteMissingColumns();
     void noteMergedRows();

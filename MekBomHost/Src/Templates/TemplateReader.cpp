@@ -71,7 +71,9 @@ void readChoice(JsonChecker& json, const JsonItem& object, const std::string& ke
 ReportTemplate TemplateReader::read(const std::string& name, std::string_view text)
 {
     const JsonNode root = JsonReader(name, text).read();
-    return TemplateReader(name).build(root);
+    ReportTemplate reportTemplate = TemplateReader(name).build(root);
+    reportTemplate.fileName = name;
+    return reportTemplate;
 }
 
 ReportTemplate TemplateReader::build(const JsonNode& root)
@@ -106,10 +108,13 @@ void TemplateReader::readQueryFilter(const JsonItem& root)
 {
     const std::string filter = m_json.textOf(root, "queryFilter");
     m_template.pTemplate->setQueryFilter(Utf8::toWide(filter));
-    if (QueryFilter::parse(filter, m_template.queryFilter) == 0)
-        m_json.add(
-            { *root.node.find("queryFilter"), "/queryFilter" },
-            Finding::of(FindingCodes::kNoQueryFilter, inQuotes(filter), "tokens such as \"%Weight, !%BoltName\""));
+    const std::optional<Finding> finding = RowFilter::parse(filter, m_template.queryFilter);
+    const JsonNode* const pFilter = root.node.find("queryFilter");
+    if (pFilter == nullptr)
+        return;
+    m_template.queryFilterPlace = { "/queryFilter", pFilter->span };
+    if (finding)
+        m_json.add({ *pFilter, "/queryFilter" }, *finding);
 }
 
 // The names stand in the order of the engine's enumerators, so the number of a choice is the type.

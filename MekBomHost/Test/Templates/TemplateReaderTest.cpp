@@ -151,12 +151,13 @@ TEST(TemplateReaderTest, EverySectionAndUnitTypeHasItsName)
 
 TEST(TemplateReaderTest, UnknownKeysAreNamedWithTheKnownOnes)
 {
-    EXPECT_EQ("3 list.json:1:3: found unknown key \"titel\", expected \"$schema\", \"title\", \"queryFilter\", "
-              "\"presentationOptions\", \"tokenUnits\", \"columns\" or \"sections\"\n",
-              faultInRoot("\"titel\": \"x\""));
+    EXPECT_EQ(
+        "3 list.json:1:3: found unknown key \"titel\", expected \"$schema\", \"title\", \"queryFilter\", "
+        "\"presentationOptions\", \"tokenUnits\", \"tokens\", \"equalLines\", \"allow\", \"columns\" or \"sections\"\n",
+        faultInRoot("\"titel\": \"x\""));
     EXPECT_EQ("3 list.json:1:19: /sections/0: found unknown key \"Type\", expected \"type\", \"print\", \"label\", "
-              "\"tuples\" or "
-              "\"children\"\n"
+              "\"summary\", "
+              "\"tuples\" or \"children\"\n"
               "3 list.json:1:17: /sections/0: found no key \"type\", expected one\n",
               faultInSection("\"Type\": \"kDetails\""));
 }
@@ -198,7 +199,8 @@ TEST(TemplateReaderTest, UnknownNamesAreNamedWithTheKnownOnes)
               faultInRoot("\"columns\": [ { \"token\":\"%Name\",\"align\":\"centre\" } ]"));
     EXPECT_EQ("3 list.json:1:42: /columns/0/width: found the number 0, expected one from 1 to 200\n",
               faultInRoot("\"columns\": [ { \"token\":\"%Name\",\"width\":0 } ]"));
-    EXPECT_EQ("3 list.json:1:18: /queryFilter: found \"BoltName\", expected tokens such as \"%Weight, !%BoltName\"\n",
+    EXPECT_EQ("3 list.json:1:18: /queryFilter: found \"BoltName\", expected a condition such as "
+              "%BoltName, !%BoltName, %Material = 'S355' or %Length > 6 m\n",
               faultInRoot("\"queryFilter\": \"BoltName\""));
 }
 
