@@ -4,7 +4,7 @@
 //   template                         without one named, the candidate that suits these columns best
 //   settings, units, Report          the template's tokens get their kinds of quantity
 //   records                          are read in these kinds, and only the data that the template asks for
-//   evaluation                       only now is it known how many rows were merged
+//   evaluation                       only now is it known how many rows were merged, and what left the totals
 #include "ReportJob.h"
 
 #include "ColumnHeading.h"
@@ -15,6 +15,7 @@
 #include "FindingCodes.h"
 #include "Guard.h"
 #include "InQuotes.h"
+#include "MistakeCodes.h"
 #include "NamedText.h"
 #include "TemplateChoice.h"
 #include "TemplateReader.h"
@@ -24,6 +25,7 @@
 #include "VorBomData.h"
 #include "VorBomTokenCatalogue.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -53,6 +55,28 @@ VorUnitsManager unitsOf(const ReportRequest& request)
     return UnitChoice::unitsOf(request.units, request.unitChoices);
 }
 
+// "12 rows read like others, are merged into their lines and are in no total: Weight 2140 kg"
+std::string lossIn(const ListFoot& foot)
+{
+    const std::string rows = foot.numLosing == 1 ? "1 row reads like the one before it, is merged into its line and is"
+                                                 : std::to_string(foot.numLosing) +
+                                                       " rows read like the one before them, are merged into its line "
+                                                       "and are";
+    return rows + " in no total: " + foot.lossText();
+}
+
+// The finding at the details, whose lines are the ones that merge.
+Finding inDetails(const Finding& finding, const ReportTemplate& reportTemplate)
+{
+    const VorBomItemBase* pDetails = reportTemplate.pTemplate->child();
+    while (pDetails->child() != nullptr)
+        pDetails = pDetails->child();
+    const TemplatePlace& place = reportTemplate.styleOf(pDetails).place;
+    Finding placed = finding.in(reportTemplate.fileName, place.span);
+    placed.path = place.path;
+    return placed;
+}
+
 [[noreturn]] void refuseInputUnits()
 {
     Finding finding = Finding::stating(FindingCodes::kOptionWithoutUse, "the sample data are no parts list");
@@ -78,8 +102,11 @@ ExitStatus ReportJob::makeReport()
     m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
     addFilter();
     readRows();
+    if (m_request.checksTotals)
+        m_pReport->checkTotals();
     m_pReport->evaluate();
-    noteMergedRows();
+    refuseLostTotals();
+    m_pReport->facts().numWarnings = m_findings.numWarnings();
     return kDone;
 }
 
@@ -105,6 +132,7 @@ ReportTemplate ReportJob::readTemplate()
         return readSuitableTemplate();
     ReportTemplate reportTemplate;
     reportTemplate.pTemplate.reset(VorBomTemplate::createDefaultTemplate());
+    reportTemplate.equalLines = kMergeEqualLines; // its lists stay what they have always been
     return reportTemplate;
 }
 
@@ -168,16 +196,22 @@ void ReportJob::noteMissingColumns()
     m_findings.add(finding);
 }
 
-void ReportJob::noteMergedRows()
+// Whoever says what is to become of equal lines gets that; who has not thought of it must not lose a weight by it.
+void ReportJob::refuseLostTotals() const
 {
-    const int numRows = m_pReport->numMergedRows();
-    if (numRows == 0)
+    const ListFoot foot = m_pReport->evaluated().foot();
+    const ReportTemplate& reportTemplate = m_pReport->reportTemplate();
+    if (reportTemplate.equalLines != kEqualLinesOpen || foot.losses.empty() || isAllowed(MistakeCodes::kTotalsLoseRows))
         return;
-    m_findings.add(Finding::saying(FindingCodes::kRowsMerged,
-                                   std::to_string(numRows) +
-                                       (numRows == 1 ? " line equal to the one before it was merged into it and is"
-                                                     : " lines equal to the one before them were merged into it and "
-                                                       "are") +
-                                       " not counted in totals; details that show %Handle stay apart"));
+    Finding finding = Finding::stating(MistakeCodes::kTotalsLoseRows, lossIn(foot));
+    finding.remedy = "say \"equalLines\": \"count\" for one line with the pieces and totals of all, \"keep\" for a "
+                     "line each, or \"merge\" to leave these rows out";
+    throw Fault(kMistakes, inDetails(finding, reportTemplate));
+}
+
+bool ReportJob::isAllowed(const FindingCode& code) const
+{
+    return m_pReport->reportTemplate().allowed.count(code.name) > 0 ||
+           std::find(m_request.allowed.begin(), m_request.allowed.end(), code.name) != m_request.allowed.end();
 }
 }
