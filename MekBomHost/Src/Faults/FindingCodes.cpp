@@ -24,6 +24,7 @@ const std::vector<FindingCode>& all()
         kUnitGivenTwice,
         kColumnMissing,
         kNoSuitableTemplate,
+        kListChosen,
         kNoJson,
         kKeyTwice,
         kKeyUnknown,
@@ -56,6 +57,8 @@ const std::vector<FindingCode>& all()
         kSettingUnknown,
         kSettingIsNoNumber,
         kSettingUnused,
+        kListUnknown,
+        kOutputOfOtherFormat,
     };
     return codes;
 }

@@ -56,8 +56,10 @@ inline constexpr FindingCode kUnitGivenTwice = { "MB715", kError,
                                                  "A unit is given for a column whose heading names another one." };
 inline constexpr FindingCode kColumnMissing = { "MB716", kNote,
                                                 "The parts list has no column for data that the template asks for." };
-inline constexpr FindingCode kNoSuitableTemplate = { "MB718", kError,
-                                                     "The columns suit none of the templates there are to choose." };
+inline constexpr FindingCode kNoSuitableTemplate = {
+    "MB718", kNote, "The columns suit none of the lists there are to choose, and are printed as they are."
+};
+inline constexpr FindingCode kListChosen = { "MB719", kNote, "A list was chosen because it suits the columns." };
 
 // Template files.
 inline constexpr FindingCode kNoJson = { "MB801", kError, "A template file is no JSON with comments." };
@@ -99,6 +101,10 @@ inline constexpr FindingCode kEntryMalformed = { "MB914", kError,
 inline constexpr FindingCode kSettingUnknown = { "MB915", kError, "A word names no setting." };
 inline constexpr FindingCode kSettingIsNoNumber = { "MB916", kError, "The value of a setting is no whole number." };
 inline constexpr FindingCode kSettingUnused = { "MB917", kNote, "A settings file sets what lists do not use." };
+inline constexpr FindingCode kListUnknown = { "MB918", kError, "A word is neither a list nor a template file." };
+inline constexpr FindingCode kOutputOfOtherFormat = {
+    "MB919", kError, "The name of the output promises a format that no list is written in."
+};
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();

@@ -1,13 +1,16 @@
 // The order of the steps decides which mistake a user is told of first, and most need what an earlier one has found:
 //
 //   header row of the parts list     says which columns there are
-//   template                         without one named, the candidate that suits these columns best
+//   template                         without one named, the candidate that suits these columns best; if none does, one
+//                                    that shows the columns as they are
 //   settings, units, Report          the template's tokens get their kinds of quantity
 //   records                          are read in these kinds, and only the data that the template asks for
 //   evaluation                       only now is it known how many rows were merged, and what left the totals
 #include "ReportJob.h"
 
 #include "ColumnHeading.h"
+#include "ColumnNotes.h"
+#include "ColumnsTemplate.h"
 #include "CsvReader.h"
 #include "DataTokens.h"
 #include "DisplaySettings.h"
@@ -143,8 +146,18 @@ ReportTemplate ReportJob::readSuitableTemplate()
     for (const std::unique_ptr<ByteSource>& pCandidate : m_request.candidates)
         candidates.push_back(textOf(*pCandidate));
     const auto hasColumn = [this](const std::string& token) { return m_pParts->find(token) != nullptr; };
-    const NamedText& file = TemplateChoice::choose(m_pRecords->name(), candidates, hasColumn);
-    return TemplateReader::read(file.name, file.text);
+    const NamedText* const pFile = TemplateChoice::choose(candidates, hasColumn);
+    if (pFile == nullptr)
+        return readColumnsTemplate();
+    ReportTemplate reportTemplate = TemplateReader::read(pFile->name, pFile->text);
+    m_findings.add(ColumnNotes::chosen(pFile->name, reportTemplate.title));
+    return reportTemplate;
+}
+
+ReportTemplate ReportJob::readColumnsTemplate()
+{
+    m_findings.add(ColumnNotes::printedAsTheyAre(*m_pParts, m_pRecords->name()));
+    return TemplateReader::read("list of " + m_pRecords->name(), ColumnsTemplate::textOf(m_pParts->columns()));
 }
 
 void ReportJob::readRows()
@@ -184,16 +197,12 @@ void ReportJob::takeSampleRows()
 
 void ReportJob::noteMissingColumns()
 {
-    std::string missing;
+    std::vector<std::string> missing;
     for (const std::string& token : DataTokens::of(m_pReport->engineTemplate()))
         if (m_pParts->find(token) == nullptr)
-            missing += (missing.empty() ? "" : ", ") + token;
-    if (missing.empty())
-        return;
-    Finding finding = Finding::saying(FindingCodes::kColumnMissing, m_pRecords->name() + " has no column for " +
-                                                                        missing + ", which the template asks for");
-    finding.source = m_pRecords->name();
-    m_findings.add(finding);
+            missing.push_back(token);
+    if (!missing.empty())
+        m_findings.add(ColumnNotes::missing(*m_pParts, m_pRecords->name(), missing));
 }
 
 // Whoever says what is to become of equal lines gets that; who has not thought of it must not lose a weight by it.

@@ -43,6 +43,7 @@ private:
     void openParts();
     ReportTemplate readTemplate();
     ReportTemplate readSuitableTemplate();
+    ReportTemplate readColumnsTemplate();
     void addFilter();
     void readRows();
     void checkFilterTokens() const;

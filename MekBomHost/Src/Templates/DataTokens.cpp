@@ -8,17 +8,6 @@
 
 namespace mekbom::DataTokens
 {
-namespace
-{
-// Whether rows may carry it. "%GroupBy:%Name" steers, "%Formula:%Length/2" is computed and "%SumBy:%Weight" is added
-// up; the data that these are about have entries of their own in the trace.
-bool isDatum(const VorString& token)
-{
-    return VorBomDataToken::isToken(token) == 1 && VorBomDataToken::isInvisibleToken(token) == 0 &&
-           VorBomDataToken::isFormula(token) == 0 && token.find(VorBomDataToken::kSumPrefix, 0) != 0;
-}
-}
-
 // %Handle is not among them: rows of a parts list without such a column are numbered, so nobody misses it.
 std::vector<std::string> of(VorBomTemplate& reportTemplate)
 {
@@ -30,5 +19,13 @@ std::vector<std::string> of(VorBomTemplate& reportTemplate)
             tokens.push_back(name);
     }
     return tokens;
+}
+
+// "%GroupBy:%Name" steers, "%Formula:%Length/2" is computed and "%SumBy:%Weight" is added up; the data that these are
+// about have entries of their own in the trace.
+bool isDatum(const VorString& token)
+{
+    return VorBomDataToken::isToken(token) == 1 && VorBomDataToken::isInvisibleToken(token) == 0 &&
+           VorBomDataToken::isFormula(token) == 0 && token.find(VorBomDataToken::kSumPrefix, 0) != 0;
 }
 }

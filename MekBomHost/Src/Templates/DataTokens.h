@@ -17,4 +17,9 @@ namespace mekbom::DataTokens
 // Sorted as the template's token trace is, each name once. In UTF-8. The template finds its used tokens for that,
 // unless it has done so.
 std::vector<std::string> of(VorBomTemplate& reportTemplate);
+
+// Whether rows may carry a datum of that name: not what steers, sums or computes others.
+//   DataTokens::isDatum(L"%Weight")         ->  true
+//   DataTokens::isDatum(L"%SumBy:%Weight")  ->  false
+bool isDatum(const VorString& token);
 }

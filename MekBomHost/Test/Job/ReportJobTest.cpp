@@ -315,8 +315,9 @@ TEST(ReportJobTest, OfTheCandidatesTheOneIsTakenThatSuitsTheParts)
 
     EXPECT_EQ("BoltName\n--------\nM16\n", outcomeOf(request()));
     ReportRequest unsuitable = request();
-    unsuitable.pParts = text("parts.csv", "%Weight\n2\n");
-    EXPECT_EQ(0u, outcomeOf(std::move(unsuitable)).find("3 parts.csv: found columns that suit no "));
+    unsuitable.pParts = text("parts.csv", "Note,%Weight\nx,2\n");
+    EXPECT_EQ("Note   Weight [kg]\n-----  -----------\nx                2\n-----  -----------\nTotal            2\n",
+              outcomeOf(std::move(unsuitable)));
 }
 
 TEST(ReportJobTest, WithoutPartsAndTemplateTheBuiltInOnesAreTaken)
