@@ -41,7 +41,8 @@ std::vector<VorString> Report::filterTokens() const
 // Filters come before the evaluation: no total may count a row that they leave out.
 void Report::evaluate()
 {
-    filter();
+    if (!m_isFiltered)
+        filter();
     VorBomEvaluator2::evaluate(&engineTemplate(), m_sections);
 }
 
@@ -59,6 +60,7 @@ void Report::filter()
 {
     apply(m_template.queryFilter, true);
     apply(m_where, false);
+    m_isFiltered = true;
 }
 
 void Report::apply(RowFilter& filter, bool isFromTemplate)

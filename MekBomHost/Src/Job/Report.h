@@ -49,10 +49,10 @@ public:
     [[noreturn]] void failInFilter(Finding finding, bool isFromTemplate) const;
 
     // Leaves out the rows that the list is not about. Throws a Fault for a filter that compares a datum with what it
-    // cannot be compared with.
+    // cannot be compared with. To be called once; evaluate() does it where nobody has.
     void filter();
 
-    // Filters, then evaluates. To be called once.
+    // Filters, unless that has been done, then evaluates. To be called once.
     void evaluate();
 
     // How many rows had a line equal to the one before it, were merged into that and count in no total.
@@ -66,6 +66,7 @@ private:
 
     VorUnitsManager m_units; // that numbers are shown in
     ReportTemplate m_template;
+    bool m_isFiltered = false;
     RowFilter m_where;
     std::vector<FilteredRows> m_filtered; // of the filters that say anything
     PackedSections m_sections;            // of the evaluated report

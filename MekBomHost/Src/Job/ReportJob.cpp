@@ -3,7 +3,9 @@
 //   header row of the parts list     says which columns there are
 //   template                         without one named, the candidate that suits these columns best
 //   settings, units, Report          the template's tokens get their kinds of quantity
+//   mistakes of the template         what it uses may be known from the catalogue, from itself or from the data
 //   records                          are read in these kinds, and only the data that the template asks for
+//   mistakes that the rows show      once those are left out that the list is not about
 //   evaluation                       only now is it known how many rows were merged
 #include "ReportJob.h"
 
@@ -11,11 +13,14 @@
 #include "CsvReader.h"
 #include "DataTokens.h"
 #include "DisplaySettings.h"
+#include "Excuses.h"
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "Guard.h"
 #include "InQuotes.h"
 #include "NamedText.h"
+#include "RowsCheck.h"
+#include "TemplateCheck.h"
 #include "TemplateChoice.h"
 #include "TemplateReader.h"
 #include "UnitChoice.h"
@@ -68,19 +73,81 @@ ExitStatus ReportJob::run()
     return runGuarded(m_findings, [this] { return makeReport(); });
 }
 
+ExitStatus ReportJob::check()
+{
+    m_isCheckOnly = true;
+    return runGuarded(m_findings, [this] { return checkReport(); });
+}
+
 ExitStatus ReportJob::makeReport()
 {
-    openParts();
-    ReportTemplate reportTemplate = readTemplate();
-    for (const Finding& finding : reportTemplate.findings)
-        m_findings.add(finding);
-    const DisplaySettings settings = settingsOf(m_request, m_findings);
-    m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
-    addFilter();
+    prepareReport();
+    checkTemplate();
     readRows();
+    checkRows();
+    if (m_findings.numErrors() > 0)
+        return kMistakes;
     m_pReport->evaluate();
     noteMergedRows();
     return kDone;
+}
+
+ExitStatus ReportJob::checkReport()
+{
+    prepareReport();
+    checkTemplate();
+    if (hasRows())
+    {
+        readRows();
+        checkRows();
+    }
+    return m_findings.numErrors() > 0 ? kMistakes : kDone;
+}
+
+void ReportJob::prepareReport()
+{
+    openParts();
+    ReportTemplate reportTemplate = readTemplate();
+    const DisplaySettings settings = settingsOf(m_request, m_findings);
+    m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
+    addFilter();
+}
+
+// A report without a parts list is made of the sample rows.
+bool ReportJob::hasRows() const
+{
+    return m_pParts != nullptr || !m_isCheckOnly;
+}
+
+// The sample rows show how the engine can be used: their tokens have no percent sign, on purpose.
+KnownTokens ReportJob::knownTokens() const
+{
+    std::vector<std::string> dataTokens;
+    if (m_pParts == nullptr && hasRows())
+        dataTokens = { "PosNum", "Weight", "Material" };
+    if (m_pParts != nullptr)
+        for (const InputColumn& column : m_pParts->columns())
+            dataTokens.push_back(column.token);
+    return { m_pReport->reportTemplate(), dataTokens };
+}
+
+void ReportJob::checkTemplate()
+{
+    takeMistakes(TemplateCheck::run(m_pReport->reportTemplate(), knownTokens(), hasRows()));
+}
+
+void ReportJob::checkRows()
+{
+    m_pReport->filter();
+    takeMistakes(RowsCheck::run(m_pReport->reportTemplate(), knownTokens(), *m_pReport->engineTemplate().getBomData()));
+}
+
+void ReportJob::takeMistakes(const std::vector<Finding>& mistakes)
+{
+    const Excuses excuses(m_pReport->reportTemplate().allowed, m_request.allowed);
+    for (const Finding& mistake : excuses.without(mistakes))
+        if (m_isCheckOnly || mistake.severity != Finding::kNote)
+            m_findings.add(mistake);
 }
 
 void ReportJob::openParts()
@@ -105,6 +172,7 @@ ReportTemplate ReportJob::readTemplate()
         return readSuitableTemplate();
     ReportTemplate reportTemplate;
     reportTemplate.pTemplate.reset(VorBomTemplate::createDefaultTemplate());
+    reportTemplate.allowed = excusesOfBuiltInTemplate();
     return reportTemplate;
 }
 
@@ -125,7 +193,10 @@ void ReportJob::readRows()
         return takeSampleRows();
     noteMissingColumns();
     checkFilterTokens();
-    m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->filterTokens());
+    std::vector<VorString> otherTokens = m_pReport->filterTokens();
+    for (const VorString& token : RowsCheck::neededTokens(m_pReport->reportTemplate(), knownTokens()))
+        otherTokens.push_back(token);
+    m_pParts->readRows(m_pReport->engineTemplate(), otherTokens);
 }
 
 void ReportJob::addFilter()

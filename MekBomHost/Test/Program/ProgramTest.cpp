@@ -29,7 +29,7 @@ namespace fs = std::filesystem;
 
 const char* const kParts = "%Name,%Weight\nHEA200,2.5\nHEA200,2.5\nIPE360,4\n";
 
-const char* const kTemplate = R"({ "sections": [
+const char* const kTemplate = R"({ "equalLines": "merge", "sections": [
     { "type": "kReportHeader", "children": [ { "type": "kDetails", "tuples": [ { "token": "%Name" }, { "token": "%Weight" } ] } ] },
     { "type": "kReportFooter", "tuples": [ { "token": "%SumBy:%Weight", "value": 0.0 } ] } ] })";
 
@@ -228,12 +228,21 @@ TEST(ProgramTest, DataThatTheTemplateAsksForInVainAreNoted)
                   .errors.find("parts.csv has no column for %Weight, which the template asks for\n"));
 }
 
-TEST(ProgramTest, SectionsThatAreNeverEvaluatedAreNoted)
+TEST(ProgramTest, AMistakeOfTheAuthorStopsTheReportUnlessItIsExcused)
 {
     const Job job(kParts, R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Name" } ] },
         { "type": "kReportFooter" }, { "type": "kPageFooter" } ] })");
 
-    EXPECT_NE(std::string::npos, job.run().errors.find("list.json:2:38: /sections/2: is not evaluated"));
+    const ProgramRun refused = job.run();
+    EXPECT_EQ(kMistakes, refused.status);
+    EXPECT_EQ("", refused.output);
+    EXPECT_NE(std::string::npos, refused.errors.find("list.json:2:9: warning MB109: ")); // told beside the error
+    EXPECT_NE(std::string::npos, refused.errors.find("list.json:2:38: error MB102: "));
+
+    const ProgramRun excused = job.run("--allow MB102");
+    EXPECT_EQ(kDone, excused.status);
+    EXPECT_EQ("Name", firstLine(excused.output).substr(0, 4));
+    EXPECT_EQ(std::string::npos, excused.errors.find("MB102"));
 }
 
 TEST(ProgramTest, WrongUsageIsStatusTwo)

@@ -165,9 +165,11 @@ TEST_F(RealDataTest, MergedRowsAreNoted)
     pReport->evaluate();
 
     EXPECT_EQ(0, run.status);
-    EXPECT_EQ(0u, run.errors.find("mekbom: note: " + std::to_string(pReport->numMergedRows()) +
-                                  " lines equal to the one before"))
+    EXPECT_NE(std::string::npos, run.errors.find("mekbom: note: " + std::to_string(pReport->numMergedRows()) +
+                                                 " lines equal to the one before"))
         << run.errors;
+    // Bolts come in rows of several pieces, and the list adds up their lengths as if it were one.
+    EXPECT_NE(std::string::npos, run.errors.find("warning MB308: \"%SumBy:%Length\"")) << run.errors;
 }
 
 TEST_F(RealDataTest, TheFramePrintsInImperialUnits)
