@@ -90,7 +90,7 @@ TEST(AllVerbsTest, EveryVerbOfTheProgramHasItsHelp)
     verbs.declareOn(app);
 
     const auto subcommands = app.get_subcommands(nullptr);
-    ASSERT_EQ(2u, subcommands.size());
+    ASSERT_EQ(3u, subcommands.size());
     for (const CLI::App* const pSubcommand : subcommands)
     {
         EXPECT_NE("", pSubcommand->get_description()) << pSubcommand->get_name();
