@@ -7,6 +7,7 @@
 #include "FindingCodes.h"
 #include "InQuotes.h"
 #include "JsonReader.h"
+#include "MistakeCodes.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 
@@ -51,7 +52,6 @@ const Named<eOwnToken> kOwnTokens[] = { { "number", kOwnNumber }, { "text", kOwn
 
 const int kLeastInt = std::numeric_limits<int>::min();
 const int kGreatestInt = std::numeric_limits<int>::max();
-const std::size_t kNumUsedSiblings = 2;
 const int kMostDecimals = 15;  // a double has no more
 const int kWidestColumn = 200; // arbitrary: wider than any terminal line that one would read
 
@@ -101,7 +101,6 @@ ReportTemplate TemplateReader::build(const JsonNode& root)
     summarize();
     checkColumns(item);
     m_json.throwIfAnyError();
-    m_template.findings = m_json.findings();
     return std::move(m_template);
 }
 
@@ -148,7 +147,13 @@ void TemplateReader::readAllowed(const JsonItem& root)
     if (pAllowed == nullptr || !m_json.isOfKind({ *pAllowed, "/allow" }, JsonNode::kObject))
         return;
     for (const JsonNode& member : pAllowed->children)
+    {
         m_template.allowed[member.key] = m_json.requiredTextOf({ *pAllowed, "/allow" }, member.key);
+        if (!MistakeCodes::has(member.key))
+            m_json.add({ member, "/allow/" + member.key },
+                       Finding::of(FindingCodes::kMistakeUnknown, inQuotes(member.key),
+                                   "the code of a mistake, such as \"MB105\""));
+    }
 }
 
 void TemplateReader::readColumns(const JsonItem& root)
@@ -184,26 +189,9 @@ void TemplateReader::readColumn(const JsonItem& column)
 // Goes down as deep as the sections are nested, which JsonReader::kDeepest bounds.
 void TemplateReader::readSections(const JsonItem& parent, const std::string& key, VorBomItemBase& parentItem)
 {
-    const std::vector<JsonItem> sections = m_json.elementsOf(parent, key);
-    for (const JsonItem& section : sections)
+    for (const JsonItem& section : m_json.elementsOf(parent, key))
         if (m_json.isObjectOf(section, { "type", "print", "label", "summary", "tuples", "children" }))
             readSection(section, parentItem);
-    noteUnused(sections);
-}
-
-// Of siblings the first is a level's header and the second its footer, which has no levels below it.
-void TemplateReader::noteUnused(const std::vector<JsonItem>& siblings)
-{
-    for (std::size_t i = kNumUsedSiblings; i < siblings.size(); ++i)
-        m_json.add(siblings[i],
-                   Finding::stating(FindingCodes::kSectionNotEvaluated,
-                                    "is not evaluated: the first two sections of a level are its header and footer"));
-    if (siblings.size() < kNumUsedSiblings)
-        return;
-    const JsonItem& footer = siblings[1];
-    if (const JsonNode* const pChildren = footer.node.find("children"))
-        m_json.add({ *pChildren, footer.path + "/children" },
-                   Finding::stating(FindingCodes::kChildrenNotEvaluated, "are not evaluated: the section is a footer"));
 }
 
 void TemplateReader::readSection(const JsonItem& section, VorBomItemBase& parentItem)

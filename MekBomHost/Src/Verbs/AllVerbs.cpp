@@ -1,5 +1,6 @@
 #include "AllVerbs.h"
 
+#include "CheckVerb.h"
 #include "DemoVerb.h"
 #include "FormulaVerb.h"
 #include "HelpVerb.h"
@@ -17,6 +18,7 @@ VerbList allVerbs()
     VerbList verbs;
     verbs.add(std::make_unique<ReportVerb>());
     verbs.add(std::make_unique<DemoVerb>());
+    verbs.add(std::make_unique<CheckVerb>());
     verbs.add(std::make_unique<NewListVerb>());
     verbs.add(std::make_unique<FormulaVerb>());
     verbs.add(std::make_unique<TokensVerb>());
