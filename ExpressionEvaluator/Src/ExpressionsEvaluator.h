@@ -45,15 +45,14 @@ public:
     // first statement with an error is the last one evaluated. `buffer` has VorExprEvValue::kBufferLength characters.
     //
     // An empty last statement ("a=4;") leaves the text of the one before. On purpose: the last of several statements is
-    // read past the formula's end, as long as the formula without as many characters as the statement before it has.
-    // There it meets zero characters, which belong to its last operand: "a=4;2*a" is a syntax error, no variable being
-    // named "a" and a zero; "a=4;a*2" is 8. Existing formulas are written around it. Pinned by
+    // read past the formula's end, since its length is that of the formula less that of the statement before it. There
+    // it meets zero characters, which belong to its last operand: "a=4;2*a" is a syntax error, no variable being named
+    // "a" and a zero; "a=4;a*2" is 8. Existing formulas are written around it. Pinned by
     // ExpressionsEvaluatorTest.TheLastStatementIsReadPastTheFormulasEnd.
     int evaluate(wchar_t* buffer);
 
 private:
     int evaluateStatement(const VorExprEvTextView& statement, wchar_t* buffer) const;
-    int findSeparator(int nStart) const;
 
     const wchar_t* m_pText; // not owned
     unsigned int m_nLength;

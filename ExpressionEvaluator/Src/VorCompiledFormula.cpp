@@ -1,5 +1,7 @@
 // "(%Weight+3)*2" becomes the steps  %Weight  3  +  2  *  for a stack of numbers, in the order in which the formula's
-// reader takes operands and combines them.
+// reader takes operands and combines them. With %Weight 2.5 the stack goes through
+//   step     %Weight   3         +     2         *
+//   stack    2.5       2.5 3     5.5   5.5 2     11
 #include "VorCompiledFormula.h"
 
 #include "Reading/VorStatementReader.h"
@@ -26,6 +28,7 @@ public:
     {
     }
 
+    // The reader gives up where operands and operators do not take turns, so every operator finds two numbers.
     // 0 for a formula that is left to ExpressionsEvaluator.
     int write()
     {
@@ -62,6 +65,7 @@ public:
     void trace(const VorOperatorStack<Left>&) const {}
 
 private:
+    // How high the stack gets is known when the formula is read, as every step changes it by one.
     void push(const Step& step)
     {
         m_formula.m_steps.push_back(step);

@@ -1,3 +1,7 @@
+// A view may end before its text does, or behind it. Told on two views of the text "a*23":
+//   [2,3), the text's length not given    shows "2"; restOfText() looks for the terminating zero now, and is "23"
+//   [0,6), the text's length given as 4   shows "a*23" and two zero characters; at(5) is zero, the memory not looked at
+// Equal views have the same length, the zero characters beyond the text included.
 #include "VorExprEvTextView.h"
 
 #include <cwchar>
@@ -14,8 +18,10 @@ int clampedLength(std::size_t length)
 }
 }
 
+// Of a text that nobody has measured, what is asked for is measured here and not kept: views do not change.
 std::wstring_view VorExprEvTextView::restOfText() const
 {
+    // A view without text, or of a measured one, has an end to stop at; the other stops at the terminating zero.
     if (m_pText == nullptr || m_nTextLength != kNotMeasured)
         return textUpTo(m_nTextLength);
     const wchar_t* pStart = m_pText + m_nStart;

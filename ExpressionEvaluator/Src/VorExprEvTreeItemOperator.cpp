@@ -32,7 +32,7 @@ bool isOperation(wchar_t character)
     return character == L'*' || character == L'+' || character == L'-' || character == L'/' || character == L'=';
 }
 
-// An assigned value keeps its type.
+// An assigned value keeps its type: "a=2.5" makes the variable "a" with a double. "=2.5" has no name: an error.
 void assign(const VorExprEvTreeItem* pName, VorExprEvValue& value)
 {
     if (pName == nullptr)
@@ -130,6 +130,7 @@ void Walk::finish(const Waiting& waiting)
 }
 }
 
+// Parentheses have one, too: they never get into a tree, but wait as operators do while it is made.
 int VorExprEvTreeItemOperator::precedence(wchar_t character)
 {
     if (VorFormulaCharacters::kOperators.holds(character))
@@ -159,6 +160,7 @@ VorExprEvValue& VorExprEvTreeItemOperator::evaluate(VorExprEvValue& value) const
     return value;
 }
 
+// "5*" makes an operator with one side: whole as far as evaluating goes, where the other counts as 0, but not complete.
 int VorExprEvTreeItemOperator::isComplete() const
 {
     return m_pLeft != nullptr && m_pRight != nullptr && m_text.length() == 1 ? 1 : 0;

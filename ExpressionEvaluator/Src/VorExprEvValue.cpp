@@ -43,6 +43,7 @@ std::size_t cellSize(VorExprEvValue::eType type)
     }
 }
 
+// The long way, which gives what the short one must give wherever that may be taken.
 double readBackText(double value)
 {
     wchar_t text[VorNumberText::fixedRoom(kDecimals) + 1];
@@ -123,6 +124,7 @@ void VorExprEvValue::release()
     m_nType = kUnknown;
 }
 
+// A copy of an unknown value is unknown: the target gives its cell back.
 void VorExprEvValue::copyTo(VorExprEvValue& target) const
 {
     switch (m_nType)

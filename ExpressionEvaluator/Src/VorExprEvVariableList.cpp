@@ -6,6 +6,9 @@
 // before all others.
 #include "VorExprEvVariableList.h"
 
+#include "Reading/VorFormulaCharacters.h"
+
+#include <cwchar>
 #include <functional>
 #include <iterator>
 #include <memory>
@@ -53,19 +56,10 @@ int VorExprEvVariableList::announce(std::wstring_view name, double value)
     return 1;
 }
 
-// Whether the place holds that name from the time before. Names are short: a loop is
-// no slower than std::wcscmp.
+// Whether the place holds that name from the time before.
 bool VorExprEvVariableList::isStillNamed(const Announced* pPlace, const wchar_t* pName) const
 {
-    if (pPlace >= m_pNamedEnd)
-        return false;
-    const wchar_t* pKept = pPlace->pName;
-    while (*pName == *pKept && *pKept != L'\0')
-    {
-        ++pName;
-        ++pKept;
-    }
-    return *pName == *pKept;
+    return pPlace < m_pNamedEnd && std::wcscmp(pPlace->pName, pName) == 0;
 }
 
 // Copies the name behind that of the place before, over those of later places, which have none from now on.
@@ -79,6 +73,7 @@ bool VorExprEvVariableList::nameAnew(Announced* pPlace, std::wstring_view name)
     pCopy[name.size()] = L'\0';
     pPlace->pName = pCopy;
     pPlace->length = name.size();
+    pPlace->canBeOperand = VorFormulaCharacters::canBeOperand(name);
     m_pNamedEnd = pPlace + 1;
     return true;
 }

@@ -42,12 +42,14 @@ public:
     const VorExprEvVariable* head();
     int count() const { return m_nCount + static_cast<int>(m_pAnnouncedEnd - m_announced); }
 
-    // A variable that is not made yet. The list owns its name, which ends in a zero character.
+    // A variable that is not made yet. The list owns its name, which ends in a zero character. All about the name is
+    // found out when it is copied and costs nothing while the name stays.
     struct Announced
     {
         const wchar_t* pName;
         std::size_t length;
         double value;
+        bool canBeOperand; // whether a formula can ask for it: not by "a+b", which is two operands
 
         std::wstring_view name() const { return { pName, length }; }
         const wchar_t* end() const { return pName + length + 1; } // behind the zero character

@@ -11,6 +11,7 @@ VorExprEvalErrorHandler& VorExprEvalErrorHandler::ofThread()
     return t_handler;
 }
 
+// In front of the others, so that raising costs the same however many there are: "1/0+1/0+..." raises one for each '/'.
 void VorExprEvalErrorHandler::raise(VorExprEvalError::eCode code)
 {
     m_pHead = new VorExprEvalError(code, m_pHead);

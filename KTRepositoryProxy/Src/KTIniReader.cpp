@@ -1,3 +1,9 @@
+// Told on the four lines of a text, of which the last is malformed:
+//   [Display]                   a section, passed over
+//   C40_SuppressZeroFeet = 1    an entry: next() answers 1, and key() and value() are its two texts
+//   ; how inches are shown      a comment, passed over
+//   C40_SuppressZeroFeet = 0    the key again: next() answers 0 from here on, and line() stays 4
+// What is wrong reads: found "C40_SuppressZeroFeet", expected it once, as in line 2.
 #include "KTIniReader.h"
 
 #include "MekRoots/Exp/VorCharacters.h"
@@ -13,7 +19,7 @@ std::wstring trimmed(const std::wstring& text)
     return std::wstring(VorCharacters::trimmed(text, L" \t\r"));
 }
 
-// Blank lines say as little as comments do.
+// Blank lines say as little as comments do. A comment has its line for itself: of "a = 1 ; one" the value is "1 ; one".
 bool isComment(const std::wstring& line)
 {
     return line.empty() || line[0] == L';' || line[0] == L'#';
@@ -31,6 +37,7 @@ VorString textOf(const std::wstring& text)
 }
 }
 
+// Editors of some platforms put a byte order mark in front of a text, where it would be part of the first key.
 KTIniReader::KTIniReader(const VorString& text) : m_text(text.getStringW(), static_cast<std::size_t>(text.length()))
 {
     if (!m_text.empty() && m_text[0] == kByteOrderMark)

@@ -1,3 +1,6 @@
+// The settings are one map behind a lock, under which many may read and one may write. Told on an INI text:
+//   "a = 1" and "b = yes"    "yes" is no whole number: line 2 and the fault are answered, and "a" is not stored either
+//   "a = 1" and "b = 2"      both are stored under one lock; what was there before under other keys stays
 #include "MekRoots/Exp/KTRepositoryProxy.h"
 
 #include "KTIniReader.h"
@@ -38,7 +41,8 @@ void setDefaults(const Settings& settings)
 }
 
 // False, with `number` untouched, for anything but digits with an optional sign, and for what 32 bits cannot hold.
-// Digits are read until the number is past 32 bits, and those left over then make the text none.
+// Digits are read until the number is past 32 bits, and those left over then make the text none. "+3" is 3; "3.0",
+// "3 mm", "2147483648" and the empty text are none.
 bool readWholeNumber(const wchar_t* pText, int& number)
 {
     const bool isNegative = *pText == L'-';
@@ -89,6 +93,7 @@ const char* findVariable(const wchar_t* pKey)
 }
 }
 
+// Readers share the lock, so that reports that are made at once do not wait for one another.
 int vor_odbc_getDefault(const VorString& key, int& value)
 {
     Repository& theRepository = repository();

@@ -5,6 +5,8 @@
 //   for (const VorBomDataRow& row : footer.countedRows)
 //       total += weightOf(row);
 //
+// Of rows of 2.5, 1.5 and 4 kg, the second of which was merged into the first, the total is 6.5.
+//
 // Looks at the group's own list of rows: valid as long as the call that it was handed to.
 //
 // A sink gets one with each footer; with headers and lines it is empty. Nothing is copied: the object is two pointers,
@@ -22,7 +24,8 @@ class VorBomCountedRows
 public:
     // What a range-based for needs, and no more. Steps over rows that are not counted.
     // A forward walk only: it has no postfix form and compares with != alone, which is all that the loop asks for. The
-    // walk ends at end(); an iterator that stands there must be neither read nor advanced.
+    // walk ends at end(); an iterator that stands there must be neither read nor advanced. Iterators of two lists may
+    // not be compared. Copies are independent, and as short-lived as the object that they come from.
     class Iterator
     {
     public:
@@ -51,8 +54,15 @@ public:
         VorBomDataRow* const* m_pEnd;
     };
 
-    VorBomCountedRows() = default; // none
+    // No rows: what headers and lines have.
+    VorBomCountedRows() = default;
+
     // The rows of `rows` that count when they are read. The list is not owned, must not change, and holds no null.
+    //   VorArray<VorBomDataRow*> group;
+    //   group.append(pRow);
+    //   pRow->setUseThisDataForSums(0);
+    //   const VorBomCountedRows counted(group);
+    //   counted.begin() != counted.end()   ->  false
     explicit VorBomCountedRows(const VorArray<VorBomDataRow*>& rows) : m_pBegin(rows.begin()), m_pEnd(rows.end()) {}
 
     // Each begin() starts anew at the group's first counted row, so the rows may be walked as often as the caller

@@ -1,3 +1,7 @@
+// The sample rows, and questions about all rows of a list. Told on two rows of the samples:
+//   row "1"    PosNum 1, Weight 200.2, Material "Mat1": it stands in the table, and is the same in every run
+//   row "13"   PosNum 1 to 4, Weight 100 to 400, Material "Mat1" to "Mat4": drawn anew in every run
+// Four choices each make 64 different rows, so that some of the hundred drawn are always equal.
 #include "VorBomData.h"
 
 #include "VorBomItemWalk.h"
@@ -72,6 +76,7 @@ VorBomData* VorBomData::createDefaultData()
     return pData;
 }
 
+// A row without parts makes 1, a row with parts 2, and one of whose parts has parts 3.
 int VorBomData::depthLevel()
 {
     int depth = 1;
@@ -80,6 +85,7 @@ int VorBomData::depthLevel()
     return depth;
 }
 
+// Along the rows alone: an evaluation reads nothing of sub-rows, so it has marked nothing in them.
 int VorBomData::getUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens)
 {
     for (VorBomItemBase* pItem = child(); pItem != nullptr; pItem = pItem->next())

@@ -21,9 +21,9 @@ public:
     ~VorBomData() override = default;
 
     // Sample rows for trying things out without a model: "1" to "12" are always the same, "13" to "112" differ from run
-    // to run. Each has an int "PosNum", a double "Weight" and a text "Material"; on purpose without the "%" of the token
-    // language, which is not what they exercise. Seeds the C library's rand() with the time. The caller empties and
-    // deletes the result.
+    // to run. Each has an int "PosNum", a double "Weight" and a text "Material"; on purpose without the "%" of the
+    // token language, which is not what they exercise. Seeds the C library's rand() with the time. The caller empties
+    // and deletes the result.
     static VorBomData* createDefaultData();
 
     // The number of row levels: 1 for rows without sub-rows. Only for data with at least one row.

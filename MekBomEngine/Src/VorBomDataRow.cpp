@@ -11,6 +11,7 @@
 
 namespace
 {
+// Exactly 1 counts: other numbers are a host's own marks.
 VorStringArray usedTokens(const VorBomDataTupleArray& tuples)
 {
     VorStringArray tokens;
@@ -47,6 +48,7 @@ void VorBomDataRow::setEqualPartObjectHandles(const VorStringArray& handles)
         ownHandles() = handles;
 }
 
+// Not by assignment, which would copy the links as well: this row stays where it hangs, with its own sub-rows.
 void VorBomDataRow::setFrom(VorBomDataRow* pRow)
 {
     if (pRow == nullptr)
@@ -57,6 +59,8 @@ void VorBomDataRow::setFrom(VorBomDataRow* pRow)
     m_nUseThisDataForSums = pRow->m_nUseThisDataForSums;
 }
 
+// Told on %Material and %Length, in rows S235 100.0 and S235 without a length: the materials agree, so the lengths
+// decide, and the row that has one is more.
 int VorBomDataRow::compare(VorBomDataRow* pOther, const VorStringArray& tokens) const
 {
     const VorBomTupleFinder finder(getData(), tokens.length());
@@ -70,6 +74,8 @@ int VorBomDataRow::compare(VorBomDataRow* pOther, const VorStringArray& tokens) 
     return 0;
 }
 
+// A row that shows as one line of a report stands for its object and for all that equal it, so it answers with all of
+// their handles, its own first.
 void VorBomDataRow::appendUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens) const
 {
     VorStringArray rowTokens = usedTokens(getData());

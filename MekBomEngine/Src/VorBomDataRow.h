@@ -6,8 +6,8 @@
 //   pRow->addData(VorBomDataTuple(L"%Weight", 126.9));
 //   data.addChild(pRow);
 //
-// Children are sub-rows, the parts of an assembly, to any depth; the evaluation reads top-level rows only. Ownership and
-// copying are those of VorBomItemBase.
+// Children are sub-rows, the parts of an assembly, to any depth; the evaluation reads top-level rows only. Ownership
+// and copying are those of VorBomItemBase.
 //
 // One evaluation changes its rows: it reorders and relinks them, marks the tuples it used, appends a tuple for each
 // formula it computed, and clears getUseThisDataForSums() of rows whose line was merged into an equal one. For a fresh

@@ -129,6 +129,7 @@ int VorBomDataToken::getFormulaRequest(VorString& formula) const
     return getRest(m_token, kFormulaPrefix, formula);
 }
 
+// "%Weight" is one, "%" alone as well; "Weight" and "%%PaintMeter" are none.
 int VorBomDataToken::isToken(const VorString& text)
 {
     return startsWith(text, kTokenPrefix) && text.find(kFunctionPrefix, 0) < 0 ? 1 : 0;
@@ -166,6 +167,7 @@ int VorBomDataToken::removeFormulaPrefix(VorString& text)
     return stripPrefix(text, kFormulaPrefix);
 }
 
+// "(%Weight+%Paint)*2" falls into "%Weight", "%Paint" and "2", of which the last is a number and no token.
 VorStringArray VorBomDataToken::getTokensFromFormula(const VorString& formula)
 {
     VorStringArray pieces;
@@ -188,6 +190,7 @@ VorBomDataValue::eBomDataValueType VorBomDataToken::getTokenType(const VorString
     return reportIfUnknown(pEntry != nullptr ? pEntry->type : VorBomDataValue::kUnknownData);
 }
 
+// A token that nobody knows is reported twice: in getTokenType() for its kind, and here for its order.
 VorBomDataToken::eSortType VorBomDataToken::getSortType(const VorString& token)
 {
     switch (getTokenType(token))

@@ -35,7 +35,9 @@
 class MEK_BOM_API VorBomDataTuple
 {
 public:
-    VorBomDataTuple() = default; // empty token, empty value
+    // Empty token, empty value.
+    VorBomDataTuple() = default;
+
     // The token is kept as given: it need not begin with "%", and neither its kind in the catalogue nor that of the
     // value is looked at. An int under a token whose data are doubles stays an int, and comparing it with a double is
     // reported later.
@@ -75,14 +77,21 @@ public:
 
     // The references live as long as the tuple. Only an assignment replaces the token.
     // Values are changed in place, through value().set(): what reports do to every number that they show.
+    //   VorBomDataTuple total(L"%SumBy:%Weight", 0.0);
+    //   total.value().set(14.0);
+    //   total.value().asString()   ->  "14"
     const VorBomDataToken& token() const { return m_token; }
     const VorBomDataValue& value() const { return m_value; }
     VorBomDataValue& value() { return m_value; }
 
-    // Orders what two rows carry under one token: as VorBomDataValue::compare; a datum after none, and 0 for none twice.
-    // Neither is owned. For grouping, for sorting and for VorBomDataRow::compare, so that the three cannot come to
-    // differ. Reports what VorBomDataValue::compare reports: unlike kinds, which are less both ways round, and two
+    // Orders what two rows carry under one token: as VorBomDataValue::compare; a datum after none, and 0 for none
+    // twice. Neither is owned. For grouping, for sorting and for VorBomDataRow::compare, so that the three cannot come
+    // to differ. Reports what VorBomDataValue::compare reports: unlike kinds, which are less both ways round, and two
     // empty values.
+    //   const VorBomDataTuple heavy(L"%Weight", 12.5), light(L"%Weight", 2.5);
+    //   VorBomDataTuple::compareValues(&heavy, &light)    ->  1
+    //   VorBomDataTuple::compareValues(nullptr, &light)   ->  -1
+    //   VorBomDataTuple::compareValues(nullptr, nullptr)  ->  0
     static int compareValues(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
     {
         if (pFirst != nullptr && pSecond != nullptr)

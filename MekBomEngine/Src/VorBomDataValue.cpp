@@ -49,6 +49,7 @@ VorString textOf(double value)
 }
 }
 
+// Through set(), which decides whether the present cell serves and ends a text's life where one is replaced.
 VorBomDataValue& VorBomDataValue::operator=(const VorBomDataValue& other)
 {
     if (this == &other)
@@ -64,6 +65,8 @@ VorBomDataValue& VorBomDataValue::operator=(const VorBomDataValue& other)
     return *this;
 }
 
+// A value without payload, be it empty or corrupt, is assigned as a named one is: there is nothing to take over, and
+// both ways of assigning must mean the same.
 VorBomDataValue& VorBomDataValue::operator=(VorBomDataValue&& other) noexcept
 {
     if (this == &other)
@@ -86,6 +89,7 @@ void VorBomDataValue::set(const VorString& value)
     set(VorString(value)); // the argument may be this value's own text
 }
 
+// The order is that of whole numbers, of doubles with a tolerance, or of characters: "10" is less than "9" as a text.
 int VorBomDataValue::compareAnew(const VorBomDataValue& other) const
 {
     if (m_nType != other.m_nType)
@@ -138,6 +142,8 @@ VorString VorBomDataValue::asString() const
     }
 }
 
+// A corrupt type does not say whether there is a payload at all, so its cell is lost: a leak is better than freeing
+// what may be no cell.
 void VorBomDataValue::empty()
 {
     if (m_nType == kUnknownData)
@@ -171,7 +177,8 @@ void VorBomDataValue::endPayload()
         reportMisuse(__LINE__); // what the payload is, nobody knows
 }
 
-// A cell for the next payload: the present one where there is one.
+// A cell for the next payload: the present one where there is one. Taking another is all that may throw here, and only
+// a value that has none, or a corrupt type, takes one: it is empty then.
 void* VorBomDataValue::freeCell()
 {
     const bool keepsCell = m_pData != nullptr && holdsPayload(m_nType);
@@ -184,6 +191,7 @@ void* VorBomDataValue::freeCell()
     return m_pData;
 }
 
+// What a move is made of: the value that is empty gets the payload, and the other is empty then.
 void VorBomDataValue::exchange(VorBomDataValue& other) noexcept
 {
     std::swap(m_nType, other.m_nType);

@@ -61,6 +61,9 @@ public:
 
     // Make the same values with payloads in `cells`.
     // The cells need not outlive the value: each belongs to the value from then on, which gives it back by itself.
+    //   VorBomPayloadCells cells(2);
+    //   VorBomDataValue weight(12.5, cells), length(6000.0, cells);    // their numbers lie side by side
+    // A copy of an empty value takes no cell.
     VorBomDataValue(int value, VorBomPayloadCells& cells) { create<int>(cells.take(), kIntData, value); }
     VorBomDataValue(double value, VorBomPayloadCells& cells) { create<double>(cells.take(), kDoubleData, value); }
     VorBomDataValue(const VorString& value, VorBomPayloadCells& cells)
@@ -73,6 +76,8 @@ public:
     }
 
     // Takes the payload over; `other` is empty afterwards.
+    //   VorBomDataValue first(12.5), second(std::move(first));
+    //   first.type()   ->  kUnknownData
     VorBomDataValue(VorBomDataValue&& other) noexcept : m_pData(other.m_pData), m_nType(other.m_nType)
     {
         other.m_nType = kUnknownData;
@@ -84,6 +89,10 @@ public:
     // values and rely on it. Reports and leaves the target alone as well when the other type is none of the four.
     // Pinned by VorBomDataValueTest.AssigningEmptyKeepsTheTarget.
     // A target that has a cell keeps it, whatever it held: no memory is given back and taken again.
+    //   VorBomDataValue shown(12.5);
+    //   shown = VorBomDataValue(L"12.5 kg");
+    //   shown = VorBomDataValue();
+    //   shown.asString()   ->  "12.5 kg"
     VorBomDataValue& operator=(const VorBomDataValue& other);
 
     // Takes the payload over; `other` is empty afterwards. An empty `other` leaves the target alone, as above, so that
@@ -102,6 +111,9 @@ public:
     // A pointer that data() gave earlier is not to be used after a change of kind, although the cell is the same one:
     // what lies in it is another type. A value of a corrupt type is reported, its payload left where it is, and a new
     // cell taken.
+    //   VorBomDataValue total(3);
+    //   total.set(2147483648.0);
+    //   total.type()   ->  kDoubleData
     void set(int value);
     void set(double value)
     {
@@ -119,10 +131,12 @@ public:
             replaceBy(std::move(value));
     }
 
-    // The payload, to be cast by type(): int*, double* or VorString*; null for an empty value. It lives until this value
-    // changes.
-    // Owned by this value and never to be freed by the caller. What is written through the pointer must be of the kind
-    // that type() names; the value does not notice anything else.
+    // The payload, to be cast by type(): int*, double* or VorString*; null for an empty value. It lives until this
+    // value changes. Owned by this value and never to be freed by the caller. What is written through the pointer must
+    // be of the kind that type() names; the value does not notice anything else.
+    //   VorBomDataValue count(12);
+    //   ++*static_cast<int*>(count.data());
+    //   count.asString()   ->  "13"
     void* data() const { return m_pData; }
     eBomDataValueType type() const { return m_nType; }
 
@@ -131,6 +145,9 @@ public:
     // Unlike kinds are less both ways round, so a list of mixed kinds has no order: whoever sorts must end, and keep
     // every element, whatever the answers are (vorStableMergeSort). Nor are close doubles a proper order: of 0, 0.8e-6
     // and 1.6e-6 each neighbour is equal to the next, but the first is less than the last.
+    //   VorBomDataValue(2.0).compare(VorBomDataValue(2.0000001))   ->  0
+    //   VorBomDataValue(L"B2").compare(VorBomDataValue(L"B10"))    ->  1, by their characters
+    //   VorBomDataValue(5).compare(VorBomDataValue(5.0))           ->  -1, and "false" is reported
     int compare(const VorBomDataValue& other) const
     {
         const bool isSameText = m_nType == kStringData && other.m_nType == kStringData &&
@@ -141,17 +158,21 @@ public:
     // Compares two numbers as compare() does two values that hold them.
     // Here, so that what ranks whole columns (VorBomRanks) and what compares two values cannot come to differ.
     // Infinities of one sign are equal to each other.
+    //   VorBomDataValue::compareDoubles(1e9, 1e9 + 0.001)   ->  -1: the tolerance does not grow with the numbers
     static int compareDoubles(double first, double second);
 
     // Natural order of two texts, "B2" before "B10", as VorString::compareWithNumbers says. Reports and answers -1 for
     // unlike kinds, 0 for two numbers or two empty values.
     // For tokens whose sort type is VorBomDataToken::kSortAlphanumeric. Numbers are reported since
     // natural order is about the digits within a text.
+    //   VorBomDataValue(L"B2").compareAlphanumeric(VorBomDataValue(L"B10"))   ->  -1
     int compareAlphanumeric(const VorBomDataValue& other) const;
 
     // "%d" of an int, "%g" of a double, the text itself, nothing for an empty value. Units are not applied here.
     // What list() shows. In a report doubles read otherwise: VorBomTemplateUnits::getDisplayString makes their texts.
     // A corrupt type reads as empty text and is not reported here.
+    //   VorBomDataValue(-3).asString()           ->  "-3"
+    //   VorBomDataValue(1234567.0).asString()    ->  "1.23457e+06"
     VorString asString() const;
 
 protected:
@@ -166,7 +187,7 @@ private:
     int intValue() const { return *static_cast<const int*>(m_pData); }
     double doubleValue() const { return *static_cast<const double*>(m_pData); }
     const VorString& textValue() const { return *static_cast<const VorString*>(m_pData); }
-    // compare() without its way out for a shared text, with all that may be reported.
+    // compare() for values that do not share one text; all that is reported is reported here.
     int compareAnew(const VorBomDataValue& other) const;
     // Swaps payloads and kinds; nothing is copied.
     void exchange(VorBomDataValue& other) noexcept;

@@ -9,6 +9,11 @@
 // The levels of a template form an array, outermost first: the stack that the steps of an evaluation are handed. One
 // row passes through all of them in that order. A group is taken after those within it, which stand later in the array.
 //
+// After rows A and A of a report grouped by name that is kept as a tree, the levels above hold:
+//   level 0   the report header; rows A A; a group open
+//   level 1   the header of group A; rows A A; a group open
+//   level 2   no section, no row: the lines of both rows were taken, or the second was merged into the first
+//
 // Invariants between two rows:
 //   1. m_dataRows is empty exactly where no group is open; on the deepest level it always is.
 //   2. m_pEvaluatedHeader and m_pEvaluatedFooter are null on the deepest level: its line was taken.

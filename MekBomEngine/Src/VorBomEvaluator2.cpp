@@ -39,8 +39,8 @@ bool isLastLevel(const VorBomEngineStateArray& stack, int level)
     return level == lastLevelOf(stack);
 }
 
-// Whenever a level opens, all below it open for the same row: the formula computed last is one of the deepest level that
-// has any.
+// Whenever a level opens, all below it open for the same row: the formula computed last is one of the deepest level
+// that has any.
 void leaveLastFormula(VorBomEngineStateArray& stack)
 {
     int level = lastLevelOf(stack);
@@ -120,6 +120,10 @@ int VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineS
     return 1;
 }
 
+// Of report header RH with the children group header GH and group footer GF, and RH's sibling RF, in a template:
+//   level 0   header RH, the first child of the template; footer RF, its next sibling
+//   level 1   header GH, the first child of RH;           footer GF
+// Types are not looked at: where a section stands says what it does.
 VorBomEngineStateArray VorBomEvaluator2::getTemplateStack(VorBomTemplate* pTemplate)
 {
     // One for all levels: each asks for the layout of the same row, which is told once.
@@ -219,7 +223,7 @@ int VorBomEvaluator2::addedInGroup(VorBomDataRow* pRow, VorBomEngineStateArray& 
 int VorBomEvaluator2::endGroup(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits)
 {
     VorBomEngineState& state = stack.begin()[level];
-    // So it is on all levels of a report without rows, and on the deepest, whose group closed with its row.
+    // No group is open on any level of a report without rows, nor on the deepest level, where it closed with its row.
     if (state.m_bGroupOpen != 1)
         return 1;
     state.m_bGroupOpen = 0;
@@ -259,6 +263,8 @@ int VorBomEvaluator2::readsAsTheSectionBefore(VorBomEngineState& line)
                : 0;
 }
 
+// The deepest level's group is over with its row, so it is handed over at once. What a merged line leaves to hand over
+// is its footer, if it has one.
 void VorBomEvaluator2::handOverLine(VorBomEngineStateArray& stack)
 {
     const int level = lastLevelOf(stack);

@@ -9,8 +9,8 @@
 // Call order. evaluate() reads the sections' grouping and sorting caches as they stand and fills none: without step 2 a
 // report is neither grouped nor sorted. setUnitsForTokens and findUsedTokens may be called in either order.
 //
-// The template is read as a chain of levels: an item's first child is the next level's header, that child's next sibling
-// its footer; further siblings are not evaluated. The deepest level makes one section for every row.
+// The template is read as a chain of levels: an item's first child is the next level's header, that child's next
+// sibling its footer; further siblings are not evaluated. The deepest level makes one section for every row.
 //
 //   rows  S235 2.5 kg, S235 1.5 kg, S355 4 kg  grouped by material, with a sum of weights in the group footer:
 //     result
@@ -50,13 +50,15 @@ class MEK_BOM_API VorBomEvaluator2
 public:
     // Evaluates pTemplate with its data and units, and appends the evaluated sections of the first level to pResult,
     // which owns them then. Returns 1; 0 with pResult untouched when pTemplate is null or has no section. Without data,
-    // or with data without rows, nothing is appended and the answer is 1. With a null pResult the report is evaluated all
-    // the same, and its input changed; "NULL != completedGroup.m_pCollector" is reported and the sections are destroyed.
+    // or with data without rows, nothing is appended and the answer is 1. With a null pResult the report is evaluated
+    // all the same, and its input changed; "NULL != completedGroup.m_pCollector" is reported and the sections are
+    // destroyed.
     static int evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResult);
 
-    // The same report, handed to `sink` section by section as evaluation goes on instead of being kept. For each level it
-    // takes a pointer to every row of the group now open, and the memory of a line. Returns 1; 0 without template or
-    // section, and when the sink stopped it. What the sink throws passes through. The header of a sink says what it gets.
+    // The same report, handed to `sink` section by section as evaluation goes on instead of being kept. For each level
+    // it takes a pointer to every row of the group now open, and the memory of a line. Returns 1; 0 without template or
+    // section, and when the sink stopped it. What the sink throws passes through. The header of a sink says what it
+    // gets.
     //
     // One difference: the sink gets a header when its group opens, the tree shows it when the group closes. A formula
     // further in that lends its text a unit meanwhile changes a header's column under that very text in the tree alone.
@@ -75,8 +77,8 @@ private:
     // Reports "NULL != pTemplateItem" and gives null without one.
     static VorBomTemplateItem* process(VorBomTemplateItem* pTemplateItem, VorBomDataRow* pRow);
 
-    // A footer for a group: plain tokens end with the value of the last counted row that has them, "%SumBy:" tokens with
-    // their starting value plus those of all counted rows. Marks nothing. The caller owns it.
+    // A footer for a group: plain tokens end with the value of the last counted row that has them, "%SumBy:" tokens
+    // with their starting value plus those of all counted rows. Marks nothing. The caller owns it.
     static VorBomTemplateItem* process(VorBomTemplateItem* pTemplateItem, VorBomDataRowPointerArray rows);
 
     // Grouping. All return 1 but dataMatchGroup. Level 0 names the target that sections go to.
@@ -86,7 +88,7 @@ private:
     static int endGroup(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits);
     // Shows what was evaluated for the group; a line, whose level is the deepest, goes to the target at once.
     static int groupIsCompleted(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits* pUnits);
-    // 1 when the row belongs to the group that is open in `state`, or would open its first.
+    // 1 when the row belongs to the group that is open in `state`; also when none is, or the level groups by nothing.
     static int dataMatchGroup(VorBomDataRow* pRow, VorBomEngineState& state);
 
     // A details line that reads as the section before it in the same group is merged into that: dropped, and its row

@@ -17,6 +17,8 @@ namespace
 const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomEvaluator2"; // named in assertion reports
 }
 
+// A plan for one section and one row, which an evaluation would make once for all rows: the result is the same, as the
+// steps are the plan's.
 void VorBomEvaluator2::evaluateExpressions(VorBomTemplateItem* pItem, VorBomDataRow* pRow)
 {
     if (pItem == nullptr)

@@ -68,6 +68,8 @@ bool mayHoldSortedSections(const VorBomTemplateItem* pItem)
            type == VorBomTemplateItem::kGroupHeader;
 }
 
+// H1 F1 H2 H3 F3 is three pairs, the second without a footer. A footer where a header should be, such as the first of
+// F0 H1 F1, is reported and makes a pair of its own as if it were one, so that no section is lost.
 // Splits a chain of sections into headers with the footers that follow them.
 VorHeaderFooterSortingArray pairSections(VorBomTemplateItem* pItem)
 {
@@ -118,6 +120,7 @@ int VorBomEvaluator2::sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngin
 {
     m_arrTokensToSortDataRow.empty();
     m_arrSortOrderForDataRow.empty();
+    // One direction for all levels: a level whose first token has no prefix goes on in that of the level around it.
     int ascending = 1;
     for (const VorBomEngineState& state : stack)
         if (state.m_pHeader != nullptr)
@@ -154,7 +157,9 @@ int VorBomEvaluator2::compareDataRow(const void* pFirst, const void* pSecond)
                         [&](std::size_t key) { return pSecondItemData->getTupleAt(keys.token(key)); });
 }
 
-// A list of what is still to be done instead of recursion: groups may nest as deep as a template does.
+// An evaluation sorts its rows, so its sections come in order by themselves. This is for those of a finished report
+// that are to stand in another order: level by level, by what the template's sections ask for now. A list of what is
+// still to be done instead of recursion: groups may nest as deep as a template does.
 int VorBomEvaluator2::sortSubGroupsOnLevels(VorBomTemplateItem* pItem, VorBomEngineStateArray& stack, int level)
 {
     struct Place
@@ -182,6 +187,8 @@ int VorBomEvaluator2::sortSubGroupsOnLevels(VorBomTemplateItem* pItem, VorBomEng
     return 1;
 }
 
+// The first section of the chain may be another one afterwards, which `pFirst` then is. Without tokens nothing is
+// compared, but the chain is checked all the same.
 int VorBomEvaluator2::sortItemList(VorBomTemplateItem*& pFirst, const VorStringArray& sortingTokens)
 {
     if (pFirst == nullptr)
@@ -207,6 +214,8 @@ int VorBomEvaluator2::sortItemList(VorBomTemplateItem*& pFirst, const VorStringA
     return 1;
 }
 
+// Whatever is missing of a pair is reported, from the pair itself down to the row of its header, and each thing that
+// this makes missing after it as well. Sections without a row compare equal.
 int VorBomEvaluator2::compareEvaluatedItems(const void* pFirst, const void* pSecond)
 {
     const auto* pFirstSortStruct = static_cast<const VorHeaderFooterSortingStruct*>(pFirst);

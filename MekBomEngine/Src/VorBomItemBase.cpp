@@ -25,6 +25,7 @@ void beginLine(VorString& out, int level)
 }
 }
 
+// The pool knows no way but std::bad_alloc to say that there is no memory; callers of this form want null.
 void* VorBomItemBase::operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     try
@@ -56,6 +57,9 @@ int VorBomItemBase::list(VorString& out, int level, int withChildren, int withNe
     return 1;
 }
 
+// setChild() and addChild() part where the new child has siblings. Told on A with the sibling B, and then addChild(C):
+//   setChild(A)    lastChild() is B, at the end of the chain; C comes behind it: A B C
+//   addChild(A)    lastChild() is A, though B is a child, too; C takes B's place: A C, and B hangs nowhere
 void VorBomItemBase::setChild(VorBomItemBase* pItem)
 {
     m_pChild = pItem;
@@ -68,6 +72,7 @@ void VorBomItemBase::setChild(VorBomItemBase* pItem)
     }
 }
 
+// Goes along no chain, so that a million rows take a million steps.
 void VorBomItemBase::addChild(VorBomItemBase* pItem)
 {
     if (m_pChild == nullptr)

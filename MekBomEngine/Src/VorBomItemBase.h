@@ -54,8 +54,8 @@ public:
         VorMemoryControllerController::deallocateArray(pItem, 1, size);
     }
 
-    // The other forms of new, which those above would hide. A constructor that throws after new (std::nothrow) leaks its
-    // block: the language does not say how large it is.
+    // The other forms of new, which those above would hide. A constructor that throws after new (std::nothrow) leaks
+    // its block: the language does not say how large it is.
     static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
     static void operator delete(void*, const std::nothrow_t&) noexcept {}
     static void* operator new(std::size_t, void* pPlace) noexcept { return pPlace; }
@@ -69,7 +69,8 @@ public:
     virtual int list(VorString& out, int level, int withChildren, int withNext);
 
     // The links, each null at its end. Setting one neither destroys nor unhangs what it named before.
-    // None is owned. lastChild() is what addChild() goes on from, and not always the last of the chain: see there.
+    // The item owns none of the three. lastChild() is what addChild() goes on from, and not always the last of the
+    // chain: see there.
     VorBomItemBase* next() const { return m_pNext; }
     VorBomItemBase* child() const { return m_pChild; }
     VorBomItemBase* lastChild() const { return m_pLastChild; }

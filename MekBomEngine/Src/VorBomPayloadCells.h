@@ -29,6 +29,8 @@ public:
     // The pool serves no more than VorMemoryControllerController::kLargestNeighbourhood bytes side by side. Asked for
     // more it gives nothing, and this object begins used up: correct, only not faster than values that take cells by
     // themselves.
+    //   VorBomPayloadCells tooMany(2000);
+    //   tooMany.isUsedUp()   ->  true
     explicit VorBomPayloadCells(int numCells)
         : m_pNext(static_cast<char*>(
               VorMemoryControllerController::allocateNeighbours(static_cast<std::size_t>(numCells), kCellSize))),
@@ -46,6 +48,11 @@ public:
     }
 
     // A cell, which the caller owns; one by itself when those taken at the start are used up.
+    //   VorBomPayloadCells one(1);
+    //   void* pFirst = one.take();    was taken at the start
+    //   one.isUsedUp()   ->  true
+    //   void* pSecond = one.take();   is taken now, by itself
+    // Nothing is made in a cell: its memory is as the pool gives it, and the caller makes the payload there.
     void* take()
     {
         if (m_pNext == m_pEnd)

@@ -53,8 +53,8 @@ public:
     // into it. No total of the groups around it counts the row.
     virtual void takeMergedRow(const VorBomDataRow& /*row*/) {}
 
-    // A formula of a header or a line could not be computed for `row`, which opened the one or has the other; the section
-    // shows the template's value in its place and is handed over after this call.
+    // A formula of a header or a line could not be computed for `row`, which opened the one or has the other; the
+    // section shows the template's value in its place and is handed over after this call.
     //   "%Formula:%Weight/%Quantity" for a row with %Quantity 0   ->   "Division by zero"
     virtual void takeFailedFormula(const VorBomDataRow& /*row*/, const VorString& /*token*/,
                                    const VorString& /*message*/)

@@ -1,3 +1,8 @@
+// A template holds its sections, units and data together. Told on sections that name %Length and %Name:
+//   setUnitsForTokens    registers every token that is known to have a unit, used or not; %Length is a distance
+//   findUsedTokens       traces %Length and %Name, and fills what the sections group and sort by
+//   isTokenRequired      tells the host that lengths and names are all that it has to gather from its model
+//   getBomData           takes the rows that carry these; then all is there that an evaluation reads
 #include "VorBomTemplate.h"
 
 #include "VorBomDefaultTemplate.h"
@@ -17,6 +22,8 @@ struct TokenUnit
     VorBomTemplateUnits::eTokenUnitType type;
 };
 
+// The kind of unit of each token whose data are doubles in the catalogue. None of them is an angle: a host whose data
+// have angles registers their tokens itself.
 // On purpose: "%contourLength" and the two percent signs of "%%PaintMeter" are how the data are named.
 // Pinned by VorBomTemplateTest.SetUnitsForTokensRegistersTheWholeTable.
 const TokenUnit kTokenUnits[] = {
@@ -83,6 +90,7 @@ void reportUsedData(VorBomTemplateItem& section, VorStringArrayArray& handles, V
 }
 }
 
+// Units and data are there from the start, so that a host may fill them in any order, and go with the template.
 VorBomTemplate::VorBomTemplate() : m_pUnits(new VorBomTemplateUnits), m_pData(new VorBomData)
 {
     setType(kBomTemplate);
@@ -139,6 +147,7 @@ int VorBomTemplate::findUsedTokens()
     return 1;
 }
 
+// A template that uses no token is searched each time it is asked, as its trace stays empty; there is little to search.
 const VorStringArray& VorBomTemplate::getTokenTrace()
 {
     if (m_tokenTrace.isEmpty())
@@ -169,6 +178,7 @@ bool VorBomTemplate::isObjectPresentationOptionOn(eObjectsPresentationOptions op
     return isObjectPresentationOptionOn(m_nObjectPresentationOptions, option);
 }
 
+// Where two bits are asked for, one does not do: 5 is on in 7, but not in 4.
 bool VorBomTemplate::isObjectPresentationOptionOn(int options, eObjectsPresentationOptions option)
 {
     return (options & option) == option;

@@ -15,8 +15,8 @@
 //
 // Ownership: a template owns its sections with everything below them, its data with all rows, and its units, and its
 // destructor destroys them. The caller owns the template.
-// On purpose: copies are shallow, they share all three with their source, and only one of two such templates may ever be
-// destroyed. Pinned by VorBomTemplateTest.CopiesShareSectionsUnitsAndData.
+// On purpose: copies are shallow, they share all three with their source, and only one of two such templates may ever
+// be destroyed. Pinned by VorBomTemplateTest.CopiesShareSectionsUnitsAndData.
 //
 // Sections are VorBomTemplateItem objects from `new` and nothing else. One template is for one thread at a time.
 #pragma once

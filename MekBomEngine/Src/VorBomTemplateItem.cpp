@@ -38,6 +38,8 @@ void gatherRequests(const VorBomDataTupleArray& tuples, Cache& cache, int (VorBo
 }
 }
 
+// Made for every line of a report, so the tuples, which a line gets anew, are not copied, and what it asks for is
+// shared.
 VorBomTemplateItem::VorBomTemplateItem(const VorBomTemplateItem& other, eCopyPart)
     : m_nType(other.m_nType), m_pRequests(other.requestsForCopies()), m_pFirstDataRow(other.m_pFirstDataRow)
 {
@@ -51,6 +53,8 @@ VorBomTemplateItem::VorBomTemplateItem(const VorBomTemplateItem& other)
 {
 }
 
+// The requests go into the object that this section has, not by sharing that of the other: references to it were handed
+// out, and show the new content.
 VorBomTemplateItem& VorBomTemplateItem::operator=(const VorBomTemplateItem& other)
 {
     if (this == &other)
@@ -119,7 +123,7 @@ std::shared_ptr<VorBomTemplateItem::Requests> VorBomTemplateItem::requestsForCop
     return m_ownsRequests.load(std::memory_order_relaxed) ? m_pRequests->pForCopies : m_pRequests;
 }
 
-// A new object: copies that share the present one keep it.
+// Makes a new object, as the copies that share the present one are to keep it.
 void VorBomTemplateItem::renewForCopies(Requests& own)
 {
     // Before the copy is made: else each copy would hold the one before it, a chain that every search makes longer.

@@ -84,6 +84,7 @@ public:
 
     // The first child, not grandchild, of that type; null when there is none.
     // Not owned by the caller; it lives as long as it hangs here. The time it takes grows with the number of children.
+    //   report.getSubItemAt(VorBomTemplateItem::kGroupFooter)   ->  null, while only the groups in it have footers
     VorBomTemplateItem* getSubItemAt(eTemplateItemType type) const;
 
     // Fill this section's cache anew with what its tuples ask for, repeated requests repeatedly, then do the same for
@@ -91,6 +92,10 @@ public:
     // To be called after the tuples were added and again when they change: addData() and setData() leave the caches as
     // they are. What a request is, VorBomDataToken tells; tuples that ask for nothing are passed over. Nothing is
     // reported.
+    //   VorBomTemplateItem details(VorBomTemplateItem::kDetails);
+    //   details.addData(VorBomDataTuple(L"%SortDescBy:%Weight,%Name", VorString()));
+    //   details.findSortingTokens();
+    //   details.sortingTokens()   ->  "%SortDescBy:%Weight", "%Name": both descending
     int findGroupingTokens();
     int findSortingTokens();
     int findFilterObjTypes();
@@ -112,6 +117,10 @@ public:
 
     // As VorBomItemBase::list, every line led by its section's type:  "[ kGroupHeader ][%PosNum:12]"
     // A type that is none of the nine has no label.
+    // A group by %Material with two lines, listed with children and siblings:
+    //   [ kGroupHeader ][%GroupBy:%Material:][%Material:S235]
+    //    [ kDetails     ][%PNum:P1]
+    //    [ kDetails     ][%PNum:P2]
     int list(VorString& out, int level, int withChildren, int withNext) override;
 
 private:
@@ -150,6 +159,6 @@ private:
 
     eTemplateItemType m_nType = kUnkTemplateItemType;
     mutable std::atomic<bool> m_ownsRequests{ false };
-    mutable std::shared_ptr<Requests> m_pRequests; // shared while it is not owned, null then for none
+    mutable std::shared_ptr<Requests> m_pRequests; // until owned, shared with other sections, or null for no requests
     VorBomDataRow* m_pFirstDataRow = nullptr;
 };

@@ -43,6 +43,7 @@ static_assert(std::size(kUnitOfType) == VorBomTemplateUnits::kDensityUnit + 1, "
 
 const int kShowUnitSymbol = 0; // columns name their unit once, not in every cell
 
+// For numbers that have no unit: six significant digits, as "%g" has them.
 VorString plainText(double value)
 {
     wchar_t text[VorNumberText::kGeneralRoom];
@@ -64,6 +65,7 @@ VorBomTemplateUnits::VorBomTemplateUnits()
     MEKUnitsCommon::getUnitOfDensity(m_units[indexOf(Systems::kDensity)]);
 }
 
+// The table the other way round. It is so short that a second one would only be a second thing to keep right.
 VorBomTemplateUnits::eTokenUnitType VorBomTemplateUnits::unitTypeOf(VorUnitsTransformArray::eSystems system)
 {
     for (std::size_t type = 0; type < std::size(kUnitOfType); ++type)
@@ -116,6 +118,8 @@ VorString VorBomTemplateUnits::getDisplayString(eTokenUnitType type, double valu
     return pUnit != nullptr ? formatIn(*pUnit, value) : VorString();
 }
 
+// A setting that the repository lacks leaves its variable as it is. The three for zeros begin with what holds now, the
+// minus with 0: where nothing is said about it, a blank stands between feet and inches.
 void VorBomTemplateUnits::readSettings()
 {
     int suppressLastZeros = m_nSuppressLastZeros;

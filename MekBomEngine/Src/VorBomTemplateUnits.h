@@ -5,8 +5,8 @@
 //   units.getDisplayString(L"%Weight", 12.5)   ->  "12.5", in the weight unit
 //   units.getDisplayString(L"%PosNum", 3.0)    ->  "3": no unit is known for it
 //
-// Values are in the model's internal units: millimetre, kilogram, radian and what follows from them. Tokens are compared
-// exactly, case included. Copies are independent.
+// Values are in the model's internal units: millimetre, kilogram, radian and what follows from them. Tokens are
+// compared exactly, case included. Copies are independent.
 //
 // Nothing here fails or reports: a token that nobody registered is shown without unit, and a type that means nothing
 // as empty text. One object is for one thread at a time; evaluations that run at once have one each, as templates do.
@@ -75,6 +75,10 @@ public:
     // Registers `token`. The first registration wins: a token that has a type keeps it.
     // That holds for kNoUnit, too: registered as having no unit, a token never gets one, not even a formula from its
     // tokens. The type is stored as given, also one that is none of the nine, which is shown as empty text then.
+    //   VorBomTemplateUnits units;
+    //   units.AddTokenType(L"%Length", VorBomTemplateUnits::kDistanceUnit);
+    //   units.AddTokenType(L"%Length", VorBomTemplateUnits::kWeightUnit);
+    //   units.getUnitType(L"%Length")   ->  kDistanceUnit
     void AddTokenType(VorString token, eTokenUnitType type);
 
     // The registered type; kNoUnit for a token that is not registered. Tokens are looked up as they are: that "%Weight"

@@ -1,3 +1,9 @@
+// One table, gone through from its top until an entry matches. Told on four tokens:
+//   "%WeightInModel"   is none of the entries before it: "%Weight" stands for itself alone, so the lengths must agree
+//   "%UserAttr7"       is "%UserAttr", an entry that stands for all tokens that begin with it
+//   "%weight"          is nothing known, as case counts
+//   "%SumBy:%Weight"   is nothing known either: what asks for a total must be stripped before
+// A walk over a hundred entries is fast enough, as nobody looks here for every row: only for columns and sort keys.
 #include "VorBomTokenCatalogue.h"
 
 #include <cwchar>
@@ -18,6 +24,8 @@ constexpr bool kIsPrefix = true;
 // On purpose: the spellings are exact, "%isUnwidable" and "%contourLength" and the two percent signs of "%%PaintMeter"
 // included; existing templates and data name them so. Pinned by VorBomTokenCatalogueTest.OddSpellingsAreExact.
 constexpr VorBomTokenCatalogue::Entry kEntries[] = {
+    // Texts. Seven that number or name parts sort naturally, P2 before P10 and HEA90 before HEA200; the others sort by
+    // their characters.
     { L"%Phase", kText, kPlain },
     { L"%MNum", kText, kNatural },
     { L"%MName", kText, kNatural },
@@ -61,6 +69,7 @@ constexpr VorBomTokenCatalogue::Entry kEntries[] = {
     { L"%External", kText, kPlain, kIsPrefix },
     { L"%UserAttr", kText, kPlain, kIsPrefix },
 
+    // Whole numbers: counts, numbers that identify something, and marks that are 0 or 1. They have no units.
     { L"%MQuantity", kInt, kNumeric },
     { L"%MQuantityInPhase", kInt, kNumeric },
     { L"%IsMP", kInt, kNumeric },
@@ -78,6 +87,7 @@ constexpr VorBomTokenCatalogue::Entry kEntries[] = {
     { L"%BarQuantity", kInt, kNumeric },
     { L"%CrossBarQuantity", kInt, kNumeric },
 
+    // Numbers, in the model's internal units. Each of them has its kind of unit in the table of VorBomTemplate.cpp.
     { L"%SysLength", kDouble, kNumeric },
     { L"%CurvedBeamRadius", kDouble, kNumeric },
     { L"%Weight", kDouble, kNumeric },

@@ -43,6 +43,8 @@ public:
         }
 
         // Whether `token` is this one, or starts with its name where that stands for all that do.
+        //   VorBomTokenCatalogue::find(L"%Weight")->matches(L"%WeightMeter")     ->  false
+        //   VorBomTokenCatalogue::find(L"%UserAttr")->matches(L"%UserAttr7")     ->  true
         bool matches(const VorString& token) const;
 
         // Ends with a zero. One entry, "%%PaintMeter", is none that VorBomDataToken::isToken would call a token, on
@@ -57,10 +59,14 @@ public:
     // The first entry that matches the whole token, its prefix not stripped; null when there is none. Case counts.
     // A prefix entry matches its own name as well: "%UserAttr" alone is found like "%UserAttr7". No two entries match
     // one token with different answers, so their order matters to nobody but a reader.
+    //   VorBomTokenCatalogue::find(L"%Length")->sort        ->  kSortNumeric
+    //   VorBomTokenCatalogue::find(L"%SumBy:%Length")       ->  null
     static const Entry* find(const VorString& token);
 
     // The table as a half-open range: tokens of texts, then of whole numbers, then of numbers.
     // Each entry has the sort type of its kind: numbers sort as numbers, texts naturally or plainly.
+    //   for (const auto* pEntry = VorBomTokenCatalogue::begin(); pEntry != VorBomTokenCatalogue::end(); ++pEntry)
+    //       offer(pEntry->name);
     static const Entry* begin();
     static const Entry* end();
 };

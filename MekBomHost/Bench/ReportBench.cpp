@@ -32,7 +32,7 @@ void readRows(Report& report, const std::string& parts)
 {
     MemorySource source("parts.csv", parts);
     CsvReader records(source);
-    PartsList(records).readRows(report.engineTemplate(), report.queryFilter());
+    PartsList(records).readRows(report.engineTemplate(), report.filterTokens());
 }
 
 void BM_ReadRows(benchmark::State& state)

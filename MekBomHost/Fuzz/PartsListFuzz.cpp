@@ -4,7 +4,6 @@
 #include "Fault.h"
 #include "MemorySource.h"
 #include "PartsList.h"
-#include "QueryFilter.h"
 
 #include <cstdint>
 #include <cstdlib>
@@ -40,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t siz
     {
         mekbom::CsvReader records(source);
         mekbom::PartsList parts(records);
-        parts.readRows(report, mekbom::QueryFilter());
+        parts.readRows(report);
     }
     catch (const mekbom::Fault& fault)
     {

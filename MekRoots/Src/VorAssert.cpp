@@ -1,3 +1,7 @@
+// What is reported once is mostly reported for every row. Told on a[7] of an array of three, a million times:
+//   first time       no such site is known: expression, path and line are copied and its count is 1
+//   from then on     the site is found by these three, and its count goes up; nothing is copied
+//   each time        a handler, if there is one, is called once the lock is released
 #include "VorAssert.h"
 
 #include <mutex>
@@ -58,6 +62,7 @@ void VorAssert::vorAssert(const wchar_t* expression, const wchar_t* sourcePath, 
         handler(expressionText, pathText, line);
 }
 
+// A copy, as other threads go on reporting. Its texts are shared with the sites, so it costs little.
 std::vector<VorAssertReport> VorAssert::reports()
 {
     Reports& all = theReports();

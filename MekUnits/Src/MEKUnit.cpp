@@ -1,3 +1,4 @@
+// The row of the catalogue is looked for here, once for each unit, so that showing a number looks for nothing.
 #include "MekRoots/Exp/MEKUnit.h"
 
 MEKUnit::MEKUnit(int unit, int inputUnit, int format)

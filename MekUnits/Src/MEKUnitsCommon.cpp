@@ -1,3 +1,7 @@
+// The current units are one VorUnitsManager behind a lock that many may share to read. Told on lengths:
+//   at the start                          getUnitOfDistance() answers millimetres, those of metric()
+//   setCurrentUnits(imperial())           copies all seven units at once
+//   getUnitOfDistance()                   answers feet and inches; units handed out before stay what they are
 #include "MekRoots/Exp/MEKUnitsCommon.h"
 
 #include "MekRoots/Exp/VorUnitsManager.h"

@@ -7,6 +7,7 @@ void VorGenericString::addToken(const VorString& token)
     m_tokens.append(token);
 }
 
+// Numbers become texts here and stay so: whoever puts the label together later knows nothing of kinds of value.
 void VorGenericString::addEntry(const VorString& token, int value, int unitType)
 {
     VorString text;
@@ -37,12 +38,14 @@ int VorGenericString::findEntry(const VorString& token, VorString& text) const
     return 1;
 }
 
+// 0 is also what a text has that is shown as it stands; whether there is an entry at all, findEntry() tells.
 int VorGenericString::getUnitType(const VorString& token) const
 {
     const int index = indexOfEntry(token);
     return index < 0 ? 0 : m_entryUnitTypes[index];
 }
 
+// Of several entries for one token the first counts, as the first tuple of a row does.
 int VorGenericString::indexOfEntry(const VorString& token) const
 {
     for (int i = 0; i < m_entryTokens.length(); ++i)

@@ -36,7 +36,8 @@ enum eFault
     kTooLarge
 };
 
-// A mark behind a number, in each of its spellings, and how many of the smallest marked unit it stands for.
+// A mark behind a number, in each of its spellings, and how many of the smallest marked unit it stands for: a foot is
+// 12 inches, a degree 3600 seconds.
 struct Mark
 {
     const wchar_t* characters;
@@ -224,6 +225,7 @@ const VorUnitDefinition& unitOrMillimetre(int unit)
     return *VorUnitsTransformArray::findUnitOfModel(VorUnitsTransformArray::kDistance);
 }
 
+// For the end of a message, and so without a capital letter and a full stop.
 std::wstring explanationOf(eFault fault, const std::wstring& symbol)
 {
     switch (fault)

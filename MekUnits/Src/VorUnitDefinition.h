@@ -33,7 +33,7 @@ struct VorUnitDefinition
 
     static constexpr std::uint64_t kLargestFactor = 1000000000000000000; // arithmetic on digits needs ten times that
 
-    // 1 for the unit in which the model keeps its values. Units that happen to have the same numbers answer 1, too: t/m
-    // is as many kg/mm.
+    // 1 for the unit in which the model keeps its values. A unit whose factor happens to be 1 as well answers 1, too:
+    // one t/m is one kg/mm.
     int isOfModel() const { return layout == kPlainNumber && numerator == 1 && denominator == 1 ? 1 : 0; }
 };

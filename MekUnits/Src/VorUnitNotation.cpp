@@ -7,6 +7,7 @@
 
 #include "MekRoots/Exp/VorCharacters.h"
 #include "VorUnitDefinition.h"
+#include "VorUnitFormat.h"
 
 #include <cstddef>
 #include <string>
@@ -14,8 +15,6 @@
 
 namespace
 {
-const int kFirstFraction = 1000; // format of a fraction is this and its denominator, as VorUnitTransform takes it
-const int kLargestDenominator = 256;
 const int kMostDecimals = 9;
 const std::size_t kMostDigits = 3; // of a denominator
 
@@ -66,9 +65,9 @@ int setDecimals(const VorUnitDefinition* pUnit, int numDecimals, MEKUnit& unit)
 
 int setFraction(const VorUnitDefinition* pUnit, int denominator, MEKUnit& unit)
 {
-    if (pUnit == nullptr || denominator < 1 || denominator > kLargestDenominator)
+    if (pUnit == nullptr || denominator < 1 || denominator > VorUnitFormat::kMostParts)
         return 0;
-    unit = MEKUnit(pUnit->number, pUnit->number, kFirstFraction + denominator);
+    unit = MEKUnit(pUnit->number, pUnit->number, VorUnitFormat::kFirstFraction + denominator);
     return 1;
 }
 }
@@ -102,10 +101,11 @@ VorString VorUnitNotation::write(const MEKUnit& unit)
     const VorUnitDefinition* const pUnit = VorUnitsTransformArray::findUnit(unit.unit());
     if (pUnit == nullptr)
         return VorString();
-    const bool isFraction = unit.format() >= kFirstFraction;
+    const int format = unit.format();
+    const bool isFraction = VorUnitFormat::isFraction(format);
     const bool isUsual = isFraction == (pUnit->layout == VorUnitDefinition::kFeetAndInches);
     std::wstring text = pUnit->asciiSymbol;
     text += isUsual ? L"/" : isFraction ? L"/1/" : L"/.";
-    text += std::to_wstring(isFraction ? unit.format() - kFirstFraction : unit.format() % 10);
+    text += std::to_wstring(isFraction ? VorUnitFormat::denominatorOf(format) : VorUnitFormat::decimalsOf(format));
     return VorString(text.c_str());
 }

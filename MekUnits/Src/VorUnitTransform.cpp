@@ -12,6 +12,7 @@
 #include "VorDecimalNumber.h"
 #include "VorQuantityText.h"
 #include "VorUnitCatalogue.h"
+#include "VorUnitFormat.h"
 
 #include <algorithm>
 #include <cmath>
@@ -25,8 +26,6 @@ const VorUnitDefinition kModelUnit = {
     0, VorUnitsTransformArray::kDistance, VorUnitDefinition::kPlainNumber, L"", L"", L"", 0, 1, 1, L""
 };
 
-const int kFirstFraction = 1000; // format of no parts; a rule of the formats, as is the next
-const int kLargestDenominator = 256;
 const int kInchesPerFoot = 12;
 const int kSecondsPerMinute = 60;
 const int kMinutesPerDegree = 60;
@@ -55,18 +54,18 @@ const VorUnitDefinition& unitOrModelUnit(int unit)
     return kModelUnit;
 }
 
+// -1 for a fraction.
 int decimalsOf(int format)
 {
-    if (format >= kFirstFraction)
-        return -1;
-    return format > 0 ? format % 10 : 0;
+    return VorUnitFormat::isFraction(format) ? -1 : VorUnitFormat::decimalsOf(format);
 }
 
+// Format 2 is hundred parts, 1016 is sixteen.
 unsigned int partsOf(int format)
 {
-    if (format >= kFirstFraction)
-        return static_cast<unsigned int>(std::clamp(format - kFirstFraction, 1, kLargestDenominator));
-    return VorPowersOfTen::kAll<unsigned int>[static_cast<std::size_t>(decimalsOf(format))];
+    if (VorUnitFormat::isFraction(format))
+        return static_cast<unsigned int>(VorUnitFormat::denominatorOf(format));
+    return VorPowersOfTen::kAll<unsigned int>[static_cast<std::size_t>(VorUnitFormat::decimalsOf(format))];
 }
 
 // Whole numbers up to this are exact doubles, as is then every product and sum of them up to this.

@@ -46,12 +46,14 @@ VorUnitsManager VorUnitsManager::imperial()
 }
 // clang-format on
 
+// A kind that is none gets the first unit, that of distance: a reference must name one.
 const MEKUnit& VorUnitsManager::getUnit(VorUnitsTransformArray::eSystems system) const
 {
     const int index = indexOf(system);
     return m_units[static_cast<std::size_t>(index < 0 ? 0 : index)];
 }
 
+// A unit of weight in the place of distances would show every length in kilograms, so it is refused.
 void VorUnitsManager::setUnit(VorUnitsTransformArray::eSystems system, const MEKUnit& unit)
 {
     const int index = indexOf(system);

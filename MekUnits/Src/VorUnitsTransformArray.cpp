@@ -1,3 +1,8 @@
+// A unit has a symbol, the same in ASCII, and names. The square foot is found under all of them:
+//   "ft²"                                    its symbol, as it is printed
+//   "ft2"                                    its ASCII symbol, as it is typed
+//   "square foot", "square feet", "sq ft"    its names, which stand in one text of the catalogue
+// The units are looked through in the order of the catalogue; no two share a symbol or a name, so any order would do.
 #include "MekRoots/Exp/VorUnitsTransformArray.h"
 
 #include "VorUnitCatalogue.h"

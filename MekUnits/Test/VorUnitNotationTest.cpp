@@ -92,4 +92,12 @@ TEST(VorUnitNotationTest, WhatIsWrittenReadsAsTheSameUnit)
             EXPECT_EQ(format, read.format()) << word;
         }
 }
+
+// Hosts may set any format; what it is shown as is what the word says.
+TEST(VorUnitNotationTest, FormatsOutOfRangeAreWrittenAsTheyAreShown)
+{
+    EXPECT_EQ(VorString(L"lb/0"), VorUnitNotation::write(MEKUnit(kPounds, 3, -5)));
+    EXPECT_EQ(VorString(L"ft-in/1"), VorUnitNotation::write(MEKUnit(kFeetAndInches, 3, 1000)));
+    EXPECT_EQ(VorString(L"ft-in/256"), VorUnitNotation::write(MEKUnit(kFeetAndInches, 3, 1300)));
+}
 }

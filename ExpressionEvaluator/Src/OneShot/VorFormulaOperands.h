@@ -75,8 +75,8 @@ private:
     {
         for (const Variable* pVariable = m_variables.announcedEnd(); pVariable != m_variables.announced();)
         {
-            const wchar_t* pNext = readName(pText, (--pVariable)->pName);
-            if (pNext == nullptr)
+            const wchar_t* pNext = passOver((--pVariable)->pName, pText);
+            if (pNext == nullptr || !pVariable->canBeOperand)
                 continue;
             value = pVariable->value;
             return m_bReachesPastEnd && *pNext == L'\0' ? nullptr : pNext;
@@ -84,18 +84,13 @@ private:
         return nullptr;
     }
 
-    // Where the operand at `pText` ends if it is that name. An operand has neither an operator in it nor a blank at its
-    // end; a name that has is never found.
-    static const wchar_t* readName(const wchar_t* pText, const wchar_t* pName)
+    // Where the operand at `pText` ends that begins with the name and has nothing but blanks behind it; else null.
+    static const wchar_t* passOver(const wchar_t* pName, const wchar_t* pText)
     {
-        if (*pText != *pName)
-            return nullptr;
-        std::size_t i = 1;
-        while (pText[i] == pName[i] && !VorFormulaCharacters::kOperandEnds.holds(pText[i]))
-            ++i;
-        if (pName[i] != L'\0' || VorFormulaCharacters::kBlanks.holds(pText[i - 1]))
-            return nullptr;
-        return VorFormulaCharacters::endOperand(pText + i);
+        for (; *pName != L'\0'; ++pName, ++pText)
+            if (*pText != *pName)
+                return nullptr;
+        return VorFormulaCharacters::endOperand(pText);
     }
 
     const wchar_t* readUnusual(const wchar_t* pText, double& value);

@@ -8,6 +8,7 @@
 
 #include "MekRoots/Exp/VorCharacters.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <string_view>
 
@@ -60,6 +61,14 @@ inline const wchar_t* endOperand(const wchar_t* pText)
     return pText;
 }
 
+// Whether an operand can read like this: it has no operator in it and no blank at its end. Blanks at the start are let
+// pass, as nobody reads an operand from a blank on.
+inline bool canBeOperand(std::wstring_view text)
+{
+    const auto endsHere = [](wchar_t character) { return kOperandEnds.holds(character); };
+    return !text.empty() && !kBlanks.holds(text.back()) && std::none_of(text.begin(), text.end(), endsHere);
+}
+
 // Digits, point, sign, white space as the C library knows it, and the zero that ends a text.
 inline constexpr VorCharacterSet kNumberStarts(std::wstring_view(L"0123456789.+- \t\n\v\f\r\0", 20));
 
@@ -79,7 +88,7 @@ enum eKind : signed char
     kProduct = 3,     // '*' and '/'
     kNothing = 4,     // blanks and zero characters
     kEnd = 5,         // of the statement
-    kOperand = 6,     // all that is nothing else
+    kOperand = 6,     // everything else
     kDigit = 7,       // an operand, most likely a number
     kName = 8         // an operand that is no number
 };

@@ -9,6 +9,8 @@
 #include <cstddef>
 #include <memory>
 
+// Operators that wait stand in room on this call's stack, as long as they are few, and operands are linked through
+// themselves: all the memory that a formula takes is that of its nodes.
 int VorTreeBuilder::build()
 {
     Reader::Stack::Room room;
@@ -23,6 +25,7 @@ const wchar_t* VorTreeBuilder::readOperand(const wchar_t* pText, VorFormulaChara
     return pEnd;
 }
 
+// "-a" becomes -(nothing, a): the left side is a node without text, which evaluates to 0.
 void VorTreeBuilder::addNothing()
 {
     m_operands.push(new VorExprEvTreeItemOperand(VorExprEvTextView()));

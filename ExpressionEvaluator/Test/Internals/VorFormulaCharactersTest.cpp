@@ -79,3 +79,13 @@ TEST(VorFormulaCharactersTest, AnOperandEndsAtAnOperatorOrTheStatementsEndBehind
     for (const wchar_t* text : { L"a", L" a", L" 2+a", L"\v+", L"\u20AC" })
         EXPECT_EQ(nullptr, endOperand(text)) << text;
 }
+
+TEST(VorFormulaCharactersTest, AnOperandHasNoOperatorsAndNoBlankAtItsEnd)
+{
+    for (const wchar_t* text : { L"a", L"%Weight", L"my length", L"\u20AC", L"1.5", L"\v" })
+        EXPECT_TRUE(canBeOperand(text)) << text;
+    for (const wchar_t* text :
+         { L"", L" ", L"a ", L"a\t", L"a\n", L"a+b", L"-a", L"a*", L"(a)", L"a=", L"a;b", L"a/b" })
+        EXPECT_FALSE(canBeOperand(text)) << text;
+    EXPECT_FALSE(canBeOperand(std::wstring_view(L"a\0b", 3)));
+}

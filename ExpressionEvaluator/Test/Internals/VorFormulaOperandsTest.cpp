@@ -44,6 +44,21 @@ TEST_F(VorFormulaOperandsTest, NamesStandForTheNewestVariableSoCalled)
         EXPECT_EQ("none", read(text)) << toUtf8(text);
 }
 
+// An operand has neither operators in it nor a blank at its end.
+TEST_F(VorFormulaOperandsTest, NamesThatNoOperandCanHaveStandForNothingAndHideNothing)
+{
+    const wchar_t* const names[] = { L"a", L"a ", L"a+b", L"a*", L"b ;", L"c\t", L"d=", L"(e)", L"" };
+    const double values[] = { 1.0, 2.0, 3.0, 4.0, 5.0, 6.0, 7.0, 8.0, 9.0 };
+    m_variables.clear();
+    ASSERT_EQ(1, m_variables.announce(names, values, 9));
+
+    EXPECT_EQ("1.000000 *2", read(L"a *2"));
+    EXPECT_EQ("1.000000 +b*2", read(L"a+b*2"));
+    EXPECT_EQ("1.000000 **2", read(L"a**2"));
+    for (const wchar_t* text : { L"b ;", L"b ;a", L"c\t+a", L"d=", L"d==2", L"(e)" })
+        EXPECT_EQ("none", read(text)) << toUtf8(text);
+}
+
 TEST_F(VorFormulaOperandsTest, NumbersAreReadWhicheverWay)
 {
     EXPECT_EQ("2.000000 +a", read(L"2+a"));

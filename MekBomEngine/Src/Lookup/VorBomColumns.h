@@ -22,7 +22,7 @@ class VorBomColumns
 public:
     VorBomColumns(std::shared_ptr<VorBomRowLayouts> pLayouts, std::vector<VorString> tokens);
 
-    // No row has the column from now on. To be called before the first row.
+    // Takes `column` for one that no row has. To be called before the first find().
     void leaveOut(int column) { m_leftOut.push_back(column); }
 
     // Columns are moved, never copied: they point into their own list of positions.

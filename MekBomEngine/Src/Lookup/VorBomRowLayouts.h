@@ -24,8 +24,8 @@ public:
     // Rows with so many different layouts gain nothing from their being remembered. Arbitrary.
     static constexpr int kMostLayouts = 1000;
 
-    // The number of the row's layout, counted from 0, or kNoLayout. A row that was asked for just before and has as many
-    // tuples still is taken to have the same layout; if it has more, only those are looked at.
+    // The number of the row's layout, counted from 0, or kNoLayout. A row that was asked for just before and has as
+    // many tuples still is taken to have the same layout; if it has more, only those are looked at.
     int layoutOf(const VorBomItemBase& row)
     {
         for (const Remembered& remembered : m_remembered)
@@ -38,7 +38,7 @@ private:
     struct Layout
     {
         std::vector<VorString> tokens;
-        int latestLonger = kNoLayout; // the layout that a row last had which had this one and got a tuple more
+        int latestLonger = kNoLayout; // that of the row which grew out of this one last
     };
 
     struct Remembered

@@ -1,3 +1,8 @@
+// A table pays only where both lists are long. Told on rows that are compared by some tokens:
+//   3 tokens, 1,000 tuples      three walks; filling a table with 1,000 entries would cost more
+//   100 tokens, 10 tuples       a hundred short walks; as many look-ups in a table would hardly be cheaper
+//   1,000 tokens and tuples     up to a million steps; with a table 1,000 entries and 1,000 look-ups
+// Both ways find the same one of several tuples with equal tokens: a walk stops at the first, the table keeps it.
 #include "VorBomTupleFinder.h"
 
 VorBomTupleFinder::VorBomTupleFinder(const VorBomDataTupleArray& tuples, int numTokens) : m_tuples(tuples)

@@ -25,6 +25,7 @@ VorString withoutSumPrefix(const VorBomDataToken& token)
 }
 }
 
+// Of "%SumBy:%Formula:%Length*2" both prefixes go: what is left, "%Length*2", is the text by which units know it.
 VorBomDisplayColumn::VorBomDisplayColumn(const VorBomDataToken& token)
     : m_name(withoutSumPrefix(token)), m_isFormula(VorBomDataToken::removeFormulaPrefix(m_name) != 0)
 {

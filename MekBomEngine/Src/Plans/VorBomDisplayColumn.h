@@ -4,8 +4,8 @@
 //   VorBomDisplayColumn(L"%Formula:%Length*2")        as a length: in the unit of the first token that has one
 //   VorBomDisplayColumn(L"%Num")                      as "%g" does, when the units know no type for it
 //
-// The type of quantity is looked up once and again only after units were told of further tokens, so one object serves
-// the units of one evaluation.
+// The kind of unit is looked up at the first number, and again only when the units have been told of further tokens. So
+// an object is for the units of one evaluation alone.
 #pragma once
 
 #include "VorBomDataToken.h"

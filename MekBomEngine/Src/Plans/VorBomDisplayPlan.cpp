@@ -17,6 +17,8 @@ VorBomTypedValue typed(const VorBomDataValue& value)
 }
 }
 
+// The tokens alone are read. Which kind of quantity each shows is asked for when it first shows a number, as units may
+// be told of further tokens until then.
 VorBomDisplayPlan::VorBomDisplayPlan(const VorBomDataTupleArray& tuples)
 {
     m_columns.reserve(static_cast<std::size_t>(tuples.length()));

@@ -40,6 +40,7 @@ double numberOf(const VorBomDataValue& value)
     return value.type() == VorBomDataValue::kIntData ? intOf(value) : doubleOf(value);
 }
 
+// A total may stand in its template as an empty text. What kind of number it is, its first row tells.
 void setToZeroLike(const VorBomDataValue& number, VorBomDataValue& value)
 {
     if (number.type() == VorBomDataValue::kIntData)
@@ -48,6 +49,8 @@ void setToZeroLike(const VorBomDataValue& number, VorBomDataValue& value)
         value.set(0.0);
 }
 
+// 2147483647 and 1 make 2147483648, which no int holds: the total is a double from then on, and stays one even when -1
+// brings it back.
 void addToTotal(VorBomDataValue& total, const VorBomDataValue& added)
 {
     if (!isNumber(total))
@@ -117,6 +120,7 @@ std::unique_ptr<VorBomTemplateItem> VorBomFooterPlan::finish(const VorBomDataRow
     return pFinished;
 }
 
+// Room is taken for the section's tuples and no more, since nothing is appended to a footer.
 void VorBomFooterPlan::beginFooter()
 {
     m_pFooter = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
@@ -125,6 +129,8 @@ void VorBomFooterPlan::beginFooter()
     m_nTakenRows = 0;
 }
 
+// Columns and tuples stand in one order, as the columns were made from the section's tuples: the i-th column finds what
+// the i-th tuple takes in.
 void VorBomFooterPlan::takeIn(VorBomDataRow& row)
 {
     if (row.getUseThisDataForSums() == 0)

@@ -23,14 +23,14 @@ public:
     // The section is not owned and must not change as long as the plan is used.
     VorBomFooterPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section);
 
-    // Takes in the rows of the open group that came since the last call. Rows that do not count are passed over; whether
-    // they do must be settled by now.
+    // Takes in the rows of the open group that came since the last call. Rows that do not count are passed over;
+    // whether they do must be settled by now.
     void takeNewRows(const VorBomDataRowPointerArray& rows);
 
     // Takes in those rows, too, then hands the footer over and begins the next one.
     std::unique_ptr<VorBomTemplateItem> finish(const VorBomDataRowPointerArray& rows);
 
-    // Shows finished footers.
+    // Shows the footers that finish() has handed over.
     VorBomDisplayPlan& display() { return m_display; }
 
 private:

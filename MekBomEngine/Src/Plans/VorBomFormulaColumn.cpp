@@ -75,6 +75,8 @@ void defineRowVariables(ExpressionsEvaluator& evaluator, const VorBomDataRow* pR
 }
 }
 
+// Compiled from the very text that computeOnce() reads, so that both have the same names. One that is no token, such as
+// "Factor", is a variable of the section alone: rows are not asked for it, though they may have a tuple of that name.
 VorBomFormulaColumn::VorBomFormulaColumn(std::shared_ptr<VorBomRowLayouts> pLayouts, const VorBomDataTupleArray& tuples,
                                          int index)
     : m_nIndex(index),
@@ -107,6 +109,8 @@ int VorBomFormulaColumn::compute(const VorBomDataTupleArray& tuples, VorBomDataR
     return 0;
 }
 
+// A name that has a number nowhere makes the formula fail, as an unknown variable does when the text is read. What was
+// written to m_values until then is of no matter: the next row writes all of it anew.
 int VorBomFormulaColumn::computeCompiled(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result)
 {
     if (pRow != nullptr)
@@ -141,10 +145,12 @@ int VorBomFormulaColumn::computeOnce(const VorBomDataTupleArray& tuples, int ind
             *pMessage = VorString(text);
         return 0;
     }
+    // Through its text, as the result of a formula always comes: rounded to the decimals that the text has.
     result = VorString::toDouble(text, 0);
     return 1;
 }
 
+// Without the prefix, as the evaluator reads it.
 VorString VorBomFormulaColumn::formulaOf(const VorBomDataTuple& tuple)
 {
     VorString formula;

@@ -3,10 +3,10 @@
 //   section  %Length 2000, "%Formula:%Length*%Quantity/1000"      row  %Quantity 3
 //   compute(tuples, row, result)  ->  1, result 6
 //
-// The formula sees the numbers of the section's other tuples by their tokens, of equal tokens the last, and before them
-// the numbers of the row for every token the formula names. Texts define nothing. Formulas of 3 characters or fewer, or
-// without any of "*/+-=()", are taken for plain tokens or numbers and not computed. The result has passed through its
-// text, so it has six decimals.
+// A token in the formula stands for the row's number under it; where the row has none, for that of the section's last
+// other tuple that has the token and a number. A name that is no token is looked for in the section alone. Texts define
+// nothing. Formulas of 3 characters or fewer, or without any of "*/+-=()", are taken for plain tokens or numbers and
+// not computed. The result has passed through its text, so it has six decimals.
 #pragma once
 
 #include "VorBomColumns.h"
@@ -25,8 +25,8 @@ public:
 
     int index() const { return m_nIndex; }
 
-    // 0 with `result` untouched when the formula is none or fails. The row may be null. `pMessage`, if not null, is set to
-    // the message of a formula that fails, which costs another evaluation.
+    // 0 with `result` untouched when the formula is none or fails. The row may be null. `pMessage`, if not null, is set
+    // to the message of a formula that fails, which costs another evaluation.
     int compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result, VorString* pMessage = nullptr);
 
     // Computes it by the formula evaluator, whose variables and errors of this thread are afterwards those of the
@@ -44,8 +44,8 @@ private:
     VorString m_formula;
     VorCompiledFormula m_compiled;
     bool m_isCompiled;
-    // Where a name of the compiled formula gets its value from: first the row, if the name is one of its tokens, then the
-    // section's tuples of that token, in this order.
+    // Where a name of the compiled formula gets its value from: first the row, if the name is one of its tokens, then
+    // the section's tuples of that token, in this order.
     VorBomColumns m_rowColumns;
     std::vector<std::vector<int>> m_tuplesOfName;
     std::vector<double> m_values;

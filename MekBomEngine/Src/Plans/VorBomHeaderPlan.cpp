@@ -52,6 +52,8 @@ VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum,
 }
 }
 
+// Formulas are no columns to be looked up: a row of an earlier report carries the result of that under the formula's
+// token, and what must stand in the section until the formula is computed is the template's value.
 VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section)
     : m_section(section), m_columns(pLayouts, tokensOf(section.getData())), m_display(section.getData())
 {
@@ -70,6 +72,8 @@ std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row
     return makeSection(row, true);
 }
 
+// A report makes a section for every row, so the room for its tuples is taken at once, each is made in its place, and
+// their payloads lie side by side.
 std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::makeSection(VorBomDataRow& row, bool isEmptyDatumReported)
 {
     m_columns.find(row);
@@ -107,15 +111,15 @@ void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomData
     }
 }
 
-// The row has not changed, but for the results appended to it, which no formula takes from it; so all formulas give again
-// what they gave.
+// The row has not changed, but for the results appended to it, which no formula takes from it; so all formulas give
+// again what they gave.
 int VorBomHeaderPlan::leaveLastFormula()
 {
     if (m_formulas.empty() || m_pLastRow == nullptr)
         return 0;
     if (ExpressionsEvaluator::isTraced())
         return 1; // nothing was compiled, and computing again would be seen
-    const std::unique_ptr<VorBomTemplateItem> pEvaluated = makeSection(*m_pLastRow, false); // it was, the first time
+    const std::unique_ptr<VorBomTemplateItem> pEvaluated = makeSection(*m_pLastRow, false); // reported before
     VorBomDataTupleArray& tuples = pEvaluated->getData();
     for (VorBomFormulaColumn& formula : m_formulas)
     {

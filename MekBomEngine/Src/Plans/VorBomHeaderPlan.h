@@ -28,12 +28,13 @@ public:
     // are. Marks the row's tuples it took as used. Reports "false" for an empty value in the row and passes it over.
     std::unique_ptr<VorBomTemplateItem> process(VorBomDataRow& row);
 
-    // Computes the formulas of a section with the tokens of this plan's, and appends each result to the row, which may be
-    // null.
+    // Computes the formulas of a section with the tokens of this plan's, and appends each result to the row, which may
+    // be null.
     void computeFormulas(VorBomTemplateItem& evaluated, VorBomDataRow* pRow);
 
-    // Leaves the variables and errors of the formula computed last in the thread's lists, which compiled formulas do not
-    // touch: computes it once more, for a section made anew. The rows must still be there. 0 when none was computed.
+    // Leaves the variables and errors of the formula computed last in the thread's lists, which compiled formulas do
+    // not touch: computes it once more, for a section made anew. The rows must still be there. 0 when none was
+    // computed.
     int leaveLastFormula();
 
     // A formula that could not be computed, and why.
@@ -48,7 +49,7 @@ public:
     // The failures of the section computed last, in the order of its tuples; none unless they are kept.
     const std::vector<Failure>& failures() const { return m_failures; }
 
-    // Shows such sections.
+    // Shows the sections that process() has made.
     VorBomDisplayPlan& display() { return m_display; }
 
 private:

@@ -21,6 +21,7 @@ VorBomLevelPlan::VorBomLevelPlan(const std::shared_ptr<VorBomRowLayouts>& pLayou
         footer.emplace(pLayouts, *pFooterSection);
 }
 
+// The row before is looked up again, not remembered: it may have got results of formulas since, and its tuples moved.
 int VorBomLevelPlan::isSameGroup(VorBomDataRow& row, VorBomDataRow& lastRow)
 {
     m_grouping.find(row);

@@ -32,5 +32,5 @@ public:
 
 private:
     VorBomColumns m_grouping;
-    VorBomColumns m_groupingOfLast; // the same: a list of columns knows one row at a time, and two are compared
+    VorBomColumns m_groupingOfLast; // of the same tokens: an object knows one row at a time
 };

@@ -37,8 +37,8 @@ VorBomTextMemo::Entry* VorBomTextMemo::freeEntryFor(std::uint64_t key)
     return nullptr;
 }
 
-// In a full memo each way in turn: texts come and go as rarely as can be, since what stays a while cuts up the memory of
-// what does not.
+// In a full memo each way in turn: texts come and go as rarely as can be, since what stays a while cuts up the memory
+// of what does not.
 VorBomTextMemo::Entry& VorBomTextMemo::entryToReplace(std::uint64_t key)
 {
     for (;;)

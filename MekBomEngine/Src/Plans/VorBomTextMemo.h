@@ -34,13 +34,13 @@ public:
         return nullptr;
     }
 
-    // After find() gave null. An empty text is not remembered.
+    // To be called when find() gave null for the key. An empty text is not remembered.
     void remember(std::uint64_t key, const VorString& text);
 
     // Forgets the texts, not what was found out about the column.
     void clear();
 
-    // What the places for texts take: for a few texts little, never more than 16 KB.
+    // How many bytes the places for texts take: none before the first text, 128 for a few, never more than 16 KB.
     std::size_t bytes() const { return m_entries.size() * sizeof(Entry); }
 
 private:

@@ -1,3 +1,7 @@
+// Told on level 1 of three, when its group closes. Its header H1 has two lines by now, its footer F1 was just made:
+//   before    H0, the header of the level around, has no child yet; H1 and F1 stand in the state of level 1
+//   take 1    H1, with its lines, and F1 become children of H0, and the state of level 1 names neither any more
+//   then      the next row opens level 1 anew, with a header of its own, which will come behind F1
 #include "VorBomSectionTree.h"
 
 #include "MekRoots/Exp/VorAssert.h"

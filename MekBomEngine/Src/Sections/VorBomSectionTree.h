@@ -8,8 +8,8 @@
 //       footer of level 1
 //     footer of level 0
 //
-// Headers stay numbers until their groups close. On purpose: a formula further in may lend their tokens a unit meanwhile,
-// and reports show that. Pinned by VorBomSectionSinkTest.TreeShowsHeadersWhenTheirGroupsClose.
+// Headers stay numbers until their groups close. On purpose: a formula further in may lend their tokens a unit
+// meanwhile, and reports show that. Pinned by VorBomSectionSinkTest.TreeShowsHeadersWhenTheirGroupsClose.
 #pragma once
 
 #include "VorBomSectionTarget.h"

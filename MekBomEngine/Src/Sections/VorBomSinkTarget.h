@@ -1,5 +1,5 @@
-// Hands the sections of a report to a host's sink: a header when its group opens, a footer when it closes, a line when it
-// is complete. Keeps no section but the one that the next line is compared with.
+// Hands the sections of a report to a host's sink: a header when its group opens, a footer when it closes, a line when
+// it is complete. Keeps no section but the one that the next line is compared with.
 #pragma once
 
 #include "VorBomSectionSink.h"

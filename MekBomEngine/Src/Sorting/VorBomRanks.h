@@ -1,11 +1,11 @@
-// Whole numbers that order the values of one column as comparing them does: equal values get one rank, a smaller value a
-// smaller rank. Rows sorted by ranks never look at their values again.
+// Whole numbers that order the values of one column as comparing them does: equal values get one rank, a smaller value
+// a smaller rank. Rows sorted by ranks never look at their values again.
 //
 //   values  "B10" "B2" none "B10", natural order   ->   ranks  2 1 0 2, three of them
 //
 // Not every column can be ranked. Comparing reports unlike kinds and answers -1 both ways; doubles closer than 1e-6 are
-// equal, so that a may equal b and b equal c, but not a equal c, and a NaN equals everything; and natural order knows no
-// numbers. For such columns there is no order but what comparisons make of it, and create() gives none.
+// equal, so that a may equal b and b equal c, but not a equal c, and a NaN equals everything; and natural order knows
+// no numbers. For such columns there is no order but what comparisons make of it, and create() gives none.
 #pragma once
 
 #include "VorBomDataToken.h"

@@ -1,3 +1,6 @@
+// Told on %Name, descending, and rows with B2, with B10 and without a name. The catalogue sorts %Name naturally:
+//   B2 and B10     B2 is less, and descending makes that 1: B10 stands first
+//   B2 and none    a datum is more than none, and descending makes that -1: the row without a name stands last
 #include "VorBomSortKeys.h"
 
 VorBomSortKeys::VorBomSortKeys(const VorStringArray& tokens, const VorArray<int>& orders)
@@ -13,8 +16,8 @@ int VorBomSortKeys::Key::compare(const VorBomDataTuple* pFirst, const VorBomData
     return isAscending ? order : -order;
 }
 
-// The sort type is asked for at the first comparison of two values: tokens that nobody knows are reported then, and only
-// then.
+// The sort type is asked for at the first comparison of two values: tokens that nobody knows are reported then, and
+// only then.
 int VorBomSortKeys::Key::compareValues(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
 {
     const bool bothHaveIt = pFirst != nullptr && pSecond != nullptr;

@@ -1,3 +1,10 @@
+// Two tables say what the seven sections hold, the constructor gives it to them, and linkInto() hangs them together.
+// Told on the inner group header, which is a section of both tables:
+//   kInstructions   "%GroupBy:Material" and "%SortDescBy:Weight", each with an empty text
+//   kColumns        "%Material" with 0
+//   its tuples      [%GroupBy:Material:][%SortDescBy:Weight:][%Material:0]
+//   linkInto        it becomes a child of the outer header; its footer, the next child, closes what it opens
+// Sections are made whether or not they are linked: the layout says later which of them belong to the report.
 #include "VorBomDefaultTemplate.h"
 
 namespace
@@ -51,6 +58,7 @@ VorBomDefaultTemplate::VorBomDefaultTemplate()
         (this->*column.section)->addData(VorBomDataTuple(column.token, 0));
 }
 
+// Of two children the first opens a level and the second closes it, so headers are hung before their footers.
 void VorBomDefaultTemplate::linkInto(VorBomTemplate& root, int layout) const
 {
     if (layout == kDetailsOnly)
@@ -66,6 +74,9 @@ void VorBomDefaultTemplate::linkInto(VorBomTemplate& root, int layout) const
     m_pInnerHeader->addChild(m_pDetails);
 }
 
+// A total is shown in the unit of what it sums, so the last entry changes no text of a report; it is for callers who
+// ask the units for that very token. The first two keep their tokens from getting a unit later: the first registration
+// wins.
 void VorBomDefaultTemplate::registerUnitsWith(VorBomTemplateUnits& units)
 {
     units.AddTokenType(L"%PosNum", VorBomTemplateUnits::kNoUnit);

@@ -45,6 +45,7 @@ void VorBomTokenTrace::sort()
     std::stable_sort(m_tokens.begin(), m_tokens.end(), VorStringLessNoCase());
 }
 
+// The list keeps the order in which tokens were found, the set tells whether they were.
 bool VorBomTokenTrace::addIfNew(const VorString& token)
 {
     if (!m_known.insert(token).second)

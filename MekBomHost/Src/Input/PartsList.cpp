@@ -81,15 +81,14 @@ void PartsList::setInputUnit(const std::string& token, const std::string& unit)
     pColumn->unitIsFromUser = true;
 }
 
-// All that a cell needs to know of the template is settled here, once for each column; CellReader asks no template. The
-// filter's tokens are wanted, too: it looks at the rows, and would take a datum that was not kept for one that is not
-// there.
-void PartsList::readRows(VorBomTemplate& reportTemplate, const QueryFilter& filter)
+// All that a cell needs to know of the template is settled here, once for each column; CellReader asks no template.
+void PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
 {
     for (InputColumn& column : m_columns)
     {
         resolveColumn(column, *reportTemplate.getBomTemplateUnits());
-        column.isWanted = reportTemplate.isTokenRequired(column.tupleToken) || filter.names(column.tupleToken);
+        column.isWanted = reportTemplate.isTokenRequired(column.tupleToken) ||
+                          std::find(otherTokens.begin(), otherTokens.end(), column.tupleToken) != otherTokens.end();
     }
     CellReader cells(m_columns, m_source, *reportTemplate.getBomData());
     cells.reserveTuples(numFormulas(reportTemplate));

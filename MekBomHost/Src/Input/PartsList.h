@@ -4,7 +4,7 @@
 //   CsvReader records(file);
 //   PartsList parts(records);              // reads the header row
 //   parts.setInputUnit("%Paint", "m2");
-//   parts.readRows(*pTemplate, filter);    // into the template's data
+//   parts.readRows(*pTemplate);            // into the template's data
 //
 // The catalogue of tokens decides what type a column has; a column it does not know has the type of its content
 // (UntypedCells). A cell of lengths, weights and other quantities may carry a unit of its own, as in "7'-6 1/2\"" and
@@ -13,7 +13,6 @@
 
 #include "FindingList.h"
 #include "InputColumn.h"
-#include "QueryFilter.h"
 #include "RecordSource.h"
 
 #include "VorBomTemplate.h"
@@ -42,8 +41,8 @@ public:
     void setInputUnit(const std::string& token, const std::string& unit);
 
     // Appends one row for each record to the template's data. Rows carry the data that the template asks for, whose
-    // tokens must have been found already, and those that `filter` names. To be called once.
-    void readRows(VorBomTemplate& reportTemplate, const QueryFilter& filter);
+    // tokens must have been found already, and those of `otherTokens`. To be called once.
+    void readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens = {});
 
 private:
     void readHeader();

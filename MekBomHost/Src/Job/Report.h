@@ -1,7 +1,7 @@
 // One report, from a template and rows of data to the lines that writers read.
 //
 //   Report report(TemplateReader::read(name, text), VorUnitsManager::metric());
-//   parts.readRows(report.engineTemplate(), report.queryFilter());
+//   parts.readRows(report.engineTemplate(), report.filterTokens());
 //   report.evaluate();
 //   ReportFormats::createWriter(ReportFormats::kText)->write(report.evaluated(), sink);
 //
@@ -11,13 +11,18 @@
 
 #include "DisplaySettings.h"
 #include "EvaluatedReport.h"
+#include "FilteredRows.h"
 #include "LineContents.h"
 #include "PackedSections.h"
 #include "ReportTemplate.h"
+#include "RowFilter.h"
 
 #include "VorBomTemplate.h"
 
+#include "MekRoots/Exp/VorString.h"
 #include "MekRoots/Exp/VorUnitsManager.h"
+
+#include <vector>
 
 namespace mekbom
 {
@@ -29,22 +34,40 @@ public:
     Report(ReportTemplate reportTemplate, const VorUnitsManager& units,
            const DisplaySettings& settings = DisplaySettings(), LineContents contents = LineContents());
 
+    // Leaves rows out beside those that the template leaves out. To be called before the rows are read.
+    void addFilter(const RowFilter& filter) { m_where = filter; }
+
     // The template whose data the rows go to.
     VorBomTemplate& engineTemplate() { return *m_template.pTemplate; }
-    const QueryFilter& queryFilter() const { return m_template.queryFilter; }
+    const ReportTemplate& reportTemplate() const { return m_template; }
 
-    // Leaves out the rows that the template is not about, then evaluates. To be called once.
+    // The tokens that rows are left out by, which rows must be read with: a datum that was not kept would be taken for
+    // one that is not there.
+    std::vector<VorString> filterTokens() const;
+
+    // Throws what is wrong with a filter, with its place: the template's, or else the one added.
+    [[noreturn]] void failInFilter(Finding finding, bool isFromTemplate) const;
+
+    // Leaves out the rows that the list is not about. Throws a Fault for a filter that compares a datum with what it
+    // cannot be compared with.
+    void filter();
+
+    // Filters, then evaluates. To be called once.
     void evaluate();
 
     // How many rows had a line equal to the one before it, were merged into that and count in no total.
     int numMergedRows() const { return m_sections.numMergedRows(); }
 
     // The evaluated report, which looks at this object and must not outlive it.
-    EvaluatedReport evaluated() const { return EvaluatedReport(m_template, m_units, m_sections); }
+    EvaluatedReport evaluated() const { return EvaluatedReport(m_template, m_units, m_sections, m_filtered); }
 
 private:
+    void apply(RowFilter& filter, bool isFromTemplate);
+
     VorUnitsManager m_units; // that numbers are shown in
     ReportTemplate m_template;
-    PackedSections m_sections; // of the evaluated report
+    RowFilter m_where;
+    std::vector<FilteredRows> m_filtered; // of the filters that say anything
+    PackedSections m_sections;            // of the evaluated report
 };
 }

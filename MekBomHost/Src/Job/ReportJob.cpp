@@ -17,12 +17,15 @@
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "Guard.h"
+#include "InQuotes.h"
 #include "NamedText.h"
 #include "TemplateChoice.h"
 #include "TemplateReader.h"
 #include "UnitChoice.h"
+#include "Utf8.h"
 
 #include "VorBomData.h"
+#include "VorBomTokenCatalogue.h"
 
 #include <utility>
 #include <vector>
@@ -76,6 +79,7 @@ ExitStatus ReportJob::makeReport()
         m_findings.add(finding);
     const DisplaySettings settings = settingsOf(m_request, m_findings);
     m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
+    addFilter();
     readRows();
     m_pReport->evaluate();
     noteMergedRows();
@@ -133,7 +137,26 @@ void ReportJob::readRows()
     if (m_pParts == nullptr)
         return takeSampleRows();
     noteMissingColumns();
-    m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->queryFilter());
+    checkFilterTokens();
+    m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->filterTokens());
+}
+
+void ReportJob::addFilter()
+{
+    RowFilter filter;
+    if (auto finding = RowFilter::parse(m_request.where, filter))
+        m_pReport->failInFilter(*finding, false);
+    m_pReport->addFilter(filter);
+}
+
+// A misspelled token would leave out every row, or none.
+void ReportJob::checkFilterTokens() const
+{
+    for (const VorString& token : m_pReport->filterTokens())
+        if (VorBomTokenCatalogue::find(token) == nullptr && m_pParts->find(Utf8::toBytes(token)) == nullptr)
+            m_pReport->failInFilter(Finding::of(FindingCodes::kNoQueryFilter, inQuotes(Utf8::toBytes(token)),
+                                                "a token of the catalogue or a column of " + m_pRecords->name()),
+                                    m_pReport->reportTemplate().queryFilter.names(token));
 }
 
 // The rows change hands: the sample has to let go of them, or both would delete them.

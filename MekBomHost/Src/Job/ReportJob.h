@@ -44,7 +44,9 @@ private:
     ReportTemplate readTemplate();
     ReportTemplate readSuitableTemplate();
     ReportTemplate readColumnsTemplate();
+    void addFilter();
     void readRows();
+    void checkFilterTokens() const;
     void takeSampleRows();
     void noteMissingColumns();
     void noteMergedRows();

@@ -11,6 +11,7 @@
 //           sink.write(text.view());
 #pragma once
 
+#include "FilteredRows.h"
 #include "PackedSections.h"
 #include "ReportColumn.h"
 #include "ReportLayout.h"
@@ -20,6 +21,7 @@
 #include "MekRoots/Exp/VorUnitsManager.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace mekbom
@@ -29,13 +31,20 @@ class EvaluatedReport
 public:
     // `sections` took the evaluation of `reportTemplate`, whose numbers were shown in `units`. The report owns none of
     // the three; template and sections must outlive it.
-    EvaluatedReport(const ReportTemplate& reportTemplate, const VorUnitsManager& units, const PackedSections& sections)
-        : m_title(reportTemplate.title), m_layout(reportTemplate, units), m_sections(sections)
+    EvaluatedReport(const ReportTemplate& reportTemplate, const VorUnitsManager& units, const PackedSections& sections,
+                    std::vector<FilteredRows> filtered = {})
+        : m_title(reportTemplate.title),
+          m_layout(reportTemplate, units),
+          m_sections(sections),
+          m_filtered(std::move(filtered))
     {
     }
 
     // In UTF-8; empty without one.
     const std::string& title() const { return m_title; }
+
+    // What was left out of the list, by each filter that there is.
+    const std::vector<FilteredRows>& filteredRows() const { return m_filtered; }
 
     const std::vector<ReportColumn>& columns() const { return m_layout.columns(); }
 
@@ -56,5 +65,6 @@ private:
     const std::string& m_title;
     ReportLayout m_layout;
     const PackedSections& m_sections;
+    std::vector<FilteredRows> m_filtered;
 };
 }

@@ -10,7 +10,7 @@
 #pragma once
 
 #include "Finding.h"
-#include "QueryFilter.h"
+#include "RowFilter.h"
 
 #include "VorBomTemplate.h"
 #include "VorBomTemplateItem.h"
@@ -94,8 +94,10 @@ enum eOwnToken
 struct ReportTemplate
 {
     std::unique_ptr<VorBomTemplate> pTemplate;
-    std::string title; // UTF-8
-    QueryFilter queryFilter;
+    std::string fileName;  // as messages call it; empty for the default template
+    std::string title;     // UTF-8
+    RowFilter queryFilter; // which rows the list is about
+    TemplatePlace queryFilterPlace;
     std::vector<ColumnStyle> columns; // in the order of the table; columns not named here follow
     eEqualLines equalLines = kEqualLinesOpen;
     std::map<std::string, std::string> allowed; // mistakes that the template excuses, by code, with the reason

@@ -71,7 +71,9 @@ void readChoice(JsonChecker& json, const JsonItem& object, const std::string& ke
 ReportTemplate TemplateReader::read(const std::string& name, std::string_view text)
 {
     const JsonNode root = JsonReader(name, text).read();
-    return TemplateReader(name).build(root);
+    ReportTemplate reportTemplate = TemplateReader(name).build(root);
+    reportTemplate.fileName = name;
+    return reportTemplate;
 }
 
 ReportTemplate TemplateReader::build(const JsonNode& root)
@@ -106,10 +108,13 @@ void TemplateReader::readQueryFilter(const JsonItem& root)
 {
     const std::string filter = m_json.textOf(root, "queryFilter");
     m_template.pTemplate->setQueryFilter(Utf8::toWide(filter));
-    if (QueryFilter::parse(filter, m_template.queryFilter) == 0)
-        m_json.add(
-            { *root.node.find("queryFilter"), "/queryFilter" },
-            Finding::of(FindingCodes::kNoQueryFilter, inQuotes(filter), "tokens such as \"%Weight, !%BoltName\""));
+    const std::optional<Finding> finding = RowFilter::parse(filter, m_template.queryFilter);
+    const JsonNode* const pFilter = root.node.find("queryFilter");
+    if (pFilter == nullptr)
+        return;
+    m_template.queryFilterPlace = { "/queryFilter", pFilter->span };
+    if (finding)
+        m_json.add({ *pFilter, "/queryFilter" }, *finding);
 }
 
 // The names stand in the order of the engine's enumerators, so the number of a choice is the type.
@@ -246,22 +251,25 @@ void TemplateReader::readTuple(const JsonItem& tuple, VorBomItemBase& sectionIte
 // Called only when all else is right: then each element of the array has its style at the same index.
 void TemplateReader::checkColumns(const JsonItem& root)
 {
+    const std::unordered_set<std::string> shown = shownColumns();
     const std::vector<JsonItem> columns = m_json.elementsOf(root, "columns");
     for (std::size_t i = 0; i < columns.size() && i < m_template.columns.size(); ++i)
-        if (!isShown(m_template.columns[i].token))
+    {
+        const std::string token = Utf8::toBytes(m_template.columns[i].token);
+        if (shown.count(token) == 0)
             m_json.add(columns[i], Finding::of(FindingCodes::kColumnNotShown,
-                                               "column " + inQuotes(Utf8::toBytes(m_template.columns[i].token)) +
-                                                   ", which no printed section shows"));
+                                               "column " + inQuotes(token) + ", which no printed section shows"));
+    }
 }
 
 // A column is shown by the tuples that columnTokenOf() gives it, not by those that have its token: "%Weight" may hold
 // nothing but totals.
-bool TemplateReader::isShown(const VorString& columnToken) const
+std::unordered_set<std::string> TemplateReader::shownColumns() const
 {
+    std::unordered_set<std::string> shown;
     for (const auto& [pSection, style] : m_template.sectionStyles)
         for (int i = 0; style.isPrinted && i < pSection->getData().length(); ++i)
-            if (m_template.columnTokenOf(*pSection, i) == columnToken)
-                return true;
-    return false;
+            shown.insert(Utf8::toBytes(m_template.columnTokenOf(*pSection, i)));
+    return shown;
 }
 }

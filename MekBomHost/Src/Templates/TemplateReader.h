@@ -18,6 +18,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace mekbom
@@ -45,7 +46,7 @@ private:
     void readTuple(const JsonItem& tuple, VorBomItemBase& sectionItem, SectionStyle& style);
     void noteUnused(const std::vector<JsonItem>& siblings);
     void checkColumns(const JsonItem& root);
-    bool isShown(const VorString& columnToken) const;
+    std::unordered_set<std::string> shownColumns() const;
 
     JsonChecker m_json;
     ReportTemplate m_template;

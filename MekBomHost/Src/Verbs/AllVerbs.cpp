@@ -1,6 +1,7 @@
 #include "AllVerbs.h"
 
 #include "DemoVerb.h"
+#include "FormulaVerb.h"
 #include "HelpVerb.h"
 #include "NewListVerb.h"
 #include "ReportVerb.h"
@@ -18,6 +19,7 @@ VerbList allVerbs()
     verbs.add(std::make_unique<DemoVerb>());
     verbs.add(std::make_unique<NewListVerb>());
     verbs.add(std::make_unique<TokensVerb>());
+    verbs.add(std::make_unique<FormulaVerb>());
     verbs.add(std::make_unique<UnitsVerb>());
     verbs.add(std::make_unique<HelpVerb>());
     return verbs;

@@ -50,7 +50,7 @@ char letterOf(VorBomDataValue::eBomDataValueType type)
 std::string rowsOf(PartsList& parts)
 {
     const ReportTemplate shown = templateShowing(tokensOf(parts));
-    parts.readRows(*shown.pTemplate, QueryFilter());
+    parts.readRows(*shown.pTemplate);
     std::string rows;
     for (VorBomItemBase* pRow = shown.pTemplate->getBomData()->child(); pRow != nullptr; pRow = pRow->next())
     {
@@ -113,23 +113,21 @@ TEST(PartsListTest, RowsWithoutHandleColumnAreNumberedForATemplateThatAsks)
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Weight", "%Handle" });
 
-    parts.readRows(*shown.pTemplate, QueryFilter());
+    parts.readRows(*shown.pTemplate);
 
     const auto* const pSecond = static_cast<VorBomDataRow*>(shown.pTemplate->getBomData()->child()->next());
     EXPECT_EQ(VorString(L"2"), pSecond->objectHandle());
     EXPECT_EQ(VorString(L"2"), pSecond->getTupleAt(L"%Handle")->value().asString());
 }
 
-TEST(PartsListTest, OnlyWhatTheTemplateOrTheFilterAsksForIsKept)
+TEST(PartsListTest, OnlyWhatTheTemplateOrTheCallerAsksForIsKept)
 {
     MemorySource source("parts.csv", "%Name,%Weight,%BoltName,Extra\nHEA200,5,M16,x\n");
     CsvReader records(source);
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%SumBy:%Weight" });
-    QueryFilter filter;
-    QueryFilter::parse("!%BoltName", filter);
 
-    parts.readRows(*shown.pTemplate, filter);
+    parts.readRows(*shown.pTemplate, { L"%BoltName" });
 
     VorBomItemBase* const pRow = shown.pTemplate->getBomData()->child();
     ASSERT_EQ(2, pRow->getData().length());
@@ -143,7 +141,7 @@ TEST(PartsListTest, TokensAndEqualTextsAreShared)
     CsvReader records(source);
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Name", "%Extra" });
-    parts.readRows(*shown.pTemplate, QueryFilter());
+    parts.readRows(*shown.pTemplate);
     const VorBomItemBase* const pFirst = shown.pTemplate->getBomData()->child();
 
     for (int i = 0; i < 2; ++i)
@@ -170,7 +168,7 @@ TEST(PartsListTest, UnitsOfTheUserConvert)
     parts.setInputUnit("%Paint", "m2");
     const ReportTemplate shown = templateShowing({ "%Paint" });
 
-    parts.readRows(*shown.pTemplate, QueryFilter());
+    parts.readRows(*shown.pTemplate);
 
     EXPECT_EQ(VorString(L"2.5e+06"), shown.pTemplate->getBomData()->child()->getData()[0].value().asString());
 }
@@ -245,7 +243,7 @@ TEST(PartsListTest, UnitsOfTheUserAreTheUsersToMend)
     EXPECT_EQ("", faultWith("%Length", "mm"));
     EXPECT_EQ("", faultWith("%Paint", "kg"));
     EXPECT_EQ("2 --input-unit %Paint=kg: found unit \"kg\", expected a unit of area such as mm2, m2 or ft2\n",
-              faultOf([&parts] { parts.readRows(*templateShowing({ "%Paint" }).pTemplate, QueryFilter()); }));
+              faultOf([&parts] { parts.readRows(*templateShowing({ "%Paint" }).pTemplate); }));
 }
 
 TEST(PartsListTest, CellsThatAreNoNumbersAreNamedWithTheirPlace)
@@ -303,7 +301,7 @@ TEST(PartsListTest, CellsAreCheckedEvenIfNobodyWantsThem)
     const ReportTemplate shown = templateShowing({ "%Name" });
 
     EXPECT_EQ("3 parts.csv:2: column \"%Weight\": found \"abc\", expected a number\n",
-              faultOf([&] { parts.readRows(*shown.pTemplate, QueryFilter()); }));
+              faultOf([&] { parts.readRows(*shown.pTemplate); }));
 }
 
 // What a format with numbers of its own hands over.

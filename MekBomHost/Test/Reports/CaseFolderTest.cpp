@@ -106,7 +106,7 @@ std::unique_ptr<Report> readReport(const fs::path& folder)
     PartsList parts(records);
     for (const auto& [token, unit] : options.inputUnits)
         parts.setInputUnit(token, unit);
-    parts.readRows(pReport->engineTemplate(), pReport->queryFilter());
+    parts.readRows(pReport->engineTemplate(), pReport->filterTokens());
     return pReport;
 }
 

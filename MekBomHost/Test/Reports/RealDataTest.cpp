@@ -58,7 +58,7 @@ protected:
         CsvReader records(file);
         PartsList parts(records);
         parts.setInputUnit("%Paint", "m2");
-        parts.readRows(pReport->engineTemplate(), pReport->queryFilter());
+        parts.readRows(pReport->engineTemplate(), pReport->filterTokens());
         return pReport;
     }
 
@@ -199,7 +199,7 @@ TEST_F(RealDataTest, TheOtherFilesAreRead)
             pDetails->addData(VorBomDataTuple(column.tupleToken, VorString()));
         all.pTemplate->findUsedTokens();
 
-        EXPECT_EQ("", faultOf([&] { parts.readRows(*all.pTemplate, QueryFilter()); })) << name;
+        EXPECT_EQ("", faultOf([&] { parts.readRows(*all.pTemplate); })) << name;
         EXPECT_NE(nullptr, all.pTemplate->getBomData()->child());
     }
 }

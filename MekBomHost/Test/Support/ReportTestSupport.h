@@ -23,7 +23,7 @@ inline std::unique_ptr<Report> reportOf(const std::string& templateText, const s
     auto pReport = std::make_unique<Report>(TemplateReader::read("list.json", templateText), units);
     MemorySource source("parts.csv", partsText);
     CsvReader records(source);
-    PartsList(records).readRows(pReport->engineTemplate(), pReport->queryFilter());
+    PartsList(records).readRows(pReport->engineTemplate(), pReport->filterTokens());
     return pReport;
 }
 
@@ -37,7 +37,7 @@ inline std::unique_ptr<Report> evaluatedReport(const std::string& templateText, 
 // The evaluated sections as VorBomItemBase::list writes them, in UTF-8, of a report that has not been evaluated yet.
 inline std::string listOf(Report& report)
 {
-    report.queryFilter().apply(*report.engineTemplate().getBomData());
+    report.filter();
     VorBomTemplate result;
     VorBomEvaluator2::evaluate(&report.engineTemplate(), &result);
     VorString text;

@@ -199,7 +199,8 @@ TEST(TemplateReaderTest, UnknownNamesAreNamedWithTheKnownOnes)
               faultInRoot("\"columns\": [ { \"token\":\"%Name\",\"align\":\"centre\" } ]"));
     EXPECT_EQ("3 list.json:1:42: /columns/0/width: found the number 0, expected one from 1 to 200\n",
               faultInRoot("\"columns\": [ { \"token\":\"%Name\",\"width\":0 } ]"));
-    EXPECT_EQ("3 list.json:1:18: /queryFilter: found \"BoltName\", expected tokens such as \"%Weight, !%BoltName\"\n",
+    EXPECT_EQ("3 list.json:1:18: /queryFilter: found \"BoltName\", expected a condition such as "
+              "%BoltName, !%BoltName, %Material = 'S355' or %Length > 6 m\n",
               faultInRoot("\"queryFilter\": \"BoltName\""));
 }
 

@@ -271,6 +271,7 @@ int VorNumberText::writeGeneral(double value, wchar_t* out)
     return copyWide(narrow, result.ptr, out);
 }
 
+// All digits of the number, as printf has them: 0.1 to twenty decimals is 0.10000000000000000555.
 int VorNumberText::writeFixed(double value, int decimals, wchar_t* out)
 {
     char narrow[fixedRoom(kMostDecimals)];
@@ -294,6 +295,7 @@ double VorNumberText::scanDouble(const wchar_t* text, const wchar_t*& end, int d
     return std::copysign(value, isNegative ? -1.0 : 1.0);
 }
 
+// Three answers, as swscanf has three: of " " nothing is left to read, "x" is no number, and " 2x" is 2.
 VorNumberText::eScanResult VorNumberText::scanFloat(const wchar_t* text, const wchar_t* textEnd, float& value)
 {
     Reader reader(text, textEnd);

@@ -172,6 +172,7 @@ void VorString::removeAll(wchar_t character)
     *this = std::move(kept);
 }
 
+// " 12abc" is 12, "abc" is 0, and "9999999999" is 2147483647.
 int VorString::toInteger() const
 {
     const wchar_t* pCharacter = getStringW();
@@ -189,6 +190,7 @@ int VorString::toInteger() const
     return static_cast<int>(isNegative ? std::max(-value, kSmallest) : std::min(value, kLargest));
 }
 
+// What stands behind the number is of no matter here, so where it ends is not asked.
 double VorString::toDouble(const wchar_t* text, int flag)
 {
     const wchar_t* pEnd = nullptr;
@@ -278,6 +280,7 @@ int VorString::compare(const VorString& a, const VorString& b)
     return compareCharacters(a.getStringW(), a.length(), b.getStringW(), b.length());
 }
 
+// "%SumBy:%Weight" and "%SumBy:" are equal over 7 characters: so it is found whether a text begins with another.
 int VorString::compare(const VorString& a, const VorString& b, int n)
 {
     if (n < 1)
@@ -321,6 +324,7 @@ int VorString::compareWithNumbers(const VorString& a, const VorString& b)
     return compare(a, b); // "B02" and "B2" tie so far
 }
 
+// "%name" and "%NAME" are equal here, and neither is changed: characters are folded while they are compared.
 int VorString::strCompareNoCase(const void* pFirst, const void* pSecond)
 {
     const VorString& first = *static_cast<const VorString*>(pFirst);
@@ -335,7 +339,7 @@ int VorString::strCompareNoCase(const void* pFirst, const void* pSecond)
 }
 
 // Every round passes over a run of delimiters and takes what stands before the next one. A run at the end of the text
-// leaves an empty piece, which is dropped.
+// leaves an empty piece, which is dropped. Of ",a,,b," with "," come "a" and "b".
 void VorString::getTokens(const VorString& text, VorStringArray& pieces, const VorString& delimiters)
 {
     // Copies, since both may be elements of `pieces`. NOLINTBEGIN(performance-unnecessary-copy-initialization)

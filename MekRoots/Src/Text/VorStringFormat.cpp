@@ -108,6 +108,7 @@ public:
     }
 
 private:
+    // Sets the flag that stands here, and answers with it that there was one.
     bool readFlag(Directive& directive) const
     {
         switch (*m_pText)
@@ -121,6 +122,7 @@ private:
         }
     }
 
+    // Digits, or a '*' for an argument; 0 when there is neither.
     void readWidth(Directive& directive)
     {
         directive.width = readNumber();
@@ -139,6 +141,7 @@ private:
         directive.precision = std::max(readNumber(), -1);
     }
 
+    // Digits go on being read past the largest width, as they belong to the directive, but count no more.
     int readNumber()
     {
         if (*m_pText == L'*')
@@ -152,6 +155,7 @@ private:
         return number;
     }
 
+    // An 'h' makes it a short, and a second one a char; an 'l' makes it a long, and a second one a long long.
     void readSize(Directive& directive)
     {
         for (;; ++m_pText)
@@ -213,7 +217,8 @@ void makeUpperCase(std::string& text)
             c = static_cast<char>(c - 'a' + 'A');
 }
 
-// The digits of an integer, at least `precision` of them; none at all for 0 with precision 0.
+// The digits of an integer, at least `precision` of them: 5 with precision 3 is "005". For 0 with precision 0
+// there are none.
 std::string integerDigits(unsigned long long value, int base, int precision)
 {
     char buffer[64]; // enough for base 2
@@ -319,6 +324,7 @@ void appendText(VorString& out, const Directive& directive, const wchar_t* text)
     appendPadded(out, directive, pFirst, length);
 }
 
+// "%n", which would write to an address among the arguments, is among those that nobody knows.
 // False when the conversion is unknown; nothing is appended then.
 bool appendConverted(VorString& out, const Directive& directive, Arguments& arguments)
 {

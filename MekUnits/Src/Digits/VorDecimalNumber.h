@@ -21,7 +21,8 @@ public:
     // The shortest decimal text that identifies the size of `value`, which must be finite.
     explicit VorDecimalNumber(double value);
 
-    // Exact. At most VorUnitDefinition::kLargestFactor, once on a fresh number.
+    // Exact. The factor is at most VorUnitDefinition::kLargestFactor. A number has room for one such product, so it is
+    // multiplied once, and before anything else.
     void multiply(std::uint64_t factor);
 
     // Exact, or cut off after kQuotientDigits digits, far more than tell two doubles apart. The divisor is at most

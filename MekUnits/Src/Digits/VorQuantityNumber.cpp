@@ -1,3 +1,7 @@
+// The number is taken apart and kept as text. Told on three numbers, up to the blank or letter behind them:
+//   "6 1/2 in"    no fraction at the front, as no slash follows the 6; whole "6", then the fraction 1/2
+//   "1/2 in"      a fraction at once: whole "0", numerator 1, denominator 2
+//   "7.5e3mm"     whole "7", and the rest ".5e3" for the general scan of numbers
 #include "VorQuantityNumber.h"
 
 #include "MekRoots/Exp/VorCharacters.h"

@@ -1,3 +1,8 @@
+// Digits are made from the last to the first, as a remainder by ten gives them. Told on 7 feet 6 8/16 inches:
+//   addInteger(7), addCharacter(')     7'
+//   addInteger(6), addCharacter( )     7'6 and a blank
+//   addFraction(8, 16)                 7'6 1/2: eight is their greatest common divisor
+// Nothing is checked against the room, which is enough for the longest quantity that VorUnitTransform puts together.
 #include "VorQuantityText.h"
 
 #include "MekRoots/Exp/VorCharacters.h"
@@ -65,6 +70,7 @@ void VorQuantityText::addInteger(std::uint64_t number)
     writeDigits(number, numDigits, m_text + m_nLength);
 }
 
+// 50 of hundred parts is ".50", or ".5" without last zeros; 5 of hundred is ".05", and 0 without last zeros is nothing.
 void VorQuantityText::addDecimals(std::uint64_t part, int numDecimals, int suppressLastZeros)
 {
     if (suppressLastZeros != 0)

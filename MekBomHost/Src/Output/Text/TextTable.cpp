@@ -50,11 +50,15 @@ void TextTable::write()
     m_sink.finish();
 }
 
+// A list that leaves rows out says so where a reader begins.
 void TextTable::writeTitle()
 {
-    if (m_report.title().empty())
+    std::string head = m_report.title();
+    for (const FilteredRows& filtered : m_report.filteredRows())
+        head += (head.empty() ? "" : "\n") + ("Rows where " + filtered.condition);
+    if (head.empty())
         return;
-    for (const std::string& line : WordWrap::wrap(m_report.title() + "\n", 0))
+    for (const std::string& line : WordWrap::wrap(head + "\n", 0))
         m_text += line + "\n";
 }
 
