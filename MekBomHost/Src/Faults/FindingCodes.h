@@ -4,9 +4,8 @@
 //   FindingCodes::kCellIsNoNumber.name       ->  "MB710"
 //   FindingCodes::find("MB710")->sentence    ->  "A cell of a column of numbers or quantities holds none."
 //
-// MB7xx are about parts lists, MB8xx about template files, MB9xx about options, settings, units, and files as such.
-// MB1xx to MB6xx, the mistakes of those who
-// write lists, are MistakeCodes.
+// MB7xx are about parts lists, MB8xx about template files, MB9xx about options, settings, units, and files as
+// such. MB1xx to MB6xx, the mistakes of those who write lists, are MistakeCodes.
 #pragma once
 
 #include "Finding.h"
@@ -61,6 +60,17 @@ inline constexpr FindingCode kNoSuitableTemplate = {
     "MB718", kNote, "The columns suit none of the lists there are to choose, and are printed as they are."
 };
 inline constexpr FindingCode kListChosen = { "MB719", kNote, "A list was chosen because it suits the columns." };
+inline constexpr FindingCode kUnitLacking = { "MB720", kError,
+                                              "A column of areas or the like has numbers, and nobody says in which "
+                                              "unit." };
+inline constexpr FindingCode kTotalOfNoPieces = { "MB721", kError,
+                                                  "A row of no pieces has a value that is one of all its pieces." };
+inline constexpr FindingCode kRowTotalOfMissingColumn = {
+    "MB722", kError, "Row totals are announced for a column that the parts list has not."
+};
+inline constexpr FindingCode kRowTotalOfNoNumber = { "MB723", kError,
+                                                     "Row totals are announced for a column of texts or of whole "
+                                                     "numbers." };
 
 // Template files.
 inline constexpr FindingCode kNoJson = { "MB801", kError, "A template file is no JSON with comments." };
@@ -80,6 +90,8 @@ inline constexpr FindingCode kSectionNotEvaluated = { "MB813", kNote,
                                                       "A section stands behind the header and footer of its level." };
 inline constexpr FindingCode kChildrenNotEvaluated = { "MB814", kNote, "A footer has sections below it." };
 inline constexpr FindingCode kNestedTooDeep = { "MB815", kError, "Values stand within each other too deep." };
+inline constexpr FindingCode kColumnHasNoSuch = { "MB816", kError,
+                                                  "A column says of its numbers what they do not have." };
 
 // Options, settings, units, and files as such.
 inline constexpr FindingCode kFileUnreadable = { "MB901", kError, "A file cannot be read." };

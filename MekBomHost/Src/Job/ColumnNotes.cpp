@@ -60,11 +60,14 @@ std::vector<std::pair<const InputColumn*, std::string>> meant(const PartsList& p
 }
 }
 
+// A list may do without some of its data; but a file whose pieces are called "Qty" must not be counted wrong without a
+// word.
 Finding missing(const PartsList& parts, const std::string& source, const std::vector<std::string>& tokens)
 {
-    Finding finding =
-        Finding::saying(FindingCodes::kColumnMissing,
-                        source + " has no column for " + joined(tokens, ", ") + ", which the template asks for");
+    std::string text = source + " has no column for " + joined(tokens, ", ") + ", which the template asks for";
+    if (std::find(tokens.begin(), tokens.end(), PartsList::kPiecesToken) != tokens.end())
+        text += "; each row counts as one piece";
+    Finding finding = Finding::saying(FindingCodes::kColumnMissing, text);
     finding.source = source;
     std::vector<std::string> headings;
     for (const auto& [pColumn, token] : meant(parts, tokens))

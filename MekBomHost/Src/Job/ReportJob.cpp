@@ -25,8 +25,10 @@
 #include "Utf8.h"
 
 #include "VorBomData.h"
+#include "VorBomDataTuple.h"
 #include "VorBomTokenCatalogue.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -56,10 +58,11 @@ VorUnitsManager unitsOf(const ReportRequest& request)
     return UnitChoice::unitsOf(request.units, request.unitChoices);
 }
 
-[[noreturn]] void refuseInputUnits()
+// The sample rows have no columns that an option could be about.
+[[noreturn]] void refuseForSample(const std::string& option)
 {
     Finding finding = Finding::stating(FindingCodes::kOptionWithoutUse, "the sample data are no parts list");
-    finding.source = "--input-unit";
+    finding.source = option;
     throw Fault(kWrongUsage, finding);
 }
 }
@@ -79,6 +82,7 @@ ExitStatus ReportJob::makeReport()
         m_findings.add(finding);
     const DisplaySettings settings = settingsOf(m_request, m_findings);
     m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
+    refuseWrongNumbers();
     addFilter();
     readRows();
     m_pReport->evaluate();
@@ -91,13 +95,17 @@ void ReportJob::openParts()
     if (m_request.pParts == nullptr)
     {
         if (!m_request.inputUnits.empty())
-            refuseInputUnits();
+            refuseForSample("--input-unit");
+        if (!m_request.rowTotals.empty())
+            refuseForSample("--row-totals");
         return;
     }
     m_pRecords = std::make_unique<CsvReader>(*m_request.pParts);
     m_pParts = std::make_unique<PartsList>(*m_pRecords);
     for (const auto& [token, unit] : m_request.inputUnits)
         m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);
+    for (const std::string& token : m_request.rowTotals)
+        m_pParts->setRowTotal(ColumnHeading::tokenOf(token));
 }
 
 ReportTemplate ReportJob::readTemplate()
@@ -132,13 +140,31 @@ ReportTemplate ReportJob::readColumnsTemplate()
     return TemplateReader::read("list of " + m_pRecords->name(), ColumnsTemplate::textOf(m_pParts->columns()));
 }
 
+// Before rows are read: a template that is wrong is wrong for all of them.
+void ReportJob::refuseWrongNumbers()
+{
+    std::vector<Finding> errors = m_pReport->numberErrors();
+    const auto isAllowed = [this](const Finding& finding)
+    {
+        const std::vector<std::string>& codes = m_request.allowed;
+        return std::find(codes.begin(), codes.end(), finding.code) != codes.end() ||
+               m_pReport->reportTemplate().allowed.count(finding.code) > 0;
+    };
+    errors.erase(std::remove_if(errors.begin(), errors.end(), isAllowed), errors.end());
+    if (!errors.empty())
+        throw Fault(kInvalidInput, errors, errors.size());
+}
+
 void ReportJob::readRows()
 {
     if (m_pParts == nullptr)
         return takeSampleRows();
     noteMissingColumns();
     checkFilterTokens();
-    m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->filterTokens());
+    m_pParts->setOwnTokens(m_pReport->reportTemplate().ownTokens);
+    m_partsFacts = m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->filterTokens());
+    for (const Finding& finding : m_pParts->findings())
+        m_findings.add(finding);
 }
 
 void ReportJob::addFilter()
@@ -159,12 +185,20 @@ void ReportJob::checkFilterTokens() const
                                     m_pReport->reportTemplate().queryFilter.names(token));
 }
 
-// The rows change hands: the sample has to let go of them, or both would delete them.
+// The rows change hands: the sample has to let go of them, or both would delete them. Each is one piece, as a row of a
+// parts list is that does not say how many it stands for.
 void ReportJob::takeSampleRows()
 {
     const std::unique_ptr<VorBomData> pSample(VorBomData::createDefaultData());
-    m_pReport->engineTemplate().getBomData()->setChild(pSample->child());
+    VorBomTemplate& reportTemplate = m_pReport->engineTemplate();
+    reportTemplate.getBomData()->setChild(pSample->child());
     pSample->setChild(nullptr);
+    const VorString piecesToken = Utf8::toWide(PartsList::kPiecesToken);
+    if (!reportTemplate.isTokenRequired(piecesToken))
+        return;
+    for (VorBomItemBase* pRow = reportTemplate.getBomData()->child(); pRow != nullptr; pRow = pRow->next())
+        if (pRow->getTupleAt(piecesToken) == nullptr)
+            pRow->addData(VorBomDataTuple(piecesToken, 1));
 }
 
 void ReportJob::noteMissingColumns()

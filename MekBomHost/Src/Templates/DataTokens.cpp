@@ -28,4 +28,21 @@ bool isDatum(const VorString& token)
     return VorBomDataToken::isToken(token) == 1 && VorBomDataToken::isInvisibleToken(token) == 0 &&
            VorBomDataToken::isFormula(token) == 0 && token.find(VorBomDataToken::kSumPrefix, 0) != 0;
 }
+
+// sum := "%SumBy:" ( token | formula )
+std::set<std::string> computedWith(VorBomTemplate& reportTemplate)
+{
+    std::set<std::string> tokens;
+    for (const VorString& token : reportTemplate.getTokenTrace())
+    {
+        VorString operand = token;
+        const bool isSummed = VorBomDataToken(token).getSummingRequest(operand) == 1;
+        if (VorBomDataToken::removeFormulaPrefix(operand) == 1)
+            for (const VorString& inFormula : VorBomDataToken::getTokensFromFormula(operand))
+                tokens.insert(Utf8::toBytes(inFormula));
+        else if (isSummed)
+            tokens.insert(Utf8::toBytes(operand));
+    }
+    return tokens;
+}
 }

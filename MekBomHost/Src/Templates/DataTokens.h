@@ -9,6 +9,7 @@
 
 #include "VorBomTemplate.h"
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -22,4 +23,8 @@ std::vector<std::string> of(VorBomTemplate& reportTemplate);
 //   DataTokens::isDatum(L"%Weight")         ->  true
 //   DataTokens::isDatum(L"%SumBy:%Weight")  ->  false
 bool isDatum(const VorString& token);
+
+// Those of them that it sums or computes with, so that their values have to be numbers: above these are "%Weight" and
+// "%Length".
+std::set<std::string> computedWith(VorBomTemplate& reportTemplate);
 }

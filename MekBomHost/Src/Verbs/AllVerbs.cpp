@@ -18,6 +18,7 @@ VerbList allVerbs()
     verbs.add(std::make_unique<ReportVerb>());
     verbs.add(std::make_unique<DemoVerb>());
     verbs.add(std::make_unique<NewListVerb>());
+    verbs.add(std::make_unique<FormulaVerb>());
     verbs.add(std::make_unique<TokensVerb>());
     verbs.add(std::make_unique<FormulaVerb>());
     verbs.add(std::make_unique<UnitsVerb>());

@@ -76,10 +76,12 @@ bool isPlainWord(const std::string& text)
 
 const char* const ReportVerb::kNotes = R"(Data
   A parts list is comma-separated text in UTF-8. Its header row names tokens, with or
-  without the leading %, and may give a unit in brackets: Length [ft]. Numbers without a
-  unit are in mm, kg, rad and what follows from them (mm2, kg/mm ...). A cell may carry
-  a unit of its own: 7'-6 1/2", 7.5 ft. Empty cells are no data. Handle is the identity of
-  the object.
+  without the leading %, and may give a unit in brackets: Length [ft]. Lengths, weights
+  and angles without a unit are in mm, kg and rad; areas, densities and values per length
+  need one: Paint [m2], or --input-unit %Paint=m2. A cell may carry a unit of its own:
+  7'-6 1/2", 7.5 ft. Empty cells are no data. Handle is the identity of the object,
+  Quantity how many of them a row stands for (1 where it does not say). Other values are
+  those of one piece, or of all in the columns that --row-totals names.
 
 Template
   The shipped lists go by name: cutting-list, assembly-list, bolt-list, parts-list.
