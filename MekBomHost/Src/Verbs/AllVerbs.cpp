@@ -20,7 +20,6 @@ VerbList allVerbs()
     verbs.add(std::make_unique<NewListVerb>());
     verbs.add(std::make_unique<FormulaVerb>());
     verbs.add(std::make_unique<TokensVerb>());
-    verbs.add(std::make_unique<FormulaVerb>());
     verbs.add(std::make_unique<UnitsVerb>());
     verbs.add(std::make_unique<HelpVerb>());
     return verbs;

@@ -1,6 +1,6 @@
 #include "FormulaRules.h"
 
-#include "FormulaSupport.h"
+#include "Support/FormulaSupport.h"
 #include "MistakeCodes.h"
 
 #include <gtest/gtest.h>
