@@ -263,22 +263,25 @@ void TemplateReader::hide(const VorBomItemBase* pSection)
 // Called only when all else is right: then each element of the array has its style at the same index.
 void TemplateReader::checkColumns(const JsonItem& root)
 {
+    const std::unordered_set<std::string> shown = shownColumns();
     const std::vector<JsonItem> columns = m_json.elementsOf(root, "columns");
     for (std::size_t i = 0; i < columns.size() && i < m_template.columns.size(); ++i)
-        if (!isShown(m_template.columns[i].token))
+    {
+        const std::string token = Utf8::toBytes(m_template.columns[i].token);
+        if (shown.count(token) == 0)
             m_json.add(columns[i], Finding::of(FindingCodes::kColumnNotShown,
-                                               "column " + inQuotes(Utf8::toBytes(m_template.columns[i].token)) +
-                                                   ", which no printed section shows"));
+                                               "column " + inQuotes(token) + ", which no printed section shows"));
+    }
 }
 
 // A column is shown by the tuples that columnTokenOf() gives it, not by those that have its token: "%Weight" may hold
 // nothing but totals.
-bool TemplateReader::isShown(const VorString& columnToken) const
+std::unordered_set<std::string> TemplateReader::shownColumns() const
 {
+    std::unordered_set<std::string> shown;
     for (const auto& [pSection, style] : m_template.sectionStyles)
         for (int i = 0; style.isPrinted && i < pSection->getData().length(); ++i)
-            if (m_template.columnTokenOf(*pSection, i) == columnToken)
-                return true;
-    return false;
+            shown.insert(Utf8::toBytes(m_template.columnTokenOf(*pSection, i)));
+    return shown;
 }
 }

@@ -18,6 +18,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace mekbom
@@ -46,7 +47,7 @@ private:
     void summarize();
     void hide(const VorBomItemBase* pSection);
     void checkColumns(const JsonItem& root);
-    bool isShown(const VorString& columnToken) const;
+    std::unordered_set<std::string> shownColumns() const;
 
     JsonChecker m_json;
     ReportTemplate m_template;

@@ -397,9 +397,10 @@ TEST(ReportJobTest, MisspelledColumnsAreGuessed)
         return job.findings().all().empty() ? std::string() : messageOf(job.findings().all()[0]);
     };
 
-    EXPECT_EQ("parts.csv has no column for %Length, %Name, %Role, %Weight, which the template asks for; did you mean "
-              "%Length by \"length\", %Weight by \"Wieght [kg]\"?",
-              noteFor("MName,length,Wieght [kg],Remark\nA,1,2,x\n"));
+    EXPECT_EQ(
+        "parts.csv has no column for %Length, %Name, %Role, %Weight, which the template asks for: did you mean its "
+        "columns \"length\", \"Wieght [kg]\"?",
+        noteFor("MName,length,Wieght [kg],Remark\nA,1,2,x\n"));
     // Nearer to a column that is there, or to another token.
     EXPECT_EQ("parts.csv has no column for %Weight, which the template asks for",
               noteFor("Name,Length,Lenght,Role,Widht\nA,1,2,x,3\n"));
