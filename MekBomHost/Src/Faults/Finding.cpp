@@ -54,7 +54,7 @@ std::string mistakeMessageOf(const Finding& finding)
 {
     const std::string place = placeOf(finding);
     return (place.empty() ? "" : place + ": ") + nameOf(finding.severity) + " " + finding.code + ": " +
-           contentOf(finding) + (finding.remedy.empty() ? "" : "; help: " + finding.remedy);
+           (finding.field.empty() ? "" : "column " + inQuotes(finding.field) + ": ") + contentOf(finding) + (finding.remedy.empty() ? "" : "; help: " + finding.remedy);
 }
 }
 

@@ -285,7 +285,7 @@ void CellReader::addFinding(const FindingCode& code, std::size_t column, std::st
     Finding finding = Finding::of(code, inQuotes(text), expected);
     m_source.placeCell(column, finding);
     finding.field = m_columns[column].name;
-    finding.remedy = remedy;
+    finding.remedy = remedy.empty() && &code == &MistakeCodes::kNotANumber ? "leave the cell empty" : remedy;
     m_findings.add(std::move(finding));
 }
 

@@ -65,6 +65,13 @@ private:
     int m_numBits = 1;
 };
 
+Finding notUnique(const std::string& what)
+{
+    Finding finding = Finding::stating(MistakeCodes::kHandleNotUnique, what);
+    finding.remedy = "give each row a handle of its own, or no row any";
+    return finding;
+}
+
 std::string counted(std::size_t number, const char* singular, const char* plural)
 {
     return std::to_string(number) + (number == 1 ? singular : plural);
@@ -125,7 +132,7 @@ void HandleCheck::addRepeated(std::vector<Finding>& findings) const
                 std::to_string(all[i].firstRow + 1) + " and " + std::to_string(all[i].row + 1);
     if (all.size() > numNamed)
         text += ", and " + counted(all.size() - numNamed, " more row repeats one", " more rows repeat one");
-    findings.push_back(Finding::stating(MistakeCodes::kHandleNotUnique, text));
+    findings.push_back(notUnique(text));
 }
 
 void HandleCheck::addMissing(std::vector<Finding>& findings) const
@@ -144,6 +151,6 @@ void HandleCheck::addMissing(std::vector<Finding>& findings) const
     if (numMissing > 1)
         text += ", " + std::string(numMissing == 2 ? "nor has " : "nor have ") +
                 counted(numMissing - 1, " other row", " other rows");
-    findings.push_back(Finding::stating(MistakeCodes::kHandleNotUnique, text));
+    findings.push_back(notUnique(text));
 }
 }

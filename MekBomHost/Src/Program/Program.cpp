@@ -48,12 +48,18 @@ void printMessage(const std::string& message)
     std::fputs(("mekbom: " + message + "\n").c_str(), stderr);
 }
 
+// Of the template; a cell that breaks the kind of its column is one of perhaps a million.
+bool isMistakeInList(const Finding& finding)
+{
+    return MistakeCodes::has(finding.code) && finding.field.empty();
+}
+
 // What an author did wrong in a list is to be mended in one go, so all of it is printed, and whatever its severity: a
 // warning may tell why there is an error. Nothing stands in front of the place, which editors jump to.
 void printMistakes(const FindingList& findings)
 {
     for (const Finding& finding : findings.all())
-        if (MistakeCodes::has(finding.code))
+        if (isMistakeInList(finding))
             std::fputs((messageOf(finding) + "\n").c_str(), stderr);
 }
 
@@ -62,7 +68,7 @@ void printErrors(const FindingList& findings)
     std::size_t numShown = 0;
     std::size_t numMistakes = 0;
     for (const Finding& finding : findings.all())
-        if (finding.severity == Finding::kError && MistakeCodes::has(finding.code))
+        if (finding.severity == Finding::kError && isMistakeInList(finding))
             ++numMistakes;
         else if (finding.severity == Finding::kError && numShown < Program::kMostErrorsShown)
         {
@@ -80,7 +86,7 @@ void printFindings(const FindingList& findings)
     if (findings.numErrors() > 0)
         return printErrors(findings);
     for (const Finding& finding : findings.all())
-        if (!MistakeCodes::has(finding.code))
+        if (!isMistakeInList(finding))
             printMessage(nameOf(finding.severity) + std::string(": ") + messageOf(finding));
 }
 }

@@ -147,7 +147,7 @@ TEST(TemplateCheckTest, TokensAreLookedForWhereverTheyStand)
 {
     EXPECT_EQ("MB501", codesInFooter({ "%SumBy:%Wieght" }));
     EXPECT_EQ("MB501", codesInFooter({ "%SumBy:Weight" }));
-    EXPECT_EQ("MB501", codesInDetails({ "%PNum", "%Formula:%Weight*%Pirce" }));
+    EXPECT_EQ("MB421 MB501", codesInDetails({ "%PNum", "%Formula:%Weight*%Pirce" }));
     EXPECT_EQ("MB501", codesInDetails({ "%PNum", "%Sumby:%Weight" }));
     EXPECT_EQ("MB501", codesInDetails({ "%PNum", R"({ "token": "%Name", "column": "%Rloe" })" }));
     EXPECT_EQ("", codesIn(kByMaterial, { "%PNum", R"({ "token": "%Name", "column": "%Mine" })" }, kWeights,

@@ -185,8 +185,9 @@ TEST_F(CellReaderTest, AColumnThatMustBeNumbersRefusesOtherCells)
     EXPECT_EQ(VorBomDataValue::kDoubleData, m_facts.find("%Other")->type);
 
     for (const char* const text : { "n/a", "100,5", "NaN", "inf", "1e999", "-" })
-        EXPECT_EQ("3 parts.xyz:1: /3: column \"Other\": found \"" + std::string(text) +
-                      "\", expected a number: the list computes with %Other\n",
+        EXPECT_EQ("3 parts.xyz:1: error " + std::string(text == std::string("NaN") ? "MB604" : "MB601") +
+                      ": column \"Other\": found \"" + text +
+                      "\", expected a number; help: the list computes with %Other\n",
                   faultOf(
                       [this, text] {
                           read({ { RecordCell(), RecordCell(), RecordCell(), textCell(text) } });
@@ -249,8 +250,9 @@ TEST_F(CellReaderTest, HandlesThatComeAgainAreFound)
 
     ASSERT_EQ(2u, m_findings.size());
     EXPECT_EQ("MB606", m_findings[0].code);
-    EXPECT_EQ("parts.xyz: handle \"7\" stands in rows 2 and 4", messageOf(m_findings[0]));
-    EXPECT_EQ("parts.xyz: row 3 has no handle", messageOf(m_findings[1]));
+    EXPECT_EQ("handle \"7\" stands in rows 2 and 4", m_findings[0].statement);
+    EXPECT_EQ("row 3 has no handle", m_findings[1].statement);
+    EXPECT_EQ("parts.xyz", m_findings[1].source);
 }
 
 TEST_F(CellReaderTest, RowsAreNumberedOnRequest)

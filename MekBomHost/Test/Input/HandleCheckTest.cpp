@@ -16,7 +16,7 @@ std::string foundIn(const std::vector<std::string>& handles)
         check.add(handle);
     std::string text;
     for (const Finding& finding : check.findings())
-        text += finding.code + " " + messageOf(finding) + "\n";
+        text += finding.code + " " + finding.statement + "\n";
     return text;
 }
 }

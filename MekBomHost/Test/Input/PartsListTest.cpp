@@ -202,7 +202,7 @@ TEST(PartsListTest, CellsThatAreNoQuantitiesAreNamedWithTheirPlace)
               "3 parts.csv:4: column \"Length\": found \"1,234.5\", expected a number: digits are not grouped, and the "
               "decimal sign is a point\n"
               "3 parts.csv:5: column \"Length\": found \"7'-6\", expected a number: every number needs its mark\n"
-              "3 parts.csv:6: column \"Length\": found \"nan\", expected a number\n",
+              "3 parts.csv:6: error MB604: column \"Length\": found \"nan\", expected a number; help: leave the cell empty\n",
               faultIn("Length\n7.5 fot\n7.5 kg\n\"1,234.5\"\n7'-6\nnan\n"));
 }
 
@@ -364,7 +364,8 @@ TEST(PartsListTest, ColumnsThatTheListComputesWithMustBeNumbers)
     EXPECT_EQ("t", outcomeOf("%Price", "Price\n2\nn/a\n"));
     for (const char* const token : { "%SumBy:%Price", "%Formula:%Price*2", "%SumBy:%Formula:2*%Price" })
     {
-        EXPECT_EQ("3 parts.csv:3: column \"Price\": found \"n/a\", expected a number: the list computes with %Price\n",
+        EXPECT_EQ("3 parts.csv:3: error MB601: column \"Price\": found \"n/a\", expected a number; help: the list computes with "
+                  "%Price\n",
                   outcomeOf(token, "Price\n2\nn/a\n"));
         EXPECT_EQ("i", outcomeOf(token, "Price\n0012\n3\n"));
         EXPECT_EQ("d", outcomeOf(token, "Price\n2\n3000000000\n"));
@@ -391,7 +392,8 @@ TEST(PartsListTest, TheTemplateSaysWhatATokenOfItsOwnIs)
     EXPECT_EQ("t 1.10", outcomeOf(kOwnText, "Rev\n1.10\n"));
     EXPECT_EQ("d 100000", outcomeOf(kOwnNumber, "Rev\n1E5\n"));
     EXPECT_EQ(
-        "3 parts.csv:2: column \"Rev\": found \"A\", expected a number: the template says that %Rev is a number\n",
+        "3 parts.csv:2: error MB601: column \"Rev\": found \"A\", expected a number; help: the template says that %Rev "
+        "is a number\n",
         outcomeOf(kOwnNumber, "Rev\nA\n"));
     EXPECT_EQ("3 parts.csv:1: column \"Rev [mm]\": found unit \"mm\", expected none: %Rev is a text\n",
               outcomeOf(kOwnText, "Rev [mm]\n1\n"));
@@ -462,7 +464,7 @@ TEST(PartsListTest, RepeatedHandlesAreFoundAndStopNothing)
     parts.readRows(*templateShowing({ "%Name" }).pTemplate);
 
     ASSERT_EQ(1u, parts.findings().size());
-    EXPECT_EQ("parts.csv: handle \"2A0\" stands in rows 1 and 2", messageOf(parts.findings().front()));
+    EXPECT_EQ("handle \"2A0\" stands in rows 1 and 2", parts.findings().front().statement);
 }
 
 // What a format with numbers of its own hands over.

@@ -111,7 +111,7 @@ TEST(ReportJobTest, AFormulaWhoseResultNobodySaysIsAnErrorUnlessItIsAllowed)
 
     const std::string refused = outcomeOf(requestFor(kParts, details));
 
-    EXPECT_NE(std::string::npos, refused.find("list.json:2:42: /sections/0/tuples/1/token: \"%Length/1000\": "
+    EXPECT_NE(std::string::npos, refused.find("list.json:2:42: error MB421: \"%Length/1000\": "
                                               "the constant 1000 hides a unit of length"))
         << refused;
     EXPECT_NE(std::string::npos, refused.find("\"result\""));
@@ -278,8 +278,8 @@ TEST(ReportJobTest, TotalsThatWouldLoseRowsAreAnErrorThatOffersTheWays)
 
     EXPECT_EQ(kMistakes, job.run());
 
-    ASSERT_EQ(1u, job.findings().all().size());
-    const Finding& finding = job.findings().all()[0];
+    ASSERT_EQ(1u, job.findings().numErrors());
+    const Finding& finding = job.findings().all().back();
     EXPECT_EQ("MB307", finding.code);
     EXPECT_EQ(Finding::kError, finding.severity);
     EXPECT_EQ("list.json", finding.source);
@@ -300,7 +300,8 @@ TEST(ReportJobTest, WhoSaysWhatBecomesOfEqualLinesGetsIt)
         ReportJob job(totalling(list));
         EXPECT_EQ(kDone, job.run());
         const std::string table = tableOf(job);
-        return table.substr(withoutFoot(table).size() + 1);
+        const std::string foot = table.substr(withoutFoot(table).size() + 1);
+        return foot.substr(0, foot.find("Lengths and weights"));
     };
 
     EXPECT_EQ("3 rows read, 3 listed in 2 lines\n", footOf("\"equalLines\": \"count\","));
@@ -379,7 +380,7 @@ TEST(ReportJobTest, RowsWithoutPiecesAreOneAndAFileWithoutThemIsNoted)
 
     ASSERT_EQ(kDone, job.run());
 
-    ASSERT_EQ(1u, job.findings().all().size());
+    ASSERT_FALSE(job.findings().all().empty());
     EXPECT_EQ("parts.csv has no column for %Quantity, which the template asks for; each row counts as one piece",
               messageOf(job.findings().all()[0]));
     EXPECT_EQ(2, job.partsFacts().numRows);

@@ -95,7 +95,7 @@ TEST(MistakeTableTest, EveryFindingSaysWhatToWriteInstead)
             if (MistakeCodes::has(finding.code))
             {
                 EXPECT_FALSE(finding.remedy.empty()) << messageOf(finding);
-                EXPECT_GT(finding.begin.line, 0) << messageOf(finding);
+                EXPECT_TRUE(finding.begin.line > 0 || finding.source == "parts.csv") << messageOf(finding);
                 EXPECT_TRUE(finding.source == "list.json" || finding.source == "parts.csv") << messageOf(finding);
             }
 }
