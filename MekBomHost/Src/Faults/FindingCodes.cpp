@@ -57,6 +57,7 @@ const std::vector<FindingCode>& all()
         kSettingUnknown,
         kSettingIsNoNumber,
         kSettingUnused,
+        kNoSuchLine,
     };
     return codes;
 }

@@ -100,6 +100,7 @@ inline constexpr FindingCode kEntryMalformed = { "MB914", kError,
 inline constexpr FindingCode kSettingUnknown = { "MB915", kError, "A word names no setting." };
 inline constexpr FindingCode kSettingIsNoNumber = { "MB916", kError, "The value of a setting is no whole number." };
 inline constexpr FindingCode kSettingUnused = { "MB917", kNote, "A settings file sets what lists do not use." };
+inline constexpr FindingCode kNoSuchLine = { "MB925", kError, "A list has no line of that number." };
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();

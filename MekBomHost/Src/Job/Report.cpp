@@ -41,6 +41,8 @@ std::vector<VorString> Report::filterTokens() const
 // Filters come before the evaluation: no total may count a row that they leave out.
 void Report::evaluate()
 {
+    if (m_sections.contents().rows)
+        m_rowNumbers = RowNumbers(*engineTemplate().getBomData());
     filter();
     VorBomEvaluator2::evaluate(&engineTemplate(), m_sections);
 }

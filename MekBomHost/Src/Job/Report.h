@@ -15,6 +15,7 @@
 #include "LineContents.h"
 #include "PackedSections.h"
 #include "ReportTemplate.h"
+#include "RowNumbers.h"
 #include "RowFilter.h"
 
 #include "VorBomTemplate.h"
@@ -40,6 +41,12 @@ public:
     // The template whose data the rows go to.
     VorBomTemplate& engineTemplate() { return *m_template.pTemplate; }
     const ReportTemplate& reportTemplate() const { return m_template; }
+
+    // That numbers are shown in.
+    const VorUnitsManager& units() const { return m_units; }
+
+    // Of all rows that were read, once they were evaluated; of none unless lines keep their rows.
+    const RowNumbers& rowNumbers() const { return m_rowNumbers; }
 
     // The tokens that rows are left out by, which rows must be read with: a datum that was not kept would be taken for
     // one that is not there.
@@ -68,6 +75,7 @@ private:
     ReportTemplate m_template;
     RowFilter m_where;
     std::vector<FilteredRows> m_filtered; // of the filters that say anything
+    RowNumbers m_rowNumbers;
     PackedSections m_sections;            // of the evaluated report
 };
 }

@@ -2,6 +2,7 @@
 // within verbs too, and what a verb throws does not pass through the parser.
 #include "VerbList.h"
 
+#include "ExplainVerb.h"
 #include "ReportVerb.h"
 #include "UnitsVerb.h"
 
@@ -19,6 +20,7 @@ VerbList allVerbs()
 {
     VerbList verbs;
     verbs.add(std::make_unique<ReportVerb>());
+    verbs.add(std::make_unique<ExplainVerb>());
     verbs.add(std::make_unique<UnitsVerb>());
     return verbs;
 }

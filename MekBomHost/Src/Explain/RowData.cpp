@@ -1,0 +1,62 @@
+#include "RowData.h"
+
+#include "InQuotes.h"
+#include "InputUnits.h"
+#include "UnitKinds.h"
+#include "Utf8.h"
+#include "WordList.h"
+
+#include "VorBomDataToken.h"
+#include "VorBomDataTuple.h"
+
+#include "MekUnits/Src/VorUnitDefinition.h"
+
+#include <algorithm>
+
+namespace mekbom
+{
+std::optional<double> RowData::numberIn(const VorBomDataRow& row, const VorString& token)
+{
+    const VorBomDataTuple* const pTuple = row.getTupleAt(token);
+    if (pTuple != nullptr && pTuple->value().type() == VorBomDataValue::kIntData)
+        return *static_cast<const int*>(pTuple->value().data());
+    if (pTuple != nullptr && pTuple->value().type() == VorBomDataValue::kDoubleData)
+        return *static_cast<const double*>(pTuple->value().data());
+    return std::nullopt;
+}
+
+std::string RowData::textOf(const VorBomDataRow& row, const VorString& token) const
+{
+    const VorBomDataTuple* const pTuple = row.getTupleAt(token);
+    if (pTuple == nullptr)
+        return "none";
+    if (pTuple->value().type() == VorBomDataValue::kDoubleData)
+        return quantity(token, *numberIn(row, token));
+    const std::string text = Utf8::toBytes(pTuple->value().asString());
+    return pTuple->value().type() == VorBomDataValue::kStringData ? inQuotes(text) : text;
+}
+
+std::string RowData::operandsOf(const VorBomDataRow& row, const VorString& formula) const
+{
+    std::vector<std::string> operands;
+    for (const VorString& token : VorBomDataToken::getTokensFromFormula(formula))
+    {
+        const std::string operand = Utf8::toBytes(token) + " " + textOf(row, token);
+        if (std::find(operands.begin(), operands.end(), operand) == operands.end())
+            operands.push_back(operand);
+    }
+    return WordList::joined(operands);
+}
+
+std::string RowData::quantity(const VorString& token, double number) const
+{
+    const VorBomTemplateUnits& tokenUnits = *m_report.reportTemplate.pTemplate->getBomTemplateUnits();
+    const std::string text = Utf8::toBytes(tokenUnits.getDisplayString(token, number));
+    const UnitKind* const pKind = UnitKinds::find(tokenUnits.getUnitType(token));
+    if (pKind == nullptr)
+        return text;
+    const MEKUnit& unit = m_report.units.getUnit(pKind->system);
+    const bool hasSymbol = !InputUnits::takesPlainNumbers(unit);
+    return hasSymbol ? text : text + " " + Utf8::toBytes(VorUnitsTransformArray::findUnit(unit.unit())->symbol);
+}
+}

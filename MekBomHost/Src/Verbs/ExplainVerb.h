@@ -1,0 +1,39 @@
+// `mekbom explain`: says in words what a template does, and what a line of its list is made of.
+//
+//   mekbom explain list.json                               the template alone
+//   mekbom explain list.json --data parts.csv              and the lines of the list, with their numbers
+//   mekbom explain list.json --data parts.csv --line 3     the template's words give way to those about line 3
+#pragma once
+
+#include "PairOption.h"
+#include "ReportRequest.h"
+#include "Verb.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace mekbom
+{
+class ExplainVerb : public Verb
+{
+public:
+    CLI::App& declareOn(CLI::App& parent) override;
+    ExitStatus run(FindingList& findings) override;
+
+private:
+    ExitStatus explainTemplate() const;
+    ExitStatus explainList(FindingList& findings) const;
+    ReportRequest request() const;
+
+    std::string m_templateName; // a file or "default"
+    std::string m_data;         // a file, "-" or empty
+    std::optional<int> m_line;
+    std::string m_units = "metric";
+    PairOption m_unitChoices{ "--unit", "KIND=UNIT", "length=ft-in/16" };
+    PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
+    std::string m_where;
+    std::vector<std::string> m_rowTotals;
+    std::vector<std::string> m_allowed;
+};
+}
