@@ -9,4 +9,4 @@ trap 'rm -f "$log"' EXIT
 echo "Building mekbom (a minute or two) ..." >&2
 { cmake --preset program && cmake --build --preset program --target mekbom; } >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
 
-build/program/MekBomHost/mekbom report --data Examples/hall.csv --template Examples/Templates/cutting-list.json
+build/program/MekBomHost/mekbom demo

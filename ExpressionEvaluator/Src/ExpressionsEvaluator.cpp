@@ -1,15 +1,12 @@
-// The formula "a=4;a*2" of 7 characters is evaluated in two statements:
-//   "a=4"      3 characters, up to the separator
-//   "a*2\0"    4 characters: no separator follows, so it is the last one, and its length is that of the formula, 7,
-//              less that of the statement before it, 3. The text has 3 more; the view answers zero for the fourth.
-// Each is parsed into a tree of its own, and variables are all that passes from one to the next.
+// Each statement is parsed into a tree of its own; variables and errors of the thread are all that passes from one to the
+// next.
 #include "ExpressionsEvaluator.h"
 
-#include "Reading/VorFormulaCharacters.h"
 #include "VorExprEvTreeItem.h"
 #include "VorExprEvVariableList.h"
 #include "VorExprEvalErrorHandler.h"
 #include "VorExpressionEvaluator.h"
+#include "VorFormulaStatements.h"
 
 #include "MekRoots/Exp/DebugOutput.h"
 
@@ -62,30 +59,21 @@ int ExpressionsEvaluator::addVariable(const VorExprEvTextView& name, VorExprEvVa
     return VorExprEvVariableList::ofThread().addVariable(name, value);
 }
 
-// The text is measured once for all statements; each measuring what is left of it would take quadratic time.
 int ExpressionsEvaluator::evaluate(wchar_t* buffer)
 {
-    const int nFormulaLength = static_cast<int>(m_nLength);
-    const int nTextLength = VorExprEvTextView(m_pText, 0, nFormulaLength).textLength();
-    int nStart = 0;
-    int nPreviousLength = 0;
+    int nResult = 0;
     buffer[0] = L'\0';
-    for (;;)
+    VorFormulaStatements statements(m_pText, static_cast<int>(m_nLength));
+    while (statements.next())
     {
-        const int nSeparator = findSeparator(nStart);
-        const int nLength = nSeparator < 0 ? nFormulaLength - nPreviousLength : nSeparator - nStart;
-        const VorExprEvTextView statement(m_pText + nStart, 0, nLength, nTextLength - nStart);
-        const int nResult = evaluateStatement(statement, buffer);
+        nResult = evaluateStatement(statements.current(), buffer);
         if (const VorExprEvalError* pError = VorExprEvalErrorHandler::ofThread().oldest())
         {
             std::wcscpy(buffer, pError->message());
             return 0;
         }
-        if (nSeparator < 0)
-            return nResult;
-        nPreviousLength = nLength;
-        nStart = nSeparator + 1;
     }
+    return nResult;
 }
 
 // The text of the statement's value in `buffer`, which a statement without operands leaves as it is. A tree that is not
@@ -103,12 +91,4 @@ int ExpressionsEvaluator::evaluateStatement(const VorExprEvTextView& statement, 
         return 0;
     VorExprEvValue value;
     return pRoot->evaluate(value).toText(buffer);
-}
-
-// The place of the first separator at or after `nStart`, -1 when there is none.
-int ExpressionsEvaluator::findSeparator(int nStart) const
-{
-    const std::wstring_view text(m_pText, m_nLength);
-    const std::size_t nFound = text.find(VorFormulaCharacters::kSeparator, static_cast<std::size_t>(nStart));
-    return nFound == std::wstring_view::npos ? -1 : static_cast<int>(nFound);
 }

@@ -53,7 +53,6 @@ public:
 
 private:
     int evaluateStatement(const VorExprEvTextView& statement, wchar_t* buffer) const;
-    int findSeparator(int nStart) const;
 
     const wchar_t* m_pText; // not owned
     unsigned int m_nLength;

@@ -18,11 +18,12 @@ void require(bool holds)
         std::abort();
 }
 
-// Asks for a text, a whole number, a number with a unit and a token that no catalogue knows.
+// Asks for a text, a whole number, numbers with a unit, and tokens that no catalogue knows, one of them in a total.
 void addColumns(VorBomTemplate& report)
 {
     auto* pDetails = new VorBomTemplateItem(VorBomTemplateItem::kDetails);
-    for (const wchar_t* pToken : { L"%Handle", L"%Name", L"%Quantity", L"%Length", L"%Other" })
+    for (const wchar_t* pToken :
+         { L"%Handle", L"%Name", L"%Quantity", L"%Length", L"%Paint", L"%Other", L"%SumBy:%Price" })
         pDetails->addData(VorBomDataTuple(pToken, VorString()));
     report.addChild(pDetails);
     report.setUnitsForTokens(nullptr);

@@ -1,9 +1,13 @@
 // Where the cells of a line come from that are not simply what its row has: the sums, what was computed, and what the
 // template says itself.
 //
-//   CellsInWords(explained).ofFooter(line)    ->  "Weight, %Weight added up: 250 + 250 + 14 = 514 kg\n"
-//   CellsInWords(explained).ofHeader(line)    ->  "Total: %Weight*%Quantity, with %Weight 250 kg and %Quantity 2, is
-//                                                 500 kg\n"
+//   CellsInWords(explained).ofFooter(line)
+//
+//   Weight, %Weight added up: 250 + 250 + 14 = 514 kg
+//
+//   CellsInWords(explained).ofHeader(line)
+//
+//   Total: %Weight*%Quantity, with %Weight 250 kg and %Quantity 2, is 500 kg
 #pragma once
 
 #include "ExplainedReport.h"

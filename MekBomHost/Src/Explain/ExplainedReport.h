@@ -1,7 +1,7 @@
 // An evaluated report with all that words about it need. Owns none of it.
 //
 //   const ExplainedReport explained{ reportTemplate, units, report, rowNumbers };
-//   LineInWords(explained).text(3)
+//   const std::string words = LineInWords(explained).text(3);
 #pragma once
 
 #include "EvaluatedReport.h"

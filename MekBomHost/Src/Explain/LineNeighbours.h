@@ -3,7 +3,7 @@
 //
 //   const LineNeighbours found(report, 3);
 //   found.line()        ->  the third line, or null when there are fewer
-//   found.numLines()    ->  how many there are, when there are fewer
+//   found.numLines()    ->  how many there are, when the third is none of them
 #pragma once
 
 #include "EvaluatedReport.h"
@@ -23,7 +23,7 @@ public:
     const ReportLine* before() const { return pointerTo(m_before); } // null for the first line
     const ReportLine* after() const { return pointerTo(m_after); }   // null for the last one
 
-    // Lines read; all of them unless there is a line after.
+    // How many lines the report has, unless there is a line of the number.
     int numLines() const { return m_numLines; }
 
 private:

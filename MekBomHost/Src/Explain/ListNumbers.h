@@ -1,6 +1,6 @@
 // How the list shows the numbers of one tuple, and what somebody takes them for who reads them there.
 //
-//   const ListNumbers weights(explained, section, 3, kWeightUnit, "lb");     of a list in pounds
+//   const ListNumbers weights(explained, section, 3, shown, column);     of a list in pounds
 //   weights.textOf(260.61)              ->  "574.55"
 //   weights.withUnit("574.55")          ->  "574.55 lb"
 //   *weights.valueOf("574.55")          ->  260.61...  kg, not quite what was shown

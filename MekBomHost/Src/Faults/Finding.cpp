@@ -6,7 +6,7 @@
 //   source       begin  field             found        expected  remedy
 //   parts.csv  : 3    : column "Weight" : found "n/a", expected a number
 //
-// A statement takes the place of found and expected, a sentence that of the whole line.
+// A statement takes the place of found and expected, a sentence that of all but the remedy.
 #include "Finding.h"
 
 #include "FindingCodes.h"
@@ -79,13 +79,14 @@ Finding Finding::in(const std::string& file, const TextSpan& span) const
 
 std::string messageOf(const Finding& finding)
 {
+    const std::string remedy = finding.remedy.empty() ? "" : ": " + finding.remedy;
     if (!finding.sentence.empty())
-        return finding.sentence;
+        return finding.sentence + remedy;
     std::string message;
     for (const std::string& part :
          { placeOf(finding), finding.path, finding.field.empty() ? "" : "column " + inQuotes(finding.field) })
         if (!part.empty())
             message += part + ": ";
-    return message + contentOf(finding) + (finding.remedy.empty() ? "" : ": " + finding.remedy);
+    return message + contentOf(finding) + remedy;
 }
 }

@@ -25,6 +25,11 @@ const std::vector<FindingCode>& all()
         kColumnMissing,
         kRowsMerged,
         kNoSuitableTemplate,
+        kListChosen,
+        kUnitLacking,
+        kTotalOfNoPieces,
+        kRowTotalOfMissingColumn,
+        kRowTotalOfNoNumber,
         kNoJson,
         kKeyTwice,
         kKeyUnknown,
@@ -57,6 +62,8 @@ const std::vector<FindingCode>& all()
         kSettingUnknown,
         kSettingIsNoNumber,
         kSettingUnused,
+        kListUnknown,
+        kOutputOfOtherFormat,
         kNoSuchLine,
     };
     return codes;

@@ -4,9 +4,8 @@
 //   FindingCodes::kCellIsNoNumber.name       ->  "MB710"
 //   FindingCodes::find("MB710")->sentence    ->  "A cell of a column of numbers or quantities holds none."
 //
-// MB7xx are about parts lists, MB8xx about template files, MB9xx about options, settings, units, and files as such.
-// MB1xx to MB6xx, the mistakes of those who
-// write lists, are MistakeCodes.
+// MB7xx are about parts lists, MB8xx about template files, MB9xx about options, settings, units, and files as
+// such. MB1xx to MB6xx, the mistakes of those who write lists, are MistakeCodes.
 #pragma once
 
 #include "Finding.h"
@@ -57,8 +56,21 @@ inline constexpr FindingCode kUnitGivenTwice = { "MB715", kError,
 inline constexpr FindingCode kColumnMissing = { "MB716", kNote,
                                                 "The parts list has no column for data that the template asks for." };
 inline constexpr FindingCode kRowsMerged = { "MB717", kNote, "Lines equal to the one before them count in no total." };
-inline constexpr FindingCode kNoSuitableTemplate = { "MB718", kError,
-                                                     "The columns suit none of the templates there are to choose." };
+inline constexpr FindingCode kNoSuitableTemplate = {
+    "MB718", kNote, "The columns suit none of the lists there are to choose, and are printed as they are."
+};
+inline constexpr FindingCode kListChosen = { "MB719", kNote, "A list was chosen because it suits the columns." };
+inline constexpr FindingCode kUnitLacking = { "MB720", kError,
+                                              "A column of areas or the like has numbers, and nobody says in which "
+                                              "unit." };
+inline constexpr FindingCode kTotalOfNoPieces = { "MB721", kError,
+                                                  "A row of no pieces has a value that is one of all its pieces." };
+inline constexpr FindingCode kRowTotalOfMissingColumn = {
+    "MB722", kError, "Row totals are announced for a column that the parts list has not."
+};
+inline constexpr FindingCode kRowTotalOfNoNumber = { "MB723", kError,
+                                                     "Row totals are announced for a column of texts or of whole "
+                                                     "numbers." };
 
 // Template files.
 inline constexpr FindingCode kNoJson = { "MB801", kError, "A template file is no JSON with comments." };
@@ -100,6 +112,10 @@ inline constexpr FindingCode kEntryMalformed = { "MB914", kError,
 inline constexpr FindingCode kSettingUnknown = { "MB915", kError, "A word names no setting." };
 inline constexpr FindingCode kSettingIsNoNumber = { "MB916", kError, "The value of a setting is no whole number." };
 inline constexpr FindingCode kSettingUnused = { "MB917", kNote, "A settings file sets what lists do not use." };
+inline constexpr FindingCode kListUnknown = { "MB918", kError, "A word is neither a list nor a template file." };
+inline constexpr FindingCode kOutputOfOtherFormat = {
+    "MB919", kError, "The name of the output promises a format that no list is written in."
+};
 inline constexpr FindingCode kNoSuchLine = { "MB925", kError, "A list has no line of that number." };
 
 // All of the above, in the order of their numbers.

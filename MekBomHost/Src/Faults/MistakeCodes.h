@@ -118,8 +118,9 @@ inline constexpr FindingCode kPrecisionLost = {
 inline constexpr FindingCode kFormulaWithinFormula = {
     "MB416", Finding::kError, "A formula holds another formula, or a token that formulas cannot name."
 };
-inline constexpr FindingCode kUnitOfFirstToken = { "MB417", Finding::kWarning,
-                                                   "The kind of a formula's result is not that of its first token." };
+inline constexpr FindingCode kLengthOrAreaPerLength = {
+    "MB417", Finding::kWarning, "An area divided by a length may be a length or an area per length."
+};
 inline constexpr FindingCode kOperatorForgotten = { "MB418", Finding::kWarning,
                                                     "Two operands stand side by side without an operator." };
 inline constexpr FindingCode kNameReadsAsNumber = { "MB419", Finding::kWarning,
@@ -129,6 +130,7 @@ inline constexpr FindingCode kParenthesesCrossed = { "MB420", Finding::kWarning,
 inline constexpr FindingCode kResultUndeclared = {
     "MB421", Finding::kError, "What a formula's result measures does not follow from its tokens, and no column says it."
 };
+inline constexpr FindingCode kFormulaFails = { "MB422", Finding::kError, "A formula always ends in an error." };
 inline constexpr FindingCode kTokenUnknown = { "MB501", Finding::kError,
                                                "Neither the catalogue nor the template knows a token." };
 inline constexpr FindingCode kColumnTokenMalformed = { "MB502", Finding::kError,

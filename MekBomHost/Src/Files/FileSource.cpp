@@ -30,7 +30,7 @@ void FileSource::Closer::operator()(std::FILE* pFile) const
 
 void FileSource::open()
 {
-    m_pFile.reset(std::fopen(m_name.c_str(), "rb"));
+    m_pFile.reset(std::fopen(m_path.c_str(), "rb"));
     if (m_pFile == nullptr)
         failToRead(errno);
 }

@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace mekbom
 {
@@ -17,7 +18,10 @@ class FileSource : public ByteSource
 {
 public:
     // Reads the file at `path`, which is also what messages call it.
-    explicit FileSource(const std::string& path) : m_name(path) {}
+    explicit FileSource(const std::string& path) : FileSource(path, path) {}
+
+    // Messages call this one by a name that its user knows better: "cutting-list".
+    FileSource(std::string path, std::string name) : m_path(std::move(path)), m_name(std::move(name)) {}
 
     // Reads standard input, which stays open afterwards.
     FileSource();
@@ -34,7 +38,8 @@ private:
     void open();
     [[noreturn]] void failToRead(int error) const;
 
-    std::string m_name;                         // also the path
+    std::string m_path;
+    std::string m_name;
     std::unique_ptr<std::FILE, Closer> m_pFile; // null until it is opened
 };
 }

@@ -41,6 +41,22 @@ const std::vector<std::string>& templates()
     return files;
 }
 
+std::vector<std::string> templateNames()
+{
+    std::vector<std::string> names;
+    for (const std::string& file : templates())
+        names.push_back(fs::path(file).stem().string());
+    return names;
+}
+
+std::string templateNamed(std::string_view name)
+{
+    for (const std::string& file : templates())
+        if (fs::path(file).stem().string() == name)
+            return file;
+    return std::string();
+}
+
 std::string find(const std::string& relativePath)
 {
     const fs::path installed = (programFolder() / ".." / "share" / "mekbom").lexically_normal();

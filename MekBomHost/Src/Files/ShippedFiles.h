@@ -8,6 +8,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace mekbom::ShippedFiles
@@ -20,6 +21,13 @@ std::string find(const std::string& relativePath);
 // The templates that a list may be printed with when the user names none, in order of preference, as find() takes
 // them.
 const std::vector<std::string>& templates();
+
+// What users call them, in the same order: "cutting-list".
+std::vector<std::string> templateNames();
+
+// The template that users call so, as find() takes it; empty when there is none.
+//   ShippedFiles::templateNamed("bolt-list")   ->  "Templates/bolt-list.json"
+std::string templateNamed(std::string_view name);
 
 // The parts list that examples use, as find() takes it.
 extern const char* const kPartsList;

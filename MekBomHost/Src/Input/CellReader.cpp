@@ -5,17 +5,21 @@
 //   rows read                    [%Grip:0]   (no cell)   [%Grip:0]           texts  "40", "12.5"
 //   finish(): all are numbers    [%Grip:40]  (no cell)   [%Grip:12.5]
 //
-// So a column is of one type in all rows, and a parts list of a million rows is read once.
+// So a column is of one type in all rows, and a parts list of a million rows is read once. Where the list sums such a
+// column or computes with it, or the template says that it has numbers, a cell that is none is refused at once, when
+// its place is still known.
 #include "CellReader.h"
 
 #include "FindingCodes.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
+#include "MistakeCodes.h"
 #include "NumberReader.h"
 #include "Utf8.h"
 
 #include "VorBomDataTuple.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -27,16 +31,45 @@ std::string fieldCount(std::size_t numFields)
 {
     return std::to_string(numFields) + (numFields == 1 ? " field" : " fields");
 }
+
+template <class Predicate>
+std::size_t indexOf(const std::vector<InputColumn>& columns, const Predicate& isMeant)
+{
+    return static_cast<std::size_t>(std::find_if(columns.begin(), columns.end(), isMeant) - columns.begin());
+}
+
+// Programs write "NaN", "nan" and "-NAN" for what is not a number.
+bool isNotANumber(std::string_view text)
+{
+    if (!text.empty() && (text.front() == '-' || text.front() == '+'))
+        text.remove_prefix(1);
+    return text.size() == 3 && (text[0] | 0x20) == 'n' && (text[1] | 0x20) == 'a' && (text[2] | 0x20) == 'n';
+}
+
+const FindingCode& codeOf(std::string_view text, const FindingCode& otherwise)
+{
+    return isNotANumber(text) ? MistakeCodes::kNotANumber : otherwise;
+}
 }
 
 CellReader::CellReader(const std::vector<InputColumn>& columns, const RecordSource& source, VorBomData& data)
-    : m_columns(columns), m_source(source), m_data(data), m_rows(data, columns.size()), m_untypedCells(columns.size())
+    : m_columns(columns),
+      m_source(source),
+      m_data(data),
+      m_rows(data, columns.size()),
+      m_untypedCells(columns.size()),
+      m_notes(columns.size()),
+      m_handleColumn(indexOf(columns, [](const InputColumn& column) { return column.isHandle; })),
+      m_piecesColumn(indexOf(columns, [](const InputColumn& column) { return column.isPieces; }))
 {
-}
-
-void CellReader::numberRows(const VorString& handleToken)
-{
-    m_numberToken = handleToken;
+    for (std::size_t i = 0; i < columns.size(); ++i)
+    {
+        if (columns[i].isWanted || columns[i].isHandle)
+            m_columnsToRead.push_back(i);
+        if (!columns[i].whyNumbers.empty())
+            m_untypedCells[i].takeNumbersAlone();
+        m_dividesRowTotals = m_dividesRowTotals || (columns[i].isWanted && columns[i].isRowTotal);
+    }
 }
 
 // A record with a wrong cell makes a row all the same, of the cells that are right: reading goes on, so that one run
@@ -45,23 +78,37 @@ void CellReader::read(const Record& record)
 {
     if (!checkNumCells(record))
         return;
+    ++m_numRows;
     m_rows.beginRow();
     if (m_numberToken.isEmpty() == 0)
         addNumberAsHandle();
-    for (std::size_t i = 0; i < m_columns.size(); ++i)
-        if (!record[i].isNothing())
-            readCell(i, record[i]);
+    if (m_dividesRowTotals)
+        m_numPieces = piecesOf(record);
+    for (const std::size_t column : m_columnsToRead)
+        if (!record[column].isNothing())
+            readCell(column, record[column]);
+    if (m_piecesToken.isEmpty() == 0 && (m_piecesColumn == record.size() || record[m_piecesColumn].isNothing()))
+        m_rows.add(m_piecesToken, 1);
+    if (m_handleColumn != record.size())
+        m_handles.add(textOf(record[m_handleColumn]));
     if (m_rows.isFull())
         m_rows.build();
+}
+
+PartsFacts CellReader::finish()
+{
+    addHandleFindings();
+    m_findings.throwIfAnyError();
+    m_rows.build();
+    fillOpenColumns();
+    return facts();
 }
 
 // The columns whose type was open are filled in last: `takeNext` gives their cells in the order of the rows.
 // A row has a tuple of such a column exactly where a text of it was kept, so the next tuple met always belongs to the
 // next text. That holds only if no row with these tokens was in the data before the first record.
-void CellReader::finish()
+void CellReader::fillOpenColumns()
 {
-    m_findings.throwIfAnyError();
-    m_rows.build();
     std::vector<std::size_t> openColumns;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
         if (m_columns[i].isWanted && m_columns[i].type == VorBomDataValue::kUnknownData)
@@ -72,6 +119,22 @@ void CellReader::finish()
         for (const std::size_t column : openColumns)
             if (VorBomDataTuple* pTuple = pRow->getTupleAt(m_columns[column].tupleToken))
                 pTuple->value() = m_untypedCells[column].takeNext();
+}
+
+PartsFacts CellReader::facts() const
+{
+    PartsFacts facts;
+    facts.numRows = m_numRows;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+    {
+        const InputColumn& column = m_columns[i];
+        const bool isOpen = column.type == VorBomDataValue::kUnknownData;
+        const UntypedCells& untyped = m_untypedCells[i];
+        if (column.isWanted)
+            facts.columns.push_back({ column.token, column.name, isOpen ? untyped.type() : column.type,
+                                      m_notes[i].numFilled, isOpen ? untyped.numDecimals() : m_notes[i].numDecimals });
+    }
+    return facts;
 }
 
 bool CellReader::checkNumCells(const Record& record)
@@ -85,9 +148,19 @@ bool CellReader::checkNumCells(const Record& record)
     return false;
 }
 
+// 1 as well for a cell that is no whole number: readWhole() says so.
+int CellReader::piecesOf(const Record& record) const
+{
+    int numPieces = 1;
+    if (m_piecesColumn != record.size() && !record[m_piecesColumn].isNothing())
+        NumberReader::read(NumberReader::withoutZeroDecimals(record[m_piecesColumn].asText()), numPieces);
+    return numPieces;
+}
+
 // A column whose type is still open is read as one of texts.
 void CellReader::readCell(std::size_t column, const RecordCell& cell)
 {
+    ++m_notes[column].numFilled;
     switch (m_columns[column].type)
     {
         case VorBomDataValue::kIntData: readWhole(column, textOf(cell)); break;
@@ -105,46 +178,52 @@ std::string_view CellReader::textOf(const RecordCell& cell)
     return m_numberText;
 }
 
+// Spreadsheets write 4 as "4.0" once another cell of the column had decimals.
 // Two mistakes, two expectations: "4.5" is not whole, "3000000000" is, but has no room in 32 bits.
 void CellReader::readWhole(std::size_t column, std::string_view text)
 {
     int value = 0;
-    if (!NumberReader::read(text, value))
-        addFinding(FindingCodes::kCellIsNotWhole, column, text,
-                   NumberReader::isWhole(text) ? "a whole number from -2147483648 to 2147483647" : "a whole number");
-    else if (m_columns[column].isWanted)
-        m_rows.add(m_columns[column].tupleToken, value);
+    if (NumberReader::read(text, value) || NumberReader::read(NumberReader::withoutZeroDecimals(text), value))
+        return m_rows.add(m_columns[column].tupleToken, value);
+    const bool isWhole = NumberReader::isWhole(NumberReader::withoutZeroDecimals(text));
+    addFinding(codeOf(text, FindingCodes::kCellIsNotWhole), column, text,
+               isWhole ? "a whole number from -2147483648 to 2147483647" : "a whole number");
 }
 
 // A quantity comes from its reader in the model's unit; a plain number is still in the column's, 7.5 ft say, and
 // becomes 2286 mm here. Whether the value is finite is asked after that: 1e308 is a number, but as feet it is none in
-// mm. A column that is not in the model's unit always has a unit (PartsList::resolveUnit).
+// mm. A column that is not in the model's unit always has a unit (PartsList::resolveUnit). In a column of feet and
+// inches "7" is no plain number: it goes to the reader of quantities, which knows what the layout takes.
 void CellReader::readNumber(std::size_t column, const RecordCell& cell)
 {
     const InputColumn& properties = m_columns[column];
+    const std::string_view text = textOf(cell);
     double value = 0;
-    if (!readPlainNumber(column, cell, value))
+    int numDecimals = 0;
+    if (!properties.takesPlainNumbers || !NumberReader::read(text, value, numDecimals))
     {
-        if (!readQuantity(column, textOf(cell), value))
+        if (!readQuantity(column, text, value))
             return;
     }
+    else if (!properties.lackingUnit.empty())
+        return refuseForWantOfUnit(column, text);
     else if (!properties.isInModelUnit)
         value = properties.unit->getVorUnitTransform().toInternalUnits(value);
     if (!std::isfinite(value))
-        addFinding(FindingCodes::kCellIsTooLarge, column, textOf(cell), "a smaller number");
-    else if (properties.isWanted)
-        m_rows.add(properties.tupleToken, value);
+        return addFinding(FindingCodes::kCellIsTooLarge, column, text, "a smaller number");
+    if (properties.isRowTotal && !divideByPieces(value))
+        return addFinding(FindingCodes::kTotalOfNoPieces, column, text, "0 in a row of 0 pieces");
+    int& mostDecimals = m_notes[column].numDecimals;
+    mostDecimals = std::max(mostDecimals, numDecimals);
+    m_rows.add(properties.tupleToken, value);
 }
 
-// In a column of feet and inches "7" is no plain number: it goes to the reader of quantities, which knows what the
-// layout takes.
-bool CellReader::readPlainNumber(std::size_t column, const RecordCell& cell, double& value) const
+// False when there are no pieces to divide by.
+bool CellReader::divideByPieces(double& value) const
 {
-    if (!m_columns[column].takesPlainNumbers)
-        return false;
-    if (!cell.isNumber())
-        return NumberReader::read(cell.text(), value);
-    value = cell.number();
+    if (m_numPieces == 0)
+        return value == 0;
+    value /= m_numPieces;
     return true;
 }
 
@@ -152,11 +231,19 @@ void CellReader::readText(std::size_t column, std::string_view text)
 {
     const InputColumn& properties = m_columns[column];
     if (properties.isHandle)
-        return readHandle(column, text);
-    if (!properties.isWanted)
-        return;
-    if (properties.type == VorBomDataValue::kStringData)
-        return m_rows.addText(properties.tupleToken, column, text);
+        readHandle(column, text);
+    else if (properties.type == VorBomDataValue::kStringData)
+        m_rows.addText(properties.tupleToken, column, text);
+    else
+        readUntyped(column, text);
+}
+
+void CellReader::readUntyped(std::size_t column, std::string_view text)
+{
+    const InputColumn& properties = m_columns[column];
+    double value = 0;
+    if (!properties.whyNumbers.empty() && !NumberReader::read(text, value))
+        return addFinding(codeOf(text, MistakeCodes::kKindsMixed), column, text, "a number", properties.whyNumbers);
     m_untypedCells[column].add(text);
     m_rows.add(properties.tupleToken, 0); // a place for the value that finish() sets
 }
@@ -176,9 +263,20 @@ bool CellReader::readQuantity(std::size_t column, std::string_view text, double&
     if (properties.quantities && properties.quantities->read(wideText, value) == 1)
         return true;
     const std::string hint = properties.quantities ? Utf8::toBytes(properties.quantities->explain(wideText)) : "";
-    addFinding(FindingCodes::kCellIsNoNumber, column, text,
+    addFinding(codeOf(text, FindingCodes::kCellIsNoNumber), column, text,
                properties.unit ? InputUnits::cellExpectation(*properties.unit) : "a number", hint);
     return false;
+}
+
+// One heading mends all cells, so only the first is named.
+void CellReader::refuseForWantOfUnit(std::size_t column, std::string_view text)
+{
+    const InputColumn& properties = m_columns[column];
+    if (std::exchange(m_notes[column].isRefused, true))
+        return;
+    addFinding(FindingCodes::kUnitLacking, column, text, "a number with its unit",
+               "write the heading " + inQuotes(properties.name + " [" + properties.lackingUnit + "]") +
+                   ", or give --input-unit " + properties.token + "=" + properties.lackingUnit);
 }
 
 void CellReader::addFinding(const FindingCode& code, std::size_t column, std::string_view text,
@@ -193,8 +291,16 @@ void CellReader::addFinding(const FindingCode& code, std::size_t column, std::st
 
 void CellReader::addNumberAsHandle()
 {
-    ++m_numRows;
     m_rows.setHandle(std::to_string(m_numRows));
     m_rows.addHandle(m_numberToken);
+}
+
+void CellReader::addHandleFindings()
+{
+    for (Finding& finding : m_handles.findings())
+    {
+        finding.source = m_source.name();
+        m_findings.add(std::move(finding));
+    }
 }
 }

@@ -3,7 +3,7 @@
 //   CellReader cells(columns, source, data);
 //   while (const Record* const pRecord = source.next())
 //       cells.read(*pRecord);
-//   cells.finish();
+//   const PartsFacts facts = cells.finish();
 //
 // A cell becomes a tuple of its column's type; an empty cell becomes nothing:
 //
@@ -11,12 +11,13 @@
 //   record                   HEA200     7.5               (nothing)
 //   row                      [%Name:HEA200][%Length:2286]
 //
-// Cells of columns that nobody wants are checked too, so that whether a parts list is sound does not depend on the
-// template.
+// Cells of columns that nobody wants are not looked at: what a report does not use must not keep it from being made.
 #pragma once
 
 #include "FindingList.h"
+#include "HandleCheck.h"
 #include "InputColumn.h"
+#include "PartsFacts.h"
 #include "RecordSource.h"
 #include "RowBuilder.h"
 #include "UntypedCells.h"
@@ -42,27 +43,48 @@ public:
     void reserveTuples(int numTuples) { m_rows.reserveTuples(numTuples); }
 
     // Each row gets its number, from 1, as its handle: for data that bring none.
-    void numberRows(const VorString& handleToken);
+    void numberRows(const VorString& handleToken) { m_numberToken = handleToken; }
+
+    // A row that does not say how many pieces it stands for gets a 1 with this token.
+    void countPieces(const VorString& piecesToken) { m_piecesToken = piecesToken; }
 
     // Makes a row of the record that `source` has handed over last, or notes what is wrong with it.
     void read(const Record& record);
 
-    // Completes the rows once all records are read. Throws a Fault with what was wrong in any of them.
-    void finish();
+    // Completes the rows once all records are read, and tells what is known of them. Throws a Fault with what was wrong
+    // in any of them.
+    PartsFacts finish();
+
+    // What was found. Once finish() has returned, none of it is an error.
+    const std::vector<Finding>& findings() const { return m_findings.all(); }
 
 private:
+    // What is noted of a column while its cells come in.
+    struct Notes
+    {
+        int numFilled = 0;
+        int numDecimals = 0;
+        bool isRefused = false; // for want of a unit, which is said once
+    };
+
     bool checkNumCells(const Record& record);
+    int piecesOf(const Record& record) const;
     void readCell(std::size_t column, const RecordCell& cell);
     std::string_view textOf(const RecordCell& cell);
     void readWhole(std::size_t column, std::string_view text);
     void readNumber(std::size_t column, const RecordCell& cell);
+    bool divideByPieces(double& value) const;
     void readText(std::size_t column, std::string_view text);
+    void readUntyped(std::size_t column, std::string_view text);
     void readHandle(std::size_t column, std::string_view text);
-    bool readPlainNumber(std::size_t column, const RecordCell& cell, double& value) const;
     bool readQuantity(std::size_t column, std::string_view text, double& value);
+    void refuseForWantOfUnit(std::size_t column, std::string_view text);
     void addFinding(const FindingCode& code, std::size_t column, std::string_view text, const std::string& expected,
                     const std::string& remedy = std::string());
     void addNumberAsHandle();
+    void addHandleFindings();
+    void fillOpenColumns();
+    PartsFacts facts() const;
 
     const std::vector<InputColumn>& m_columns;
     const RecordSource& m_source;
@@ -70,8 +92,16 @@ private:
     FindingList m_findings;
     RowBuilder m_rows;                        // those that are not in the data yet
     std::vector<UntypedCells> m_untypedCells; // one for each column, used where the type is still open
-    VorString m_numberToken;                  // empty when rows are not numbered
+    std::vector<Notes> m_notes;               // one for each column
+    std::vector<std::size_t> m_columnsToRead; // those that are wanted, and that of the handle
+    std::size_t m_handleColumn;               // that of the pieces as well: the number of columns where there is none
+    std::size_t m_piecesColumn;
+    bool m_dividesRowTotals = false;
+    HandleCheck m_handles;
+    VorString m_numberToken; // empty when rows are not numbered
+    VorString m_piecesToken; // empty when pieces need not be counted
     int m_numRows = 0;
+    int m_numPieces = 1;      // of the row that is being read; looked at only where row totals are divided
     std::string m_numberText; // of the cell that is being read, if it is a number
 };
 }

@@ -19,15 +19,19 @@ struct InputColumn
     VorString tupleToken;   // the same; every tuple of the column copies this one, so that all share its characters
     std::string unitSymbol; // "ft", empty for numbers in internal units
     bool unitIsFromUser = false; // by --input-unit, not by the header row
+    bool isRowTotal = false;     // the values are those of all pieces of their row
 
     // The rest follows from the token and the template. kUnknownData until the content has been seen, for a column that
     // the catalogue of tokens does not know and that has no unit.
     VorBomDataValue::eBomDataValueType type = VorBomDataValue::kUnknownData;
+    std::string whyNumbers; // why such a column must hold numbers, as a message says it; empty where it need not
     std::optional<MEKUnit> unit;
     std::optional<VorQuantityReader> quantities; // for cells of numbers whose kind is known; else they name no unit
+    std::string lackingUnit; // "m2" where plain numbers are refused, since nobody says in which unit of areas they are
     bool takesPlainNumbers = true;
     bool isInModelUnit = true; // plain numbers need no conversion
     bool isHandle = false;     // the identity of the object, beside being a datum
-    bool isWanted = false;     // some section asks for it; cells of other columns are only checked
+    bool isPieces = false;     // how many objects a row stands for
+    bool isWanted = false;     // somebody asks for it; cells of other columns are not looked at
 };
 }

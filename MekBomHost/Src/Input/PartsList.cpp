@@ -4,16 +4,18 @@
 //   heading "Length [ft]"                 token %Length, unit "ft"
 //   the catalogue of tokens knows it      numbers, which the template shows as lengths
 //   the unit is one of lengths            a cell 7.5 is 2286 mm; so is one that says 2286 mm
-//   nothing asks for %Length              its cells are checked all the same, and no row gets a datum of them
+//   nothing asks for %Length              its cells are not looked at
 #include "PartsList.h"
 
 #include "CellReader.h"
 #include "ColumnHeading.h"
+#include "DataTokens.h"
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
+#include "UnitKinds.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
@@ -36,6 +38,34 @@ const char* const kHandleToken = "%Handle";
     throw Fault(kWrongUsage, finding);
 }
 
+// What is wrong with "--row-totals TOKEN".
+[[noreturn]] void failInRowTotal(const std::string& token, Finding finding)
+{
+    finding.source = "--row-totals " + token;
+    throw Fault(kWrongUsage, finding);
+}
+
+// The one with the token, or null.
+template <class Columns>
+auto* findIn(Columns& columns, const std::string& token)
+{
+    const auto found = std::find_if(columns.begin(), columns.end(),
+                                    [&token](const InputColumn& column) { return column.token == token; });
+    return found == columns.end() ? nullptr : &*found;
+}
+
+// What the template traces, and others beside it. Case counts: a template that asks for "%Length" has no use for a column
+// "%length".
+std::set<std::string> wantedTokens(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
+{
+    std::set<std::string> tokens;
+    for (const VorString& token : reportTemplate.getTokenTrace())
+        tokens.insert(Utf8::toBytes(token));
+    for (const VorString& token : otherTokens)
+        tokens.insert(Utf8::toBytes(token));
+    return tokens;
+}
+
 int numFormulas(VorBomTemplate& reportTemplate)
 {
     int number = 0;
@@ -44,10 +74,10 @@ int numFormulas(VorBomTemplate& reportTemplate)
     return number;
 }
 
-VorBomDataValue::eBomDataValueType typeInCatalogue(const VorString& token)
+// "%Name is a text"
+std::string statementOf(const InputColumn& column)
 {
-    const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(token);
-    return pEntry == nullptr ? VorBomDataValue::kUnknownData : pEntry->type;
+    return column.token + (column.type == VorBomDataValue::kIntData ? " is a whole number" : " is a text");
 }
 }
 
@@ -58,18 +88,20 @@ PartsList::PartsList(RecordSource& source) : m_source(source)
 
 const InputColumn* PartsList::find(const std::string& token) const
 {
-    const auto found = std::find_if(m_columns.begin(), m_columns.end(),
-                                    [&token](const InputColumn& column) { return column.token == token; });
-    return found == m_columns.end() ? nullptr : &*found;
+    return findIn(m_columns, token);
+}
+
+InputColumn* PartsList::findColumn(const std::string& token)
+{
+    return findIn(m_columns, token);
 }
 
 // To say again what the heading says is no mistake: a script may pass its units with files that name them and with
 // files that do not.
 void PartsList::setInputUnit(const std::string& token, const std::string& unit)
 {
-    const auto pColumn = std::find_if(m_columns.begin(), m_columns.end(),
-                                      [&token](const InputColumn& column) { return column.token == token; });
-    if (pColumn == m_columns.end())
+    InputColumn* const pColumn = findColumn(token);
+    if (pColumn == nullptr)
         failInOption(token, unit,
                      Finding::stating(FindingCodes::kUnitOfMissingColumn,
                                       m_source.name() + " has no column " + inQuotes(token)));
@@ -81,22 +113,31 @@ void PartsList::setInputUnit(const std::string& token, const std::string& unit)
     pColumn->unitIsFromUser = true;
 }
 
-// All that a cell needs to know of the template is settled here, once for each column; CellReader asks no template.
-void PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
+void PartsList::setRowTotal(const std::string& token)
 {
-    for (InputColumn& column : m_columns)
-    {
-        resolveColumn(column, *reportTemplate.getBomTemplateUnits());
-        column.isWanted = reportTemplate.isTokenRequired(column.tupleToken) ||
-                          std::find(otherTokens.begin(), otherTokens.end(), column.tupleToken) != otherTokens.end();
-    }
+    InputColumn* const pColumn = findColumn(token);
+    if (pColumn == nullptr)
+        failInRowTotal(token, Finding::stating(FindingCodes::kRowTotalOfMissingColumn,
+                                               m_source.name() + " has no column " + inQuotes(token)));
+    pColumn->isRowTotal = true;
+}
+
+PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
+{
+    const std::set<std::string> wanted = wantedTokens(reportTemplate, otherTokens);
+    findWantedColumns(wanted);
+    resolveColumns(reportTemplate);
     CellReader cells(m_columns, m_source, *reportTemplate.getBomData());
     cells.reserveTuples(numFormulas(reportTemplate));
-    if (find(kHandleToken) == nullptr && reportTemplate.isTokenRequired(Utf8::toWide(kHandleToken)))
+    if (find(kHandleToken) == nullptr && wanted.count(kHandleToken) > 0)
         cells.numberRows(Utf8::toWide(kHandleToken));
+    if (wanted.count(kPiecesToken) > 0)
+        cells.countPieces(Utf8::toWide(kPiecesToken));
     while (const Record* const pRecord = m_source.next())
         cells.read(*pRecord);
-    cells.finish();
+    PartsFacts facts = cells.finish();
+    m_findings = cells.findings();
+    return facts;
 }
 
 void PartsList::readHeader()
@@ -162,30 +203,81 @@ void PartsList::addColumn(const std::string& heading)
     column.tupleToken = Utf8::toWide(name.token);
     column.unitSymbol = name.unit;
     column.isHandle = name.token == kHandleToken;
+    column.isPieces = name.token == kPiecesToken;
     m_columns.push_back(column);
 }
 
-// A unit makes numbers of a column that the catalogue does not know: nobody gives texts in feet. Without one, numbers
-// are in the model's unit of the kind that the template, or the catalogue, says they are.
-void PartsList::resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const
+// The number of pieces is wanted, too, where another column is divided by it.
+void PartsList::findWantedColumns(const std::set<std::string>& wantedTokens)
 {
-    column.type = column.isHandle ? VorBomDataValue::kStringData : typeInCatalogue(column.tupleToken);
-    if (column.unitSymbol.empty())
-        return resolveQuantities(column, InputUnits::ofModel(units.getUnitType(column.tupleToken)));
-    if (column.type == VorBomDataValue::kUnknownData)
-        column.type = VorBomDataValue::kDoubleData;
-    resolveUnit(column, units);
+    bool dividesByPieces = false;
+    for (InputColumn& column : m_columns)
+    {
+        column.isWanted = wantedTokens.count(column.token) > 0;
+        dividesByPieces = dividesByPieces || (column.isWanted && column.isRowTotal);
+    }
+    if (InputColumn* const pPieces = dividesByPieces ? findColumn(kPiecesToken) : nullptr)
+        pPieces->isWanted = true;
 }
 
-void PartsList::resolveUnit(InputColumn& column, const VorBomTemplateUnits& units) const
+// All that a cell needs to know of the template is settled here, once for each column; CellReader asks no template.
+// What the heading of a column says that nobody wants is not looked at, and may be wrong, unlike what the user says.
+void PartsList::resolveColumns(VorBomTemplate& reportTemplate)
+{
+    const std::set<std::string> computed = DataTokens::computedWith(reportTemplate);
+    for (InputColumn& column : m_columns)
+        if (column.isWanted || column.unitIsFromUser || column.isRowTotal)
+        {
+            resolveColumn(column, *reportTemplate.getBomTemplateUnits());
+            column.whyNumbers = whyNumbers(column, computed);
+        }
+}
+
+// Without a unit, numbers are in the model's unit of the kind that the template, or the catalogue, says they are: but
+// nobody gives areas in mm2, though lengths in mm.
+void PartsList::resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const
+{
+    column.type = typeOf(column, units);
+    if (column.isRowTotal && column.type != VorBomDataValue::kDoubleData)
+        failInRowTotal(column.token, Finding::stating(FindingCodes::kRowTotalOfNoNumber, statementOf(column)));
+    const VorBomTemplateUnits::eTokenUnitType kind = units.getUnitType(column.tupleToken);
+    if (!column.unitSymbol.empty())
+        return resolveUnit(column, kind);
+    resolveQuantities(column, InputUnits::ofModel(kind));
+    if (column.quantities)
+        column.lackingUnit = UnitKinds::find(kind)->usualUnit;
+}
+
+// A unit makes numbers of a column that the catalogue does not know, since nobody gives texts in feet; so does a kind of
+// quantity.
+VorBomDataValue::eBomDataValueType PartsList::typeOf(const InputColumn& column, const VorBomTemplateUnits& units) const
+{
+    if (column.isHandle)
+        return VorBomDataValue::kStringData;
+    if (const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(column.tupleToken))
+        return pEntry->type;
+    const auto own = m_ownTokens.find(column.token);
+    if (own != m_ownTokens.end() && own->second == kOwnText)
+        return VorBomDataValue::kStringData;
+    const bool hasKind = UnitKinds::find(units.getUnitType(column.tupleToken)) != nullptr;
+    const bool hasNumbers = hasKind || column.isRowTotal || !column.unitSymbol.empty();
+    return hasNumbers ? VorBomDataValue::kDoubleData : VorBomDataValue::kUnknownData;
+}
+
+// Only of columns whose content would else decide what they hold.
+std::string PartsList::whyNumbers(const InputColumn& column, const std::set<std::string>& computed) const
+{
+    if (column.type != VorBomDataValue::kUnknownData)
+        return std::string();
+    if (m_ownTokens.count(column.token) > 0)
+        return "the template says that " + column.token + " is a number";
+    return computed.count(column.token) > 0 ? "the list computes with " + column.token : std::string();
+}
+
+void PartsList::resolveUnit(InputColumn& column, VorBomTemplateUnits::eTokenUnitType kind) const
 {
     if (column.type != VorBomDataValue::kDoubleData)
-    {
-        const bool isWhole = column.type == VorBomDataValue::kIntData;
-        failInUnit(column, FindingCodes::kUnitOfNoQuantity, "none",
-                   column.token + (isWhole ? " is a whole number" : " is a text"));
-    }
-    const VorBomTemplateUnits::eTokenUnitType kind = units.getUnitType(column.tupleToken);
+        failInUnit(column, FindingCodes::kUnitOfNoQuantity, "none", statementOf(column));
     column.unit = InputUnits::find(column.unitSymbol, kind);
     if (!column.unit)
         failInUnit(column, FindingCodes::kColumnUnitUnknown, InputUnits::expectation(kind));

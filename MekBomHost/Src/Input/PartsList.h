@@ -4,20 +4,31 @@
 //   CsvReader records(file);
 //   PartsList parts(records);              // reads the header row
 //   parts.setInputUnit("%Paint", "m2");
-//   parts.readRows(*pTemplate);            // into the template's data
+//   parts.setRowTotal("%Weight");
+//   const PartsFacts facts = parts.readRows(*pTemplate);    // into the template's data
 //
-// The catalogue of tokens decides what type a column has; a column it does not know has the type of its content
-// (UntypedCells). A cell of lengths, weights and other quantities may carry a unit of its own, as in "7'-6 1/2\"" and
-// "7.5 ft". "Handle" is the identity of the object. Everything that is wrong is thrown as one Fault.
+// The catalogue of tokens decides what type a column has. A column it does not know has numbers if its heading names a
+// unit, the template says so, or the list computes with it; else it has the type of its content (UntypedCells).
+//
+// A cell of lengths, weights and other quantities may carry a unit of its own, as in "7'-6 1/2\"" and "7.5 ft". Numbers
+// without one are in the unit of their column; where nobody names any, lengths are in mm, weights in kg and angles in
+// rad, and numbers of other kinds are refused: no file means mm2 or kg/mm.
+//
+// "Handle" is the identity of the object. "Quantity" is how many pieces a row stands for, 1 where it does not say.
+// Everything that is wrong is thrown as one Fault.
 #pragma once
 
 #include "FindingList.h"
 #include "InputColumn.h"
+#include "PartsFacts.h"
 #include "RecordSource.h"
+#include "ReportTemplate.h"
 
 #include "VorBomTemplate.h"
 
+#include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -28,6 +39,8 @@ struct FindingCode;
 class PartsList
 {
 public:
+    static constexpr const char* kPiecesToken = "%Quantity"; // how many pieces a row stands for
+
     // Reads the header row. `source` is not owned and outlives the list.
     explicit PartsList(RecordSource& source);
 
@@ -40,9 +53,19 @@ public:
     // is no such column, or when its header row names another unit.
     void setInputUnit(const std::string& token, const std::string& unit);
 
-    // Appends one row for each record to the template's data. Rows carry the data that the template asks for, whose
-    // tokens must have been found already, and those of `otherTokens`. To be called once.
-    void readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens = {});
+    // Says that the values of a column are those of all pieces of their row: each is divided by the row's "%Quantity".
+    // Throws a Fault of status kWrongUsage when there is no such column, and readRows() does when it has no such values.
+    void setRowTotal(const std::string& token);
+
+    // Says of which kind tokens are that the catalogue does not know.
+    void setOwnTokens(const std::map<std::string, eOwnToken>& ownTokens) { m_ownTokens = ownTokens; }
+
+    // Appends one row for each record to the template's data, and tells what is known of them. Rows carry the data that
+    // the template asks for, whose tokens must have been found already, and those of `otherTokens`. To be called once.
+    PartsFacts readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens = {});
+
+    // What readRows() has found. None of it is an error.
+    const std::vector<Finding>& findings() const { return m_findings; }
 
 private:
     void readHeader();
@@ -51,13 +74,20 @@ private:
     void checkSeparator(const InputColumn& column, FindingList& findings) const;
     void addHeaderFinding(Finding finding, FindingList& findings) const;
     void addColumn(const std::string& heading);
+    void findWantedColumns(const std::set<std::string>& wantedTokens);
+    void resolveColumns(VorBomTemplate& reportTemplate);
     void resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const;
-    void resolveUnit(InputColumn& column, const VorBomTemplateUnits& units) const;
+    VorBomDataValue::eBomDataValueType typeOf(const InputColumn& column, const VorBomTemplateUnits& units) const;
+    std::string whyNumbers(const InputColumn& column, const std::set<std::string>& computed) const;
+    void resolveUnit(InputColumn& column, VorBomTemplateUnits::eTokenUnitType kind) const;
     static void resolveQuantities(InputColumn& column, const std::optional<MEKUnit>& unit);
+    InputColumn* findColumn(const std::string& token);
     [[noreturn]] void failInUnit(const InputColumn& column, const FindingCode& code, const std::string& expected,
                                  const std::string& remedy = std::string()) const;
 
     RecordSource& m_source;
     std::vector<InputColumn> m_columns;
+    std::map<std::string, eOwnToken> m_ownTokens;
+    std::vector<Finding> m_findings;
 };
 }

@@ -21,7 +21,7 @@ namespace mekbom
 // Rows, values and texts that are in no pool get as much room as 64 rows can need, and never move: look-ups point at
 // values, and values at handles and texts.
 RowBuilder::RowBuilder(VorBomData& data, std::size_t numColumns)
-    : m_data(data), m_texts(numColumns), m_rows(kMostRows), m_values(kMostRows * (numColumns + 1))
+    : m_data(data), m_texts(numColumns), m_rows(kMostRows), m_values(kMostRows * (numColumns + 2))
 {
     m_unshared.reserve(m_values.size());
     begin();

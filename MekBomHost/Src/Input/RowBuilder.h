@@ -27,7 +27,8 @@ namespace mekbom
 class RowBuilder
 {
 public:
-    // `data` is not owned and outlives this; it owns the rows. A row has at most one datum for each column and one more.
+    // `data` is not owned and outlives this; it owns the rows. A row has at most one datum for each column and two
+    // more: its number and that of its pieces.
     RowBuilder(VorBomData& data, std::size_t numColumns);
     RowBuilder(const RowBuilder&) = delete;
     RowBuilder& operator=(const RowBuilder&) = delete;

@@ -16,8 +16,6 @@ namespace mekbom
 {
 namespace
 {
-const int kHashBits = 64;
-
 const std::size_t kFirstNumEntries = 256;              // a column of materials needs no more
 const std::size_t kMostTexts = std::size_t{ 1 } << 16; // with places for twice as many, 2 MB
 
@@ -25,21 +23,6 @@ const std::size_t kMostTexts = std::size_t{ 1 } << 16; // with places for twice 
 const std::size_t kTextsOnTrial = 4096;
 const std::size_t kLooksPerFound = 64;
 const std::size_t kTextsWithoutLook = 1 << 16;
-
-// The key of a text of more than eight bytes. Its lowest byte is zero, so that it is the key of no shorter text.
-// It is made of words of eight bytes, of which the last ends with the text and may overlap the one before: of 20 bytes
-// these are bytes 12 to 19, then 0 to 7 and 8 to 15. The highest bit is set, since the key 0 marks a free place.
-std::uint64_t hashOf(std::string_view bytes)
-{
-    using namespace ByteWord;
-    std::uint64_t hash = load<std::uint64_t>(bytes.data() + bytes.size() - kSize);
-    for (std::size_t i = 0; i + kSize < bytes.size(); i += kSize)
-    {
-        hash = (hash ^ load<std::uint64_t>(bytes.data() + i)) * VorFibonacciHash::kFactor;
-        hash ^= hash >> kHashBits / 2;
-    }
-    return hash << 8 | std::uint64_t{ 1 } << (kHashBits - 1);
-}
 
 bool isAsciiAndSame(char byte, wchar_t character)
 {
@@ -88,7 +71,7 @@ const VorString& TextPool::find(std::string_view bytes)
     if (bytes.size() <= ByteWord::kSize)
         return find(ByteWord::of(bytes));
     ++m_numLooks;
-    const std::uint64_t key = hashOf(bytes);
+    const std::uint64_t key = ByteWord::hashOf(bytes);
     std::size_t place = placeOf(key);
     for (; m_entries[place].key != 0; place = next(place))
         if (m_entries[place].key == key && isSame(m_entries[place].text, bytes))

@@ -1,8 +1,7 @@
 // The type is narrowed down while the cells come in, so that no cell is looked at again before its value is made:
 //
 //   "4"              whole numbers so far
-//   "12345678901"    whole, but beyond 32 bits: texts so far
-//   "12.5"           not whole, and so numbers after all
+//   "12345678901"    whole, but beyond 32 bits: numbers, all of them
 //   "M16"            texts, whatever comes
 //
 // The cells are kept in one text, with the places where they end: a million cells are two allocations that grow.
@@ -10,29 +9,33 @@
 
 #include "NumberReader.h"
 
+#include <algorithm>
+
 namespace mekbom
 {
-// Once a cell was no number the other two flags are not kept up: type() asks for that first.
+// Once a cell was no number the others are not looked at: type() asks for that first.
 void UntypedCells::add(std::string_view cell)
 {
     m_bytes += cell;
     m_ends.push_back(m_bytes.size());
     if (!m_allAreNumbers)
         return;
+    m_allAreNumbers = m_mustBeNumbers || NumberReader::isPlain(cell);
     int whole = 0;
+    if (m_allAreInts && NumberReader::read(cell, whole))
+        return;
+    m_allAreInts = false;
     double number = 0;
-    m_allAreInts = m_allAreInts && NumberReader::read(cell, whole);
-    m_allAreWhole = m_allAreWhole && NumberReader::isWhole(cell);
-    m_allAreNumbers = NumberReader::read(cell, number) && !NumberReader::hasLeadingZeros(cell);
+    int numDecimals = 0;
+    NumberReader::read(cell, number, numDecimals);
+    m_numDecimals = std::max(m_numDecimals, numDecimals);
 }
 
 VorBomDataValue::eBomDataValueType UntypedCells::type() const
 {
     if (m_ends.empty() || !m_allAreNumbers)
         return VorBomDataValue::kStringData;
-    if (m_allAreInts)
-        return VorBomDataValue::kIntData;
-    return m_allAreWhole ? VorBomDataValue::kStringData : VorBomDataValue::kDoubleData;
+    return m_allAreInts ? VorBomDataValue::kIntData : VorBomDataValue::kDoubleData;
 }
 
 VorBomDataValue UntypedCells::takeNext()

@@ -1,11 +1,13 @@
 // The cells of a column that the catalogue of tokens does not know, kept as texts until all have been seen and their
 // one type is clear:
 //
-//   "4", "12"            ->  whole numbers
-//   "4", "12.5"          ->  numbers
-//   "4", "12.5", "M16"   ->  texts
-//   "0417", "12"         ->  texts, as are whole numbers beyond 32 bits: articles and orders are numbered so, and would
-//                            not be shown as they are written
+//   "4", "12"               ->  whole numbers
+//   "4", "12.5"             ->  numbers, as are whole numbers beyond 32 bits
+//   "4", "12.5", "M16"      ->  texts
+//   "0417", "12"            ->  texts, as is whatever else would not be shown as it is written (NumberReader::isPlain):
+//                               articles and orders are numbered so
+//
+// Of a column that must be numbers the cells have been checked by whoever adds them; then "0417" is a number, too.
 #pragma once
 
 #include "TextPool.h"
@@ -22,11 +24,17 @@ namespace mekbom
 class UntypedCells
 {
 public:
+    // From here on all cells are numbers, in whatever form NumberReader reads. To be called before the first add().
+    void takeNumbersAlone() { m_mustBeNumbers = true; }
+
     // `cell` is not empty.
     void add(std::string_view cell);
 
     // The one type that all cells added have: kIntData, kDoubleData or kStringData; kStringData when there are none.
     VorBomDataValue::eBomDataValueType type() const;
+
+    // The most decimals that a cell is written with, 0 to 15. Only where the cells are numbers.
+    int numDecimals() const { return m_numDecimals; }
 
     // The value of the first cell that has not been taken yet. To be called once for each cell, after the last add().
     VorBomDataValue takeNext();
@@ -35,9 +43,10 @@ private:
     std::string m_bytes; // the cells one after the other
     std::vector<std::size_t> m_ends;
     std::size_t m_next = 0; // the cell to be taken next
+    bool m_mustBeNumbers = false;
     bool m_allAreInts = true;
-    bool m_allAreWhole = true;
     bool m_allAreNumbers = true;
+    int m_numDecimals = 0;
     TextPool m_texts;
 };
 }

@@ -1,13 +1,16 @@
 // The order of the steps decides which mistake a user is told of first, and most need what an earlier one has found:
 //
 //   header row of the parts list     says which columns there are
-//   template                         without one named, the candidate that suits these columns best
+//   template                         without one named, the candidate that suits these columns best; if none does, one
+//                                    that shows the columns as they are
 //   settings, units, Report          the template's tokens get their kinds of quantity
 //   records                          are read in these kinds, and only the data that the template asks for
 //   evaluation                       only now is it known how many rows were merged
 #include "ReportJob.h"
 
 #include "ColumnHeading.h"
+#include "ColumnNotes.h"
+#include "ColumnsTemplate.h"
 #include "CsvReader.h"
 #include "DataTokens.h"
 #include "DisplaySettings.h"
@@ -22,6 +25,7 @@
 #include "Utf8.h"
 
 #include "VorBomData.h"
+#include "VorBomDataTuple.h"
 #include "VorBomTokenCatalogue.h"
 
 #include <utility>
@@ -53,10 +57,11 @@ VorUnitsManager unitsOf(const ReportRequest& request)
     return UnitChoice::unitsOf(request.units, request.unitChoices);
 }
 
-[[noreturn]] void refuseInputUnits()
+// The sample rows have no columns that an option could be about.
+[[noreturn]] void refuseForSample(const std::string& option)
 {
     Finding finding = Finding::stating(FindingCodes::kOptionWithoutUse, "the sample data are no parts list");
-    finding.source = "--input-unit";
+    finding.source = option;
     throw Fault(kWrongUsage, finding);
 }
 }
@@ -88,13 +93,17 @@ void ReportJob::openParts()
     if (m_request.pParts == nullptr)
     {
         if (!m_request.inputUnits.empty())
-            refuseInputUnits();
+            refuseForSample("--input-unit");
+        if (!m_request.rowTotals.empty())
+            refuseForSample("--row-totals");
         return;
     }
     m_pRecords = std::make_unique<CsvReader>(*m_request.pParts);
     m_pParts = std::make_unique<PartsList>(*m_pRecords);
     for (const auto& [token, unit] : m_request.inputUnits)
         m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);
+    for (const std::string& token : m_request.rowTotals)
+        m_pParts->setRowTotal(ColumnHeading::tokenOf(token));
 }
 
 ReportTemplate ReportJob::readTemplate()
@@ -115,8 +124,18 @@ ReportTemplate ReportJob::readSuitableTemplate()
     for (const std::unique_ptr<ByteSource>& pCandidate : m_request.candidates)
         candidates.push_back(textOf(*pCandidate));
     const auto hasColumn = [this](const std::string& token) { return m_pParts->find(token) != nullptr; };
-    const NamedText& file = TemplateChoice::choose(m_pRecords->name(), candidates, hasColumn);
-    return TemplateReader::read(file.name, file.text);
+    const NamedText* const pFile = TemplateChoice::choose(candidates, hasColumn);
+    if (pFile == nullptr)
+        return readColumnsTemplate();
+    ReportTemplate reportTemplate = TemplateReader::read(pFile->name, pFile->text);
+    m_findings.add(ColumnNotes::chosen(pFile->name, reportTemplate.title));
+    return reportTemplate;
+}
+
+ReportTemplate ReportJob::readColumnsTemplate()
+{
+    m_findings.add(ColumnNotes::printedAsTheyAre(*m_pParts, m_pRecords->name()));
+    return TemplateReader::read("list of " + m_pRecords->name(), ColumnsTemplate::textOf(m_pParts->columns()));
 }
 
 void ReportJob::readRows()
@@ -125,7 +144,10 @@ void ReportJob::readRows()
         return takeSampleRows();
     noteMissingColumns();
     checkFilterTokens();
-    m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->filterTokens());
+    m_pParts->setOwnTokens(m_pReport->reportTemplate().ownTokens);
+    m_partsFacts = m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->filterTokens());
+    for (const Finding& finding : m_pParts->findings())
+        m_findings.add(finding);
 }
 
 void ReportJob::addFilter()
@@ -146,26 +168,30 @@ void ReportJob::checkFilterTokens() const
                                     m_pReport->reportTemplate().queryFilter.names(token));
 }
 
-// The rows change hands: the sample has to let go of them, or both would delete them.
+// The rows change hands: the sample has to let go of them, or both would delete them. Each is one piece, as a row of a
+// parts list is that does not say how many it stands for.
 void ReportJob::takeSampleRows()
 {
     const std::unique_ptr<VorBomData> pSample(VorBomData::createDefaultData());
-    m_pReport->engineTemplate().getBomData()->setChild(pSample->child());
+    VorBomTemplate& reportTemplate = m_pReport->engineTemplate();
+    reportTemplate.getBomData()->setChild(pSample->child());
     pSample->setChild(nullptr);
+    const VorString piecesToken = Utf8::toWide(PartsList::kPiecesToken);
+    if (!reportTemplate.isTokenRequired(piecesToken))
+        return;
+    for (VorBomItemBase* pRow = reportTemplate.getBomData()->child(); pRow != nullptr; pRow = pRow->next())
+        if (pRow->getTupleAt(piecesToken) == nullptr)
+            pRow->addData(VorBomDataTuple(piecesToken, 1));
 }
 
 void ReportJob::noteMissingColumns()
 {
-    std::string missing;
+    std::vector<std::string> missing;
     for (const std::string& token : DataTokens::of(m_pReport->engineTemplate()))
         if (m_pParts->find(token) == nullptr)
-            missing += (missing.empty() ? "" : ", ") + token;
-    if (missing.empty())
-        return;
-    Finding finding = Finding::saying(FindingCodes::kColumnMissing, m_pRecords->name() + " has no column for " +
-                                                                        missing + ", which the template asks for");
-    finding.source = m_pRecords->name();
-    m_findings.add(finding);
+            missing.push_back(token);
+    if (!missing.empty())
+        m_findings.add(ColumnNotes::missing(*m_pParts, m_pRecords->name(), missing));
 }
 
 void ReportJob::noteMergedRows()

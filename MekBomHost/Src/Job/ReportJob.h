@@ -12,6 +12,7 @@
 
 #include "ExitStatus.h"
 #include "FindingList.h"
+#include "PartsFacts.h"
 #include "PartsList.h"
 #include "RecordSource.h"
 #include "Report.h"
@@ -20,6 +21,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace mekbom
 {
@@ -35,6 +37,9 @@ public:
     // What was found until now. Findings that are no errors may stand beside a report.
     const FindingList& findings() const { return m_findings; }
 
+    // What is known of the rows that were read; of the sample rows, nothing. Only once run() has returned kDone.
+    const PartsFacts& partsFacts() const { return m_partsFacts; }
+
     // The evaluated report, good for as long as the job is. Only once run() has returned kDone.
     EvaluatedReport report() const { return m_pReport->evaluated(); }
 
@@ -48,6 +53,7 @@ private:
     void openParts();
     ReportTemplate readTemplate();
     ReportTemplate readSuitableTemplate();
+    ReportTemplate readColumnsTemplate();
     void addFilter();
     void readRows();
     void checkFilterTokens() const;
@@ -59,6 +65,7 @@ private:
     FindingList m_findings;
     std::unique_ptr<RecordSource> m_pRecords; // null for the sample rows, as m_pParts is
     std::unique_ptr<PartsList> m_pParts;
+    PartsFacts m_partsFacts;
     std::unique_ptr<Report> m_pReport;
 };
 }

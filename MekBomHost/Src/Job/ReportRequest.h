@@ -29,7 +29,8 @@ struct ReportRequest
     Pairs inputUnits;                   // of columns whose heading names none: "%Paint", "m2"
 
     std::unique_ptr<ByteSource> pTemplate; // null: the one of the candidates that suits the parts list best
-    std::vector<std::unique_ptr<ByteSource>> candidates; // in order of preference; none: the default template
+    std::vector<std::unique_ptr<ByteSource>> candidates; // in order of preference; if none suits, the columns are
+                                                         // printed as they are; without any, the default template
 
     Pairs environment;                     // settings of the lowest rank: "C40_SuppressZeroFeet", "0"
     std::unique_ptr<ByteSource> pSettings; // an INI text, over them; may be null

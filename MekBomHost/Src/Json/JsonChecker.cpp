@@ -12,6 +12,7 @@
 
 #include "FindingCodes.h"
 #include "InQuotes.h"
+#include "NearestWord.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -45,6 +46,15 @@ std::string alternatives(const std::vector<std::string>& names)
         text += inQuotes(names[i]);
     }
     return text;
+}
+
+// That a word is none of `names`; `what` it is stands before it in the message.
+Finding noneOf(const std::vector<std::string>& names, const FindingCode& code, const std::string& what,
+               const std::string& word)
+{
+    Finding finding = Finding::of(code, what + inQuotes(word), alternatives(names));
+    finding.remedy = NearestWord::question(word, names);
+    return finding;
 }
 
 // The member, reached as the object is and by its key.
@@ -107,8 +117,7 @@ int JsonChecker::choiceOf(const JsonItem& object, const std::string& key, const 
     const auto found = std::find(names.begin(), names.end(), pNode->text);
     if (found != names.end())
         return static_cast<int>(found - names.begin());
-    add(memberOf(object, key, *pNode),
-        Finding::of(FindingCodes::kNameUnknown, inQuotes(pNode->text), alternatives(names)));
+    add(memberOf(object, key, *pNode), noneOf(names, FindingCodes::kNameUnknown, "", pNode->text));
     return -1;
 }
 
@@ -138,8 +147,7 @@ bool JsonChecker::isObjectOf(const JsonItem& item, const std::vector<std::string
         return false;
     for (const JsonNode& member : item.node.children)
         if (std::find(keys.begin(), keys.end(), member.key) == keys.end())
-            addAt(member.keySpan, item.path,
-                  Finding::of(FindingCodes::kKeyUnknown, "unknown key " + inQuotes(member.key), alternatives(keys)));
+            addAt(member.keySpan, item.path, noneOf(keys, FindingCodes::kKeyUnknown, "unknown key ", member.key));
     return true;
 }
 

@@ -1,7 +1,8 @@
 #include "Program.h"
 
+#include "AllVerbs.h"
+#include "Commands.h"
 #include "Fault.h"
-#include "FindingCodes.h"
 #include "Guard.h"
 #include "ReportVerb.h"
 #include "StandardOutput.h"
@@ -17,21 +18,8 @@ namespace
 {
 const char* const kVersion = "mekbom " MEK_VERSION;
 
-// The help of the command that was asked for, be it one within another: for `mekbom units convert --help` that of
-// convert, whose usage begins with "mekbom units convert".
-std::string helpOf(const CLI::App& app)
-{
-    const CLI::App* pCommand = &app;
-    std::string parents;
-    while (!pCommand->get_subcommands().empty())
-    {
-        parents += (parents.empty() ? "" : " ") + pCommand->get_name();
-        pCommand = pCommand->get_subcommands().front();
-    }
-    return pCommand->help(parents);
-}
-
-// Parses and gives the text to print instead of running a verb, if that is what was asked for: help or the version.
+// Parses and gives the text to print instead of running a verb, if that is what was asked for: help or the version. Who
+// asks for the help of a command that there is not is told so; otherwise help is given whatever else stands there.
 std::string parse(CLI::App& app, int numArguments, const char* const* arguments)
 {
     try
@@ -40,7 +28,8 @@ std::string parse(CLI::App& app, int numArguments, const char* const* arguments)
     }
     catch (const CLI::CallForHelp&)
     {
-        return helpOf(app);
+        Commands::checkCommandsIn(app);
+        return Commands::helpOf(Commands::calledIn(app));
     }
     catch (const CLI::CallForVersion& version)
     {
@@ -48,8 +37,7 @@ std::string parse(CLI::App& app, int numArguments, const char* const* arguments)
     }
     catch (const CLI::ParseError& error)
     {
-        throw Fault(kWrongUsage,
-                    Finding::stating(FindingCodes::kWrongArguments, error.what() + std::string("; see mekbom --help")));
+        throw Fault(kWrongUsage, Commands::explain(app, error));
     }
     return std::string();
 }

@@ -9,6 +9,7 @@
 
 #include "VorBomTemplate.h"
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -17,4 +18,13 @@ namespace mekbom::DataTokens
 // Sorted as the template's token trace is, each name once. In UTF-8. The template finds its used tokens for that,
 // unless it has done so.
 std::vector<std::string> of(VorBomTemplate& reportTemplate);
+
+// Whether rows may carry a datum of that name: not what steers, sums or computes others.
+//   DataTokens::isDatum(L"%Weight")         ->  true
+//   DataTokens::isDatum(L"%SumBy:%Weight")  ->  false
+bool isDatum(const VorString& token);
+
+// Those of them that it sums or computes with, so that their values have to be numbers: above these are "%Weight" and
+// "%Length".
+std::set<std::string> computedWith(VorBomTemplate& reportTemplate);
 }

@@ -4,8 +4,6 @@
 #include "TemplateChoice.h"
 
 #include "DataTokens.h"
-#include "Fault.h"
-#include "FindingCodes.h"
 #include "TemplateReader.h"
 
 #include <algorithm>
@@ -35,19 +33,10 @@ Cover coverOf(const NamedText& file, const std::function<bool(const std::string&
     cover.numTokens = std::max<std::size_t>(tokens.size(), 1);
     return cover;
 }
-
-Finding noneSuits(const std::string& dataName)
-{
-    Finding finding = Finding::of(FindingCodes::kNoSuitableTemplate, "columns that suit no shipped template",
-                                  "columns such as %Name, %Material, %Quantity, %Length and %Weight, or option "
-                                  "--template");
-    finding.source = dataName;
-    return finding;
-}
 }
 
 // Of candidates that suit the columns equally well the first one stays, so their order is part of the rule.
-const NamedText& choose(const std::string& dataName, const std::vector<NamedText>& candidates,
+const NamedText* choose(const std::vector<NamedText>& candidates,
                         const std::function<bool(const std::string&)>& hasColumn)
 {
     const NamedText* pBest = nullptr;
@@ -60,8 +49,6 @@ const NamedText& choose(const std::string& dataName, const std::vector<NamedText
         pBest = &candidate;
         best = cover;
     }
-    if (pBest == nullptr || !best.isHalf())
-        throw Fault(kInvalidInput, noneSuits(dataName));
-    return *pBest;
+    return best.isHalf() ? pBest : nullptr;
 }
 }

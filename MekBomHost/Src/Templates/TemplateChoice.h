@@ -3,8 +3,8 @@
 //
 //   columns %BoltName, %Standard, %Material, %Diameter, %Length, %Quantity   ->   bolt-list.json, all six of six
 //
-//   const NamedText& file = TemplateChoice::choose("parts.csv", files, hasColumn);
-//   ReportTemplate list = TemplateReader::read(file.name, file.text);
+//   if (const NamedText* const pFile = TemplateChoice::choose(files, hasColumn))
+//       list = TemplateReader::read(pFile->name, pFile->text);
 #pragma once
 
 #include "NamedText.h"
@@ -15,9 +15,9 @@
 
 namespace mekbom::TemplateChoice
 {
-// That one of `candidates`, which are template files in order of preference; good for as long as they are. `hasColumn`
-// answers for a token such as "%Name". Throws a Fault of status kInvalidInput: in the name of `dataName` when none
-// suits, as TemplateReader does when one is malformed.
-const NamedText& choose(const std::string& dataName, const std::vector<NamedText>& candidates,
+// That one of `candidates`, which are template files in order of preference; good for as long as they are. Null when
+// none suits. `hasColumn` answers for a token such as "%Name". Throws a Fault of status kInvalidInput, as TemplateReader
+// does, when one is malformed.
+const NamedText* choose(const std::vector<NamedText>& candidates,
                         const std::function<bool(const std::string&)>& hasColumn);
 }

@@ -2,6 +2,8 @@
 // their bytes, whose end no processor foresees.
 #pragma once
 
+#include "MekRoots/Exp/VorFibonacciHash.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -48,5 +50,21 @@ inline std::string_view write(std::uint64_t word, char (&bytes)[kSize])
     for (; size < kSize && word != 0; word >>= 8)
         bytes[size++] = static_cast<char>(word & 0xFF);
     return std::string_view(bytes, size);
+}
+
+// Stands for a text of more than kSize bytes in a table where shorter ones stand as `of` gives them. Its lowest byte is
+// zero, as no text's first byte is, so that it is the word of no shorter text; its highest bit is set, so that it is
+// never zero. Different texts may have the same.
+// It is made of words of eight bytes, of which the last ends with the text and may overlap the one before: of 20 bytes
+// these are bytes 12 to 19, then 0 to 7 and 8 to 15.
+inline std::uint64_t hashOf(std::string_view bytes)
+{
+    std::uint64_t hash = load<std::uint64_t>(bytes.data() + bytes.size() - kSize);
+    for (std::size_t i = 0; i + kSize < bytes.size(); i += kSize)
+    {
+        hash = (hash ^ load<std::uint64_t>(bytes.data() + i)) * VorFibonacciHash::kFactor;
+        hash ^= hash >> 32;
+    }
+    return hash << 8 | std::uint64_t{ 1 } << 63;
 }
 }

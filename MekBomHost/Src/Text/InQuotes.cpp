@@ -15,10 +15,10 @@ bool isControl(int codePoint)
 }
 }
 
-std::string inQuotes(std::string_view text)
+std::string inQuotes(std::string_view text, int most)
 {
     std::string result = "\"";
-    for (int n = 0; n < kMostQuoted && !text.empty(); ++n)
+    for (int n = 0; n < most && !text.empty(); ++n)
     {
         const int codePoint = Utf8::takeCodePoint(text);
         Utf8::appendCodePoint(result, isControl(codePoint) ? '?' : codePoint);

@@ -12,7 +12,7 @@ namespace mekbom
 {
 constexpr int kMostQuoted = 60; // characters; arbitrary: leaves room for the rest of the message
 
-// `text`, UTF-8, in double quotes; control characters become '?', and what goes past kMostQuoted characters is cut to
+// `text`, UTF-8, in double quotes; control characters become '?', and what goes past `most` characters is cut to
 // "...". A byte that is no UTF-8 becomes U+FFFD.
-std::string inQuotes(std::string_view text);
+std::string inQuotes(std::string_view text, int most = kMostQuoted);
 }

@@ -20,6 +20,8 @@ namespace
 {
 using VorCharacters::isDigit;
 
+const int kMostDecimals = std::numeric_limits<double>::digits10;
+
 struct PlainNumber
 {
     std::int64_t digits = 0;     // 1250
@@ -33,7 +35,7 @@ struct PlainNumber
 bool readPlain(std::string_view text, PlainNumber& number)
 {
     const std::size_t size = text.size();
-    if (size == 0 || size > static_cast<std::size_t>(std::numeric_limits<double>::digits10))
+    if (size == 0 || size > static_cast<std::size_t>(kMostDecimals))
         return false;
     std::size_t numBehindPoint = 0;
     for (std::size_t i = 0; i < size; ++i)
@@ -58,6 +60,29 @@ std::string_view withoutBlanks(std::string_view text)
 std::string_view withoutPlus(std::string_view text)
 {
     return text.size() > 1 && text[0] == '+' && text[1] != '-' ? text.substr(1) : text;
+}
+
+// Of a text that is a number:  mantissa 'e' exponent. An exponent beyond an int is that of zero, "0e9999999999".
+int numDecimalsBeforeExponent(std::string_view number)
+{
+    const std::size_t mantissaEnd = std::min(number.find_first_of("eE"), number.size());
+    const std::size_t point = number.substr(0, mantissaEnd).find('.');
+    const auto numWritten = static_cast<long long>(point < mantissaEnd ? mantissaEnd - point - 1 : 0);
+    int exponent = 0;
+    if (mantissaEnd < number.size())
+        read(number.substr(mantissaEnd + 1), exponent);
+    return static_cast<int>(std::clamp<long long>(numWritten - exponent, 0, kMostDecimals));
+}
+
+// Of a text that is a number. Most that come here have a point and digits up to the end.
+int numDecimalsOf(std::string_view number)
+{
+    std::size_t numDigits = 0;
+    while (numDigits < number.size() && isDigit(number[number.size() - numDigits - 1]))
+        ++numDigits;
+    if (numDigits < number.size() && number[number.size() - numDigits - 1] == '.')
+        return static_cast<int>(std::min<std::size_t>(numDigits, kMostDecimals));
+    return numDecimalsBeforeExponent(number);
 }
 
 std::string_view withoutSign(std::string_view text)
@@ -90,16 +115,24 @@ bool read(std::string_view text, int& value)
 
 bool read(std::string_view text, double& value)
 {
+    int numDecimals = 0;
+    return read(text, value, numDecimals);
+}
+
+bool read(std::string_view text, double& value, int& numDecimals)
+{
     PlainNumber plain;
     if (readPlain(text, plain))
     {
         value = static_cast<double>(plain.digits) / VorPowersOfTen::kAll<double>[plain.numDecimals];
+        numDecimals = static_cast<int>(plain.numDecimals);
         return true;
     }
     double number = 0;
     if (!readAny(text, number) || !std::isfinite(number))
         return false;
     value = number;
+    numDecimals = numDecimalsOf(withoutBlanks(text));
     return true;
 }
 
@@ -109,9 +142,24 @@ bool isWhole(std::string_view text)
     return !text.empty() && std::all_of(text.begin(), text.end(), isDigit<char>);
 }
 
-bool hasLeadingZeros(std::string_view text)
+std::string_view withoutZeroDecimals(std::string_view text)
+{
+    text = withoutBlanks(text);
+    const std::size_t point = text.find('.');
+    if (point == std::string_view::npos || text.find_first_not_of('0', point + 1) != std::string_view::npos)
+        return text;
+    return text.substr(0, point);
+}
+
+// plain := [ sign ] digits [ '.' [ digits ] ] | [ sign ] '.' digits
+bool isPlain(std::string_view text)
 {
     text = withoutSign(withoutBlanks(text));
-    return text.size() > 1 && text[0] == '0' && isDigit(text[1]);
+    const std::size_t point = std::min(text.find('.'), text.size());
+    const std::string_view whole = text.substr(0, point);
+    const std::string_view decimals = text.substr(std::min(point + 1, text.size()));
+    return !(whole.empty() && decimals.empty()) && std::all_of(whole.begin(), whole.end(), isDigit<char>) &&
+           std::all_of(decimals.begin(), decimals.end(), isDigit<char>) &&
+           whole.size() <= static_cast<std::size_t>(kMostDecimals) && !(whole.size() > 1 && whole[0] == '0');
 }
 }

@@ -15,9 +15,18 @@ namespace mekbom::NumberReader
 bool read(std::string_view text, int& value);
 bool read(std::string_view text, double& value);
 
+// The same, and sets `numDecimals` to how many digits the number is written with behind its point, up to 15, since a
+// double has no more: "12.50" has 2, "1.5e-3" has 4 and "15e3" has none. Untouched when the text is no number.
+bool read(std::string_view text, double& value, int& numDecimals);
+
 // True for digits with an optional sign, however many: also for a whole number that no int holds.
 bool isWhole(std::string_view text);
 
-// True when the number loses something by being read as one: "007" is an article number, not seven.
-bool hasLeadingZeros(std::string_view text);
+// The text without a point behind which there are zeros alone: "4" of "4.000". Others stay as they are.
+std::string_view withoutZeroDecimals(std::string_view text);
+
+// True for a number that can be written again as it was: digits with an optional sign and point. "007" is an article
+// number and not seven, "1E5" more likely a mark than a hundred thousand, and of the eighteen digits of
+// "340123450000000018" a double would keep fifteen.
+bool isPlain(std::string_view text);
 }

@@ -5,14 +5,28 @@
 
 namespace mekbom
 {
-// std::to_chars alone would take the shorter of both ways of writing, "1e+06" for a million.
-std::string numberText(double number)
+namespace
 {
-    const double size = std::fabs(number);
-    const bool isPlain = size == 0 || (size >= 1e-5 && size < 1e15);
+// std::to_chars alone would take the shorter of both ways of writing, "1e+06" for a million.
+template <class Number>
+std::string shortestText(Number number)
+{
+    const Number size = std::fabs(number);
+    const bool isPlain = size == 0 || (size >= Number(1e-5) && size < Number(1e15));
     char text[40]; // sign, "0.0000" and 17 digits, or an exponent
     const std::to_chars_result end = std::to_chars(text, text + sizeof(text), number,
                                                    isPlain ? std::chars_format::fixed : std::chars_format::scientific);
     return std::string(text, end.ptr);
+}
+}
+
+std::string numberText(double number)
+{
+    return shortestText(number);
+}
+
+std::string singleText(float number)
+{
+    return shortestText(number);
 }
 }

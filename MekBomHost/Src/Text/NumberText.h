@@ -11,4 +11,8 @@ namespace mekbom
 //   numberText(0.1)    ->  "0.1"
 //   numberText(1e-6)   ->  "1e-06"
 std::string numberText(double number);
+
+// The same for a number of single precision, which takes fewer digits to identify.
+//   singleText(0.1F)   ->  "0.1", where numberText(0.1F) is "0.10000000149011612"
+std::string singleText(float number);
 }

@@ -8,6 +8,7 @@
 #include "FindingCodes.h"
 #include "InQuotes.h"
 #include "IniFile.h"
+#include "NearestWord.h"
 #include "NumberReader.h"
 
 #include <algorithm>
@@ -46,6 +47,21 @@ std::string namesOfAll()
     return names;
 }
 
+Finding unknown(const std::string& name)
+{
+    Finding finding = Finding::of(FindingCodes::kSettingUnknown, inQuotes(name), "one of " + namesOfAll());
+    finding.remedy = NearestWord::question(name, DisplaySettings::names());
+    return finding;
+}
+
+Finding unused(const std::string& name, const std::string& fileName)
+{
+    Finding finding =
+        Finding::saying(FindingCodes::kSettingUnused, fileName + " sets " + name + ", which lists do not use");
+    finding.remedy = NearestWord::question(name, DisplaySettings::names());
+    return finding;
+}
+
 Finding noWholeNumber(const std::string& found)
 {
     return Finding::of(FindingCodes::kSettingIsNoNumber, found, "a whole number");
@@ -79,8 +95,7 @@ void readFile(const NamedText& file, DisplaySettings& settings, FindingList& fin
         if (pSetting != nullptr)
             settings.*pSetting->pNumber = number;
         else
-            findings.add(ini.aboutEntry(Finding::saying(FindingCodes::kSettingUnused, file.name + " sets " + ini.key() +
-                                                                                          ", which lists do not use")));
+            findings.add(ini.aboutEntry(unused(ini.key(), file.name)));
     }
 }
 
@@ -88,7 +103,7 @@ void readOption(const std::string& name, const std::string& value, DisplaySettin
 {
     const Setting* const pSetting = findSetting(name);
     if (pSetting == nullptr)
-        failUsage("--setting", Finding::of(FindingCodes::kSettingUnknown, inQuotes(name), "one of " + namesOfAll()));
+        failUsage("--setting", unknown(name));
     if (!NumberReader::read(value, settings.*pSetting->pNumber))
         failUsage("--setting " + name, noWholeNumber(inQuotes(value)));
 }

@@ -7,6 +7,7 @@
 #include "FindingCodes.h"
 #include "InQuotes.h"
 #include "IniFile.h"
+#include "NearestWord.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 
@@ -18,12 +19,22 @@ namespace
 {
 const char* const kBaseKey = "base";
 
+Finding unknownKind(const std::string& kind)
+{
+    std::vector<std::string> names;
+    for (const UnitKind& known : UnitKinds::all())
+        names.push_back(known.name);
+    Finding finding = Finding::of(FindingCodes::kKindUnknown, inQuotes(kind), "one of " + UnitKinds::names());
+    finding.remedy = NearestWord::question(kind, names);
+    return finding;
+}
+
 // Each of these takes the choice, or says what is wrong with it.
 std::optional<Finding> choose(VorUnitsManager& units, const std::string& kind, const std::string& unit)
 {
     const UnitKind* const pKind = UnitKinds::find(kind);
     if (pKind == nullptr)
-        return Finding::of(FindingCodes::kKindUnknown, inQuotes(kind), "one of " + UnitKinds::names());
+        return unknownKind(kind);
     if (units.setUnit(pKind->system, Utf8::toWide(unit)) == 1)
         return std::nullopt;
     return Finding::of(FindingCodes::kUnitUnknown, inQuotes(unit),
@@ -33,7 +44,11 @@ std::optional<Finding> choose(VorUnitsManager& units, const std::string& kind, c
 std::optional<Finding> chooseBase(VorUnitsManager& units, const std::string& base)
 {
     if (!isBase(base))
-        return Finding::of(FindingCodes::kBaseUnknown, inQuotes(base), "metric or imperial");
+    {
+        Finding finding = Finding::of(FindingCodes::kBaseUnknown, inQuotes(base), "metric or imperial");
+        finding.remedy = NearestWord::question(base, { kMetric, kImperial });
+        return finding;
+    }
     units = base == kMetric ? VorUnitsManager::metric() : VorUnitsManager::imperial();
     return std::nullopt;
 }

@@ -24,15 +24,15 @@ const UnitKind* findIf(const Predicate& isWanted)
 const std::array<UnitKind, Systems::kNumSystems>& all()
 {
     static constexpr std::array<UnitKind, Systems::kNumSystems> kKinds = { {
-        { Systems::kDistance, "length", "distance", "a unit of distance such as mm, m, in or ft" },
-        { Systems::kAngle, "angle", "", "a unit of angle such as rad or deg" },
-        { Systems::kWeight, "weight", "", "a unit of weight such as kg or lb" },
-        { Systems::kArea, "area", "", "a unit of area such as mm2, m2 or ft2" },
+        { Systems::kDistance, "length", "distance", "a unit of distance such as mm, m, in or ft", "" },
+        { Systems::kAngle, "angle", "", "a unit of angle such as rad or deg", "" },
+        { Systems::kWeight, "weight", "", "a unit of weight such as kg or lb", "" },
+        { Systems::kArea, "area", "", "a unit of area such as mm2, m2 or ft2", "m2" },
         { Systems::kWeightPerDistance, "weight-per-length", "weight-per-distance",
-          "a unit of weight per distance such as kg/m or lb/ft" },
+          "a unit of weight per distance such as kg/m or lb/ft", "kg/m" },
         { Systems::kAreaPerDistance, "area-per-length", "area-per-distance",
-          "a unit of area per distance such as m2/m or ft2/ft" },
-        { Systems::kDensity, "density", "", "a unit of density such as kg/m3 or lb/ft3" },
+          "a unit of area per distance such as m2/m or ft2/ft", "m2/m" },
+        { Systems::kDensity, "density", "", "a unit of density such as kg/m3 or lb/ft3", "kg/m3" },
     } };
     return kKinds;
 }

@@ -25,6 +25,7 @@ struct UnitKind
     const char* name;        // as the command line and units files have it: "length"
     const char* otherName;   // a second word for the same, "distance"; empty without one
     const char* expectation; // what a message says was expected
+    const char* usualUnit;   // "m2", which files mean where they name no unit; empty where that is the model's
 };
 
 namespace UnitKinds

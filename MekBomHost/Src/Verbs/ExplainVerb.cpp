@@ -1,5 +1,8 @@
 #include "ExplainVerb.h"
 
+#include "DataFile.h"
+#include "DisplaySettings.h"
+#include "Environment.h"
 #include "ExplainedReport.h"
 #include "Fault.h"
 #include "FileSource.h"
@@ -8,6 +11,7 @@
 #include "LineInWords.h"
 #include "ReportJob.h"
 #include "StandardOutput.h"
+#include "TemplateFile.h"
 #include "TemplateInWords.h"
 #include "TemplateReader.h"
 #include "UnitChoice.h"
@@ -22,9 +26,6 @@ namespace mekbom
 {
 namespace
 {
-const char* const kStandardStream = "-";
-const char* const kDefaultTemplate = "default";
-
 const char* const kNotes = R"(Without --data the template alone is told: what each level groups, sorts, shows, adds up
 and computes. With data the lines of the list follow, each with its number, and with
 --line that line alone is told: the rows that made it, each total written out as an
@@ -39,7 +40,7 @@ The options that say which rows are listed, and in which units, must be those th
 printed with.
 
 Examples
-  mekbom explain list.json
+  mekbom explain bolt-list
   mekbom explain list.json --data parts.csv
   mekbom explain list.json --data parts.csv --line 3 --units imperial
 
@@ -60,12 +61,13 @@ CLI::App& ExplainVerb::declareOn(CLI::App& parent)
 {
     CLI::App& explain = *parent.add_subcommand("explain", "Say in words what a template or a line of a list is");
     explain.footer(kNotes);
-    explain.add_option("template", m_templateName, "Template file, or default for the built-in one")->required();
-    explain.add_option("--data", m_data, "Parts list; - reads standard input")->type_name("FILE");
+    explain.add_option("template", m_templateName, "Template file, a shipped list by its name, or default")->required();
+    m_data.declareOn(explain, "Parts list; - reads standard input, hall takes the shipped one");
     explain.add_option("--line", m_line, "Line of the list to tell of, from 1")->type_name("NUMBER");
     explain.add_option("--units", m_units, "Units of the list: metric, imperial or a file of units [metric]")
         ->type_name("UNITS");
     m_unitChoices.declareOn(explain, "Unit and precision of one kind, such as length=ft-in/16");
+    m_settings.declareOn(explain, "How numbers are laid out, such as C40_SuppressZeroFeet=0");
     m_inputUnits.declareOn(explain, "Unit of a column whose header names none");
     explain.add_option("--where", m_where, "Which rows are listed")->type_name("CONDITION");
     explain.add_option("--row-totals", m_rowTotals, "Columns whose values are those of all pieces of a row")
@@ -79,7 +81,7 @@ CLI::App& ExplainVerb::declareOn(CLI::App& parent)
 
 ExitStatus ExplainVerb::run(FindingList& findings)
 {
-    if (!m_data.empty())
+    if (!m_data.name().empty())
         return explainList(findings);
     if (m_line)
         refuseLineWithoutData();
@@ -89,10 +91,13 @@ ExitStatus ExplainVerb::run(FindingList& findings)
 ExitStatus ExplainVerb::explainTemplate() const
 {
     ReportTemplate reportTemplate;
-    if (m_templateName == kDefaultTemplate)
+    if (m_templateName == TemplateFile::kDefault)
         reportTemplate.pTemplate.reset(VorBomTemplate::createDefaultTemplate());
     else
-        reportTemplate = TemplateReader::read(m_templateName, FileSource(m_templateName).readAll());
+    {
+        const std::unique_ptr<ByteSource> pFile = TemplateFile::open(m_templateName, "template");
+        reportTemplate = TemplateReader::read(pFile->name(), pFile->readAll());
+    }
     StandardOutput::print(TemplateInWords(reportTemplate).text());
     return kDone;
 }
@@ -115,9 +120,11 @@ ExitStatus ExplainVerb::explainList(FindingList& findings) const
 ReportRequest ExplainVerb::request() const
 {
     ReportRequest request;
-    request.pParts = m_data == kStandardStream ? std::make_unique<FileSource>() : std::make_unique<FileSource>(m_data);
-    if (m_templateName != kDefaultTemplate)
-        request.pTemplate = std::make_unique<FileSource>(m_templateName);
+    request.pParts = DataFile::open(m_data.name());
+    if (m_templateName != TemplateFile::kDefault)
+        request.pTemplate = TemplateFile::open(m_templateName, "template");
+    request.environment = Environment::variables(DisplaySettings::names());
+    request.settings = m_settings.pairs();
     std::error_code error;
     if (!UnitChoice::isBase(m_units) && std::filesystem::exists(m_units, error))
         request.pUnits = std::make_unique<FileSource>(m_units);

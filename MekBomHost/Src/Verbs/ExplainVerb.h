@@ -5,6 +5,7 @@
 //   mekbom explain list.json --data parts.csv --line 3     the template's words give way to those about line 3
 #pragma once
 
+#include "FileOption.h"
 #include "PairOption.h"
 #include "ReportRequest.h"
 #include "Verb.h"
@@ -26,11 +27,12 @@ private:
     ExitStatus explainList(FindingList& findings) const;
     ReportRequest request() const;
 
-    std::string m_templateName; // a file or "default"
-    std::string m_data;         // a file, "-" or empty
+    std::string m_templateName; // a file, a shipped list or "default"
+    FileOption m_data{ "--data", "FILE" };
     std::optional<int> m_line;
     std::string m_units = "metric";
     PairOption m_unitChoices{ "--unit", "KIND=UNIT", "length=ft-in/16" };
+    PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
     PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
     std::string m_where;
     std::vector<std::string> m_rowTotals;

@@ -1,14 +1,18 @@
 // Files are named here and read by the job, so that this verb and a program that has its texts in memory differ in
 // their sources alone:
 //
-//   --data -             a FileSource of standard input        --template default   no source and no candidates
-//   --data sample        no source: the built-in rows          no --template        a source for each shipped template
-//   no --data            a FileSource of the shipped hall      --units house.ini    a source, if there is such a file
+//   --data -             a FileSource of standard input      --template default     no source and no candidates
+//   --data hall          a FileSource of the shipped hall    --template bolt-list   a FileSource of the shipped list
+//   --data sample        no source: the built-in rows        no --template          a source for each shipped list
+//                                                            --units house.ini      a source, if there is such a file
 //
+// A word wins over a file of the same name, so that a command means the same in every folder; "./hall" is the file.
 // The list is written only once all of it has been evaluated.
 #include "ReportVerb.h"
 
+#include "DataFile.h"
 #include "DisplaySettings.h"
+#include "Environment.h"
 #include "Fault.h"
 #include "FileSource.h"
 #include "FindingCodes.h"
@@ -17,11 +21,11 @@
 #include "ReportFormats.h"
 #include "ShippedFiles.h"
 #include "StandardOutput.h"
+#include "TemplateFile.h"
 #include "UnitChoice.h"
 
 #include <CLI/CLI.hpp>
 
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -30,37 +34,30 @@ namespace mekbom
 {
 namespace
 {
-const char* const kStandardStream = "-"; // as data or output
+const char* const kStandardOutput = "-";
 const char* const kSampleData = "sample";
-const char* const kDefaultTemplate = "default";
 
-void addFile(CLI::App& command, const std::string& name, std::string& file, const std::string& help)
+[[noreturn]] void failAt(const std::string& option, Finding finding)
 {
-    command.add_option(name, file, help)->type_name("FILE");
-}
-
-// The variables of the process that are named like a setting, with what they hold.
-ReportRequest::Pairs environment()
-{
-    ReportRequest::Pairs variables;
-    for (const std::string& name : DisplaySettings::names())
-        if (const char* const pValue = std::getenv(name.c_str())) // NOLINT(concurrency-mt-unsafe): nobody changes it
-            variables.emplace_back(name, pValue);
-    return variables;
+    finding.source = option;
+    throw Fault(kWrongUsage, finding);
 }
 }
 
 const char* const ReportVerb::kNotes = R"(Data
   A parts list is comma-separated text in UTF-8. Its header row names tokens, with or
-  without the leading %, and may give a unit in brackets: Length [ft]. Numbers without a
-  unit are in mm, kg, rad and what follows from them (mm2, kg/mm ...). A cell may carry
-  a unit of its own: 7'-6 1/2", 7.5 ft. Empty cells are no data. Handle is the identity of
-  the object.
+  without the leading %, and may give a unit in brackets: Length [ft]. Lengths, weights
+  and angles without a unit are in mm, kg and rad; areas, densities and values per length
+  need one: Paint [m2], or --input-unit %Paint=m2. A cell may carry a unit of its own:
+  7'-6 1/2", 7.5 ft. Empty cells are no data. Handle is the identity of the object,
+  Quantity how many of them a row stands for (1 where it does not say). Other values are
+  those of one piece, or of all in the columns that --row-totals names.
 
 Template
-  Without --template the shipped template is taken that finds the greatest part of its
-  data among the columns; of equals the first of cutting-list, assembly-list, bolt-list,
-  parts-list. The sample data go with the default template.
+  The shipped lists go by name: cutting-list, assembly-list, bolt-list, parts-list.
+  Without --template the one is taken that finds the greatest part of its data among the
+  columns; of equals the first. Data that suit none are printed as they are. The sample
+  data go with the default template.
 
 Units
   KIND is length, angle, weight, area, weight-per-length, area-per-length or density. UNIT
@@ -78,10 +75,11 @@ Settings
   C40_SuppressZeroFeet = 0, comes over them, and --setting over both.
 
 Examples
-  mekbom report
+  mekbom demo
   mekbom report --data parts.csv
+  mekbom report --data parts.csv --template cutting-list
   mekbom report --data parts.csv --template list.json --units imperial -o list.txt
-  mekbom report --unit length=ft-in/32 --setting C40_ShowMinusBetweenFeetAndInch=1
+  mekbom report --data hall --unit length=ft-in/32 --setting C40_SuppressZeroFeet=0
   mekbom report --data frame.csv --input-unit %Paint=m2
   sed 1d export.csv | mekbom report --data -
   mekbom report --data sample --template default
@@ -98,27 +96,31 @@ CLI::App& ReportVerb::declareOn(CLI::App& parent)
 {
     CLI::App& report = *parent.add_subcommand("report", "Print a list from a parts list and a template");
     report.footer(kNotes);
-    addFile(report, "--data", m_data,
-            "Parts list; - reads standard input, sample takes built-in rows [the shipped hall]");
-    addFile(report, "--template", m_templateName,
-            "Template file, or default for the built-in one [a shipped one that suits the data]");
-    report.add_option("--units", m_units, "Units to print in: metric, imperial or a file of units [metric]")
+    m_data.declareOn(report, "Parts list; - reads standard input, hall takes the shipped one, sample built-in rows");
+    declareOptionsOn(report);
+    return report;
+}
+
+void ReportVerb::declareOptionsOn(CLI::App& command)
+{
+    m_template.declareOn(command,
+                         "Template file, a shipped list by its name, or default [the list that suits the data]");
+    command.add_option("--units", m_units, "Units to print in: metric, imperial or a file of units [metric]")
         ->type_name("UNITS");
-    m_unitChoices.declareOn(report, "Unit and precision of one kind, such as length=ft-in/16");
-    addFile(report, "--settings", m_settingsFile, "INI file that says how numbers are shown");
-    m_settings.declareOn(report, "One of the settings below");
-    addFile(report, "-o,--output", m_output, "File to write, - for standard output [-]");
-    m_inputUnits.declareOn(report, "Unit of a column whose header names none");
-    report.add_option("--where", m_where, "Which rows to list, such as \"%Material = 'S355' and %Length > 6 m\"")
+    m_unitChoices.declareOn(command, "Unit and precision of one kind, such as length=ft-in/16");
+    m_settingsFile.declareOn(command, "INI file that says how numbers are shown");
+    m_settings.declareOn(command, "How numbers are laid out, such as C40_SuppressZeroFeet=0");
+    m_output.declareOn(command, "File to write, - for standard output [-]");
+    m_inputUnits.declareOn(command, "Unit of a column whose header names none");
+    command.add_option("--where", m_where, "Which rows to list, such as \"%Material = 'S355' and %Length > 6 m\"")
         ->type_name("CONDITION");
-    report.add_option("--row-totals", m_rowTotals, "Columns whose values are those of all pieces of a row")
+    command.add_option("--row-totals", m_rowTotals, "Columns whose values are those of all pieces of a row")
         ->type_name("TOKEN,...")
         ->delimiter(',');
-    report.add_option("--allow", m_allowed, "Mistakes that stop no report, such as MB105")
+    command.add_option("--allow", m_allowed, "Mistakes that stop no report, such as MB105")
         ->type_name("CODE,...")
         ->delimiter(',');
-    report.add_flag("--check-totals", m_checksTotals, "Add up every total a second time, from the rows");
-    return report;
+    command.add_flag("--check-totals", m_checksTotals, "Add up every total a second time, from the rows");
 }
 
 // The output is opened only once there is a report: a run that fails leaves the list of the run before as it was.
@@ -148,32 +150,40 @@ ReportRequest ReportVerb::request() const
     request.checksTotals = m_checksTotals;
     request.pParts = parts();
     addTemplates(request);
-    request.environment = environment();
-    if (!m_settingsFile.empty())
-        request.pSettings = std::make_unique<FileSource>(m_settingsFile);
+    request.environment = Environment::variables(DisplaySettings::names());
+    if (const std::string settingsFile = m_settingsFile.name(); !settingsFile.empty())
+        request.pSettings = std::make_unique<FileSource>(settingsFile);
     addUnits(request);
     return request;
 }
 
+std::string ReportVerb::dataName() const
+{
+    const std::string name = m_data.name();
+    if (!name.empty())
+        return name;
+    Finding finding = Finding::of(FindingCodes::kWrongArguments, "no --data", "a parts list");
+    finding.remedy = "mekbom report --data FILE lists its parts, mekbom demo those of the shipped hall";
+    failAt("report", finding);
+}
+
 std::unique_ptr<ByteSource> ReportVerb::parts() const
 {
-    if (isSample())
-        return nullptr;
-    if (m_data == kStandardStream)
-        return std::make_unique<FileSource>();
-    return std::make_unique<FileSource>(m_data.empty() ? ShippedFiles::find(ShippedFiles::kPartsList) : m_data);
+    const std::string name = dataName();
+    return name == kSampleData ? nullptr : DataFile::open(name);
 }
 
 // The sample data go with the default template, unless another one is named.
 void ReportVerb::addTemplates(ReportRequest& request) const
 {
-    if (m_templateName == kDefaultTemplate)
+    const std::string name = m_template.name();
+    if (name == TemplateFile::kDefault)
         return;
-    if (!m_templateName.empty())
-        request.pTemplate = std::make_unique<FileSource>(m_templateName);
+    if (!name.empty())
+        request.pTemplate = TemplateFile::open(name, m_template.option());
     else if (!isSample())
-        for (const std::string& file : ShippedFiles::templates())
-            request.candidates.push_back(std::make_unique<FileSource>(ShippedFiles::find(file)));
+        for (const std::string& shipped : ShippedFiles::templateNames())
+            request.candidates.push_back(TemplateFile::open(shipped, m_template.option()));
 }
 
 // A word that is neither metric nor imperial is a file, if there is one of that name.
@@ -186,37 +196,48 @@ void ReportVerb::addUnits(ReportRequest& request) const
         request.units = m_units;
 }
 
-// A slip such as `-o parts.csv` must not cost the parts list.
+// A slip such as `-o parts.csv` must not cost the parts list, and who asks for list.xlsx is not to get a text in it.
 void ReportVerb::checkOutput() const
 {
-    if (m_output == kStandardStream)
+    if (isToStandardOutput())
         return;
+    const std::string output = m_output.name();
+    const std::string option = m_output.option() + " " + output;
     std::error_code error;
-    for (const std::string& input : { m_data, m_templateName, m_units, m_settingsFile })
-        if (std::filesystem::equivalent(input, m_output, error))
-        {
-            Finding finding = Finding::stating(FindingCodes::kOutputIsInput, "is the same file as the input " + input);
-            finding.source = "--output " + m_output;
-            throw Fault(kWrongUsage, finding);
-        }
+    for (const std::string& input : { dataName(), m_template.name(), m_units, m_settingsFile.name() })
+        if (std::filesystem::equivalent(input, output, error))
+            failAt(option, Finding::stating(FindingCodes::kOutputIsInput, "is the same file as the input " + input));
+    if (ReportFormats::promisesOtherFormat(output))
+    {
+        Finding finding = Finding::stating(FindingCodes::kOutputOfOtherFormat,
+                                           "promises another format than text, which is all that lists are written in");
+        finding.remedy = "take a name such as list.txt";
+        failAt(option, finding);
+    }
 }
 
 void ReportVerb::write(const ReportWriter& writer) const
 {
-    if (m_output == kStandardStream)
+    if (isToStandardOutput())
     {
         StandardOutput sink;
         writer.write(m_pJob->report(), sink);
     }
     else
     {
-        OutputFile sink(m_output);
+        OutputFile sink(m_output.name());
         writer.write(m_pJob->report(), sink);
     }
 }
 
 bool ReportVerb::isSample() const
 {
-    return m_data == kSampleData;
+    return dataName() == kSampleData;
+}
+
+bool ReportVerb::isToStandardOutput() const
+{
+    const std::string output = m_output.name();
+    return output.empty() || output == kStandardOutput;
 }
 }

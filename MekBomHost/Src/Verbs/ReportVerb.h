@@ -1,12 +1,13 @@
 // `mekbom report`: reads parts list and template, evaluates, writes the list.
 //
-//   mekbom report                                                   the shipped hall, in the template that suits it
+//   mekbom report --data parts.csv                                  in the shipped list that suits the columns
 //   mekbom report --data parts.csv --template list.json -o list.txt
 //
 // The verb is where files come in: it turns options into the sources of a ReportRequest, lets a ReportJob make the
 // report and hands it to a writer. A report that cannot be made leaves nothing written, and the file of `-o` as it was.
 #pragma once
 
+#include "FileOption.h"
 #include "PairOption.h"
 #include "ReportJob.h"
 #include "ReportRequest.h"
@@ -28,7 +29,14 @@ public:
     // What help says below the options. The list is what the program is for, so `mekbom --help` says it as well.
     static const char* const kNotes;
 
+protected:
+    // All options but the one for data.
+    void declareOptionsOn(CLI::App& command);
+
 private:
+    // A file, or one of the words for something else. Throws a Fault of status kWrongUsage when there is none.
+    virtual std::string dataName() const;
+
     ReportRequest request() const;
     std::unique_ptr<ByteSource> parts() const;
     void addTemplates(ReportRequest& request) const;
@@ -36,15 +44,16 @@ private:
     void checkOutput() const;
     void write(const ReportWriter& writer) const;
     bool isSample() const;
+    bool isToStandardOutput() const;
 
     // What the options were given as. None of these files is opened before the job reads it.
-    std::string m_data;             // a file or one of the words for something else; empty for the shipped parts list
-    std::string m_templateName;     // a file or "default"; empty for a shipped template that suits the data
-    std::string m_units = "metric"; // to print in, as UnitChoice takes them
+    FileOption m_data{ "--data", "FILE" };
+    FileOption m_template{ "--template", "FILE" }; // or a list's name; without one a list that suits the data
+    std::string m_units = "metric";                // to print in, as UnitChoice takes them
     PairOption m_unitChoices{ "--unit", "KIND=UNIT", "length=ft-in/16" };
-    std::string m_settingsFile; // empty for none
+    FileOption m_settingsFile{ "--settings", "FILE" };
     PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
-    std::string m_output = "-"; // a file or standard output
+    FileOption m_output{ "-o,--output", "FILE" };
     std::string m_where;
     std::vector<std::string> m_rowTotals;
     std::vector<std::string> m_allowed;

@@ -68,6 +68,8 @@ TEST(FindingTest, ASentenceNeedsNoPlaceInFront)
     finding.begin = { 1, 1 };
 
     EXPECT_EQ("parts.csv has no column for %Weight", messageOf(finding));
+    finding.remedy = "did you mean its column \"Wieght\"?";
+    EXPECT_EQ("parts.csv has no column for %Weight: did you mean its column \"Wieght\"?", messageOf(finding));
 }
 
 TEST(FindingTest, AFieldIsNamedInsteadOfTheColumnOfTheText)

@@ -22,6 +22,17 @@ TEST(FileSourceTest, AllBytesAreRead)
     EXPECT_EQ("", file.readAll());
 }
 
+TEST(FileSourceTest, AFileMayHaveANameOfItsOwn)
+{
+    const ScratchFolder folder;
+    FileSource file(folder.file("a.txt", "text"), "list");
+
+    EXPECT_EQ("list", file.name());
+    EXPECT_EQ("text", file.readAll());
+    EXPECT_EQ("3 list: cannot be read: No such file or directory\n",
+              faultOf([] { FileSource("missing.txt", "list").readAll(); }));
+}
+
 TEST(FileSourceTest, TheFileIsOpenedWhenItIsRead)
 {
     const ScratchFolder folder;

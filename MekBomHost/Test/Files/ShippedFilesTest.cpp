@@ -34,4 +34,13 @@ TEST(ShippedFilesTest, FilesAreFoundOrMissed)
     EXPECT_TRUE(fs::exists(ShippedFiles::find(ShippedFiles::kPartsList)));
     EXPECT_EQ(0u, faultOf([] { ShippedFiles::find("missing.csv"); }).find("3 missing.csv: found neither in "));
 }
+
+TEST(ShippedFilesTest, TemplatesGoByTheirNames)
+{
+    EXPECT_EQ((std::vector<std::string>{ "cutting-list", "assembly-list", "bolt-list", "parts-list" }),
+              ShippedFiles::templateNames());
+    EXPECT_EQ("Templates/bolt-list.json", ShippedFiles::templateNamed("bolt-list"));
+    for (const char* const name : { "", "bolt", "Bolt-list", "bolt-list.json", "Templates/bolt-list", "default" })
+        EXPECT_EQ("", ShippedFiles::templateNamed(name)) << name;
+}
 }

@@ -293,15 +293,176 @@ TEST(PartsListTest, CellsOfAColumnWithUnitAreNumbers)
               faultIn("Cut [in]\n1e308\n"));
 }
 
-TEST(PartsListTest, CellsAreCheckedEvenIfNobodyWantsThem)
+TEST(PartsListTest, ColumnsThatNobodyWantsMayHoldAnything)
 {
-    MemorySource source("parts.csv", "%Name,%Weight\nx,abc\n");
+    MemorySource source("parts.csv", "%Name,%Weight,Cut [fot],%Paint,length\nx,abc,y,2,z\n");
     CsvReader records(source);
     PartsList parts(records);
-    const ReportTemplate shown = templateShowing({ "%Name" });
+    const ReportTemplate shown = templateShowing({ "%Name", "%Formula:%Length/2" });
 
-    EXPECT_EQ("3 parts.csv:2: column \"%Weight\": found \"abc\", expected a number\n",
-              faultOf([&] { parts.readRows(*shown.pTemplate); }));
+    const PartsFacts facts = parts.readRows(*shown.pTemplate);
+
+    EXPECT_EQ(1, shown.pTemplate->getBomData()->child()->getData().length());
+    EXPECT_EQ(1u, facts.columns.size());
+}
+
+TEST(PartsListTest, NumbersOfKindsThatNoFileGivesInTheModelsUnitNeedOne)
+{
+    EXPECT_EQ("3 parts.csv:3: column \"Paint\": found \"3.2\", expected a number with its unit: write the heading "
+              "\"Paint [m2]\", or give --input-unit %Paint=m2\n"
+              "3 parts.csv:4: column \"%WeightMeter\": found \"61.3\", expected a number with its unit: write the "
+              "heading \"%WeightMeter [kg/m]\", or give --input-unit %WeightMeter=kg/m\n"
+              "3 parts.csv:4: column \"Density\": found \"7850\", expected a number with its unit: write the heading "
+              "\"Density [kg/m3]\", or give --input-unit %Density=kg/m3\n",
+              faultIn("Paint,%WeightMeter,Density\n3.2 m2,,\n3.2,,\n3.3,61.3,7850\n"));
+    EXPECT_EQ(": [%Paint d 3.2e+06]\n:\n", rowsOf("Paint\n3.2 m2\n\"\"\n"));
+    EXPECT_EQ(": [%Length d 2] [%Weight d 3] [%EndCutAngle d 0.5]\n",
+              rowsOf("Length,Weight,EndCutAngle [rad]\n2,3,0.5\n"));
+}
+
+TEST(PartsListTest, AKindOfTheTemplateNeedsAUnitAsOneOfTheCatalogueDoes)
+{
+    const auto faultWith = [](const std::string& kind)
+    {
+        MemorySource source("parts.csv", "Fire\n4\n");
+        CsvReader records(source);
+        PartsList parts(records);
+        ReportTemplate shown = TemplateReader::read("list.json", "{ \"tokenUnits\": { \"%Fire\": \"" + kind +
+                                                                     "\" }, \"sections\": [ { \"type\": \"kDetails\", "
+                                                                     "\"tuples\": [ { \"token\": \"%Fire\" } ] } ] }");
+        shown.pTemplate->setUnitsForTokens(nullptr);
+        shown.pTemplate->findUsedTokens();
+        return faultOf([&] { parts.readRows(*shown.pTemplate); });
+    };
+
+    EXPECT_EQ("", faultWith("kDistanceUnit"));
+    EXPECT_EQ("3 parts.csv:2: column \"Fire\": found \"4\", expected a number with its unit: write the heading "
+              "\"Fire [m2/m]\", or give --input-unit %Fire=m2/m\n",
+              faultWith("kAreaPerDistanceUnit"));
+}
+
+TEST(PartsListTest, TextsOfTheCatalogueStayAsTheyAreWritten)
+{
+    EXPECT_EQ(": [%Name t 1E5] [%Material t 1.10]\n: [%Name t 0012] [%Material t 2]\n",
+              rowsOf("Name,Material\n1E5,1.10\n0012,2\n"));
+}
+
+TEST(PartsListTest, ColumnsThatTheListComputesWithMustBeNumbers)
+{
+    const auto outcomeOf = [](const std::string& token, const char* pText)
+    {
+        MemorySource source("parts.csv", pText);
+        CsvReader records(source);
+        PartsList parts(records);
+        const ReportTemplate shown = templateShowing({ token });
+        const std::string fault = faultOf([&] { parts.readRows(*shown.pTemplate); });
+        return fault.empty()
+                   ? std::string(1, letterOf(shown.pTemplate->getBomData()->child()->getData()[0].value().type()))
+                   : fault;
+    };
+
+    EXPECT_EQ("t", outcomeOf("%Price", "Price\n2\nn/a\n"));
+    for (const char* const token : { "%SumBy:%Price", "%Formula:%Price*2", "%SumBy:%Formula:2*%Price" })
+    {
+        EXPECT_EQ("3 parts.csv:3: column \"Price\": found \"n/a\", expected a number: the list computes with %Price\n",
+                  outcomeOf(token, "Price\n2\nn/a\n"));
+        EXPECT_EQ("i", outcomeOf(token, "Price\n0012\n3\n"));
+        EXPECT_EQ("d", outcomeOf(token, "Price\n2\n3000000000\n"));
+        EXPECT_EQ("d", outcomeOf(token, "Price\n2\n1e2\n"));
+    }
+}
+
+TEST(PartsListTest, TheTemplateSaysWhatATokenOfItsOwnIs)
+{
+    const auto outcomeOf = [](eOwnToken kind, const char* pText)
+    {
+        MemorySource source("parts.csv", pText);
+        CsvReader records(source);
+        PartsList parts(records);
+        parts.setOwnTokens({ { "%Rev", kind } });
+        const ReportTemplate shown = templateShowing({ "%Rev" });
+        const std::string fault = faultOf([&] { parts.readRows(*shown.pTemplate); });
+        if (!fault.empty())
+            return fault;
+        const VorBomDataValue& value = shown.pTemplate->getBomData()->child()->getData()[0].value();
+        return std::string(1, letterOf(value.type())) + " " + toUtf8(value.asString());
+    };
+
+    EXPECT_EQ("t 1.10", outcomeOf(kOwnText, "Rev\n1.10\n"));
+    EXPECT_EQ("d 100000", outcomeOf(kOwnNumber, "Rev\n1E5\n"));
+    EXPECT_EQ(
+        "3 parts.csv:2: column \"Rev\": found \"A\", expected a number: the template says that %Rev is a number\n",
+        outcomeOf(kOwnNumber, "Rev\nA\n"));
+    EXPECT_EQ("3 parts.csv:1: column \"Rev [mm]\": found unit \"mm\", expected none: %Rev is a text\n",
+              outcomeOf(kOwnText, "Rev [mm]\n1\n"));
+}
+
+TEST(PartsListTest, RowsAreOnePieceWhereTheyDoNotSayHowMany)
+{
+    for (const char* const text : { "%Name\nx\n", "%Name,%Quantity\nx,\n" })
+    {
+        MemorySource source("parts.csv", text);
+        CsvReader records(source);
+        PartsList parts(records);
+        const ReportTemplate shown = templateShowing({ "%SumBy:%Quantity" });
+
+        parts.readRows(*shown.pTemplate);
+
+        const VorBomDataTuple* const pPieces = shown.pTemplate->getBomData()->child()->getTupleAt(L"%Quantity");
+        ASSERT_NE(nullptr, pPieces);
+        EXPECT_EQ(VorBomDataValue::kIntData, pPieces->value().type());
+        EXPECT_EQ(VorString(L"1"), pPieces->value().asString());
+    }
+}
+
+TEST(PartsListTest, RowTotalsAreDividedInTheUnitOfTheirColumn)
+{
+    MemorySource source("parts.csv", "Weight [lb],Price,Quantity\n100,5,4\n10,,\n");
+    CsvReader records(source);
+    PartsList parts(records);
+    parts.setRowTotal("%Weight");
+    parts.setRowTotal("%Price");
+    const ReportTemplate shown = templateShowing({ "%Weight", "%Price" });
+
+    parts.readRows(*shown.pTemplate);
+
+    const VorBomItemBase* const pFirst = shown.pTemplate->getBomData()->child();
+    EXPECT_EQ(VorString(L"11.3398"), pFirst->getTupleAt(L"%Weight")->value().asString());
+    EXPECT_EQ(VorString(L"1.25"), pFirst->getTupleAt(L"%Price")->value().asString());
+    EXPECT_EQ(VorString(L"4.53592"), pFirst->next()->getTupleAt(L"%Weight")->value().asString());
+}
+
+TEST(PartsListTest, RowTotalsAreOfColumnsWithNumbers)
+{
+    const auto faultWith = [](const char* pToken)
+    {
+        MemorySource source("parts.csv", "Name,Quantity,Weight\nx,4,2\n");
+        CsvReader records(source);
+        PartsList parts(records);
+        return faultOf(
+            [&]
+            {
+                parts.setRowTotal(pToken);
+                parts.readRows(*templateShowing({}).pTemplate);
+            });
+    };
+
+    EXPECT_EQ("", faultWith("%Weight"));
+    EXPECT_EQ("2 --row-totals %Wieght: parts.csv has no column \"%Wieght\"\n", faultWith("%Wieght"));
+    EXPECT_EQ("2 --row-totals %Name: %Name is a text\n", faultWith("%Name"));
+    EXPECT_EQ("2 --row-totals %Quantity: %Quantity is a whole number\n", faultWith("%Quantity"));
+}
+
+TEST(PartsListTest, RepeatedHandlesAreFoundAndStopNothing)
+{
+    MemorySource source("parts.csv", "Handle,Name\n2A0,x\n2A0,y\n");
+    CsvReader records(source);
+    PartsList parts(records);
+
+    parts.readRows(*templateShowing({ "%Name" }).pTemplate);
+
+    ASSERT_EQ(1u, parts.findings().size());
+    EXPECT_EQ("parts.csv: handle \"2A0\" stands in rows 1 and 2", messageOf(parts.findings().front()));
 }
 
 // What a format with numbers of its own hands over.
@@ -314,7 +475,7 @@ TEST(PartsListTest, StoredNumbersAreTakenAsTheyAreAndAsTextsWhereTheColumnHasTex
     PartsList parts(source);
 
     EXPECT_EQ("7: [%Handle t 7] [%Name t 120.5] [%Quantity i 4] [%Length d 100] [%Other d 3]\n"
-              ": [%Length d 304.8] [%Other d 2.5]\n",
+              ": [%Length d 304.8] [%Other d 2.5] [%Quantity i 1]\n",
               rowsOf(parts));
 }
 

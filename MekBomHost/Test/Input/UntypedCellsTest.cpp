@@ -23,17 +23,27 @@ const TypeCase kTypes[] = {
     { { "0" }, VorBomDataValue::kIntData },
     { { "4", "12.5" }, VorBomDataValue::kDoubleData },
     { { "12.5", "4" }, VorBomDataValue::kDoubleData },
-    { { "1e3" }, VorBomDataValue::kDoubleData },
+    { { "1E5" }, VorBomDataValue::kStringData }, // a mark rather than a hundred thousand
+    { { "4", "1e3" }, VorBomDataValue::kStringData },
     { { "4", "12.5", "M16" }, VorBomDataValue::kStringData },
     { { "M16", "4" }, VorBomDataValue::kStringData },
     { { "4", "1,5" }, VorBomDataValue::kStringData },
     { { "0417", "12" }, VorBomDataValue::kStringData }, // numbers of things
-    { { "4006381333931", "12" }, VorBomDataValue::kStringData },
+    { { "4006381333931", "12" }, VorBomDataValue::kDoubleData },
+    { { "12", "4006381333931" }, VorBomDataValue::kDoubleData },
+    { { "340123450000000018" }, VorBomDataValue::kStringData }, // no double has so many digits
     { { "2147483647" }, VorBomDataValue::kIntData },
-    { { "2147483648" }, VorBomDataValue::kStringData },
+    { { "2147483648" }, VorBomDataValue::kDoubleData },
     { { "2147483648", "0.5" }, VorBomDataValue::kDoubleData },
     { { " " }, VorBomDataValue::kStringData },
     { { "inf" }, VorBomDataValue::kStringData },
+};
+
+const TypeCase kTypesOfNumbersAlone[] = {
+    { {}, VorBomDataValue::kStringData },
+    { { "4", "0417" }, VorBomDataValue::kIntData },
+    { { "4", "1e3" }, VorBomDataValue::kDoubleData },
+    { { "340123450000000018" }, VorBomDataValue::kDoubleData },
 };
 }
 
@@ -46,6 +56,28 @@ TEST(UntypedCellsTest, AllCellsTogetherDecideTheType)
             column.add(cell);
         EXPECT_EQ(test.type, column.type()) << (test.cells.empty() ? "" : test.cells.front());
     }
+}
+
+TEST(UntypedCellsTest, ColumnsThatMustBeNumbersAreNumbersHoweverWritten)
+{
+    for (const TypeCase& test : kTypesOfNumbersAlone)
+    {
+        UntypedCells column;
+        column.takeNumbersAlone();
+        for (const std::string& cell : test.cells)
+            column.add(cell);
+        EXPECT_EQ(test.type, column.type()) << (test.cells.empty() ? "" : test.cells.back());
+    }
+}
+
+TEST(UntypedCellsTest, DecimalsAreTheMostOfAnyCell)
+{
+    UntypedCells column;
+    EXPECT_EQ(0, column.numDecimals());
+    for (const char* const cell : { "4", "0.25", "12.5" })
+        column.add(cell);
+
+    EXPECT_EQ(2, column.numDecimals());
 }
 
 TEST(UntypedCellsTest, CellsComeBackInTheirOrderAndType)

@@ -5,6 +5,8 @@
 
 #include "Support/HostTestSupport.h"
 
+#include "VorBomData.h"
+
 #include "MekRoots/Exp/KTRepositoryProxy.h"
 #include "MekRoots/Test/Support/TestSupport.h"
 
@@ -233,8 +235,9 @@ TEST(ReportJobTest, OfTheCandidatesTheOneIsTakenThatSuitsTheParts)
 
     EXPECT_EQ("BoltName\n--------\nM16\n", outcomeOf(request()));
     ReportRequest unsuitable = request();
-    unsuitable.pParts = text("parts.csv", "%Weight\n2\n");
-    EXPECT_EQ(0u, outcomeOf(std::move(unsuitable)).find("3 parts.csv: found columns that suit no "));
+    unsuitable.pParts = text("parts.csv", "Note,%Weight\nx,2\n");
+    EXPECT_EQ("Note   Weight [kg]\n-----  -----------\nx                2\n-----  -----------\nTotal            2\n",
+              outcomeOf(std::move(unsuitable)));
 }
 
 TEST(ReportJobTest, WithoutPartsAndTemplateTheBuiltInOnesAreTaken)
@@ -254,6 +257,65 @@ TEST(ReportJobTest, OptionsThatCannotBeTakenAreWrongUsage)
     request.inputUnits = { { "Name", "mm" } };
     EXPECT_EQ("2 --input-unit %Name=mm: found unit \"mm\", expected none: %Name is a text\n",
               outcomeOf(std::move(request)));
+}
+
+TEST(ReportJobTest, RowsWithoutPiecesAreOneAndAFileWithoutThemIsNoted)
+{
+    const char* const list = R"({ "sections": [ { "type": "kReportHeader", "children": [
+        { "type": "kDetails", "tuples": [ { "token": "%Name" }, { "token": "%Quantity" } ] } ] },
+        { "type": "kReportFooter", "tuples": [ { "token": "%SumBy:%Quantity", "value": 0 } ] } ] })";
+    ReportJob job(requestFor("Name,Qty\nA,4\nB,2\n", list));
+
+    ASSERT_EQ(kDone, job.run());
+
+    ASSERT_EQ(1u, job.findings().all().size());
+    EXPECT_EQ("parts.csv has no column for %Quantity, which the template asks for; each row counts as one piece",
+              messageOf(job.findings().all()[0]));
+    EXPECT_EQ(2, job.partsFacts().numRows);
+    EXPECT_NE(std::string::npos, tableOf(job).find("\nB            1\n")) << tableOf(job);
+}
+
+TEST(ReportJobTest, MisspelledColumnsAreGuessed)
+{
+    const char* const list = R"({ "sections": [ { "type": "kDetails", "tuples": [
+        { "token": "%Name" }, { "token": "%Length" }, { "token": "%Weight" }, { "token": "%Role" } ] } ] })";
+    const auto noteFor = [list](const char* pParts)
+    {
+        ReportJob job(requestFor(pParts, list));
+        EXPECT_EQ(kDone, job.run());
+        return job.findings().all().empty() ? std::string() : messageOf(job.findings().all()[0]);
+    };
+
+    EXPECT_EQ("parts.csv has no column for %Length, %Name, %Role, %Weight, which the template asks for; did you mean "
+              "%Length by \"length\", %Weight by \"Wieght [kg]\"?",
+              noteFor("MName,length,Wieght [kg],Remark\nA,1,2,x\n"));
+    // Nearer to a column that is there, or to another token.
+    EXPECT_EQ("parts.csv has no column for %Weight, which the template asks for",
+              noteFor("Name,Length,Lenght,Role,Widht\nA,1,2,x,3\n"));
+}
+
+TEST(ReportJobTest, SampleRowsAreOnePieceEach)
+{
+    ReportRequest request;
+    request.pTemplate =
+        text("list.json", R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Quantity" } ] } ] })");
+    const std::unique_ptr<VorBomData> pSample(VorBomData::createDefaultData());
+    std::string expected = "Quantity\n--------\n";
+    for (const VorBomItemBase* pRow = pSample->child(); pRow != nullptr; pRow = pRow->next())
+        expected += "       1\n";
+
+    EXPECT_EQ(expected, outcomeOf(std::move(request)));
+}
+
+TEST(ReportJobTest, RowTotalsAreDividedByThePieces)
+{
+    ReportRequest request = requestFor("%Name,%Length,%Quantity\nHEA200,2286,2\n", kDetails);
+    request.rowTotals = { "Length" };
+    EXPECT_NE(std::string::npos, outcomeOf(std::move(request)).find("HEA200         1143\n"));
+
+    ReportRequest sample;
+    sample.rowTotals = { "Length" };
+    EXPECT_EQ("2 --row-totals: the sample data are no parts list\n", outcomeOf(std::move(sample)));
 }
 
 TEST(ReportJobTest, ASourceThatFailsIsAFinding)

@@ -82,4 +82,15 @@ TEST_F(JsonCheckerTest, UnknownKeysAreNamedAndTheObjectIsOneAllTheSame)
     EXPECT_TRUE(m_json.isObjectOf(m_json.elementsOf(m_item, "list")[1], { "a" }));
     EXPECT_EQ("3 list.json:1:56: /x/list/1: found unknown key \"b\", expected \"a\"\n", faults());
 }
+
+TEST_F(JsonCheckerTest, NamesThatAreNearlyRightAreTold)
+{
+    const JsonNode root = JsonReader(kName, R"({ "lable": "rihgt" })").read();
+    const JsonItem item{ root, "" };
+    EXPECT_TRUE(m_json.isObjectOf(item, { "token", "label" }));
+    EXPECT_EQ(-1, m_json.choiceOf(item, "lable", { "left", "right" }));
+    EXPECT_EQ("3 list.json:1:3: found unknown key \"lable\", expected \"token\" or \"label\": did you mean \"label\"?\n"
+              "3 list.json:1:12: /lable: found \"rihgt\", expected \"left\" or \"right\": did you mean \"right\"?\n",
+              faults());
+}
 }

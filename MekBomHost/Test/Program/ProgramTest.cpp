@@ -127,31 +127,65 @@ TEST(ProgramTest, FaultsOfStandardInputNameIt)
     EXPECT_EQ("mekbom: standard input:2: column \"%Weight\": found \"abc\", expected a number\n", run.errors);
 }
 
-TEST(ProgramTest, WithoutOptionsTheShippedHallIsPrintedAsACuttingList)
+TEST(ProgramTest, TheShippedHallIsPrintedAsACuttingList)
 {
-    const ProgramRun run = runProgram("report");
+    for (const char* const arguments : { "demo", "report --data hall" })
+    {
+        const ProgramRun run = runProgram(arguments);
+        EXPECT_EQ(0, run.status);
+        EXPECT_EQ("Cutting list", firstLine(run.output));
+        EXPECT_NE(std::string::npos, run.output.find("\nHEA200  "));
+        EXPECT_EQ("mekbom: note: list cutting-list (Cutting list), which suits these columns; --template NAME takes "
+                  "another\n",
+                  run.errors);
+    }
+}
 
-    EXPECT_EQ(0, run.status);
-    EXPECT_EQ("Cutting list", firstLine(run.output));
-    EXPECT_NE(std::string::npos, run.output.find("\nHEA200  "));
-    EXPECT_EQ("", run.errors);
+TEST(ProgramTest, AReportWithoutDataNamesTheTwoWays)
+{
+    for (const char* const arguments : { "report", "report --template default" })
+    {
+        const ProgramRun run = runProgram(arguments);
+        EXPECT_EQ(2, run.status);
+        EXPECT_EQ("", run.output);
+        EXPECT_EQ("mekbom: report: found no --data, expected a parts list: mekbom report --data FILE lists its parts, "
+                  "mekbom demo those of the shipped hall\n",
+                  run.errors);
+    }
 }
 
 TEST(ProgramTest, EveryShippedTemplatePrintsTheHall)
 {
-    for (const char* const name : { "cutting-list", "assembly-list", "bolt-list", "parts-list" })
+    for (const std::string name : { "cutting-list", "assembly-list", "bolt-list", "parts-list" })
     {
-        const ProgramRun run =
-            runProgram("report --template \"" MEK_EXAMPLES_DIR "/Templates/" + std::string(name) + ".json\"");
+        const ProgramRun run = runProgram("demo --template " + name);
         EXPECT_EQ(0, run.status) << run.errors;
         EXPECT_EQ("", run.errors);
+        EXPECT_EQ(run.output,
+                  runProgram("demo --template \"" MEK_EXAMPLES_DIR "/Templates/" + name + ".json\"").output);
     }
+}
+
+TEST(ProgramTest, DataThatSuitNoListArePrintedAsTheyAre)
+{
+    const ScratchFolder folder;
+    const std::string parts = folder.file("parts.csv", "Item,Note\nB10,x\nB2,y\n");
+
+    const ProgramRun run = runProgram("report --data \"" + parts + "\"");
+
+    EXPECT_EQ(0, run.status);
+    EXPECT_EQ(0u, run.output.find("Item  Note\n----  ----\n")) << run.output;
+    EXPECT_NE(std::string::npos, run.output.find("\nB10   x\n"));
+    EXPECT_EQ("mekbom: note: " + parts +
+                  " suits no shipped list and is printed as it is; begin a list of your own with "
+                  "mekbom new-list DATA > list.json\n",
+              run.errors);
 }
 
 TEST(ProgramTest, SampleDataAndDefaultTemplateAreBuiltIn)
 {
     for (const char* const arguments :
-         { "report --data sample", "report --data sample --template default", "report --template default" })
+         { "report --data sample", "report --data sample --template default", "demo --template default" })
     {
         const ProgramRun run = runProgram(arguments);
         EXPECT_EQ(0, run.status) << run.errors;
@@ -239,8 +273,8 @@ TEST(ProgramTest, SectionsThatAreNeverEvaluatedAreNoted)
 TEST(ProgramTest, WrongUsageIsStatusTwo)
 {
     const Job job(kParts, kTemplate);
-    for (const std::string arguments : { "", "print", "report --units metres", "report --dta x", "report extra",
-                                         "report --input-unit Paint", "report --data sample --input-unit %Paint=m2" })
+    for (const std::string arguments : { "", "print", "demo --units metres", "report --dta x", "report extra", "report",
+                                         "demo --input-unit Paint", "report --data sample --input-unit %Paint=m2" })
     {
         const ProgramRun run = runProgram(arguments);
         EXPECT_EQ(2, run.status) << arguments;
@@ -272,7 +306,7 @@ TEST(ProgramTest, UnreadableInputIsStatusThree)
     EXPECT_EQ(3, run.status);
     EXPECT_EQ("mekbom: " + missing + ": cannot be read: No such file or directory\n", run.errors);
 
-    EXPECT_EQ(3, runProgram("report --template \"" + missing + "\"").status);
+    EXPECT_EQ(3, runProgram("demo --template \"" + missing + "\"").status);
 
     const ProgramRun folderRun = runProgram("report --data \"" + folder.path().string() + "\"");
     EXPECT_EQ(3, folderRun.status);
@@ -391,7 +425,7 @@ TEST(ProgramTest, TheCommandsAndTheVersionAreTold)
     EXPECT_NE(std::string::npos, help.find("  report                      Print a list from a parts list and"));
     EXPECT_NE(std::string::npos, help.find("  units                       List the units, or convert a quantity"));
     EXPECT_EQ(0u, runHere({ "--version" }).output.find("mekbom "));
-    EXPECT_EQ("mekbom: A subcommand is required; see mekbom --help\n", runHere({}).errors);
+    EXPECT_EQ(0u, runHere({}).errors.find("mekbom: found no command, expected one of report, demo, "));
 }
 
 TEST(ProgramTest, OneProgramRunsManyTimes)

@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+#include <string>
+#include <vector>
+
 namespace mekbom
 {
 TEST(DataTokensTest, WhatSteersSumsAndComputesIsNoDatum)
@@ -16,5 +20,17 @@ TEST(DataTokensTest, WhatSteersSumsAndComputesIsNoDatum)
 
     EXPECT_EQ((std::vector<std::string>{ "%Class", "%Length", "%Material", "%Name", "%Paint", "%Weight" }),
               DataTokens::of(reportTemplate));
+}
+
+TEST(DataTokensTest, WhatIsSummedOrStandsInAFormulaIsComputedWith)
+{
+    VorBomTemplate reportTemplate;
+    auto* const pDetails = new VorBomTemplateItem(VorBomTemplateItem::kDetails);
+    for (const wchar_t* const token : { L"%GroupBy:%Name", L"%SortDescBy:%Class", L"%SumBy:%Weight", L"%Name",
+                                        L"%Formula:%Length/1000", L"%SumBy:%Formula:%Paint*2" })
+        pDetails->addData(VorBomDataTuple(token, 0));
+    reportTemplate.addChild(pDetails);
+
+    EXPECT_EQ((std::set<std::string>{ "%Length", "%Paint", "%Weight" }), DataTokens::computedWith(reportTemplate));
 }
 }

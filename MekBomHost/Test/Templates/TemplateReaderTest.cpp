@@ -151,13 +151,12 @@ TEST(TemplateReaderTest, EverySectionAndUnitTypeHasItsName)
 
 TEST(TemplateReaderTest, UnknownKeysAreNamedWithTheKnownOnes)
 {
-    EXPECT_EQ(
-        "3 list.json:1:3: found unknown key \"titel\", expected \"$schema\", \"title\", \"queryFilter\", "
-        "\"presentationOptions\", \"tokenUnits\", \"tokens\", \"equalLines\", \"allow\", \"columns\" or \"sections\"\n",
-        faultInRoot("\"titel\": \"x\""));
+    EXPECT_EQ("3 list.json:1:3: found unknown key \"titel\", expected \"$schema\", \"title\", \"queryFilter\", "
+              "\"presentationOptions\", \"tokenUnits\", \"tokens\", \"equalLines\", \"allow\", \"columns\" or "
+              "\"sections\": did you mean \"title\"?\n",
+              faultInRoot("\"titel\": \"x\""));
     EXPECT_EQ("3 list.json:1:19: /sections/0: found unknown key \"Type\", expected \"type\", \"print\", \"label\", "
-              "\"summary\", "
-              "\"tuples\" or \"children\"\n"
+              "\"summary\", \"tuples\" or \"children\": did you mean \"type\"?\n"
               "3 list.json:1:17: /sections/0: found no key \"type\", expected one\n",
               faultInSection("\"Type\": \"kDetails\""));
 }
@@ -188,7 +187,8 @@ TEST(TemplateReaderTest, WrongKindsAreNamedWithTheirPathAndPlace)
 TEST(TemplateReaderTest, UnknownNamesAreNamedWithTheKnownOnes)
 {
     EXPECT_EQ("3 list.json:1:26: /sections/0/type: found \"kDetail\", expected \"kReportHeader\", \"kPageHeader\", "
-              "\"kGroupHeader\", \"kDetails\", \"kGroupFooter\", \"kPageFooter\" or \"kReportFooter\"\n",
+              "\"kGroupHeader\", \"kDetails\", \"kGroupFooter\", \"kPageFooter\" or \"kReportFooter\": did you "
+              "mean \"kDetails\"?\n",
               faultInSection("\"type\":\"kDetail\""));
     EXPECT_EQ(
         "3 list.json:1:24: /tokenUnits/%A: found \"kg\", expected \"kNoUnit\", \"kDistanceUnit\", \"kWeightUnit\", "

@@ -33,4 +33,21 @@ TEST(ByteWordTest, WordsBecomeBytesAgain)
     for (const char* const text : { "", "a", "ab", "abc", "B37304", "S355J2+N", "\xC3\xA4" })
         EXPECT_EQ(text, ByteWord::write(ByteWord::of(text), bytes));
 }
+
+TEST(ByteWordTest, HashesOfLongTextsAreNoWordsOfShortOnes)
+{
+    const std::string text = "1LDUm30000534qCZarEJSo";
+    for (std::size_t length = ByteWord::kSize + 1; length <= text.size(); ++length)
+    {
+        const std::string bytes(text, 0, length);
+        EXPECT_EQ(0u, ByteWord::hashOf(bytes) & 0xFF);
+        EXPECT_NE(0u, ByteWord::hashOf(bytes));
+        for (std::size_t i = 0; i < length; ++i)
+        {
+            std::string other = bytes;
+            ++other[i];
+            EXPECT_NE(ByteWord::hashOf(bytes), ByteWord::hashOf(other)) << other;
+        }
+    }
+}
 }

@@ -23,6 +23,8 @@ TEST(InQuotesTest, LongTextsAreCut)
 
     EXPECT_EQ("\"" + fits + "\"", inQuotes(fits));
     EXPECT_EQ("\"" + fits + "...\"", inQuotes(fits + "y"));
+    EXPECT_EQ("\"" + fits + "y\"", inQuotes(fits + "y", kMostQuoted + 1));
+    EXPECT_EQ("\"xx...\"", inQuotes(fits, 2));
 }
 
 TEST(InQuotesTest, BrokenCharactersAreReplaced)

@@ -99,14 +99,55 @@ TEST(NumberReaderTest, WholeTextsMayBeLongerThanANumber)
     EXPECT_FALSE(NumberReader::isWhole(""));
 }
 
-TEST(NumberReaderTest, LeadingZerosAreSeen)
+TEST(NumberReaderTest, DecimalsAreThoseThatAreWritten)
 {
-    EXPECT_TRUE(NumberReader::hasLeadingZeros("007"));
-    EXPECT_TRUE(NumberReader::hasLeadingZeros("-07"));
-    EXPECT_TRUE(NumberReader::hasLeadingZeros("00"));
-    EXPECT_FALSE(NumberReader::hasLeadingZeros("0"));
-    EXPECT_FALSE(NumberReader::hasLeadingZeros("0.7"));
-    EXPECT_FALSE(NumberReader::hasLeadingZeros("70"));
-    EXPECT_FALSE(NumberReader::hasLeadingZeros(""));
+    const auto decimalsOf = [](const char* text)
+    {
+        double value = 0;
+        int numDecimals = -1;
+        EXPECT_TRUE(NumberReader::read(text, value, numDecimals)) << text;
+        return numDecimals;
+    };
+
+    EXPECT_EQ(0, decimalsOf("12"));
+    EXPECT_EQ(0, decimalsOf("12."));
+    EXPECT_EQ(2, decimalsOf("12.50"));
+    EXPECT_EQ(2, decimalsOf(" -12.50 "));
+    EXPECT_EQ(14, decimalsOf("1.08799999999999"));
+    EXPECT_EQ(15, decimalsOf("0.0321999999999998765"));
+    EXPECT_EQ(4, decimalsOf("1.5e-3"));
+    EXPECT_EQ(0, decimalsOf("1.5E+3"));
+    EXPECT_EQ(15, decimalsOf("0e-2147483648"));
+    EXPECT_EQ(0, decimalsOf("0e-99999999999"));
+}
+
+TEST(NumberReaderTest, DecimalsOfNoNumberStayUntouched)
+{
+    double value = 7;
+    int numDecimals = 7;
+
+    EXPECT_FALSE(NumberReader::read("1.2.3", value, numDecimals));
+    EXPECT_FALSE(NumberReader::read("nan", value, numDecimals));
+
+    EXPECT_EQ(7, value);
+    EXPECT_EQ(7, numDecimals);
+}
+
+TEST(NumberReaderTest, ZerosBehindThePointOfAWholeNumberGo)
+{
+    EXPECT_EQ("4", NumberReader::withoutZeroDecimals("4"));
+    EXPECT_EQ("4", NumberReader::withoutZeroDecimals("4.0"));
+    EXPECT_EQ("-40", NumberReader::withoutZeroDecimals(" -40.000 "));
+    for (const char* const text : { "4.01", "4.0.0", "4.0e1", "0.4", "4.0 kg" })
+        EXPECT_EQ(text, NumberReader::withoutZeroDecimals(text));
+}
+
+TEST(NumberReaderTest, PlainNumbersCanBeWrittenAgainAsTheyWere)
+{
+    for (const char* const text : { "0", "7", "-70", "+7 ", "0.7", "-.7", "7.", "7.00", "340123450000018" })
+        EXPECT_TRUE(NumberReader::isPlain(text)) << text;
+    for (const char* const text : { "", " ", ".", "-", "007", "-07", "00", "1E5", "1e-3", "7,5", "7.5.1", "7 kg", "nan",
+                                    "inf", "340123450000000018" })
+        EXPECT_FALSE(NumberReader::isPlain(text)) << text;
 }
 }

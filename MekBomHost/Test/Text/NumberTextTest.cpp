@@ -21,4 +21,13 @@ TEST(NumberTextTest, LargeAndSmallNumbersHaveOne)
     EXPECT_EQ("1.601846337396014e-08", numberText(1.601846337396014e-08));
     EXPECT_EQ("-1.7976931348623157e+308", numberText(-1.7976931348623157e308));
 }
+
+TEST(NumberTextTest, SinglePrecisionTakesFewerDigits)
+{
+    EXPECT_EQ("0.1", singleText(0.1F));
+    EXPECT_EQ("0.00001", singleText(1e-5F));
+    EXPECT_EQ("7.85e-06", singleText(0.00000785F));
+    EXPECT_EQ("16777216", singleText(16777217.0F));
+    EXPECT_EQ("-3.4028235e+38", singleText(-3.4028235e38F));
+}
 }

@@ -110,7 +110,8 @@ TEST(DisplaySettingsTest, AMalformedFileIsNamedWithItsLine)
 TEST(DisplaySettingsTest, OptionsAreChecked)
 {
     EXPECT_EQ("2 --setting: found \"C40_SupressZeroFeet\", expected one of C0_BOMSuppressLastZeros, "
-              "C40_SuppressZeroFeet, C40_SuppressZeroInch, C40_ShowMinusBetweenFeetAndInch\n",
+              "C40_SuppressZeroFeet, C40_SuppressZeroInch, C40_ShowMinusBetweenFeetAndInch: did you mean "
+              "\"C40_SuppressZeroFeet\"?\n",
               faultFrom({ {}, {}, { { "C40_SupressZeroFeet", "1" } } }));
     EXPECT_EQ("2 --setting C40_SuppressZeroFeet: found \"yes\", expected a whole number\n",
               faultFrom({ {}, {}, { { "C40_SuppressZeroFeet", "yes" } } }));

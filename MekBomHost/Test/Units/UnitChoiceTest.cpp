@@ -74,13 +74,15 @@ TEST(UnitChoiceTest, SingleKindsAreChosenOverTheRest)
 TEST(UnitChoiceTest, WordsThatAreNoChoiceAreNamed)
 {
     EXPECT_EQ("2 --unit lenght=mm: found \"lenght\", expected one of length, angle, weight, area, weight-per-length, "
-              "area-per-length, density\n",
+              "area-per-length, density: did you mean \"length\"?\n",
               faultWith("metric", { { "lenght", "mm" } }));
     EXPECT_EQ("2 --unit weight=mm: found \"mm\", expected a unit of weight such as kg or lb, and after a slash a "
               "precision if need be: lb/1, ft-in/16\n",
               faultWith("metric", { { "weight", "mm" } }));
     EXPECT_EQ(0U, faultWith("metric", { { "length", "mm/10" } }).find("2 --unit length=mm/10: found \"mm/10\""));
-    EXPECT_EQ("2 --units: found \"metres\", expected metric, imperial or a file of units\n", faultWith("metres"));
+    EXPECT_EQ("2 --units: found \"metrics\", expected metric, imperial or a file of units: did you mean \"metric\"?\n",
+              faultWith("metrics"));
+    EXPECT_EQ("2 --units: found \"inch\", expected metric, imperial or a file of units\n", faultWith("inch"));
 }
 
 TEST(UnitChoiceTest, AFileNamesUnitsOverABase)
@@ -98,9 +100,10 @@ TEST(UnitChoiceTest, AMalformedFileIsNamedWithItsLine)
 {
     EXPECT_EQ("3 shop.ini:2: found \"abc\", expected a line such as key = value\n", faultInFile("length=mm\nabc\n"));
     EXPECT_EQ("3 shop.ini:1: found \"lenght\", expected one of length, angle, weight, area, weight-per-length, "
-              "area-per-length, density\n",
+              "area-per-length, density: did you mean \"length\"?\n",
               faultInFile("lenght=mm\n"));
-    EXPECT_EQ("3 shop.ini:3: found \"metrical\", expected metric or imperial\n", faultInFile("\n\nbase=metrical\n"));
+    EXPECT_EQ("3 shop.ini:3: found \"metrical\", expected metric or imperial: did you mean \"metric\"?\n",
+              faultInFile("\n\nbase=metrical\n"));
     EXPECT_EQ("3 shop.ini:2: found \"\", expected a unit of distance such as mm, m, in or ft, and after a slash a "
               "precision if need be: lb/1, ft-in/16\n",
               faultInFile("; ours\nlength=\n"));

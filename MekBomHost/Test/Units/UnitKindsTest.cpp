@@ -1,5 +1,7 @@
 #include "UnitKinds.h"
 
+#include "InputUnits.h"
+
 #include <gtest/gtest.h>
 
 #include <cstddef>
@@ -51,5 +53,16 @@ TEST(UnitKindsTest, EveryTypeHasItsName)
     EXPECT_EQ("kAreaPerDistanceUnit", UnitKinds::typeNames()[Units::kAreaPerDistanceUnit]);
     EXPECT_EQ("kReservedUnitType", UnitKinds::typeNames()[Units::kReservedUnitType]);
     EXPECT_EQ("kDensityUnit", UnitKinds::typeNames()[Units::kDensityUnit]);
+}
+
+TEST(UnitKindsTest, UsualUnitsAreOfTheirKindAndNotTheModels)
+{
+    for (const UnitKind& kind : UnitKinds::all())
+        if (const std::string unit = kind.usualUnit; !unit.empty())
+        {
+            const auto found = InputUnits::find(unit, VorBomTemplateUnits::unitTypeOf(kind.system));
+            ASSERT_TRUE(found.has_value()) << unit;
+            EXPECT_FALSE(InputUnits::isOfModel(*found)) << unit;
+        }
 }
 }

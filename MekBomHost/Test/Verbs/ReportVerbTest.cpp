@@ -103,4 +103,64 @@ TEST_F(ReportVerbTest, WrongUsageIsStatusTwo)
                                                        { "report", "--input-unit", "%Paint=m2", "b" } })
         EXPECT_EQ(kWrongUsage, runHere(arguments).status);
 }
+
+TEST_F(ReportVerbTest, SeveralFilesAreNotTakenYet)
+{
+    EXPECT_EQ("mekbom: --data: found \"b.csv\" beside \"a.csv\", expected one file: several files are not taken yet\n",
+              runHere({ "report", "--data", "a.csv", "--data", "b.csv" }).errors);
+    EXPECT_EQ("mekbom: --template: found \"b.json\" beside \"" + m_template +
+                  "\", expected one file: several files are not taken yet\n",
+              report({ "--template", "b.json" }).errors);
+}
+
+TEST_F(ReportVerbTest, NamesThatPromiseAnotherFormatAreRefused)
+{
+    const std::string path = (m_folder / "list.xlsx").string();
+
+    const ProgramRun run = report({ "-o", path });
+
+    EXPECT_EQ(kWrongUsage, run.status);
+    EXPECT_EQ("mekbom: --output " + path +
+                  ": promises another format than text, which is all that lists are written in: take a name such as "
+                  "list.txt\n",
+              run.errors);
+    EXPECT_EQ("", readFile(path));
+    for (const char* const name : { "list.txt", "list.lst", "list", "list.mine" })
+        EXPECT_EQ(kDone, report({ "-o", (m_folder / name).string() }).status) << name;
+}
+
+TEST_F(ReportVerbTest, ShippedListsGoByName)
+{
+    const ProgramRun run = runHere({ "report", "--data", m_parts, "--template", "parts-list" });
+
+    EXPECT_EQ(kDone, run.status);
+    EXPECT_EQ(0u, run.output.find("Parts list\n"));
+    EXPECT_EQ(std::string::npos, run.errors.find("which suits")); // it was not chosen but named
+}
+
+TEST_F(ReportVerbTest, AWordThatIsNeitherListNorFileIsRefused)
+{
+    const ProgramRun run = runHere({ "report", "--data", m_parts, "--template", "cuting-list" });
+
+    EXPECT_EQ(kWrongUsage, run.status);
+    EXPECT_EQ("mekbom: --template: found \"cuting-list\", expected a file or one of cutting-list, assembly-list, "
+              "bolt-list, parts-list, default: did you mean \"cutting-list\"?\n",
+              run.errors);
+    EXPECT_EQ(kInvalidInput, runHere({ "report", "--data", m_parts, "--template", "./cutting-list" }).status);
+    EXPECT_EQ(kInvalidInput, runHere({ "report", "--data", m_parts, "--template", "cutting-list.json" }).status);
+}
+
+TEST_F(ReportVerbTest, WordsThatAreNearlyRightAreTold)
+{
+    EXPECT_EQ("mekbom: report: found unknown option \"--dat\": did you mean \"--data\"?\n",
+              runHere({ "report", "--dat", "parts.csv" }).errors);
+    EXPECT_EQ("mekbom: --units: found \"metrics\", expected metric, imperial or a file of units: did you mean "
+              "\"metric\"?\n",
+              report({ "--units", "metrics" }).errors);
+    const auto endsWith = [](const std::string& text, const std::string& end)
+    { return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0; };
+    EXPECT_TRUE(endsWith(report({ "--unit", "lenght=m" }).errors, ": did you mean \"length\"?\n"));
+    EXPECT_TRUE(endsWith(report({ "--setting", "C40_SupressZeroFeet=0" }).errors,
+                         ": did you mean \"C40_SuppressZeroFeet\"?\n"));
+}
 }

@@ -2,6 +2,13 @@
 
 #include "TextTableWriter.h"
 
+#include "MekRoots/Exp/VorCharacters.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <string>
+
 namespace mekbom::ReportFormats
 {
 namespace
@@ -22,6 +29,20 @@ std::unique_ptr<ReportWriter> create()
 const Format kFormats[] = {
     { kText, create<TextTableWriter> },
 };
+
+// Endings that stand for a format which has no line above.
+const std::string_view kOtherEndings[] = { "csv",  "tsv", "htm", "html", "json", "xml", "yaml", "xls",
+                                           "xlsx", "ods", "doc", "docx", "odt",  "rtf", "pdf" };
+
+std::string endingOf(std::string_view fileName)
+{
+    const std::size_t dot = fileName.find_last_of("./\\");
+    if (dot == std::string_view::npos || fileName[dot] != '.')
+        return std::string();
+    std::string ending(fileName.substr(dot + 1));
+    std::transform(ending.begin(), ending.end(), ending.begin(), VorCharacters::toLower<char>);
+    return ending;
+}
 }
 
 std::unique_ptr<ReportWriter> createWriter(std::string_view format)
@@ -30,5 +51,11 @@ std::unique_ptr<ReportWriter> createWriter(std::string_view format)
         if (known.name == format)
             return known.createWriter();
     return nullptr;
+}
+
+bool promisesOtherFormat(std::string_view fileName)
+{
+    const std::string ending = endingOf(fileName);
+    return std::find(std::begin(kOtherEndings), std::end(kOtherEndings), ending) != std::end(kOtherEndings);
 }
 }

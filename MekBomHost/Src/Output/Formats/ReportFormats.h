@@ -16,4 +16,9 @@ inline constexpr std::string_view kText = "text";
 
 // A writer of that format, which the caller owns; null for a name that is none.
 std::unique_ptr<ReportWriter> createWriter(std::string_view format);
+
+// Whether whoever opens a file of that name will expect a format that no list is written in.
+//   promisesOtherFormat("list.xlsx")   ->  true
+//   promisesOtherFormat("list.lst")    ->  false: nobody knows what to expect
+bool promisesOtherFormat(std::string_view fileName);
 }

@@ -18,4 +18,12 @@ TEST(ReportFormatsTest, AnyOtherNameIsNone)
     for (const char* const name : { "", "Text", "text ", "csv" })
         EXPECT_EQ(nullptr, ReportFormats::createWriter(name)) << name;
 }
+
+TEST(ReportFormatsTest, EndingsPromiseFormats)
+{
+    for (const char* const name : { "list.xlsx", "LIST.XLSX", "a/b.c/list.csv", "list.txt.html", ".json", "list.pdf" })
+        EXPECT_TRUE(ReportFormats::promisesOtherFormat(name)) << name;
+    for (const char* const name : { "list.txt", "list.lst", "list", "list.", "", "csv", "list.csv/list", "list.csv2" })
+        EXPECT_FALSE(ReportFormats::promisesOtherFormat(name)) << name;
+}
 }

@@ -1,9 +1,12 @@
 // Verbs that stand side by side on the command line, of which one is called.
 //
-//   VerbList verbs = allVerbs();
+//   VerbList verbs;
+//   verbs.add(std::make_unique<CountVerb>());
 //   verbs.declareOn(app);
-//   app.parse(numArguments, arguments);         "mekbom units read 30'"
-//   verbs.called()->run(findings);              runs UnitsVerb, which has a list of its own, with UnitsReadVerb
+//   app.parse(numArguments, arguments);         "mekbom count parts.csv"
+//   verbs.called()->run(findings);
+//
+// A verb may have verbs below it, in a list of its own: "mekbom units read 30'" calls UnitsVerb, and that UnitsReadVerb.
 #pragma once
 
 #include "Verb.h"
@@ -30,7 +33,4 @@ private:
     std::vector<std::unique_ptr<Verb>> m_verbs;
     Verb* m_pCalled = nullptr; // not owned: one of m_verbs
 };
-
-// All verbs of the program.
-VerbList allVerbs();
 }

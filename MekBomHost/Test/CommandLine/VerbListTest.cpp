@@ -81,20 +81,4 @@ TEST_F(VerbListTest, HelpListsTheVerbsInTheirOrder)
     EXPECT_LT(help.find("Say hum"), help.find("Say sing"));
     EXPECT_NE(std::string::npos, help.find("Say sing"));
 }
-
-TEST(AllVerbsTest, EveryVerbOfTheProgramHasItsHelp)
-{
-    CLI::App app;
-    VerbList verbs = allVerbs();
-
-    verbs.declareOn(app);
-
-    const auto subcommands = app.get_subcommands(nullptr);
-    ASSERT_EQ(2u, subcommands.size());
-    for (const CLI::App* const pSubcommand : subcommands)
-    {
-        EXPECT_NE("", pSubcommand->get_description()) << pSubcommand->get_name();
-        EXPECT_NE("", pSubcommand->get_footer()) << pSubcommand->get_name();
-    }
-}
 }

@@ -1,0 +1,39 @@
+// An option that names one file, or a word that stands for one:  --data parts.csv
+//
+//   FileOption data("--data", "FILE");
+//   data.declareOn(report, "Parts list");
+//   data.name()   ->  "parts.csv"
+#pragma once
+
+#include <string>
+#include <utility>
+
+namespace CLI
+{
+class App;
+class Option;
+}
+
+namespace mekbom
+{
+class FileOption
+{
+public:
+    // `names` are those of the option, "-o,--output"; `form` is what help calls its value.
+    FileOption(std::string names, std::string form) : m_names(std::move(names)), m_form(std::move(form)) {}
+
+    // Adds the option to `command`, which keeps what it is given: this object is of use as long as that is.
+    void declareOn(CLI::App& command, const std::string& help);
+
+    // What was given; empty for nothing. Throws a Fault of status kWrongUsage when there is a second one.
+    std::string name() const;
+
+    // "--output": what findings call the option.
+    std::string option() const;
+
+private:
+    std::string m_names;
+    std::string m_form;
+    const CLI::Option* m_pOption = nullptr; // the command's
+};
+}

@@ -1,0 +1,239 @@
+// Operators wait until one that binds no tighter comes after them, as in the engine's reader, but a ')' combines back to
+// its '(' alone. "2*3+(4+5)*6":
+//   2 * 3     waiting *
+//   +         waiting +          2*3 is combined
+//   ( 4 + 5   waiting + ( +
+//   )         waiting +          4+5 is combined, and no more
+//   * 6       waiting + *
+//   end       waiting            (4+5)*6 and then the sum are combined
+#include "ArithmeticReading.h"
+
+#include "Utf8.h"
+
+#include "ExpressionEvaluator/Src/VorFormulaText.h"
+#include "MekRoots/Exp/VorCharacters.h"
+#include "MekRoots/Exp/VorNumberText.h"
+
+#include <string_view>
+
+namespace mekbom
+{
+namespace
+{
+constexpr wchar_t kSeparator = L';';
+
+// Of what waits, by how tightly it binds.
+enum eRank
+{
+    kOpen, // a '('
+    kAssignment,
+    kSum,
+    kProduct,
+    kSign
+};
+
+eRank rankOf(wchar_t operation)
+{
+    switch (operation)
+    {
+        case L'=': return kAssignment;
+        case L'+':
+        case L'-': return kSum;
+        default: return kProduct;
+    }
+}
+
+bool isOneOf(wchar_t character, std::wstring_view characters)
+{
+    return characters.find(character) != std::wstring_view::npos;
+}
+
+class Reader
+{
+public:
+    Reader(const VorString& formula, ArithmeticReading& reading)
+        : m_pText(formula.getStringW()), m_pEnd(m_pText + formula.length()), m_reading(reading)
+    {
+    }
+
+    // Stops at the first fault.
+    void read()
+    {
+        while (m_reading.fault == ArithmeticReading::kNone && m_pText != m_pEnd)
+            readItem(*m_pText);
+        endStatement();
+    }
+
+private:
+    struct Waiting
+    {
+        eRank rank;
+        wchar_t operation;
+    };
+
+    // Each of these passes over what it reads.
+    void readItem(wchar_t character);
+    void readBeforeOperand(wchar_t character);
+    void readBehindOperand(wchar_t character);
+    void readOperand();
+    void close();
+    void endStatement();
+
+    const wchar_t* operandEnd() const;
+    FormulaNode numberAt(const wchar_t* pEnd);
+    void wait(eRank rank, wchar_t operation) { m_waiting.push_back({ rank, operation }); }
+    void combineFor(eRank rank);
+    void fail(ArithmeticReading::eFault fault, const std::string& what = std::string());
+
+    const wchar_t* m_pText; // what has not been read
+    const wchar_t* m_pEnd;
+    ArithmeticReading& m_reading;
+    std::vector<Waiting> m_waiting;
+    std::vector<int> m_operands; // indices into the tree
+    bool m_wantsOperand = true;
+};
+
+void Reader::readItem(wchar_t character)
+{
+    if (isOneOf(character, VorFormulaText::kBlanks))
+        ++m_pText;
+    else if (character == kSeparator)
+    {
+        endStatement();
+        ++m_pText;
+    }
+    else if (m_wantsOperand)
+        readBeforeOperand(character);
+    else
+        readBehindOperand(character);
+}
+
+void Reader::readBeforeOperand(wchar_t character)
+{
+    if (!isOneOf(character, VorFormulaText::kOperators))
+        return readOperand();
+    ++m_pText;
+    if (character == L'(')
+        wait(kOpen, character);
+    else if (character == L'-')
+    {
+        m_operands.push_back(m_reading.tree.add(FormulaNode()));
+        wait(kSign, character);
+    }
+    else if (character == L')' && m_waiting.empty())
+        fail(ArithmeticReading::kCrossed);
+    else if (character != L'+') // a sign that changes nothing
+        fail(ArithmeticReading::kOperandMissing);
+}
+
+void Reader::readBehindOperand(wchar_t character)
+{
+    if (character == L'(' || !isOneOf(character, VorFormulaText::kOperators))
+        return fail(ArithmeticReading::kFactorLost, m_reading.tree.textOf(m_operands.back()));
+    ++m_pText;
+    if (character == L')')
+        return close();
+    combineFor(rankOf(character));
+    wait(rankOf(character), character);
+    m_wantsOperand = true;
+}
+
+void Reader::readOperand()
+{
+    const wchar_t* const pEnd = operandEnd();
+    FormulaNode node;
+    if (VorCharacters::isDigit(*m_pText) || *m_pText == L'.')
+        node = numberAt(pEnd);
+    else
+    {
+        node.kind = FormulaNode::kName;
+        node.text = VorString(m_pText, static_cast<int>(pEnd - m_pText));
+        m_pText = pEnd;
+    }
+    m_operands.push_back(m_reading.tree.add(node));
+    m_wantsOperand = false;
+}
+
+// Behind the operand without the blanks at its end.
+const wchar_t* Reader::operandEnd() const
+{
+    const wchar_t* pEnd = m_pText;
+    while (pEnd != m_pEnd && *pEnd != kSeparator && !isOneOf(*pEnd, VorFormulaText::kOperators))
+        ++pEnd;
+    while (isOneOf(pEnd[-1], VorFormulaText::kBlanks))
+        --pEnd;
+    return pEnd;
+}
+
+// A number may go on behind the operand, as its exponent has a sign.
+FormulaNode Reader::numberAt(const wchar_t* pOperandEnd)
+{
+    const wchar_t* pEnd = m_pText;
+    VorNumberText::scanDouble(m_pText, pEnd, 0);
+    float number = 0.0F;
+    VorNumberText::scanFloat(m_pText, m_pEnd, number);
+    if (pEnd < pOperandEnd)
+        fail(ArithmeticReading::kNoNumber, Utf8::toBytes(VorString(m_pText, static_cast<int>(pOperandEnd - m_pText))));
+    FormulaNode node;
+    node.kind = FormulaNode::kNumber;
+    node.text = VorString(m_pText, static_cast<int>(pEnd - m_pText));
+    node.number = number;
+    node.numRead = node.text.length();
+    m_pText = pEnd;
+    return node;
+}
+
+void Reader::close()
+{
+    combineFor(kAssignment);
+    if (m_waiting.empty())
+        return fail(ArithmeticReading::kCrossed);
+    m_waiting.pop_back();
+}
+
+void Reader::endStatement()
+{
+    if (m_reading.fault != ArithmeticReading::kNone)
+        return;
+    const bool isEmpty = m_operands.empty() && m_waiting.empty();
+    if (m_wantsOperand && !isEmpty)
+        return fail(ArithmeticReading::kOperandMissing);
+    combineFor(kAssignment);
+    if (!m_waiting.empty())
+        return fail(ArithmeticReading::kNotClosed);
+    m_reading.tree.endStatement(isEmpty ? FormulaNode::kNoSide : m_operands.back());
+    m_operands.clear();
+    m_wantsOperand = true;
+}
+
+// Combines what binds as tightly as `rank` or tighter, back to a '('.
+void Reader::combineFor(eRank rank)
+{
+    while (!m_waiting.empty() && m_waiting.back().rank >= rank)
+    {
+        FormulaNode node;
+        node.kind = FormulaNode::kOperator;
+        node.operation = m_waiting.back().operation;
+        node.text += node.operation;
+        node.right = m_operands.back();
+        m_operands.pop_back();
+        node.left = m_operands.back();
+        m_operands.back() = m_reading.tree.add(node);
+        m_waiting.pop_back();
+    }
+}
+
+void Reader::fail(ArithmeticReading::eFault fault, const std::string& what)
+{
+    m_reading.fault = fault;
+    m_reading.what = what;
+}
+}
+
+ArithmeticReading ArithmeticReading::read(const VorString& formula)
+{
+    ArithmeticReading reading;
+    Reader(formula, reading).read();
+    return reading;
+}
+}

@@ -1,0 +1,145 @@
+#include "Dimension.h"
+
+#include "UnitKinds.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace mekbom
+{
+namespace
+{
+using Units = VorBomTemplateUnits;
+
+// Powers beyond this are cut to it, so that a formula that squares and squares again does not leave the range of int.
+// No kind of quantity has any like it.
+constexpr int kHighestPower = 1000;
+
+int addPower(int power, int more)
+{
+    return std::clamp(power + more, -kHighestPower, kHighestPower);
+}
+
+struct Powers
+{
+    int length;
+    int weight;
+    int angle;
+
+    bool operator==(const Powers& other) const
+    {
+        return length == other.length && weight == other.weight && angle == other.angle;
+    }
+};
+
+// Of the model's unit of each kind: kg/mm³ is one power of weight and minus three of length.
+Powers powersOf(Units::eTokenUnitType type)
+{
+    switch (type)
+    {
+        case Units::kDistanceUnit: return { 1, 0, 0 };
+        case Units::kWeightUnit: return { 0, 1, 0 };
+        case Units::kAreaUnit: return { 2, 0, 0 };
+        case Units::kAngleUnit: return { 0, 0, 1 };
+        case Units::kWeightPerDistanceUnit: return { -1, 1, 0 };
+        case Units::kAreaPerDistanceUnit: return { 1, 0, 0 };
+        case Units::kDensityUnit: return { -3, 1, 0 };
+        default: return { 0, 0, 0 };
+    }
+}
+
+// " x weight", " / length^2", or nothing for no power.
+std::string powerText(const std::string& base, int power)
+{
+    if (power == 0)
+        return std::string();
+    const int size = std::abs(power);
+    return (power > 0 ? " x " : " / ") + base + (size == 1 ? "" : "^" + std::to_string(size));
+}
+
+// The first factor needs no sign; 1 stands for one that is missing before a '/'.
+std::string productText(const std::string& factors)
+{
+    return factors[1] == 'x' ? factors.substr(3) : "1" + factors;
+}
+}
+
+Dimension Dimension::ofType(Units::eTokenUnitType type)
+{
+    const Powers powers = powersOf(type);
+    Dimension dimension;
+    (type == Units::kAreaPerDistanceUnit ? dimension.m_nAreaPerLength : dimension.m_nLength) = powers.length;
+    dimension.m_nWeight = powers.weight;
+    dimension.m_nAngle = powers.angle;
+    return dimension;
+}
+
+Dimension Dimension::ofOwnNumber(const std::string& token)
+{
+    Dimension dimension;
+    dimension.m_own[token] = 1;
+    return dimension;
+}
+
+bool Dimension::isSameProduct(const Dimension& other) const
+{
+    return length() == other.length() && m_nWeight == other.m_nWeight && m_nAngle == other.m_nAngle &&
+           m_own == other.m_own;
+}
+
+bool Dimension::isLike(const Dimension& other) const
+{
+    return isSameProduct(other) && (kind() == other.kind());
+}
+
+Units::eTokenUnitType Dimension::kind() const
+{
+    const Powers powers = { length(), m_nWeight, m_nAngle };
+    if (!m_own.empty() || isFreeOfUnits())
+        return Units::kNoUnit;
+    if (powers == powersOf(Units::kDistanceUnit))
+        return isAreaPerLength() ? Units::kAreaPerDistanceUnit : Units::kDistanceUnit;
+    for (const UnitKind& kind : UnitKinds::all())
+        if (powers == powersOf(Units::unitTypeOf(kind.system)))
+            return Units::unitTypeOf(kind.system);
+    return Units::kNoUnit;
+}
+
+// The smaller map goes into the larger one: a product of many own numbers takes no quadratic time.
+void Dimension::addPowers(Dimension other, int sign)
+{
+    m_nLength = addPower(m_nLength, sign * other.m_nLength);
+    m_nAreaPerLength = addPower(m_nAreaPerLength, sign * other.m_nAreaPerLength);
+    m_nWeight = addPower(m_nWeight, sign * other.m_nWeight);
+    m_nAngle = addPower(m_nAngle, sign * other.m_nAngle);
+    if (sign < 0)
+        for (auto& [token, power] : other.m_own)
+            power = -power;
+    if (m_own.size() < other.m_own.size())
+        m_own.swap(other.m_own);
+    for (const auto& [token, power] : other.m_own)
+    {
+        const auto found = m_own.emplace(token, 0).first;
+        found->second = addPower(found->second, power);
+        if (found->second == 0)
+            m_own.erase(found);
+    }
+}
+
+std::string Dimension::text() const
+{
+    if (isPlain())
+        return "a number without unit";
+    if (const UnitKind* const pKind = UnitKinds::find(kind()))
+        return pKind->name;
+    std::string above;
+    std::string below;
+    const auto add = [&](const std::string& base, int power) { (power > 0 ? above : below) += powerText(base, power); };
+    add("weight", m_nWeight);
+    add("length", length());
+    add("angle", m_nAngle);
+    for (const auto& [token, power] : m_own)
+        add(token, power);
+    return productText(above + below);
+}
+}

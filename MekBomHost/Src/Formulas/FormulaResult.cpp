@@ -1,0 +1,257 @@
+// A term of a formula is what stands below one of its operators: a dimension, or a constant. From "(%Length+50)*2":
+//   %Length      length
+//   50           the constant 50
+//   +            length; 50 has no unit that could be length: unlike
+//   2            the constant 2
+//   *            length, multiplied by the constant 2
+// Constants stay with the product that they are factors of until it is added to something, or is the result: only the
+// product's dimension tells of which kinds they may hide a unit.
+#include "FormulaResult.h"
+
+#include "ConstantFactors.h"
+#include "Dimension.h"
+#include "EngineReading.h"
+#include "FormulaWalk.h"
+#include "InQuotes.h"
+#include "NumberText.h"
+#include "UnitKinds.h"
+#include "Utf8.h"
+
+#include "ExpressionEvaluator/Src/VorExprEvTreeItemOperator.h"
+
+#include <utility>
+
+namespace mekbom
+{
+namespace
+{
+const char* const kDeclaredPlain = "none";
+
+struct Term
+{
+    bool isConstant = false;
+    FormulaConstant constant{ 0.0, std::string() }; // of one that is
+    Dimension dimension;                            // plain for a constant
+    ConstantFactors factors;                        // of a product; none for a constant
+    bool isCertain = true;                          // made of tokens of known kinds alone
+};
+
+Term ofConstant(double value, const std::string& text)
+{
+    Term term;
+    term.isConstant = true;
+    term.isCertain = false;
+    term.constant = { value, text };
+    return term;
+}
+
+Term ofDimension(const Dimension& dimension)
+{
+    Term term;
+    term.dimension = dimension;
+    return term;
+}
+
+Term ofUncertain(const Dimension& dimension)
+{
+    Term term = ofDimension(dimension);
+    term.isCertain = false;
+    return term;
+}
+
+Term compute(wchar_t operation, const Term& left, const Term& right)
+{
+    double value = 0.0;
+    VorExprEvTreeItemOperator::calculate(operation, left.constant.value, right.constant.value, value);
+    return ofConstant(value, std::string());
+}
+
+// A product or a quotient of which one side at most is a constant.
+Term multiply(bool isQuotient, Term left, Term right)
+{
+    if (left.isConstant)
+    {
+        Term term = ofUncertain(Dimension());
+        term.factors.multiplyBy(left.constant);
+        left = std::move(term);
+    }
+    left.isCertain = left.isCertain && right.isCertain && !right.isConstant;
+    if (right.isConstant)
+        isQuotient ? left.factors.divideBy(right.constant) : left.factors.multiplyBy(right.constant);
+    else
+    {
+        isQuotient ? left.factors.divideBy(right.factors) : left.factors.multiplyBy(right.factors);
+        isQuotient ? left.dimension.divideBy(std::move(right.dimension))
+                   : left.dimension.multiplyBy(std::move(right.dimension));
+    }
+    return left;
+}
+
+// Derives term by term, and keeps the first reason why that cannot be done.
+class Derivation
+{
+public:
+    explicit Derivation(const FormulaOperands& operands) : m_operands(operands) {}
+
+    FormulaResult derive(const FormulaTree& tree);
+
+    // What the formula gives, as far as it could be derived.
+    const Term& result() const { return m_result; }
+
+private:
+    using Walk = FormulaWalk<Term, Derivation>;
+    friend Walk;
+
+    Term ofNothing() { return ofConstant(0.0, "0"); }
+    Term ofNumber(const FormulaNode& node) { return ofConstant(node.number, Utf8::toBytes(node.text)); }
+    Term ofName(const VorString& name);
+    Term combine(const FormulaNode& node, Term left, Term right);
+    Term sum(Term left, Term right);
+    Term sumWithConstant(Term term, const FormulaConstant& constant);
+    void settle(Term& term);
+    void note(FormulaResult::eReason reason, const std::string& what);
+    void conclude();
+
+    const FormulaOperands& m_operands;
+    Term m_result;
+    FormulaResult m_found;
+    bool m_bDividesArea = false; // by a length
+};
+
+FormulaResult Derivation::derive(const FormulaTree& tree)
+{
+    if (tree.root() == FormulaNode::kNoSide)
+        note(FormulaResult::kUnreadable, "there is nothing to compute");
+    m_result = Walk(*this).run(tree);
+    settle(m_result);
+    conclude();
+    return m_found;
+}
+
+// No operand has a name that reaches beyond the formula.
+Term Derivation::ofName(const VorString& name)
+{
+    const bool isWithinFormula = name == VorString(name.getStringW());
+    const FormulaOperand operand = isWithinFormula ? m_operands(name) : FormulaOperand();
+    const std::string text = Utf8::toBytes(name);
+    switch (operand.meaning)
+    {
+        case FormulaOperand::kPieces: return ofDimension(Dimension());
+        case FormulaOperand::kQuantity: return ofDimension(Dimension::ofType(operand.type));
+        case FormulaOperand::kOwnNumber: return ofUncertain(Dimension::ofOwnNumber(text));
+        case FormulaOperand::kText: note(FormulaResult::kTextOperand, inQuotes(text) + " is a text"); break;
+        default: note(FormulaResult::kUnknownOperand, "nobody knows " + inQuotes(text)); break;
+    }
+    return ofUncertain(Dimension());
+}
+
+Term Derivation::combine(const FormulaNode& node, Term left, Term right)
+{
+    if (left.isConstant && right.isConstant)
+        return compute(node.operation, left, right);
+    const bool isQuotient = node.operation == L'/';
+    m_bDividesArea = m_bDividesArea || (isQuotient && left.dimension.kind() == VorBomTemplateUnits::kAreaUnit &&
+                                        right.dimension.kind() == VorBomTemplateUnits::kDistanceUnit);
+    if (isQuotient || node.operation == L'*')
+        return multiply(isQuotient, std::move(left), std::move(right));
+    return sum(std::move(left), std::move(right));
+}
+
+Term Derivation::sum(Term left, Term right)
+{
+    settle(left);
+    settle(right);
+    if (left.isConstant)
+        return sumWithConstant(std::move(right), left.constant);
+    if (right.isConstant)
+        return sumWithConstant(std::move(left), right.constant);
+    if (!left.dimension.isLike(right.dimension))
+    {
+        note(FormulaResult::kUnlikeSum, "adds " + left.dimension.text() + " and " + right.dimension.text());
+        left.isCertain = false;
+    }
+    left.isCertain = left.isCertain && right.isCertain;
+    return left;
+}
+
+// Zero is zero in every unit.
+Term Derivation::sumWithConstant(Term term, const FormulaConstant& constant)
+{
+    if (constant.value == 0.0 || term.dimension.isPlain())
+        return term;
+    note(FormulaResult::kUnlikeSum, "adds " + term.dimension.text() + " and the bare number " + constant.shownText());
+    term.isCertain = false;
+    return term;
+}
+
+// Ends a product: its constants are all known.
+void Derivation::settle(Term& term)
+{
+    const std::string hidden = term.factors.hiddenUnitOf(term.dimension);
+    if (!hidden.empty())
+        note(FormulaResult::kHiddenUnit, hidden);
+    term.factors = ConstantFactors();
+}
+
+void Derivation::note(FormulaResult::eReason reason, const std::string& what)
+{
+    if (m_found.reason != FormulaResult::kNone)
+        return;
+    m_found.reason = reason;
+    m_found.what = what;
+}
+
+void Derivation::conclude()
+{
+    const VorBomTemplateUnits::eTokenUnitType kind = m_result.dimension.kind();
+    const bool isFree = m_result.dimension.isFreeOfUnits();
+    if (kind == VorBomTemplateUnits::kNoUnit && !isFree)
+        note(FormulaResult::kNoKind, m_result.dimension.text() + " is no kind of quantity");
+    if (m_found.reason != FormulaResult::kNone)
+        return;
+    m_found.measure = isFree ? FormulaResult::kPlain : FormulaResult::kKind;
+    m_found.kind = kind;
+    m_found.mayBeAreaPerLength = m_bDividesArea && kind == VorBomTemplateUnits::kDistanceUnit;
+}
+
+bool contradicts(const Term& result, FormulaResult::eReason reason, VorBomTemplateUnits::eTokenUnitType declared)
+{
+    const bool isDerived = reason == FormulaResult::kNone || reason == FormulaResult::kNoKind;
+    return isDerived && result.isCertain && !result.dimension.isSameProduct(Dimension::ofType(declared));
+}
+}
+
+FormulaResult FormulaResult::derive(const VorString& formula, const FormulaOperands& operands)
+{
+    return of(formula, operands, std::string());
+}
+
+FormulaResult FormulaResult::of(const VorString& formula, const FormulaOperands& operands, const std::string& declared)
+{
+    const EngineReading reading = EngineReading::read(formula);
+    FormulaResult result;
+    Derivation derivation(operands);
+    if (reading.isBalanced)
+        result = derivation.derive(reading.tree);
+    else
+    {
+        result.reason = kUnreadable;
+        result.what = "the parentheses do not balance";
+    }
+    if (declared.empty())
+        return result;
+    result.measure = kPlain;
+    result.kind = VorBomTemplateUnits::kNoUnit;
+    result.mayBeAreaPerLength = false;
+    if (const UnitKind* const pKind = UnitKinds::find(declared))
+    {
+        result.measure = kKind;
+        result.kind = VorBomTemplateUnits::unitTypeOf(pKind->system);
+        if (contradicts(derivation.result(), result.reason, result.kind))
+            result.contradiction = "is " + derivation.result().dimension.text() + ", declared as " + declared;
+    }
+    else if (declared != kDeclaredPlain)
+        result.label = declared;
+    return result;
+}
+}

@@ -1,0 +1,227 @@
+// The text is put together of lines, not of JSON values: an author reads it, and comments stand where a group or a title
+// would go. The comments around the details are JSON themselves, so that taking the slashes away makes the group.
+#include "ColumnsTemplate.h"
+
+#include "DataTokens.h"
+#include "InputUnits.h"
+#include "JsonText.h"
+#include "UnitKinds.h"
+
+#include "VorBomTokenCatalogue.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <optional>
+
+namespace mekbom::ColumnsTemplate
+{
+namespace
+{
+using Columns = std::vector<InputColumn>;
+
+const char* const kQuantity = "%Quantity";
+const char* const kWeight = "%Weight";
+const char* const kTotalWeight = "%Formula:%Weight*%Quantity";
+
+const VorBomTokenCatalogue::Entry* entryOf(const InputColumn& column)
+{
+    return VorBomTokenCatalogue::find(column.tupleToken);
+}
+
+// Not one that the catalogue knows.
+bool isOwn(const InputColumn& column)
+{
+    return !column.isHandle && entryOf(column) == nullptr;
+}
+
+bool isDatum(const InputColumn& column)
+{
+    return DataTokens::isDatum(column.tupleToken) || entryOf(column) != nullptr;
+}
+
+bool has(const Columns& columns, const std::string& token)
+{
+    return std::any_of(columns.begin(), columns.end(),
+                       [&token](const InputColumn& column) { return column.token == token; });
+}
+
+// A request takes its tokens apart at commas and drops blanks.
+bool canBeSortedBy(const InputColumn& column)
+{
+    return !column.isHandle && column.token.find_first_of(", \t") == std::string::npos;
+}
+
+// The first column of texts that the catalogue knows; without one the first that may hold texts. Null when there is none.
+const InputColumn* sortColumnOf(const Columns& columns)
+{
+    const InputColumn* pOwn = nullptr;
+    for (const InputColumn& column : columns)
+    {
+        const VorBomTokenCatalogue::Entry* const pEntry = entryOf(column);
+        if (!canBeSortedBy(column))
+            continue;
+        if (pEntry != nullptr && pEntry->type == VorBomDataValue::kStringData)
+            return &column;
+        if (pOwn == nullptr && isOwn(column) && column.unitSymbol.empty())
+            pOwn = &column;
+    }
+    return pOwn;
+}
+
+bool isNaturalByCatalogue(const InputColumn& column)
+{
+    const VorBomTokenCatalogue::Entry* const pEntry = entryOf(column);
+    return pEntry != nullptr && pEntry->sort == VorBomDataToken::kSortAlphanumeric;
+}
+
+std::string tuple(const std::string& token)
+{
+    return "{ \"token\": " + jsonText(token) + " }";
+}
+
+// The elements of an array or object, each on a line of its own, indented by `numBlanks`.
+std::string lines(const std::vector<std::string>& elements, std::size_t numBlanks)
+{
+    std::string text;
+    for (const std::string& element : elements)
+        text += (text.empty() ? "" : ",\n") + std::string(numBlanks, ' ') + element;
+    return text;
+}
+
+std::string joined(const std::vector<std::string>& elements)
+{
+    std::string text;
+    for (const std::string& element : elements)
+        text += (text.empty() ? "" : ", ") + element;
+    return text;
+}
+
+// "%Length" is headed "Length"; its unit follows of itself.
+std::vector<std::string> columnElements(const Columns& columns, const InputColumn* pSort)
+{
+    std::vector<std::string> elements;
+    for (const InputColumn& column : columns)
+        elements.push_back("{ \"token\": " + jsonText(column.token) +
+                           ", \"label\": " + jsonText(column.token.substr(1)) +
+                           (&column == pSort && !isNaturalByCatalogue(column) ? ", \"order\": \"natural\" }" : " }"));
+    if (has(columns, kWeight) && has(columns, kQuantity))
+        elements.push_back("{ \"token\": " + jsonText(kTotalWeight) + ", \"label\": \"Total weight\" }");
+    return elements;
+}
+
+std::vector<std::string> ownTokens(const Columns& columns)
+{
+    std::vector<std::string> members;
+    for (const InputColumn& column : columns)
+    {
+        const bool isKnown = column.type != VorBomDataValue::kUnknownData || !column.unitSymbol.empty();
+        if (isOwn(column) && isKnown)
+            members.push_back(jsonText(column.token) +
+                              (column.type == VorBomDataValue::kStringData ? ": \"text\"" : ": \"number\""));
+    }
+    return members;
+}
+
+std::vector<std::string> tokenUnits(const Columns& columns)
+{
+    std::vector<std::string> members;
+    for (const InputColumn& column : columns)
+    {
+        const std::optional<MEKUnit> unit = InputUnits::find(column.unitSymbol, VorBomTemplateUnits::kNoUnit);
+        if (!isOwn(column) || !unit)
+            continue;
+        const VorBomTemplateUnits::eTokenUnitType type =
+            VorBomTemplateUnits::unitTypeOf(unit->getVorUnitTransform().system());
+        members.push_back(jsonText(column.token) + ": " +
+                          jsonText(UnitKinds::typeNames()[static_cast<std::size_t>(type)]));
+    }
+    return members;
+}
+
+std::string object(const std::string& key, const std::vector<std::string>& members)
+{
+    return members.empty() ? "" : "  \"" + key + "\": {\n" + lines(members, 4) + "\n  },\n";
+}
+
+std::vector<std::string> details(const Columns& columns, const InputColumn* pSort)
+{
+    std::vector<std::string> tuples;
+    if (pSort != nullptr)
+        tuples.push_back(tuple("%SortAscBy:" + pSort->token));
+    for (const InputColumn& column : columns)
+        tuples.push_back(tuple(column.token));
+    if (has(columns, kWeight) && has(columns, kQuantity))
+        tuples.push_back(tuple(kTotalWeight));
+    return tuples;
+}
+
+// A row's weight is that of one piece.
+std::vector<std::string> totals(const Columns& columns)
+{
+    std::vector<std::string> tuples;
+    if (has(columns, kQuantity))
+        tuples.push_back(tuple(std::string("%SumBy:") + kQuantity));
+    if (has(columns, kWeight))
+        tuples.push_back(tuple(std::string("%SumBy:") + (has(columns, kQuantity) ? kTotalWeight : kWeight)));
+    return tuples;
+}
+
+std::string footer(const std::string& type, const std::string& label, const std::vector<std::string>& tuples)
+{
+    return "{ \"type\": \"" + type + "\", \"label\": \"" + label + "\", \"tuples\": [ " + joined(tuples) + " ] }";
+}
+
+std::string groupBegin(const InputColumn& column)
+{
+    return "        // Groups: take away the slashes before the next two lines, and before the one below the details.\n"
+           "        // { \"type\": \"kGroupHeader\", \"tuples\": [ " +
+           joined({ tuple("%GroupBy:" + column.token), tuple("%SortAscBy:" + column.token), tuple(column.token) }) +
+           " ],\n        //   \"children\": [\n";
+}
+
+std::string groupEnd(const std::vector<std::string>& totals)
+{
+    return "\n        // ] }" + (totals.empty() ? "" : ", " + footer("kGroupFooter", "Sum", totals));
+}
+}
+
+std::string textOf(const Columns& allColumns)
+{
+    Columns columns;
+    std::copy_if(allColumns.begin(), allColumns.end(), std::back_inserter(columns), isDatum);
+    const InputColumn* const pSort = sortColumnOf(columns);
+    const std::vector<std::string> sums = totals(columns);
+
+    std::string text =
+        "// A list with every column of its data: mekbom report --data DATA --template THIS-FILE prints it.\n"
+        "// Take out columns that you do not need, in \"columns\" and in \"tuples\", and rename others.\n"
+        "{\n"
+        "  \"$schema\": \"mekbom-template.schema.json\", // beside this file it makes editors check it\n"
+        "  // \"title\": \"My list\",\n"
+        "  \"equalLines\": \"keep\", // or \"count\": one line for all rows that read alike\n";
+    text += object("tokens", ownTokens(columns)) + object("tokenUnits", tokenUnits(columns));
+    text += "  // In the order in which they are printed; \"unit\": \"m/2\" or \"width\": 20 say how.\n"
+            "  \"columns\": [\n" +
+            lines(columnElements(columns, pSort), 4) +
+            "\n  ],\n"
+            "  \"sections\": [\n"
+            "    {\n"
+            "      \"type\": \"kReportHeader\",\n"
+            "      \"children\": [\n";
+    if (pSort != nullptr)
+        text += groupBegin(*pSort);
+    text += "        {\n"
+            "          \"type\": \"kDetails\",\n"
+            "          \"tuples\": [\n" +
+            lines(details(columns, pSort), 12) +
+            "\n          ]\n"
+            "        }";
+    if (pSort != nullptr)
+        text += groupEnd(sums);
+    text += "\n      ]\n    }";
+    if (!sums.empty())
+        text += ",\n    " + footer("kReportFooter", "Total", sums);
+    return text + "\n  ]\n}\n";
+}
+}

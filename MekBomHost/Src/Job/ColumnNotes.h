@@ -1,0 +1,26 @@
+// What a user should know of how the columns of a parts list and a list go together, as findings.
+//
+//   const Finding note = ColumnNotes::missing(parts, "parts.csv", { "%Length" });
+//
+// says of a parts list with columns "length" and "Weight"
+//
+//   parts.csv has no column for %Length, which the template asks for: did you mean its column "length"?
+#pragma once
+
+#include "Finding.h"
+#include "PartsList.h"
+
+#include <string>
+#include <vector>
+
+namespace mekbom::ColumnNotes
+{
+// That the list asks for `tokens`, at least one, of which the parts list called `source` has no columns.
+Finding missing(const PartsList& parts, const std::string& source, const std::vector<std::string>& tokens);
+
+// That a list was chosen, of that name and title, because it suits the columns.
+Finding chosen(const std::string& name, const std::string& title);
+
+// That no list suits the columns, so that they are printed as they are.
+Finding printedAsTheyAre(const PartsList& parts, const std::string& source);
+}

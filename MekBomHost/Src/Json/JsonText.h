@@ -1,0 +1,13 @@
+// Texts as JSON writes them.
+//
+//   jsonText("Length \"net\"")   ->  "\"Length \\\"net\\\"\""
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace mekbom
+{
+// `text`, UTF-8, in double quotes, with all that JSON wants escaped: on one line whatever it holds.
+std::string jsonText(std::string_view text);
+}

@@ -1,0 +1,29 @@
+#include "AllVerbs.h"
+
+#include "DemoVerb.h"
+#include "ExplainVerb.h"
+#include "FormulaVerb.h"
+#include "HelpVerb.h"
+#include "NewListVerb.h"
+#include "ReportVerb.h"
+#include "TokensVerb.h"
+#include "UnitsVerb.h"
+
+#include <memory>
+
+namespace mekbom
+{
+VerbList allVerbs()
+{
+    VerbList verbs;
+    verbs.add(std::make_unique<ReportVerb>());
+    verbs.add(std::make_unique<DemoVerb>());
+    verbs.add(std::make_unique<NewListVerb>());
+    verbs.add(std::make_unique<ExplainVerb>());
+    verbs.add(std::make_unique<FormulaVerb>());
+    verbs.add(std::make_unique<TokensVerb>());
+    verbs.add(std::make_unique<UnitsVerb>());
+    verbs.add(std::make_unique<HelpVerb>());
+    return verbs;
+}
+}

@@ -1,0 +1,24 @@
+// `mekbom help`: how the program, or the command whose words follow, is called.
+//
+//   mekbom help                     what mekbom --help prints
+//   mekbom help units convert       what mekbom units convert --help prints
+#pragma once
+
+#include "Verb.h"
+
+#include <string>
+#include <vector>
+
+namespace mekbom
+{
+class HelpVerb : public Verb
+{
+public:
+    CLI::App& declareOn(CLI::App& parent) override;
+    ExitStatus run(FindingList& findings) override;
+
+private:
+    const CLI::App* m_pProgram = nullptr; // not owned; outlives the run, since it parsed the words
+    std::vector<std::string> m_words;     // of the command: "units", "convert"
+};
+}

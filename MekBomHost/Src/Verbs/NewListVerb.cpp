@@ -1,0 +1,53 @@
+// A template says of tokens that the catalogue does not know whether they are numbers or texts, so that it can be
+// checked without data. A column's cells tell, all of them: 4, 12.5 and M16 are texts.
+#include "NewListVerb.h"
+
+#include "ColumnsTemplate.h"
+#include "CsvReader.h"
+#include "DataFile.h"
+#include "PartsList.h"
+#include "StandardOutput.h"
+#include "UntypedCells.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+
+namespace mekbom
+{
+CLI::App& NewListVerb::declareOn(CLI::App& parent)
+{
+    CLI::App& newList = *parent.add_subcommand("new-list", "Write a template with all columns of a parts list");
+    newList.add_option("data", m_data, "Parts list; - reads standard input, hall takes the shipped one")
+        ->required()
+        ->type_name("FILE");
+    newList.footer("Examples\n"
+                   "  mekbom new-list parts.csv > list.json\n"
+                   "  mekbom report --data parts.csv --template list.json");
+    return newList;
+}
+
+ExitStatus NewListVerb::run(FindingList&)
+{
+    const std::unique_ptr<ByteSource> pFile = DataFile::open(m_data);
+    CsvReader records(*pFile);
+    StandardOutput::print(ColumnsTemplate::textOf(columnsOf(records)));
+    return kDone;
+}
+
+// Columns with a unit are numbers whatever their cells hold; a report tells those that are none.
+std::vector<InputColumn> NewListVerb::columnsOf(RecordSource& records)
+{
+    std::vector<InputColumn> columns = PartsList(records).columns();
+    std::vector<UntypedCells> cells(columns.size());
+    while (const Record* const pRecord = records.next())
+        for (std::size_t i = 0; i < std::min(pRecord->size(), columns.size()); ++i)
+            if (!(*pRecord)[i].isNothing())
+                cells[i].add((*pRecord)[i].asText());
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        columns[i].type = columns[i].unitSymbol.empty() ? cells[i].type() : VorBomDataValue::kDoubleData;
+    return columns;
+}
+}

@@ -1,0 +1,38 @@
+#include "TokensVerb.h"
+
+#include "Fault.h"
+#include "FindingCodes.h"
+#include "InQuotes.h"
+#include "NearestWord.h"
+#include "StandardOutput.h"
+#include "TokenTable.h"
+
+#include <CLI/CLI.hpp>
+
+namespace mekbom
+{
+CLI::App& TokensVerb::declareOn(CLI::App& parent)
+{
+    CLI::App& tokens = *parent.add_subcommand("tokens", "List the data that parts can have");
+    tokens.add_option("word", m_word, "Part of a name; case does not count [all tokens]");
+    tokens.footer("Examples\n"
+                  "  mekbom tokens\n"
+                  "  mekbom tokens weight");
+    return tokens;
+}
+
+// Nothing found is wrong usage rather than an empty table: a script that asks for a token wants to know.
+ExitStatus TokensVerb::run(FindingList&)
+{
+    const std::string table = TokenTable::textOf(m_word);
+    if (table.empty())
+    {
+        Finding finding = Finding::of(FindingCodes::kWrongArguments, inQuotes(m_word), "a part of a token's name");
+        finding.source = "tokens";
+        finding.remedy = NearestWord::question(m_word, TokenTable::names());
+        throw Fault(kWrongUsage, finding);
+    }
+    StandardOutput::print(table);
+    return kDone;
+}
+}
