@@ -31,6 +31,9 @@ public:
         kSortNumeric = 2       // numbers: VorBomDataValue::compare
     };
 
+    // How rows are ordered by some tokens in place of what getSortType() answers, as VorBomTemplate::setSortType() has it.
+    using SortTypes = VorStringHashMap<eSortType>;
+
     static const VorString kTokenPrefix;    // "%", which every token starts with
     static const VorString kGroupPrefix;    // "%GroupBy:"
     static const VorString kSortAscPrefix;  // "%SortAscBy:"

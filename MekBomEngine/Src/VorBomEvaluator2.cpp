@@ -48,6 +48,13 @@ void leaveLastFormula(VorBomEngineStateArray& stack)
         --level;
 }
 
+// Tells the plan of a section's numbers which of them the host shows.
+void setFormats(const VorBomTemplate& reportTemplate, const VorBomTemplateItem& section, VorBomDisplayPlan& plan)
+{
+    for (int tuple = 0; tuple < section.getData().length(); ++tuple)
+        plan.setFormat(tuple, reportTemplate.numberFormat(section, tuple));
+}
+
 // Destroys, when it goes, what an evaluation that ends early has made and nobody has taken.
 class SectionsInProgress
 {
@@ -98,7 +105,7 @@ int VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineS
     // Before anything changes: a sink that stops here leaves the rows in the order in which they came.
     if (target.takeProgress(0) == 0)
         return 0;
-    sortInpuDataBySortingTokens(pData, stack);
+    sortInpuDataBySortingTokens(pData, stack, reportTemplate.sortTypes());
 
     stack[0].m_pTarget = &target;
     // From here on a sink may stop the report or throw while groups are open.
@@ -135,6 +142,9 @@ VorBomEngineStateArray VorBomEvaluator2::getTemplateStack(VorBomTemplate* pTempl
         state.m_pHeader = pItem;
         state.m_pFooter = asSection(pItem->next());
         state.m_pPlan = std::make_shared<VorBomLevelPlan>(pLayouts, *state.m_pHeader, state.m_pFooter);
+        setFormats(*pTemplate, *state.m_pHeader, state.m_pPlan->header.display());
+        if (state.m_pFooter != nullptr)
+            setFormats(*pTemplate, *state.m_pFooter, state.m_pPlan->footer->display());
         stack.append(std::move(state));
     }
     return stack;

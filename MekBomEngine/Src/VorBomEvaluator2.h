@@ -101,7 +101,8 @@ private:
 
     // Sorting. The comparisons are callbacks over pointers to elements: VorBomDataRow* and
     // VorHeaderFooterSortingStruct. All return 1 but the comparisons, which answer -1, 0 or 1, and isEqualAsEvaluated.
-    static int sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngineStateArray& stack);
+    static int sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngineStateArray& stack,
+                                           const VorBomDataToken::SortTypes& sortTypes);
     static int compareDataRow(const void* pFirst, const void* pSecond);
     static int sortSubGroupsOnLevels(VorBomTemplateItem* pItem, VorBomEngineStateArray& stack, int level);
     static int sortItemList(VorBomTemplateItem*& pFirst, const VorStringArray& sortingTokens);
@@ -117,10 +118,11 @@ private:
     // Appends the row's data, not null, as plain entries: doubles to one decimal. Reports "false" for an empty value.
     static void fillGenericString(VorGenericString& target, const VorBomDataRow* pRow);
 
-    // What the comparisons sort by: entry i of an order array, 1 ascending or 0 descending, is for token i. Refilled
-    // before each sort, one set per thread.
+    // What the comparisons sort by: entry i of an order array, 1 ascending or 0 descending, is for token i, as is entry i
+    // of the sort types, an eSortType or VorBomSortKeys::kByCatalogue. Refilled before each sort, one set per thread.
     static thread_local VorStringArray m_arrTokensToSortDataRow;
     static thread_local VorArray<int> m_arrSortOrderForDataRow;
+    static thread_local VorArray<int> m_arrSortTypeForDataRow;
     static thread_local VorStringArray m_arrTokensToSortEvaluatedItems;
     static thread_local VorArray<int> m_arrSortOrderForEvaluatedItems;
 };

@@ -15,6 +15,7 @@
 
 thread_local VorStringArray VorBomEvaluator2::m_arrTokensToSortDataRow;
 thread_local VorArray<int> VorBomEvaluator2::m_arrSortOrderForDataRow;
+thread_local VorArray<int> VorBomEvaluator2::m_arrSortTypeForDataRow;
 thread_local VorStringArray VorBomEvaluator2::m_arrTokensToSortEvaluatedItems;
 thread_local VorArray<int> VorBomEvaluator2::m_arrSortOrderForEvaluatedItems;
 
@@ -41,6 +42,17 @@ void appendSortKeys(const VorStringArray& sortingTokens, int& ascending, VorStri
         VorBomDataToken::removeSortingPrefix(token, ascending);
         tokens.append(std::move(token));
         orders.append(ascending);
+    }
+}
+
+// For each token the sort type that a host has set for it, or VorBomSortKeys::kByCatalogue.
+void findSortTypes(const VorStringArray& tokens, const VorBomDataToken::SortTypes& sortTypes, VorArray<int>& found)
+{
+    found.empty();
+    for (const VorString& token : tokens)
+    {
+        const auto* pNode = sortTypes.find(token);
+        found.append(pNode != nullptr ? static_cast<int>(pNode->value) : VorBomSortKeys::kByCatalogue);
     }
 }
 
@@ -116,7 +128,8 @@ void relinkSections(const VorHeaderFooterSortingArray& pairs)
 }
 }
 
-int VorBomEvaluator2::sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngineStateArray& stack)
+int VorBomEvaluator2::sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngineStateArray& stack,
+                                                  const VorBomDataToken::SortTypes& sortTypes)
 {
     m_arrTokensToSortDataRow.empty();
     m_arrSortOrderForDataRow.empty();
@@ -126,12 +139,14 @@ int VorBomEvaluator2::sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngin
         if (state.m_pHeader != nullptr)
             appendSortKeys(state.m_pHeader->sortingTokens(), ascending, m_arrTokensToSortDataRow,
                            m_arrSortOrderForDataRow);
+    findSortTypes(m_arrTokensToSortDataRow, sortTypes, m_arrSortTypeForDataRow);
     // A single row is not compared, so a token that nobody knows is not reported for it.
     const bool hasTwoRows = pData->child() != nullptr && pData->child()->next() != nullptr;
     if (m_arrTokensToSortDataRow.isEmpty() || !hasTwoRows)
         return 1;
 
-    VorBomSortedRows sortedRows(*pData, m_arrTokensToSortDataRow, m_arrSortOrderForDataRow);
+    VorBomSortedRows sortedRows(
+        *pData, VorBomSortKeys(m_arrTokensToSortDataRow, m_arrSortOrderForDataRow, m_arrSortTypeForDataRow));
     VorBomItemBase* pLastBefore = sortedRows.lastInList();
     const std::vector<VorBomItemBase*> rows = sortedRows.sorted();
     // On purpose lastChild() goes on naming the row that was last before sorting.
@@ -152,7 +167,7 @@ int VorBomEvaluator2::compareDataRow(const void* pFirst, const void* pSecond)
     reportUnless(pSecondItemData != nullptr, L"NULL != pSecondItemData", __LINE__);
     if (pFirstItemData == nullptr || pSecondItemData == nullptr)
         return 0;
-    VorBomSortKeys keys(m_arrTokensToSortDataRow, m_arrSortOrderForDataRow);
+    VorBomSortKeys keys(m_arrTokensToSortDataRow, m_arrSortOrderForDataRow, m_arrSortTypeForDataRow);
     return keys.compare([&](std::size_t key) { return pFirstItemData->getTupleAt(keys.token(key)); },
                         [&](std::size_t key) { return pSecondItemData->getTupleAt(keys.token(key)); });
 }

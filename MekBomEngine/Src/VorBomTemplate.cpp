@@ -161,6 +161,23 @@ bool VorBomTemplate::isTokenRequired(const VorString& token) const
     return std::binary_search(m_tokenTrace.begin(), m_tokenTrace.end(), token, VorStringLessNoCase());
 }
 
+void VorBomTemplate::setSortType(const VorString& token, VorBomDataToken::eSortType sortType)
+{
+    bool inserted = false;
+    m_sortTypes.findOrInsert(token, sortType, inserted)->value = sortType;
+}
+
+void VorBomTemplate::setNumberFormat(const VorBomTemplateItem& section, int tuple, const VorBomNumberFormat* pFormat)
+{
+    m_numberFormats[{ &section, tuple }] = pFormat;
+}
+
+const VorBomNumberFormat* VorBomTemplate::numberFormat(const VorBomTemplateItem& section, int tuple) const
+{
+    const auto found = m_numberFormats.find({ &section, tuple });
+    return found == m_numberFormats.end() ? nullptr : found->second;
+}
+
 int VorBomTemplate::getUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens)
 {
     for (VorBomItemBase* pItem = child(); pItem != nullptr; pItem = pItem->next())

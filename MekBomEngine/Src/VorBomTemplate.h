@@ -22,6 +22,7 @@
 #pragma once
 
 #include "VorBomData.h"
+#include "VorBomNumberFormat.h"
 #include "VorBomTemplateItem.h"
 #include "VorBomTemplateUnits.h"
 
@@ -29,6 +30,9 @@
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
 #include "MekRoots/Exp/VorUnitsManager.h"
+
+#include <map>
+#include <utility>
 
 class MEK_BOM_API VorBomTemplate : public VorBomTemplateItem
 {
@@ -82,6 +86,20 @@ public:
     // Whether the trace holds `token`, in whatever case. Computes nothing: false for every token before findUsedTokens.
     bool isTokenRequired(const VorString& token) const;
 
+    // Has rows be sorted by `token` in this order, whatever the catalogue of tokens says of it. Of two calls for one
+    // token the last one counts. Groups, sums and other templates are left alone.
+    //   reportTemplate.setSortType(L"%Phase", VorBomDataToken::kSortAlphanumeric);   // 1, 2, 10 instead of 1, 10, 2
+    //   reportTemplate.setSortType(L"%Zone", VorBomDataToken::kSortString);          // not in the catalogue: no report
+    // Natural order is for texts: numbers under such a token are reported, as under those of the catalogue.
+    void setSortType(const VorString& token, VorBomDataToken::eSortType sortType);
+    const VorBomDataToken::SortTypes& sortTypes() const { return m_sortTypes; }
+
+    // Has the numbers of a section's tuple be shown by `pFormat` instead of the units; null: by the units again. The format
+    // is not owned and must live as long as the template is evaluated.
+    void setNumberFormat(const VorBomTemplateItem& section, int tuple, const VorBomNumberFormat* pFormat);
+    // Null for a tuple whose numbers the units show.
+    const VorBomNumberFormat* numberFormat(const VorBomTemplateItem& section, int tuple) const;
+
     // Reports the data that the sections use. For each direct child up to and including the first kReportFooter, and
     // each row from its getFirstDataRow() along the next() links, appends what
     // VorBomDataRow::appendUsedHandlesAndTokens does, rows that do not count in sums left out. Returns 1.
@@ -105,4 +123,7 @@ private:
     int m_nObjectPresentationOptions = kNoOptions;
     VorBomData* m_pData;
     VorStringArray m_tokenTrace;
+    VorBomDataToken::SortTypes m_sortTypes; // of tokens that the host has set, no others
+    std::map<std::pair<const VorBomTemplateItem*, int>, const VorBomNumberFormat*>
+        m_numberFormats; // by section and tuple
 };

@@ -37,6 +37,14 @@ public:
     VorBomDataRow row;
 };
 
+// Every number as one word, so that lines read alike.
+class AsWord : public VorBomNumberFormat
+{
+public:
+    VorString textOf(int) const override { return VorString(L"whole"); }
+    VorString textOf(double) const override { return VorString(L"broken"); }
+};
+
 // What the report shows for one tuple.
 VorString shown(VorBomTemplateUnits& units, const VorBomDataTuple& tuple)
 {
@@ -233,4 +241,40 @@ TEST(VorBomEvaluator2DisplayTest, GenericStringTakesEveryTupleOfARow)
     EXPECT_EQ(VorString(L"HEA200"), text);
     EXPECT_EQ(0, target.findEntry(L"%Role", text));
     EXPECT_TRUE(log.holdsOnly(L"false", kSourcePath));
+}
+
+TEST(VorBomEvaluator2DisplayTest, FormatOfTheHostShowsTheNumbersOfItsTupleAlone)
+{
+    Report report;
+    Item* pHeader = report.addSection(nullptr, Item::kGroupHeader, { { L"%Weight", 0.0 } });
+    Item* pDetails = report.addSection(pHeader, Item::kDetails, { { L"%Weight", 0.0 }, { L"%Weight", 0.0 } });
+    Item* pFooter = report.addSection(nullptr, Item::kGroupFooter, { { L"%SumBy:%Weight", 0.0 } });
+    report.addRow({ { L"%Weight", 2.5 } });
+    const AsWord format;
+    report.tmpl().setNumberFormat(*pDetails, 1, &format);
+    report.tmpl().setNumberFormat(*pFooter, 0, &format);
+    report.tmpl().setNumberFormat(*pHeader, 0, &format);
+    report.tmpl().setNumberFormat(*pHeader, 0, nullptr);
+
+    const VorString text = report.evaluated();
+
+    EXPECT_EQ(nullptr, report.tmpl().numberFormat(*pHeader, 0));
+    EXPECT_EQ(nullptr, report.tmpl().numberFormat(*pDetails, 0));
+    EXPECT_EQ(&format, report.tmpl().numberFormat(*pDetails, 1));
+    EXPECT_GE(text.find(L"[%Weight:2.5][%Weight:broken]", 0), 0) << text;
+    EXPECT_GE(text.find(L"[%SumBy:%Weight:broken]", 0), 0) << text;
+}
+
+TEST(VorBomEvaluator2DisplayTest, LinesThatReadAlikeByTheHostsFormatAreMerged)
+{
+    Report report;
+    Item* pHeader = report.addSection(nullptr, Item::kGroupHeader, {});
+    Item* pDetails = report.addSection(pHeader, Item::kDetails, { { L"%Weight", 0.0 } });
+    report.addSection(nullptr, Item::kGroupFooter, { { L"%SumBy:%Weight", 0.0 } });
+    report.addRow({ { L"%Weight", 2.5 } });
+    report.addRow({ { L"%Weight", 4.5 } });
+    const AsWord format;
+    report.tmpl().setNumberFormat(*pDetails, 0, &format);
+
+    EXPECT_GE(report.evaluated().find(L"[%SumBy:%Weight:2.5]", 0), 0);
 }

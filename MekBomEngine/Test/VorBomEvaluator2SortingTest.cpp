@@ -94,6 +94,41 @@ TEST(VorBomEvaluator2SortingTest, AlphanumericTokensSortNaturallyAndOthersByChar
     EXPECT_EQ(VorString(L"B1 B10 B2"), sortedNums(plain));
 }
 
+TEST(VorBomEvaluator2SortingTest, TemplateSetsTheOrderOfATokenForItselfAlone)
+{
+    for (const bool isNatural : { false, true })
+    {
+        Report report;
+        addLevels(report, { L"%SortAscBy:%Phase,%Zone" });
+        if (isNatural)
+            for (const wchar_t* pToken : { L"%Phase", L"%Zone" })
+                report.tmpl().setSortType(pToken, VorBomDataToken::kSortAlphanumeric);
+        report.addRow({ { L"%Num", L"a" }, { L"%Phase", L"10" }, { L"%Zone", L"Z1" } });
+        report.addRow({ { L"%Num", L"b" }, { L"%Phase", L"2" }, { L"%Zone", L"Z10" } });
+        report.addRow({ { L"%Num", L"c" }, { L"%Phase", L"2" }, { L"%Zone", L"Z9" } });
+        AssertLog log;
+
+        report.evaluate();
+
+        EXPECT_EQ(VorString(isNatural ? L"c b a" : L"a b c"), report.rowTexts(L"%Num"));
+        EXPECT_EQ(isNatural, log.isEmpty()); // %Zone is reported unless its order is set
+    }
+}
+
+TEST(VorBomEvaluator2SortingTest, CallbackComparesByTheOrdersOfTheLastSort)
+{
+    Report report;
+    addLevels(report, { L"%SortAscBy:%Phase" });
+    report.tmpl().setSortType(L"%Phase", VorBomDataToken::kSortAlphanumeric);
+    VorBomDataRow* pTen = report.addRow({ { L"%Phase", L"10" } });
+    VorBomDataRow* pTwo = report.addRow({ { L"%Phase", L"2" } });
+    report.evaluate();
+
+    EXPECT_EQ(1, Access::compareDataRow(pTen, pTwo));
+    sortedNums(report); // sets nothing
+    EXPECT_EQ(-1, Access::compareDataRow(pTen, pTwo));
+}
+
 TEST(VorBomEvaluator2SortingTest, EqualRowsKeepTheirOrder)
 {
     Report report;

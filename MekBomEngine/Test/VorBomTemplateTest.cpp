@@ -592,3 +592,16 @@ TEST(VorBomTemplateTest, ReferenceToSortingTokensOutlivesASecondSearch)
 
     EXPECT_EQ((Texts{ L"%SortAscBy:%A", L"%SortDescBy:%B" }), elementsOf(sorting));
 }
+
+TEST(VorBomTemplateTest, OfTwoOrdersSetForOneTokenTheLastOneCounts)
+{
+    VorBomTemplate bomTemplate;
+    EXPECT_EQ(0, bomTemplate.sortTypes().count());
+
+    bomTemplate.setSortType(L"%Phase", VorBomDataToken::kSortString);
+    bomTemplate.setSortType(L"%Phase", VorBomDataToken::kSortAlphanumeric);
+
+    ASSERT_NE(nullptr, bomTemplate.sortTypes().find(L"%Phase"));
+    EXPECT_EQ(VorBomDataToken::kSortAlphanumeric, bomTemplate.sortTypes().find(L"%Phase")->value);
+    EXPECT_EQ(nullptr, bomTemplate.sortTypes().find(L"%phase"));
+}

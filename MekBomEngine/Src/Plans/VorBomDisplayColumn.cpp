@@ -36,7 +36,7 @@ VorString VorBomDisplayColumn::textOf(int value)
     const auto key = static_cast<std::uint64_t>(value);
     if (const VorString* pText = m_integerTexts.find(key))
         return *pText;
-    VorString text = integerText(value);
+    VorString text = m_pFormat != nullptr ? m_pFormat->textOf(value) : integerText(value);
     m_integerTexts.remember(key, text);
     return text;
 }
@@ -51,7 +51,7 @@ VorString VorBomDisplayColumn::textOf(double value, VorBomTemplateUnits& units)
     std::memcpy(&key, &value, sizeof key);
     if (const VorString* pText = m_texts.find(key))
         return *pText;
-    VorString text = units.getDisplayString(m_type, value);
+    VorString text = m_pFormat != nullptr ? m_pFormat->textOf(value) : units.getDisplayString(m_type, value);
     m_texts.remember(key, text);
     return text;
 }

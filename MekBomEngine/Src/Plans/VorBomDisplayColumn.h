@@ -10,6 +10,7 @@
 
 #include "VorBomDataToken.h"
 #include "VorBomDataValue.h"
+#include "VorBomNumberFormat.h"
 #include "VorBomTemplateUnits.h"
 #include "VorBomTextMemo.h"
 
@@ -30,7 +31,11 @@ public:
             value.set(textOf(*static_cast<const double*>(value.data()), units));
     }
 
-    // The kind of unit that the last double was shown in.
+    // Numbers are shown by `pFormat` from now on, whatever their unit. It is not owned and outlives this; null: by the
+    // units, as at first.
+    void setFormat(const VorBomNumberFormat* pFormat) { m_pFormat = pFormat; }
+
+    // The kind of unit that the last double was shown in; that of its token where a format shows it.
     VorBomTemplateUnits::eTokenUnitType unitType() const { return m_type; }
 
 private:
@@ -43,6 +48,7 @@ private:
 
     VorString m_name; // without prefixes; for a formula its text
     bool m_isFormula;
+    const VorBomNumberFormat* m_pFormat = nullptr;
     VorBomTemplateUnits::eTokenUnitType m_type = VorBomTemplateUnits::kNoUnit;
     int m_nTypesKnown = kNeverLookedUp; // how many tokens the units knew when the type was looked up
     VorBomTextMemo m_texts;             // of doubles, in the units of m_type

@@ -12,6 +12,7 @@
 
 #include "VorBomTypedValue.h"
 
+#include <cstddef>
 #include <vector>
 
 class VorBomDisplayPlan
@@ -19,6 +20,12 @@ class VorBomDisplayPlan
 public:
     // The plan shows sections that have the tokens of `tuples`, in the same order.
     explicit VorBomDisplayPlan(const VorBomDataTupleArray& tuples);
+
+    // Shows the numbers of the `index`-th tuple by a format of the host's; see VorBomDisplayColumn.
+    void setFormat(int index, const VorBomNumberFormat* pFormat)
+    {
+        m_columns[static_cast<std::size_t>(index)].setFormat(pFormat);
+    }
 
     // From now on show() writes down what it replaces.
     void keepValues() { m_values.resize(m_columns.size()); }

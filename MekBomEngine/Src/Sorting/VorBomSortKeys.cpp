@@ -3,10 +3,25 @@
 //   B2 and none    a datum is more than none, and descending makes that -1: the row without a name stands last
 #include "VorBomSortKeys.h"
 
-VorBomSortKeys::VorBomSortKeys(const VorStringArray& tokens, const VorArray<int>& orders)
+#include "VorBomDataToken.h"
+#include "VorBomTokenCatalogue.h"
+
+namespace
+{
+int sortTypeOf(const VorString& token, int setType)
+{
+    if (setType != VorBomSortKeys::kByCatalogue)
+        return setType;
+    const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(token);
+    return pEntry != nullptr ? static_cast<int>(pEntry->sort) : VorBomSortKeys::kByCatalogue;
+}
+}
+
+VorBomSortKeys::VorBomSortKeys(const VorStringArray& tokens, const VorArray<int>& orders,
+                               const VorArray<int>& sortTypes)
 {
     for (int i = 0; i < tokens.length(); ++i)
-        m_keys.push_back({ tokens[i], orders[i] == 1 });
+        m_keys.push_back({ tokens[i], orders[i] == 1, sortTypeOf(tokens[i], sortTypes[i]) });
 }
 
 int VorBomSortKeys::Key::compare(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
@@ -16,17 +31,14 @@ int VorBomSortKeys::Key::compare(const VorBomDataTuple* pFirst, const VorBomData
     return isAscending ? order : -order;
 }
 
-// The sort type is asked for at the first comparison of two values: tokens that nobody knows are reported then, and
-// only then.
+// A token without entry in the catalogue, such as a formula, is asked about at the first comparison of two values: those
+// that nobody knows are reported then, and only then.
 int VorBomSortKeys::Key::compareValues(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
 {
     const bool bothHaveIt = pFirst != nullptr && pSecond != nullptr;
-    if (bothHaveIt && !knowsSortType)
-    {
-        isNatural = VorBomDataToken::getSortType(token) == VorBomDataToken::kSortAlphanumeric;
-        knowsSortType = true;
-    }
-    if (bothHaveIt && isNatural)
+    if (bothHaveIt && sortType == kByCatalogue)
+        sortType = VorBomDataToken::getSortType(token);
+    if (bothHaveIt && sortType == VorBomDataToken::kSortAlphanumeric)
         return pFirst->value().compareAlphanumeric(pSecond->value());
     return VorBomDataTuple::compareValues(pFirst, pSecond);
 }

@@ -7,21 +7,24 @@
 
 #include "VorBomColumns.h"
 #include "VorBomRanks.h"
-#include "VorBomTokenCatalogue.h"
 #include "VorStableMergeSort.h"
 
 #include <memory>
 #include <numeric>
+#include <utility>
 
-VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorStringArray& tokens, const VorArray<int>& orders)
-    : m_keys(tokens, orders), m_columns(m_keys.count())
+VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorBomSortKeys& keys)
+    : m_keys(keys), m_columns(m_keys.count())
 {
+    std::vector<VorString> tokens;
+    for (std::size_t key = 0; key < m_keys.count(); ++key)
+        tokens.push_back(m_keys.token(key));
     for (VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
         m_rows.push_back(pRow);
     for (Column& column : m_columns)
         column.resize(m_rows.size());
     // The pointers outlive `columns`: they hold as long as no row gets a tuple, and none does while rows are sorted.
-    VorBomColumns columns(std::make_shared<VorBomRowLayouts>(), std::vector<VorString>(tokens.begin(), tokens.end()));
+    VorBomColumns columns(std::make_shared<VorBomRowLayouts>(), std::move(tokens));
     for (std::size_t row = 0; row < m_rows.size(); ++row)
     {
         columns.find(*m_rows[row]);
@@ -51,8 +54,9 @@ bool VorBomSortedRows::sortByRanks(std::vector<std::uint32_t>& indices) const
     std::vector<VorBomRanks> ranks(m_keys.count());
     for (std::size_t key = 0; key < m_keys.count(); ++key)
     {
-        const VorBomTokenCatalogue::Entry* pEntry = VorBomTokenCatalogue::find(m_keys.token(key));
-        if (pEntry == nullptr || !ranks[key].create(m_columns[key], pEntry->sort))
+        const int sortType = m_keys.sortType(key);
+        if (sortType == VorBomSortKeys::kByCatalogue ||
+            !ranks[key].create(m_columns[key], static_cast<VorBomDataToken::eSortType>(sortType)))
             return false;
     }
     for (std::size_t key = m_keys.count(); key-- > 0;)

@@ -1,7 +1,7 @@
 // The rows of a list in the order of its sort keys, the first key counting most; rows equal under all keys keep their
 // order. A row without a key's datum stands before those that have it when ascending, after them when descending.
 //
-//   VorBomSortedRows rows(data, tokens, orders);   // %Material and %Length, 1 and 0: length descending
+//   VorBomSortedRows rows(data, keys);   // %Material and %Length, length descending
 //   rows.sorted()  ->  S235 200, S355 300, S355 100
 //
 // Each row's tuples are looked up once. Columns that can be ranked (VorBomRanks), as nearly all can, are sorted by
@@ -11,17 +11,13 @@
 #include "VorBomData.h"
 #include "VorBomSortKeys.h"
 
-#include "MekRoots/Exp/VorArray.h"
-#include "MekRoots/Exp/VorString.h"
-
 #include <cstdint>
 #include <vector>
 
 class VorBomSortedRows
 {
 public:
-    // `orders` holds 1 for ascending or 0 for descending, one for each token.
-    VorBomSortedRows(VorBomData& data, const VorStringArray& tokens, const VorArray<int>& orders);
+    VorBomSortedRows(VorBomData& data, const VorBomSortKeys& keys);
 
     // All rows, in order; the data's own chain stays as it is.
     std::vector<VorBomItemBase*> sorted();

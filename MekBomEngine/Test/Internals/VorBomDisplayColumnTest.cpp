@@ -18,6 +18,13 @@ VorString shown(VorBomDisplayColumn& column, Units& units, Number number)
     return value.asString();
 }
 
+class AsWord : public VorBomNumberFormat
+{
+public:
+    VorString textOf(int value) const override { return VorString(value == 2 ? L"two" : L"other"); }
+    VorString textOf(double value) const override { return VorString(value == 2.5 ? L"two and a half" : L"other"); }
+};
+
 VorString shownUnder(const wchar_t* token, Units& units, double number)
 {
     VorBomDisplayColumn column((VorBomDataToken(VorString(token))));
@@ -85,4 +92,20 @@ TEST(VorBomDisplayColumnTest, OnlyDoublesRegisterAFormula)
     EXPECT_EQ(1, units.numTokenTypes());
     EXPECT_EQ(VorString(), shown(column, units, 7.0));
     EXPECT_EQ(2, units.numTokenTypes());
+}
+
+TEST(VorBomDisplayColumnTest, FormatOfTheHostShowsNumbersInPlaceOfTheUnits)
+{
+    Units units;
+    units.AddTokenType(L"%Weight", kHidden);
+    VorBomDisplayColumn column((VorBomDataToken(VorString(L"%Weight"))));
+    const AsWord format;
+    column.setFormat(&format);
+
+    for (int time = 0; time < 2; ++time) // the second time from memory
+    {
+        EXPECT_EQ(VorString(L"two"), shown(column, units, 2));
+        EXPECT_EQ(VorString(L"two and a half"), shown(column, units, 2.5));
+    }
+    EXPECT_EQ(kHidden, column.unitType());
 }

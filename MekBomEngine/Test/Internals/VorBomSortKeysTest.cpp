@@ -9,18 +9,20 @@ struct SortKey
 {
     const wchar_t* token;
     int order;
+    int sortType = VorBomSortKeys::kByCatalogue;
 };
 
 VorBomSortKeys keysOf(std::initializer_list<SortKey> keys)
 {
     VorStringArray tokens;
-    VorArray<int> orders;
+    VorArray<int> orders, sortTypes;
     for (const SortKey& key : keys)
     {
         tokens.append(key.token);
         orders.append(key.order);
+        sortTypes.append(key.sortType);
     }
-    return VorBomSortKeys(tokens, orders);
+    return VorBomSortKeys(tokens, orders, sortTypes);
 }
 
 VorBomItemBase item(std::initializer_list<VorBomDataTuple> tuples)
@@ -89,4 +91,33 @@ TEST(VorBomSortKeysTest, UnknownTokenIsReportedOnceTwoValuesMeet)
     EXPECT_TRUE(log.isEmpty());
     compare(keys, with, with);
     EXPECT_FALSE(log.isEmpty());
+}
+
+TEST(VorBomSortKeysTest, SortTypeThatIsSetComesBeforeTheCatalogues)
+{
+    const VorBomItemBase b2 = item({ { L"%Num", L"B2" }, { L"%Material", L"B2" } });
+    const VorBomItemBase b10 = item({ { L"%Num", L"B10" }, { L"%Material", L"B10" } });
+
+    EXPECT_EQ(1, compare(keysOf({ { L"%Num", 1, VorBomDataToken::kSortString } }), b2, b10));
+    EXPECT_EQ(-1, compare(keysOf({ { L"%Material", 1, VorBomDataToken::kSortAlphanumeric } }), b2, b10));
+}
+
+TEST(VorBomSortKeysTest, UnknownTokenWithASortTypeOfItsOwnIsNotReported)
+{
+    const VorBomItemBase b2 = item({ { L"%Nobody", L"B2" } });
+    const VorBomItemBase b10 = item({ { L"%Nobody", L"B10" } });
+    AssertLog log;
+
+    EXPECT_EQ(-1, compare(keysOf({ { L"%Nobody", 1, VorBomDataToken::kSortAlphanumeric } }), b2, b10));
+    EXPECT_EQ(1, compare(keysOf({ { L"%Nobody", 1, VorBomDataToken::kSortString } }), b2, b10));
+    EXPECT_TRUE(log.isEmpty());
+}
+
+TEST(VorBomSortKeysTest, TokensWithoutEntryHaveNoSortTypeToRankBy)
+{
+    const VorBomSortKeys keys = keysOf({ { L"%Num", 1 }, { L"%Formula:%A*2", 1 }, { L"%Nobody", 1 } });
+
+    EXPECT_EQ(VorBomDataToken::kSortAlphanumeric, keys.sortType(0));
+    EXPECT_EQ(VorBomSortKeys::kByCatalogue, keys.sortType(1));
+    EXPECT_EQ(VorBomSortKeys::kByCatalogue, keys.sortType(2));
 }

@@ -18,16 +18,30 @@ VorArray<int> orders(std::initializer_list<int> directions)
     return array;
 }
 
+// By the orders of the catalogue.
+VorBomSortKeys keysOf(const VorStringArray& tokens, const VorArray<int>& directions)
+{
+    VorArray<int> sortTypes;
+    for (int i = 0; i < tokens.length(); ++i)
+        sortTypes.append(VorBomSortKeys::kByCatalogue);
+    return VorBomSortKeys(tokens, directions, sortTypes);
+}
+
 // The handles of the rows in sorted order, blanks between.
-VorString sorted(VorBomData& data, const VorStringArray& tokens, const VorArray<int>& directions)
+VorString sorted(VorBomData& data, const VorBomSortKeys& keys)
 {
     VorString text;
-    for (const VorBomItemBase* pRow : VorBomSortedRows(data, tokens, directions).sorted())
+    for (const VorBomItemBase* pRow : VorBomSortedRows(data, keys).sorted())
     {
         text += text.isEmpty() ? L"" : L" ";
         text += static_cast<const VorBomDataRow*>(pRow)->objectHandle();
     }
     return text;
+}
+
+VorString sorted(VorBomData& data, const VorStringArray& tokens, const VorArray<int>& directions)
+{
+    return sorted(data, keysOf(tokens, directions));
 }
 
 void addRow(VorBomData& data, const wchar_t* handle, Tuples tuples)
@@ -52,8 +66,7 @@ VorBomDataValue randomValue(std::mt19937& random, int kind)
 }
 
 // The same order by asking for the two rows' tuples in every comparison.
-std::vector<VorBomItemBase*> sortedByComparing(VorBomData& data, const VorStringArray& tokens,
-                                               const VorArray<int>& directions)
+std::vector<VorBomItemBase*> sortedByComparing(VorBomData& data, const VorBomSortKeys& sortKeys)
 {
     std::vector<VorBomItemBase*> rows;
     for (VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
@@ -61,7 +74,7 @@ std::vector<VorBomItemBase*> sortedByComparing(VorBomData& data, const VorString
     vorStableMergeSort(rows,
                        [&](const VorBomItemBase* pFirst, const VorBomItemBase* pSecond)
                        {
-                           VorBomSortKeys keys(tokens, directions);
+                           VorBomSortKeys keys = sortKeys;
                            return keys.compare([&](std::size_t key) { return pFirst->getTupleAt(keys.token(key)); },
                                                [&](std::size_t key)
                                                { return pSecond->getTupleAt(keys.token(key)); }) <= 0;
@@ -117,6 +130,21 @@ TEST(VorBomSortedRowsTest, TotalsAndFormulasSortByTheValuesUnderTheirWholeText)
     EXPECT_TRUE(log.isEmpty());
 }
 
+TEST(VorBomSortedRowsTest, TokenThatTheCatalogueLacksIsSortedAsItsOrderIsSet)
+{
+    BomTree<VorBomData> data;
+    for (const wchar_t* const zone : { L"Z10", L"Z2", L"Z1" })
+        addRow(data, zone, { tuple(L"%Zone", zone) });
+    VorArray<int> natural, plain;
+    natural.append(VorBomDataToken::kSortAlphanumeric);
+    plain.append(VorBomDataToken::kSortString);
+    AssertLog log;
+
+    EXPECT_EQ(VorString(L"Z1 Z2 Z10"), sorted(data, VorBomSortKeys(arrayOf({ L"%Zone" }), orders({ 1 }), natural)));
+    EXPECT_EQ(VorString(L"Z1 Z10 Z2"), sorted(data, VorBomSortKeys(arrayOf({ L"%Zone" }), orders({ 1 }), plain)));
+    EXPECT_TRUE(log.isEmpty());
+}
+
 TEST(VorBomSortedRowsTest, RowsAreSortedAsComparingThemOneByOneDoesWhateverTheyHold)
 {
     std::mt19937 random(17);
@@ -136,14 +164,16 @@ TEST(VorBomSortedRowsTest, RowsAreSortedAsComparingThemOneByOneDoesWhateverTheyH
             data.addChild(pRow);
         }
         VorStringArray keys;
-        VorArray<int> directions;
+        VorArray<int> directions, sortTypes;
         for (auto key = 1 + random() % 3; key > 0; --key)
         {
             keys.append(VorString(kTokens[random() % 5]));
             directions.append(static_cast<int>(random() % 2));
+            sortTypes.append(static_cast<int>(random() % 4) - 1); // kByCatalogue or one of the three
         }
+        const VorBomSortKeys sortKeys(keys, directions, sortTypes);
 
-        EXPECT_EQ(sortedByComparing(data, keys, directions), VorBomSortedRows(data, keys, directions).sorted());
+        EXPECT_EQ(sortedByComparing(data, sortKeys), VorBomSortedRows(data, sortKeys).sorted());
     }
     VorAssert::clearReports(); // of unlike values
 }

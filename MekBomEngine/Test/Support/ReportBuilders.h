@@ -120,9 +120,10 @@ struct VorBomEvaluator2Access
     {
         return E::endGroup(stack, level, pUnits);
     }
-    static int sortInputData(VorBomData* pData, VorBomEngineStateArray& stack)
+    static int sortInputData(VorBomData* pData, VorBomEngineStateArray& stack,
+                             const VorBomDataToken::SortTypes& sortTypes = VorBomDataToken::SortTypes())
     {
-        return E::sortInpuDataBySortingTokens(pData, stack);
+        return E::sortInpuDataBySortingTokens(pData, stack, sortTypes);
     }
     static int compareDataRow(VorBomDataRow* pFirst, VorBomDataRow* pSecond)
     {

@@ -4,6 +4,8 @@
 #include "UnitKinds.h"
 #include "Utf8.h"
 
+#include "VorBomNumberFormat.h"
+
 #include "MekUnits/Src/VorQuantityReader.h"
 #include "MekUnits/Src/VorUnitDefinition.h"
 
@@ -50,12 +52,16 @@ ListNumbers::ListNumbers(const ExplainedReport& report, const VorBomTemplateItem
     m_symbol = symbolOf(*m_unit);
 }
 
+// As the evaluation does it.
 std::string ListNumbers::textOf(double number) const
 {
-    if (m_shown.type == VorBomDataValue::kIntData)
+    const bool isWhole = m_shown.type == VorBomDataValue::kIntData;
+    VorBomTemplate& engineTemplate = *m_report.reportTemplate.pTemplate;
+    if (const VorBomNumberFormat* const pFormat = engineTemplate.numberFormat(m_section, m_tuple))
+        return Utf8::toBytes(isWhole ? pFormat->textOf(static_cast<int>(number)) : pFormat->textOf(number));
+    if (isWhole)
         return std::to_string(static_cast<long long>(number));
-    return Utf8::toBytes(
-        m_report.reportTemplate.pTemplate->getBomTemplateUnits()->getDisplayString(m_shown.unitType, number));
+    return Utf8::toBytes(engineTemplate.getBomTemplateUnits()->getDisplayString(m_shown.unitType, number));
 }
 
 std::string ListNumbers::withUnit(const std::string& text) const

@@ -139,12 +139,16 @@ std::string TemplateInWords::sorting(int level) const
     return text;
 }
 
+// Numbers are sorted by value, whatever their column says.
 std::string TemplateInWords::order(const VorString& token) const
 {
     const ColumnStyle* const pStyle = m_template.columnStyleOf(token);
     const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(token);
     VorBomDataToken::eSortType type = pEntry != nullptr ? pEntry->sort : VorBomDataToken::kSortString;
-    if (pStyle != nullptr && pStyle->order != ColumnStyle::kByCatalogue)
+    const auto own = m_template.ownTokens.find(Utf8::toBytes(token));
+    if (own != m_template.ownTokens.end() && own->second == kOwnNumber)
+        type = VorBomDataToken::kSortNumeric;
+    if (type != VorBomDataToken::kSortNumeric && pStyle != nullptr && pStyle->order != ColumnStyle::kByCatalogue)
         type =
             pStyle->order == ColumnStyle::kNatural ? VorBomDataToken::kSortAlphanumeric : VorBomDataToken::kSortString;
     switch (type)

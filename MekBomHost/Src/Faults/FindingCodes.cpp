@@ -45,6 +45,7 @@ const std::vector<FindingCode>& all()
         kSectionNotEvaluated,
         kChildrenNotEvaluated,
         kNestedTooDeep,
+        kColumnHasNoSuch,
         kFileUnreadable,
         kTextIsNotUtf8,
         kTextHasZeroByte,

@@ -90,6 +90,8 @@ inline constexpr FindingCode kSectionNotEvaluated = { "MB813", kNote,
                                                       "A section stands behind the header and footer of its level." };
 inline constexpr FindingCode kChildrenNotEvaluated = { "MB814", kNote, "A footer has sections below it." };
 inline constexpr FindingCode kNestedTooDeep = { "MB815", kError, "Values stand within each other too deep." };
+inline constexpr FindingCode kColumnHasNoSuch = { "MB816", kError,
+                                                  "A column says of its numbers what they do not have." };
 
 // Options, settings, units, and files as such.
 inline constexpr FindingCode kFileUnreadable = { "MB901", kError, "A file cannot be read." };

@@ -54,8 +54,8 @@ auto* findIn(Columns& columns, const std::string& token)
     return found == columns.end() ? nullptr : &*found;
 }
 
-// What the template traces, and others beside it. Case counts: a template that asks for "%Length" has no use for a column
-// "%length".
+// What the template traces, and others beside it. Case counts: a template that asks for "%Length" has no use for a
+// column "%length".
 std::set<std::string> wantedTokens(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
 {
     std::set<std::string> tokens;
@@ -248,8 +248,8 @@ void PartsList::resolveColumn(InputColumn& column, const VorBomTemplateUnits& un
         column.lackingUnit = UnitKinds::find(kind)->usualUnit;
 }
 
-// A unit makes numbers of a column that the catalogue does not know, since nobody gives texts in feet; so does a kind of
-// quantity.
+// A unit makes numbers of a column that the catalogue does not know, since nobody gives texts in feet; so does a kind
+// of quantity.
 VorBomDataValue::eBomDataValueType PartsList::typeOf(const InputColumn& column, const VorBomTemplateUnits& units) const
 {
     if (column.isHandle)

@@ -54,7 +54,7 @@ public:
     void setInputUnit(const std::string& token, const std::string& unit);
 
     // Says that the values of a column are those of all pieces of their row: each is divided by the row's "%Quantity".
-    // Throws a Fault of status kWrongUsage when there is no such column, and readRows() does when it has no such values.
+    // Throws a Fault of status kWrongUsage when there is no such column; readRows() throws one when it has no numbers.
     void setRowTotal(const std::string& token);
 
     // Says of which kind tokens are that the catalogue does not know.

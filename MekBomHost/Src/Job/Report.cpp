@@ -1,6 +1,9 @@
 #include "Report.h"
 
+#include "ColumnCheck.h"
 #include "Fault.h"
+#include "FormulaResults.h"
+#include "TokenQuantities.h"
 
 #include "VorBomDataTuple.h"
 #include "VorBomEvaluator2.h"
@@ -23,7 +26,7 @@ VorBomDataValue::eBomDataValueType typeInRows(const VorBomData& data, const VorS
 
 Report::Report(ReportTemplate reportTemplate, const VorUnitsManager& units, const DisplaySettings& settings,
                LineContents contents)
-    : m_units(units), m_template(std::move(reportTemplate)), m_sections(m_template, contents)
+    : m_units(units), m_settings(settings), m_template(std::move(reportTemplate)), m_sections(m_template, contents)
 {
     engineTemplate().setUnitsForTokens(&m_units);
     settings.applyTo(*engineTemplate().getBomTemplateUnits());
@@ -38,13 +41,44 @@ std::vector<VorString> Report::filterTokens() const
     return tokens;
 }
 
-// Filters come before the evaluation: no total may count a row that they leave out.
+std::vector<Finding> Report::numberErrors() const
+{
+    const FormulaResults formulas(m_template);
+    const TokenQuantities quantities(*m_template.pTemplate->getBomData(), *m_template.pTemplate->getBomTemplateUnits(),
+                                     formulas);
+    std::vector<Finding> findings = formulas.undeclared();
+    for (const Finding& finding : ColumnCheck::errorsOf(m_template, ReportLayout(m_template, m_units), quantities))
+        findings.push_back(finding);
+    for (Finding& finding : findings)
+        finding.source = m_template.fileName;
+    return findings;
+}
+
+// Filters come before the evaluation: no total may count a row that they leave out. What rows hold decides how numbers
+// are written and texts are sorted, so that this waits for them, too.
 void Report::evaluate()
 {
     if (m_sections.contents().rows)
         m_rowNumbers = RowNumbers(*engineTemplate().getBomData());
     filter();
+    const FormulaResults formulas(m_template);
+    formulas.registerWith(*engineTemplate().getBomTemplateUnits());
+    const TokenQuantities quantities(*engineTemplate().getBomData(), *engineTemplate().getBomTemplateUnits(), formulas);
+    setOrders(quantities);
+    m_pFormats =
+        std::make_unique<NumberFormats>(m_template, ReportLayout(m_template, m_units), quantities, m_units, m_settings);
+    m_pFormats->setFor(engineTemplate());
     VorBomEvaluator2::evaluate(&engineTemplate(), m_sections);
+}
+
+// Numbers are sorted by value whatever a column says: "2" before "10" is what natural order means.
+void Report::setOrders(const TokenQuantities& quantities)
+{
+    for (const ColumnStyle& style : m_template.columns)
+        if (style.order != ColumnStyle::kByCatalogue && !quantities.isNumeric(style.token))
+            engineTemplate().setSortType(style.token, style.order == ColumnStyle::kNatural
+                                                          ? VorBomDataToken::kSortAlphanumeric
+                                                          : VorBomDataToken::kSortString);
 }
 
 void Report::failInFilter(Finding finding, bool isFromTemplate) const

@@ -13,16 +13,18 @@
 #include "EvaluatedReport.h"
 #include "FilteredRows.h"
 #include "LineContents.h"
+#include "NumberFormats.h"
 #include "PackedSections.h"
 #include "ReportTemplate.h"
-#include "RowNumbers.h"
 #include "RowFilter.h"
+#include "RowNumbers.h"
 
 #include "VorBomTemplate.h"
 
 #include "MekRoots/Exp/VorString.h"
 #include "MekRoots/Exp/VorUnitsManager.h"
 
+#include <memory>
 #include <vector>
 
 namespace mekbom
@@ -48,6 +50,11 @@ public:
     // Of all rows that were read, once they were evaluated; of none unless lines keep their rows.
     const RowNumbers& rowNumbers() const { return m_rowNumbers; }
 
+    // What is wrong with what the template says of numbers: formulas whose result nobody can tell, units that do not
+    // measure what their columns show. All are errors; a report that is evaluated all the same shows such numbers
+    // without a unit, or in that of the list. To be called before evaluate().
+    std::vector<Finding> numberErrors() const;
+
     // The tokens that rows are left out by, which rows must be read with: a datum that was not kept would be taken for
     // one that is not there.
     std::vector<VorString> filterTokens() const;
@@ -70,12 +77,15 @@ public:
 
 private:
     void apply(RowFilter& filter, bool isFromTemplate);
+    void setOrders(const TokenQuantities& quantities);
 
     VorUnitsManager m_units; // that numbers are shown in
+    DisplaySettings m_settings;
     ReportTemplate m_template;
+    std::unique_ptr<NumberFormats> m_pFormats; // that the template refers to, once it is evaluated
     RowFilter m_where;
     std::vector<FilteredRows> m_filtered; // of the filters that say anything
     RowNumbers m_rowNumbers;
-    PackedSections m_sections;            // of the evaluated report
+    PackedSections m_sections; // of the evaluated report
 };
 }

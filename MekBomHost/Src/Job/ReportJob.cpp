@@ -28,6 +28,7 @@
 #include "VorBomDataTuple.h"
 #include "VorBomTokenCatalogue.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -81,6 +82,7 @@ ExitStatus ReportJob::makeReport()
         m_findings.add(finding);
     const DisplaySettings settings = settingsOf(m_request, m_findings);
     m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
+    refuseWrongNumbers();
     addFilter();
     readRows();
     m_pReport->evaluate();
@@ -136,6 +138,21 @@ ReportTemplate ReportJob::readColumnsTemplate()
 {
     m_findings.add(ColumnNotes::printedAsTheyAre(*m_pParts, m_pRecords->name()));
     return TemplateReader::read("list of " + m_pRecords->name(), ColumnsTemplate::textOf(m_pParts->columns()));
+}
+
+// Before rows are read: a template that is wrong is wrong for all of them.
+void ReportJob::refuseWrongNumbers()
+{
+    std::vector<Finding> errors = m_pReport->numberErrors();
+    const auto isAllowed = [this](const Finding& finding)
+    {
+        const std::vector<std::string>& codes = m_request.allowed;
+        return std::find(codes.begin(), codes.end(), finding.code) != codes.end() ||
+               m_pReport->reportTemplate().allowed.count(finding.code) > 0;
+    };
+    errors.erase(std::remove_if(errors.begin(), errors.end(), isAllowed), errors.end());
+    if (!errors.empty())
+        throw Fault(kInvalidInput, errors, errors.size());
 }
 
 void ReportJob::readRows()

@@ -54,6 +54,7 @@ private:
     ReportTemplate readTemplate();
     ReportTemplate readSuitableTemplate();
     ReportTemplate readColumnsTemplate();
+    void refuseWrongNumbers();
     void addFilter();
     void readRows();
     void checkFilterTokens() const;

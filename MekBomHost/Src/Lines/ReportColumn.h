@@ -15,8 +15,9 @@ namespace mekbom
 {
 struct ReportColumn
 {
-    // The label with the unit in brackets; the label as it is without a unit, and when it is the unit or ends in
-    // brackets of its own.
+    // The label with the unit in brackets; the label as it is without a unit, and when it names the unit itself. A label
+    // that names another unit of the kind, which the list does not show, gets the one that it shows:
+    //   "Weight [kg]" in a list in pounds  ->  "Weight [lb]"
     std::string heading() const;
 
     VorString token;                    // the column's name: no other column has it unless a section shows it twice
@@ -24,7 +25,8 @@ struct ReportColumn
 
     std::string label;                   // UTF-8: the template's, else the token's name or formula
     const UnitKind* pUnitKind = nullptr; // of its numbers; null where they have no unit or not all the same
-    std::string unitSymbol;              // UTF-8: the unit that they are shown in; empty without pUnitKind
+    std::string unitSymbol;              // UTF-8: the unit that they are shown in, or what the template calls that of
+                                         // numbers without a kind; empty where the heading can name none
     bool isNumeric = false;              // it shows numbers: half of one would be another number
     bool isAlignedRight = false;         // as the template says, else numbers right and texts left
     int width = 0;                       // in characters on a terminal; 0 where the template leaves it open

@@ -9,6 +9,8 @@
 // What a column holds is known only then, since its unit has to be that of all tuples it shows.
 #include "ReportLayout.h"
 
+#include "ColumnUnit.h"
+#include "FormulaResults.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
@@ -51,35 +53,35 @@ void placeLabel(SectionLayout& section, std::size_t numColumns)
             section.labelColumn = column;
 }
 
-void describeContent(ReportColumn& column, const TokenQuantities& quantities)
+void describeContent(ReportColumn& column, const TokenQuantities& quantities, const ColumnStyle* pStyle,
+                     const VorUnitsManager& units)
 {
     column.isNumeric = !column.shownTokens.empty() && quantities.isNumeric(column.shownTokens.front());
-    column.pUnitKind = quantities.commonKindOf(column.shownTokens);
-    if (column.pUnitKind != nullptr)
-        column.unitSymbol = quantities.symbolOf(*column.pUnitKind);
+    const Measure measure = quantities.commonMeasureOf(column.shownTokens);
+    column.pUnitKind = measure.pKind;
+    column.unitSymbol =
+        measure.pKind == nullptr ? measure.label : ColumnUnit::symbolOf(ColumnUnit::of(pStyle, *measure.pKind, units));
 }
 
-void describeLook(ReportColumn& column, const std::vector<ColumnStyle>& styles)
+void describeLook(ReportColumn& column, const ColumnStyle* pStyle)
 {
     column.label = labelOf(column.token);
     column.isAlignedRight = column.isNumeric;
-    const auto style =
-        std::find_if(styles.begin(), styles.end(),
-                     [&column](const ColumnStyle& candidate) { return candidate.token == column.token; });
-    if (style == styles.end())
+    if (pStyle == nullptr)
         return;
-    if (!style->label.empty())
-        column.label = style->label;
-    column.width = style->width;
-    if (style->alignment != ColumnStyle::kByType)
-        column.isAlignedRight = style->alignment == ColumnStyle::kRight;
+    if (!pStyle->label.empty())
+        column.label = pStyle->label;
+    column.width = pStyle->width;
+    if (pStyle->alignment != ColumnStyle::kByType)
+        column.isAlignedRight = pStyle->alignment == ColumnStyle::kRight;
 }
 }
 
 ReportLayout::ReportLayout(const ReportTemplate& reportTemplate, const VorUnitsManager& units)
 {
     for (const ColumnStyle& style : reportTemplate.columns)
-        addColumn(style.token);
+        if (!style.isHidden)
+            addColumn(style.token);
     layOutLevels(reportTemplate);
     completeLevels();
     describeColumns(reportTemplate, units);
@@ -139,11 +141,13 @@ void ReportLayout::completeLevels()
 void ReportLayout::describeColumns(const ReportTemplate& reportTemplate, const VorUnitsManager& units)
 {
     VorBomTemplate& engineTemplate = *reportTemplate.pTemplate;
-    const TokenQuantities quantities(*engineTemplate.getBomData(), *engineTemplate.getBomTemplateUnits(), units);
+    const FormulaResults formulas(reportTemplate);
+    const TokenQuantities quantities(*engineTemplate.getBomData(), *engineTemplate.getBomTemplateUnits(), formulas);
     for (ReportColumn& column : m_columns)
     {
-        describeContent(column, quantities);
-        describeLook(column, reportTemplate.columns);
+        const ColumnStyle* const pStyle = reportTemplate.columnStyleOf(column.token);
+        describeContent(column, quantities, pStyle, units);
+        describeLook(column, pStyle);
     }
 }
 

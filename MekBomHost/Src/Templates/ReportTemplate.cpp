@@ -42,14 +42,35 @@ const ColumnStyle* ReportTemplate::columnStyleOf(const VorString& columnToken) c
     return found == columns.end() ? nullptr : &*found;
 }
 
+const ColumnStyle* ReportTemplate::styleOfTuple(const VorBomItemBase& section, int tupleIndex) const
+{
+    const VorString column = columnTokenOf(section, tupleIndex);
+    return column.isEmpty() == 1 ? nullptr : columnStyleOf(column);
+}
+
+std::vector<const VorBomItemBase*> ReportTemplate::evaluatedSections() const
+{
+    std::vector<const VorBomItemBase*> sections;
+    for (const VorBomItemBase* pHeader = pTemplate->child(); pHeader != nullptr; pHeader = pHeader->child())
+        sections.push_back(pHeader);
+    for (std::size_t i = sections.size(); i-- > 0;)
+        if (sections[i]->next() != nullptr)
+            sections.push_back(sections[i]->next());
+    return sections;
+}
+
 std::vector<int> ReportTemplate::shownTuplesOf(const VorBomItemBase& section) const
 {
     std::vector<int> shown;
     if (!styleOf(&section).isPrinted)
         return shown;
     for (int i = 0; i < section.getData().length(); ++i)
-        if (columnTokenOf(section, i).isEmpty() == 0)
+    {
+        const ColumnStyle* const pStyle = styleOfTuple(section, i);
+        const bool isHidden = pStyle != nullptr && pStyle->isHidden;
+        if (!isHidden && columnTokenOf(section, i).isEmpty() == 0)
             shown.push_back(i);
+    }
     return shown;
 }
 

@@ -119,7 +119,15 @@ struct ReportTemplate
     // The style of the column with that token; null when the template describes none.
     const ColumnStyle* columnStyleOf(const VorString& columnToken) const;
 
-    // Which of a section's tuples have a column; none when the section is not printed.
+    // The same for one of a section's tuples; null for one that steers the evaluation, too.
+    const ColumnStyle* styleOfTuple(const VorBomItemBase& section, int tupleIndex) const;
+
+    // The sections that are evaluated, as those of one group come: headers from the outside in, then footers from the
+    // inside out.
+    std::vector<const VorBomItemBase*> evaluatedSections() const;
+
+    // Which of a section's tuples have a column in the table; none when the section is not printed. A hidden column is
+    // in no table.
     std::vector<int> shownTuplesOf(const VorBomItemBase& section) const;
 
     // Whether the section has a line in the table: a printed one that shows a tuple or a label.

@@ -37,8 +37,7 @@ std::optional<Finding> choose(VorUnitsManager& units, const std::string& kind, c
         return unknownKind(kind);
     if (units.setUnit(pKind->system, Utf8::toWide(unit)) == 1)
         return std::nullopt;
-    return Finding::of(FindingCodes::kUnitUnknown, inQuotes(unit),
-                       std::string(pKind->expectation) + ", and after a slash a precision if need be: lb/1, ft-in/16");
+    return unitUnknown(unit, *pKind);
 }
 
 std::optional<Finding> chooseBase(VorUnitsManager& units, const std::string& base)
@@ -90,6 +89,12 @@ VorUnitsManager withChoices(VorUnitsManager units, const Choices& choices)
         }
     return units;
 }
+}
+
+Finding unitUnknown(const std::string& unit, const UnitKind& kind)
+{
+    return Finding::of(FindingCodes::kUnitUnknown, inQuotes(unit),
+                       std::string(kind.expectation) + ", and after a slash a precision if need be: lb/1, ft-in/16");
 }
 
 const char* const kMetric = "metric";

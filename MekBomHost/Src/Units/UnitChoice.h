@@ -14,7 +14,9 @@
 // one process may have different ones.
 #pragma once
 
+#include "Finding.h"
 #include "NamedText.h"
+#include "UnitKinds.h"
 
 #include "MekRoots/Exp/VorUnitsManager.h"
 
@@ -25,6 +27,9 @@
 namespace mekbom::UnitChoice
 {
 using Choices = std::vector<std::pair<std::string, std::string>>; // kind and unit: "length", "ft-in/16"
+
+// What is wrong with a word that should name a unit of that kind and does not: a finding without a place.
+Finding unitUnknown(const std::string& unit, const UnitKind& kind);
 
 extern const char* const kMetric;
 extern const char* const kImperial;

@@ -1,6 +1,6 @@
 #include "FormulaResult.h"
 
-#include "FormulaSupport.h"
+#include "Support/FormulaSupport.h"
 #include "UnitKinds.h"
 
 #include <gtest/gtest.h>

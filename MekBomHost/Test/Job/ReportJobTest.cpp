@@ -97,6 +97,36 @@ TEST(ReportJobTest, TextsBecomeATable)
               outcomeOf(requestFor(kParts, kDetails)));
 }
 
+TEST(ReportJobTest, AFormulaWhoseResultNobodySaysIsAnErrorUnlessItIsAllowed)
+{
+    const std::string rest = R"("sections": [ { "type": "kDetails", "tuples": [
+        { "token": "%Name" }, { "token": "%Formula:%Length/1000" } ] } ] })";
+    const std::string allowing = R"({ "allow": { "MB421": "bars" }, )" + rest;
+    const std::string details = "{ " + rest;
+    const char* const kTable =
+        "Name    %Length/1000\n------  ------------\nHEA200         2.286\nIPE360        0.1524\n";
+    ReportRequest request = requestFor(kParts, details);
+    request.allowed = { "MB421" };
+
+    const std::string refused = outcomeOf(requestFor(kParts, details));
+
+    EXPECT_NE(std::string::npos, refused.find("list.json:2:42: /sections/0/tuples/1/token: \"%Length/1000\": "
+                                              "the constant 1000 hides a unit of length"))
+        << refused;
+    EXPECT_NE(std::string::npos, refused.find("\"result\""));
+    EXPECT_EQ(kTable, outcomeOf(std::move(request)));
+    EXPECT_EQ(kTable, outcomeOf(requestFor(kParts, allowing)));
+}
+
+TEST(ReportJobTest, AColumnWithAUnitOfAnotherKindIsAnError)
+{
+    EXPECT_EQ(
+        "3 list.json:1:16: /columns/0/unit: found \"kg\", expected a unit of distance such as mm, m, in or ft, and "
+        "after a slash a precision if need be: lb/1, ft-in/16\n",
+        outcomeOf(requestFor(kParts, R"({ "columns": [ { "token": "%Length", "unit": "kg" } ], "sections": [
+                  { "type": "kDetails", "tuples": [ { "token": "%Length" } ] } ] })")));
+}
+
 TEST(ReportJobTest, ReportsOfDifferentUnitsAndSettingsAreMadeStepByStepBesideEachOther)
 {
     ReportJob imperial(imperialRequest());

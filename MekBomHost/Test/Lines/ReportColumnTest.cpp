@@ -6,9 +6,10 @@ namespace mekbom
 {
 namespace
 {
-std::string headingOf(const std::string& label, const std::string& unitSymbol)
+std::string headingOf(const std::string& label, const std::string& unitSymbol, const std::string& kind = "")
 {
     ReportColumn column;
+    column.pUnitKind = UnitKinds::find(kind);
     column.label = label;
     column.unitSymbol = unitSymbol;
     return column.heading();
@@ -19,9 +20,22 @@ TEST(ReportColumnTest, HeadingsNameTheirUnitOnce)
 {
     EXPECT_EQ("Length [mm]", headingOf("Length", "mm"));
     EXPECT_EQ("Length", headingOf("Length", ""));
-    EXPECT_EQ("Length [metres]", headingOf("Length [metres]", "mm"));
+    EXPECT_EQ("Length [mm]", headingOf("Length [mm]", "mm"));
+    EXPECT_EQ("Cost [EUR]", headingOf("Cost [EUR]", "EUR"));
+    EXPECT_EQ("Cost [EUR]", headingOf("Cost [EUR]", ""));
     EXPECT_EQ("mm", headingOf("mm", "mm"));
     EXPECT_EQ("mm [ft-in]", headingOf("mm", "ft-in"));
     EXPECT_EQ(" [mm]", headingOf("", "mm"));
+}
+
+TEST(ReportColumnTest, HeadingsNameNoUnitButTheOneShown)
+{
+    EXPECT_EQ("Weight [lb]", headingOf("Weight [kg]", "lb", "weight"));
+    EXPECT_EQ("Weight [lb]", headingOf("Weight [pounds]", "lb", "weight"));
+    EXPECT_EQ("Weight [lb]", headingOf("Weight [lb]", "lb", "weight"));
+    EXPECT_EQ("Cost [EUR] [lb]", headingOf("Cost [EUR]", "lb", "weight"));
+    EXPECT_EQ("Length [m] [lb]", headingOf("Length [m]", "lb", "weight"));
+    EXPECT_EQ("Weight [net] [lb]", headingOf("Weight [net]", "lb", "weight"));
+    EXPECT_EQ("] [lb]", headingOf("]", "lb", "weight"));
 }
 }

@@ -17,6 +17,7 @@ namespace
 namespace fs = std::filesystem;
 
 const std::string kExamples = "{examples}";
+const std::string kHere = "{here}";
 const std::string kRealData = "{real data}";
 
 std::string replaced(std::string text, const std::string& word, const std::string& by)
@@ -33,8 +34,9 @@ std::string printedBy(const fs::path& folder)
     std::string text;
     for (std::string command; std::getline(commands, command);)
     {
+        const std::string examples = replaced(command, kExamples, MEK_EXAMPLES_DIR);
         const ProgramRun run =
-            runProgram(replaced(replaced(command, kExamples, MEK_EXAMPLES_DIR), kRealData, MEK_REAL_DATA_DIR));
+            runProgram(replaced(replaced(examples, kHere, folder.string()), kRealData, MEK_REAL_DATA_DIR));
         EXPECT_EQ(0, run.status) << run.errors;
         text += "$ mekbom " + command + "\n" + run.output + "\n";
     }
@@ -70,6 +72,31 @@ TEST(ListFolderTest, TheHallPrintsInMetricUnits)
 TEST(ListFolderTest, TheHallPrintsInImperialUnits)
 {
     expectList("hall-imperial");
+}
+
+TEST(ListFolderTest, PlainNumbersArePrintedInFull)
+{
+    expectList("plain-numbers-are-printed-in-full");
+}
+
+TEST(ListFolderTest, ColumnsHaveUnitsOfTheirOwn)
+{
+    expectList("columns-have-units-of-their-own");
+}
+
+TEST(ListFolderTest, FormulasAreShownByTheirDimension)
+{
+    expectList("formulas-are-shown-by-their-dimension");
+}
+
+TEST(ListFolderTest, ColumnsSayHowRowsAreSorted)
+{
+    expectList("columns-say-how-rows-are-sorted");
+}
+
+TEST(ListFolderTest, ColumnsOfSeveralKindsNameTheirUnits)
+{
+    expectList("columns-of-several-kinds-name-their-units");
 }
 
 TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)

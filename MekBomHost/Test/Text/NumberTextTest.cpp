@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+#include <string>
+
 namespace mekbom
 {
 TEST(NumberTextTest, NumbersOfAnOrdinarySizeHaveNoExponent)
@@ -29,5 +32,89 @@ TEST(NumberTextTest, SinglePrecisionTakesFewerDigits)
     EXPECT_EQ("7.85e-06", singleText(0.00000785F));
     EXPECT_EQ("16777216", singleText(16777217.0F));
     EXPECT_EQ("-3.4028235e+38", singleText(-3.4028235e38F));
+}
+
+TEST(NumberTextTest, ListsShowNumbersInFull)
+{
+    const NumberStyle plain;
+    EXPECT_EQ("1234567.89", listedText(1234567.89, plain));
+    EXPECT_EQ("100000000000000.5", listedText(100000000000000.5, plain));
+    EXPECT_EQ("0.00000785", listedText(0.00000785, plain));
+    EXPECT_EQ("4", listedText(4.0, plain));
+    EXPECT_EQ("0", listedText(-0.0, plain));
+    EXPECT_EQ("1e+15", listedText(1e15, plain));
+    EXPECT_EQ("-1.5e+20", listedText(-1.5e20, plain));
+    EXPECT_EQ(std::string::npos, listedText(std::numeric_limits<double>::denorm_min(), plain).find('e'));
+}
+
+TEST(NumberTextTest, WhatIsNoNumberShowsPlainly)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const NumberStyle style : { NumberStyle(), NumberStyle{ 2, true, true } })
+    {
+        EXPECT_EQ("inf", listedText(infinity, style));
+        EXPECT_EQ("-inf", listedText(-infinity, style));
+        EXPECT_EQ("nan", listedText(std::numeric_limits<double>::quiet_NaN(), style));
+        EXPECT_EQ("nan", listedText(-std::numeric_limits<double>::quiet_NaN(), style));
+    }
+}
+
+TEST(NumberTextTest, ListsRoundAsOneWouldOnPaper)
+{
+    struct RoundingCase
+    {
+        double number;
+        int decimals;
+        const char* trimmed;
+        const char* padded;
+    };
+    const RoundingCase kCases[] = {
+        { 0.1 + 0.2, 1, "0.3", "0.3" },
+        { 2.675, 2, "2.68", "2.68" },
+        { -2.675, 2, "-2.68", "-2.68" },
+        { 9.996, 2, "10", "10.00" },
+        { -9.996, 2, "-10", "-10.00" },
+        { 999.5, 0, "1000", "1000" },
+        { 0.5, 0, "1", "1" },
+        { 0.4999, 0, "0", "0" },
+        { -0.001, 2, "0", "0.00" },
+        { 12.0, 2, "12", "12.00" },
+        { 12.5, 2, "12.5", "12.50" },
+        { 1.05, 1, "1.1", "1.1" },
+        { 48637.94, 6, "48637.94", "48637.940000" },
+        { 120.0, 0, "120", "120" },
+    };
+    for (const RoundingCase& test : kCases)
+    {
+        EXPECT_EQ(test.trimmed, listedText(test.number, { test.decimals, false, false })) << test.number;
+        EXPECT_EQ(test.padded, listedText(test.number, { test.decimals, true, false })) << test.number;
+    }
+}
+
+TEST(NumberTextTest, ThousandsAreGroupedFromThePointToTheLeft)
+{
+    const auto grouped = [](std::string text)
+    {
+        groupThousands(text);
+        return text;
+    };
+    EXPECT_EQ("999", grouped("999"));
+    EXPECT_EQ("1 000", grouped("1000"));
+    EXPECT_EQ("-12 345.6789", grouped("-12345.6789"));
+    EXPECT_EQ("1 234 567.89", grouped("1234567.89"));
+    EXPECT_EQ("1 234'-6\"", grouped("1234'-6\""));
+    EXPECT_EQ("1.5e+20", grouped("1.5e+20"));
+    EXPECT_EQ("", grouped(""));
+    EXPECT_EQ("inf", grouped("inf"));
+    EXPECT_EQ("48 637.90", listedText(48637.9, { 2, true, true }));
+}
+
+TEST(NumberTextTest, DecimalsAreThoseOfTheShortestText)
+{
+    EXPECT_EQ(2, numDecimals(12.35));
+    EXPECT_EQ(0, numDecimals(-4.0));
+    EXPECT_EQ(8, numDecimals(0.00000785));
+    EXPECT_EQ(0, numDecimals(1e20));
+    EXPECT_EQ(0, numDecimals(std::numeric_limits<double>::quiet_NaN()));
 }
 }

@@ -1,0 +1,133 @@
+#include "FormulaResults.h"
+
+#include "InQuotes.h"
+#include "MistakeCodes.h"
+#include "TokenQuantities.h"
+#include "UnitKinds.h"
+#include "Utf8.h"
+
+#include "VorBomDataToken.h"
+
+#include <cstddef>
+
+namespace mekbom
+{
+namespace
+{
+const char* const kRemedy = "say what it gives in the column, \"result\": a kind such as \"weight\", \"none\", or a "
+                            "label of its own such as \"EUR\"";
+
+// The text of a formula or of the formula that is summed; empty for any other token.
+VorString formulaOf(const VorString& token)
+{
+    VorString formula = TokenQuantities::datumOf(token);
+    return VorBomDataToken::removeFormulaPrefix(formula) == 1 ? formula : VorString();
+}
+
+// What a token of the user's own is, the template says; a number, when it says nothing.
+FormulaOperand operandOf(const ReportTemplate& reportTemplate, const VorString& name)
+{
+    const FormulaOperand known = FormulaOperand::ofCatalogue(name, *reportTemplate.pTemplate->getBomTemplateUnits());
+    if (known.meaning != FormulaOperand::kUnknown || VorBomDataToken::isToken(name) == 0)
+        return known;
+    const auto own = reportTemplate.ownTokens.find(Utf8::toBytes(name));
+    const bool isText = own != reportTemplate.ownTokens.end() && own->second == kOwnText;
+    return { isText ? FormulaOperand::kText : FormulaOperand::kOwnNumber, VorBomTemplateUnits::kNoUnit };
+}
+
+FormulaResult ofType(VorBomTemplateUnits::eTokenUnitType type)
+{
+    FormulaResult result;
+    result.measure = UnitKinds::find(type) != nullptr ? FormulaResult::kKind : FormulaResult::kPlain;
+    result.kind = type;
+    return result;
+}
+
+// What columns say of formulas, by formula; of two that say something of one, the first.
+std::map<std::string, std::string> declarationsOf(const ReportTemplate& reportTemplate)
+{
+    std::map<std::string, std::string> declarations;
+    for (const VorBomItemBase* pSection : reportTemplate.evaluatedSections())
+        for (int i = 0; i < pSection->getData().length(); ++i)
+        {
+            const VorString formula = formulaOf(pSection->getData()[i].token().token());
+            const ColumnStyle* const pStyle = reportTemplate.styleOfTuple(*pSection, i);
+            if (formula.isEmpty() == 0 && pStyle != nullptr && !pStyle->result.empty())
+                declarations.emplace(Utf8::toBytes(formula), pStyle->result);
+        }
+    return declarations;
+}
+
+TemplatePlace placeOf(const ReportTemplate& reportTemplate, const VorBomItemBase* pSection, int tuple)
+{
+    const std::vector<TemplatePlace>& places = reportTemplate.styleOf(pSection).tuplePlaces;
+    const auto index = static_cast<std::size_t>(tuple);
+    return index < places.size() ? places[index] : TemplatePlace();
+}
+}
+
+FormulaResults::FormulaResults(const ReportTemplate& reportTemplate) : m_declared(declarationsOf(reportTemplate))
+{
+    for (const VorBomItemBase* pSection : reportTemplate.evaluatedSections())
+        for (int i = 0; i < pSection->getData().length(); ++i)
+        {
+            const VorString formula = formulaOf(pSection->getData()[i].token().token());
+            if (formula.isEmpty() == 0)
+                add(reportTemplate, formula, placeOf(reportTemplate, pSection, i));
+        }
+}
+
+void FormulaResults::add(const ReportTemplate& reportTemplate, const VorString& formula, const TemplatePlace& place)
+{
+    bool isNew = false;
+    m_indices.findOrInsert(formula, static_cast<int>(m_entries.size()), isNew);
+    if (!isNew)
+        return;
+    const std::string name = Utf8::toBytes(formula);
+    if (reportTemplate.tokenUnitPlaces.count(name) > 0)
+    {
+        m_entries.push_back(
+            { formula, ofType(reportTemplate.pTemplate->getBomTemplateUnits()->getUnitType(formula)), place });
+        return;
+    }
+    const auto declared = m_declared.find(name);
+    const auto operands = [&reportTemplate](const VorString& operand) { return operandOf(reportTemplate, operand); };
+    m_entries.push_back(
+        { formula,
+          FormulaResult::of(formula, operands, declared == m_declared.end() ? std::string() : declared->second),
+          place });
+}
+
+const FormulaResult* FormulaResults::find(const VorString& token) const
+{
+    const VorString formula = formulaOf(token);
+    const auto* const pNode = formula.isEmpty() == 1 ? nullptr : m_indices.find(formula);
+    return pNode == nullptr ? nullptr : &m_entries[static_cast<std::size_t>(pNode->value)].result;
+}
+
+void FormulaResults::registerWith(VorBomTemplateUnits& units) const
+{
+    for (const Entry& entry : m_entries)
+        units.AddTokenType(entry.formula, entry.result.kind);
+}
+
+std::vector<Finding> FormulaResults::undeclared() const
+{
+    std::vector<Finding> findings;
+    for (const Entry& entry : m_entries)
+    {
+        const bool isOpen = entry.result.measure == FormulaResult::kUndeclared;
+        if (!isOpen && entry.result.contradiction.empty())
+            continue;
+        Finding finding = Finding::stating(MistakeCodes::kResultUndeclared,
+                                           inQuotes(Utf8::toBytes(entry.formula)) + ": " +
+                                               (isOpen ? entry.result.what : entry.result.contradiction));
+        finding.remedy = kRemedy;
+        finding.begin = entry.place.span.begin;
+        finding.end = entry.place.span.end;
+        finding.path = entry.place.path;
+        findings.push_back(finding);
+    }
+    return findings;
+}
+}

@@ -1,0 +1,59 @@
+// What the formulas of a template give: a quantity that is shown in the reader's unit of its kind, or a plain number.
+//
+//   columns   { "token": "%Formula:%Weight*%Price", "label": "Cost", "result": "EUR" }
+//   details   %Formula:%Length*%WeightMeter   %Formula:%Weight*%Price   %Formula:%Length/1000
+//
+//   const FormulaResults results(reportTemplate);
+//   results.find(L"%SumBy:%Formula:%Length*%WeightMeter")->kind;   // kWeightUnit, as of its tokens
+//   results.find(L"%Formula:%Weight*%Price")->label;               // "EUR", as its column says
+//   results.undeclared();                                          // one finding, about %Length/1000
+//
+// One formula gives one result wherever it stands: what the column of its details says holds for its totals, in
+// whatever column these are. Kinds that "tokenUnits" of the template name for a formula's text count as said, too.
+#pragma once
+
+#include "Finding.h"
+#include "FormulaResult.h"
+#include "ReportTemplate.h"
+
+#include "MekRoots/Exp/VorArray.h"
+#include "MekRoots/Exp/VorString.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace mekbom
+{
+class FormulaResults
+{
+public:
+    // The kinds of the template's tokens must be registered. The template is not looked at later.
+    explicit FormulaResults(const ReportTemplate& reportTemplate);
+
+    // Of "%Formula:..." or its total; null for any other token and for a formula that the template has not.
+    const FormulaResult* find(const VorString& token) const;
+
+    // Tells the engine, so that it shows each formula in the unit of its kind, or without any. A formula whose measure
+    // nobody says is one without.
+    void registerWith(VorBomTemplateUnits& units) const;
+
+    // The errors of the formulas whose measure neither follows from their tokens nor is said, and of those that are said
+    // to be what they cannot be: each with its place in the template, without the name of the file.
+    std::vector<Finding> undeclared() const;
+
+private:
+    struct Entry
+    {
+        VorString formula; // without prefixes
+        FormulaResult result;
+        TemplatePlace place; // of the first tuple that shows it
+    };
+
+    void add(const ReportTemplate& reportTemplate, const VorString& formula, const TemplatePlace& place);
+
+    std::vector<Entry> m_entries;                  // as the sections name them
+    VorStringHashMap<int> m_indices;               // by formula
+    std::map<std::string, std::string> m_declared; // what columns say, by formula
+};
+}

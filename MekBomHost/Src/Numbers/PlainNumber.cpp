@@ -1,0 +1,12 @@
+#include "PlainNumber.h"
+
+#include "Utf8.h"
+
+namespace mekbom
+{
+VorString PlainNumber::textOf(double value) const
+{
+    const std::string text = listedText(value, m_style);
+    return Utf8::toWide(m_name.empty() ? text : text + " " + m_name);
+}
+}

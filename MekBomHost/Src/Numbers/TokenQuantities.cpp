@@ -1,0 +1,77 @@
+// Told on "%SumBy:%Formula:%Weight*2":
+//     datum       %Formula:%Weight*2        formulas give doubles
+//     kind        weight                    what the formula gives, FormulaResults tell
+//   and on "%Cut", a token of the user's own:
+//     type        that of the first row which has it
+//     kind        the one that the template registers for it; none for texts and whole numbers
+#include "TokenQuantities.h"
+
+#include "VorBomDataToken.h"
+#include "VorBomDataTuple.h"
+#include "VorBomTokenCatalogue.h"
+
+namespace mekbom
+{
+using Units = VorBomTemplateUnits;
+
+VorString TokenQuantities::datumOf(const VorString& token)
+{
+    VorString summed;
+    return VorBomDataToken(token).getSummingRequest(summed) == 1 ? summed : token;
+}
+
+VorBomDataValue::eBomDataValueType TokenQuantities::typeOf(const VorString& token) const
+{
+    const VorString datum = datumOf(token);
+    if (VorBomDataToken::isFormula(datum) == 1)
+        return VorBomDataValue::kDoubleData;
+    const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(datum);
+    return pEntry != nullptr ? pEntry->type : typeInData(datum);
+}
+
+bool TokenQuantities::isNumeric(const VorString& token) const
+{
+    const VorBomDataValue::eBomDataValueType type = typeOf(token);
+    return type == VorBomDataValue::kIntData || type == VorBomDataValue::kDoubleData;
+}
+
+Units::eTokenUnitType TokenQuantities::unitTypeOf(const VorString& token) const
+{
+    const FormulaResult* const pResult = m_formulas.find(token);
+    return pResult != nullptr ? pResult->kind : m_tokenUnits.getUnitType(datumOf(token));
+}
+
+// A token that no row has may have a unit all the same.
+const UnitKind* TokenQuantities::kindOf(const VorString& token) const
+{
+    const VorBomDataValue::eBomDataValueType type = typeOf(token);
+    const bool hasUnits = type == VorBomDataValue::kDoubleData || type == VorBomDataValue::kUnknownData;
+    return hasUnits ? UnitKinds::find(unitTypeOf(token)) : nullptr;
+}
+
+Measure TokenQuantities::measureOf(const VorString& token) const
+{
+    const FormulaResult* const pResult = m_formulas.find(token);
+    return { kindOf(token), pResult != nullptr ? pResult->label : std::string() };
+}
+
+Measure TokenQuantities::commonMeasureOf(const std::vector<VorString>& tokens) const
+{
+    const Measure first = tokens.empty() ? Measure() : measureOf(tokens.front());
+    for (const VorString& token : tokens)
+        if (isNumeric(token) && !(measureOf(token) == first))
+            return {};
+    return first;
+}
+
+// The type that the datum has in the first row that has it; kUnknownData when none has.
+// For a datum that no row has, this looks at all of them, once for each question about a token that the catalogue does
+// not know: for a column of the report, not for its lines.
+VorBomDataValue::eBomDataValueType TokenQuantities::typeInData(const VorString& datum) const
+{
+    for (const VorBomItemBase* pRow = m_data.child(); pRow != nullptr; pRow = pRow->next())
+        if (const VorBomDataTuple* const pTuple = pRow->getTupleAt(datum))
+            return pTuple->value().type();
+    return VorBomDataValue::kUnknownData;
+}
+}
