@@ -1,5 +1,6 @@
 #include "ListNumbers.h"
 
+#include "ColumnUnit.h"
 #include "InputUnits.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
@@ -7,7 +8,6 @@
 #include "VorBomNumberFormat.h"
 
 #include "MekUnits/Src/VorQuantityReader.h"
-#include "MekUnits/Src/VorUnitDefinition.h"
 
 #include <charconv>
 #include <string_view>
@@ -16,11 +16,6 @@ namespace mekbom
 {
 namespace
 {
-std::string symbolOf(const MEKUnit& unit)
-{
-    return Utf8::toBytes(VorUnitsTransformArray::findUnit(unit.unit())->symbol);
-}
-
 // "1 234.5"  ->  "1234.5"
 std::string withoutBlanks(std::string_view text)
 {
@@ -37,7 +32,6 @@ bool endsWith(const std::string& text, const std::string& end)
 }
 }
 
-// A column that shows numbers of several kinds names no unit; those of the list count then.
 ListNumbers::ListNumbers(const ExplainedReport& report, const VorBomTemplateItem& section, int tuple,
                          const VorBomTypedValue& shown, const ReportColumn& column)
     : m_report(report), m_section(section), m_tuple(tuple), m_shown(shown)
@@ -46,10 +40,8 @@ ListNumbers::ListNumbers(const ExplainedReport& report, const VorBomTemplateItem
         shown.type == VorBomDataValue::kDoubleData ? UnitKinds::find(shown.unitType) : nullptr;
     if (pKind == nullptr)
         return;
-    m_unit = InputUnits::find(column.unitSymbol, shown.unitType);
-    if (column.unitSymbol.empty() || !m_unit)
-        m_unit = report.units.getUnit(pKind->system);
-    m_symbol = symbolOf(*m_unit);
+    m_unit = ColumnUnit::of(report.reportTemplate.columnStyleOf(column.token), *pKind, report.units);
+    m_symbol = ColumnUnit::symbolOf(*m_unit);
 }
 
 // As the evaluation does it.

@@ -1,5 +1,6 @@
 #include "RowData.h"
 
+#include "ColumnUnit.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
 #include "UnitKinds.h"
@@ -8,8 +9,6 @@
 
 #include "VorBomDataToken.h"
 #include "VorBomDataTuple.h"
-
-#include "MekUnits/Src/VorUnitDefinition.h"
 
 #include <algorithm>
 
@@ -57,6 +56,6 @@ std::string RowData::quantity(const VorString& token, double number) const
         return text;
     const MEKUnit& unit = m_report.units.getUnit(pKind->system);
     const bool hasSymbol = !InputUnits::takesPlainNumbers(unit);
-    return hasSymbol ? text : text + " " + Utf8::toBytes(VorUnitsTransformArray::findUnit(unit.unit())->symbol);
+    return hasSymbol ? text : text + " " + ColumnUnit::symbolOf(unit);
 }
 }

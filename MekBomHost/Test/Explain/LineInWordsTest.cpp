@@ -1,6 +1,7 @@
 #include "LineInWords.h"
 
 #include "Support/ExplainSupport.h"
+#include "Support/HostTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -157,7 +158,7 @@ TEST(LineInWordsTest, TheOverviewNumbersAllLines)
 
 TEST(LineInWordsTest, AdditionsComeToTheTotalsThatArePrinted)
 {
-    for (const std::string& units : { "metric", "imperial" })
+    for (const std::string units : { "metric", "imperial" })
         for (const char* const equalLines : { "merge", "count", "keep" })
         {
             SCOPED_TRACE(units + " " + equalLines);
@@ -174,7 +175,7 @@ TEST(LineInWordsTest, AdditionsOfManyRowsComeToTheTotalsThatArePrinted)
     for (int i = 0; i < 200; ++i)
         text += "P" + std::to_string(i / 3) + (i % 2 == 0 ? ",S235," : ",S355,") + std::to_string(i % 5 + 1) + "," +
                 std::to_string(i) + ".377\n";
-    for (const std::string& units : { "metric", "imperial" })
+    for (const std::string units : { "metric", "imperial" })
         for (const char* const equalLines : { "merge", "count" })
         {
             SCOPED_TRACE(units + " " + equalLines);
