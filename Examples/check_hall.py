@@ -97,12 +97,14 @@ def assembly_list(parts):
 
 
 def print_list(program, template):
-    """The cells of every printed line. The rule under the headings says where columns begin and end."""
+    """The cells of every printed line. The rule under the headings says where columns begin and end, and what the list is
+    made of stands below the last blank line."""
     command = [program, "report", "--data", HERE / "hall.csv", "--template", HERE / "Templates" / template]
     text = subprocess.run(command, check=True, stdout=subprocess.PIPE, encoding="utf-8").stdout.splitlines()
     rule = next(index for index, line in enumerate(text) if line.startswith("---"))
     spans = [column.span() for column in re.finditer("-+", text[rule])]
-    lines = [line for line in text[rule + 1:] if line and line != text[rule]]
+    foot = max(index for index, line in enumerate(text) if not line)
+    lines = [line for line in text[rule + 1:foot] if line and line != text[rule]]
     return [[line[begin:end].strip() for begin, end in spans] for line in lines]
 
 

@@ -27,7 +27,8 @@
 //   - tuples that were copied into a header or details section have their used flag set;
 //   - each row gets a tuple "%Formula:..." for every formula computed for it;
 //   - rows whose details section equals the one before under the same parent are merged away: that section is dropped
-//     and getUseThisDataForSums() of the row becomes 0, so that no total counts it;
+//     and getUseThisDataForSums() of the row becomes 0, so that no total counts it; not for a sink that asks for equal
+//     lines (VorBomSectionSink::kEqualLines);
 //   - the template's units learn the unit of each formula shown.
 // Whoever wants to evaluate a second time from the start builds fresh data.
 //

@@ -25,4 +25,8 @@ struct VorBomReportSection
 
     // For each tuple of the section what it held before it was shown; null unless the sink asked for kTypedValues.
     const VorBomTypedValue* pValues = nullptr;
+
+    // Of a footer, for each of its tuples how many of the counted rows have a datum for it; null for a header.
+    //   "%SumBy:%Weight" 4 over rows of 2.5 kg, of 1.5 kg and one without weight   ->   2
+    const int* pNumRowsWithDatum = nullptr;
 };

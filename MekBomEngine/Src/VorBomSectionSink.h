@@ -14,7 +14,11 @@
 //                                                                         0 [%SumBy:%Weight:8]
 //
 // A section is complete when it is handed over, and lives until the call returns. Levels count from 0, the outermost;
-// details are headers of the deepest level. Lines that are merged away are not handed over: their rows are.
+// details are headers of the deepest level. Lines that are merged away are not handed over: their rows are. A sink that
+// asks for kEqualLines gets each of them, takeMergedRow is never called, and no row loses its place in the totals:
+//
+//   rows  P1 2.5 kg, P1 2.5 kg                    ->   P1 2.5, total 2.5       the second row is merged
+//   the same, to a sink that asks for kEqualLines ->   P1 2.5, P1 2.5, total 5
 //
 // What a sink may touch. It may read everything that it is handed, and the template, its rows and units. It must change
 // none of them: the evaluation holds on to tuples of rows and columns of sections while it calls. It may evaluate other
@@ -33,12 +37,13 @@
 class VorBomSectionSink
 {
 public:
-    // What a sink has to ask for, since it costs time.
+    // What a sink has to ask for: since it costs time, or since a report differs by it.
     enum eRequests : int
     {
         kTextsAlone = 0,
-        kTypedValues = 1,   // VorBomReportSection::pValues
-        kFailedFormulas = 2 // calls of takeFailedFormula
+        kTypedValues = 1,    // VorBomReportSection::pValues
+        kFailedFormulas = 2, // calls of takeFailedFormula
+        kEqualLines = 4      // a line for every row: none is merged, and every total counts them all
     };
 
     virtual ~VorBomSectionSink() = default;

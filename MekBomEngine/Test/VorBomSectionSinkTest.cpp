@@ -375,6 +375,79 @@ TEST(VorBomSectionSinkTest, MergedRowsAndFailedFormulasAreToldAsTheyHappen)
               linesOf(report));
 }
 
+TEST(VorBomSectionSinkTest, EqualLinesComeEachToASinkThatAsksForThem)
+{
+    Report report;
+    buildEventfulReport(report);
+
+    EXPECT_EQ((Lines{ "header 0 [none] row P2", "header 1 [] [] row P2", "header 2 [2.5] [5] row P2",
+                      "header 2 [2.5] [5] row P3", "header 2 [1] [2] row P4", "footer 1 [6] rows P2 P3 P4",
+                      "header 1 [] [] row P1", "header 2 [4] [8] row P1", "footer 1 [4] rows P1",
+                      "footer 0 [10] rows P2 P3 P4 P1" }),
+              linesOf(report, FullLog(VorBomSectionSink::kEqualLines)));
+    for (const VorBomItemBase* pRow = report.data().child(); pRow != nullptr; pRow = pRow->next())
+        EXPECT_EQ(1, static_cast<const VorBomDataRow*>(pRow)->getUseThisDataForSums());
+}
+
+TEST(VorBomSectionSinkTest, FootersTellHowManyRowsHadEachDatum)
+{
+    class Counts : public QuietSink
+    {
+    public:
+        void takeHeader(const VorBomReportSection& header) override { EXPECT_EQ(nullptr, header.pNumRowsWithDatum); }
+        void takeFooter(const VorBomReportSection& footer) override
+        {
+            for (int i = 0; i < footer.section.getData().length(); ++i)
+                numbers.push_back(footer.pNumRowsWithDatum[i]);
+        }
+
+        std::vector<int> numbers;
+    };
+    Report report;
+    Item* pGroup = report.addSection(nullptr, Item::kGroupHeader, { { L"%GroupBy:%Material", L"" } });
+    report.addSection(nullptr, Item::kGroupFooter,
+                      { { L"%SumBy:%Weight", 0.0 }, { L"%Num", L"" }, { L"%SumBy:%Formula:%Weight*2", 0.0 } });
+    report.addSection(pGroup, Item::kDetails, { { L"%Num", L"" }, { L"%Formula:%Weight*2", 0.0 } });
+    addPart(report, L"P1", L"S235", 2.5);
+    addPart(report, L"P1", L"S235", 2.5); // merged
+    report.addRow({ { L"%Num", L"P2" }, { L"%Material", L"S235" } });
+    report.addRow({ { L"%Material", L"S355" } });
+    report.tmpl().findUsedTokens();
+    Counts counts;
+
+    VorBomEvaluator2::evaluate(&report.tmpl(), counts);
+
+    EXPECT_EQ((std::vector<int>{ 1, 2, 1, 0, 0, 0 }), counts.numbers);
+}
+
+TEST(VorBomSectionSinkTest, RowsThatAHostTookOutStayOutWhenEqualLinesCome)
+{
+    Report report;
+    buildGroupedReport(report);
+    addPart(report, L"P1", L"S235", 2.5);
+    addPart(report, L"P1", L"S235", 2.5);
+    static_cast<VorBomDataRow*>(report.data().child())->setUseThisDataForSums(0);
+
+    EXPECT_EQ((Lines{ "header 0 [Weights] row P1", "header 1 [] row P1", "header 2 [P1] [2.5] row P1",
+                      "header 2 [P1] [2.5] row P1", "footer 1 [2.5] rows P1", "footer 0 [2.5] rows P1" }),
+              linesOf(report, FullLog(VorBomSectionSink::kEqualLines)));
+}
+
+TEST(VorBomSectionSinkTest, EqualLinesWithFootersComeEach)
+{
+    Report report;
+    Item* pReport = report.addSection(nullptr, Item::kReportHeader, {});
+    report.addSection(nullptr, Item::kReportFooter, { { L"%SumBy:%Weight", 0.0 } });
+    report.addSection(pReport, Item::kDetails, { { L"%Weight", 0.0 } });
+    report.addSection(pReport, Item::kGroupFooter, { { L"%SumBy:%Weight", 0.0 } });
+    addPart(report, L"P1", L"S235", 2.5);
+    addPart(report, L"P2", L"S235", 2.5);
+
+    EXPECT_EQ((Lines{ "header 0 row P1", "header 1 [2.5] row P1", "footer 1 [2.5] rows P1", "header 1 [2.5] row P2",
+                      "footer 1 [2.5] rows P2", "footer 0 [5] rows P1 P2" }),
+              linesOf(report, FullLog(VorBomSectionSink::kEqualLines)));
+}
+
 // The footer of a line is made before it shows that the line is merged.
 TEST(VorBomSectionSinkTest, FooterOfAMergedLineCountsItsRow)
 {

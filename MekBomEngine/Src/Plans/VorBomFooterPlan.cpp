@@ -116,6 +116,7 @@ std::unique_ptr<VorBomTemplateItem> VorBomFooterPlan::finish(const VorBomDataRow
 {
     takeNewRows(rows);
     std::unique_ptr<VorBomTemplateItem> pFinished = std::move(m_pFooter);
+    m_numFoundInFinished.swap(m_numFound);
     beginFooter();
     return pFinished;
 }
@@ -126,6 +127,7 @@ void VorBomFooterPlan::beginFooter()
     m_pFooter = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
     m_pFooter->getData().setPhysicalLength(m_section.getData().length());
     m_pFooter->setData(m_section.getData());
+    m_numFound.assign(m_isSum.size(), 0);
     m_nTakenRows = 0;
 }
 
@@ -143,6 +145,7 @@ void VorBomFooterPlan::takeIn(VorBomDataRow& row)
         const VorBomDataTuple* pDatum = m_columns[i];
         if (pDatum == nullptr)
             continue;
+        ++m_numFound[static_cast<std::size_t>(i)];
         const bool isSum = m_isSum[static_cast<std::size_t>(i)] != 0;
         VorBomDataValue& value = pTuple->value();
         if (isSum && isDouble(value) && isDouble(pDatum->value())) // as takeValue() does it: nearly every total

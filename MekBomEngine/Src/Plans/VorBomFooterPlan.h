@@ -7,6 +7,9 @@
 // A plain token ends with the value of the last counted row that has it. A total adds up: it stays an integer while
 // everything added is one and the sum fits 32 bits, else it becomes a double for good. A total that is no number yet
 // starts from zero of the added value's type; a text replaces it, and "!bIsSummingRequest" is reported.
+//
+// How many of the rows had a datum for each column is counted as well, 2 and 2 above: a total of 4.0 over three rows of
+// which one has no weight says less than it seems to.
 #pragma once
 
 #include "VorBomColumns.h"
@@ -30,6 +33,9 @@ public:
     // Takes in those rows, too, then hands the footer over and begins the next one.
     std::unique_ptr<VorBomTemplateItem> finish(const VorBomDataRowPointerArray& rows);
 
+    // For each column of the footer finished last how many of its counted rows had a datum for it.
+    const int* numRowsWithDatum() const { return m_numFoundInFinished.data(); }
+
     // Shows the footers that finish() has handed over.
     VorBomDisplayPlan& display() { return m_display; }
 
@@ -42,5 +48,7 @@ private:
     std::vector<char> m_isSum; // 1 or 0; bits would cost more than they save
     VorBomDisplayPlan m_display;
     std::unique_ptr<VorBomTemplateItem> m_pFooter; // of the open group; never null
+    std::vector<int> m_numFound;                   // for each column, in the rows of the open group so far
+    std::vector<int> m_numFoundInFinished;
     int m_nTakenRows = 0;
 };

@@ -11,7 +11,8 @@
 
 #include <utility>
 
-VorBomSinkTarget::VorBomSinkTarget(VorBomSectionSink& sink, VorBomEngineStateArray& stack) : m_sink(sink)
+VorBomSinkTarget::VorBomSinkTarget(VorBomSectionSink& sink, VorBomEngineStateArray& stack)
+    : m_sink(sink), m_takesEqualLines((sink.requests() & VorBomSectionSink::kEqualLines) != 0)
 {
     for (VorBomEngineState& state : stack)
     {
@@ -42,8 +43,8 @@ void VorBomSinkTarget::take(VorBomEngineStateArray& stack, int level)
         handOverHeader(*pHeader, group, level);
     if (pFooter != nullptr)
         handOverFooter(*pFooter, group, level);
-    if (level < stack.length() - 1 || (pHeader == nullptr && pFooter == nullptr))
-        return;
+    if (m_takesEqualLines || level < stack.length() - 1 || (pHeader == nullptr && pFooter == nullptr))
+        return; // without a section before it a line is compared with none
     m_pSectionBefore = std::move(pFooter != nullptr ? pFooter : pHeader);
     group.m_pSectionBefore = m_pSectionBefore.get();
 }
@@ -55,8 +56,9 @@ void VorBomSinkTarget::handOverHeader(const VorBomTemplateItem& header, const Vo
 
 void VorBomSinkTarget::handOverFooter(const VorBomTemplateItem& footer, const VorBomEngineState& group, int level)
 {
+    VorBomFooterPlan& plan = *group.m_pPlan->footer;
     const VorBomCountedRows rows(group.m_dataRows);
-    m_sink.takeFooter({ footer, level, nullptr, rows, group.m_pPlan->footer->display().values() });
+    m_sink.takeFooter({ footer, level, nullptr, rows, plan.display().values(), plan.numRowsWithDatum() });
 }
 
 void VorBomSinkTarget::reportFailedFormulas(const VorBomEngineState& group)

@@ -26,5 +26,6 @@ private:
     void reportFailedFormulas(const VorBomEngineState& group);
 
     VorBomSectionSink& m_sink;
+    bool m_takesEqualLines;   // no line is merged
     Section m_pSectionBefore; // of the deepest level, handed over last
 };

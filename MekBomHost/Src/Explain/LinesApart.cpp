@@ -1,6 +1,7 @@
 #include "LinesApart.h"
 
 #include "InQuotes.h"
+#include "PieceTokens.h"
 #include "Utf8.h"
 #include "WordList.h"
 
@@ -63,7 +64,7 @@ std::vector<std::string> LinesApart::unlikeTexts(const ReportLine& line, const R
     for (int tuple = 0; tuple < m_details.getData().length(); ++tuple)
     {
         const VorString& token = m_details.getData()[tuple].token().token();
-        if (VorBomDataToken::isInvisibleToken(token) == 1)
+        if (VorBomDataToken::isInvisibleToken(token) == 1 || isCounted(token))
             continue;
         const std::string here = textOf(line, tuple);
         const std::string there = textOf(other, tuple);
@@ -71,6 +72,12 @@ std::vector<std::string> LinesApart::unlikeTexts(const ReportLine& line, const R
             texts.push_back(unlike(token, there, here));
     }
     return texts;
+}
+
+// Pieces and what grows with them may differ in rows that are counted into one line.
+bool LinesApart::isCounted(const VorString& token) const
+{
+    return m_report.reportTemplate.equalLines == kCountEqualLines && PieceTokens::growWithPieces(token);
 }
 
 std::string LinesApart::textOf(const ReportLine& line, int tuple) const

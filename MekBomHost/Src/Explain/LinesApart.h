@@ -6,7 +6,7 @@
 //   lines of one group       ->  differs in %Name: "IPE450", here "IPE360"
 //   lines that read alike    ->  reads the same
 //
-// Columns that are not printed keep lines apart, too.
+// Columns that are not printed keep lines apart, too; numbers of pieces do not where equal lines are counted.
 #pragma once
 
 #include "ExplainedReport.h"
@@ -31,6 +31,7 @@ public:
 private:
     std::vector<std::string> unlikeGroups(const VorBomDataRow& row, const VorBomDataRow& other) const;
     std::vector<std::string> unlikeTexts(const ReportLine& line, const ReportLine& other) const;
+    bool isCounted(const VorString& token) const;
     std::string textOf(const ReportLine& line, int tuple) const;
 
     const ExplainedReport& m_report;

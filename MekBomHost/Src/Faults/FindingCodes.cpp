@@ -23,7 +23,6 @@ const std::vector<FindingCode>& all()
         kUnitOfMissingColumn,
         kUnitGivenTwice,
         kColumnMissing,
-        kRowsMerged,
         kNoSuitableTemplate,
         kListChosen,
         kUnitLacking,

@@ -55,7 +55,6 @@ inline constexpr FindingCode kUnitGivenTwice = { "MB715", kError,
                                                  "A unit is given for a column whose heading names another one." };
 inline constexpr FindingCode kColumnMissing = { "MB716", kNote,
                                                 "The parts list has no column for data that the template asks for." };
-inline constexpr FindingCode kRowsMerged = { "MB717", kNote, "Lines equal to the one before them count in no total." };
 inline constexpr FindingCode kNoSuitableTemplate = {
     "MB718", kNote, "The columns suit none of the lists there are to choose, and are printed as they are."
 };

@@ -33,6 +33,9 @@ public:
     // How many errors were added.
     std::size_t numErrors() const { return m_numOf[Finding::kError]; }
 
+    // How many warnings were added.
+    std::size_t numWarnings() const { return m_numOf[Finding::kWarning]; }
+
     // Throws a Fault of status kInvalidInput with all findings when one is an error.
     void throwIfAnyError() const;
 

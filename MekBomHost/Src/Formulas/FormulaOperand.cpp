@@ -18,7 +18,7 @@ FormulaOperand FormulaOperand::ofCatalogue(const VorString& token, const VorBomT
     {
         case VorBomDataValue::kStringData: return { kText, VorBomTemplateUnits::kNoUnit };
         case VorBomDataValue::kIntData: return { kPieces, VorBomTemplateUnits::kNoUnit };
-        default: return { kOwnNumber, VorBomTemplateUnits::kNoUnit };
+        default: return { kOwnUnit, VorBomTemplateUnits::kNoUnit };
     }
 }
 }

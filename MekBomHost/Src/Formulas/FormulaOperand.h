@@ -18,11 +18,11 @@ struct FormulaOperand
 {
     enum eMeaning
     {
-        kUnknown,   // nobody knows the name
-        kText,      // a text, with which nothing can be computed
-        kPieces,    // a whole number, which has no unit
-        kOwnNumber, // a number in a unit that the program does not know: a price, hours
-        kQuantity   // a number that has a unit of the kind `type`
+        kUnknown, // nobody knows the name
+        kText,    // a text, with which nothing can be computed
+        kPieces,  // a whole number, which has no unit
+        kOwnUnit, // a number in a unit that the program does not know: a price, hours
+        kQuantity // a number that has a unit of the kind `type`
     };
 
     eMeaning meaning = kUnknown;

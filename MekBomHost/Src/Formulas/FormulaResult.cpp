@@ -138,7 +138,7 @@ Term Derivation::ofName(const VorString& name)
     {
         case FormulaOperand::kPieces: return ofDimension(Dimension());
         case FormulaOperand::kQuantity: return ofDimension(Dimension::ofType(operand.type));
-        case FormulaOperand::kOwnNumber: return ofUncertain(Dimension::ofOwnNumber(text));
+        case FormulaOperand::kOwnUnit: return ofUncertain(Dimension::ofOwnNumber(text));
         case FormulaOperand::kText: note(FormulaResult::kTextOperand, inQuotes(text) + " is a text"); break;
         default: note(FormulaResult::kUnknownOperand, "nobody knows " + inQuotes(text)); break;
     }

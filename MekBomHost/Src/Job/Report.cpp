@@ -1,13 +1,25 @@
+// The rows of an evaluated report pass through a chain of sinks, each of which sees what the one before it hands on:
+//
+//   RowTally      counts rows: those that are listed and those that are merged
+//   TotalsCheck   adds up every total a second time, if that is wanted
+//   EqualLines    makes one line of those that read alike, if the template says "count"
+//   PackedSections, which keeps what is printed
 #include "Report.h"
 
 #include "ColumnCheck.h"
+#include "EqualLines.h"
 #include "Fault.h"
 #include "FormulaResults.h"
+#include "RowTally.h"
 #include "TokenQuantities.h"
+#include "TotalsCheck.h"
 
 #include "VorBomDataTuple.h"
 #include "VorBomEvaluator2.h"
 
+#include <optional>
+#include <stdexcept>
+#include <string>
 #include <utility>
 
 namespace mekbom
@@ -21,6 +33,14 @@ VorBomDataValue::eBomDataValueType typeInRows(const VorBomData& data, const VorS
         if (const VorBomDataTuple* const pTuple = pRow->getTupleAt(token))
             return pTuple->value().type();
     return VorBomDataValue::kUnknownData;
+}
+
+int numRowsOf(const VorBomData& data)
+{
+    int number = 0;
+    for (const VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
+        ++number;
+    return number;
 }
 }
 
@@ -60,7 +80,16 @@ void Report::evaluate()
 {
     if (m_sections.contents().rows)
         m_rowNumbers = RowNumbers(*engineTemplate().getBomData());
+    m_facts.numRowsRead = numRowsOf(*engineTemplate().getBomData());
     filter();
+    prepareNumbers();
+    evaluateRows();
+    if (m_checksTotals)
+        checkRows();
+}
+
+void Report::prepareNumbers()
+{
     const FormulaResults formulas(m_template);
     formulas.registerWith(*engineTemplate().getBomTemplateUnits());
     const TokenQuantities quantities(*engineTemplate().getBomData(), *engineTemplate().getBomTemplateUnits(), formulas);
@@ -68,7 +97,35 @@ void Report::evaluate()
     m_pFormats =
         std::make_unique<NumberFormats>(m_template, ReportLayout(m_template, m_units), quantities, m_units, m_settings);
     m_pFormats->setFor(engineTemplate());
-    VorBomEvaluator2::evaluate(&engineTemplate(), m_sections);
+}
+
+void Report::evaluateRows()
+{
+    std::optional<EqualLines> equalLines;
+    std::optional<TotalsCheck> check;
+    VorBomSectionSink* pSink = &m_sections;
+    if (m_template.equalLines == kCountEqualLines)
+        pSink = &equalLines.emplace(m_template, *pSink);
+    if (m_checksTotals)
+        pSink = &check.emplace(m_template, *pSink);
+    RowTally tally(m_template, *pSink);
+    VorBomEvaluator2::evaluate(&engineTemplate(), tally);
+    if (equalLines)
+    {
+        equalLines->finish();
+        m_facts.numRowsInOtherLines = equalLines->numRowsAdded();
+    }
+    m_facts.rows = tally.counts();
+}
+
+void Report::checkRows() const
+{
+    int numKnown = m_facts.rows.numListed + m_facts.rows.numMerged;
+    for (const FilteredRows& filtered : m_facts.filtered)
+        numKnown += filtered.numRows;
+    if (numKnown != m_facts.numRowsRead)
+        throw std::runtime_error("of " + std::to_string(m_facts.numRowsRead) + " rows read " +
+                                 std::to_string(numKnown) + " were filtered out, merged or listed");
 }
 
 // Numbers are sorted by value whatever a column says: "2" before "10" is what natural order means.
@@ -105,6 +162,6 @@ void Report::apply(RowFilter& filter, bool isFromTemplate)
     const auto typeOf = [&data](const VorString& token) { return typeInRows(data, token); };
     if (const auto finding = filter.settle(*engineTemplate().getBomTemplateUnits(), typeOf))
         failInFilter(*finding, isFromTemplate);
-    m_filtered.push_back({ filter.text(), isFromTemplate, filter.apply(*engineTemplate().getBomData()) });
+    m_facts.filtered.push_back({ filter.text(), isFromTemplate, filter.apply(*engineTemplate().getBomData()) });
 }
 }

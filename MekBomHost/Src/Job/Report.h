@@ -11,8 +11,8 @@
 
 #include "DisplaySettings.h"
 #include "EvaluatedReport.h"
-#include "FilteredRows.h"
 #include "LineContents.h"
+#include "ListFacts.h"
 #include "NumberFormats.h"
 #include "PackedSections.h"
 #include "ReportTemplate.h"
@@ -66,26 +66,34 @@ public:
     // cannot be compared with.
     void filter();
 
-    // Filters, then evaluates. To be called once.
+    // Has evaluate() add up every total a second time, from the rows, and see where each row has gone.
+    void checkTotals() { m_checksTotals = true; }
+
+    // Filters, then evaluates. To be called once. Throws std::runtime_error when totals are checked and one is wrong, or
+    // a row has gone nowhere.
     void evaluate();
 
-    // How many rows had a line equal to the one before it, were merged into that and count in no total.
-    int numMergedRows() const { return m_sections.numMergedRows(); }
+    // What became of the rows, for the foot of the list; evaluate() counts them. Who knows more of them says it here.
+    ListFacts& facts() { return m_facts; }
 
     // The evaluated report, which looks at this object and must not outlive it.
-    EvaluatedReport evaluated() const { return EvaluatedReport(m_template, m_units, m_sections, m_filtered); }
+    EvaluatedReport evaluated() const { return EvaluatedReport(m_template, m_units, m_sections, m_facts); }
 
 private:
     void apply(RowFilter& filter, bool isFromTemplate);
+    void prepareNumbers();
     void setOrders(const TokenQuantities& quantities);
+    void evaluateRows();
+    void checkRows() const;
 
     VorUnitsManager m_units; // that numbers are shown in
     DisplaySettings m_settings;
     ReportTemplate m_template;
     std::unique_ptr<NumberFormats> m_pFormats; // that the template refers to, once it is evaluated
     RowFilter m_where;
-    std::vector<FilteredRows> m_filtered; // of the filters that say anything
     RowNumbers m_rowNumbers;
     PackedSections m_sections; // of the evaluated report
+    ListFacts m_facts;
+    bool m_checksTotals = false;
 };
 }

@@ -5,7 +5,7 @@
 //                                    that shows the columns as they are
 //   settings, units, Report          the template's tokens get their kinds of quantity
 //   records                          are read in these kinds, and only the data that the template asks for
-//   evaluation                       only now is it known how many rows were merged
+//   evaluation                       only now is it known how many rows were merged, and what left the totals
 #include "ReportJob.h"
 
 #include "ColumnHeading.h"
@@ -18,6 +18,7 @@
 #include "FindingCodes.h"
 #include "Guard.h"
 #include "InQuotes.h"
+#include "MistakeCodes.h"
 #include "NamedText.h"
 #include "TemplateChoice.h"
 #include "TemplateReader.h"
@@ -58,6 +59,28 @@ VorUnitsManager unitsOf(const ReportRequest& request)
     return UnitChoice::unitsOf(request.units, request.unitChoices);
 }
 
+// "12 rows read like others, are merged into their lines and are in no total: Weight 2140 kg"
+std::string lossIn(const ListFoot& foot)
+{
+    const std::string rows = foot.numLosing == 1 ? "1 row reads like the one before it, is merged into its line and is"
+                                                 : std::to_string(foot.numLosing) +
+                                                       " rows read like the one before them, are merged into its line "
+                                                       "and are";
+    return rows + " in no total: " + foot.lossText();
+}
+
+// The finding at the details, whose lines are the ones that merge.
+Finding inDetails(const Finding& finding, const ReportTemplate& reportTemplate)
+{
+    const VorBomItemBase* pDetails = reportTemplate.pTemplate->child();
+    while (pDetails->child() != nullptr)
+        pDetails = pDetails->child();
+    const TemplatePlace& place = reportTemplate.styleOf(pDetails).place;
+    Finding placed = finding.in(reportTemplate.fileName, place.span);
+    placed.path = place.path;
+    return placed;
+}
+
 // The sample rows have no columns that an option could be about.
 [[noreturn]] void refuseForSample(const std::string& option)
 {
@@ -85,8 +108,11 @@ ExitStatus ReportJob::makeReport()
     refuseWrongNumbers();
     addFilter();
     readRows();
+    if (m_request.checksTotals)
+        m_pReport->checkTotals();
     m_pReport->evaluate();
-    noteMergedRows();
+    refuseLostTotals();
+    m_pReport->facts().numWarnings = m_findings.numWarnings();
     return kDone;
 }
 
@@ -116,6 +142,7 @@ ReportTemplate ReportJob::readTemplate()
         return readSuitableTemplate();
     ReportTemplate reportTemplate;
     reportTemplate.pTemplate.reset(VorBomTemplate::createDefaultTemplate());
+    reportTemplate.equalLines = kMergeEqualLines; // its lists stay what they have always been
     return reportTemplate;
 }
 
@@ -211,16 +238,22 @@ void ReportJob::noteMissingColumns()
         m_findings.add(ColumnNotes::missing(*m_pParts, m_pRecords->name(), missing));
 }
 
-void ReportJob::noteMergedRows()
+// Whoever says what is to become of equal lines gets that; who has not thought of it must not lose a weight by it.
+void ReportJob::refuseLostTotals() const
 {
-    const int numRows = m_pReport->numMergedRows();
-    if (numRows == 0)
+    const ListFoot foot = m_pReport->evaluated().foot();
+    const ReportTemplate& reportTemplate = m_pReport->reportTemplate();
+    if (reportTemplate.equalLines != kEqualLinesOpen || foot.losses.empty() || isAllowed(MistakeCodes::kTotalsLoseRows))
         return;
-    m_findings.add(Finding::saying(FindingCodes::kRowsMerged,
-                                   std::to_string(numRows) +
-                                       (numRows == 1 ? " line equal to the one before it was merged into it and is"
-                                                     : " lines equal to the one before them were merged into it and "
-                                                       "are") +
-                                       " not counted in totals; details that show %Handle stay apart"));
+    Finding finding = Finding::stating(MistakeCodes::kTotalsLoseRows, lossIn(foot));
+    finding.remedy = "say \"equalLines\": \"count\" for one line with the pieces and totals of all, \"keep\" for a "
+                     "line each, or \"merge\" to leave these rows out";
+    throw Fault(kMistakes, inDetails(finding, reportTemplate));
+}
+
+bool ReportJob::isAllowed(const FindingCode& code) const
+{
+    return m_pReport->reportTemplate().allowed.count(code.name) > 0 ||
+           std::find(m_request.allowed.begin(), m_request.allowed.end(), code.name) != m_request.allowed.end();
 }
 }

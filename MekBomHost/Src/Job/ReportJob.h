@@ -60,7 +60,8 @@ private:
     void checkFilterTokens() const;
     void takeSampleRows();
     void noteMissingColumns();
-    void noteMergedRows();
+    void refuseLostTotals() const;
+    bool isAllowed(const FindingCode& code) const;
 
     ReportRequest m_request;
     FindingList m_findings;

@@ -9,9 +9,12 @@
 //   while (lines.next(line))
 //       for (const ShownText& text : line.texts)
 //           sink.write(text.view());
+//   for (const std::string& ofFoot : report.foot().lines())
+//       sink.write(ofFoot);
 #pragma once
 
-#include "FilteredRows.h"
+#include "ListFacts.h"
+#include "ListFoot.h"
 #include "PackedSections.h"
 #include "ReportColumn.h"
 #include "ReportLayout.h"
@@ -21,7 +24,6 @@
 #include "MekRoots/Exp/VorUnitsManager.h"
 
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace mekbom
@@ -31,20 +33,24 @@ class EvaluatedReport
 public:
     // `sections` took the evaluation of `reportTemplate`, whose numbers were shown in `units`. The report owns none of
     // the three; template and sections must outlive it.
-    EvaluatedReport(const ReportTemplate& reportTemplate, const VorUnitsManager& units, const PackedSections& sections,
-                    std::vector<FilteredRows> filtered = {})
-        : m_title(reportTemplate.title),
-          m_layout(reportTemplate, units),
-          m_sections(sections),
-          m_filtered(std::move(filtered))
+    EvaluatedReport(const ReportTemplate& reportTemplate, const VorUnitsManager& units, const PackedSections& sections)
+        : m_title(reportTemplate.title), m_layout(reportTemplate, units), m_sections(sections)
     {
+    }
+
+    // The same with a foot, from what was counted meanwhile.
+    EvaluatedReport(const ReportTemplate& reportTemplate, const VorUnitsManager& units, const PackedSections& sections,
+                    const ListFacts& facts)
+        : EvaluatedReport(reportTemplate, units, sections)
+    {
+        m_foot = ListFoot(facts, reportTemplate, m_layout);
     }
 
     // In UTF-8; empty without one.
     const std::string& title() const { return m_title; }
 
-    // What was left out of the list, by each filter that there is.
-    const std::vector<FilteredRows>& filteredRows() const { return m_filtered; }
+    // What was left out of the list, by each filter that there is; none where nobody has counted.
+    const std::vector<FilteredRows>& filteredRows() const { return m_foot.filtered; }
 
     const std::vector<ReportColumn>& columns() const { return m_layout.columns(); }
 
@@ -53,6 +59,9 @@ public:
 
     // The lines, from the first one on whenever this is called. They are valid as long as the report.
     ReportLines lines() const { return ReportLines(m_layout, m_sections); }
+
+    // What the list is made of, to be told below its lines; without any lines where nobody has counted.
+    const ListFoot& foot() const { return m_foot; }
 
     // The sections of which there is any line, from the outermost level inwards.
     std::vector<SectionPlace> placesWithLines() const;
@@ -65,6 +74,6 @@ private:
     const std::string& m_title;
     ReportLayout m_layout;
     const PackedSections& m_sections;
-    std::vector<FilteredRows> m_filtered;
+    ListFoot m_foot;
 };
 }

@@ -94,7 +94,6 @@ void PackedSections::takeFooter(const VorBomReportSection& footer)
 // for the row, and the last one is that of another line.
 void PackedSections::takeMergedRow(const VorBomDataRow& row)
 {
-    ++m_numMergedRows;
     if (m_isLastPacked && m_contents.rows)
         m_rows.add(row);
 }

@@ -56,9 +56,6 @@ public:
     // What is kept beside the texts.
     LineContents contents() const { return m_contents; }
 
-    // How many rows had a line equal to the one before it, were merged into that and count in no total.
-    int numMergedRows() const { return m_numMergedRows; }
-
     // Whether any such section was taken that has a line.
     bool hasLineOf(SectionPlace place) const { return keptOf(place).isTaken; }
 
@@ -110,7 +107,6 @@ private:
     LineContents m_contents;
     std::vector<Kept> m_headers; // by level
     std::vector<Kept> m_footers;
-    int m_numMergedRows = 0;
     bool m_isLastPacked = false; // the section handed over last has a line
     SectionRows m_rows;          // of each section packed, when they are asked for
     std::vector<Page> m_pages;

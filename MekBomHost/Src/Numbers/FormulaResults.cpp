@@ -32,7 +32,7 @@ FormulaOperand operandOf(const ReportTemplate& reportTemplate, const VorString& 
         return known;
     const auto own = reportTemplate.ownTokens.find(Utf8::toBytes(name));
     const bool isText = own != reportTemplate.ownTokens.end() && own->second == kOwnText;
-    return { isText ? FormulaOperand::kText : FormulaOperand::kOwnNumber, VorBomTemplateUnits::kNoUnit };
+    return { isText ? FormulaOperand::kText : FormulaOperand::kOwnUnit, VorBomTemplateUnits::kNoUnit };
 }
 
 FormulaResult ofType(VorBomTemplateUnits::eTokenUnitType type)

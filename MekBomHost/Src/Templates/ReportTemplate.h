@@ -70,7 +70,7 @@ struct SectionStyle
     bool isPrinted = true;
     std::string label;                   // stands in the first column that the line leaves empty
     std::vector<VorString> columnTokens; // for each tuple the column that the file names; empty texts for the usual one
-    bool isSummary = false;              // its groups are printed without the lines below them
+    bool isSummary = false; // its groups are printed without the lines below them, which isPrinted says too
     TemplatePlace place;
     std::vector<TemplatePlace> tuplePlaces; // of each tuple
 };

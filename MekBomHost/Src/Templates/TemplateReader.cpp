@@ -98,6 +98,7 @@ ReportTemplate TemplateReader::build(const JsonNode& root)
             m_json.add(item, Finding::of(FindingCodes::kNoSection, "no section", "at least one in \"sections\""));
     }
     m_json.throwIfAnyError();
+    summarize();
     checkColumns(item);
     m_json.throwIfAnyError();
     m_template.findings = m_json.findings();
@@ -245,6 +246,29 @@ void TemplateReader::readTuple(const JsonItem& tuple, VorBomItemBase& sectionIte
                        Finding::of(FindingCodes::kWrongKindOfValue, pValue->description(), "a number, a text or null"));
             break;
     }
+}
+
+// Below a level that prints its groups alone nothing is printed; where details say so themselves, they are not. Lines that
+// nobody sees are not merged either: every row belongs to its group, and to the totals.
+void TemplateReader::summarize()
+{
+    bool isBelow = false;
+    for (VorBomItemBase* pHeader = m_template.pTemplate->child(); pHeader != nullptr; pHeader = pHeader->child())
+    {
+        const bool isSummary = m_template.styleOf(pHeader).isSummary;
+        if (isBelow || (isSummary && pHeader->child() == nullptr))
+            hide(pHeader);
+        if (isBelow && pHeader->next() != nullptr)
+            hide(pHeader->next());
+        isBelow = isBelow || isSummary;
+    }
+    if (isBelow)
+        m_template.equalLines = kKeepEqualLines;
+}
+
+void TemplateReader::hide(const VorBomItemBase* pSection)
+{
+    m_template.sectionStyles[pSection].isPrinted = false;
 }
 
 // A column that nothing is shown in is most likely misspelled.

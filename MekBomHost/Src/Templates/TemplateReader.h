@@ -44,6 +44,8 @@ private:
     void readSection(const JsonItem& section, VorBomItemBase& parentItem);
     void readTuple(const JsonItem& tuple, VorBomItemBase& sectionItem, SectionStyle& style);
     void noteUnused(const std::vector<JsonItem>& siblings);
+    void summarize();
+    void hide(const VorBomItemBase* pSection);
     void checkColumns(const JsonItem& root);
     bool isShown(const VorString& columnToken) const;
 

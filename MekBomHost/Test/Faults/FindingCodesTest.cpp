@@ -32,6 +32,7 @@ TEST(FindingCodesTest, NoneIsForgottenInTheList)
 
 TEST(FindingCodesTest, NumbersFollowEachOtherWithoutGapsWithinTheirHundred)
 {
+    const int noteOnMergedRows = 717; // which the foot of a list tells now; its number is not given away
     int last = 700;
     for (const FindingCode& code : FindingCodes::all())
     {
@@ -40,7 +41,8 @@ TEST(FindingCodesTest, NumbersFollowEachOtherWithoutGapsWithinTheirHundred)
         ASSERT_EQ(5U, name.size());
         const int number = std::stoi(name.substr(2));
         const bool beginsHundred = number % 100 == 1 && number / 100 == last / 100 + 1;
-        EXPECT_TRUE(number == last + 1 || beginsHundred) << name << " after " << last;
+        const bool isBehindRetired = last + 1 == noteOnMergedRows && number == last + 2;
+        EXPECT_TRUE(number == last + 1 || beginsHundred || isBehindRetired) << name << " after " << last;
         last = number;
     }
     EXPECT_EQ(9, last / 100);

@@ -42,6 +42,6 @@ TEST(FormulaOperandTest, TheCatalogueAndTheRegisteredKindsSayWhatATokenIs)
 
 TEST(FormulaOperandTest, ANumberWithoutARegisteredKindIsTheUsersOwn)
 {
-    EXPECT_EQ(FormulaOperand::kOwnNumber, FormulaOperand::ofCatalogue(L"%Weight", Units()).meaning);
+    EXPECT_EQ(FormulaOperand::kOwnUnit, FormulaOperand::ofCatalogue(L"%Weight", Units()).meaning);
 }
 }

@@ -4,7 +4,7 @@
 #include "FormulaRules.h"
 #include "FormulaWalk.h"
 
-#include "FormulaSupport.h"
+#include "Support/FormulaSupport.h"
 #include "Utf8.h"
 
 #include "ExpressionEvaluator/Src/evaluateFormula.h"

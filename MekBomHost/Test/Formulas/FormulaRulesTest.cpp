@@ -1,7 +1,7 @@
 #include "FormulaRules.h"
 
-#include "FormulaSupport.h"
 #include "MistakeCodes.h"
+#include "Support/FormulaSupport.h"
 
 #include <gtest/gtest.h>
 

@@ -41,6 +41,7 @@ ReportRequest requestFor(std::string_view parts, std::string_view templateText)
     ReportRequest request;
     request.pParts = text("parts.csv", parts);
     request.pTemplate = text("list.json", templateText);
+    request.checksTotals = true;
     return request;
 }
 
@@ -83,7 +84,7 @@ std::string outcomeOf(ReportRequest request)
     ReportJob job(std::move(request));
     const ExitStatus status = job.run();
     if (status == kDone)
-        return tableOf(job);
+        return withoutFoot(tableOf(job));
     std::string messages = std::to_string(status);
     for (const Finding& finding : job.findings().all())
         messages += " " + messageOf(finding) + "\n";
@@ -135,9 +136,9 @@ TEST(ReportJobTest, ReportsOfDifferentUnitsAndSettingsAreMadeStepByStepBesideEac
     ASSERT_EQ(kDone, imperial.run());
     ASSERT_EQ(kDone, metre.run());
 
-    EXPECT_EQ(kImperialTable, tableOf(imperial));
-    EXPECT_EQ(kMetreTable, tableOf(metre));
-    EXPECT_EQ(kImperialTable, tableOf(imperial)); // the lines may be read again
+    EXPECT_EQ(kImperialTable, withoutFoot(tableOf(imperial)));
+    EXPECT_EQ(kMetreTable, withoutFoot(tableOf(metre)));
+    EXPECT_EQ(kImperialTable, withoutFoot(tableOf(imperial))); // the lines may be read again
 }
 
 TEST(ReportJobTest, ReportsOfDifferentUnitsAndSettingsAreMadeOnTwoThreads)
@@ -243,10 +244,91 @@ TEST(ReportJobTest, ANoteLetsTheReportBeMade)
         EXPECT_EQ(Finding::kNote, finding.severity);
         codes.push_back(finding.code);
     }
-    EXPECT_EQ((std::vector<std::string>{ FindingCodes::kSectionNotEvaluated.name, FindingCodes::kColumnMissing.name,
-                                         FindingCodes::kRowsMerged.name }),
+    EXPECT_EQ((std::vector<std::string>{ FindingCodes::kSectionNotEvaluated.name, FindingCodes::kColumnMissing.name }),
               codes);
     EXPECT_EQ("parts.csv", job.findings().all()[1].source);
+}
+
+namespace
+{
+const char* const kEqualParts = "%Name,%Weight,%Quantity\nA,2.5,1\nA,2.5,3\nB,1,1\n";
+
+ReportRequest totalling(const std::string& templateText)
+{
+    return requestFor(kEqualParts, templateText);
+}
+
+// `members` of the template, and what its footer sums.
+std::string totalsOf(const std::string& members, const std::string& sums)
+{
+    return "{ " + members + R"( "sections": [
+  { "type": "kReportHeader", "children": [
+    { "type": "kDetails", "tuples": [ { "token": "%Name" }, { "token": "%Weight" } ] } ] },
+  { "type": "kReportFooter", "tuples": [ )" +
+           sums + " ] } ] }";
+}
+
+const char* const kSumOfWeights = R"({ "token": "%SumBy:%Weight", "value": 0.0 })";
+const char* const kSumOfPieces = R"({ "token": "%SumBy:%Quantity", "value": 0 })";
+}
+
+TEST(ReportJobTest, TotalsThatWouldLoseRowsAreAnErrorThatOffersTheWays)
+{
+    const std::string list = totalsOf("", std::string(kSumOfWeights) + ", " + kSumOfPieces);
+    ReportJob job(totalling(list));
+
+    EXPECT_EQ(kMistakes, job.run());
+
+    ASSERT_EQ(1u, job.findings().all().size());
+    const Finding& finding = job.findings().all()[0];
+    EXPECT_EQ("MB307", finding.code);
+    EXPECT_EQ(Finding::kError, finding.severity);
+    EXPECT_EQ("list.json", finding.source);
+    EXPECT_EQ(3, finding.begin.line);
+    EXPECT_EQ("/sections/0/children/0", finding.path);
+    EXPECT_EQ("1 row reads like the one before it, is merged into its line and is in no total: Weight 2.5 kg, "
+              "Quantity 3",
+              finding.statement);
+    for (const char* const way : { "\"count\"", "\"keep\"", "\"merge\"" })
+        EXPECT_NE(std::string::npos, finding.remedy.find(way)) << finding.remedy;
+}
+
+TEST(ReportJobTest, WhoSaysWhatBecomesOfEqualLinesGetsIt)
+{
+    const auto footOf = [](const std::string& members)
+    {
+        const std::string list = totalsOf(members, kSumOfWeights);
+        ReportJob job(totalling(list));
+        EXPECT_EQ(kDone, job.run());
+        const std::string table = tableOf(job);
+        return table.substr(withoutFoot(table).size() + 1);
+    };
+
+    EXPECT_EQ("3 rows read, 3 listed in 2 lines\n", footOf("\"equalLines\": \"count\","));
+    EXPECT_EQ("3 rows read, 3 listed\n", footOf("\"equalLines\": \"keep\","));
+    const char* const lost = "3 rows read, 1 merged into equal lines, 2 listed\n"
+                             "Merged rows are in no total: Weight 2.5 kg\n";
+    EXPECT_EQ(lost, footOf("\"equalLines\": \"merge\","));
+    EXPECT_EQ(lost, footOf("\"allow\": { \"MB307\": \"one of each is wanted\" },"));
+}
+
+TEST(ReportJobTest, RowsThatNoTotalMissesAreMergedWithoutAWord)
+{
+    const std::string list = totalsOf("", R"({ "token": "%SumBy:%Paint", "value": 0.0 })");
+    ReportJob job(totalling(list));
+
+    EXPECT_EQ(kDone, job.run());
+    EXPECT_NE(std::string::npos, tableOf(job).find("\n3 rows read, 1 merged into equal lines, 2 listed\n"));
+}
+
+TEST(ReportJobTest, TheBuiltInTemplateMergesAsEver)
+{
+    ReportRequest request;
+    request.pParts = text("parts.csv", "%PosNum,%Weight\nA,2.5\nA,2.5\n");
+
+    ReportJob job(std::move(request));
+
+    EXPECT_EQ(kDone, job.run());
 }
 
 TEST(ReportJobTest, OfTheCandidatesTheOneIsTakenThatSuitsTheParts)

@@ -39,8 +39,19 @@ TEST(ReportTest, SectionsAreGroupedAndSorted)
 
 TEST(ReportTest, MergedRowsAreCounted)
 {
-    EXPECT_EQ(1, evaluatedReport(kByMaterial, kParts)->numMergedRows());
-    EXPECT_EQ(0, evaluatedReport(kByMaterial, "%Name,%Weight\nA,1\nB,1\n")->numMergedRows());
+    EXPECT_EQ(1, evaluatedReport(kByMaterial, kParts)->facts().rows.numMerged);
+    EXPECT_EQ(0, evaluatedReport(kByMaterial, "%Name,%Weight\nA,1\nB,1\n")->facts().rows.numMerged);
+}
+
+TEST(ReportTest, RowsAreCountedOnTheirWay)
+{
+    const std::unique_ptr<Report> pReport = evaluatedReport(kByMaterial, kParts);
+
+    EXPECT_EQ(4, pReport->facts().numRowsRead);
+    ASSERT_EQ(1U, pReport->facts().filtered.size());
+    EXPECT_EQ("!%BoltName", pReport->facts().filtered[0].condition);
+    EXPECT_EQ(1, pReport->facts().filtered[0].numRows);
+    EXPECT_EQ(2, pReport->facts().rows.numListed);
 }
 
 TEST(ReportTest, NumbersAreShownInTheAskedUnits)
@@ -58,6 +69,29 @@ TEST(ReportTest, UnitTypesOfTheTemplateComeBeforeTheUsualOnes)
               listOf(*reportOf(R"({ "tokenUnits": { "%Length": "kNoUnit" },
                                    "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Length" } ] } ] })",
                                "%Length\n1234567\n")));
+}
+
+// The obvious way to write a list of totals: details without a column. Merged, all rows but one of a group would leave
+// its total.
+TEST(ReportTest, ASummaryTotalsAllRowsOfDetailsThatShowNothing)
+{
+    const char* const list = R"({ "sections": [
+        { "type": "kReportHeader", "children": [
+          { "type": "kGroupHeader", "summary": true,
+            "tuples": [ { "token": "%GroupBy:%Material" }, { "token": "%SortAscBy:%Material" },
+                        { "token": "%Material" } ],
+            "children": [ { "type": "kDetails" } ] },
+          { "type": "kGroupFooter", "tuples": [ { "token": "%SumBy:%Weight", "value": 0.0 } ] } ] } ] })";
+
+    EXPECT_EQ(
+        "Material  Weight [kg]\n"
+        "--------  -----------\n"
+        "S235                2\n"
+        "S355               21\n"
+        "\n"
+        "4 rows read, 4 listed\n"
+        "Weight: 3 of 4 rows\n",
+        tableOf(*evaluatedReport(list, "%Name,%Material,%Weight\nA,S355,10.5\nA,S355,10.5\nA,S235,2\nA,S235,\n")));
 }
 
 TEST(ReportTest, NothingIsLeaked)

@@ -17,8 +17,8 @@ namespace
 namespace fs = std::filesystem;
 
 const std::string kExamples = "{examples}";
-const std::string kHere = "{here}";
 const std::string kRealData = "{real data}";
+const std::string kHere = "{here}"; // the folder itself
 
 std::string replaced(std::string text, const std::string& word, const std::string& by)
 {
@@ -34,9 +34,9 @@ std::string printedBy(const fs::path& folder)
     std::string text;
     for (std::string command; std::getline(commands, command);)
     {
-        const std::string examples = replaced(command, kExamples, MEK_EXAMPLES_DIR);
+        const std::string here = replaced(command, kHere, folder.string());
         const ProgramRun run =
-            runProgram(replaced(replaced(examples, kHere, folder.string()), kRealData, MEK_REAL_DATA_DIR));
+            runProgram(replaced(replaced(here, kExamples, MEK_EXAMPLES_DIR), kRealData, MEK_REAL_DATA_DIR));
         EXPECT_EQ(0, run.status) << run.errors;
         text += "$ mekbom " + command + "\n" + run.output + "\n";
     }
@@ -62,6 +62,11 @@ protected:
             GTEST_SKIP() << "no real data: configure with -DMEK_REAL_DATA_DIR=<folder of steel-frame.csv>";
     }
 };
+}
+
+TEST(ListFolderTest, EqualLinesBecomeWhatTheTemplateSays)
+{
+    expectList("equal-lines");
 }
 
 TEST(ListFolderTest, TheHallPrintsInMetricUnits)

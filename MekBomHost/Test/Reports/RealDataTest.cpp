@@ -93,8 +93,10 @@ std::string footerTotal(const std::string& list, const std::string& token)
     return list.substr(begin, list.find(']', begin) - begin);
 }
 
-std::string lastLine(const std::string& text)
+// The last line of the table, above the foot of the list.
+std::string totalLine(const std::string& list)
 {
+    const std::string text = withoutFoot(list);
     const std::size_t end = text.size() - 1;
     const std::size_t begin = text.rfind('\n', end - 1) + 1;
     return text.substr(begin, end - begin);
@@ -127,7 +129,7 @@ TEST_F(RealDataTest, TotalsAndMergedRowsMakeUpTheFilesOwnSums)
 
     pReport->evaluate();
 
-    EXPECT_GT(pReport->numMergedRows(), 0);
+    EXPECT_GT(pReport->facts().rows.numMerged, 0);
     const std::string list = listOf(*frameReport(kFrameWeights));
     for (const FileSum& file : kFileSums)
     {
@@ -151,25 +153,33 @@ TEST_F(RealDataTest, AListWithHandlesTotalsTheWholeFrame)
         run.errors); // and nothing else: nothing merged, no column missing
     EXPECT_EQ("Cutting list", run.output.substr(0, run.output.find('\n')));
     // Bolts and others without a profile are left out; they have neither weight nor surface.
-    const std::vector<std::string> words = wordsOf(lastLine(run.output));
+    const std::vector<std::string> words = wordsOf(totalLine(run.output));
     ASSERT_EQ(5u, words.size());
     EXPECT_EQ("Total", words[0]);
     EXPECT_EQ("7411.59", words[3]);
     EXPECT_EQ("167.88", words[4]);
 }
 
-TEST_F(RealDataTest, MergedRowsAreNoted)
+TEST_F(RealDataTest, AListThatWouldLoseWeightByMergingIsRefused)
 {
-    const ProgramRun run =
-        runProgram("report --data \"" + kFolder + "/steel-frame.csv\" --input-unit %Paint=m2 --template \"" +
-                   std::string(kFrameWeights) + "\"");
+    const std::string command = "report --data \"" + kFolder +
+                                "/steel-frame.csv\" --input-unit %Paint=m2 --template \"" + std::string(kFrameWeights) +
+                                "\"";
     const std::unique_ptr<Report> pReport = frameReport(kFrameWeights);
     pReport->evaluate();
 
-    EXPECT_EQ(0, run.status);
-    EXPECT_EQ(0u, run.errors.find("mekbom: note: " + std::to_string(pReport->numMergedRows()) +
-                                  " lines equal to the one before"))
-        << run.errors;
+    const ProgramRun refused = runProgram(command);
+    const ProgramRun allowed = runProgram(command + " --allow MB307");
+
+    EXPECT_EQ(1, refused.status);
+    EXPECT_EQ("", refused.output);
+    EXPECT_NE(std::string::npos,
+              refused.errors.find(std::to_string(pReport->facts().rows.numLosing) + " rows read like the one before"))
+        << refused.errors;
+    EXPECT_EQ(0, allowed.status) << allowed.errors;
+    EXPECT_NE(std::string::npos, allowed.output.find(", " + std::to_string(pReport->facts().rows.numMerged) +
+                                                     " merged into equal lines, "))
+        << allowed.output;
 }
 
 TEST_F(RealDataTest, TheFramePrintsInImperialUnits)
@@ -178,7 +188,7 @@ TEST_F(RealDataTest, TheFramePrintsInImperialUnits)
         runProgram("report --data \"" + kFolder + "/steel-frame.csv\" --input-unit %Paint=m2 --units imperial");
 
     EXPECT_EQ(0, run.status);
-    const std::vector<std::string> words = wordsOf(lastLine(run.output));
+    const std::vector<std::string> words = wordsOf(totalLine(run.output));
     ASSERT_GE(words.size(), 2u);
     EXPECT_EQ("16339.7", words[words.size() - 2]); // 7411.585137 kg in lb
     EXPECT_EQ("1807.01", words.back());            // 167.876533 m2 in ft2

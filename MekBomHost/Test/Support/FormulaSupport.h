@@ -19,7 +19,7 @@ inline FormulaOperand operandOfTest(const VorString& name)
         return engineTemplate.getBomTemplateUnits();
     }();
     if (name == VorString(L"%Price") || name == VorString(L"%Hours"))
-        return { FormulaOperand::kOwnNumber, VorBomTemplateUnits::kNoUnit };
+        return { FormulaOperand::kOwnUnit, VorBomTemplateUnits::kNoUnit };
     if (name == VorString(L"a") || name == VorString(L"b") || name == VorString(L"c") ||
         name == VorString(L"my length"))
         return { FormulaOperand::kPieces, VorBomTemplateUnits::kNoUnit };

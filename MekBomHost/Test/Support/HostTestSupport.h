@@ -64,6 +64,13 @@ inline std::string faultOf(const std::function<void()>& action)
     return text;
 }
 
+// A printed list without its foot, which stands below a blank line.
+inline std::string withoutFoot(const std::string& list)
+{
+    const std::size_t end = list.rfind("\n\n");
+    return end == std::string::npos ? list : list.substr(0, end + 1);
+}
+
 inline std::string readFile(const std::filesystem::path& path)
 {
     std::ifstream file(path, std::ios::binary);

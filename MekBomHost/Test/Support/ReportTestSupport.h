@@ -30,6 +30,7 @@ inline std::unique_ptr<Report> reportOf(const std::string& templateText, const s
 inline std::unique_ptr<Report> evaluatedReport(const std::string& templateText, const std::string& partsText)
 {
     std::unique_ptr<Report> pReport = reportOf(templateText, partsText);
+    pReport->checkTotals();
     pReport->evaluate();
     return pReport;
 }
@@ -52,8 +53,9 @@ inline std::string tableOf(Report& report)
     return sink.text;
 }
 
+// The table alone: what it is made of stands below it in the other one.
 inline std::string tableOf(const std::string& templateText, const std::string& partsText)
 {
-    return tableOf(*evaluatedReport(templateText, partsText));
+    return withoutFoot(tableOf(*evaluatedReport(templateText, partsText)));
 }
 }

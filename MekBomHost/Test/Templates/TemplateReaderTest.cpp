@@ -250,4 +250,53 @@ TEST(TemplateReaderTest, NothingIsLeakedByARefusedTemplate)
 
     EXPECT_NE("", faultIn(R"({ "sections": [ { "type": "kDetails", "children": [ { "type": "kNone" } ] } ] })"));
 }
+
+namespace
+{
+// Three levels, of which the one with `members` may print its groups alone.
+std::string summaryOf(const std::string& group, const std::string& details = "")
+{
+    return R"({ "equalLines": "merge", "sections": [
+        { "type": "kReportHeader", "children": [
+          { "type": "kGroupHeader")" +
+           group + R"(, "tuples": [ { "token": "%GroupBy:%Material" }, { "token": "%Material" } ], "children": [
+            { "type": "kDetails")" +
+           details + R"(, "tuples": [ { "token": "%Name" } ] },
+            { "type": "kGroupFooter", "tuples": [ { "token": "%Name" } ] } ] },
+          { "type": "kGroupFooter", "tuples": [ { "token": "%SumBy:%Weight", "value": 0.0 } ] } ] } ] })";
+}
+
+// Which sections have a line: "h" for headers, "f" for footers, with their level.
+std::string printedIn(const ReportTemplate& reportTemplate)
+{
+    std::string printed;
+    int level = 0;
+    for (const VorBomItemBase* pHeader = reportTemplate.pTemplate->child(); pHeader != nullptr;
+         pHeader = pHeader->child(), ++level)
+    {
+        printed += reportTemplate.hasLine(*pHeader) ? "h" + std::to_string(level) + " " : "";
+        printed += pHeader->next() != nullptr && reportTemplate.hasLine(*pHeader->next())
+                       ? "f" + std::to_string(level) + " "
+                       : "";
+    }
+    return printed;
+}
+}
+
+TEST(TemplateReaderTest, BelowASummaryNothingIsPrintedAndNothingMerges)
+{
+    const ReportTemplate groups = templateOf(summaryOf(", \"summary\": true"));
+
+    EXPECT_EQ("h1 f1 ", printedIn(groups));
+    EXPECT_EQ(kKeepEqualLines, groups.equalLines);
+    EXPECT_EQ("h1 f1 h2 f2 ", printedIn(templateOf(summaryOf(", \"summary\": false"))));
+}
+
+TEST(TemplateReaderTest, DetailsThatAreASummaryAreNotPrinted)
+{
+    const ReportTemplate details = templateOf(summaryOf("", ", \"summary\": true"));
+
+    EXPECT_EQ("h1 f1 f2 ", printedIn(details));
+    EXPECT_EQ(kKeepEqualLines, details.equalLines);
+}
 }

@@ -46,6 +46,7 @@ void TextTable::write()
         writeLine(line);
         passOn(kBlockSize);
     }
+    writeFoot();
     passOn(0);
     m_sink.finish();
 }
@@ -60,6 +61,17 @@ void TextTable::writeTitle()
         return;
     for (const std::string& line : WordWrap::wrap(head + "\n", 0))
         m_text += line + "\n";
+}
+
+// Its lines are not wrapped: they are no part of the table.
+void TextTable::writeFoot()
+{
+    const std::vector<std::string> lines = m_report.foot().lines();
+    if (!lines.empty())
+        m_text += '\n';
+    for (const std::string& line : lines)
+        for (const std::string& part : WordWrap::wrap(line, 0))
+            m_text += part + "\n";
 }
 
 void TextTable::writeHeading()

@@ -9,9 +9,11 @@
 //   -------  --------  ------  ------
 //   Total                  20  9169.9
 //
+//   20 rows read, 20 listed
+//
 // A blank line sets off groups of several lines, a rule the report's own footer. A column is as wide as its widest
 // text, or as the template says: texts that are wider go on in the next line, numbers widen the column. Lines have no
-// blanks at their end. The whole table is in UTF-8, whatever the locale.
+// blanks at their end. What the list is made of stands below a blank line, where it is known. The whole table is in UTF-8, whatever the locale.
 #pragma once
 
 #include "EvaluatedReport.h"
@@ -35,6 +37,7 @@ public:
 
 private:
     void writeTitle();
+    void writeFoot();
     void writeHeading();
     void writeRule();
     void writeSeparation(const LinePlace& place, const LinePlace& previous);

@@ -314,6 +314,35 @@ TEST(TextTableTest, AFooterWhoseHeaderWasMergedAwayHasALineOfItsOwn)
               tableOf(footered, "%Name,%Weight\nA,1\nB,1\n"));
 }
 
+TEST(TextTableTest, WhatTheListIsMadeOfStandsBelowABlankLine)
+{
+    const std::string foot = details(kNameAndWeight);
+
+    EXPECT_EQ("Name    Weight [kg]\n"
+              "------  -----------\n"
+              "HEA200          2.5\n"
+              "\n"
+              "1 row read, 1 listed\n",
+              tableOf(*evaluatedReport(foot, "%Name,%Weight\nHEA200,2.5\n")));
+    EXPECT_EQ("Name  Weight [kg]\n"
+              "----  -----------\n"
+              "\n"
+              "0 rows read, 0 listed\n",
+              tableOf(*evaluatedReport(foot, "%Name,%Weight\n")));
+}
+
+TEST(TextTableTest, ControlCharactersOfTheFootReachNoTerminal)
+{
+    const std::string list = R"({ "columns": [ { "token": "%Weight", "label": "We\u001bight" } ], "sections": [
+        { "type": "kReportHeader", "children": [ { "type": "kDetails", "tuples": [ { "token": "%Name" } ] } ] },
+        { "type": "kReportFooter", "tuples": [ { "token": "%SumBy:%Weight", "value": 0.0 } ] } ] })";
+
+    const std::string table = tableOf(*evaluatedReport(list, "%Name,%Weight\nA,\n"));
+
+    EXPECT_EQ(std::string::npos, table.find('\x1B'));
+    EXPECT_NE(std::string::npos, table.find("ight: 0 of 1 row\n")) << table;
+}
+
 TEST(TextTableTest, LinesHaveNoBlanksAtTheirEnd)
 {
     EXPECT_EQ("Weight [kg]  Name\n"

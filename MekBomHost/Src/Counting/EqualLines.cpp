@@ -1,0 +1,204 @@
+// A line is appended to those of its group before it is known whether there is one that reads alike, so that both are
+// compared in the same place; if there is, its numbers are added to that one, and it goes.
+//
+//   columns %Name, %Quantity        group so far  P1 2, P2 1
+//   line    P1 1                    appended:     P1 2, P2 1, P1 1
+//   m_index.insert(2)               says 0:       P1 3, P2 1
+//
+// A set that has held many lines is not cleared but replaced: clearing takes time for all the room that it once needed,
+// and a group of a hundred thousand lines may be followed by as many of one.
+#include "EqualLines.h"
+
+#include "NumberInValue.h"
+#include "PieceTokens.h"
+
+#include "VorBomDataToken.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <string>
+
+namespace mekbom
+{
+namespace
+{
+// Whether a footer sums what stands under the token, be it printed or not.
+bool isSummed(const VorBomTemplate& reportTemplate, const VorString& token)
+{
+    for (const VorBomItemBase* pHeader = reportTemplate.child(); pHeader != nullptr; pHeader = pHeader->child())
+        if (pHeader->next() != nullptr)
+            for (const VorBomDataTuple& tuple : pHeader->next()->getData())
+            {
+                VorString summed;
+                if (tuple.token().getSummingRequest(summed) == 1 && summed == token)
+                    return true;
+            }
+    return false;
+}
+
+// The FNV-1a hash, character by character.
+std::size_t hashOfText(const VorString& text)
+{
+    std::uint64_t hash = 0xcbf29ce484222325;
+    const wchar_t* const pText = text.getStringW();
+    for (int i = 0; i < text.length(); ++i)
+        hash = (hash ^ static_cast<std::uint32_t>(pText[i])) * 0x100000001b3;
+    return static_cast<std::size_t>(hash);
+}
+}
+
+EqualLines::EqualLines(const ReportTemplate& reportTemplate, VorBomSectionSink& next)
+    : SectionRelay(next, kTypedValues | kEqualLines),
+      m_units(*reportTemplate.pTemplate->getBomTemplateUnits()),
+      m_index(noLines())
+{
+    int level = 0;
+    const VorBomItemBase* pLine = reportTemplate.pTemplate->child();
+    for (; pLine != nullptr && pLine->child() != nullptr; pLine = pLine->child())
+        ++level;
+    const auto* const pDetails = static_cast<const VorBomTemplateItem*>(pLine); // children of sections are sections
+    if (pDetails == nullptr || pDetails->type() != VorBomTemplateItem::kDetails || pDetails->next() != nullptr ||
+        !reportTemplate.hasLine(*pDetails))
+        return;
+    m_level = level;
+    for (const VorBomDataTuple& tuple : pDetails->getData())
+    {
+        const VorString& token = tuple.token().token();
+        const bool growsInStep = PieceTokens::growWithPieces(token);
+        m_columns.push_back({ growsInStep || isSummed(*reportTemplate.pTemplate, token), !growsInStep,
+                              reportTemplate.pTemplate->numberFormat(*pDetails, static_cast<int>(m_columns.size())) });
+    }
+}
+
+void EqualLines::takeHeader(const VorBomReportSection& header)
+{
+    if (header.level == m_level)
+        return take(header);
+    handOn();
+    SectionRelay::takeHeader(header);
+}
+
+void EqualLines::takeFooter(const VorBomReportSection& footer)
+{
+    handOn();
+    SectionRelay::takeFooter(footer);
+}
+
+void EqualLines::finish()
+{
+    handOn();
+}
+
+void EqualLines::take(const VorBomReportSection& line)
+{
+    if (m_pShown == nullptr)
+        m_pShown = std::make_unique<VorBomTemplateItem>(line.section);
+    append(line);
+    const auto [place, isNew] = m_index.insert(m_lines.size() - 1);
+    if (!isNew)
+        addLastTo(*place);
+}
+
+void EqualLines::append(const VorBomReportSection& line)
+{
+    m_lines.push_back({ line.pRow, {} });
+    const VorBomDataTuple* pTuple = line.section.getData().begin();
+    for (std::size_t i = 0; i < m_columns.size(); ++i, ++pTuple)
+        m_texts.push_back(pTuple->value().asString());
+    m_values.insert(m_values.end(), line.pValues, line.pValues + m_columns.size());
+}
+
+// Both read alike, so that of a column that is added up both have a number or neither has. The text stays that of the
+// first line until it is handed on: the next one has to read like that, and not like the sum.
+void EqualLines::addLastTo(std::size_t line)
+{
+    const std::size_t numColumns = m_columns.size();
+    VorBomTypedValue* pSum = m_values.data() + line * numColumns;
+    const VorBomTypedValue* pAdded = m_values.data() + (m_lines.size() - 1) * numColumns;
+    for (std::size_t i = 0; i < numColumns; ++i, ++pSum, ++pAdded)
+    {
+        if (!m_columns[i].isAdded || !holdsNumber(pSum->type))
+            continue;
+        pSum->number += pAdded->number;
+        if (pAdded->type == VorBomDataValue::kDoubleData)
+            *pSum = { pAdded->type, pAdded->unitType, pSum->number };
+    }
+    m_lines[line].otherRows.push_back(m_lines.back().pRow);
+    m_lines.pop_back();
+    m_texts.resize(m_texts.size() - numColumns);
+    m_values.resize(m_values.size() - numColumns);
+    ++m_numRowsAdded;
+}
+
+void EqualLines::handOn()
+{
+    if (m_lines.empty())
+        return;
+    for (std::size_t line = 0; line < m_lines.size(); ++line)
+        handOn(line);
+    m_index = noLines();
+    m_lines.clear();
+    m_texts.clear();
+    m_values.clear();
+}
+
+void EqualLines::handOn(std::size_t line)
+{
+    const std::size_t first = line * m_columns.size();
+    const bool isSum = !m_lines[line].otherRows.empty();
+    VorBomDataTuple* pTuple = m_pShown->getData().begin();
+    for (std::size_t i = first; i < first + m_columns.size(); ++i, ++pTuple)
+        if (isSum && m_columns[i - first].isAdded && holdsNumber(m_values[i].type))
+            pTuple->value().set(shownText(m_values[i], m_columns[i - first].pFormat));
+        else
+            pTuple->value().set(m_texts[i]);
+    SectionRelay::takeHeader({ *m_pShown, m_level, m_lines[line].pRow, {}, m_values.data() + first });
+    for (const VorBomDataRow* const pRow : m_lines[line].otherRows)
+        SectionRelay::takeMergedRow(*pRow);
+}
+
+// A sum of whole numbers is one, however large.
+VorString EqualLines::shownText(const VorBomTypedValue& value, const VorBomNumberFormat* pFormat) const
+{
+    constexpr double kMostInt = std::numeric_limits<int>::max();
+    if (pFormat != nullptr && value.type == VorBomDataValue::kIntData && std::fabs(value.number) <= kMostInt)
+        return pFormat->textOf(static_cast<int>(value.number));
+    if (pFormat != nullptr)
+        return pFormat->textOf(value.number);
+    if (value.type == VorBomDataValue::kIntData)
+        return VorString(std::to_wstring(static_cast<long long>(value.number)).c_str());
+    return m_units.getDisplayString(value.unitType, value.number);
+}
+
+std::size_t EqualLines::hashOf(std::size_t line) const
+{
+    const std::size_t first = line * m_columns.size();
+    std::size_t hash = 0;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        if (tellsApart(i, m_values[first + i]))
+            hash = hash * 31 + hashOfText(m_texts[first + i]);
+    return hash;
+}
+
+bool EqualLines::readAlike(std::size_t first, std::size_t second) const
+{
+    const std::size_t numColumns = m_columns.size();
+    for (std::size_t i = 0; i < numColumns; ++i)
+    {
+        const VorBomTypedValue& value = m_values[first * numColumns + i];
+        const VorBomTypedValue& other = m_values[second * numColumns + i];
+        if (m_columns[i].isAdded && holdsNumber(value.type) != holdsNumber(other.type))
+            return false;
+        if (tellsApart(i, value) && m_texts[first * numColumns + i] != m_texts[second * numColumns + i])
+            return false;
+    }
+    return true;
+}
+
+// Of what is merely added up a number does not, but whatever stands where there is none does.
+bool EqualLines::tellsApart(std::size_t column, const VorBomTypedValue& value) const
+{
+    return m_columns[column].mustReadAlike || !holdsNumber(value.type);
+}
+}

@@ -1,0 +1,26 @@
+// What has to be known of a report, beside its lines, to say what it is made of.
+//
+//   ListFacts facts;
+//   facts.numRowsRead = 417;
+//   facts.filtered.push_back({ "%Material = 'S355'", false, 12 });
+//   facts.rows = tally.counts();
+#pragma once
+
+#include "FilteredRows.h"
+#include "RowTally.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace mekbom
+{
+struct ListFacts
+{
+    int numRowsRead = 0;
+    std::vector<FilteredRows> filtered;
+    RowCounts rows;               // of those that no filter took
+    int numRowsInOtherLines = 0;  // listed ones that were counted into the line of another
+    bool areUnitsAssumed = false; // some length or weight came without a unit, and was read as mm or kg
+    std::size_t numWarnings = 0;
+};
+}

@@ -1,0 +1,115 @@
+#include "ListFoot.h"
+
+#include "InQuotes.h"
+#include "NumberText.h"
+#include "Utf8.h"
+
+#include "VorBomNumberFormat.h"
+
+#include "MekRoots/Exp/VorCharacters.h"
+
+namespace mekbom
+{
+namespace
+{
+using Units = VorBomTemplateUnits;
+
+const ReportColumn& columnOf(const TotalCount& total, const ReportLayout& layout)
+{
+    const std::vector<int>& columns = layout.section({ total.level, true }).columns;
+    return layout.columns()[static_cast<std::size_t>(columns[total.shownIndex])];
+}
+
+// What merged rows have taken out of a total, as the total itself is shown: "37.5 kg". Feet and inches, and degrees with
+// minutes, carry their marks with them and need no symbol behind them.
+std::string amountOf(const TotalCount& total, const ReportTemplate& reportTemplate, const ReportColumn& column)
+{
+    const VorBomItemBase* pHeader = reportTemplate.pTemplate->child();
+    for (int level = 0; level < total.level; ++level)
+        pHeader = pHeader->child();
+    const auto& footer = *static_cast<const VorBomTemplateItem*>(pHeader->next()); // children of sections are sections
+    const int tuple = reportTemplate.shownTuplesOf(footer)[total.shownIndex];
+    const VorBomNumberFormat* const pFormat = reportTemplate.pTemplate->numberFormat(footer, tuple);
+    if (total.isWhole || (pFormat == nullptr && column.pUnitKind == nullptr))
+        return numberText(total.lost);
+    const VorBomTemplateUnits& units = *reportTemplate.pTemplate->getBomTemplateUnits();
+    const std::string text = Utf8::toBytes(
+        pFormat != nullptr ? pFormat->textOf(total.lost)
+                           : units.getDisplayString(Units::unitTypeOf(column.pUnitKind->system), total.lost));
+    const bool needsSymbol = !text.empty() && VorCharacters::isDigit(text.back()) && !column.unitSymbol.empty();
+    return needsSymbol ? text + " " + column.unitSymbol : text;
+}
+
+std::string counted(std::size_t number, const std::string& thing)
+{
+    return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
+}
+
+std::string rowsText(int number)
+{
+    return counted(static_cast<std::size_t>(number), "row");
+}
+}
+
+ListFoot::ListFoot(const ListFacts& facts, const ReportTemplate& reportTemplate, const ReportLayout& layout)
+    : isKnown(true),
+      numRead(facts.numRowsRead),
+      filtered(facts.filtered),
+      numMerged(facts.rows.numMerged),
+      numLosing(facts.rows.numLosing),
+      numListed(facts.rows.numListed),
+      numLines(facts.rows.numListed - facts.numRowsInOtherLines),
+      areUnitsAssumed(facts.areUnitsAssumed),
+      numWarnings(facts.numWarnings)
+{
+    for (const TotalCount& total : facts.rows.totals)
+    {
+        const ReportColumn& column = columnOf(total, layout);
+        if (total.numRowsLost > 0)
+            losses.push_back({ column.label, amountOf(total, reportTemplate, column) });
+        if (total.isOutermost)
+            totals.push_back({ column.label, total.numRows });
+    }
+}
+
+std::vector<std::string> ListFoot::lines() const
+{
+    std::vector<std::string> all;
+    if (!isKnown)
+        return all;
+    all.push_back(rowsLine());
+    if (!losses.empty())
+        all.push_back("Merged rows are in no total: " + lossText());
+    for (const Total& total : totals)
+        if (total.numRows < numListed)
+            all.push_back(total.label + ": " + std::to_string(total.numRows) + " of " + rowsText(numListed));
+    if (areUnitsAssumed)
+        all.emplace_back("Lengths and weights without a unit were read as mm and kg");
+    if (numWarnings > 0)
+        all.push_back(counted(numWarnings, "warning"));
+    return all;
+}
+
+std::string ListFoot::lossText() const
+{
+    std::string text;
+    for (const Loss& loss : losses)
+        text += (text.empty() ? "" : ", ") + loss.label + " " + loss.amount;
+    return text;
+}
+
+// "417 rows read, 12 filtered out by \"%Name\", 5 merged into equal lines, 400 listed in 122 lines"
+std::string ListFoot::rowsLine() const
+{
+    std::string line = rowsText(numRead) + " read";
+    for (const FilteredRows& filter : filtered)
+        if (filter.numRows > 0)
+            line += ", " + std::to_string(filter.numRows) + " filtered out by " + inQuotes(filter.condition);
+    if (numMerged > 0)
+        line += ", " + std::to_string(numMerged) + " merged into equal lines";
+    line += ", " + std::to_string(numListed) + " listed";
+    if (numLines < numListed)
+        line += " in " + counted(static_cast<std::size_t>(numLines), "line");
+    return line;
+}
+}
