@@ -8,6 +8,7 @@
 #include "Addition.h"
 #include "InQuotes.h"
 #include "ListNumbers.h"
+#include "NumberInValue.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
@@ -15,21 +16,6 @@
 
 namespace mekbom
 {
-namespace
-{
-bool isNumber(const VorBomTypedValue& value)
-{
-    return value.type == VorBomDataValue::kIntData || value.type == VorBomDataValue::kDoubleData;
-}
-
-double numberIn(const VorBomDataValue& value)
-{
-    if (value.type() == VorBomDataValue::kIntData)
-        return *static_cast<const int*>(value.data());
-    return value.type() == VorBomDataValue::kDoubleData ? *static_cast<const double*>(value.data()) : 0;
-}
-}
-
 CellsInWords::CellsInWords(const ExplainedReport& report)
     : m_report(report), m_levels(*report.reportTemplate.pTemplate), m_data(report)
 {
@@ -75,7 +61,7 @@ std::string CellsInWords::inHeader(const Cell& cell, const RowList& rows) const
     const VorBomDataRow& row = **rows.begin();
     const VorString& token = cell.tupleInTemplate().token().token();
     const std::optional<double> ofRow = RowData::numberIn(row, token);
-    if (isNumber(cell.value) && ofRow && *ofRow != cell.value.number)
+    if (holdsNumber(cell.value.type) && ofRow && *ofRow != cell.value.number)
         return addedUp(cell, rows, token, 0);
     if (VorBomDataToken::isFormula(token) == 1)
         return computed(cell, row);
@@ -117,8 +103,8 @@ std::string CellsInWords::inFooter(const Cell& cell, const RowList& rows) const
 {
     VorString token = cell.tupleInTemplate().token().token();
     const bool isSum = cell.tupleInTemplate().token().getSummingRequest(token) == 1;
-    if (isSum && isNumber(cell.value))
-        return addedUp(cell, rows, token, numberIn(cell.tupleInTemplate().value()));
+    if (isSum && holdsNumber(cell.value.type))
+        return addedUp(cell, rows, token, numberIn(cell.tupleInTemplate().value()).value_or(0));
     if (cell.text.empty())
         return cell.column.label + ": no row counted has it\n";
     return cell.column.label + ": " + inQuotes(cell.text) + " of the last row counted that has it\n";

@@ -3,6 +3,7 @@
 #include "ColumnUnit.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
+#include "NumberInValue.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 #include "WordList.h"
@@ -17,11 +18,7 @@ namespace mekbom
 std::optional<double> RowData::numberIn(const VorBomDataRow& row, const VorString& token)
 {
     const VorBomDataTuple* const pTuple = row.getTupleAt(token);
-    if (pTuple != nullptr && pTuple->value().type() == VorBomDataValue::kIntData)
-        return *static_cast<const int*>(pTuple->value().data());
-    if (pTuple != nullptr && pTuple->value().type() == VorBomDataValue::kDoubleData)
-        return *static_cast<const double*>(pTuple->value().data());
-    return std::nullopt;
+    return pTuple != nullptr ? mekbom::numberIn(pTuple->value()) : std::nullopt;
 }
 
 std::string RowData::textOf(const VorBomDataRow& row, const VorString& token) const
