@@ -90,7 +90,7 @@ std::string CellsInWords::computed(const Cell& cell, const VorBomDataRow& row) c
     VorString formula = cell.tupleInTemplate().token().token();
     VorBomDataToken::removeFormulaPrefix(formula);
     const std::string what = cell.column.label + ": " + Utf8::toBytes(formula);
-    const std::string operands = m_data.operandsOf(row, formula);
+    const std::string operands = m_data.operandsOf(row, formula, cell.section);
     const std::string with = operands.empty() ? "" : ", with " + operands + ",";
     if (row.getTupleAt(cell.tupleInTemplate().token().token()) == nullptr)
         return what + with + " was not computed; " + inQuotes(cell.text) + " is the template's\n";

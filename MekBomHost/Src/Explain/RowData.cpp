@@ -23,21 +23,30 @@ std::optional<double> RowData::numberIn(const VorBomDataRow& row, const VorStrin
 
 std::string RowData::textOf(const VorBomDataRow& row, const VorString& token) const
 {
-    const VorBomDataTuple* const pTuple = row.getTupleAt(token);
+    return textOf(row.getTupleAt(token), token);
+}
+
+std::string RowData::textOf(const VorBomDataTuple* pTuple, const VorString& token) const
+{
     if (pTuple == nullptr)
         return "none";
     if (pTuple->value().type() == VorBomDataValue::kDoubleData)
-        return quantity(token, *numberIn(row, token));
+        return quantity(token, *mekbom::numberIn(pTuple->value()));
     const std::string text = Utf8::toBytes(pTuple->value().asString());
     return pTuple->value().type() == VorBomDataValue::kStringData ? inQuotes(text) : text;
 }
 
-std::string RowData::operandsOf(const VorBomDataRow& row, const VorString& formula) const
+std::string RowData::operandsOf(const VorBomDataRow& row, const VorString& formula,
+                                const VorBomTemplateItem& section) const
 {
     std::vector<std::string> operands;
     for (const VorString& token : VorBomDataToken::getTokensFromFormula(formula))
     {
-        const std::string operand = Utf8::toBytes(token) + " " + textOf(row, token);
+        const VorBomDataTuple* const pOfSection = section.getTupleAt(token);
+        const bool isTemplates = row.getTupleAt(token) == nullptr && pOfSection != nullptr;
+        const std::string operand =
+            Utf8::toBytes(token) + " " +
+            (isTemplates ? textOf(pOfSection, token) + " (the template's)" : textOf(row, token));
         if (std::find(operands.begin(), operands.end(), operand) == operands.end())
             operands.push_back(operand);
     }

@@ -10,6 +10,8 @@
 #include "ExplainedReport.h"
 
 #include "VorBomDataRow.h"
+#include "VorBomDataTuple.h"
+#include "VorBomTemplateItem.h"
 
 #include "MekRoots/Exp/VorString.h"
 
@@ -29,10 +31,12 @@ public:
 
     std::string textOf(const VorBomDataRow& row, const VorString& token) const;
 
-    // The data of a formula, each once:  "%Weight 260.61 kg and %Quantity 2"
-    std::string operandsOf(const VorBomDataRow& row, const VorString& formula) const;
+    // The data of a formula of `section`, each once:  "%Weight 260.61 kg and %Quantity 2". What the row lacks and the
+    // section shows, is the template's value:  "%Weight 0 kg (the template's)".
+    std::string operandsOf(const VorBomDataRow& row, const VorString& formula, const VorBomTemplateItem& section) const;
 
 private:
+    std::string textOf(const VorBomDataTuple* pTuple, const VorString& token) const;
     std::string quantity(const VorString& token, double number) const;
 
     const ExplainedReport& m_report;

@@ -45,7 +45,17 @@ TEST(CellsInWordsTest, WhatTheRowLacksIsTheTemplates)
                                "%Name,%Length\nB1,\nB2,3\n", "metric", { "MB505", "MB413" });
 
     EXPECT_EQ("Length: \"0\" is the template's, the row has none\n"
-              "Length*2: %Length*2, with %Length none, was not computed; \"0\" is the template's\n",
+              "%Length*2: %Length*2, with %Length 0 mm (the template's), is 0 mm\n",
+              CellsInWords(parts.explained()).ofHeader(parts.line(1)));
+}
+
+TEST(CellsInWordsTest, AFormulaWithoutItsDataIsNotComputed)
+{
+    const ExplainedParts parts(R"({ "sections": [ { "type": "kReportHeader", "children": [ { "type": "kDetails",
+      "tuples": [ { "token": "%Name" }, { "token": "%Formula:%Length*2", "value": 7.0 } ] } ] } ] })",
+                               "%Name,%Length\nB1,\nB2,3\n", "metric", { "MB106", "MB413" });
+
+    EXPECT_EQ("%Length*2: %Length*2, with %Length none, was not computed; \"7\" is the template's\n",
               CellsInWords(parts.explained()).ofHeader(parts.line(1)));
 }
 

@@ -58,7 +58,9 @@ double totalOf(const std::string& addition)
 // and where the words do not speak of rounding, to the last digit; and the total is one that the line shows.
 int checkAdditions(const ExplainedParts& parts)
 {
-    const double kHalfADigit = 0.005; // weights in lists have two decimals at most
+    const bool isMetric = parts.explained().units.getUnit(VorUnitsTransformArray::kWeight).unit() ==
+                          VorUnitsManager::metric().getUnit(VorUnitsTransformArray::kWeight).unit();
+    const double halfADigit = isMetric ? 0.005 : 0.05; // of kg with two decimals, of lb with one
     int numChecked = 0;
     ReportLines lines = parts.report().lines();
     ReportLine line;
@@ -68,7 +70,7 @@ int checkAdditions(const ExplainedParts& parts)
             const bool isRounded = addition.find("rounded") != std::string::npos;
             const auto numPlus = std::count(addition.begin(), addition.end(), '+');
             EXPECT_NEAR(totalOf(addition), sumOf(addition),
-                        isRounded ? kHalfADigit * static_cast<double>(numPlus + 2) : 1e-6)
+                        isRounded ? halfADigit * static_cast<double>(numPlus + 2) : 1e-6)
                 << addition;
             EXPECT_TRUE(std::any_of(line.texts.begin(), line.texts.end(),
                                     [&addition](const ShownText& text)

@@ -16,7 +16,8 @@ TEST(RowDataTest, DataReadWithTheirUnits)
     EXPECT_EQ("808.2 lb", data.textOf(row, L"%Weight"));
     EXPECT_EQ("1", data.textOf(row, L"%Quantity"));
     EXPECT_EQ("none", data.textOf(row, L"%Price"));
-    EXPECT_EQ("%Weight 808.2 lb and %Quantity 1", data.operandsOf(row, L"%Weight*%Quantity+%Weight"));
+    EXPECT_EQ("%Weight 808.2 lb and %Quantity 1",
+              data.operandsOf(row, L"%Weight*%Quantity+%Weight", VorBomTemplateItem()));
 }
 
 TEST(RowDataTest, TextsAreNoNumbers)

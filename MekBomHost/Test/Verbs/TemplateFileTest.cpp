@@ -23,6 +23,6 @@ TEST(TemplateFileTest, AWordThatIsNeitherAsksWhatWasMeant)
     const std::string fault = faultOf([] { TemplateFile::open("bolt-lst", "template"); });
 
     EXPECT_EQ(0U, fault.find("2 template: found \"bolt-lst\"")) << fault;
-    EXPECT_NE(std::string::npos, fault.find("bolt-list?")) << fault;
+    EXPECT_NE(std::string::npos, fault.find("did you mean \"bolt-list\"?")) << fault;
 }
 }
