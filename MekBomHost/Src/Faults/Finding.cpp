@@ -6,11 +6,15 @@
 //   source       begin  field             found        expected  remedy
 //   parts.csv  : 3    : column "Weight" : found "n/a", expected a number
 //
-// A statement takes the place of found and expected, a sentence that of all but the remedy.
+// A statement takes the place of found and expected, a sentence that of all but the remedy. A mistake of an author:
+//
+//   source       begin  severity code   statement                   remedy
+//   list.json  : 8:17 : error    MB105: the details show nothing  ; help: write "summary": true
 #include "Finding.h"
 
 #include "FindingCodes.h"
 #include "InQuotes.h"
+#include "MistakeCodes.h"
 
 #include <utility>
 
@@ -44,6 +48,20 @@ std::string contentOf(const Finding& finding)
         return finding.statement;
     return "found " + finding.found + (finding.expected.empty() ? "" : ", expected " + finding.expected);
 }
+
+// The built-in template has neither file nor line, and then nothing stands in front.
+std::string mistakeMessageOf(const Finding& finding)
+{
+    const std::string place = placeOf(finding);
+    return (place.empty() ? "" : place + ": ") + nameOf(finding.severity) + " " + finding.code + ": " +
+           contentOf(finding) + (finding.remedy.empty() ? "" : "; help: " + finding.remedy);
+}
+}
+
+const char* nameOf(Finding::eSeverity severity)
+{
+    static const char* const names[] = { "error", "warning", "note" }; // by their numbers
+    return names[severity];
 }
 
 Finding Finding::of(const FindingCode& code, std::string found, std::string expected)
@@ -82,6 +100,8 @@ std::string messageOf(const Finding& finding)
     const std::string remedy = finding.remedy.empty() ? "" : ": " + finding.remedy;
     if (!finding.sentence.empty())
         return finding.sentence + remedy;
+    if (MistakeCodes::has(finding.code))
+        return mistakeMessageOf(finding);
     std::string message;
     for (const std::string& part :
          { placeOf(finding), finding.path, finding.field.empty() ? "" : "column " + inQuotes(finding.field) })

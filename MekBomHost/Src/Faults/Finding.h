@@ -57,11 +57,17 @@ struct Finding
     std::string expected;  // "one from 1 to 200"; empty where it follows from what was found
     std::string statement; // "cannot be read: No such file or directory"
     std::string sentence;  // "parts.csv has no column for %Weight, which the template asks for"
-    std::string remedy;    // why, or what to do, where neither follows from what was expected
+    std::string remedy;    // why, or what to do, where neither follows from what was expected; of an author's mistake
+                           // how to write it right
 };
+
+// "error", "warning" or "note".
+const char* nameOf(Finding::eSeverity severity);
 
 // The finding in one line, as the program prints it:
 //   "list.json:12:34: /columns/0/width: found the number 500, expected one from 1 to 200"
-// Without the column of the text where a field says it better, and without the end.
+// Without the column of the text where a field says it better, and without the end. The mistakes of authors have their
+// code and severity in it, as compilers print theirs:
+//   "list.json:8:17: error MB105: the details show nothing ...; help: write \"summary\": true ..."
 std::string messageOf(const Finding& finding);
 }

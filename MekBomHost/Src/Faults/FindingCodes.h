@@ -85,12 +85,13 @@ inline constexpr FindingCode kNoQueryFilter = { "MB809", kError, "A text is no q
 inline constexpr FindingCode kNoSection = { "MB810", kError, "A template has no section." };
 inline constexpr FindingCode kColumnDescribedTwice = { "MB811", kError, "Two columns of a template show the same." };
 inline constexpr FindingCode kColumnNotShown = { "MB812", kError, "No printed section shows a column." };
-inline constexpr FindingCode kSectionNotEvaluated = { "MB813", kNote,
-                                                      "A section stands behind the header and footer of its level." };
-inline constexpr FindingCode kChildrenNotEvaluated = { "MB814", kNote, "A footer has sections below it." };
+// MB813 and MB814 are gone: MB102 and MB108 say the same.
 inline constexpr FindingCode kNestedTooDeep = { "MB815", kError, "Values stand within each other too deep." };
 inline constexpr FindingCode kColumnHasNoSuch = { "MB816", kError,
                                                   "A column says of its numbers what they do not have." };
+
+inline constexpr FindingCode kMistakeUnknown = { "MB817", kError,
+                                                 "What is to be excused is no code of an author's mistake." };
 
 // Options, settings, units, and files as such.
 inline constexpr FindingCode kFileUnreadable = { "MB901", kError, "A file cannot be read." };

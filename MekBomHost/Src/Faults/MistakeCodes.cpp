@@ -1,5 +1,7 @@
 #include "MistakeCodes.h"
 
+#include <algorithm>
+
 namespace mekbom::MistakeCodes
 {
 const std::vector<FindingCode>& all()
@@ -73,5 +75,11 @@ const std::vector<FindingCode>& all()
         kHandleNotUnique,
     };
     return codes;
+}
+
+bool has(std::string_view code)
+{
+    const std::vector<FindingCode>& codes = all();
+    return std::any_of(codes.begin(), codes.end(), [code](const FindingCode& mistake) { return code == mistake.name; });
 }
 }

@@ -60,7 +60,7 @@ inline constexpr FindingCode kGroupingByFloat = { "MB209", Finding::kWarning,
 inline constexpr FindingCode kPlainOrder = { "MB210", Finding::kNote, "A token is sorted as plain text, 10 before 2." };
 inline constexpr FindingCode kSortingByUnknown = { "MB211", Finding::kWarning,
                                                    "A list is sorted by a token that the catalogue does not know." };
-inline constexpr FindingCode kMarksNearlyEqual = { "MB212", Finding::kWarning, "Marks differ by leading zeros alone." };
+inline constexpr FindingCode kMarksNearlyEqual = { "MB212", Finding::kNote, "Marks differ by leading zeros alone." };
 inline constexpr FindingCode kGroupedTwice = { "MB213", Finding::kWarning,
                                                "Two levels are grouped by the same token." };
 inline constexpr FindingCode kFilterWithoutEffect = { "MB214", Finding::kWarning,
@@ -158,4 +158,9 @@ inline constexpr FindingCode kHandleNotUnique = { "MB606", Finding::kWarning,
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();
+
+// Whether a code is one of MB1xx to MB6xx: those findings can be excused, and are printed in a form of their own.
+//   MistakeCodes::has("MB105")   ->  true
+//   MistakeCodes::has("MB805")   ->  false
+bool has(std::string_view code);
 }

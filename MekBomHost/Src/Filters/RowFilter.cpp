@@ -11,6 +11,7 @@
 #include "InQuotes.h"
 #include "InputUnits.h"
 #include "NumberReader.h"
+#include "UnitKinds.h"
 #include "Utf8.h"
 
 #include "VorBomTokenCatalogue.h"
@@ -27,9 +28,10 @@ namespace
 using Units = VorBomTemplateUnits;
 
 // Whether numbers of that kind mean the model's unit when they name none: nobody means mm2 or kg/mm.
-bool hasUsualUnit(Units::eTokenUnitType kind)
+bool meansModelUnit(Units::eTokenUnitType kind)
 {
-    return kind == Units::kDistanceUnit || kind == Units::kWeightUnit || kind == Units::kAngleUnit;
+    const UnitKind* const pKind = UnitKinds::find(kind);
+    return pKind == nullptr || *pKind->usualUnit == 0;
 }
 
 VorBomDataValue::eBomDataValueType typeInCatalogue(const VorString& token)
@@ -44,7 +46,7 @@ bool readNumber(const RowCondition& condition, Units::eTokenUnitType kind, doubl
     const std::optional<MEKUnit> unit = InputUnits::ofModel(kind);
     double plain = 0;
     const bool isPlain = NumberReader::read(condition.operand, plain);
-    if (isPlain && (!unit || hasUsualUnit(kind)))
+    if (isPlain && meansModelUnit(kind))
     {
         number = plain;
         return true;
@@ -57,7 +59,7 @@ std::string numberExpected(const RowCondition& condition, Units::eTokenUnitType 
     const std::string token = Utf8::toBytes(condition.token);
     if (!InputUnits::ofModel(kind))
         return "a number, which is what " + token + " is";
-    return std::string(hasUsualUnit(kind) ? "a number with or without " : "a number with ") +
+    return std::string(meansModelUnit(kind) ? "a number with or without " : "a number with ") +
            InputUnits::expectation(kind) + " for " + token;
 }
 

@@ -140,6 +140,15 @@ PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector
     return facts;
 }
 
+bool PartsList::assumesUnits() const
+{
+    return std::any_of(m_columns.begin(), m_columns.end(),
+                       [](const InputColumn& column) {
+                           return column.isWanted && column.quantities && column.unitSymbol.empty() &&
+                                  column.lackingUnit.empty();
+                       });
+}
+
 void PartsList::readHeader()
 {
     const Record* const pHeader = m_source.next();

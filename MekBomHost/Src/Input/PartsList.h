@@ -67,6 +67,9 @@ public:
     // What readRows() has found. None of it is an error.
     const std::vector<Finding>& findings() const { return m_findings; }
 
+    // Whether a column of lengths or the like, which rows were read with, names no unit: its numbers are the model's.
+    bool assumesUnits() const;
+
 private:
     void readHeader();
     [[noreturn]] void failWithoutHeader() const;

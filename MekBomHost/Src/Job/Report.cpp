@@ -61,14 +61,12 @@ std::vector<VorString> Report::filterTokens() const
     return tokens;
 }
 
-std::vector<Finding> Report::numberErrors() const
+std::vector<Finding> Report::columnErrors() const
 {
     const FormulaResults formulas(m_template);
     const TokenQuantities quantities(*m_template.pTemplate->getBomData(), *m_template.pTemplate->getBomTemplateUnits(),
                                      formulas);
-    std::vector<Finding> findings = formulas.undeclared();
-    for (const Finding& finding : ColumnCheck::errorsOf(m_template, ReportLayout(m_template, m_units), quantities))
-        findings.push_back(finding);
+    std::vector<Finding> findings = ColumnCheck::errorsOf(m_template, ReportLayout(m_template, m_units), quantities);
     for (Finding& finding : findings)
         finding.source = m_template.fileName;
     return findings;
@@ -78,10 +76,8 @@ std::vector<Finding> Report::numberErrors() const
 // are written and texts are sorted, so that this waits for them, too.
 void Report::evaluate()
 {
-    if (m_sections.contents().rows)
-        m_rowNumbers = RowNumbers(*engineTemplate().getBomData());
-    m_facts.numRowsRead = numRowsOf(*engineTemplate().getBomData());
-    filter();
+    if (!m_isFiltered)
+        filter();
     prepareNumbers();
     evaluateRows();
     if (m_checksTotals)
@@ -150,8 +146,12 @@ void Report::failInFilter(Finding finding, bool isFromTemplate) const
 
 void Report::filter()
 {
+    if (m_sections.contents().rows)
+        m_rowNumbers = RowNumbers(*engineTemplate().getBomData());
+    m_facts.numRowsRead = numRowsOf(*engineTemplate().getBomData());
     apply(m_template.queryFilter, true);
     apply(m_where, false);
+    m_isFiltered = true;
 }
 
 void Report::apply(RowFilter& filter, bool isFromTemplate)

@@ -53,7 +53,7 @@ public:
     // What is wrong with what the template says of numbers: formulas whose result nobody can tell, units that do not
     // measure what their columns show. All are errors; a report that is evaluated all the same shows such numbers
     // without a unit, or in that of the list. To be called before evaluate().
-    std::vector<Finding> numberErrors() const;
+    std::vector<Finding> columnErrors() const;
 
     // The tokens that rows are left out by, which rows must be read with: a datum that was not kept would be taken for
     // one that is not there.
@@ -63,14 +63,14 @@ public:
     [[noreturn]] void failInFilter(Finding finding, bool isFromTemplate) const;
 
     // Leaves out the rows that the list is not about. Throws a Fault for a filter that compares a datum with what it
-    // cannot be compared with.
+    // cannot be compared with. To be called once; evaluate() does it where nobody has.
     void filter();
 
     // Has evaluate() add up every total a second time, from the rows, and see where each row has gone.
     void checkTotals() { m_checksTotals = true; }
 
-    // Filters, then evaluates. To be called once. Throws std::runtime_error when totals are checked and one is wrong, or
-    // a row has gone nowhere.
+    // Filters, unless that has been done, then evaluates. To be called once. Throws std::runtime_error when totals are
+    // checked and one is wrong, or a row has gone nowhere.
     void evaluate();
 
     // What became of the rows, for the foot of the list; evaluate() counts them. Who knows more of them says it here.
@@ -90,6 +90,7 @@ private:
     DisplaySettings m_settings;
     ReportTemplate m_template;
     std::unique_ptr<NumberFormats> m_pFormats; // that the template refers to, once it is evaluated
+    bool m_isFiltered = false;
     RowFilter m_where;
     RowNumbers m_rowNumbers;
     PackedSections m_sections; // of the evaluated report

@@ -4,7 +4,9 @@
 //   template                         without one named, the candidate that suits these columns best; if none does, one
 //                                    that shows the columns as they are
 //   settings, units, Report          the template's tokens get their kinds of quantity
+//   mistakes of the template         what it uses may be known from the catalogue, from itself or from the data
 //   records                          are read in these kinds, and only the data that the template asks for
+//   mistakes that the rows show      once those are left out that the list is not about
 //   evaluation                       only now is it known how many rows were merged, and what left the totals
 #include "ReportJob.h"
 
@@ -14,12 +16,15 @@
 #include "CsvReader.h"
 #include "DataTokens.h"
 #include "DisplaySettings.h"
+#include "Excuses.h"
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "Guard.h"
 #include "InQuotes.h"
 #include "MistakeCodes.h"
 #include "NamedText.h"
+#include "RowsCheck.h"
+#include "TemplateCheck.h"
 #include "TemplateChoice.h"
 #include "TemplateReader.h"
 #include "UnitChoice.h"
@@ -97,23 +102,100 @@ ExitStatus ReportJob::run()
     return runGuarded(m_findings, [this] { return makeReport(); });
 }
 
+ExitStatus ReportJob::check()
+{
+    m_isCheckOnly = true;
+    return runGuarded(m_findings, [this] { return checkReport(); });
+}
+
 ExitStatus ReportJob::makeReport()
 {
-    openParts();
-    ReportTemplate reportTemplate = readTemplate();
-    for (const Finding& finding : reportTemplate.findings)
-        m_findings.add(finding);
-    const DisplaySettings settings = settingsOf(m_request, m_findings);
-    m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
-    refuseWrongNumbers();
-    addFilter();
+    prepareReport();
+    checkTemplate();
     readRows();
+    checkRows();
+    if (m_findings.numErrors() > 0)
+        return statusOfErrors();
     if (m_request.checksTotals)
         m_pReport->checkTotals();
     m_pReport->evaluate();
-    refuseLostTotals();
+    checkLostTotals();
     m_pReport->facts().numWarnings = m_findings.numWarnings();
-    return kDone;
+    return m_findings.numErrors() > 0 ? kMistakes : kDone;
+}
+
+// Rows are evaluated only where nothing is wrong until then: that totals lose rows is not known before.
+ExitStatus ReportJob::checkReport()
+{
+    prepareReport();
+    checkTemplate();
+    if (hasRows())
+    {
+        readRows();
+        checkRows();
+    }
+    if (hasRows() && m_findings.numErrors() == 0)
+    {
+        m_pReport->evaluate();
+        checkLostTotals();
+    }
+    return m_findings.numErrors() > 0 ? statusOfErrors() : kDone;
+}
+
+// What only the author of the list can mend is another thing than a file that cannot be read.
+ExitStatus ReportJob::statusOfErrors() const
+{
+    for (const Finding& finding : m_findings.all())
+        if (finding.severity == Finding::kError && !MistakeCodes::has(finding.code))
+            return kInvalidInput;
+    return kMistakes;
+}
+
+void ReportJob::prepareReport()
+{
+    openParts();
+    ReportTemplate reportTemplate = readTemplate();
+    const DisplaySettings settings = settingsOf(m_request, m_findings);
+    m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
+    addFilter();
+}
+
+// A report without a parts list is made of the sample rows.
+bool ReportJob::hasRows() const
+{
+    return m_pParts != nullptr || !m_isCheckOnly;
+}
+
+// The sample rows show how the engine can be used: their tokens have no percent sign, on purpose.
+KnownTokens ReportJob::knownTokens() const
+{
+    std::vector<std::string> dataTokens;
+    if (m_pParts == nullptr && hasRows())
+        dataTokens = { "PosNum", "Weight", "Material" };
+    if (m_pParts != nullptr)
+        for (const InputColumn& column : m_pParts->columns())
+            dataTokens.push_back(column.token);
+    return { m_pReport->reportTemplate(), dataTokens };
+}
+
+void ReportJob::checkTemplate()
+{
+    takeMistakes(TemplateCheck::run(m_pReport->reportTemplate(), knownTokens(), hasRows()));
+    takeMistakes(m_pReport->columnErrors());
+}
+
+void ReportJob::checkRows()
+{
+    m_pReport->filter();
+    takeMistakes(RowsCheck::run(m_pReport->reportTemplate(), knownTokens(), *m_pReport->engineTemplate().getBomData()));
+}
+
+void ReportJob::takeMistakes(const std::vector<Finding>& mistakes)
+{
+    const Excuses excuses(m_pReport->reportTemplate().allowed, m_request.allowed);
+    for (const Finding& mistake : excuses.without(mistakes))
+        if (m_isCheckOnly || mistake.severity != Finding::kNote)
+            m_findings.add(mistake);
 }
 
 void ReportJob::openParts()
@@ -143,6 +225,7 @@ ReportTemplate ReportJob::readTemplate()
     ReportTemplate reportTemplate;
     reportTemplate.pTemplate.reset(VorBomTemplate::createDefaultTemplate());
     reportTemplate.equalLines = kMergeEqualLines; // its lists stay what they have always been
+    reportTemplate.allowed = excusesOfBuiltInTemplate();
     return reportTemplate;
 }
 
@@ -168,20 +251,6 @@ ReportTemplate ReportJob::readColumnsTemplate()
 }
 
 // Before rows are read: a template that is wrong is wrong for all of them.
-void ReportJob::refuseWrongNumbers()
-{
-    std::vector<Finding> errors = m_pReport->numberErrors();
-    const auto isAllowed = [this](const Finding& finding)
-    {
-        const std::vector<std::string>& codes = m_request.allowed;
-        return std::find(codes.begin(), codes.end(), finding.code) != codes.end() ||
-               m_pReport->reportTemplate().allowed.count(finding.code) > 0;
-    };
-    errors.erase(std::remove_if(errors.begin(), errors.end(), isAllowed), errors.end());
-    if (!errors.empty())
-        throw Fault(kInvalidInput, errors, errors.size());
-}
-
 void ReportJob::readRows()
 {
     if (m_pParts == nullptr)
@@ -189,9 +258,12 @@ void ReportJob::readRows()
     noteMissingColumns();
     checkFilterTokens();
     m_pParts->setOwnTokens(m_pReport->reportTemplate().ownTokens);
-    m_partsFacts = m_pParts->readRows(m_pReport->engineTemplate(), m_pReport->filterTokens());
-    for (const Finding& finding : m_pParts->findings())
-        m_findings.add(finding);
+    std::vector<VorString> otherTokens = m_pReport->filterTokens();
+    for (const VorString& token : RowsCheck::neededTokens(m_pReport->reportTemplate(), knownTokens()))
+        otherTokens.push_back(token);
+    m_partsFacts = m_pParts->readRows(m_pReport->engineTemplate(), otherTokens);
+    m_pReport->facts().areUnitsAssumed = m_pParts->assumesUnits();
+    takeMistakes(m_pParts->findings());
 }
 
 void ReportJob::addFilter()
@@ -239,21 +311,15 @@ void ReportJob::noteMissingColumns()
 }
 
 // Whoever says what is to become of equal lines gets that; who has not thought of it must not lose a weight by it.
-void ReportJob::refuseLostTotals() const
+void ReportJob::checkLostTotals()
 {
     const ListFoot foot = m_pReport->evaluated().foot();
     const ReportTemplate& reportTemplate = m_pReport->reportTemplate();
-    if (reportTemplate.equalLines != kEqualLinesOpen || foot.losses.empty() || isAllowed(MistakeCodes::kTotalsLoseRows))
+    if (reportTemplate.equalLines != kEqualLinesOpen || foot.losses.empty())
         return;
     Finding finding = Finding::stating(MistakeCodes::kTotalsLoseRows, lossIn(foot));
     finding.remedy = "say \"equalLines\": \"count\" for one line with the pieces and totals of all, \"keep\" for a "
                      "line each, or \"merge\" to leave these rows out";
-    throw Fault(kMistakes, inDetails(finding, reportTemplate));
-}
-
-bool ReportJob::isAllowed(const FindingCode& code) const
-{
-    return m_pReport->reportTemplate().allowed.count(code.name) > 0 ||
-           std::find(m_request.allowed.begin(), m_request.allowed.end(), code.name) != m_request.allowed.end();
+    takeMistakes({ inDetails(finding, reportTemplate) });
 }
 }

@@ -12,6 +12,7 @@
 
 #include "ExitStatus.h"
 #include "FindingList.h"
+#include "KnownTokens.h"
 #include "PartsFacts.h"
 #include "PartsList.h"
 #include "RecordSource.h"
@@ -31,8 +32,15 @@ public:
     explicit ReportJob(ReportRequest request);
 
     // Makes the report. Throws nothing: returns kDone when there is one, and otherwise what kind of mistake kept it
-    // from being made, with at least one error among the findings. To be called once.
+    // from being made, with at least one error among the findings. To be called once, or else check().
+    //
+    // Mistakes of the template's author that nobody excuses are among the findings: kMistakes where one is an error.
+    // Those that are only worth knowing are left to check().
     ExitStatus run();
+
+    // Looks for mistakes without making a report. Reads the rows only where the request has a parts list. Otherwise as
+    // run(), and tells of everything.
+    ExitStatus check();
 
     // What was found until now. Findings that are no errors may stand beside a report.
     const FindingList& findings() const { return m_findings; }
@@ -50,21 +58,28 @@ public:
 
 private:
     ExitStatus makeReport();
+    ExitStatus checkReport();
+    ExitStatus statusOfErrors() const;
+    void prepareReport();
+    bool hasRows() const;
+    KnownTokens knownTokens() const;
+    void checkTemplate();
+    void checkRows();
+    void takeMistakes(const std::vector<Finding>& mistakes);
     void openParts();
     ReportTemplate readTemplate();
     ReportTemplate readSuitableTemplate();
     ReportTemplate readColumnsTemplate();
-    void refuseWrongNumbers();
     void addFilter();
     void readRows();
     void checkFilterTokens() const;
     void takeSampleRows();
     void noteMissingColumns();
-    void refuseLostTotals() const;
-    bool isAllowed(const FindingCode& code) const;
+    void checkLostTotals();
 
     ReportRequest m_request;
     FindingList m_findings;
+    bool m_isCheckOnly = false;               // no report is made, and so all mistakes are told, notes included
     std::unique_ptr<RecordSource> m_pRecords; // null for the sample rows, as m_pParts is
     std::unique_ptr<PartsList> m_pParts;
     PartsFacts m_partsFacts;

@@ -24,17 +24,6 @@ VorString formulaOf(const VorString& token)
     return VorBomDataToken::removeFormulaPrefix(formula) == 1 ? formula : VorString();
 }
 
-// What a token of the user's own is, the template says; a number, when it says nothing.
-FormulaOperand operandOf(const ReportTemplate& reportTemplate, const VorString& name)
-{
-    const FormulaOperand known = FormulaOperand::ofCatalogue(name, *reportTemplate.pTemplate->getBomTemplateUnits());
-    if (known.meaning != FormulaOperand::kUnknown || VorBomDataToken::isToken(name) == 0)
-        return known;
-    const auto own = reportTemplate.ownTokens.find(Utf8::toBytes(name));
-    const bool isText = own != reportTemplate.ownTokens.end() && own->second == kOwnText;
-    return { isText ? FormulaOperand::kText : FormulaOperand::kOwnUnit, VorBomTemplateUnits::kNoUnit };
-}
-
 FormulaResult ofType(VorBomTemplateUnits::eTokenUnitType type)
 {
     FormulaResult result;
@@ -90,12 +79,18 @@ void FormulaResults::add(const ReportTemplate& reportTemplate, const VorString& 
             { formula, ofType(reportTemplate.pTemplate->getBomTemplateUnits()->getUnitType(formula)), place });
         return;
     }
-    const auto declared = m_declared.find(name);
     const auto operands = [&reportTemplate](const VorString& operand) { return operandOf(reportTemplate, operand); };
-    m_entries.push_back(
-        { formula,
-          FormulaResult::of(formula, operands, declared == m_declared.end() ? std::string() : declared->second),
-          place });
+    m_entries.push_back({ formula, FormulaResult::of(formula, operands, declaredFor(name)), place });
+}
+
+FormulaOperand FormulaResults::operandOf(const ReportTemplate& reportTemplate, const VorString& name)
+{
+    const FormulaOperand known = FormulaOperand::ofCatalogue(name, *reportTemplate.pTemplate->getBomTemplateUnits());
+    if (known.meaning != FormulaOperand::kUnknown || VorBomDataToken::isToken(name) == 0)
+        return known;
+    const auto own = reportTemplate.ownTokens.find(Utf8::toBytes(name));
+    const bool isText = own != reportTemplate.ownTokens.end() && own->second == kOwnText;
+    return { isText ? FormulaOperand::kText : FormulaOperand::kOwnUnit, VorBomTemplateUnits::kNoUnit };
 }
 
 const FormulaResult* FormulaResults::find(const VorString& token) const
@@ -103,6 +98,12 @@ const FormulaResult* FormulaResults::find(const VorString& token) const
     const VorString formula = formulaOf(token);
     const auto* const pNode = formula.isEmpty() == 1 ? nullptr : m_indices.find(formula);
     return pNode == nullptr ? nullptr : &m_entries[static_cast<std::size_t>(pNode->value)].result;
+}
+
+std::string FormulaResults::declaredFor(const std::string& formula) const
+{
+    const auto declared = m_declared.find(formula);
+    return declared == m_declared.end() ? std::string() : declared->second;
 }
 
 void FormulaResults::registerWith(VorBomTemplateUnits& units) const

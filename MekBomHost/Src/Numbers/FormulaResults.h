@@ -31,8 +31,15 @@ public:
     // The kinds of the template's tokens must be registered. The template is not looked at later.
     explicit FormulaResults(const ReportTemplate& reportTemplate);
 
+    // What a name in a formula of the template stands for. A token of the user's own is what the template says; a number,
+    // when it says nothing.
+    static FormulaOperand operandOf(const ReportTemplate& reportTemplate, const VorString& name);
+
     // Of "%Formula:..." or its total; null for any other token and for a formula that the template has not.
     const FormulaResult* find(const VorString& token) const;
+
+    // What a column says that the formula gives, by the text without prefixes; empty where none does.
+    std::string declaredFor(const std::string& formula) const;
 
     // Tells the engine, so that it shows each formula in the unit of its kind, or without any. A formula whose measure
     // nobody says is one without.

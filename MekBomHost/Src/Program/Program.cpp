@@ -4,6 +4,7 @@
 #include "Commands.h"
 #include "Fault.h"
 #include "Guard.h"
+#include "MistakeCodes.h"
 #include "ReportVerb.h"
 #include "StandardOutput.h"
 
@@ -47,26 +48,40 @@ void printMessage(const std::string& message)
     std::fputs(("mekbom: " + message + "\n").c_str(), stderr);
 }
 
+// What an author did wrong in a list is to be mended in one go, so all of it is printed, and whatever its severity: a
+// warning may tell why there is an error. Nothing stands in front of the place, which editors jump to.
+void printMistakes(const FindingList& findings)
+{
+    for (const Finding& finding : findings.all())
+        if (MistakeCodes::has(finding.code))
+            std::fputs((messageOf(finding) + "\n").c_str(), stderr);
+}
+
 void printErrors(const FindingList& findings)
 {
     std::size_t numShown = 0;
+    std::size_t numMistakes = 0;
     for (const Finding& finding : findings.all())
-        if (finding.severity == Finding::kError && numShown < Program::kMostErrorsShown)
+        if (finding.severity == Finding::kError && MistakeCodes::has(finding.code))
+            ++numMistakes;
+        else if (finding.severity == Finding::kError && numShown < Program::kMostErrorsShown)
         {
             printMessage(messageOf(finding));
             ++numShown;
         }
-    if (findings.numErrors() > numShown)
-        printMessage("and " + std::to_string(findings.numErrors() - numShown) + " more faults");
+    if (findings.numErrors() > numMistakes + numShown)
+        printMessage("and " + std::to_string(findings.numErrors() - numMistakes - numShown) + " more faults");
 }
 
-// Warnings and notes are about a report, and where there is an error there is none.
+// Other warnings and notes are about a report, and where there is an error there is none.
 void printFindings(const FindingList& findings)
 {
+    printMistakes(findings);
     if (findings.numErrors() > 0)
         return printErrors(findings);
     for (const Finding& finding : findings.all())
-        printMessage((finding.severity == Finding::kNote ? "note: " : "warning: ") + messageOf(finding));
+        if (!MistakeCodes::has(finding.code))
+            printMessage(nameOf(finding.severity) + std::string(": ") + messageOf(finding));
 }
 }
 

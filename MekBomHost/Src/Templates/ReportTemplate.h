@@ -9,8 +9,8 @@
 // long as the sections that the file gave stay where they are.
 #pragma once
 
-#include "Finding.h"
 #include "RowFilter.h"
+#include "TextPlace.h"
 
 #include "VorBomTemplate.h"
 #include "VorBomTemplateItem.h"
@@ -104,8 +104,6 @@ struct ReportTemplate
     std::map<std::string, eOwnToken> ownTokens; // what the template says of tokens that the catalogue does not know
     std::map<std::string, TemplatePlace> tokenUnitPlaces; // of the entries of "tokenUnits"
     std::unordered_map<const VorBomItemBase*, SectionStyle> sectionStyles;
-
-    std::vector<Finding> findings; // what the file says to no effect; none of them is an error
 
     // The style of a section of pTemplate; the usual one for a section without.
     const SectionStyle& styleOf(const VorBomItemBase* pSection) const;

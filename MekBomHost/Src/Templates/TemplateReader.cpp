@@ -7,6 +7,7 @@
 #include "FindingCodes.h"
 #include "InQuotes.h"
 #include "JsonReader.h"
+#include "MistakeCodes.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 
@@ -51,7 +52,6 @@ const Named<eOwnToken> kOwnTokens[] = { { "number", kOwnNumber }, { "text", kOwn
 
 const int kLeastInt = std::numeric_limits<int>::min();
 const int kGreatestInt = std::numeric_limits<int>::max();
-const std::size_t kNumUsedSiblings = 2;
 const int kMostDecimals = 15;  // a double has no more
 const int kWidestColumn = 200; // arbitrary: wider than any terminal line that one would read
 
@@ -101,7 +101,6 @@ ReportTemplate TemplateReader::build(const JsonNode& root)
     summarize();
     checkColumns(item);
     m_json.throwIfAnyError();
-    m_template.findings = m_json.findings();
     return std::move(m_template);
 }
 
@@ -148,7 +147,13 @@ void TemplateReader::readAllowed(const JsonItem& root)
     if (pAllowed == nullptr || !m_json.isOfKind({ *pAllowed, "/allow" }, JsonNode::kObject))
         return;
     for (const JsonNode& member : pAllowed->children)
+    {
         m_template.allowed[member.key] = m_json.requiredTextOf({ *pAllowed, "/allow" }, member.key);
+        if (!MistakeCodes::has(member.key))
+            m_json.add({ member, "/allow/" + member.key },
+                       Finding::of(FindingCodes::kMistakeUnknown, inQuotes(member.key),
+                                   "the code of a mistake, such as \"MB105\""));
+    }
 }
 
 void TemplateReader::readColumns(const JsonItem& root)
@@ -184,26 +189,9 @@ void TemplateReader::readColumn(const JsonItem& column)
 // Goes down as deep as the sections are nested, which JsonReader::kDeepest bounds.
 void TemplateReader::readSections(const JsonItem& parent, const std::string& key, VorBomItemBase& parentItem)
 {
-    const std::vector<JsonItem> sections = m_json.elementsOf(parent, key);
-    for (const JsonItem& section : sections)
+    for (const JsonItem& section : m_json.elementsOf(parent, key))
         if (m_json.isObjectOf(section, { "type", "print", "label", "summary", "tuples", "children" }))
             readSection(section, parentItem);
-    noteUnused(sections);
-}
-
-// Of siblings the first is a level's header and the second its footer, which has no levels below it.
-void TemplateReader::noteUnused(const std::vector<JsonItem>& siblings)
-{
-    for (std::size_t i = kNumUsedSiblings; i < siblings.size(); ++i)
-        m_json.add(siblings[i],
-                   Finding::stating(FindingCodes::kSectionNotEvaluated,
-                                    "is not evaluated: the first two sections of a level are its header and footer"));
-    if (siblings.size() < kNumUsedSiblings)
-        return;
-    const JsonItem& footer = siblings[1];
-    if (const JsonNode* const pChildren = footer.node.find("children"))
-        m_json.add({ *pChildren, footer.path + "/children" },
-                   Finding::stating(FindingCodes::kChildrenNotEvaluated, "are not evaluated: the section is a footer"));
 }
 
 void TemplateReader::readSection(const JsonItem& section, VorBomItemBase& parentItem)
@@ -275,22 +263,25 @@ void TemplateReader::hide(const VorBomItemBase* pSection)
 // Called only when all else is right: then each element of the array has its style at the same index.
 void TemplateReader::checkColumns(const JsonItem& root)
 {
+    const std::unordered_set<std::string> shown = shownColumns();
     const std::vector<JsonItem> columns = m_json.elementsOf(root, "columns");
     for (std::size_t i = 0; i < columns.size() && i < m_template.columns.size(); ++i)
-        if (!isShown(m_template.columns[i].token))
+    {
+        const std::string token = Utf8::toBytes(m_template.columns[i].token);
+        if (shown.count(token) == 0)
             m_json.add(columns[i], Finding::of(FindingCodes::kColumnNotShown,
-                                               "column " + inQuotes(Utf8::toBytes(m_template.columns[i].token)) +
-                                                   ", which no printed section shows"));
+                                               "column " + inQuotes(token) + ", which no printed section shows"));
+    }
 }
 
 // A column is shown by the tuples that columnTokenOf() gives it, not by those that have its token: "%Weight" may hold
 // nothing but totals.
-bool TemplateReader::isShown(const VorString& columnToken) const
+std::unordered_set<std::string> TemplateReader::shownColumns() const
 {
+    std::unordered_set<std::string> shown;
     for (const auto& [pSection, style] : m_template.sectionStyles)
         for (int i = 0; style.isPrinted && i < pSection->getData().length(); ++i)
-            if (m_template.columnTokenOf(*pSection, i) == columnToken)
-                return true;
-    return false;
+            shown.insert(Utf8::toBytes(m_template.columnTokenOf(*pSection, i)));
+    return shown;
 }
 }

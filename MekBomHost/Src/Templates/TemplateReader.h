@@ -8,8 +8,8 @@
 // what the program alone knows: a title, columns with their labels and widths, the label of a section. Types have the
 // names that the engine's enumerators have.
 //
-// Every mistake is a finding of its own, and unknown keys are mistakes. What is no mistake but has no effect, such as a
-// third section in a level, is a note.
+// Everything that is wrong is a finding of its own, and unknown keys are wrong. Whether the engine makes of the template
+// what its author means is not asked here: that is what the room Checks is for.
 #pragma once
 
 #include "JsonChecker.h"
@@ -18,6 +18,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace mekbom
@@ -25,7 +26,7 @@ namespace mekbom
 class TemplateReader
 {
 public:
-    // The template, with the notes among its findings; neither text is needed afterwards. `name` is the file's, for
+    // The template; neither text is needed afterwards. `name` is the file's, for
     // findings. Throws a Fault of status kInvalidInput with a finding for each mistake:
     //   "list.json:12:15: /sections/0/tuples/1/token: found the number 5, expected a text"
     static ReportTemplate read(const std::string& name, std::string_view text);
@@ -43,11 +44,10 @@ private:
     void readSections(const JsonItem& parent, const std::string& key, VorBomItemBase& parentItem);
     void readSection(const JsonItem& section, VorBomItemBase& parentItem);
     void readTuple(const JsonItem& tuple, VorBomItemBase& sectionItem, SectionStyle& style);
-    void noteUnused(const std::vector<JsonItem>& siblings);
     void summarize();
     void hide(const VorBomItemBase* pSection);
     void checkColumns(const JsonItem& root);
-    bool isShown(const VorString& columnToken) const;
+    std::unordered_set<std::string> shownColumns() const;
 
     JsonChecker m_json;
     ReportTemplate m_template;

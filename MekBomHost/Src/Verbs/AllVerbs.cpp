@@ -1,5 +1,6 @@
 #include "AllVerbs.h"
 
+#include "CheckVerb.h"
 #include "DemoVerb.h"
 #include "ExplainVerb.h"
 #include "FormulaVerb.h"
@@ -18,6 +19,7 @@ VerbList allVerbs()
     VerbList verbs;
     verbs.add(std::make_unique<ReportVerb>());
     verbs.add(std::make_unique<DemoVerb>());
+    verbs.add(std::make_unique<CheckVerb>());
     verbs.add(std::make_unique<NewListVerb>());
     verbs.add(std::make_unique<ExplainVerb>());
     verbs.add(std::make_unique<FormulaVerb>());

@@ -87,6 +87,7 @@ Examples
 
 Exit status
    0  done
+   1  mistakes in the template, or in what the data make of it; see mekbom check --help
    2  wrong usage
    3  input unreadable or invalid
    4  output not written; what stood there before still does

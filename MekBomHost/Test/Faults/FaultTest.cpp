@@ -12,7 +12,7 @@ namespace mekbom
 namespace
 {
 const std::vector<Finding> kFindings = {
-    Finding::stating(FindingCodes::kSectionNotEvaluated, "is not evaluated"),
+    Finding::saying(FindingCodes::kColumnMissing, "no column"),
     Finding::of(FindingCodes::kNoSection, "no section"),
     Finding::of(FindingCodes::kKeyMissing, "no key"),
 };

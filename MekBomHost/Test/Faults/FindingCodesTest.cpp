@@ -41,8 +41,9 @@ TEST(FindingCodesTest, NumbersFollowEachOtherWithoutGapsWithinTheirHundred)
         ASSERT_EQ(5U, name.size());
         const int number = std::stoi(name.substr(2));
         const bool beginsHundred = number % 100 == 1 && number / 100 == last / 100 + 1;
-        const bool isBehindRetired = last + 1 == noteOnMergedRows && number == last + 2;
-        EXPECT_TRUE(number == last + 1 || beginsHundred || isBehindRetired) << name << " after " << last;
+        const bool comesBehindRetired = (last + 1 == noteOnMergedRows && number == last + 2) ||
+                                        (number == 815 && last == 812); // MB813 and MB814 are gone, and not given again
+        EXPECT_TRUE(number == last + 1 || beginsHundred || comesBehindRetired) << name << " after " << last;
         last = number;
     }
     EXPECT_EQ(9, last / 100);
@@ -65,7 +66,8 @@ TEST(FindingCodesTest, CodesAreFoundByTheirNames)
     for (const FindingCode& code : FindingCodes::all())
         EXPECT_EQ(&code, FindingCodes::find(code.name));
     EXPECT_EQ(nullptr, FindingCodes::find("MB700"));
-    EXPECT_EQ(nullptr, FindingCodes::find("MB199"));
+    EXPECT_EQ(nullptr, FindingCodes::find("MB813"));
+    EXPECT_EQ("MB101", std::string(FindingCodes::find("MB101")->name));
     EXPECT_EQ(nullptr, FindingCodes::find(""));
 }
 }

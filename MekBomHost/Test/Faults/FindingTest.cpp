@@ -1,6 +1,7 @@
 #include "Finding.h"
 
 #include "FindingCodes.h"
+#include "MistakeCodes.h"
 
 #include <gtest/gtest.h>
 
@@ -83,10 +84,26 @@ TEST(FindingTest, AFieldIsNamedInsteadOfTheColumnOfTheText)
 
 TEST(FindingTest, CodeAndSeverityAreThoseOfTheCode)
 {
-    const Finding finding = Finding::stating(FindingCodes::kSectionNotEvaluated, "is not evaluated");
+    const Finding finding = Finding::saying(FindingCodes::kColumnMissing, "no column");
 
-    EXPECT_EQ("MB813", finding.code);
+    EXPECT_EQ("MB716", finding.code);
     EXPECT_EQ(Finding::kNote, finding.severity);
     EXPECT_EQ(Finding::kError, Finding::of(FindingCodes::kNoJson, "no valid JSON").severity);
+}
+
+TEST(FindingTest, AMistakeIsPrintedAsCompilersPrintTheirs)
+{
+    Finding finding = Finding::stating(MistakeCodes::kDetailsEmpty, "the details show nothing");
+    finding.path = "/sections/0";
+    EXPECT_EQ("error MB105: the details show nothing", messageOf(finding));
+
+    finding.source = "list.json";
+    finding.begin = { 8, 17 };
+    finding.remedy = "write \"summary\": true";
+    EXPECT_EQ("list.json:8:17: error MB105: the details show nothing; help: write \"summary\": true",
+              messageOf(finding));
+
+    finding.severity = Finding::kNote;
+    EXPECT_EQ(0u, messageOf(finding).find("list.json:8:17: note MB105: "));
 }
 }

@@ -45,7 +45,7 @@ ListFacts factsOf(int numRows)
 ListFoot footOf(const ListFacts& facts, const VorUnitsManager& units = VorUnitsManager::metric())
 {
     const std::unique_ptr<Report> pReport = reportOf(kTotals, "%Name\nA\n", units);
-    return ListFoot(facts, pReport->reportTemplate(), units, ReportLayout(pReport->reportTemplate(), units));
+    return ListFoot(facts, pReport->reportTemplate(), ReportLayout(pReport->reportTemplate(), units));
 }
 
 void lose(TotalCount& total, double amount, bool isWhole = false)

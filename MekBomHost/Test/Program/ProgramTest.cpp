@@ -271,12 +271,21 @@ TEST(ProgramTest, DataThatTheTemplateAsksForInVainAreNoted)
                   .errors.find("parts.csv has no column for %Weight, which the template asks for\n"));
 }
 
-TEST(ProgramTest, SectionsThatAreNeverEvaluatedAreNoted)
+TEST(ProgramTest, AMistakeOfTheAuthorStopsTheReportUnlessItIsExcused)
 {
     const Job job(kParts, R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Name" } ] },
         { "type": "kReportFooter" }, { "type": "kPageFooter" } ] })");
 
-    EXPECT_NE(std::string::npos, job.run().errors.find("list.json:2:38: /sections/2: is not evaluated"));
+    const ProgramRun refused = job.run();
+    EXPECT_EQ(kMistakes, refused.status);
+    EXPECT_EQ("", refused.output);
+    EXPECT_NE(std::string::npos, refused.errors.find("list.json:2:9: warning MB109: ")); // told beside the error
+    EXPECT_NE(std::string::npos, refused.errors.find("list.json:2:38: error MB102: "));
+
+    const ProgramRun excused = job.run("--allow MB102");
+    EXPECT_EQ(kDone, excused.status);
+    EXPECT_EQ("Name", firstLine(excused.output).substr(0, 4));
+    EXPECT_EQ(std::string::npos, excused.errors.find("MB102"));
 }
 
 TEST(ProgramTest, WrongUsageIsStatusTwo)

@@ -229,19 +229,13 @@ TEST(TemplateReaderTest, AColumnIsDescribedOnceAndShown)
                                                                   { "token": "%Quantity", "column": "%Pieces" } ] } ] })"));
 }
 
-TEST(TemplateReaderTest, SectionsThatAreNeverEvaluatedAreNoted)
+TEST(TemplateReaderTest, OnlyMistakesOfAuthorsCanBeExcused)
 {
-    const ReportTemplate reportTemplate = templateOf(
-        "{ \"sections\": [\n{ \"type\": \"kDetails\" },\n{ \"type\": \"kGroupFooter\",\n\"children\": [] },\n"
-        "{ \"type\": \"kReportFooter\" } ] }");
+    const std::string sections = R"(, "sections": [ { "type": "kDetails" } ] })";
 
-    ASSERT_EQ(2u, reportTemplate.findings.size());
-    EXPECT_EQ(
-        "list.json:5:1: /sections/2: is not evaluated: the first two sections of a level are its header and footer",
-        messageOf(reportTemplate.findings[0]));
-    EXPECT_EQ("list.json:4:13: /sections/1/children: are not evaluated: the section is a footer",
-              messageOf(reportTemplate.findings[1]));
-    EXPECT_EQ(Finding::kNote, reportTemplate.findings[0].severity);
+    EXPECT_EQ("two are one", templateOf(R"({ "allow": { "MB105": "two are one" })" + sections).allowed.at("MB105"));
+    EXPECT_EQ("3 list.json:1:23: /allow/MB805: found \"MB805\", expected the code of a mistake, such as \"MB105\"\n",
+              faultIn(R"({ "allow": { "MB805": "reason" })" + sections));
 }
 
 TEST(TemplateReaderTest, NothingIsLeakedByARefusedTemplate)

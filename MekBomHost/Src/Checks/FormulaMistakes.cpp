@@ -1,0 +1,41 @@
+// A formula stands in the details and, summed, in a footer or two. It is looked at once, where it stands first:
+//
+//   details        %Formula:2*3+(4+5)*6           MB404 here
+//   group footer   %SumBy:%Formula:2*3+(4+5)*6    nothing more
+#include "FormulaMistakes.h"
+
+#include "FormulaResults.h"
+#include "FormulaRules.h"
+#include "Utf8.h"
+
+#include "VorBomDataToken.h"
+
+#include <set>
+
+namespace mekbom
+{
+void FormulaMistakes::run()
+{
+    const FormulaResults results(m_list.file());
+    std::set<std::string> formulas;
+    for (const CheckedTuple& tuple : m_list.tuples())
+    {
+        VorString formula = Utf8::toWide(tuple.token);
+        VorBomDataToken(formula).getSummingRequest(formula);
+        if (VorBomDataToken::removeFormulaPrefix(formula) == 1 && formulas.insert(Utf8::toBytes(formula)).second)
+            findIn(tuple, formula, results.declaredFor(Utf8::toBytes(formula)));
+    }
+    m_mistakes.addPlaced(results.undeclared());
+}
+
+// That nobody says what the result measures is left to FormulaResults, which knows of "tokenUnits" and of columns that
+// show the formula elsewhere.
+void FormulaMistakes::findIn(const CheckedTuple& tuple, const VorString& formula, const std::string& declared)
+{
+    const FormulaOperands operands = [this](const VorString& name)
+    { return FormulaResults::operandOf(m_list.file(), name); };
+    for (const Finding& finding : FormulaRules::check(formula, operands, declared))
+        if (finding.code != MistakeCodes::kResultUndeclared.name)
+            m_mistakes.add(finding, tuple);
+}
+}

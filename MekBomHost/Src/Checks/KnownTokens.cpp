@@ -1,0 +1,98 @@
+#include "KnownTokens.h"
+
+#include "NearestWord.h"
+#include "TokenRequest.h"
+#include "Utf8.h"
+
+#include "VorBomTemplateUnits.h"
+#include "VorBomTokenCatalogue.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace mekbom
+{
+namespace
+{
+const char* const kHandle = "%Handle"; // every object has one, whatever the catalogue says
+
+const VorBomTokenCatalogue::Entry* entryOf(const std::string& token)
+{
+    return VorBomTokenCatalogue::find(Utf8::toWide(token));
+}
+}
+
+KnownTokens::KnownTokens(const ReportTemplate& reportTemplate, std::vector<std::string> dataTokens)
+    : m_template(reportTemplate), m_dataTokens(std::move(dataTokens))
+{
+}
+
+bool KnownTokens::isInCatalogue(const std::string& token) const
+{
+    return token == kHandle || entryOf(token) != nullptr;
+}
+
+bool KnownTokens::knows(const std::string& token) const
+{
+    return isInCatalogue(token) || m_template.ownTokens.count(token) > 0 ||
+           m_template.tokenUnitPlaces.count(token) > 0 || isOfData(token);
+}
+
+bool KnownTokens::isOfData(const std::string& token) const
+{
+    return std::find(m_dataTokens.begin(), m_dataTokens.end(), token) != m_dataTokens.end();
+}
+
+KnownTokens::eKind KnownTokens::kindOf(const std::string& token) const
+{
+    if (token == kHandle)
+        return kText;
+    if (const VorBomTokenCatalogue::Entry* const pEntry = entryOf(token))
+        return pEntry->type == VorBomDataValue::kStringData ? kText
+               : pEntry->type == VorBomDataValue::kIntData  ? kWhole
+                                                            : kNumber;
+    const auto own = m_template.ownTokens.find(token);
+    if (own != m_template.ownTokens.end())
+        return own->second == kOwnText ? kText : kNumber;
+    return hasUnit(token) ? kNumber : kOpen;
+}
+
+bool KnownTokens::isNumeric(const std::string& token) const
+{
+    const eKind kind = kindOf(token);
+    return kind == kWhole || kind == kNumber;
+}
+
+bool KnownTokens::hasUnit(const std::string& token) const
+{
+    return m_template.pTemplate->getBomTemplateUnits()->getUnitType(Utf8::toWide(token)) !=
+           VorBomTemplateUnits::kNoUnit;
+}
+
+bool KnownTokens::isNatural(const std::string& token) const
+{
+    const ColumnStyle* const pStyle = m_template.columnStyleOf(Utf8::toWide(token));
+    if (pStyle != nullptr && pStyle->order != ColumnStyle::kByCatalogue)
+        return pStyle->order == ColumnStyle::kNatural;
+    const VorBomTokenCatalogue::Entry* const pEntry = entryOf(token);
+    return pEntry != nullptr && pEntry->sort == VorBomDataToken::kSortAlphanumeric;
+}
+
+// "%Sumby:%Weight" is no token at all: what stands before the colon is looked for among the prefixes.
+std::string KnownTokens::nearestTo(const std::string& token) const
+{
+    const std::size_t colon = token.find(':');
+    if (colon != std::string::npos)
+    {
+        const std::string prefix = NearestWord::of(token.substr(0, colon + 1), requestPrefixes());
+        return prefix.empty() ? "" : prefix + token.substr(colon + 1);
+    }
+    std::vector<std::string> words = m_dataTokens;
+    for (const auto& [own, kind] : m_template.ownTokens)
+        words.push_back(own);
+    for (const VorBomTokenCatalogue::Entry* pEntry = VorBomTokenCatalogue::begin();
+         pEntry != VorBomTokenCatalogue::end(); ++pEntry)
+        words.push_back(Utf8::toBytes(pEntry->name));
+    return NearestWord::of(token, words);
+}
+}

@@ -1,0 +1,73 @@
+#include "MistakeList.h"
+
+#include <utility>
+
+namespace mekbom
+{
+namespace
+{
+Finding findingOf(const FindingCode& code, const std::string& what, const std::string& help)
+{
+    Finding finding = Finding::stating(code, what);
+    finding.remedy = help;
+    return finding;
+}
+}
+
+void MistakeList::add(const FindingCode& code, const CheckedTuple& tuple, const std::string& what,
+                      const std::string& help)
+{
+    addAt(placeOf(tuple), findingOf(code, what, help));
+}
+
+void MistakeList::add(const FindingCode& code, const VorBomTemplateItem& section, const std::string& what,
+                      const std::string& help)
+{
+    addAt(m_template.styleOf(&section).place, findingOf(code, what, help));
+}
+
+void MistakeList::add(const FindingCode& code, const TemplatePlace& place, const std::string& what,
+                      const std::string& help)
+{
+    addAt(place, findingOf(code, what, help));
+}
+
+void MistakeList::addNote(const FindingCode& code, const CheckedTuple& tuple, const std::string& what,
+                          const std::string& help)
+{
+    Finding finding = findingOf(code, what, help);
+    finding.severity = Finding::kNote;
+    addAt(placeOf(tuple), std::move(finding));
+}
+
+void MistakeList::add(Finding finding, const CheckedTuple& tuple)
+{
+    addAt(placeOf(tuple), std::move(finding));
+}
+
+void MistakeList::addPlaced(const std::vector<Finding>& findings)
+{
+    for (const Finding& finding : findings)
+    {
+        m_findings.push_back(finding);
+        m_findings.back().source = m_template.fileName;
+    }
+}
+
+// The built-in template has no file, and so no places.
+TemplatePlace MistakeList::placeOf(const CheckedTuple& tuple) const
+{
+    const SectionStyle& style = m_template.styleOf(tuple.pSection);
+    const auto index = static_cast<std::size_t>(tuple.index);
+    return index < style.tuplePlaces.size() ? style.tuplePlaces[index] : style.place;
+}
+
+void MistakeList::addAt(const TemplatePlace& place, Finding finding)
+{
+    finding.source = m_template.fileName;
+    finding.begin = place.span.begin;
+    finding.end = place.span.end;
+    finding.path = place.path;
+    m_findings.push_back(std::move(finding));
+}
+}

@@ -1,0 +1,47 @@
+// The mistakes that rules find in one list, each at its place in the template file.
+//
+//   MistakeList mistakes(reportTemplate);
+//   mistakes.add(MistakeCodes::kSumOutsideFooter, tuple, "the total stands in a header", "move it to the footer");
+//   messageOf(mistakes.findings()[0])   ->   list.json:8:17: error MB301: the total ...; help: move it to the footer
+#pragma once
+
+#include "CheckedTemplate.h"
+#include "Finding.h"
+#include "FindingCodes.h"
+
+#include <string>
+#include <vector>
+
+namespace mekbom
+{
+class MistakeList
+{
+public:
+    // The template outlives the list.
+    explicit MistakeList(const ReportTemplate& reportTemplate) : m_template(reportTemplate) {}
+
+    // `what` says what is written and what comes of it, `help` how to write it right, with the author's own tokens.
+    void add(const FindingCode& code, const CheckedTuple& tuple, const std::string& what, const std::string& help);
+    void add(const FindingCode& code, const VorBomTemplateItem& section, const std::string& what,
+             const std::string& help);
+    void add(const FindingCode& code, const TemplatePlace& place, const std::string& what, const std::string& help);
+
+    // A mistake that is less bad than its code says.
+    void addNote(const FindingCode& code, const CheckedTuple& tuple, const std::string& what, const std::string& help);
+
+    // Of whoever reads formulas: a finding without a place.
+    void add(Finding finding, const CheckedTuple& tuple);
+
+    // Of whoever knows the places in the template file: findings that lack no more than the file's name.
+    void addPlaced(const std::vector<Finding>& findings);
+
+    const std::vector<Finding>& findings() const { return m_findings; }
+
+private:
+    TemplatePlace placeOf(const CheckedTuple& tuple) const;
+    void addAt(const TemplatePlace& place, Finding finding);
+
+    const ReportTemplate& m_template;
+    std::vector<Finding> m_findings;
+};
+}

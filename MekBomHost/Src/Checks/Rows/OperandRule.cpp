@@ -1,0 +1,53 @@
+#include "OperandRule.h"
+
+#include "InQuotes.h"
+#include "MistakeCodes.h"
+#include "Utf8.h"
+
+#include "VorBomDataToken.h"
+
+#include "MekRoots/Exp/VorArray.h"
+
+#include <algorithm>
+
+namespace mekbom
+{
+namespace
+{
+bool isNumber(const VorBomDataTuple* pTuple)
+{
+    return pTuple != nullptr && (pTuple->value().type() == VorBomDataValue::kIntData ||
+                                 pTuple->value().type() == VorBomDataValue::kDoubleData);
+}
+}
+
+OperandRule::OperandRule(const CheckedTuple& formula) : m_formula(formula)
+{
+    for (const VorString& token : VorBomDataToken::getTokensFromFormula(Utf8::toWide(formula.request.subject)))
+    {
+        const bool isThere = std::any_of(m_operands.begin(), m_operands.end(),
+                                         [&token](const Operand& operand) { return operand.token == token; });
+        if (!isThere && !isNumber(formula.pSection->getTupleAt(token)))
+            m_operands.push_back({ token, 0 });
+    }
+}
+
+void OperandRule::see(const VorBomDataRow& row)
+{
+    ++m_numRows;
+    for (Operand& operand : m_operands)
+        if (!isNumber(row.getTupleAt(operand.token)))
+            ++operand.numLacking;
+}
+
+void OperandRule::tell(MistakeList& mistakes) const
+{
+    for (const Operand& operand : m_operands)
+        if (operand.numLacking > 0)
+            mistakes.add(
+                MistakeCodes::kOperandMissingInRows, m_formula,
+                std::to_string(operand.numLacking) + " of " + std::to_string(m_numRows) + " rows have no number " +
+                    Utf8::toBytes(operand.token) + ": " + inQuotes(m_formula.token) + " is not computed for them",
+                "fill it in, or leave these rows out: \"queryFilter\": " + inQuotes(Utf8::toBytes(operand.token)));
+}
+}

@@ -1,0 +1,71 @@
+#include "RowOriginRule.h"
+
+#include "InQuotes.h"
+#include "MistakeCodes.h"
+#include "Utf8.h"
+
+#include "VorBomDataToken.h"
+
+namespace mekbom
+{
+namespace
+{
+// The first token that comes again; null when none does. Rows have a dozen tuples, so all pairs are few.
+const VorString* tokenTwiceIn(const VorBomDataRow& row)
+{
+    const auto& tuples = row.getData();
+    for (int i = 1; i < tuples.length(); ++i)
+        for (int j = 0; j < i; ++j)
+            if (tuples[i].token().token() == tuples[j].token().token())
+                return &tuples[i].token().token();
+    return nullptr;
+}
+
+bool hasFormula(const VorBomDataRow& row)
+{
+    for (const VorBomDataTuple& tuple : row.getData())
+        if (VorBomDataToken::isFormula(tuple.token().token()) == 1)
+            return true;
+    return false;
+}
+
+std::string rows(long long number, long long all)
+{
+    return std::to_string(number) + " of " + std::to_string(all) + " rows ";
+}
+}
+
+void RowOriginRule::see(const VorBomDataRow& row)
+{
+    ++m_numRows;
+    if (const VorString* const pTwice = tokenTwiceIn(row))
+    {
+        ++m_numWithTokenTwice;
+        if (m_twice.empty())
+            m_twice = Utf8::toBytes(*pTwice);
+    }
+    if (row.child() != nullptr)
+        ++m_numWithSubRows;
+    if (row.getUseThisDataForSums() == 0 || hasFormula(row))
+        ++m_numMarked;
+}
+
+void RowOriginRule::tell(MistakeList& mistakes) const
+{
+    const TemplatePlace nowhere;
+    if (m_numWithTokenTwice > 0)
+        mistakes.add(MistakeCodes::kTokenTwiceInRow, nowhere,
+                     rows(m_numWithTokenTwice, m_numRows) + "have a token twice, such as " + inQuotes(m_twice) +
+                         ": the first value counts",
+                     "give each row every token once");
+    if (m_numWithSubRows > 0)
+        mistakes.add(MistakeCodes::kSubRows, nowhere,
+                     rows(m_numWithSubRows, m_numRows) + "have rows below them, which are in no list",
+                     "put all rows side by side");
+    if (m_numMarked > 0)
+        mistakes.add(MistakeCodes::kMarksOfEarlierReport, nowhere,
+                     rows(m_numMarked, m_numRows) +
+                         "carry the marks of an earlier report: they are in no total, or show old results of formulas",
+                     "build the data anew for each report");
+}
+}

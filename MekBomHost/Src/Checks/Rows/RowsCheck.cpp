@@ -1,0 +1,101 @@
+#include "RowsCheck.h"
+
+#include "CheckedTemplate.h"
+#include "MarkRule.h"
+#include "OperandRule.h"
+#include "PiecesRule.h"
+#include "RowOriginRule.h"
+#include "RowRule.h"
+#include "TokenRules.h"
+#include "VaryingRule.h"
+#include "WholeNumberRule.h"
+
+#include <memory>
+#include <utility>
+
+namespace mekbom::RowsCheck
+{
+namespace
+{
+using Rules = std::vector<std::unique_ptr<RowRule>>;
+
+// Each level has groups of its own, and so a rule of its own for what varies in them.
+void addVaryingRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
+{
+    for (std::size_t level = 0; level < list.levels().size(); ++level)
+    {
+        std::vector<const CheckedTuple*> tuples;
+        for (const CheckedTuple* const pTuple : tuplesThatMayVary(list, tokens))
+            if (pTuple->level == level)
+                tuples.push_back(pTuple);
+        if (!tuples.empty())
+            rules.push_back(std::make_unique<VaryingRule>(list.groupTokensDownTo(level), tuples));
+    }
+}
+
+std::vector<const CheckedTuple*> totalsOfPieces(const CheckedTemplate& list, const KnownTokens& tokens)
+{
+    std::vector<const CheckedTuple*> totals;
+    for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kSum))
+        if (pTuple->isFooter && PiecesRule::isOfOnePiece(pTuple->request.subject, tokens))
+            totals.push_back(pTuple);
+    return totals;
+}
+
+void addSumRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
+{
+    for (const CheckedTuple* const pTuple : totalsOfPieces(list, tokens))
+        rules.push_back(std::make_unique<PiecesRule>(*pTuple));
+}
+
+void addFormulaRules(Rules& rules, const CheckedTemplate& list)
+{
+    for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kFormula))
+        if (!pTuple->isFooter)
+            rules.push_back(std::make_unique<OperandRule>(*pTuple));
+}
+
+void addMarkRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
+{
+    for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kSort))
+        for (const TokenRequest::Element& element : pTuple->request.elements)
+            if (!pTuple->isFooter && tokens.isNatural(element.token))
+                rules.push_back(std::make_unique<MarkRule>(*pTuple, element.token));
+}
+
+void addWholeNumberRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
+{
+    for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kShow))
+        if (tokens.hasUnit(pTuple->token))
+            rules.push_back(std::make_unique<WholeNumberRule>(*pTuple));
+}
+}
+
+std::vector<VorString> neededTokens(const ReportTemplate& reportTemplate, const KnownTokens& tokens)
+{
+    const CheckedTemplate list(reportTemplate);
+    return totalsOfPieces(list, tokens).empty() ? std::vector<VorString>()
+                                                : std::vector<VorString>{ PiecesRule::kPieces };
+}
+
+std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens& tokens, const VorBomData& data)
+{
+    const CheckedTemplate list(reportTemplate);
+    Rules rules;
+    addVaryingRules(rules, list, tokens);
+    addSumRules(rules, list, tokens);
+    addFormulaRules(rules, list);
+    addMarkRules(rules, list, tokens);
+    addWholeNumberRules(rules, list, tokens);
+    rules.push_back(std::make_unique<RowOriginRule>());
+
+    for (const VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
+        for (const std::unique_ptr<RowRule>& pRule : rules)
+            pRule->see(static_cast<const VorBomDataRow&>(*pRow)); // all below the data are rows
+
+    MistakeList mistakes(reportTemplate);
+    for (const std::unique_ptr<RowRule>& pRule : rules)
+        pRule->tell(mistakes);
+    return mistakes.findings();
+}
+}

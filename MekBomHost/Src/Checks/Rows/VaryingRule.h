@@ -1,0 +1,45 @@
+// MB503 with data: a header or footer shows what is not the same in all rows of its groups.
+//
+//   rows HEA200 S235, HEA200 S355, grouped by %Name, whose header shows %Material   ->   "varies: S235, S355"
+//
+// Rows of a group need not follow each other yet, so each row is compared with the first that has the same values under
+// the tokens of the group. Groups are told apart by a hash of 64 bits: that two of a million share one and are taken for
+// one group has a chance of one in thirty million, and costs a needless warning.
+#pragma once
+
+#include "RowRule.h"
+
+#include "MekRoots/Exp/VorString.h"
+
+#include <cstdint>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace mekbom
+{
+class VaryingRule : public RowRule
+{
+public:
+    // The groups' tokens, and the tuples, all of one level, that the rule is about. The tuples outlive it.
+    VaryingRule(const std::vector<std::string>& groupTokens, const std::vector<const CheckedTuple*>& tuples);
+
+    void see(const VorBomDataRow& row) override;
+    void tell(MistakeList& mistakes) const override;
+
+private:
+    struct Watched
+    {
+        const CheckedTuple* pTuple;
+        VorString token;
+        std::string values; // "S235, S355" of the first group that has two; empty as long as none has
+    };
+
+    std::uint64_t groupOf(const VorBomDataRow& row) const;
+
+    std::vector<VorString> m_groupTokens;
+    std::vector<Watched> m_watched;
+    std::size_t m_numVarying = 0;
+    std::unordered_map<std::uint64_t, const VorBomDataRow*> m_firstRows; // of each group
+};
+}

@@ -1,0 +1,25 @@
+// MB506: a whole number under a token with a unit, which the engine prints as it is, without that unit. Rows of a parts
+// list have none, as all cells of such a column are read as quantities; rows from elsewhere may.
+#pragma once
+
+#include "RowRule.h"
+
+#include "MekRoots/Exp/VorString.h"
+
+namespace mekbom
+{
+class WholeNumberRule : public RowRule
+{
+public:
+    // The tuple that shows a token with a unit; it outlives the rule.
+    explicit WholeNumberRule(const CheckedTuple& tuple);
+
+    void see(const VorBomDataRow& row) override;
+    void tell(MistakeList& mistakes) const override;
+
+private:
+    const CheckedTuple& m_tuple;
+    VorString m_token;
+    long long m_numRows = 0; // with a whole number
+};
+}

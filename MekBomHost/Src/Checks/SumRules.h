@@ -1,0 +1,29 @@
+// The rules about totals, MB301 to MB309 without those about data, and MB403, about formulas that are never computed.
+#pragma once
+
+#include "TemplateRules.h"
+
+namespace mekbom
+{
+class SumRules : private TemplateRules
+{
+public:
+    using TemplateRules::TemplateRules;
+
+    void run();
+
+private:
+    void findSumOutsideFooter(const CheckedTuple& tuple);
+    void findSumOfTexts(const CheckedTuple& tuple);
+    void findSumOfList(const CheckedTuple& tuple);
+    void findStartElsewhere(const CheckedTuple& tuple);
+    void findFooterWithoutSum(const CheckedTuple& tuple);
+    void findSumOfMissingFormula(const CheckedTuple& tuple);
+    void findSumOfRequest(const CheckedTuple& tuple);
+    void findFormulaOnlyInFooter(const CheckedTuple& tuple);
+
+    bool isComputedInHeader(const std::string& formulaToken) const;
+    bool isComputedForEveryRow(const std::string& formulaToken) const;
+    std::string sameFormulaOfDetails(const std::string& formulaToken) const;
+};
+}

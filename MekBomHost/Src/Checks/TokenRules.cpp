@@ -1,0 +1,210 @@
+// A token is looked up in a row as it is written. What no row has keeps the value that the template gave it: a column
+// "%posNum" with the starting value 0 prints "0" on each line, and nobody is told. So every token has to be known,
+// from the catalogue, from the template's own "tokens" and "tokenUnits", or from the data's columns.
+#include "TokenRules.h"
+
+#include "Utf8.h"
+
+#include "VorBomDataToken.h"
+
+#include "MekRoots/Exp/VorArray.h"
+
+#include <algorithm>
+
+namespace mekbom
+{
+namespace
+{
+// What a token asks the row for: those of a formula, or the one that is shown, summed, or that groups and sorts.
+std::vector<std::string> dataTokensOf(const TokenRequest& request)
+{
+    std::vector<std::string> tokens;
+    switch (request.kind)
+    {
+        case TokenRequest::kShow: tokens.push_back(request.subject); break;
+        case TokenRequest::kGroup:
+        case TokenRequest::kSort:
+            for (const TokenRequest::Element& element : request.elements)
+                if (element.sort == TokenRequest::kToken)
+                    tokens.push_back(element.token);
+            break;
+        case TokenRequest::kSum:
+        {
+            const TokenRequest summed = TokenRequest::of(request.subject);
+            if (summed.kind == TokenRequest::kFormula)
+                return dataTokensOf(summed);
+            if (summed.kind == TokenRequest::kShow && request.subject.find_first_of(" ,") == std::string::npos)
+                tokens.push_back(request.subject);
+            break;
+        }
+        case TokenRequest::kFormula:
+            for (const VorString& token : VorBomDataToken::getTokensFromFormula(Utf8::toWide(request.subject)))
+                if (token.find(L";", 0) < 0 && token.find(L":", 0) < 0) // both are mistakes of the formula
+                    tokens.push_back(Utf8::toBytes(token));
+            break;
+        default: break;
+    }
+    return tokens;
+}
+
+// What describes the objects of one mark: their assembly, or the part that they all are. The data may say otherwise,
+// and the rules on data tell then.
+bool belongsToMark(const std::string& token, const std::vector<std::string>& groupTokens)
+{
+    static const std::vector<std::string> ofAssembly = { "%MName", "%MQuantity", "%AssemblyWeight",
+                                                         "%AssemblyExactWeight" };
+    static const std::vector<std::string> ofPart = {
+        "%PNum",     "%Num",    "%PreliminaryNum", "%Name",      "%Material",    "%Role",          "%Class",
+        "%Coating",  "%Length", "%SysLength",      "%SawLength", "%Weight",      "%ExactWeight",   "%WeightMeter",
+        "%Paint",    "%Thick",  "%Width",          "%Area",      "%Diameter",    "%contourLength", "%ExactPaintArea",
+        "%Standard", "%DStV",   "%BoltName",       "%Commodity", "%%PaintMeter", "%Density"
+    };
+    const bool isOnePart =
+        contains(groupTokens, "%PNum") || contains(groupTokens, "%Num") || contains(groupTokens, "%PreliminaryNum");
+    return (contains(groupTokens, "%MNum") && contains(ofAssembly, token)) || (isOnePart && contains(ofPart, token));
+}
+}
+
+void TokenRules::run(bool hasData)
+{
+    for (const CheckedTuple& tuple : m_list.tuples())
+    {
+        findUnknownTokens(tuple);
+        findUnknownColumn(tuple);
+        findMalformedColumn(tuple);
+        findNumberUnderText(tuple);
+    }
+    findUnknownUnits();
+    findNumbersWithoutUnit();
+    if (!hasData)
+        findVaryingTokens();
+}
+
+void TokenRules::addUnknown(const CheckedTuple& tuple, const std::string& token, const std::string& effect)
+{
+    const std::string nearest = m_tokens.nearestTo(token);
+    m_mistakes.add(MistakeCodes::kTokenUnknown, tuple, effect,
+                   nearest.empty()
+                       ? "declare a token of your own: \"tokens\": { " + inQuotes(token) + ": \"text\" }, or \"number\""
+                       : "did you mean " + inQuotes(nearest) + "?");
+}
+
+void TokenRules::findUnknownTokens(const CheckedTuple& tuple)
+{
+    for (const std::string& token : dataTokensOf(tuple.request))
+        if (!m_tokens.knows(token) && VorBomDataToken::isToken(Utf8::toWide(token)) == 1)
+            addUnknown(tuple, token,
+                       "no token " + inQuotes(token) +
+                           " is known: no row has it, and the template's own "
+                           "value is taken everywhere");
+        else if (!m_tokens.knows(token) && tuple.request.kind == TokenRequest::kSum)
+            addUnknown(tuple, token, inQuotes(tuple.token) + " sums " + inQuotes(token) + ", which no row has");
+}
+
+// A column may have a name of its own, as long as the template describes it.
+void TokenRules::findUnknownColumn(const CheckedTuple& tuple)
+{
+    const SectionStyle& style = m_list.file().styleOf(tuple.pSection);
+    const auto index = static_cast<std::size_t>(tuple.index);
+    if (index >= style.columnTokens.size() || style.columnTokens[index].isEmpty() == 1)
+        return;
+    const std::string column = Utf8::toBytes(style.columnTokens[index]);
+    if (m_list.file().columnStyleOf(style.columnTokens[index]) == nullptr && !m_tokens.knows(column) && !isUsed(column))
+        addUnknown(tuple, column,
+                   inQuotes(tuple.token) + " is to stand in the column " + inQuotes(column) +
+                       ", which nothing describes");
+}
+
+bool TokenRules::isUsed(const std::string& token) const
+{
+    const std::vector<CheckedTuple>& tuples = m_list.tuples();
+    return std::any_of(tuples.begin(), tuples.end(),
+                       [&token](const CheckedTuple& tuple)
+                       {
+                           return tuple.token == token || tuple.request.subject == token ||
+                                  tuple.request.subject == "%Formula:" + token ||
+                                  contains(dataTokensOf(tuple.request), token);
+                       });
+}
+
+// An entry makes a token known, if it is one that the list uses; else it is most likely misspelled.
+void TokenRules::findUnknownUnits()
+{
+    for (const auto& [key, place] : m_list.file().tokenUnitPlaces)
+    {
+        const TokenRequest request = TokenRequest::of(key);
+        const std::string token = request.kind == TokenRequest::kSum ? request.subject : key;
+        if (m_tokens.isInCatalogue(token) || m_tokens.isOfData(token) || m_list.file().ownTokens.count(token) > 0 ||
+            isUsed(token))
+            continue;
+        const std::string nearest = m_tokens.nearestTo(token);
+        m_mistakes.add(MistakeCodes::kTokenUnknown, place,
+                       "no token " + inQuotes(token) + " is known, nor used in the list: its unit is that of nothing",
+                       nearest.empty() ? "take it out" : "did you mean " + inQuotes(nearest) + "?");
+    }
+}
+
+// The catalogue's "%%PaintMeter" is found as it is, on purpose.
+void TokenRules::findMalformedColumn(const CheckedTuple& tuple)
+{
+    const std::string& token = tuple.token;
+    if (tuple.request.kind != TokenRequest::kShow || VorBomDataToken::isToken(Utf8::toWide(token)) == 1 ||
+        m_tokens.isInCatalogue(token) || m_tokens.isOfData(token))
+        return;
+    const std::size_t name = std::min(token.find_first_not_of('%'), token.size());
+    m_mistakes.add(MistakeCodes::kColumnTokenMalformed, tuple,
+                   inQuotes(token) +
+                       " is no token: the column stays blank, as every heading of a parts list gets one %",
+                   "write " + inQuotes("%" + token.substr(name)));
+}
+
+std::vector<const CheckedTuple*> tuplesThatMayVary(const CheckedTemplate& list, const KnownTokens& tokens)
+{
+    std::vector<const CheckedTuple*> tuples;
+    for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kShow))
+        if (!list.isDeepest(pTuple->level) && list.file().styleOf(pTuple->pSection).isPrinted &&
+            tokens.knows(pTuple->token) && !(pTuple->isFooter && tokens.isNumeric(pTuple->token)) &&
+            !contains(list.groupTokensDownTo(pTuple->level), pTuple->token))
+            tuples.push_back(pTuple);
+    return tuples;
+}
+
+void TokenRules::findVaryingTokens()
+{
+    for (const CheckedTuple* const pTuple : tuplesThatMayVary(m_list, m_tokens))
+        if (!belongsToMark(pTuple->token, m_list.groupTokensDownTo(pTuple->level)))
+            m_mistakes.add(MistakeCodes::kTokenVariesInGroup, *pTuple,
+                           inQuotes(pTuple->token) + " is no token that the rows are grouped by: the " +
+                               typeName(*pTuple->pSection) + " shows that of the " +
+                               (pTuple->isFooter ? "last" : "first") + " row",
+                           "group by " + pTuple->token + " as well, or show it in the details");
+}
+
+void TokenRules::findNumbersWithoutUnit()
+{
+    for (const auto& [token, kind] : m_list.file().ownTokens)
+    {
+        const auto isShownHere = [&name = token](const CheckedTuple& tuple)
+        { return tuple.request.subject == name && tuple.request.kind != TokenRequest::kFormula; };
+        const std::vector<CheckedTuple>& tuples = m_list.tuples();
+        const auto shown = std::find_if(tuples.begin(), tuples.end(), isShownHere);
+        if (kind == kOwnNumber && shown != tuples.end() && !m_tokens.hasUnit(token))
+            m_mistakes.add(MistakeCodes::kNumberWithoutUnit, *shown,
+                           token + " is a number of your own without a unit: it is printed as it is, whatever units "
+                                   "are asked for",
+                           "give it a kind if it measures something: \"tokenUnits\": { " + inQuotes(token) +
+                               ": \"kDistanceUnit\" }");
+    }
+}
+
+void TokenRules::findNumberUnderText(const CheckedTuple& tuple)
+{
+    const auto type = tuple.value().type();
+    if (tuple.request.kind == TokenRequest::kShow && m_tokens.kindOf(tuple.token) == KnownTokens::kText &&
+        (type == VorBomDataValue::kIntData || type == VorBomDataValue::kDoubleData))
+        m_mistakes.add(MistakeCodes::kNumberUnderText, tuple,
+                       inQuotes(tuple.token) + " is a text and starts with " + Utf8::toBytes(tuple.value().asString()) +
+                           ", which is printed wherever a row lacks the text",
+                       "take the \"value\" out, or write \"value\": \"\"");
+}
+}

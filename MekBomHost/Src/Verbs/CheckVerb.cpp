@@ -1,0 +1,105 @@
+#include "CheckVerb.h"
+
+#include "Fault.h"
+#include "FileSource.h"
+#include "FindingCodes.h"
+#include "FindingJson.h"
+#include "FindingList.h"
+#include "InQuotes.h"
+#include "MistakeCodes.h"
+#include "MistakePage.h"
+#include "ReportJob.h"
+#include "ReportRequest.h"
+#include "StandardOutput.h"
+
+#include <CLI/CLI.hpp>
+
+#include <memory>
+#include <utility>
+
+namespace mekbom
+{
+namespace
+{
+const char* const kDefaultTemplate = "default";
+const char* const kAllCodes = "all";
+const char* const kJson = "json";
+
+const char* const kNotes =
+    R"(Findings are printed as file:line:column: severity code: what; help: how to write it right.
+Errors stop mekbom report, unless the template excuses them, "allow": { "MB105": "reason" },
+or --allow does.
+
+Examples
+  mekbom check list.json
+  mekbom check list.json --data parts.csv --format json
+  mekbom check --explain MB105
+
+Exit status
+   0  no error among the findings
+   1  an error among the findings
+   2  wrong usage
+   3  input unreadable or invalid)";
+
+[[noreturn]] void refuse(const std::string& statement)
+{
+    throw Fault(kWrongUsage, Finding::stating(FindingCodes::kWrongArguments, statement));
+}
+}
+
+CLI::App& CheckVerb::declareOn(CLI::App& parent)
+{
+    CLI::App& check = *parent.add_subcommand("check", "Find mistakes in a template");
+    check.footer(kNotes);
+    check.add_option("template", m_templateName, "Template file, or default for the built-in one");
+    check.add_option("--data", m_data, "Parts list, for mistakes that only data show; - reads standard input")
+        ->type_name("FILE");
+    check.add_option("--format", m_format, "How to print what is found: text or json [text]")
+        ->check(CLI::IsMember({ "text", kJson }));
+    check.add_option("--allow", m_allowed, "Mistakes to pass over, such as MB105")
+        ->type_name("CODE,...")
+        ->delimiter(',');
+    check.add_option("--explain", m_code, "Print what a code means, or all of them as a page")->type_name("CODE");
+    return check;
+}
+
+ExitStatus CheckVerb::run(FindingList& findings)
+{
+    return m_code.empty() ? check(findings) : explain();
+}
+
+ExitStatus CheckVerb::explain() const
+{
+    if (m_code != kAllCodes && !MistakeCodes::has(m_code))
+        refuse(inQuotes(m_code) + " is no code of a mistake, such as MB105");
+    StandardOutput::print(m_code == kAllCodes ? MistakePage::ofAll() : MistakePage::of(m_code));
+    return kDone;
+}
+
+ExitStatus CheckVerb::check(FindingList& findings) const
+{
+    if (m_templateName.empty())
+        refuse("check needs a template, or --explain; see mekbom check --help");
+    ReportRequest request;
+    request.allowed = m_allowed;
+    if (m_templateName != kDefaultTemplate)
+        request.pTemplate = std::make_unique<FileSource>(m_templateName);
+    if (!m_data.empty())
+        request.pParts = m_data == "-" ? std::make_unique<FileSource>() : std::make_unique<FileSource>(m_data);
+    ReportJob job(std::move(request));
+    const ExitStatus status = job.check();
+    if (m_format == kJson)
+    {
+        StandardOutput::print(FindingJson::textOf(job.findings().all()));
+        return status;
+    }
+    std::string text;
+    for (const Finding& finding : job.findings().all())
+        if (MistakeCodes::has(finding.code))
+            text += messageOf(finding) + "\n";
+        else
+            findings.add(finding);
+    StandardOutput::print(text);
+    return status;
+}
+}
