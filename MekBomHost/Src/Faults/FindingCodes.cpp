@@ -63,6 +63,7 @@ const std::vector<FindingCode>& all()
         kSettingUnused,
         kListUnknown,
         kOutputOfOtherFormat,
+        kNoSuchLine,
     };
     return codes;
 }

@@ -118,6 +118,7 @@ inline constexpr FindingCode kListUnknown = { "MB918", kError, "A word is neithe
 inline constexpr FindingCode kOutputOfOtherFormat = {
     "MB919", kError, "The name of the output promises a format that no list is written in."
 };
+inline constexpr FindingCode kNoSuchLine = { "MB920", kError, "A list has no line of that number." };
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();

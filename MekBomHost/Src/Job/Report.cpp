@@ -146,6 +146,8 @@ void Report::failInFilter(Finding finding, bool isFromTemplate) const
 
 void Report::filter()
 {
+    if (m_sections.contents().rows)
+        m_rowNumbers = RowNumbers(*engineTemplate().getBomData());
     m_facts.numRowsRead = numRowsOf(*engineTemplate().getBomData());
     apply(m_template.queryFilter, true);
     apply(m_where, false);

@@ -17,6 +17,7 @@
 #include "PackedSections.h"
 #include "ReportTemplate.h"
 #include "RowFilter.h"
+#include "RowNumbers.h"
 
 #include "VorBomTemplate.h"
 
@@ -42,6 +43,12 @@ public:
     // The template whose data the rows go to.
     VorBomTemplate& engineTemplate() { return *m_template.pTemplate; }
     const ReportTemplate& reportTemplate() const { return m_template; }
+
+    // That numbers are shown in.
+    const VorUnitsManager& units() const { return m_units; }
+
+    // Of all rows that were read, once they were evaluated; of none unless lines keep their rows.
+    const RowNumbers& rowNumbers() const { return m_rowNumbers; }
 
     // What is wrong with what the template says of numbers: formulas whose result nobody can tell, units that do not
     // measure what their columns show. All are errors; a report that is evaluated all the same shows such numbers
@@ -85,6 +92,7 @@ private:
     std::unique_ptr<NumberFormats> m_pFormats; // that the template refers to, once it is evaluated
     bool m_isFiltered = false;
     RowFilter m_where;
+    RowNumbers m_rowNumbers;
     PackedSections m_sections; // of the evaluated report
     ListFacts m_facts;
     bool m_checksTotals = false;

@@ -51,6 +51,11 @@ public:
     // The evaluated report, good for as long as the job is. Only once run() has returned kDone.
     EvaluatedReport report() const { return m_pReport->evaluated(); }
 
+    // What the report was made of and with, under the same conditions.
+    const ReportTemplate& reportTemplate() const { return m_pReport->reportTemplate(); }
+    const VorUnitsManager& units() const { return m_pReport->units(); }
+    const RowNumbers& rowNumbers() const { return m_pReport->rowNumbers(); }
+
 private:
     ExitStatus makeReport();
     ExitStatus checkReport();

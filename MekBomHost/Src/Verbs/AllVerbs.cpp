@@ -2,6 +2,7 @@
 
 #include "CheckVerb.h"
 #include "DemoVerb.h"
+#include "ExplainVerb.h"
 #include "FormulaVerb.h"
 #include "HelpVerb.h"
 #include "NewListVerb.h"
@@ -20,6 +21,7 @@ VerbList allVerbs()
     verbs.add(std::make_unique<DemoVerb>());
     verbs.add(std::make_unique<CheckVerb>());
     verbs.add(std::make_unique<NewListVerb>());
+    verbs.add(std::make_unique<ExplainVerb>());
     verbs.add(std::make_unique<FormulaVerb>());
     verbs.add(std::make_unique<TokensVerb>());
     verbs.add(std::make_unique<UnitsVerb>());

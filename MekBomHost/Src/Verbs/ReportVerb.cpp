@@ -12,21 +12,20 @@
 
 #include "DataFile.h"
 #include "DisplaySettings.h"
+#include "Environment.h"
 #include "Fault.h"
 #include "FileSource.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
-#include "InQuotes.h"
-#include "NearestWord.h"
 #include "OutputFile.h"
 #include "ReportFormats.h"
 #include "ShippedFiles.h"
 #include "StandardOutput.h"
+#include "TemplateFile.h"
 #include "UnitChoice.h"
 
 #include <CLI/CLI.hpp>
 
-#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -37,40 +36,11 @@ namespace
 {
 const char* const kStandardOutput = "-";
 const char* const kSampleData = "sample";
-const char* const kDefaultTemplate = "default";
-
-// The variables of the process that are named like a setting, with what they hold.
-ReportRequest::Pairs environment()
-{
-    ReportRequest::Pairs variables;
-    for (const std::string& name : DisplaySettings::names())
-        if (const char* const pValue = std::getenv(name.c_str())) // NOLINT(concurrency-mt-unsafe): nobody changes it
-            variables.emplace_back(name, pValue);
-    return variables;
-}
 
 [[noreturn]] void failAt(const std::string& option, Finding finding)
 {
     finding.source = option;
     throw Fault(kWrongUsage, finding);
-}
-
-// A word that could be the name of a list: people write a path, or the ending of a file, where they mean one.
-bool isPlainWord(const std::string& text)
-{
-    return text.find_first_of("./\\") == std::string::npos;
-}
-
-[[noreturn]] void failWithoutList(const std::string& name)
-{
-    std::vector<std::string> names = ShippedFiles::templateNames();
-    names.push_back(kDefaultTemplate);
-    std::string expected = "a file or one of ";
-    for (const std::string& known : names)
-        expected += (&known == names.data() ? "" : ", ") + known;
-    Finding finding = Finding::of(FindingCodes::kListUnknown, inQuotes(name), expected);
-    finding.remedy = NearestWord::question(name, names);
-    failAt("--template", finding);
 }
 }
 
@@ -181,7 +151,7 @@ ReportRequest ReportVerb::request() const
     request.checksTotals = m_checksTotals;
     request.pParts = parts();
     addTemplates(request);
-    request.environment = environment();
+    request.environment = Environment::variables(DisplaySettings::names());
     if (const std::string settingsFile = m_settingsFile.name(); !settingsFile.empty())
         request.pSettings = std::make_unique<FileSource>(settingsFile);
     addUnits(request);
@@ -208,24 +178,13 @@ std::unique_ptr<ByteSource> ReportVerb::parts() const
 void ReportVerb::addTemplates(ReportRequest& request) const
 {
     const std::string name = m_template.name();
-    if (name == kDefaultTemplate)
+    if (name == TemplateFile::kDefault)
         return;
     if (!name.empty())
-        request.pTemplate = templateNamed(name);
+        request.pTemplate = TemplateFile::open(name, m_template.option());
     else if (!isSample())
         for (const std::string& shipped : ShippedFiles::templateNames())
-            request.candidates.push_back(templateNamed(shipped));
-}
-
-// Findings call a shipped list by its name, too.
-std::unique_ptr<ByteSource> ReportVerb::templateNamed(const std::string& name)
-{
-    if (const std::string shipped = ShippedFiles::templateNamed(name); !shipped.empty())
-        return std::make_unique<FileSource>(ShippedFiles::find(shipped), name);
-    std::error_code error;
-    if (isPlainWord(name) && !std::filesystem::exists(name, error))
-        failWithoutList(name);
-    return std::make_unique<FileSource>(name);
+            request.candidates.push_back(TemplateFile::open(shipped, m_template.option()));
 }
 
 // A word that is neither metric nor imperial is a file, if there is one of that name.

@@ -40,7 +40,6 @@ private:
     ReportRequest request() const;
     std::unique_ptr<ByteSource> parts() const;
     void addTemplates(ReportRequest& request) const;
-    static std::unique_ptr<ByteSource> templateNamed(const std::string& name);
     void addUnits(ReportRequest& request) const;
     void checkOutput() const;
     void write(const ReportWriter& writer) const;

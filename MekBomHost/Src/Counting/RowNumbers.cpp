@@ -1,0 +1,17 @@
+#include "RowNumbers.h"
+
+namespace mekbom
+{
+RowNumbers::RowNumbers(const VorBomData& data)
+{
+    int number = 0;
+    for (const VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
+        m_numbers.emplace(pRow, ++number);
+}
+
+int RowNumbers::numberOf(const VorBomDataRow& row) const
+{
+    const auto found = m_numbers.find(&row);
+    return found == m_numbers.end() ? 0 : found->second;
+}
+}

@@ -1,0 +1,80 @@
+#include "ListNumbers.h"
+
+#include "ColumnUnit.h"
+#include "InputUnits.h"
+#include "UnitKinds.h"
+#include "Utf8.h"
+
+#include "VorBomNumberFormat.h"
+
+#include "MekUnits/Src/VorQuantityReader.h"
+
+#include <charconv>
+#include <string_view>
+
+namespace mekbom
+{
+namespace
+{
+// "1 234.5"  ->  "1234.5"
+std::string withoutBlanks(std::string_view text)
+{
+    std::string tight;
+    for (const char c : text)
+        if (c != ' ')
+            tight += c;
+    return tight;
+}
+
+bool endsWith(const std::string& text, const std::string& end)
+{
+    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+}
+
+ListNumbers::ListNumbers(const ExplainedReport& report, const VorBomTemplateItem& section, int tuple,
+                         const VorBomTypedValue& shown, const ReportColumn& column)
+    : m_report(report), m_section(section), m_tuple(tuple), m_shown(shown)
+{
+    const UnitKind* const pKind =
+        shown.type == VorBomDataValue::kDoubleData ? UnitKinds::find(shown.unitType) : nullptr;
+    if (pKind == nullptr)
+        return;
+    m_unit = ColumnUnit::of(report.reportTemplate.columnStyleOf(column.token), *pKind, report.units);
+    m_symbol = ColumnUnit::symbolOf(*m_unit);
+}
+
+// As the evaluation does it.
+std::string ListNumbers::textOf(double number) const
+{
+    const bool isWhole = m_shown.type == VorBomDataValue::kIntData;
+    VorBomTemplate& engineTemplate = *m_report.reportTemplate.pTemplate;
+    if (const VorBomNumberFormat* const pFormat = engineTemplate.numberFormat(m_section, m_tuple))
+        return Utf8::toBytes(isWhole ? pFormat->textOf(static_cast<int>(number)) : pFormat->textOf(number));
+    if (isWhole)
+        return std::to_string(static_cast<long long>(number));
+    return Utf8::toBytes(engineTemplate.getBomTemplateUnits()->getDisplayString(m_shown.unitType, number));
+}
+
+std::string ListNumbers::withUnit(const std::string& text) const
+{
+    const bool needsUnit = m_unit && InputUnits::takesPlainNumbers(*m_unit) && !endsWith(text, m_symbol);
+    return needsUnit ? text + " " + m_symbol : text;
+}
+
+// The blank of "6 1/2" belongs there, that of "1 234" only groups digits.
+std::optional<double> ListNumbers::valueOf(const std::string& text) const
+{
+    double value = 0;
+    const std::string tight = withoutBlanks(text);
+    if (m_unit)
+    {
+        const VorQuantityReader reader(m_unit->unit());
+        if (reader.read(Utf8::toWide(text), value) == 1 || reader.read(Utf8::toWide(tight), value) == 1)
+            return value;
+        return std::nullopt;
+    }
+    const auto read = std::from_chars(tight.data(), tight.data() + tight.size(), value);
+    return read.ec == std::errc() ? std::optional<double>(value) : std::nullopt;
+}
+}

@@ -1,0 +1,142 @@
+#include "ExplainVerb.h"
+
+#include "DataFile.h"
+#include "DisplaySettings.h"
+#include "Environment.h"
+#include "ExplainedReport.h"
+#include "Fault.h"
+#include "FileSource.h"
+#include "FindingCodes.h"
+#include "FindingList.h"
+#include "LineInWords.h"
+#include "ReportJob.h"
+#include "StandardOutput.h"
+#include "TemplateFile.h"
+#include "TemplateInWords.h"
+#include "TemplateReader.h"
+#include "UnitChoice.h"
+
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace mekbom
+{
+namespace
+{
+const char* const kNotes = R"(Without --data the template alone is told: what each level groups, sorts, shows, adds up
+and computes. With data the lines of the list follow, each with its number, and with
+--line that line alone is told: the rows that made it, each total written out as an
+addition, what was merged or counted into it, and what keeps it apart from its neighbours.
+
+Lines are counted from 1: each line of values in the printed list is one, even if its
+texts go on in the next. Title, headings, rules, blank lines and what stands below the
+list do not count. Rows are counted from 1 as well, the first being the one under the
+header row of the parts list; blank lines do not count.
+
+The options that say which rows are listed, and in which units, must be those that the list was
+printed with.
+
+Examples
+  mekbom explain bolt-list
+  mekbom explain list.json --data parts.csv
+  mekbom explain list.json --data parts.csv --line 3 --units imperial
+
+Exit status
+   0  done
+   2  wrong usage, or no such line
+   3  input unreadable or invalid)";
+
+[[noreturn]] void refuseLineWithoutData()
+{
+    Finding finding = Finding::stating(FindingCodes::kOptionWithoutUse, "a template alone has no lines; give --data");
+    finding.source = "--line";
+    throw Fault(kWrongUsage, finding);
+}
+}
+
+CLI::App& ExplainVerb::declareOn(CLI::App& parent)
+{
+    CLI::App& explain = *parent.add_subcommand("explain", "Say in words what a template or a line of a list is");
+    explain.footer(kNotes);
+    explain.add_option("template", m_templateName, "Template file, a shipped list by its name, or default")->required();
+    m_data.declareOn(explain, "Parts list; - reads standard input, hall takes the shipped one");
+    explain.add_option("--line", m_line, "Line of the list to tell of, from 1")->type_name("NUMBER");
+    explain.add_option("--units", m_units, "Units of the list: metric, imperial or a file of units [metric]")
+        ->type_name("UNITS");
+    m_unitChoices.declareOn(explain, "Unit and precision of one kind, such as length=ft-in/16");
+    m_settings.declareOn(explain, "How numbers are laid out, such as C40_SuppressZeroFeet=0");
+    m_inputUnits.declareOn(explain, "Unit of a column whose header names none");
+    explain.add_option("--where", m_where, "Which rows are listed")->type_name("CONDITION");
+    explain.add_option("--row-totals", m_rowTotals, "Columns whose values are those of all pieces of a row")
+        ->type_name("TOKEN,...")
+        ->delimiter(',');
+    explain.add_option("--allow", m_allowed, "Mistakes that stop no report, such as MB105")
+        ->type_name("CODE,...")
+        ->delimiter(',');
+    return explain;
+}
+
+ExitStatus ExplainVerb::run(FindingList& findings)
+{
+    if (!m_data.name().empty())
+        return explainList(findings);
+    if (m_line)
+        refuseLineWithoutData();
+    return explainTemplate();
+}
+
+ExitStatus ExplainVerb::explainTemplate() const
+{
+    ReportTemplate reportTemplate;
+    if (m_templateName == TemplateFile::kDefault)
+        reportTemplate.pTemplate.reset(VorBomTemplate::createDefaultTemplate());
+    else
+    {
+        const std::unique_ptr<ByteSource> pFile = TemplateFile::open(m_templateName, "template");
+        reportTemplate = TemplateReader::read(pFile->name(), pFile->readAll());
+    }
+    StandardOutput::print(TemplateInWords(reportTemplate).text());
+    return kDone;
+}
+
+ExitStatus ExplainVerb::explainList(FindingList& findings) const
+{
+    ReportJob job(request());
+    const ExitStatus status = job.run();
+    findings.addAll(job.findings().all(), job.findings().numErrors());
+    if (status != kDone)
+        return status;
+    const EvaluatedReport report = job.report();
+    const ExplainedReport explained{ job.reportTemplate(), job.units(), report, job.rowNumbers() };
+    const LineInWords lines(explained);
+    StandardOutput::print(m_line ? lines.text(*m_line)
+                                 : TemplateInWords(job.reportTemplate()).text() + "\n" + lines.overview());
+    return kDone;
+}
+
+ReportRequest ExplainVerb::request() const
+{
+    ReportRequest request;
+    request.pParts = DataFile::open(m_data.name());
+    if (m_templateName != TemplateFile::kDefault)
+        request.pTemplate = TemplateFile::open(m_templateName, "template");
+    request.environment = Environment::variables(DisplaySettings::names());
+    request.settings = m_settings.pairs();
+    std::error_code error;
+    if (!UnitChoice::isBase(m_units) && std::filesystem::exists(m_units, error))
+        request.pUnits = std::make_unique<FileSource>(m_units);
+    else
+        request.units = m_units;
+    request.unitChoices = m_unitChoices.pairs();
+    request.inputUnits = m_inputUnits.pairs();
+    request.where = m_where;
+    request.rowTotals = m_rowTotals;
+    request.allowed = m_allowed;
+    request.contents.values = true;
+    request.contents.rows = true;
+    return request;
+}
+}
