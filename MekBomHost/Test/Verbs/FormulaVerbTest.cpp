@@ -64,9 +64,9 @@ TEST(FormulaVerbTest, WhatIsComputedOtherwiseThanWrittenIsWarnedOf)
     EXPECT_EQ(kDone, run.status);
     EXPECT_EQ("6\n(a*2)\n", run.output);
     EXPECT_EQ(
-        "mekbom: warning: \"round\" disappears: \"round(a*2,5)\" is read as \"(a*2)\": there are no functions, and "
+        "warning MB405: \"round\" disappears: \"round(a*2,5)\" is read as \"(a*2)\"; help: there are no functions, and "
         "a product needs its '*'\n"
-        "mekbom: warning: \"2,5\" is read as the number 2: the decimal sign is a point, and the operators are "
+        "warning MB408: \"2,5\" is read as the number 2; help: the decimal sign is a point, and the operators are "
         "\"*/+-=()\"\n",
         run.errors);
 }
@@ -79,23 +79,24 @@ TEST(FormulaVerbTest, AFormulaThatFailsHasItsErrorTextAndStatusOne)
         const char* errors;
     } cases[] = {
         { { "10/0" },
-          "mekbom: Division by zero\n"
-          "mekbom: the divisor 0 lies within 0.0001 of zero: \"Division by zero\"\n" },
+          "error MB422: Division by zero\n"
+          "error MB414: the divisor 0 lies within 0.0001 of zero: \"Division by zero\"\n" },
         { { "(1+2" },
-          "mekbom: Impaired paranthesis\n"
-          "mekbom: \"(1+2\" has more '(' than ')', or the reverse: \"Impaired paranthesis\": close each parenthesis, "
-          "in "
-          "each statement\n" },
-        { { "%W*2" }, "mekbom: Syntax error\nmekbom: \"%W\" has no value; give it one, such as \"%W=1\"\n" },
+          "error MB422: Impaired paranthesis\n"
+          "error MB422: \"(1+2\" has more '(' than ')', or the reverse: \"Impaired paranthesis\"; help: close each "
+          "parenthesis, in each statement\n" },
+        { { "%W*2" }, "error MB422: Syntax error\nerror MB422: \"%W\" has no value; give it one, such as \"%W=1\"\n" },
         { { "a=4;2*a" },
-          "mekbom: Syntax error\n"
-          "mekbom: \"a\" ends the last statement, which is read further than it goes: \"Syntax error\": put a ';' "
-          "behind "
-          "the formula\n" },
+          "error MB422: Syntax error\n"
+          "error MB406: \"a\" ends the last statement, which is read further than it goes: \"Syntax error\"; help: put "
+          "a "
+          "';' behind the formula\n" },
         { { "1+2" },
-          "mekbom: \"1+2\" has 3 characters and is never computed: make it longer by blanks, as in \"a * b\"\n" },
+          "error MB401: \"1+2\" has 3 characters and is never computed; help: make it longer by blanks, as in \"a * "
+          "b\"\n" },
         { { "%Weight", "%Weight=3" },
-          "mekbom: \"%Weight\" has none of the operators \"*/+-=()\" and is never computed: show the token without "
+          "error MB402: \"%Weight\" has none of the operators \"*/+-=()\" and is never computed; help: show the token "
+          "without "
           "%Formula:, or multiply it by 1\n" },
     };
     for (const auto& c : cases)
