@@ -14,7 +14,6 @@
 #include "TokenQuantities.h"
 #include "TotalsCheck.h"
 
-#include "VorBomDataTuple.h"
 #include "VorBomEvaluator2.h"
 
 #include <optional>
@@ -26,15 +25,6 @@ namespace mekbom
 {
 namespace
 {
-// The type that the datum has in the first row that has it; kUnknownData when none has.
-VorBomDataValue::eBomDataValueType typeInRows(const VorBomData& data, const VorString& token)
-{
-    for (const VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
-        if (const VorBomDataTuple* const pTuple = pRow->getTupleAt(token))
-            return pTuple->value().type();
-    return VorBomDataValue::kUnknownData;
-}
-
 int numRowsOf(const VorBomData& data)
 {
     int number = 0;
@@ -159,7 +149,7 @@ void Report::apply(RowFilter& filter, bool isFromTemplate)
     if (filter.text().empty())
         return;
     const VorBomData& data = *engineTemplate().getBomData();
-    const auto typeOf = [&data](const VorString& token) { return typeInRows(data, token); };
+    const auto typeOf = [&data](const VorString& token) { return TokenQuantities::typeInRows(data, token); };
     if (const auto finding = filter.settle(*engineTemplate().getBomTemplateUnits(), typeOf))
         failInFilter(*finding, isFromTemplate);
     m_facts.filtered.push_back({ filter.text(), isFromTemplate, filter.apply(*engineTemplate().getBomData()) });

@@ -26,7 +26,7 @@ VorBomDataValue::eBomDataValueType TokenQuantities::typeOf(const VorString& toke
     if (VorBomDataToken::isFormula(datum) == 1)
         return VorBomDataValue::kDoubleData;
     const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(datum);
-    return pEntry != nullptr ? pEntry->type : typeInData(datum);
+    return pEntry != nullptr ? pEntry->type : typeInRows(m_data, datum);
 }
 
 bool TokenQuantities::isNumeric(const VorString& token) const
@@ -64,12 +64,11 @@ Measure TokenQuantities::commonMeasureOf(const std::vector<VorString>& tokens) c
     return first;
 }
 
-// The type that the datum has in the first row that has it; kUnknownData when none has.
 // For a datum that no row has, this looks at all of them, once for each question about a token that the catalogue does
 // not know: for a column of the report, not for its lines.
-VorBomDataValue::eBomDataValueType TokenQuantities::typeInData(const VorString& datum) const
+VorBomDataValue::eBomDataValueType TokenQuantities::typeInRows(const VorBomData& data, const VorString& datum)
 {
-    for (const VorBomItemBase* pRow = m_data.child(); pRow != nullptr; pRow = pRow->next())
+    for (const VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
         if (const VorBomDataTuple* const pTuple = pRow->getTupleAt(datum))
             return pTuple->value().type();
     return VorBomDataValue::kUnknownData;

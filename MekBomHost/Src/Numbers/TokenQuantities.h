@@ -43,6 +43,9 @@ public:
     //   "%SumBy:%Weight"  ->  "%Weight"
     static VorString datumOf(const VorString& token);
 
+    // The type that the datum has in the first row that has it; kUnknownData when none has.
+    static VorBomDataValue::eBomDataValueType typeInRows(const VorBomData& data, const VorString& datum);
+
     // The type of the values under `token`: a number for formulas, as the catalogue of tokens says for those it knows,
     // and for others that of the first row that has the datum; kUnknownData when none has.
     VorBomDataValue::eBomDataValueType typeOf(const VorString& token) const;
@@ -62,7 +65,6 @@ public:
     Measure commonMeasureOf(const std::vector<VorString>& tokens) const;
 
 private:
-    VorBomDataValue::eBomDataValueType typeInData(const VorString& datum) const;
 
     const VorBomData& m_data;
     const VorBomTemplateUnits& m_tokenUnits;
