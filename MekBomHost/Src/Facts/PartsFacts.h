@@ -32,6 +32,7 @@ struct ColumnFacts
 struct PartsFacts
 {
     int numRows = 0;
+    int numEmptyRows = 0;             // passed over, since none of their cells holds anything
     std::vector<ColumnFacts> columns; // those that were kept because somebody asked for them, in the file's order
 
     // The column with this token; null when the parts list has none or nobody asked for it.

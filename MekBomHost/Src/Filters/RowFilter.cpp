@@ -75,6 +75,23 @@ std::optional<Finding> settleNumber(RowCondition& condition, Units::eTokenUnitTy
     return finding;
 }
 
+// A column of the user's own in which one cell is no number holds texts, and "0.25" comes behind "10" among these.
+std::optional<Finding> refuseNumberAmongTexts(const RowCondition& condition)
+{
+    const bool isOrdering =
+        condition.comparison != RowCondition::kEqual && condition.comparison != RowCondition::kUnequal;
+    double number = 0;
+    if (!isOrdering || condition.isQuoted || typeInCatalogue(condition.token) != VorBomDataValue::kUnknownData ||
+        !NumberReader::read(condition.operand, number))
+        return std::nullopt;
+    Finding finding =
+        Finding::of(FindingCodes::kNoQueryFilter, "the number " + condition.operand,
+                    "a text in quotes, since some cells of " + Utf8::toBytes(condition.token) + " are no numbers");
+    finding.remedy = "mend these cells, or have the template say \"tokens\": { " +
+                     inQuotes(Utf8::toBytes(condition.token)) + ": \"number\" } to be told of them";
+    return finding;
+}
+
 void destroy(VorBomItemBase* pRow)
 {
     pRow->empty();
@@ -123,6 +140,9 @@ std::optional<Finding> RowFilter::settle(const VorBomTemplateUnits& units, const
         if (type == VorBomDataValue::kUnknownData)
             type = typeOf(condition.token);
         condition.text = Utf8::toWide(condition.operand);
+        if (type == VorBomDataValue::kStringData)
+            if (auto finding = refuseNumberAmongTexts(condition))
+                return finding;
         if (type == VorBomDataValue::kStringData || type == VorBomDataValue::kUnknownData)
             continue;
         const bool isWhole = type == VorBomDataValue::kIntData; // whole numbers take no units

@@ -46,6 +46,11 @@ bool isNotANumber(std::string_view text)
     return text.size() == 3 && (text[0] | 0x20) == 'n' && (text[1] | 0x20) == 'a' && (text[2] | 0x20) == 'n';
 }
 
+bool isEmpty(const Record& record)
+{
+    return std::all_of(record.begin(), record.end(), [](const RecordCell& cell) { return cell.isNothing(); });
+}
+
 const FindingCode& codeOf(std::string_view text, const FindingCode& otherwise)
 {
     return isNotANumber(text) ? MistakeCodes::kNotANumber : otherwise;
@@ -78,6 +83,11 @@ void CellReader::read(const Record& record)
 {
     if (!checkNumCells(record))
         return;
+    if (isEmpty(record)) // spreadsheets leave such rows behind their last one
+    {
+        ++m_numEmptyRows;
+        return;
+    }
     ++m_numRows;
     m_rows.beginRow();
     if (m_numberToken.isEmpty() == 0)
@@ -125,6 +135,7 @@ PartsFacts CellReader::facts() const
 {
     PartsFacts facts;
     facts.numRows = m_numRows;
+    facts.numEmptyRows = m_numEmptyRows;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
     {
         const InputColumn& column = m_columns[i];

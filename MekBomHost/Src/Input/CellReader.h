@@ -101,6 +101,7 @@ private:
     VorString m_numberToken; // empty when rows are not numbered
     VorString m_piecesToken; // empty when pieces need not be counted
     int m_numRows = 0;
+    int m_numEmptyRows = 0;   // passed over
     int m_numPieces = 1;      // of the row that is being read; looked at only where row totals are divided
     std::string m_numberText; // of the cell that is being read, if it is a number
 };

@@ -140,6 +140,16 @@ PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector
     return facts;
 }
 
+void PartsList::registerKinds(VorBomTemplateUnits& units) const
+{
+    for (const InputColumn& column : m_columns)
+    {
+        const auto unit = InputUnits::find(column.unitSymbol, VorBomTemplateUnits::kNoUnit);
+        if (unit && VorBomTokenCatalogue::find(column.tupleToken) == nullptr)
+            units.AddTokenType(column.tupleToken, InputUnits::kindOf(*unit));
+    }
+}
+
 bool PartsList::assumesUnits() const
 {
     return std::any_of(m_columns.begin(), m_columns.end(),

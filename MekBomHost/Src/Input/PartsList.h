@@ -49,6 +49,10 @@ public:
     // The column with this token, or null.
     const InputColumn* find(const std::string& token) const;
 
+    // Tells `units` of what kind the columns are that nobody knows but whose unit says it: "Gap [in]" is a length. What
+    // they know already stays.
+    void registerKinds(VorBomTemplateUnits& units) const;
+
     // Says in which unit a column is given whose header row does not. Throws a Fault of status kWrongUsage when there
     // is no such column, or when its header row names another unit.
     void setInputUnit(const std::string& token, const std::string& unit);

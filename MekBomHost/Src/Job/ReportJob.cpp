@@ -23,6 +23,7 @@
 #include "InQuotes.h"
 #include "MistakeCodes.h"
 #include "NamedText.h"
+#include "PieceTokens.h"
 #include "RowsCheck.h"
 #include "TemplateCheck.h"
 #include "TemplateChoice.h"
@@ -72,6 +73,26 @@ std::string lossIn(const ListFoot& foot)
                                                        " rows read like the one before them, are merged into its line "
                                                        "and are";
     return rows + " in no total: " + foot.lossText();
+}
+
+// A line of merged rows shows the pieces of the first one alone.
+std::string lostPiecesIn(const ListFoot& foot)
+{
+    return foot.numMerged == 1
+               ? "1 row reads like the one before it and is merged into its line, which does not show its pieces"
+               : std::to_string(foot.numMerged) + " rows read like those before them and are merged into their lines, "
+                                                  "which do not show their pieces";
+}
+
+bool linesShowPieces(const ReportTemplate& reportTemplate)
+{
+    const VorBomItemBase* pDetails = reportTemplate.pTemplate->child();
+    while (pDetails->child() != nullptr)
+        pDetails = pDetails->child();
+    const std::vector<int> shown = reportTemplate.shownTuplesOf(*pDetails);
+    return std::any_of(shown.begin(), shown.end(),
+                       [pDetails](int tuple)
+                       { return PieceTokens::growWithPieces(pDetails->getData()[tuple].token().token()); });
 }
 
 // The finding at the details, whose lines are the ones that merge.
@@ -157,6 +178,8 @@ void ReportJob::prepareReport()
     ReportTemplate reportTemplate = readTemplate();
     const DisplaySettings settings = settingsOf(m_request, m_findings);
     m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
+    if (m_pParts != nullptr)
+        m_pParts->registerKinds(*m_pReport->engineTemplate().getBomTemplateUnits());
     addFilter();
 }
 
@@ -263,6 +286,8 @@ void ReportJob::readRows()
         otherTokens.push_back(token);
     m_partsFacts = m_pParts->readRows(m_pReport->engineTemplate(), otherTokens);
     m_pReport->facts().areUnitsAssumed = m_pParts->assumesUnits();
+    m_pReport->facts().numEmptyRows = m_partsFacts.numEmptyRows;
+    m_pReport->facts().countsRowsAsPieces = m_pParts->find(PartsList::kPiecesToken) == nullptr;
     takeMistakes(m_pParts->findings());
 }
 
@@ -315,9 +340,11 @@ void ReportJob::checkLostTotals()
 {
     const ListFoot foot = m_pReport->evaluated().foot();
     const ReportTemplate& reportTemplate = m_pReport->reportTemplate();
-    if (reportTemplate.equalLines != kEqualLinesOpen || foot.losses.empty())
+    const bool losesPieces = foot.numMerged > 0 && linesShowPieces(reportTemplate);
+    if (reportTemplate.equalLines != kEqualLinesOpen || (foot.losses.empty() && !losesPieces))
         return;
-    Finding finding = Finding::stating(MistakeCodes::kTotalsLoseRows, lossIn(foot));
+    Finding finding =
+        Finding::stating(MistakeCodes::kTotalsLoseRows, foot.losses.empty() ? lostPiecesIn(foot) : lossIn(foot));
     finding.remedy = "say \"equalLines\": \"count\" for one line with the pieces and totals of all, \"keep\" for a "
                      "line each, or \"merge\" to leave these rows out";
     takeMistakes({ inDetails(finding, reportTemplate) });

@@ -18,9 +18,11 @@ struct ListFacts
 {
     int numRowsRead = 0;
     std::vector<FilteredRows> filtered;
-    RowCounts rows;               // of those that no filter took
-    int numRowsInOtherLines = 0;  // listed ones that were counted into the line of another
-    bool areUnitsAssumed = false; // some length or weight came without a unit, and was read as mm or kg
+    RowCounts rows;                  // of those that no filter took
+    int numRowsInOtherLines = 0;     // listed ones that were counted into the line of another
+    int numEmptyRows = 0;            // of the file, passed over
+    bool countsRowsAsPieces = false; // the data say of no row how many pieces it stands for
+    bool areUnitsAssumed = false;    // some length or weight came without a unit, and was read as mm or kg
     std::size_t numWarnings = 0;
 };
 }

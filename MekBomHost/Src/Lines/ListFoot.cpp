@@ -59,6 +59,8 @@ ListFoot::ListFoot(const ListFacts& facts, const ReportTemplate& reportTemplate,
       numLosing(facts.rows.numLosing),
       numListed(facts.rows.numListed),
       numLines(facts.rows.numListed - facts.numRowsInOtherLines),
+      numEmptyRows(facts.numEmptyRows),
+      countsRowsAsPieces(facts.countsRowsAsPieces && !facts.rows.totals.empty()),
       areUnitsAssumed(facts.areUnitsAssumed),
       numWarnings(facts.numWarnings)
 {
@@ -83,6 +85,10 @@ std::vector<std::string> ListFoot::lines() const
     for (const Total& total : totals)
         if (total.numRows < numListed)
             all.push_back(total.label + ": " + std::to_string(total.numRows) + " of " + rowsText(numListed));
+    if (numEmptyRows > 0)
+        all.push_back(rowsText(numEmptyRows) + " without any cell passed over");
+    if (countsRowsAsPieces)
+        all.emplace_back("Each row counts as one piece: there is no column %Quantity");
     if (areUnitsAssumed)
         all.emplace_back("Lengths and weights without a unit were read as mm and kg");
     if (numWarnings > 0)

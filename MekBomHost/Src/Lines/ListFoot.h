@@ -57,9 +57,11 @@ struct ListFoot
     int numMerged = 0;                  // rows whose line was merged into one that reads alike, and count in no total
     int numLosing = 0;                  // of these the ones with a value that a printed total would have counted
     std::vector<Loss> losses;
-    int numListed = 0;         // rows that have a line, their own or one that counts them
-    int numLines = 0;          // these lines, whether they are printed or not
-    std::vector<Total> totals; // of the outermost footer that prints any
+    int numListed = 0;               // rows that have a line, their own or one that counts them
+    int numLines = 0;                // these lines, whether they are printed or not
+    std::vector<Total> totals;       // of the outermost footer that prints any
+    int numEmptyRows = 0;            // passed over, and not among those read
+    bool countsRowsAsPieces = false; // the data say of no row how many pieces it stands for, and totals are printed
     bool areUnitsAssumed = false;
     std::size_t numWarnings = 0;
 

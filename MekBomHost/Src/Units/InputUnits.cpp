@@ -44,6 +44,11 @@ std::optional<MEKUnit> ofModel(Units::eTokenUnitType kind)
     return unitOf(*Catalogue::findUnitOfModel(pKind->system));
 }
 
+Units::eTokenUnitType kindOf(const MEKUnit& unit)
+{
+    return Units::unitTypeOf(Catalogue::findUnit(unit.unit())->system);
+}
+
 bool isOfModel(const MEKUnit& unit)
 {
     return Catalogue::findUnit(unit.unit())->isOfModel() == 1;

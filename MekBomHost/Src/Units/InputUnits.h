@@ -23,6 +23,9 @@ std::optional<MEKUnit> find(const std::string& symbol, VorBomTemplateUnits::eTok
 // The unit that numbers of this kind are in when nobody names one; nothing for a type that has no unit.
 std::optional<MEKUnit> ofModel(VorBomTemplateUnits::eTokenUnitType kind);
 
+// What the unit measures, as the type of tokens that have such numbers.
+VorBomTemplateUnits::eTokenUnitType kindOf(const MEKUnit& unit);
+
 // Whether the model keeps its numbers in the unit.
 bool isOfModel(const MEKUnit& unit);
 
