@@ -10,15 +10,16 @@ import csv
 import itertools
 import pathlib
 import re
-import subprocess
 import sys
+
+from printed_list import print_list
 
 HERE = pathlib.Path(__file__).parent
 FLOOR = 24 * 42         # m2, frame to frame
 PRINTED = 0.005 + 1e-6  # lists show two decimals
 
-# The columns of each list as they are printed. Total: the weight of all pieces together.
-CUTTING_LIST = ("Name", "Material", "Quantity", "Length", "Weight", "Paint")
+# The columns of each list as they are printed. Total: the weight of all pieces together, as TotalLength is their length.
+CUTTING_LIST = ("Name", "Material", "Length", "Quantity", "TotalLength", "Weight", "Total", "Paint")
 ASSEMBLY_LIST = ("MNum", "MQuantity", "PNum", "Role", "Name", "Material", "Length", "Quantity", "Weight", "Total",
                  "Paint")
 BOLT_LIST = ("BoltName", "Standard", "Material", "Diameter", "Length", "Quantity")
@@ -65,9 +66,17 @@ def total_weight(rows):
 # A list as it should be printed: one dict for each line, from column to cell; a column that is not in it is empty.
 
 def cutting_list(parts):
-    totals = ("Quantity", "Length", "Weight", "Paint")
-    lines = [{**key, **sums(rows, *totals)} for key, rows in groups(parts, "Name", "Material")]
-    return lines + [{"Name": "Total", **sums(parts, *totals)}]
+    def totals(rows):
+        return {**sums(rows, "Quantity", "Paint"), "TotalLength": sum(row["Length"] for row in rows),
+                **total_weight(rows)}
+
+    lines = []
+    for key, rows in groups(parts, "Name", "Material"):
+        lines.append(key)
+        for length, same in reversed(groups(rows, "Length")):
+            lines.append({**length, "Weight": same[0]["Weight"], **totals(same)})
+        lines.append({"Name": "Total", **totals(rows)})
+    return lines + [{"Name": "Total", **totals(parts)}]
 
 
 def bolt_list(bolts):
@@ -91,21 +100,9 @@ def assembly_list(parts):
             for _, same in groups([row for row in rows if row["IsMP"] == main], "PNum"):
                 lines.append({**pick(same[0], "PNum", "Role", "Name", "Material", "Length", "Weight"),
                               **sums(same, "Quantity", "Paint"), **total_weight(same)})
-        lines.append({"MNum": "Total", **sums(rows, "Quantity", "Paint"), **total_weight(rows)})
+        lines.append({"MNum": "Total", "MQuantity": number, **sums(rows, "Quantity", "Paint"), **total_weight(rows)})
     number = sum(row["IsMP"] for row in parts)
     return lines + [{"MNum": "Total", "MQuantity": number, **sums(parts, "Quantity", "Paint"), **total_weight(parts)}]
-
-
-def print_list(program, template):
-    """The cells of every printed line. The rule under the headings says where columns begin and end, and what the list is
-    made of stands below the last blank line."""
-    command = [program, "report", "--data", HERE / "hall.csv", "--template", HERE / "Templates" / template]
-    text = subprocess.run(command, check=True, stdout=subprocess.PIPE, encoding="utf-8").stdout.splitlines()
-    rule = next(index for index, line in enumerate(text) if line.startswith("---"))
-    spans = [column.span() for column in re.finditer("-+", text[rule])]
-    foot = max(index for index, line in enumerate(text) if not line)
-    lines = [line for line in text[rule + 1:foot] if line and line != text[rule]]
-    return [[line[begin:end].strip() for begin, end in spans] for line in lines]
 
 
 def agree(printed, expected):
@@ -151,7 +148,8 @@ def main(program):
                                         ("assembly-list.json", assembly_list(parts), ASSEMBLY_LIST),
                                         ("bolt-list.json", bolt_list(bolts), BOLT_LIST),
                                         ("parts-list.json", parts_list(parts), PARTS_LIST)):
-        wrong += compare(template, print_list(program, template), expected, columns)
+        printed = print_list(program, "--data", HERE / "hall.csv", "--template", HERE / "Templates" / template)
+        wrong += compare(template, printed.lines, expected, columns)
     return 1 if wrong else 0
 
 

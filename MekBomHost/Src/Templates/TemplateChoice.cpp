@@ -4,6 +4,7 @@
 #include "TemplateChoice.h"
 
 #include "DataTokens.h"
+#include "PossibleRows.h"
 #include "TemplateReader.h"
 
 #include <algorithm>
@@ -27,6 +28,8 @@ struct Cover
 Cover coverOf(const NamedText& file, const std::function<bool(const std::string&)>& hasColumn)
 {
     const ReportTemplate reportTemplate = TemplateReader::read(file.name, file.text);
+    if (!PossibleRows::canPass(reportTemplate.queryFilter, hasColumn))
+        return {};
     const std::vector<std::string> tokens = DataTokens::of(*reportTemplate.pTemplate);
     Cover cover;
     cover.numCovered = static_cast<std::size_t>(std::count_if(tokens.begin(), tokens.end(), hasColumn));

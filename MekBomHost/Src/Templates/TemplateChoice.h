@@ -1,5 +1,6 @@
 // Which template suits a parts list whose user names none: the one the greatest part of whose data the list has as
-// columns; of equals the first. A template that finds less than half of its data suits nothing.
+// columns; of equals the first. A template that finds less than half of its data suits nothing, and neither does one
+// whose filter no row of these columns could pass.
 //
 //   columns %BoltName, %Standard, %Material, %Diameter, %Length, %Quantity   ->   bolt-list.json, all six of six
 //

@@ -1,7 +1,7 @@
 #include "CheckVerb.h"
 
+#include "DataFile.h"
 #include "Fault.h"
-#include "FileSource.h"
 #include "FindingCodes.h"
 #include "FindingJson.h"
 #include "FindingList.h"
@@ -11,6 +11,7 @@
 #include "ReportJob.h"
 #include "ReportRequest.h"
 #include "StandardOutput.h"
+#include "TemplateFile.h"
 
 #include <CLI/CLI.hpp>
 
@@ -21,7 +22,6 @@ namespace mekbom
 {
 namespace
 {
-const char* const kDefaultTemplate = "default";
 const char* const kAllCodes = "all";
 const char* const kJson = "json";
 
@@ -33,6 +33,7 @@ or --allow does.
 Examples
   mekbom check list.json
   mekbom check list.json --data parts.csv --format json
+  mekbom check cutting-list --data frame.csv --input-unit %Paint=m2
   mekbom check --explain MB105
 
 Exit status
@@ -51,9 +52,16 @@ CLI::App& CheckVerb::declareOn(CLI::App& parent)
 {
     CLI::App& check = *parent.add_subcommand("check", "Find mistakes in a template");
     check.footer(kNotes);
-    check.add_option("template", m_templateName, "Template file, or default for the built-in one");
-    check.add_option("--data", m_data, "Parts list, for mistakes that only data show; - reads standard input")
+    check.add_option("template", m_templateName, "Template file, a shipped list by its name, or default");
+    check
+        .add_option("--data", m_data,
+                    "Parts list, for mistakes that only data show; - reads standard input, hall takes the shipped one")
         ->type_name("FILE");
+    m_inputUnits.declareOn(check, "Unit of a column whose header names none");
+    check.add_option("--where", m_where, "Which rows are listed")->type_name("CONDITION");
+    check.add_option("--row-totals", m_rowTotals, "Columns whose values are those of all pieces of a row")
+        ->type_name("TOKEN,...")
+        ->delimiter(',');
     check.add_option("--format", m_format, "How to print what is found: text or json [text]")
         ->check(CLI::IsMember({ "text", kJson }));
     check.add_option("--allow", m_allowed, "Mistakes to pass over, such as MB105")
@@ -82,10 +90,13 @@ ExitStatus CheckVerb::check(FindingList& findings) const
         refuse("check needs a template, or --explain; see mekbom check --help");
     ReportRequest request;
     request.allowed = m_allowed;
-    if (m_templateName != kDefaultTemplate)
-        request.pTemplate = std::make_unique<FileSource>(m_templateName);
+    request.inputUnits = m_inputUnits.pairs();
+    request.where = m_where;
+    request.rowTotals = m_rowTotals;
+    if (m_templateName != TemplateFile::kDefault)
+        request.pTemplate = TemplateFile::open(m_templateName, "template");
     if (!m_data.empty())
-        request.pParts = m_data == "-" ? std::make_unique<FileSource>() : std::make_unique<FileSource>(m_data);
+        request.pParts = DataFile::open(m_data);
     ReportJob job(std::move(request));
     const ExitStatus status = job.check();
     if (m_format == kJson)

@@ -8,6 +8,7 @@
 // from being read at all is a message on standard error as anywhere else, or, among the others, JSON.
 #pragma once
 
+#include "PairOption.h"
 #include "Verb.h"
 
 #include <string>
@@ -25,10 +26,13 @@ private:
     ExitStatus explain() const;
     ExitStatus check(FindingList& findings) const;
 
-    std::string m_templateName; // a file or "default"
-    std::string m_data;         // a file; empty for none
+    std::string m_templateName; // a file, a shipped list or "default"
+    std::string m_data;         // a file or "hall"; empty for none
     std::string m_format = "text";
     std::string m_code; // to explain; empty for none
+    PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
+    std::string m_where;
+    std::vector<std::string> m_rowTotals;
     std::vector<std::string> m_allowed;
 };
 }

@@ -79,6 +79,13 @@ TEST(TemplateChoiceTest, DataMaySuitNothing)
     EXPECT_EQ(kNone, choiceFor({ "%A" }, { fileOf("empty", {}) }));
 }
 
+TEST(TemplateChoiceTest, AListAboutRowsThatCannotBeThereSuitsNothing)
+{
+    // Half of a cutting list's data, but no %Name: all rows would be filtered out.
+    EXPECT_EQ(kNone, choiceFor({ "%Mark", "%Profile", "%Material", "%Quantity", "%Length", "%Weight" }));
+    EXPECT_EQ("parts-list", choiceFor({ "%PNum", "%Profile", "%Material", "%Quantity", "%Length", "%Weight" }));
+}
+
 TEST(TemplateChoiceTest, AMalformedTemplateIsNamed)
 {
     EXPECT_EQ(0U, faultOf(

@@ -54,6 +54,32 @@ TEST_F(CheckVerbTest, DataShowMore)
     EXPECT_NE(std::string::npos, run.output.find("warning MB503: \"%Material\" varies: S235, S355"));
 }
 
+TEST_F(CheckVerbTest, DataAreReadAsReportReadsThem)
+{
+    const std::string frame = m_folder.file("frame.csv", "Name,Material,Quantity,Length,Weight,Paint\n"
+                                                         "HEA200,S355,4,3185,537.6,3.69\nHEA200,S355,1,6000,,6.96\n");
+
+    const ProgramRun run = runHere({ "check", "cutting-list", "--data", frame });
+    const ProgramRun withUnit = runHere({ "check", "cutting-list", "--data", frame, "--input-unit", "%Paint=m2" });
+    const ProgramRun ofSome = runHere({ "check", "cutting-list", "--data", frame, "--input-unit", "%Paint=m2",
+                                        "--where", "%Weight", "--row-totals", "%Weight" });
+
+    EXPECT_EQ(kInvalidInput, run.status);
+    EXPECT_EQ(kDone, withUnit.status) << withUnit.errors;
+    EXPECT_NE(std::string::npos, withUnit.output.find("warning MB413: 1 of 2 rows have no number %Weight"));
+    EXPECT_EQ("", ofSome.output + ofSome.errors);
+}
+
+TEST_F(CheckVerbTest, ShippedListsAndDataGoByName)
+{
+    for (const char* const name : { "cutting-list", "assembly-list", "bolt-list", "parts-list" })
+    {
+        const ProgramRun run = runHere({ "check", name, "--data", "hall" });
+        EXPECT_EQ(kDone, run.status) << name;
+        EXPECT_EQ("", run.output + run.errors) << name;
+    }
+}
+
 TEST_F(CheckVerbTest, WhatIsAllowedIsNotTold)
 {
     EXPECT_EQ("", runHere({ "check", m_good, "--allow", "MB210,MB503" }).output);

@@ -129,11 +129,30 @@ TEST(ExplainVerbTest, AFooterOfTheHallInPounds)
 
 TEST(ExplainVerbTest, AGroupWithHeaderAndFooterOnOneLine)
 {
+    const ScratchFolder folder;
+    const std::string bolts = folder.file("bolts.json", R"({ "queryFilter": "%BoltName", "sections": [
+        { "type": "kGroupHeader", "summary": true,
+          "tuples": [ { "token": "%GroupBy:%BoltName" }, { "token": "%SortAscBy:%BoltName" }, { "token": "%BoltName" } ],
+          "children": [ { "type": "kDetails", "tuples": [ { "token": "%Handle" } ] } ] },
+        { "type": "kGroupFooter", "tuples": [ { "token": "%SumBy:%Quantity" } ] } ] })");
+
+    const ProgramRun run = runHere({ "explain", bolts, "--data", "hall", "--line", "2" });
+
+    EXPECT_EQ(0, run.status) << run.errors;
+    EXPECT_EQ(0U, run.output.find("Line 2, level 0, header and footer: BoltName \"Anchor M24*600\", ")) << run.output;
+    EXPECT_NE(std::string::npos, run.output.find("\nOpened by row 131 (322).\nCounts row 131 (322), row 142 (32D)"))
+        << run.output;
+    EXPECT_NE(std::string::npos, run.output.find("added up: 4 + 4 + 4 + 4 + 4 + 4 + 4 + 4 + 4 + 4 + 4 + 4 = 48\n"))
+        << run.output;
+}
+
+TEST(ExplainVerbTest, ALineThatCountsRows)
+{
     const ProgramRun run = runHere({ "explain", "bolt-list", "--data", "hall", "--line", "2" });
 
     EXPECT_EQ(0, run.status) << run.errors;
-    EXPECT_EQ(0U, run.output.find("Line 2, level 1, header and footer: Bolt \"Anchor M24*600\", ")) << run.output;
-    EXPECT_NE(std::string::npos, run.output.find("\nOpened by row 131 (322).\nCounts row 131 (322), row 142 (32D)"))
+    EXPECT_EQ(0U, run.output.find("Line 2, level 1, details: Bolt \"Anchor M24*600\", ")) << run.output;
+    EXPECT_NE(std::string::npos, run.output.find("\nMade by row 131 (322).\nCounted into it: row 142 (32D), row 206"))
         << run.output;
     EXPECT_NE(std::string::npos, run.output.find("added up: 4 + 4 + 4 + 4 + 4 + 4 + 4 + 4 + 4 + 4 + 4 + 4 = 48\n"))
         << run.output;
