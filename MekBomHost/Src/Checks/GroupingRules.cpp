@@ -52,9 +52,15 @@ std::string mendedRequest(const CheckedTuple& tuple)
 {
     return tuple.token.substr(0, tuple.token.find(':') + 1) + mendedList(tuple.request.subject);
 }
+
+bool saysOrder(const CheckedTemplate& list, const std::string& token)
+{
+    const ColumnStyle* const pStyle = list.file().columnStyleOf(Utf8::toWide(token));
+    return pStyle != nullptr && pStyle->order != ColumnStyle::kByCatalogue;
+}
 }
 
-void GroupingRules::run()
+void GroupingRules::run(bool hasData)
 {
     for (std::size_t i = 0; i < m_list.levels().size(); ++i)
         findUnsortedGroups(i);
@@ -71,8 +77,8 @@ void GroupingRules::run()
         findSortingWithoutEffect(*pTuple);
         findDescendingThatGoesOn(*pTuple);
         findPlainOrder(*pTuple);
-        findSortingByUnknown(*pTuple);
     }
+    findSortingByUnknown(hasData);
     findFilters();
 }
 
@@ -216,32 +222,23 @@ void GroupingRules::findGroupingByFloat(const CheckedTuple& tuple)
                        "\"the data are rounded\" }");
 }
 
-bool GroupingRules::saysOrder(const std::string& token) const
-{
-    const ColumnStyle* const pStyle = m_list.file().columnStyleOf(Utf8::toWide(token));
-    return pStyle != nullptr && pStyle->order != ColumnStyle::kByCatalogue;
-}
-
 void GroupingRules::findPlainOrder(const CheckedTuple& tuple)
 {
     for (const Element& element : tuple.request.elements)
-        if (isRead(tuple) && isNumberedText(element.token) && !saysOrder(element.token))
+        if (isRead(tuple) && isNumberedText(element.token) && !saysOrder(m_list, element.token))
             m_mistakes.add(MistakeCodes::kPlainOrder, tuple,
                            inQuotes(tuple.token) + " sorts " + element.token + " as plain text: \"10\" before \"2\"",
                            "say \"order\": \"natural\" in the column " + inQuotes(element.token));
 }
 
-// The order of numbers is that of their values, and sorting by a handle is hardly meant to put it in order.
-void GroupingRules::findSortingByUnknown(const CheckedTuple& tuple)
+void GroupingRules::findSortingByUnknown(bool hasData)
 {
-    for (const Element& element : tuple.request.elements)
-        if (isRead(tuple) && element.sort == TokenRequest::kToken && !m_tokens.isInCatalogue(element.token) &&
-            !m_tokens.isNumeric(element.token) && !saysOrder(element.token))
-            m_mistakes.add(MistakeCodes::kSortingByUnknown, tuple,
-                           inQuotes(tuple.token) + " sorts by " + element.token +
+    for (const SortKey& key : sortKeysOfOpenOrder(m_list, m_tokens))
+        if (!hasData || !m_tokens.isOfData(key.token))
+            m_mistakes.add(MistakeCodes::kSortingByUnknown, *key.pTuple,
+                           inQuotes(key.pTuple->token) + " sorts by " + key.token +
                                ", which the catalogue does not know: texts come in plain order, \"10\" before \"2\"",
-                           "say \"order\": \"natural\" or \"plain\" in the column " + inQuotes(element.token) +
-                               ", or that it is a number: \"tokens\": { " + inQuotes(element.token) + ": \"number\" }");
+                           helpForOpenOrder(key.token));
 }
 
 void GroupingRules::findGroupedTwice(const CheckedTuple& tuple)
@@ -262,5 +259,22 @@ void GroupingRules::findFilters()
     for (const CheckedTuple* const pTuple : m_list.tuplesOf(TokenRequest::kFilter))
         m_mistakes.add(MistakeCodes::kFilterWithoutEffect, *pTuple, inQuotes(pTuple->token) + " filters no row",
                        "write the condition into \"queryFilter\" of the template, and take the tuple out");
+}
+
+std::vector<SortKey> sortKeysOfOpenOrder(const CheckedTemplate& list, const KnownTokens& tokens)
+{
+    std::vector<SortKey> keys;
+    for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kSort))
+        for (const Element& element : pTuple->request.elements)
+            if (!pTuple->isFooter && element.sort == TokenRequest::kToken && !tokens.isInCatalogue(element.token) &&
+                !tokens.isNumeric(element.token) && !saysOrder(list, element.token))
+                keys.push_back({ pTuple, element.token });
+    return keys;
+}
+
+std::string helpForOpenOrder(const std::string& token)
+{
+    return "say \"order\": \"natural\" or \"plain\" in the column " + inQuotes(token) +
+           ", or that it is a number: \"tokens\": { " + inQuotes(token) + ": \"number\" }";
 }
 }

@@ -13,7 +13,8 @@ class GroupingRules : private TemplateRules
 public:
     using TemplateRules::TemplateRules;
 
-    void run();
+    // `hasData` leaves it to the rules on data to say in what order their own columns come.
+    void run(bool hasData);
 
 private:
     void findUnsortedGroups(std::size_t level);
@@ -25,12 +26,25 @@ private:
     void findDescendingThatGoesOn(const CheckedTuple& tuple);
     void findGroupingByFloat(const CheckedTuple& tuple);
     void findPlainOrder(const CheckedTuple& tuple);
-    void findSortingByUnknown(const CheckedTuple& tuple);
+    void findSortingByUnknown(bool hasData);
     void findGroupedTwice(const CheckedTuple& tuple);
     void findFilters();
 
     bool isRead(const CheckedTuple& tuple) const;
-    bool saysOrder(const std::string& token) const;
     std::vector<std::string> sortKeys() const;
 };
+
+// One token that rows are sorted by, and the tuple that asks for it, which outlives the key.
+struct SortKey
+{
+    const CheckedTuple* pTuple;
+    std::string token;
+};
+
+// The keys of which neither the catalogue nor the template says how they are sorted. The order of numbers is that of
+// their values, and sorting by a handle is hardly meant to put it in order.
+std::vector<SortKey> sortKeysOfOpenOrder(const CheckedTemplate& list, const KnownTokens& tokens);
+
+// How to say it.
+std::string helpForOpenOrder(const std::string& token);
 }

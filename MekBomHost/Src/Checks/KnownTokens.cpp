@@ -69,6 +69,16 @@ bool KnownTokens::hasUnit(const std::string& token) const
            VorBomTemplateUnits::kNoUnit;
 }
 
+bool KnownTokens::isSharedByRows(const std::string& token) const
+{
+    if (!isInCatalogue(token))
+        return false;
+    for (const char* const part : { "%Assembly", "InAssembly", "InAllAssembly", "InPhase", "InModel" })
+        if (token.find(part) != std::string::npos)
+            return true;
+    return token == "%MQuantity";
+}
+
 bool KnownTokens::isNatural(const std::string& token) const
 {
     const ColumnStyle* const pStyle = m_template.columnStyleOf(Utf8::toWide(token));

@@ -44,6 +44,10 @@ public:
     // Whether numbers of that token are shown in a unit.
     bool hasUnit(const std::string& token) const;
 
+    // Whether the token tells of a row's whole assembly, of a phase or of the model: rows of one assembly all have the
+    // same %AssemblyWeight, which none of them adds to the list.
+    bool isSharedByRows(const std::string& token) const;
+
     // Whether rows are sorted by the token in natural order, "P2" before "P10".
     bool isNatural(const std::string& token) const;
 

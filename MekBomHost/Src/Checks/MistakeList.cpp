@@ -32,11 +32,11 @@ void MistakeList::add(const FindingCode& code, const TemplatePlace& place, const
     addAt(place, findingOf(code, what, help));
 }
 
-void MistakeList::addNote(const FindingCode& code, const CheckedTuple& tuple, const std::string& what,
-                          const std::string& help)
+void MistakeList::add(const FindingCode& code, Finding::eSeverity severity, const CheckedTuple& tuple,
+                      const std::string& what, const std::string& help)
 {
     Finding finding = findingOf(code, what, help);
-    finding.severity = Finding::kNote;
+    finding.severity = severity;
     addAt(placeOf(tuple), std::move(finding));
 }
 

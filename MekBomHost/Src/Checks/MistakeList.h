@@ -26,8 +26,9 @@ public:
              const std::string& help);
     void add(const FindingCode& code, const TemplatePlace& place, const std::string& what, const std::string& help);
 
-    // A mistake that is less bad than its code says.
-    void addNote(const FindingCode& code, const CheckedTuple& tuple, const std::string& what, const std::string& help);
+    // A mistake that is less bad, or worse, than its code says.
+    void add(const FindingCode& code, Finding::eSeverity severity, const CheckedTuple& tuple, const std::string& what,
+             const std::string& help);
 
     // Of whoever reads formulas: a finding without a place.
     void add(Finding finding, const CheckedTuple& tuple);

@@ -54,6 +54,7 @@ void SumRules::run()
         findStartElsewhere(*pTuple);
         findSumOfMissingFormula(*pTuple);
         findSumOfRequest(*pTuple);
+        findSumOfShared(*pTuple);
     }
     for (const CheckedTuple& tuple : m_list.tuples())
         findFooterWithoutSum(tuple);
@@ -102,10 +103,10 @@ void SumRules::findStartElsewhere(const CheckedTuple& tuple)
         m_mistakes.add(MistakeCodes::kSumStartsElsewhere, tuple,
                        inQuotes(tuple.token) + " starts with " + shown + ", which is part of every total", help);
     else if (start.type() == VorBomDataValue::kStringData && !shown.empty())
-        m_mistakes.addNote(MistakeCodes::kSumStartsElsewhere, tuple,
-                           inQuotes(tuple.token) + " starts with the text " + inQuotes(shown) +
-                               ", which is printed where no row has a number",
-                           help);
+        m_mistakes.add(MistakeCodes::kSumStartsElsewhere, Finding::kNote, tuple,
+                       inQuotes(tuple.token) + " starts with the text " + inQuotes(shown) +
+                           ", which is printed where no row has a number",
+                       help);
 }
 
 // What the footer's own groups have in common is the same in the last row as in all others.
@@ -174,6 +175,21 @@ void SumRules::findSumOfRequest(const CheckedTuple& tuple)
         m_mistakes.add(MistakeCodes::kSumOfRequest, tuple,
                        inQuotes(tuple.token) + " sums a token " + inQuotes(summed) + ", which no row has",
                        suggestion("write ", "%SumBy:" + TokenRequest::of(summed).subject));
+}
+
+// A formula may make it the row's own: "%AssemblyWeight*%IsMP" is that of the assembly in one row of it alone.
+void SumRules::findSumOfShared(const CheckedTuple& tuple)
+{
+    const std::vector<std::string> summed = dataTokensOf(tuple.request);
+    const auto isShared = [this](const std::string& token) { return m_tokens.isSharedByRows(token); };
+    if (!tuple.isFooter || summed.empty() || !std::all_of(summed.begin(), summed.end(), isShared))
+        return;
+    m_mistakes.add(MistakeCodes::kPiecesNotCounted, tuple,
+                   inQuotes(tuple.token) + " adds " + summed.front() +
+                       " once for each row, though rows of one assembly, phase or model share it",
+                   "show " + inQuotes(tuple.request.subject) +
+                       " in the header of its group instead, or sum what is the row's own: "
+                       "\"%SumBy:%Formula:%Weight*%Quantity\"");
 }
 
 void SumRules::findFormulaOnlyInFooter(const CheckedTuple& tuple)

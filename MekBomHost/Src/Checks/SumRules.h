@@ -20,6 +20,7 @@ private:
     void findFooterWithoutSum(const CheckedTuple& tuple);
     void findSumOfMissingFormula(const CheckedTuple& tuple);
     void findSumOfRequest(const CheckedTuple& tuple);
+    void findSumOfShared(const CheckedTuple& tuple);
     void findFormulaOnlyInFooter(const CheckedTuple& tuple);
 
     bool isComputedInHeader(const std::string& formulaToken) const;

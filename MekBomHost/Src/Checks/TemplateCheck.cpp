@@ -28,7 +28,7 @@ std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens
     if (list.levels().empty())
         return mistakes.findings();
     StructureRules(list, tokens, mistakes).run();
-    GroupingRules(list, tokens, mistakes).run();
+    GroupingRules(list, tokens, mistakes).run(hasData);
     SumRules(list, tokens, mistakes).run();
     FormulaMistakes(list, tokens, mistakes).run();
     TokenRules(list, tokens, mistakes).run(hasData);

@@ -102,4 +102,35 @@ bool startsWith(const std::string& text, const std::string& prefix)
 {
     return text.compare(0, prefix.size(), prefix) == 0;
 }
+
+std::vector<std::string> dataTokensOf(const TokenRequest& request)
+{
+    std::vector<std::string> tokens;
+    switch (request.kind)
+    {
+        case TokenRequest::kShow: tokens.push_back(request.subject); break;
+        case TokenRequest::kGroup:
+        case TokenRequest::kSort:
+            for (const TokenRequest::Element& element : request.elements)
+                if (element.sort == TokenRequest::kToken)
+                    tokens.push_back(element.token);
+            break;
+        case TokenRequest::kSum:
+        {
+            const TokenRequest summed = TokenRequest::of(request.subject);
+            if (summed.kind == TokenRequest::kFormula)
+                return dataTokensOf(summed);
+            if (summed.kind == TokenRequest::kShow && request.subject.find_first_of(" ,") == std::string::npos)
+                tokens.push_back(request.subject);
+            break;
+        }
+        case TokenRequest::kFormula:
+            for (const VorString& token : VorBomDataToken::getTokensFromFormula(Utf8::toWide(request.subject)))
+                if (token.find(L";", 0) < 0 && token.find(L":", 0) < 0) // both are mistakes of the formula
+                    tokens.push_back(Utf8::toBytes(token));
+            break;
+        default: break;
+    }
+    return tokens;
+}
 }

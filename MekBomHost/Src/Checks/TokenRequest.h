@@ -50,6 +50,10 @@ struct TokenRequest
     std::vector<Element> elements; // of kGroup and kSort
 };
 
+// The tokens that a row is asked for: those of a formula, be it summed or not, or the one that is shown, summed, or that
+// groups and sorts.
+std::vector<std::string> dataTokensOf(const TokenRequest& request);
+
 // "%GroupBy:", "%SortAscBy:" and so on: what can stand in front of a token.
 const std::vector<std::string>& requestPrefixes();
 

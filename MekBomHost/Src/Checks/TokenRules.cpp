@@ -7,45 +7,13 @@
 
 #include "VorBomDataToken.h"
 
-#include "MekRoots/Exp/VorArray.h"
-
 #include <algorithm>
 
 namespace mekbom
 {
 namespace
 {
-// What a token asks the row for: those of a formula, or the one that is shown, summed, or that groups and sorts.
-std::vector<std::string> dataTokensOf(const TokenRequest& request)
-{
-    std::vector<std::string> tokens;
-    switch (request.kind)
-    {
-        case TokenRequest::kShow: tokens.push_back(request.subject); break;
-        case TokenRequest::kGroup:
-        case TokenRequest::kSort:
-            for (const TokenRequest::Element& element : request.elements)
-                if (element.sort == TokenRequest::kToken)
-                    tokens.push_back(element.token);
-            break;
-        case TokenRequest::kSum:
-        {
-            const TokenRequest summed = TokenRequest::of(request.subject);
-            if (summed.kind == TokenRequest::kFormula)
-                return dataTokensOf(summed);
-            if (summed.kind == TokenRequest::kShow && request.subject.find_first_of(" ,") == std::string::npos)
-                tokens.push_back(request.subject);
-            break;
-        }
-        case TokenRequest::kFormula:
-            for (const VorString& token : VorBomDataToken::getTokensFromFormula(Utf8::toWide(request.subject)))
-                if (token.find(L";", 0) < 0 && token.find(L":", 0) < 0) // both are mistakes of the formula
-                    tokens.push_back(Utf8::toBytes(token));
-            break;
-        default: break;
-    }
-    return tokens;
-}
+const char* const kPieces = "%Quantity";
 
 // What describes the objects of one mark: their assembly, or the part that they all are. The data may say otherwise,
 // and the rules on data tell then.
@@ -72,7 +40,8 @@ void TokenRules::run(bool hasData)
         findUnknownTokens(tuple);
         findUnknownColumn(tuple);
         findMalformedColumn(tuple);
-        findNumberUnderText(tuple);
+        findNumberAsData(tuple);
+        findPiecesOfFirstRow(tuple);
     }
     findUnknownUnits();
     findNumbersWithoutUnit();
@@ -164,7 +133,7 @@ std::vector<const CheckedTuple*> tuplesThatMayVary(const CheckedTemplate& list, 
     for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kShow))
         if (!list.isDeepest(pTuple->level) && list.file().styleOf(pTuple->pSection).isPrinted &&
             tokens.knows(pTuple->token) && !(pTuple->isFooter && tokens.isNumeric(pTuple->token)) &&
-            !contains(list.groupTokensDownTo(pTuple->level), pTuple->token))
+            !contains(list.groupTokensDownTo(pTuple->level), pTuple->token) && pTuple->token != kPieces)
             tuples.push_back(pTuple);
     return tuples;
 }
@@ -197,14 +166,42 @@ void TokenRules::findNumbersWithoutUnit()
     }
 }
 
-void TokenRules::findNumberUnderText(const CheckedTuple& tuple)
+// A text starts with whatever is not a number, and a number with 0, which nobody takes for a weight or a price. What is
+// neither in the catalogue nor in the data is a constant of the template, and meant to be the same in all rows.
+void TokenRules::findNumberAsData(const CheckedTuple& tuple)
 {
-    const auto type = tuple.value().type();
-    if (tuple.request.kind == TokenRequest::kShow && m_tokens.kindOf(tuple.token) == KnownTokens::kText &&
-        (type == VorBomDataValue::kIntData || type == VorBomDataValue::kDoubleData))
-        m_mistakes.add(MistakeCodes::kNumberUnderText, tuple,
-                       inQuotes(tuple.token) + " is a text and starts with " + Utf8::toBytes(tuple.value().asString()) +
+    const VorBomDataValue& start = tuple.value();
+    const bool isWhole = start.type() == VorBomDataValue::kIntData;
+    if (tuple.request.kind != TokenRequest::kShow || !(isWhole || start.type() == VorBomDataValue::kDoubleData))
+        return;
+    const bool isText = m_tokens.kindOf(tuple.token) == KnownTokens::kText;
+    const bool isZero = start.compare(isWhole ? VorBomDataValue(0) : VorBomDataValue(0.0)) == 0;
+    const bool isConstant = !m_tokens.isInCatalogue(tuple.token) && !m_tokens.isOfData(tuple.token);
+    const std::string shown = Utf8::toBytes(start.asString());
+    if (isText)
+        m_mistakes.add(MistakeCodes::kNumberAsData, tuple,
+                       inQuotes(tuple.token) + " is a text and starts with " + shown +
                            ", which is printed wherever a row lacks the text",
                        "take the \"value\" out, or write \"value\": \"\"");
+    else if (!isZero && !isConstant)
+        m_mistakes.add(MistakeCodes::kNumberAsData, tuple,
+                       inQuotes(tuple.token) + " starts with " + shown +
+                           ", which is printed like data wherever a row lacks the number",
+                       "take the \"value\" out: the cell stays blank then");
+}
+
+// Told whether or not there are data: a group whose rows all stand for one piece shows 1, however many there are.
+void TokenRules::findPiecesOfFirstRow(const CheckedTuple& tuple)
+{
+    const bool isComputed = tuple.request.kind == TokenRequest::kFormula;
+    if (tuple.isFooter || m_list.isDeepest(tuple.level) || !(isComputed || tuple.request.kind == TokenRequest::kShow) ||
+        !contains(dataTokensOf(tuple.request), kPieces) || !m_list.file().styleOf(tuple.pSection).isPrinted ||
+        contains(m_list.groupTokensDownTo(tuple.level), kPieces))
+        return;
+    m_mistakes.add(MistakeCodes::kTokenVariesInGroup, tuple,
+                   inQuotes(tuple.token) + " counts the pieces of one row: the " + typeName(*tuple.pSection) +
+                       " shows those of the first row, and not of all rows below it",
+                   "write " + inQuotes("%SumBy:" + tuple.token) + " in its footer" +
+                       (isComputed ? ", and the formula in the details" : ""));
 }
 }

@@ -23,13 +23,14 @@ private:
     void findMalformedColumn(const CheckedTuple& tuple);
     void findVaryingTokens();
     void findNumbersWithoutUnit();
-    void findNumberUnderText(const CheckedTuple& tuple);
+    void findNumberAsData(const CheckedTuple& tuple);
+    void findPiecesOfFirstRow(const CheckedTuple& tuple);
 
     void addUnknown(const CheckedTuple& tuple, const std::string& token, const std::string& effect);
     bool isUsed(const std::string& token) const;
 };
 
 // The tuples that show, in a header or footer, what need not be the same in all rows of its groups: neither what they
-// are grouped by, nor a number in a footer, of which SumRules tells.
+// are grouped by, nor a number in a footer, of which SumRules tells, nor the pieces of a row, which no group shares.
 std::vector<const CheckedTuple*> tuplesThatMayVary(const CheckedTemplate& list, const KnownTokens& tokens);
 }

@@ -65,7 +65,7 @@ const std::vector<FindingCode>& all()
         kColumnTokenMalformed,
         kTokenVariesInGroup,
         kNumberWithoutUnit,
-        kNumberUnderText,
+        kNumberAsData,
         kWholeNumberUnderUnit,
         kKindsMixed,
         kTokenTwiceInRow,

@@ -79,8 +79,9 @@ inline constexpr FindingCode kSumOfMissingFormula = { "MB306", Finding::kError,
                                                       "A total sums a formula that the details do not compute." };
 inline constexpr FindingCode kTotalsLoseRows = { "MB307", Finding::kError,
                                                  "Lines that read alike are merged, and totals lose their rows." };
-inline constexpr FindingCode kPiecesNotCounted = { "MB308", Finding::kWarning,
-                                                   "A total adds values of one piece while rows stand for several." };
+inline constexpr FindingCode kPiecesNotCounted = {
+    "MB308", Finding::kWarning, "A total adds once per row what is of one piece, or of a whole assembly."
+};
 inline constexpr FindingCode kSumOfRequest = { "MB309", Finding::kWarning, "A total sums what is a request itself." };
 inline constexpr FindingCode kFormulaTooShort = { "MB401", Finding::kError,
                                                   "A formula of three characters or fewer is never computed." };
@@ -140,8 +141,8 @@ inline constexpr FindingCode kTokenVariesInGroup = {
 };
 inline constexpr FindingCode kNumberWithoutUnit = { "MB504", Finding::kNote,
                                                     "A number of the user's own has no unit." };
-inline constexpr FindingCode kNumberUnderText = {
-    "MB505", Finding::kWarning, "A column of texts starts with a number, which shows where a row lacks the text."
+inline constexpr FindingCode kNumberAsData = {
+    "MB505", Finding::kWarning, "A column starts with a number, which is printed like data where a row lacks its own."
 };
 inline constexpr FindingCode kWholeNumberUnderUnit = {
     "MB506", Finding::kWarning, "A whole number stands under a token with a unit, and is printed without it."

@@ -73,7 +73,9 @@ std::vector<Mistake> ofGrouping()
           groupedBy({ "%GroupBy:%Phase", "%SortAscBy:%Phase", "%Phase" },
                     R"("columns": [ { "token": "%Phase", "order": "natural" } ])") },
         { &MistakeCodes::kSortingByUnknown, "sorting by a token that the catalogue lacks (%PosNum)",
-          "Texts come in plain order, \"10\" before \"2\".",
+          "Texts come in plain order, \"10\" before \"2\". With data it is told of columns of texts alone: numbers "
+          "come "
+          "in the order of their values.",
           "Say \"order\": \"natural\" or \"plain\" in the column of the token, or declare it a number in \"tokens\".",
           groupedBy({ "%GroupBy:%PosNum", "%SortAscBy:%PosNum", "%PosNum" }, R"("tokens": { "%PosNum": "text" })"),
           groupedBy({ "%GroupBy:%PosNum", "%SortAscBy:%PosNum", "%PosNum" }, R"("tokens": { "%PosNum": "text" },

@@ -51,9 +51,15 @@ std::vector<Mistake> ofSums()
           groupedList(kByMaterial, { "%Name", "%Weight" }, kWeights, R"("allow": { "MB106": "see MB307" })"),
           groupedList(kByMaterial, { "%Name", "%Weight" }, kWeights, R"("equalLines": "count")"),
           kAlike + std::string("HEA200,S235,10\n"), kAlike + std::string("HEA200,S235,10\n") },
-        { &MistakeCodes::kPiecesNotCounted, "%SumBy:%Weight while rows stand for several pieces",
-          "Values of a row are those of one piece, and are added once per row.",
-          "Sum a formula that the details compute: %SumBy:%Formula:%Weight*%Quantity.",
+        { &MistakeCodes::kPiecesNotCounted,
+          "%SumBy:%Weight, or %SumBy:%Formula:%Weight*1.05, while rows stand for several pieces; "
+          "%SumBy:%AssemblyWeight",
+          "Values of a row are those of one piece, and are added once per row. What belongs to a whole assembly, phase "
+          "or model is added again by each of its rows. With \"equalLines\": \"count\" a value of one piece is an "
+          "error: lines add it up to what is neither that of one piece nor that of all.",
+          "Sum a formula that the details compute: %SumBy:%Formula:%Weight*%Quantity. Show %AssemblyWeight in the "
+          "header "
+          "of its group.",
           groupedList(kByMaterial, { "%PNum", "%Weight" }, kWeights),
           groupedList(kByMaterial, detailsWithFormula, { total }), kPieces + std::string("P1,S235,10,4\n"),
           kPieces + std::string("P1,S235,10,4\n") },

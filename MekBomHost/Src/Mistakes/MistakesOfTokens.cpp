@@ -29,8 +29,10 @@ std::vector<Mistake> ofTokens()
         { &MistakeCodes::kTokenVariesInGroup,
           "a token in a header or footer that is neither a grouping token of its level nor of one around it",
           "The value of the group's first row is shown in the header, that of the last row that counts in the footer. "
-          "With data it is told only where it varies.",
-          "Group by it as well, or show it in the details. What belongs to a mark needs no more than the mark: %MName "
+          "With data it is told only where it varies; lengths and the like that differ by less than 0.005 do not. "
+          "%Quantity, or a formula with it, is told in every header: one row's pieces are never those of the group.",
+          "Group by it as well, or show it in the details; sum pieces in the footer. What belongs to a mark needs no "
+          "more than the mark: %MName "
           "within groups by %MNum, %Material within groups by %PNum.",
           groupedList(withName, kParts, kWeights),
           groupedList({ "%GroupBy:%Material,%Name", "%SortAscBy:%Material,%Name", "%Material", "%Name" }, kParts,
@@ -40,9 +42,12 @@ std::vector<Mistake> ofTokens()
           "Give it a kind if it measures something: \"tokenUnits\": { \"%Gap\": \"kDistanceUnit\" }.",
           showing("%Gap", R"("tokens": { "%Gap": "number" })"),
           showing("%Gap", R"("tokens": { "%Gap": "number" }, "tokenUnits": { "%Gap": "kDistanceUnit" })") },
-        { &MistakeCodes::kNumberUnderText, "a starting value 0 on a column of texts",
-          "\"0\" is printed wherever a row lacks the text.", "Take the \"value\" out.",
-          showing(R"({ "token": "%Name", "value": 0 })"), showing(R"({ "token": "%Name", "value": "" })") },
+        { &MistakeCodes::kNumberAsData,
+          "a starting value 0 on a column of texts, or one other than 0 on a column of numbers",
+          "It is printed wherever a row lacks the text or the number, and reads like data. A token that neither the "
+          "catalogue nor the data have is a constant of the template, and may start as it likes.",
+          "Take the \"value\" out.", showing(R"({ "token": "%Width", "value": 1000.0 })"),
+          showing(R"({ "token": "%Width", "value": 0.0 })") },
         { &MistakeCodes::kWholeNumberUnderUnit, "a whole number under a token with a unit",
           std::string("It is printed as it is, in the model's unit, whatever units are asked for.") + kForeign,
           "Hand over a number with decimals.", showing("%Length"), showing("%Length"), "", "", true },

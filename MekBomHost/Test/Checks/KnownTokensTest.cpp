@@ -58,4 +58,13 @@ TEST_F(KnownTokensTest, TheNearestTokenIsTheOneThatWasMeant)
     EXPECT_EQ("%SumBy:%Weight", m_tokens.nearestTo("%Sumby:%Weight"));
     EXPECT_EQ("", m_tokens.nearestTo("%Zeppelin"));
 }
+
+TEST_F(KnownTokensTest, WhatIsOfAnAssemblyAPhaseOrTheModelIsSharedByRows)
+{
+    for (const char* const token : { "%AssemblyWeight", "%AssemblyExactWeight", "%MQuantity", "%MQuantityInPhase",
+                                     "%PaintInAssembly", "%WeightInAllAssemblyInPhase", "%SawLengthInModel" })
+        EXPECT_TRUE(m_tokens.isSharedByRows(token)) << token;
+    for (const char* const token : { "%Weight", "%Quantity", "%IsMP", "%Shift", "%GapInModel" })
+        EXPECT_FALSE(m_tokens.isSharedByRows(token)) << token;
+}
 }

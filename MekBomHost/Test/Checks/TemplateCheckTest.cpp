@@ -202,4 +202,49 @@ TEST(TemplateCheckTest, TheTemplatesOfTestsAndBenchmarksHaveNoMistakes)
          { MEK_TEST_DIR "/Reports/frame-weights.json", MEK_TEST_DIR "/../Bench/large-report.json" })
         EXPECT_EQ("", linesOf(mistakesIn(readFile(path)))) << path;
 }
+
+TEST(TemplateCheckTest, WhatRowsShareIsAddedByEachOfThem)
+{
+    EXPECT_EQ("MB308", codesInFooter({ "%SumBy:%AssemblyWeight" }));
+    EXPECT_EQ("MB308", codesInFooter({ "%SumBy:%MQuantity" }));
+    EXPECT_EQ("MB308", codesInFooter({ "%SumBy:%QuantityInAllAssemblyInPhase" }));
+    EXPECT_EQ("MB308", codesInFooter({ "%SumBy:%LengthInModel" }));
+    EXPECT_EQ("MB308", codesIn(kByMaterial, { "%PNum", "%Formula:%AssemblyWeight*%MQuantity" },
+                               { "%SumBy:%Formula:%AssemblyWeight*%MQuantity" }));
+    EXPECT_EQ("", codesInFooter({ "%SumBy:%Weight", "%SumBy:%Quantity" }));
+}
+
+TEST(TemplateCheckTest, AFormulaMayGiveTheAssemblyToOneOfItsRows)
+{
+    EXPECT_EQ("", codesIn(kByMaterial, { "%PNum", "%Formula:%AssemblyWeight*%IsMP" },
+                          { "%SumBy:%Formula:%AssemblyWeight*%IsMP" }));
+}
+
+TEST(TemplateCheckTest, AHeaderNeverShowsThePiecesOfItsGroup)
+{
+    const std::string list = groupedList({ "%GroupBy:%PNum", "%SortAscBy:%PNum", "%PNum", "%Quantity" }, kParts, {});
+    EXPECT_EQ("MB503", codesOf(mistakesIn(list)));
+    EXPECT_EQ("MB503", codesOf(mistakesIn(list, { "%PNum", "%Length", "%Weight", "%Quantity" })));
+
+    EXPECT_EQ("MB503", codesInGroup({ "%GroupBy:%PNum", "%SortAscBy:%PNum", "%Formula:%Weight*%Quantity" }));
+    EXPECT_EQ("", codesInGroup({ "%GroupBy:%Quantity", "%SortAscBy:%Quantity", "%Quantity" }));
+}
+
+TEST(TemplateCheckTest, ANumberOtherThanZeroIsPrintedLikeData)
+{
+    EXPECT_EQ("MB505", codesInDetails({ "%PNum", R"({ "token": "%Weight", "value": 1000.0 })" }));
+    EXPECT_EQ("MB505", codesInDetails({ "%PNum", R"({ "token": "%Quantity", "value": 1 })" }));
+    EXPECT_EQ("MB505", codesInDetails({ "%PNum", R"({ "token": "%Name", "value": 0 })" }));
+    EXPECT_EQ("", codesInDetails({ "%PNum", R"({ "token": "%Name", "value": "" })" }));
+    EXPECT_EQ("", codesInDetails({ "%PNum", R"({ "token": "%Weight", "value": 0.0 })" }));
+    EXPECT_EQ("", codesInDetails({ "%PNum", R"({ "token": "%Weight", "value": 0 })" }));
+}
+
+TEST(TemplateCheckTest, AConstantOfTheTemplateMayStartAsItLikes)
+{
+    const std::string list = groupedList(kByMaterial, { "%PNum", R"({ "token": "%Cost", "value": 99 })" }, {},
+                                         R"("tokens": { "%Cost": "number" })");
+    EXPECT_EQ("MB504", codesOf(mistakesIn(list)));
+    EXPECT_EQ("MB505 MB504", codesOf(mistakesIn(list, { "%PNum", "%Material", "%Cost" })));
+}
 }

@@ -55,4 +55,14 @@ TEST(TokenRequestTest, WhatIsNoTokenIsToldApart)
     EXPECT_EQ(TokenRequest::kComputed, sortOf("%GroupBy:%Formula:%A*2"));
     EXPECT_EQ(TokenRequest::kMalformed, sortOf("%GroupBy:"));
 }
+
+TEST(TokenRequestTest, RowsAreAskedForTheTokensOfAFormulaSummedOrNot)
+{
+    const std::vector<std::string> both = { "%Weight", "%Quantity" };
+    EXPECT_EQ(both, dataTokensOf(TokenRequest::of("%Formula:%Weight*%Quantity")));
+    EXPECT_EQ(both, dataTokensOf(TokenRequest::of("%SumBy:%Formula:%Weight*%Quantity")));
+    EXPECT_EQ(both, dataTokensOf(TokenRequest::of("%SortDescBy:%Weight,%Quantity")));
+    EXPECT_EQ(std::vector<std::string>{ "%Weight" }, dataTokensOf(TokenRequest::of("%SumBy:%Weight")));
+    EXPECT_EQ(std::vector<std::string>{ "%Weight" }, dataTokensOf(TokenRequest::of("%Weight")));
+}
 }

@@ -4,6 +4,8 @@
 #include "MistakeCodes.h"
 #include "Utf8.h"
 
+#include <algorithm>
+
 namespace mekbom
 {
 namespace
@@ -15,31 +17,53 @@ bool standsForSeveral(const VorBomDataRow& row)
             *static_cast<const int*>(pPieces->value().data()) != 1) ||
            row.EqualPartObjectHandles().length() > 0;
 }
+
+// "%Formula:%Weight*1.05*%Quantity", "%Formula:(%Length+%Width)*%Quantity"
+std::string timesPieces(const std::string& summed)
+{
+    const TokenRequest request = TokenRequest::of(summed);
+    const bool isProduct =
+        request.kind != TokenRequest::kFormula || request.subject.find_first_of("+-/^(") == std::string::npos;
+    return "%Formula:" + (isProduct ? request.subject : "(" + request.subject + ")") + "*%Quantity";
+}
 }
 
 const VorString PiecesRule::kPieces(L"%Quantity");
 
-bool PiecesRule::isOfOnePiece(const std::string& token, const KnownTokens& tokens)
+bool PiecesRule::isOfOnePiece(const CheckedTuple& total, const KnownTokens& tokens)
 {
-    const bool isOfMore = token.find("Assembly") != std::string::npos || token.find("InPhase") != std::string::npos ||
-                          token.find("InModel") != std::string::npos;
-    return tokens.kindOf(token) == KnownTokens::kNumber && tokens.hasUnit(token) && !isOfMore;
+    const std::vector<std::string> summed = dataTokensOf(total.request);
+    const auto isMeasure = [&tokens](const std::string& token)
+    { return tokens.kindOf(token) == KnownTokens::kNumber && tokens.hasUnit(token); };
+    const auto isOfMore = [&tokens](const std::string& token)
+    { return tokens.kindOf(token) == KnownTokens::kWhole || tokens.isSharedByRows(token); };
+    return std::any_of(summed.begin(), summed.end(), isMeasure) && std::none_of(summed.begin(), summed.end(), isOfMore);
 }
 
-PiecesRule::PiecesRule(const CheckedTuple& total) : m_total(total), m_token(Utf8::toWide(total.request.subject)) {}
+PiecesRule::PiecesRule(const CheckedTuple& total, Finding::eSeverity severity) : m_total(total), m_severity(severity)
+{
+    for (const std::string& token : dataTokensOf(total.request))
+        m_tokens.push_back(Utf8::toWide(token));
+}
 
 void PiecesRule::see(const VorBomDataRow& row)
 {
-    if (standsForSeveral(row) && row.getTupleAt(m_token) != nullptr)
+    if (standsForSeveral(row) && hasWhatIsSummed(row))
         ++m_numRows;
+}
+
+bool PiecesRule::hasWhatIsSummed(const VorBomDataRow& row) const
+{
+    return std::any_of(m_tokens.begin(), m_tokens.end(),
+                       [&row](const VorString& token) { return row.getTupleAt(token) != nullptr; });
 }
 
 void PiecesRule::tell(MistakeList& mistakes) const
 {
-    const std::string formula = "%Formula:" + m_total.request.subject + "*%Quantity";
+    const std::string formula = timesPieces(m_total.request.subject);
     if (m_numRows > 0)
         mistakes.add(
-            MistakeCodes::kPiecesNotCounted, m_total,
+            MistakeCodes::kPiecesNotCounted, m_severity, m_total,
             inQuotes(m_total.token) + " adds the value of one piece for each row, and " + std::to_string(m_numRows) +
                 (m_numRows == 1 ? " row stands" : " rows stand") + " for another number of pieces",
             "give the details a tuple " + inQuotes(formula) + ", and write " + inQuotes("%SumBy:" + formula) + " here");

@@ -1,9 +1,12 @@
 #include "RowsCheck.h"
 
 #include "CheckedTemplate.h"
+#include "GroupingRules.h"
 #include "MarkRule.h"
+#include "MistakeCodes.h"
 #include "OperandRule.h"
 #include "PiecesRule.h"
+#include "PlainOrderRule.h"
 #include "RowOriginRule.h"
 #include "RowRule.h"
 #include "TokenRules.h"
@@ -29,7 +32,7 @@ void addVaryingRules(Rules& rules, const CheckedTemplate& list, const KnownToken
             if (pTuple->level == level)
                 tuples.push_back(pTuple);
         if (!tuples.empty())
-            rules.push_back(std::make_unique<VaryingRule>(list.groupTokensDownTo(level), tuples));
+            rules.push_back(std::make_unique<VaryingRule>(list.groupTokensDownTo(level), tuples, tokens));
     }
 }
 
@@ -37,15 +40,17 @@ std::vector<const CheckedTuple*> totalsOfPieces(const CheckedTemplate& list, con
 {
     std::vector<const CheckedTuple*> totals;
     for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kSum))
-        if (pTuple->isFooter && PiecesRule::isOfOnePiece(pTuple->request.subject, tokens))
+        if (pTuple->isFooter && PiecesRule::isOfOnePiece(*pTuple, tokens))
             totals.push_back(pTuple);
     return totals;
 }
 
 void addSumRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
 {
+    const bool countsEqualLines = list.file().equalLines == kCountEqualLines;
+    const Finding::eSeverity severity = countsEqualLines ? Finding::kError : MistakeCodes::kPiecesNotCounted.severity;
     for (const CheckedTuple* const pTuple : totalsOfPieces(list, tokens))
-        rules.push_back(std::make_unique<PiecesRule>(*pTuple));
+        rules.push_back(std::make_unique<PiecesRule>(*pTuple, severity));
 }
 
 void addFormulaRules(Rules& rules, const CheckedTemplate& list)
@@ -61,6 +66,12 @@ void addMarkRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& 
         for (const TokenRequest::Element& element : pTuple->request.elements)
             if (!pTuple->isFooter && tokens.isNatural(element.token))
                 rules.push_back(std::make_unique<MarkRule>(*pTuple, element.token));
+}
+
+void addOrderRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
+{
+    for (const SortKey& key : sortKeysOfOpenOrder(list, tokens))
+        rules.push_back(std::make_unique<PlainOrderRule>(key));
 }
 
 void addWholeNumberRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
@@ -86,6 +97,7 @@ std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens
     addSumRules(rules, list, tokens);
     addFormulaRules(rules, list);
     addMarkRules(rules, list, tokens);
+    addOrderRules(rules, list, tokens);
     addWholeNumberRules(rules, list, tokens);
     rules.push_back(std::make_unique<RowOriginRule>());
 

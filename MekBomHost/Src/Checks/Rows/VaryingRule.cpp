@@ -15,6 +15,8 @@ namespace
 const std::uint64_t kStart = 14695981039346656037ull;
 const std::uint64_t kFactor = 1099511628211ull;
 
+const double kTolerance = 0.005; // half of the second decimal, in the model's unit
+
 void mix(std::uint64_t& hash, std::uint64_t value)
 {
     hash = (hash ^ value) * kFactor;
@@ -37,14 +39,20 @@ void mixValue(std::uint64_t& hash, const VorBomDataValue& value)
             mix(hash, static_cast<std::uint64_t>(*p));
 }
 
-bool isSame(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
+bool areClose(const VorBomDataValue& first, const VorBomDataValue& second, double tolerance)
+{
+    return first.type() == VorBomDataValue::kDoubleData && second.type() == VorBomDataValue::kDoubleData &&
+           std::abs(*static_cast<const double*>(first.data()) - *static_cast<const double*>(second.data())) < tolerance;
+}
+
+bool isSame(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond, double tolerance)
 {
     if (pFirst == nullptr || pSecond == nullptr)
         return pFirst == pSecond;
     const VorBomDataValue& first = pFirst->value();
     const VorBomDataValue& second = pSecond->value();
-    return first.type() == second.type() &&
-           (first.type() == VorBomDataValue::kUnknownData || first.compare(second) == 0);
+    return first.type() == second.type() && (first.type() == VorBomDataValue::kUnknownData ||
+                                             first.compare(second) == 0 || areClose(first, second, tolerance));
 }
 
 std::string textOf(const VorBomDataTuple* pTuple)
@@ -53,12 +61,16 @@ std::string textOf(const VorBomDataTuple* pTuple)
 }
 }
 
-VaryingRule::VaryingRule(const std::vector<std::string>& groupTokens, const std::vector<const CheckedTuple*>& tuples)
+VaryingRule::VaryingRule(const std::vector<std::string>& groupTokens, const std::vector<const CheckedTuple*>& tuples,
+                         const KnownTokens& tokens)
 {
     for (const std::string& token : groupTokens)
         m_groupTokens.push_back(Utf8::toWide(token));
     for (const CheckedTuple* const pTuple : tuples)
-        m_watched.push_back({ pTuple, Utf8::toWide(pTuple->token), std::string() });
+    {
+        const double tolerance = tokens.hasUnit(pTuple->token) ? kTolerance : 0;
+        m_watched.push_back({ pTuple, Utf8::toWide(pTuple->token), tolerance, std::string() });
+    }
 }
 
 void VaryingRule::see(const VorBomDataRow& row)
@@ -74,7 +86,7 @@ void VaryingRule::see(const VorBomDataRow& row)
             continue;
         const VorBomDataTuple* const pFirst = entry->second->getTupleAt(watched.token);
         const VorBomDataTuple* const pOther = row.getTupleAt(watched.token);
-        if (isSame(pFirst, pOther))
+        if (isSame(pFirst, pOther, watched.tolerance))
             continue;
         watched.values = textOf(pFirst) + ", " + textOf(pOther);
         ++m_numVarying;

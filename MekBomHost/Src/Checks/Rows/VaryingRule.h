@@ -2,11 +2,15 @@
 //
 //   rows HEA200 S235, HEA200 S355, grouped by %Name, whose header shows %Material   ->   "varies: S235, S355"
 //
+// Lengths of 500 mm and 499.999 mm print alike and do not vary: what has a unit is compared to half of its second
+// decimal. A plain number is printed in full, and so compared.
+//
 // Rows of a group need not follow each other yet, so each row is compared with the first that has the same values under
 // the tokens of the group. Groups are told apart by a hash of 64 bits: that two of a million share one and are taken for
 // one group has a chance of one in thirty million, and costs a needless warning.
 #pragma once
 
+#include "KnownTokens.h"
 #include "RowRule.h"
 
 #include "MekRoots/Exp/VorString.h"
@@ -22,7 +26,8 @@ class VaryingRule : public RowRule
 {
 public:
     // The groups' tokens, and the tuples, all of one level, that the rule is about. The tuples outlive it.
-    VaryingRule(const std::vector<std::string>& groupTokens, const std::vector<const CheckedTuple*>& tuples);
+    VaryingRule(const std::vector<std::string>& groupTokens, const std::vector<const CheckedTuple*>& tuples,
+                const KnownTokens& tokens);
 
     void see(const VorBomDataRow& row) override;
     void tell(MistakeList& mistakes) const override;
@@ -32,6 +37,7 @@ private:
     {
         const CheckedTuple* pTuple;
         VorString token;
+        double tolerance;   // numbers closer than that, in the model's unit, are the same
         std::string values; // "S235, S355" of the first group that has two; empty as long as none has
     };
 

@@ -173,4 +173,62 @@ TEST_F(RowsCheckTest, RowsThatNoReaderMakesAreTold)
     EXPECT_EQ("MB602 MB603 MB605", codesOf(check()));
     EXPECT_NE(std::string::npos, linesOf(check()).find("2 of 5 rows carry the marks"));
 }
+
+TEST_F(RowsCheckTest, AFormulaWithoutPiecesIsOfOnePieceToo)
+{
+    const auto linesFor = [this](const std::string& formula)
+    {
+        use(kByMark, { "%Handle", formula }, { "%SumBy:" + formula });
+        VorBomDataRow& row = addPart(L"P1", L"S235", 10);
+        row.addData(VorBomDataTuple(L"%Quantity", 4));
+        row.addData(VorBomDataTuple(L"%AssemblyWeight", 80.0));
+        return linesOf(check());
+    };
+
+    EXPECT_NE(std::string::npos,
+              linesFor("%Formula:%Weight*1.05").find("write \"%SumBy:%Formula:%Weight*1.05*%Quantity\" here"));
+    EXPECT_NE(std::string::npos,
+              linesFor("%Formula:%Weight+%Weight").find("\"%SumBy:%Formula:(%Weight+%Weight)*%Quantity\" here"));
+    EXPECT_EQ("", linesFor("%Formula:%Weight*%Quantity"));
+    EXPECT_EQ("", linesFor("%Formula:%Weight/%AssemblyWeight"));
+}
+
+TEST_F(RowsCheckTest, CountedLinesAddUpOnePieceToWhatIsNeitherEachNorAll)
+{
+    use(kByMark, kLine, kTotal);
+    addPart(L"P1", L"S235", 10).addData(VorBomDataTuple(L"%Quantity", 4));
+    ASSERT_EQ("MB308", codesOf(check()));
+    EXPECT_EQ(Finding::kWarning, check()[0].severity);
+
+    m_template.equalLines = kCountEqualLines;
+    EXPECT_EQ(Finding::kError, check()[0].severity);
+}
+
+TEST_F(RowsCheckTest, ValuesThatPrintAlikeDoNotVary)
+{
+    use({ "%GroupBy:%PNum", "%SortAscBy:%PNum", "%Length", "%Price" }, kLine, kTotal);
+    const auto addPriced = [this](double length, double price) {
+        add({ { L"%PNum", VorString(L"P1") }, { L"%Weight", 1.0 }, { L"%Length", length }, { L"%Price", price } });
+    };
+    m_template.ownTokens["%Price"] = kOwnNumber;
+    addPriced(500, 1);
+    addPriced(499.999, 1);
+    EXPECT_EQ("", linesOf(check()));
+
+    addPriced(500, 1.001); // a plain number is printed in full
+    EXPECT_EQ("MB503", codesOf(check()));
+    addPriced(500.006, 1);
+    EXPECT_EQ("MB503 MB503", codesOf(check()));
+}
+
+TEST_F(RowsCheckTest, AColumnOfNumbersIsSortedAsNumbers)
+{
+    use({ "%GroupBy:%Gap", "%SortAscBy:%Gap", "%Gap" }, kLine, kTotal);
+    add({ { L"%Gap", 10 }, { L"%Weight", 1.0 } });
+    EXPECT_EQ("", codesOf(check()));
+
+    add({ { L"%Gap", VorString(L"9a") }, { L"%Weight", 1.0 } });
+    EXPECT_NE(std::string::npos, linesOf(check()).find("warning MB211: \"%SortAscBy:%Gap\" sorts by %Gap")) << "texts";
+    EXPECT_NE(std::string::npos, linesOf(check()).find("texts such as \"9a\" come in plain order"));
+}
 }
