@@ -253,8 +253,8 @@ def cases(program, folder, real_data):
         *shipped_lists(by_row, *row_totals, facts=by_piece, mistakes=NO_WEIGHT)[:2],
         list_as_is(program, folder, by_row, *row_totals, facts=by_piece, mistakes=NO_WEIGHT),
     ]
-    if real_data:
-        frame, assemblies, profiles = (pathlib.Path(real_data) / name for name in REAL_FILES)
+    if real_data is not None:
+        frame, assemblies, profiles = (real_data / name for name in REAL_FILES)
         found += [
             *shipped_lists(frame, *AREAS),
             list_as_is(program, folder, frame, *AREAS, mistakes=NO_WEIGHT),
@@ -267,12 +267,15 @@ def cases(program, folder, real_data):
     return found
 
 
-def main(program, real_data=""):
+def main(program, folder_of_real_data=""):
+    real_data = pathlib.Path(folder_of_real_data)
+    if not all((real_data / name).is_file() for name in REAL_FILES):
+        real_data = None
     with tempfile.TemporaryDirectory() as folder:
         found = cases(program, pathlib.Path(folder), real_data)
         wrong = sum(check(program, case) for case in found)
     print(f"{len(found)} lists in metric and imperial units, {wrong} totals wrong"
-          + ("" if real_data else "; no real data: configure with -DMEK_REAL_DATA_DIR=<folder of steel-frame.csv>"))
+          + ("" if real_data is not None else "; no real data: configure with -DMEK_REAL_DATA_DIR=<folder of steel-frame.csv>"))
     return 1 if wrong else 0
 
 

@@ -179,9 +179,9 @@ TEST_F(CellReaderTest, AColumnThatMustBeNumbersRefusesOtherCells)
     m_columns[3].whyNumbers = "the list computes with %Other";
 
     read({ { RecordCell(), RecordCell(), RecordCell(), textCell("0012") },
-           { RecordCell(), RecordCell(), RecordCell(), RecordCell() },
+           { textCell("A"), RecordCell(), RecordCell(), RecordCell() },
            { RecordCell(), RecordCell(), RecordCell(), textCell("1e2") } });
-    EXPECT_EQ("[%Other:12]\n\n[%Other:100]", rows());
+    EXPECT_EQ("[%Other:12]\n[%Name:A]\n[%Other:100]", rows());
     EXPECT_EQ(VorBomDataValue::kDoubleData, m_facts.find("%Other")->type);
 
     for (const char* const text : { "n/a", "100,5", "NaN", "inf", "1e999", "-" })
@@ -245,7 +245,7 @@ TEST_F(CellReaderTest, HandlesThatComeAgainAreFound)
 
     read({ { textCell("2A0"), RecordCell(), RecordCell(), RecordCell() },
            { RecordCell(7.0), RecordCell(), RecordCell(), RecordCell() },
-           { RecordCell(), RecordCell(), RecordCell(), RecordCell() },
+           { RecordCell(), RecordCell(), RecordCell(), RecordCell(1.0) },
            { textCell("7"), RecordCell(), RecordCell(), RecordCell() } });
 
     ASSERT_EQ(2u, m_findings.size());

@@ -95,9 +95,9 @@ TEST(PartsListTest, UnknownColumnsHaveTheTypeOfTheirContent)
               rowsOf("A,B,C\n4,4,4\n,2.5,x\n5,,\n"));
 }
 
-TEST(PartsListTest, AnEmptyCellIsNoDatum)
+TEST(PartsListTest, AnEmptyCellIsNoDatumAndARecordOfSuchCellsNoRow)
 {
-    EXPECT_EQ(": [%Weight d 5]\n: [%Name t x]\n:\n", rowsOf("%Name,%Weight\n,5\nx,\n\"\",\"\"\n"));
+    EXPECT_EQ(": [%Weight d 5]\n: [%Name t x]\n", rowsOf("%Name,%Weight\n,5\n,\nx,\n\"\",\"\"\n"));
 }
 
 TEST(PartsListTest, TheHandleIsTheRowsIdentityAndADatum)
@@ -196,14 +196,15 @@ TEST(PartsListTest, ColumnsOfFeetAndInchesTakeMarksAndOtherUnits)
 
 TEST(PartsListTest, CellsThatAreNoQuantitiesAreNamedWithTheirPlace)
 {
-    EXPECT_EQ("3 parts.csv:2: column \"Length\": found \"7.5 fot\", expected a number: \"fot\" is no unit\n"
-              "3 parts.csv:3: column \"Length\": found \"7.5 kg\", expected a number: \"kg\" is a unit of another "
-              "kind\n"
-              "3 parts.csv:4: column \"Length\": found \"1,234.5\", expected a number: digits are not grouped, and the "
-              "decimal sign is a point\n"
-              "3 parts.csv:5: column \"Length\": found \"7'-6\", expected a number: every number needs its mark\n"
-              "3 parts.csv:6: error MB604: column \"Length\": found \"nan\", expected a number; help: leave the cell empty\n",
-              faultIn("Length\n7.5 fot\n7.5 kg\n\"1,234.5\"\n7'-6\nnan\n"));
+    EXPECT_EQ(
+        "3 parts.csv:2: column \"Length\": found \"7.5 fot\", expected a number: \"fot\" is no unit\n"
+        "3 parts.csv:3: column \"Length\": found \"7.5 kg\", expected a number: \"kg\" is a unit of another "
+        "kind\n"
+        "3 parts.csv:4: column \"Length\": found \"1,234.5\", expected a number: digits are not grouped, and the "
+        "decimal sign is a point\n"
+        "3 parts.csv:5: column \"Length\": found \"7'-6\", expected a number: every number needs its mark\n"
+        "3 parts.csv:6: error MB604: column \"Length\": found \"nan\", expected a number; help: leave the cell empty\n",
+        faultIn("Length\n7.5 fot\n7.5 kg\n\"1,234.5\"\n7'-6\nnan\n"));
 }
 
 TEST(PartsListTest, NumbersOfNoKindCarryNoUnits)
@@ -315,7 +316,7 @@ TEST(PartsListTest, NumbersOfKindsThatNoFileGivesInTheModelsUnitNeedOne)
               "3 parts.csv:4: column \"Density\": found \"7850\", expected a number with its unit: write the heading "
               "\"Density [kg/m3]\", or give --input-unit %Density=kg/m3\n",
               faultIn("Paint,%WeightMeter,Density\n3.2 m2,,\n3.2,,\n3.3,61.3,7850\n"));
-    EXPECT_EQ(": [%Paint d 3.2e+06]\n:\n", rowsOf("Paint\n3.2 m2\n\"\"\n"));
+    EXPECT_EQ(": [%Paint d 3.2e+06]\n", rowsOf("Paint\n3.2 m2\n\"\"\n"));
     EXPECT_EQ(": [%Length d 2] [%Weight d 3] [%EndCutAngle d 0.5]\n",
               rowsOf("Length,Weight,EndCutAngle [rad]\n2,3,0.5\n"));
 }
@@ -364,7 +365,8 @@ TEST(PartsListTest, ColumnsThatTheListComputesWithMustBeNumbers)
     EXPECT_EQ("t", outcomeOf("%Price", "Price\n2\nn/a\n"));
     for (const char* const token : { "%SumBy:%Price", "%Formula:%Price*2", "%SumBy:%Formula:2*%Price" })
     {
-        EXPECT_EQ("3 parts.csv:3: error MB601: column \"Price\": found \"n/a\", expected a number; help: the list computes with "
+        EXPECT_EQ("3 parts.csv:3: error MB601: column \"Price\": found \"n/a\", expected a number; help: the list "
+                  "computes with "
                   "%Price\n",
                   outcomeOf(token, "Price\n2\nn/a\n"));
         EXPECT_EQ("i", outcomeOf(token, "Price\n0012\n3\n"));

@@ -42,6 +42,7 @@ const char* const kTable = "Name    Weight [kg]\n"
                            "\n"
                            "3 rows read, 1 merged into equal lines, 2 listed\n"
                            "Merged rows are in no total: Weight 2.5 kg\n"
+                           "Each row counts as one piece: there is no column %Quantity\n"
                            "Lengths and weights without a unit were read as mm and kg\n";
 
 // A folder with a parts list and a template.
