@@ -7,8 +7,9 @@
 //   factors.hiddenUnitOf(length)   ->  "the constant 1000 hides a unit of length (1 m = 1000 mm)"
 //
 // A constant hides a unit when it is the ratio, one way or the other, of a unit of the catalogue to the model's unit of
-// the same kind, be it rounded to the digits that are written: 2.2 is the pound's 2.20462, but 25 is not the inch's 25.4.
-// So is the product of all constants (180/3.14159 of an angle).
+// the same kind or to the one that files mean where they name none (10.764 ft2 are a m2), be it rounded to the digits
+// that are written: 2.2 is the pound's 2.20462, but 25 is not the inch's 25.4. So is the product of all constants
+// (180/3.14159 of an angle).
 //
 // Values, of the same size however many constants there are.
 #pragma once
@@ -50,6 +51,7 @@ private:
     struct Ratio
     {
         const VorUnitDefinition* pUnit = nullptr;
+        const VorUnitDefinition* pBase = nullptr; // the model's or the usual one, of which it is the ratio
         std::string text;
     };
 
