@@ -20,6 +20,9 @@ using Systems = VorUnitsTransformArray;
 // of pi. Arbitrary otherwise, but no two ratios of the catalogue are as close to each other.
 constexpr double kComputedTolerance = 1e-5;
 
+// A unit's ratio may be written with this relative error: 2.2 for the 2.20462 pounds of a kilogram.
+constexpr double kRoundedAway = 0.005;
+
 double ratioOf(const VorUnitDefinition& unit)
 {
     return static_cast<double>(unit.numerator) / static_cast<double>(unit.denominator);
@@ -156,22 +159,33 @@ void ConstantFactors::add(const FormulaConstant& constant, bool isDivisor)
 {
     const double toModel = toleranceToModel(constant);
     const double toUsual = toleranceToUsual(constant);
+    const double factor = isDivisor ? 1.0 / constant.value : constant.value;
     for (std::size_t i = 0; i < m_ratios.size(); ++i)
-        if (m_ratios[i].pUnit == nullptr)
-        {
-            const UnitPair pair =
-                findUnit(Systems::kSystems[i], std::fabs(constant.value), toModel, toUsual, isDivisor);
-            m_ratios[i] = { pair.pUnit, pair.pBase, constant.shownText() };
-        }
-    m_total *= isDivisor ? 1.0 / constant.value : constant.value;
+    {
+        const UnitPair pair = findUnit(Systems::kSystems[i], std::fabs(constant.value), toModel, toUsual, isDivisor);
+        if (pair.pUnit == nullptr)
+            continue;
+        Ratio& ratio = m_ratios[i];
+        if (ratio.pUnit == nullptr)
+            ratio = { pair.pUnit, pair.pBase, constant.shownText(), ratio.product };
+        ratio.product *= factor;
+    }
+    m_total *= factor;
 }
 
-void ConstantFactors::addAll(const ConstantFactors& other, double factor)
+void ConstantFactors::addAll(const ConstantFactors& other, bool isDivisor)
 {
+    const auto multiply = [isDivisor](double& product, double factor)
+    { product = isDivisor ? product / factor : product * factor; };
     for (std::size_t i = 0; i < m_ratios.size(); ++i)
+    {
+        const double product = m_ratios[i].product;
         if (m_ratios[i].pUnit == nullptr)
             m_ratios[i] = other.m_ratios[i];
-    m_total *= factor;
+        m_ratios[i].product = product;
+        multiply(m_ratios[i].product, other.m_ratios[i].product);
+    }
+    multiply(m_total, other.m_total);
 }
 
 // Constants that undo each other hide nothing: "%Length/1000*1000". One by itself says more than the product of several.
@@ -189,5 +203,41 @@ std::string ConstantFactors::hiddenUnitOf(const Dimension& dimension) const
         if (const UnitPair pair = findUnit(system, total.value, tolerance, tolerance, false); pair.pUnit != nullptr)
             return describe(*pair.pUnit, *pair.pBase, total.shownText());
     return std::string();
+}
+
+bool ConstantFactors::give(const VorUnitDefinition& unit, const Dimension& dimension) const
+{
+    const auto gives = [&unit](double factor) { return isNear(std::fabs(factor) * ratioOf(unit), 1.0, kRoundedAway); };
+    const std::vector<Systems::eSystems> systems = systemsOf(dimension);
+    return gives(m_total) || std::any_of(systems.begin(), systems.end(),
+                                         [&](Systems::eSystems system)
+                                         {
+                                             const Ratio& ratio =
+                                                 m_ratios[static_cast<std::size_t>(Systems::indexOf(system))];
+                                             return ratio.pUnit != nullptr && gives(ratio.product);
+                                         });
+}
+
+const VorUnitDefinition* ConstantFactors::givenUnitOf(const Dimension& dimension) const
+{
+    const UnitKind* const pKind = UnitKinds::find(dimension.kind());
+    for (int i = 0; pKind != nullptr && i < Systems::numUnits(); ++i)
+    {
+        const VorUnitDefinition& unit = Systems::unitAt(i);
+        if (unit.system == pKind->system && unit.isOfModel() == 0 && unit.layout == VorUnitDefinition::kPlainNumber &&
+            give(unit, dimension))
+            return &unit;
+    }
+    return nullptr;
+}
+
+// "%Length/1000+%Width/1000*1.05" is in metres, "%Length/1000+%Width" in nothing.
+void ConstantFactors::keepShared(const ConstantFactors& other)
+{
+    for (std::size_t i = 0; i < m_ratios.size(); ++i)
+        if (!isNear(m_ratios[i].product, other.m_ratios[i].product, 0.0))
+            m_ratios[i] = Ratio();
+    if (!isNear(m_total, other.m_total, 0.0))
+        m_total = 1.0;
 }
 }
