@@ -20,6 +20,9 @@ using Systems = VorUnitsTransformArray;
 // of pi. Arbitrary otherwise, but no two ratios of the catalogue are as close to each other.
 constexpr double kComputedTolerance = 1e-5;
 
+// A unit's ratio may be written with this relative error: 2.2 for the 2.20462 pounds of a kilogram.
+constexpr double kRoundedAway = 0.005;
+
 double ratioOf(const VorUnitDefinition& unit)
 {
     return static_cast<double>(unit.numerator) / static_cast<double>(unit.denominator);
@@ -30,23 +33,42 @@ bool isDigit(char character)
     return character >= '0' && character <= '9';
 }
 
-// How far a ratio may be from the constant that is written for it: half a unit of the last digit, if there are enough
-// digits to recognize a ratio by: three, or two with a point among them. Zeros in front are none.
-//   "2.2"  ->  0.05      "907"  ->  0.5      "25", "0.5", "1e3"  ->  0, as good as
-double writtenTolerance(const FormulaConstant& constant)
+// How precisely a constant is written: the digits behind zeros in front, and half a unit of the last of them.
+//   "2.2"  ->  2, 0.05      "0.672"  ->  3, 0.0005      "1e3"  ->  none, 0
+struct WrittenPrecision
+{
+    int numDigits = 0;
+    bool hasPoint = false;
+    double tolerance = 0.0;
+};
+
+WrittenPrecision precisionOf(const FormulaConstant& constant)
 {
     const std::string& text = constant.text;
     const bool isPlain = std::all_of(text.begin(), text.end(), [](char c) { return isDigit(c) || c == '.'; });
     const std::size_t nPoint = text.find('.');
     const std::size_t nFirst = text.find_first_of("123456789");
     if (!isPlain || nFirst == std::string::npos)
-        return 0.0;
+        return WrittenPrecision();
     const bool hasPoint = nPoint != std::string::npos;
     const auto numDigits = static_cast<int>(text.size() - nFirst) - (hasPoint && nPoint > nFirst ? 1 : 0);
-    if (numDigits < (hasPoint ? 2 : 3))
-        return 0.0;
     const int numDecimals = hasPoint ? static_cast<int>(text.size() - nPoint) - 1 : 0;
-    return 0.5 * std::pow(10.0, -numDecimals);
+    return { numDigits, hasPoint, 0.5 * std::pow(10.0, -numDecimals) };
+}
+
+// How far a ratio may be from the constant that is written for it, if there are enough digits to recognize one by:
+// "25" and "0.5" are no ratio's.
+double toleranceToModel(const FormulaConstant& constant)
+{
+    const WrittenPrecision precision = precisionOf(constant);
+    return precision.numDigits < (precision.hasPoint ? 2 : 3) ? 0.0 : precision.tolerance;
+}
+
+// A factor 1.5 on kg/m is an allowance more likely than the pounds per foot, 1.488.
+double toleranceToUsual(const FormulaConstant& constant)
+{
+    const WrittenPrecision precision = precisionOf(constant);
+    return precision.numDigits < 3 ? 0.0 : precision.tolerance;
 }
 
 bool isNear(double constant, double ratio, double tolerance)
@@ -54,36 +76,62 @@ bool isNear(double constant, double ratio, double tolerance)
     return std::fabs(constant - ratio) <= std::max(tolerance, 1e-6 * ratio); // constants are read in single precision
 }
 
-// The unit of that kind whose ratio to the model's unit the constant is, or the inverse of it; null when there is none.
-const VorUnitDefinition* findUnit(Systems::eSystems system, double constant, double tolerance, bool isInverse)
+// A unit, and the one that a constant changes into it or from it.
+struct UnitPair
+{
+    const VorUnitDefinition* pUnit = nullptr;
+    const VorUnitDefinition* pBase = nullptr;
+};
+
+// The unit of that kind whose ratio to the base the constant is, or the inverse of it; none when there is none.
+UnitPair findUnit(const VorUnitDefinition& base, double constant, double tolerance, bool isInverse)
 {
     for (int i = 0; i < Systems::numUnits(); ++i)
     {
         const VorUnitDefinition& unit = Systems::unitAt(i);
-        const double ratio = isInverse ? 1.0 / ratioOf(unit) : ratioOf(unit);
-        if (unit.system == system && unit.layout == VorUnitDefinition::kPlainNumber && unit.isOfModel() == 0 &&
+        const double ratio = isInverse ? ratioOf(base) / ratioOf(unit) : ratioOf(unit) / ratioOf(base);
+        if (unit.system == base.system && unit.layout == VorUnitDefinition::kPlainNumber && ratio != 1.0 &&
             isNear(constant, ratio, tolerance))
-            return &unit;
+            return { &unit, &base };
     }
-    return nullptr;
+    return UnitPair();
 }
 
 // The unit that a factor or a divisor hides. kg divided by 1000 are tonnes, and multiplied by it are grams: the unit
 // that this gives comes before the other one, which may be meant as well.
-const VorUnitDefinition* findUnit(Systems::eSystems system, const FormulaConstant& constant, double tolerance,
-                                  bool isDivisor)
+UnitPair findUnitOfFactor(const VorUnitDefinition& base, double constant, double tolerance, bool isDivisor)
 {
-    const double value = std::fabs(constant.value);
-    const VorUnitDefinition* const pUnit = findUnit(system, value, tolerance, !isDivisor);
-    return pUnit != nullptr ? pUnit : findUnit(system, value, tolerance, isDivisor);
+    const UnitPair pair = findUnit(base, constant, tolerance, !isDivisor);
+    return pair.pUnit != nullptr ? pair : findUnit(base, constant, tolerance, isDivisor);
+}
+
+// The unit that files mean where they name none: null for kinds where that is the model's.
+const VorUnitDefinition* usualUnitOf(Systems::eSystems system)
+{
+    return Systems::findUnit(Utf8::toWide(UnitKinds::find(system)->usualUnit));
+}
+
+// The same to the model's unit or, with 10.764 for the ft2 of a m2, to the usual one of files.
+UnitPair findUnit(Systems::eSystems system, double constant, double toModel, double toUsual, bool isDivisor)
+{
+    const UnitPair pair = findUnitOfFactor(*Systems::findUnitOfModel(system), constant, toModel, isDivisor);
+    const VorUnitDefinition* const pUsual = usualUnitOf(system);
+    return pair.pUnit != nullptr || pUsual == nullptr ? pair : findUnitOfFactor(*pUsual, constant, toUsual, isDivisor);
+}
+
+// As readers know it, without the noise of a quotient: 0.09290304, not 0.09290303999999999.
+double toNineDigits(double ratio)
+{
+    const double scale = std::pow(10.0, std::max(0.0, 8.0 - std::floor(std::log10(ratio))));
+    return std::round(ratio * scale) / scale;
 }
 
 // "the constant 1000 hides a unit of length (1 m = 1000 mm)"
-std::string describe(const VorUnitDefinition& unit, const std::string& constant)
+std::string describe(const VorUnitDefinition& unit, const VorUnitDefinition& base, const std::string& constant)
 {
     return "the constant " + constant + " hides a unit of " + UnitKinds::find(unit.system)->name + " (1 " +
-           Utf8::toBytes(unit.asciiSymbol) + " = " + numberText(ratioOf(unit)) + " " +
-           Utf8::toBytes(Systems::findUnitOfModel(unit.system)->asciiSymbol) + ")";
+           Utf8::toBytes(unit.asciiSymbol) + " = " + numberText(toNineDigits(ratioOf(unit) / ratioOf(base))) + " " +
+           Utf8::toBytes(base.asciiSymbol) + ")";
 }
 
 // The kinds of which a product may hide a unit: its own, and those that it is a product of.
@@ -109,19 +157,35 @@ std::string FormulaConstant::shownText() const
 
 void ConstantFactors::add(const FormulaConstant& constant, bool isDivisor)
 {
+    const double toModel = toleranceToModel(constant);
+    const double toUsual = toleranceToUsual(constant);
+    const double factor = isDivisor ? 1.0 / constant.value : constant.value;
     for (std::size_t i = 0; i < m_ratios.size(); ++i)
-        if (m_ratios[i].pUnit == nullptr)
-            m_ratios[i] = { findUnit(Systems::kSystems[i], constant, writtenTolerance(constant), isDivisor),
-                            constant.shownText() };
-    m_total *= isDivisor ? 1.0 / constant.value : constant.value;
+    {
+        const UnitPair pair = findUnit(Systems::kSystems[i], std::fabs(constant.value), toModel, toUsual, isDivisor);
+        if (pair.pUnit == nullptr)
+            continue;
+        Ratio& ratio = m_ratios[i];
+        if (ratio.pUnit == nullptr)
+            ratio = { pair.pUnit, pair.pBase, constant.shownText(), ratio.product };
+        ratio.product *= factor;
+    }
+    m_total *= factor;
 }
 
-void ConstantFactors::addAll(const ConstantFactors& other, double factor)
+void ConstantFactors::addAll(const ConstantFactors& other, bool isDivisor)
 {
+    const auto multiply = [isDivisor](double& product, double factor)
+    { product = isDivisor ? product / factor : product * factor; };
     for (std::size_t i = 0; i < m_ratios.size(); ++i)
+    {
+        const double product = m_ratios[i].product;
         if (m_ratios[i].pUnit == nullptr)
             m_ratios[i] = other.m_ratios[i];
-    m_total *= factor;
+        m_ratios[i].product = product;
+        multiply(m_ratios[i].product, other.m_ratios[i].product);
+    }
+    multiply(m_total, other.m_total);
 }
 
 // Constants that undo each other hide nothing: "%Length/1000*1000". One by itself says more than the product of several.
@@ -132,11 +196,48 @@ std::string ConstantFactors::hiddenUnitOf(const Dimension& dimension) const
     const std::vector<Systems::eSystems> systems = systemsOf(dimension);
     for (const Systems::eSystems system : systems)
         if (const Ratio& ratio = m_ratios[static_cast<std::size_t>(Systems::indexOf(system))]; ratio.pUnit != nullptr)
-            return describe(*ratio.pUnit, ratio.text);
+            return describe(*ratio.pUnit, *ratio.pBase, ratio.text);
     const FormulaConstant total = { std::fabs(m_total), std::string() };
+    const double tolerance = kComputedTolerance * total.value;
     for (const Systems::eSystems system : systems)
-        if (const VorUnitDefinition* const pUnit = findUnit(system, total, kComputedTolerance * total.value, false))
-            return describe(*pUnit, total.shownText());
+        if (const UnitPair pair = findUnit(system, total.value, tolerance, tolerance, false); pair.pUnit != nullptr)
+            return describe(*pair.pUnit, *pair.pBase, total.shownText());
     return std::string();
+}
+
+bool ConstantFactors::give(const VorUnitDefinition& unit, const Dimension& dimension) const
+{
+    const auto gives = [&unit](double factor) { return isNear(std::fabs(factor) * ratioOf(unit), 1.0, kRoundedAway); };
+    const std::vector<Systems::eSystems> systems = systemsOf(dimension);
+    return gives(m_total) || std::any_of(systems.begin(), systems.end(),
+                                         [&](Systems::eSystems system)
+                                         {
+                                             const Ratio& ratio =
+                                                 m_ratios[static_cast<std::size_t>(Systems::indexOf(system))];
+                                             return ratio.pUnit != nullptr && gives(ratio.product);
+                                         });
+}
+
+const VorUnitDefinition* ConstantFactors::givenUnitOf(const Dimension& dimension) const
+{
+    const UnitKind* const pKind = UnitKinds::find(dimension.kind());
+    for (int i = 0; pKind != nullptr && i < Systems::numUnits(); ++i)
+    {
+        const VorUnitDefinition& unit = Systems::unitAt(i);
+        if (unit.system == pKind->system && unit.isOfModel() == 0 && unit.layout == VorUnitDefinition::kPlainNumber &&
+            give(unit, dimension))
+            return &unit;
+    }
+    return nullptr;
+}
+
+// "%Length/1000+%Width/1000*1.05" is in metres, "%Length/1000+%Width" in nothing.
+void ConstantFactors::keepShared(const ConstantFactors& other)
+{
+    for (std::size_t i = 0; i < m_ratios.size(); ++i)
+        if (!isNear(m_ratios[i].product, other.m_ratios[i].product, 0.0))
+            m_ratios[i] = Ratio();
+    if (!isNear(m_total, other.m_total, 0.0))
+        m_total = 1.0;
 }
 }

@@ -7,8 +7,9 @@
 //   factors.hiddenUnitOf(length)   ->  "the constant 1000 hides a unit of length (1 m = 1000 mm)"
 //
 // A constant hides a unit when it is the ratio, one way or the other, of a unit of the catalogue to the model's unit of
-// the same kind, be it rounded to the digits that are written: 2.2 is the pound's 2.20462, but 25 is not the inch's 25.4.
-// So is the product of all constants (180/3.14159 of an angle).
+// the same kind or to the one that files mean where they name none (10.764 ft2 are a m2), be it rounded to the digits
+// that are written: 2.2 is the pound's 2.20462, but 25 is not the inch's 25.4. So is the product of all constants
+// (180/3.14159 of an angle).
 //
 // Values, of the same size however many constants there are.
 #pragma once
@@ -39,24 +40,36 @@ public:
     void divideBy(const FormulaConstant& constant) { add(constant, true); }
 
     // Those of another product that this one is multiplied or divided by.
-    void multiplyBy(const ConstantFactors& other) { addAll(other, other.m_total); }
-    void divideBy(const ConstantFactors& other) { addAll(other, 1.0 / other.m_total); }
+    void multiplyBy(const ConstantFactors& other) { addAll(other, false); }
+    void divideBy(const ConstantFactors& other) { addAll(other, true); }
 
     // What makes a product of that dimension another than it looks, with the unit; empty when nothing does.
     std::string hiddenUnitOf(const Dimension& dimension) const;
 
+    // Whether they turn the model's unit of that dimension into `unit`, be they rounded and beside others that are no
+    // ratio: 1000 below kilograms makes "t" of them, and so it does together with a factor 1.05.
+    bool give(const VorUnitDefinition& unit, const Dimension& dimension) const;
+
+    // The first unit of the dimension's kind that they give other than the model's; null when there is none.
+    const VorUnitDefinition* givenUnitOf(const Dimension& dimension) const;
+
+    // Forgets what they do not share with those of another term of a sum.
+    void keepShared(const ConstantFactors& other);
+
 private:
-    // A constant that is the ratio of a unit.
+    // The constants that are ratios of units of one kind.
     struct Ratio
     {
         const VorUnitDefinition* pUnit = nullptr;
-        std::string text;
+        const VorUnitDefinition* pBase = nullptr; // the model's or the usual one, of which it is the ratio
+        std::string text;                         // of the first
+        double product = 1.0;                     // of all
     };
 
     void add(const FormulaConstant& constant, bool isDivisor);
-    void addAll(const ConstantFactors& other, double factor);
+    void addAll(const ConstantFactors& other, bool isDivisor);
 
-    std::array<Ratio, VorUnitsTransformArray::kNumSystems> m_ratios; // the first of each kind
+    std::array<Ratio, VorUnitsTransformArray::kNumSystems> m_ratios; // of each kind
     double m_total = 1.0;                                            // product of all
 };
 }

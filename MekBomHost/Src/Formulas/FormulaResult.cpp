@@ -18,6 +18,7 @@
 #include "Utf8.h"
 
 #include "ExpressionEvaluator/Src/VorExprEvTreeItemOperator.h"
+#include "MekUnits/Src/VorUnitDefinition.h"
 
 #include <utility>
 
@@ -26,6 +27,8 @@ namespace mekbom
 namespace
 {
 const char* const kDeclaredPlain = "none";
+const char* const kRemedy = "say what it gives in the column, \"result\": a kind such as \"weight\", \"none\", or a "
+                            "label of its own such as \"EUR\"";
 
 struct Term
 {
@@ -108,7 +111,7 @@ private:
     Term combine(const FormulaNode& node, Term left, Term right);
     Term sum(Term left, Term right);
     Term sumWithConstant(Term term, const FormulaConstant& constant);
-    void settle(Term& term);
+    void settle(const Term& term);
     void note(FormulaResult::eReason reason, const std::string& what);
     void conclude();
 
@@ -171,6 +174,7 @@ Term Derivation::sum(Term left, Term right)
         left.isCertain = false;
     }
     left.isCertain = left.isCertain && right.isCertain;
+    left.factors.keepShared(right.factors);
     return left;
 }
 
@@ -185,12 +189,11 @@ Term Derivation::sumWithConstant(Term term, const FormulaConstant& constant)
 }
 
 // Ends a product: its constants are all known.
-void Derivation::settle(Term& term)
+void Derivation::settle(const Term& term)
 {
     const std::string hidden = term.factors.hiddenUnitOf(term.dimension);
     if (!hidden.empty())
         note(FormulaResult::kHiddenUnit, hidden);
-    term.factors = ConstantFactors();
 }
 
 void Derivation::note(FormulaResult::eReason reason, const std::string& what)
@@ -219,6 +222,46 @@ bool contradicts(const Term& result, FormulaResult::eReason reason, VorBomTempla
     const bool isDerived = reason == FormulaResult::kNone || reason == FormulaResult::kNoKind;
     return isDerived && result.isCertain && !result.dimension.isSameProduct(Dimension::ofType(declared));
 }
+
+// What to do about a constant that hides a unit: where the formula has a kind without it, declaring that kind would make
+// 0.5 kg of 0.5 t.
+std::string remedyOfHiddenUnit(const Term& result)
+{
+    if (result.dimension.kind() == VorBomTemplateUnits::kNoUnit)
+        return kRemedy;
+    const VorUnitDefinition* const pUnit = result.factors.givenUnitOf(result.dimension);
+    return "take the constant out: lists show the number in the reader's unit; or give it a label of its own in the "
+           "column, \"result\": " +
+           inQuotes(pUnit == nullptr ? kDeclaredPlain : Utf8::toBytes(pUnit->asciiSymbol));
+}
+
+// The tokens give the declared kind, but not the number.
+void checkKind(FormulaResult& result, const Term& term, const std::string& declared)
+{
+    if (contradicts(term, result.reason, result.kind))
+    {
+        result.contradiction = "is " + term.dimension.text() + ", declared as " + declared;
+        result.remedy = "correct the formula or its column's \"result\"";
+    }
+    else if (result.reason == FormulaResult::kHiddenUnit &&
+             term.dimension.isSameProduct(Dimension::ofType(result.kind)))
+        result.contradiction = "gives " + declared + " already, and " + result.what + ", which makes it another number";
+}
+
+// A label that is a unit of the kind: the number has to be in that unit.
+void checkLabel(FormulaResult& result, const Term& term)
+{
+    const VorUnitDefinition* const pUnit = VorUnitsTransformArray::findUnit(Utf8::toWide(result.label));
+    const UnitKind* const pKind = UnitKinds::find(term.dimension.kind());
+    if (pUnit == nullptr || pKind == nullptr || pUnit->system != pKind->system)
+        return;
+    const bool isHidden = result.reason == FormulaResult::kHiddenUnit;
+    if (pUnit->isOfModel() == 1 ? !isHidden : term.factors.give(*pUnit, term.dimension))
+        return;
+    result.contradiction = std::string("gives ") + pKind->name + ", but no number of " + inQuotes(result.label);
+    result.remedy = std::string(isHidden ? "take the constant out, and " : "") +
+                    "write \"unit\": " + inQuotes(result.label) + " in the column instead of \"result\"";
+}
 }
 
 FormulaResult FormulaResult::derive(const VorString& formula, const FormulaOperands& operands)
@@ -238,6 +281,7 @@ FormulaResult FormulaResult::of(const VorString& formula, const FormulaOperands&
         result.reason = kUnreadable;
         result.what = "the parentheses do not balance";
     }
+    result.remedy = result.reason == kHiddenUnit ? remedyOfHiddenUnit(derivation.result()) : kRemedy;
     if (declared.empty())
         return result;
     result.measure = kPlain;
@@ -247,11 +291,13 @@ FormulaResult FormulaResult::of(const VorString& formula, const FormulaOperands&
     {
         result.measure = kKind;
         result.kind = VorBomTemplateUnits::unitTypeOf(pKind->system);
-        if (contradicts(derivation.result(), result.reason, result.kind))
-            result.contradiction = "is " + derivation.result().dimension.text() + ", declared as " + declared;
+        checkKind(result, derivation.result(), declared);
     }
     else if (declared != kDeclaredPlain)
+    {
         result.label = declared;
+        checkLabel(result, derivation.result());
+    }
     return result;
 }
 }

@@ -379,11 +379,9 @@ void Check::checkResult()
 {
     const FormulaResult result = FormulaResult::of(m_formula, m_operands, m_declared);
     if (!result.contradiction.empty())
-        add(kResultUndeclared, result.contradiction, "correct the formula or its column's \"result\"");
+        add(kResultUndeclared, result.contradiction, result.remedy);
     else if (result.measure == FormulaResult::kUndeclared && result.isOfKnownTokens())
-        add(kResultUndeclared, result.what,
-            "say what it gives in the column's \"result\": a kind such as \"weight\", in the model's unit; \"none\", "
-            "or a label such as \"EUR\"");
+        add(kResultUndeclared, result.what, result.remedy);
     if (result.kind == VorBomTemplateUnits::kDensityUnit)
         add(kPrecisionLost, "gives a density in kg/mm3, of which six decimals keep one digit at most",
             "multiply it by 1000000000, and say \"kg/m3\" in the column's \"result\"");

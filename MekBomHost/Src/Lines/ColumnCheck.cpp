@@ -3,7 +3,9 @@
 #include "ColumnUnit.h"
 #include "FindingCodes.h"
 #include "InQuotes.h"
+#include "MistakeCodes.h"
 #include "UnitChoice.h"
+#include "Utf8.h"
 
 #include "VorBomDataToken.h"
 
@@ -45,6 +47,24 @@ bool showsFormula(const ReportColumn& column)
                        { return VorBomDataToken::isFormula(TokenQuantities::datumOf(token)) == 1; });
 }
 
+// The heading would name two units: "Cost [EUR] [kg]". Numbers of the data may have words such as "[net]" in brackets;
+// those of a formula would be taken for what the brackets call them.
+std::optional<Finding> errorOfLabel(const ReportColumn& column)
+{
+    const std::string named = column.otherBrackets();
+    const bool isOfFormula = showsFormula(column);
+    const bool isUnit = VorUnitsTransformArray::findUnit(Utf8::toWide(named)) != nullptr;
+    if (named.empty() || column.pUnitKind == nullptr || (!isOfFormula && !isUnit))
+        return std::nullopt;
+    Finding finding =
+        Finding::stating(MistakeCodes::kResultUndeclared, "the label " + inQuotes(column.label) + " names " + named +
+                                                              ", but the numbers are " + column.pUnitKind->name);
+    finding.remedy = isOfFormula && !isUnit
+                         ? "say \"result\": " + inQuotes(named) + " in the column, or leave the brackets out"
+                         : "leave the brackets out: the heading names the unit";
+    return finding;
+}
+
 void add(std::vector<Finding>& findings, Finding finding, const ColumnStyle& style, const char* key)
 {
     finding.begin = style.place.span.begin;
@@ -66,6 +86,8 @@ std::vector<Finding> errorsOf(const ReportTemplate& reportTemplate, const Report
         const auto error = pStyle->unit.empty() ? std::optional<Finding>() : errorOfUnit(column, *pStyle, quantities);
         if (error)
             add(findings, *error, *pStyle, "unit");
+        if (const auto labelError = errorOfLabel(column))
+            add(findings, *labelError, *pStyle, "label");
         if (!pStyle->result.empty() && !showsFormula(column))
             add(findings, hasNone("result", pStyle->result, "formulas"), *pStyle, "result");
     }

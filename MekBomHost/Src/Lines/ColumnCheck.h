@@ -3,6 +3,7 @@
 //   { "token": "%Length", "unit": "kg" }     found "kg", expected a unit of distance such as mm, m, in or ft, ...
 //   { "token": "%Quantity", "unit": "m" }    the unit "m" is for quantities, of which the column has none
 //   { "token": "%Weight", "result": "EUR" }  the result "EUR" is for formulas, of which the column has none
+//   { "token": "%Weight", "label": "Weight [m]" }   the label "Weight [m]" names m, but the numbers are weight
 #pragma once
 
 #include "Finding.h"

@@ -34,11 +34,17 @@ std::string ReportColumn::heading() const
         return label;
     const std::string inBrackets = "[" + unitSymbol + "]";
     const std::size_t brackets = bracketsOf(label);
-    if (brackets == std::string::npos)
+    if (brackets == std::string::npos || !otherBrackets().empty())
         return label + " " + inBrackets;
+    return label.substr(0, brackets) + inBrackets;
+}
+
+std::string ReportColumn::otherBrackets() const
+{
+    const std::size_t brackets = bracketsOf(label);
+    if (unitSymbol.empty() || brackets == std::string::npos)
+        return std::string();
     const std::string named = label.substr(brackets + 1, label.size() - brackets - 2);
-    if (named == unitSymbol || isUnitOf(pUnitKind, named))
-        return label.substr(0, brackets) + inBrackets;
-    return label + " " + inBrackets;
+    return named == unitSymbol || isUnitOf(pUnitKind, named) ? std::string() : named;
 }
 }

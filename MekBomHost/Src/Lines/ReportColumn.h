@@ -20,6 +20,10 @@ struct ReportColumn
     //   "Weight [kg]" in a list in pounds  ->  "Weight [lb]"
     std::string heading() const;
 
+    // What the label has in brackets at its end beside the unit that the heading adds: "EUR" of "Cost [EUR] [kg]". Empty
+    // where the heading has one pair of brackets, or none.
+    std::string otherBrackets() const;
+
     VorString token;                    // the column's name: no other column has it unless a section shows it twice
     std::vector<VorString> shownTokens; // of the tuples that are shown in it, as the sections come
 

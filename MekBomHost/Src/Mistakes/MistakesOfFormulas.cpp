@@ -94,7 +94,8 @@ std::vector<Mistake> ofFormulas()
         { &MistakeCodes::kResultUndeclared, "a formula whose result measures nothing that tokens say",
           "A weight times a price is no kind of quantity, and 1000 may be the millimetres of a metre: whether units "
           "change the number is not known.",
-          "Declare it in the column: \"result\": \"weight\", \"none\" or a label of your own such as \"EUR\".",
+          "Take out a constant that only converts units. Else declare it in the column: \"result\": \"weight\", "
+          "\"none\" or a label of your own such as \"EUR\".",
           computing("%Length/1000"), computingPlain("%Length/1000") },
         { &MistakeCodes::kFormulaFails, "(%W*2, Weight*2, =%W*2",
           "Parentheses that do not match, a name that nothing defines, and an assignment to nothing end in an error; "

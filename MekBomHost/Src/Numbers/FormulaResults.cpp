@@ -14,9 +14,6 @@ namespace mekbom
 {
 namespace
 {
-const char* const kRemedy = "say what it gives in the column, \"result\": a kind such as \"weight\", \"none\", or a "
-                            "label of its own such as \"EUR\"";
-
 // The text of a formula or of the formula that is summed; empty for any other token.
 VorString formulaOf(const VorString& token)
 {
@@ -123,7 +120,7 @@ std::vector<Finding> FormulaResults::undeclared() const
         Finding finding = Finding::stating(MistakeCodes::kResultUndeclared,
                                            inQuotes(Utf8::toBytes(entry.formula)) + ": " +
                                                (isOpen ? entry.result.what : entry.result.contradiction));
-        finding.remedy = kRemedy;
+        finding.remedy = entry.result.remedy;
         finding.begin = entry.place.span.begin;
         finding.end = entry.place.span.end;
         finding.path = entry.place.path;

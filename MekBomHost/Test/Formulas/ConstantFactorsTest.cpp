@@ -38,6 +38,27 @@ TEST(ConstantFactorsTest, ARatioOfUnitsHidesOne)
               hidden("1000", Units::kWeightPerDistanceUnit));
 }
 
+// Files have areas in m2 and weights per length in kg/m, and so have their readers, whatever the model keeps.
+TEST(ConstantFactorsTest, RatiosToTheUsualUnitOfFilesHideOneToo)
+{
+    for (const char* text : { "10.764", "10.8", "0.0929" })
+        EXPECT_EQ("the constant " + std::string(text) + " hides a unit of area (1 ft2 = 0.09290304 m2)",
+                  hidden(text, Units::kAreaUnit));
+    EXPECT_EQ("the constant 0.672 hides a unit of weight-per-length (1 lb/ft = 1.48816394 kg/m)",
+              hidden("0.672", Units::kWeightPerDistanceUnit));
+    EXPECT_EQ("the constant 3.281 hides a unit of area-per-length (1 ft2/ft = 0.3048 m2/m)",
+              hidden("3.281", Units::kAreaPerDistanceUnit));
+    EXPECT_EQ("the constant 0.0624 hides a unit of density (1 lb/ft3 = 16.0184634 kg/m3)",
+              hidden("0.0624", Units::kDensityUnit));
+}
+
+TEST(ConstantFactorsTest, OrdinaryFactorsOfAreasAndWeightsPerLengthHideNothing)
+{
+    for (const char* text : { "2", "3", "4", "6", "9", "0.5", "1.05", "1.1", "1.5", "0.67", "7.85", "11" })
+        for (const auto type : { Units::kAreaUnit, Units::kWeightPerDistanceUnit, Units::kAreaPerDistanceUnit })
+            EXPECT_EQ("", hidden(text, type)) << text;
+}
+
 TEST(ConstantFactorsTest, TheUnitThatAFactorOrADivisorGivesComesFirst)
 {
     const Dimension weight = Dimension::ofType(Units::kWeightUnit);

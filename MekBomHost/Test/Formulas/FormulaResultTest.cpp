@@ -216,6 +216,58 @@ TEST(FormulaResultTest, AKindThatCannotBeIsAContradiction)
         EXPECT_EQ(c.contradiction, FormulaResult::of(c.formula, operandOfTest, c.declared).contradiction) << c.formula;
 }
 
+// Was printed as 0.51 kg.
+TEST(FormulaResultTest, AKindWhoseNumberAConstantChangesIsAContradiction)
+{
+    const FormulaResult weight = FormulaResult::of(L"%Length*%WeightMeter/1000*%Quantity", operandOfTest, "weight");
+
+    EXPECT_EQ("gives weight already, and the constant 1000 hides a unit of weight (1 t = 1000 kg), which makes it "
+              "another number",
+              weight.contradiction);
+    EXPECT_EQ("take the constant out: lists show the number in the reader's unit; or give it a label of its own in the "
+              "column, \"result\": \"t\"",
+              weight.remedy);
+    EXPECT_NE("", FormulaResult::of(L"%Length*%Width/1000000", operandOfTest, "area").contradiction);
+    EXPECT_NE("", FormulaResult::of(L"%Length/1000+%Width", operandOfTest, "length").contradiction);
+    EXPECT_EQ("", FormulaResult::of(L"%Length*%Width*7.85/1000000", operandOfTest, "weight").contradiction);
+    EXPECT_EQ("", FormulaResult::of(L"%Weight*1.05", operandOfTest, "weight").contradiction);
+}
+
+TEST(FormulaResultTest, AUnitAsLabelIsAContradictionUnlessAConstantMakesIt)
+{
+    const struct
+    {
+        const wchar_t* formula;
+        const char* unit;
+        bool isRight;
+    } cases[] = {
+        { L"%Length*%Quantity", "m", false },
+        { L"%Weight*%Quantity", "lb", false },
+        { L"%Weight*1.05", "t", false },
+        { L"%Weight/1000", "kg", false },
+        { L"%Weight/1000", "lb", false },
+        { L"%Paint*10.764", "ft2", false }, // of mm2
+        { L"%Weight/1000", "t", true },
+        { L"%Weight*1.05/1000", "t", true },
+        { L"%Weight*2.2", "lb", true },
+        { L"%Length*%WeightMeter/1000*%Quantity", "t", true },
+        { L"%Length/1000*%Width/1000*1.05", "m2", true },
+        { L"%Length*%Width/1000000", "m2", true },
+        { L"%Length/1000+%Width/1000*1.05", "m", true },
+        { L"(%Length+%Width)/1000", "m", true },
+        { L"%Skew*180/3.14159", "deg", true },
+        { L"%Weight*1.05", "kg", true },
+        { L"%Length*%Width*7.85", "kg", true }, // 7.85 may be kg/mm²
+        { L"%Weight*%Price", "t", true },
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(c.isRight, FormulaResult::of(c.formula, operandOfTest, c.unit).contradiction.empty())
+            << c.formula << c.unit;
+    const FormulaResult metres = FormulaResult::of(L"%Length*%Quantity", operandOfTest, "m");
+    EXPECT_EQ("gives length, but no number of \"m\"", metres.contradiction);
+    EXPECT_EQ("write \"unit\": \"m\" in the column instead of \"result\"", metres.remedy);
+}
+
 TEST(FormulaResultTest, HostileFormulasEnd)
 {
     VorString nested;

@@ -164,8 +164,8 @@ TEST(FormulaRulesTest, FindingsSayWhatIsComputedAndWhatToDo)
               textOf(L"%Weight/0.00000785", "none"));
     EXPECT_EQ("\"16777217\" is read as 16777216: numbers of formulas are kept to seven digits",
               textOf(L"16777217*%Weight"));
-    EXPECT_EQ("the constant 1000 hides a unit of length (1 m = 1000 mm): say what it gives in the column's \"result\": "
-              "a kind such as \"weight\", in the model's unit; \"none\", or a label such as \"EUR\"",
+    EXPECT_EQ("the constant 1000 hides a unit of length (1 m = 1000 mm): take the constant out: lists show the number "
+              "in the reader's unit; or give it a label of its own in the column, \"result\": \"m\"",
               textOf(L"%Length/1000"));
 }
 

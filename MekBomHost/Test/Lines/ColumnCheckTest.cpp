@@ -57,6 +57,31 @@ TEST(ColumnCheckTest, AResultIsForFormulas)
               errorsOf(R"({ "token": "%Weight", "result": "EUR" })", "%Weight"));
 }
 
+// Each printed "Cost [EUR] [kg]".
+TEST(ColumnCheckTest, ALabelMustNotCallAFormulasNumbersWhatTheyAreNot)
+{
+    const std::string cost = "%Formula:%Weight*1.85";
+    const auto labelled = [&](const std::string& members) { return R"({ "token": ")" + cost + "\", " + members + " }"; };
+
+    EXPECT_EQ("MB421 list.json:1:16: error MB421: the label \"Cost [EUR]\" names EUR, but the numbers are weight; "
+              "help: say \"result\": \"EUR\" in the column, or leave the brackets out\n",
+              errorsOf(labelled(R"("label": "Cost [EUR]")"), cost));
+    EXPECT_NE("", errorsOf(labelled(R"("label": "Mass [m]")"), cost));
+    EXPECT_EQ("", errorsOf(labelled(R"("label": "Cost [EUR]", "result": "EUR")"), cost));
+    EXPECT_EQ("", errorsOf(labelled(R"("label": "Cost [EUR]", "result": "none")"), cost));
+    EXPECT_EQ("", errorsOf(labelled(R"("label": "Mass [t]")"), cost)); // the heading has the unit that is shown
+    EXPECT_EQ("", errorsOf(labelled(R"("label": "Mass")"), cost));
+}
+
+TEST(ColumnCheckTest, ALabelMustNotNameAUnitOfAnotherKind)
+{
+    EXPECT_EQ("MB421 list.json:1:16: error MB421: the label \"Weight [m]\" names m, but the numbers are weight; "
+              "help: leave the brackets out: the heading names the unit\n",
+              errorsOf(R"({ "token": "%Weight", "label": "Weight [m]" })", "%Weight"));
+    for (const std::string label : { "Weight [lb]", "Weight [net]", "Weight" })
+        EXPECT_EQ("", errorsOf(R"({ "token": "%Weight", "label": ")" + label + R"(" })", "%Weight")) << label;
+}
+
 TEST(ColumnCheckTest, ColumnsThatSayNothingAreRight)
 {
     EXPECT_EQ("", errorsOf("", "%Weight"));

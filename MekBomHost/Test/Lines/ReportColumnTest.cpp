@@ -38,4 +38,23 @@ TEST(ReportColumnTest, HeadingsNameNoUnitButTheOneShown)
     EXPECT_EQ("Weight [net] [lb]", headingOf("Weight [net]", "lb", "weight"));
     EXPECT_EQ("] [lb]", headingOf("]", "lb", "weight"));
 }
+
+TEST(ReportColumnTest, BracketsThatAreNoUnitOfTheNumbersAreFoundInTheLabel)
+{
+    const auto otherBracketsOf = [](const std::string& label, const std::string& unitSymbol, const char* kind)
+    {
+        ReportColumn column;
+        column.pUnitKind = UnitKinds::find(kind);
+        column.label = label;
+        column.unitSymbol = unitSymbol;
+        return column.otherBrackets();
+    };
+
+    EXPECT_EQ("EUR", otherBracketsOf("Cost [EUR]", "kg", "weight"));
+    EXPECT_EQ("m", otherBracketsOf("Weight [m]", "kg", "weight"));
+    EXPECT_EQ("", otherBracketsOf("Weight [lb]", "kg", "weight"));
+    EXPECT_EQ("", otherBracketsOf("Weight", "kg", "weight"));
+    EXPECT_EQ("", otherBracketsOf("Cost [EUR]", "EUR", ""));
+    EXPECT_EQ("", otherBracketsOf("Cost [EUR]", "", ""));
+}
 }

@@ -74,7 +74,7 @@ TEST(FormulaResultsTest, ConstantsThatHideAUnitAreErrorsUntilDeclared)
     const char* const kBars = R"({ "token": "%Formula:%Length/1000" })";
 
     EXPECT_NE("", undeclaredIn(templateOf("", kBars)));
-    for (const std::string result : { "none", "m", "length" })
+    for (const std::string result : { "none", "m", "bars" })
         EXPECT_EQ("",
                   undeclaredIn(templateOf(
                       R"("columns": [ { "token": "%Formula:%Length/1000", "result": ")" + result + R"(" } ],)", kBars)))
