@@ -60,10 +60,10 @@ struct FormulaResult
 
     // The same for a column that says `declared`: a kind ("weight", "area-per-length"), "none" for a plain number, a
     // label for a plain number that is called so, or nothing. What it says always holds. It is a contradiction when it
-    // - is a kind, but only tokens of known kinds are multiplied and divided, and make another: a constant among them,
-    //   or a number of the user's own, may be in any unit;
-    // - is the kind that the tokens make, and a constant hides a unit: "%Weight/1000" is no weight in kg;
-    // - is a unit of that kind, and no constant makes it: "m" for "%Length", which is in mm.
+    // is a kind, but only tokens of known kinds are multiplied and divided, and make another (a constant among them, or
+    // a number of an author's own, may be in any unit); when it is the kind that the tokens make, and a constant hides a
+    // unit, since "%Weight/1000" is no weight in kg; and when it is a unit of that kind, and no constant makes it: "m"
+    // for "%Length", which is in mm.
     static FormulaResult of(const VorString& formula, const FormulaOperands& operands, const std::string& declared);
 };
 }
