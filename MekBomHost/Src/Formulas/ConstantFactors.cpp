@@ -6,6 +6,8 @@
 
 #include "MekUnits/Src/VorUnitDefinition.h"
 
+#include "MekRoots/Exp/VorCharacters.h"
+
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -28,11 +30,6 @@ double ratioOf(const VorUnitDefinition& unit)
     return static_cast<double>(unit.numerator) / static_cast<double>(unit.denominator);
 }
 
-bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
 // How precisely a constant is written: the digits behind zeros in front, and half a unit of the last of them.
 //   "2.2"  ->  2, 0.05      "0.672"  ->  3, 0.0005      "1e3"  ->  none, 0
 struct WrittenPrecision
@@ -45,7 +42,8 @@ struct WrittenPrecision
 WrittenPrecision precisionOf(const FormulaConstant& constant)
 {
     const std::string& text = constant.text;
-    const bool isPlain = std::all_of(text.begin(), text.end(), [](char c) { return isDigit(c) || c == '.'; });
+    const bool isPlain =
+        std::all_of(text.begin(), text.end(), [](char c) { return VorCharacters::isDigit(c) || c == '.'; });
     const std::size_t nPoint = text.find('.');
     const std::size_t nFirst = text.find_first_of("123456789");
     if (!isPlain || nFirst == std::string::npos)

@@ -4,23 +4,20 @@
 #include "MistakeCodes.h"
 #include "Utf8.h"
 
+#include "MekRoots/Exp/VorCharacters.h"
+
 namespace mekbom
 {
 namespace
 {
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
 // "B02" -> "B2", "A-010" -> "A-10", "B0" stays.
 std::string withoutLeadingZeros(const std::string& text)
 {
     std::string bare;
     for (std::size_t i = 0; i < text.size(); ++i)
     {
-        const bool beginsNumber = bare.empty() || !isDigit(bare.back());
-        const bool goesOn = i + 1 < text.size() && isDigit(text[i + 1]);
+        const bool beginsNumber = bare.empty() || !VorCharacters::isDigit(bare.back());
+        const bool goesOn = i + 1 < text.size() && VorCharacters::isDigit(text[i + 1]);
         if (text[i] != '0' || !beginsNumber || !goesOn)
             bare += text[i];
     }
@@ -29,14 +26,14 @@ std::string withoutLeadingZeros(const std::string& text)
 }
 
 MarkRule::MarkRule(const CheckedTuple& request, const std::string& token)
-    : m_request(request), m_token(Utf8::toWide(token))
+    : m_request(request), m_marked(Utf8::toWide(token))
 {
 }
 
 void MarkRule::see(const VorBomDataRow& row)
 {
-    const VorBomDataTuple* const pTuple = row.getTupleAt(m_token);
-    if (!m_pair.empty() || pTuple == nullptr || pTuple->value().type() != VorBomDataValue::kStringData)
+    const VorBomDataTuple* const pTuple = m_pair.empty() ? m_marked.findIn(row) : nullptr;
+    if (pTuple == nullptr || pTuple->value().type() != VorBomDataValue::kStringData)
         return;
     const VorString& mark = *static_cast<const VorString*>(pTuple->value().data());
     if (mark == m_last)
@@ -52,7 +49,7 @@ void MarkRule::tell(MistakeList& mistakes) const
 {
     if (!m_pair.empty())
         mistakes.add(MistakeCodes::kMarksNearlyEqual, m_request,
-                     Utf8::toBytes(m_token) + " has " + m_pair +
+                     Utf8::toBytes(m_marked.token()) + " has " + m_pair +
                          ", which differ by leading zeros alone: they stand side by side as two marks",
                      "write the mark in one way in the data, if one is meant");
 }

@@ -2,6 +2,7 @@
 // are two groups all the same, which looks as if one of them came twice.
 #pragma once
 
+#include "DatumFinder.h"
 #include "RowRule.h"
 
 #include "MekRoots/Exp/VorString.h"
@@ -22,7 +23,7 @@ public:
 
 private:
     const CheckedTuple& m_request;
-    VorString m_token;
+    DatumFinder m_marked;
     VorString m_last;                                     // of the row before: most marks follow themselves
     std::unordered_map<std::string, std::string> m_marks; // by what they are without leading zeros
     std::string m_pair;                                   // "B02" and "B2", once there are such

@@ -26,9 +26,9 @@ OperandRule::OperandRule(const CheckedTuple& formula) : m_formula(formula)
     for (const VorString& token : VorBomDataToken::getTokensFromFormula(Utf8::toWide(formula.request.subject)))
     {
         const bool isThere = std::any_of(m_operands.begin(), m_operands.end(),
-                                         [&token](const Operand& operand) { return operand.token == token; });
+                                         [&token](const Operand& operand) { return operand.datum.token() == token; });
         if (!isThere && !isNumber(formula.pSection->getTupleAt(token)))
-            m_operands.push_back({ token, 0 });
+            m_operands.push_back({ DatumFinder(token), 0 });
     }
 }
 
@@ -36,7 +36,7 @@ void OperandRule::see(const VorBomDataRow& row)
 {
     ++m_numRows;
     for (Operand& operand : m_operands)
-        if (!isNumber(row.getTupleAt(operand.token)))
+        if (!isNumber(operand.datum.findIn(row)))
             ++operand.numLacking;
 }
 
@@ -44,10 +44,11 @@ void OperandRule::tell(MistakeList& mistakes) const
 {
     for (const Operand& operand : m_operands)
         if (operand.numLacking > 0)
-            mistakes.add(
-                MistakeCodes::kOperandMissingInRows, m_formula,
-                std::to_string(operand.numLacking) + " of " + std::to_string(m_numRows) + " rows have no number " +
-                    Utf8::toBytes(operand.token) + ": " + inQuotes(m_formula.token) + " is not computed for them",
-                "fill it in, or leave these rows out: \"queryFilter\": " + inQuotes(Utf8::toBytes(operand.token)));
+            mistakes.add(MistakeCodes::kOperandMissingInRows, m_formula,
+                         std::to_string(operand.numLacking) + " of " + std::to_string(m_numRows) +
+                             " rows have no number " + Utf8::toBytes(operand.datum.token()) + ": " +
+                             inQuotes(m_formula.token) + " is not computed for them",
+                         "fill it in, or leave these rows out: \"queryFilter\": " +
+                             inQuotes(Utf8::toBytes(operand.datum.token())));
 }
 }

@@ -1,6 +1,7 @@
 // MB413: rows lack a token that a formula computes with. Their lines keep the starting value, and totals lack them.
 #pragma once
 
+#include "DatumFinder.h"
 #include "RowRule.h"
 
 #include "MekRoots/Exp/VorString.h"
@@ -22,7 +23,7 @@ public:
 private:
     struct Operand
     {
-        VorString token;
+        DatumFinder datum;
         long long numLacking;
     };
 

@@ -10,14 +10,6 @@ namespace mekbom
 {
 namespace
 {
-bool standsForSeveral(const VorBomDataRow& row)
-{
-    const VorBomDataTuple* const pPieces = row.getTupleAt(PiecesRule::kPieces);
-    return (pPieces != nullptr && pPieces->value().type() == VorBomDataValue::kIntData &&
-            *static_cast<const int*>(pPieces->value().data()) != 1) ||
-           row.EqualPartObjectHandles().length() > 0;
-}
-
 // "%Formula:%Weight*1.05*%Quantity", "%Formula:(%Length+%Width)*%Quantity"
 std::string timesPieces(const std::string& summed)
 {
@@ -43,7 +35,7 @@ bool PiecesRule::isOfOnePiece(const CheckedTuple& total, const KnownTokens& toke
 PiecesRule::PiecesRule(const CheckedTuple& total, Finding::eSeverity severity) : m_total(total), m_severity(severity)
 {
     for (const std::string& token : dataTokensOf(total.request))
-        m_tokens.push_back(Utf8::toWide(token));
+        m_summed.emplace_back(Utf8::toWide(token));
 }
 
 void PiecesRule::see(const VorBomDataRow& row)
@@ -52,10 +44,18 @@ void PiecesRule::see(const VorBomDataRow& row)
         ++m_numRows;
 }
 
-bool PiecesRule::hasWhatIsSummed(const VorBomDataRow& row) const
+bool PiecesRule::standsForSeveral(const VorBomDataRow& row)
 {
-    return std::any_of(m_tokens.begin(), m_tokens.end(),
-                       [&row](const VorString& token) { return row.getTupleAt(token) != nullptr; });
+    const VorBomDataTuple* const pPieces = m_pieces.findIn(row);
+    return (pPieces != nullptr && pPieces->value().type() == VorBomDataValue::kIntData &&
+            *static_cast<const int*>(pPieces->value().data()) != 1) ||
+           row.EqualPartObjectHandles().length() > 0;
+}
+
+bool PiecesRule::hasWhatIsSummed(const VorBomDataRow& row)
+{
+    return std::any_of(m_summed.begin(), m_summed.end(),
+                       [&row](DatumFinder& summed) { return summed.findIn(row) != nullptr; });
 }
 
 void PiecesRule::tell(MistakeList& mistakes) const

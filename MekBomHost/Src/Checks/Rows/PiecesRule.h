@@ -7,6 +7,7 @@
 // become one of 6 pieces and 200 kg, which is the weight neither of one piece nor of all. That is an error.
 #pragma once
 
+#include "DatumFinder.h"
 #include "KnownTokens.h"
 #include "RowRule.h"
 
@@ -33,11 +34,13 @@ public:
     void tell(MistakeList& mistakes) const override;
 
 private:
-    bool hasWhatIsSummed(const VorBomDataRow& row) const;
+    bool standsForSeveral(const VorBomDataRow& row);
+    bool hasWhatIsSummed(const VorBomDataRow& row);
 
     const CheckedTuple& m_total;
     Finding::eSeverity m_severity;
-    std::vector<VorString> m_tokens; // that the total is made of
-    long long m_numRows = 0;         // that stand for several pieces
+    DatumFinder m_pieces = DatumFinder(kPieces);
+    std::vector<DatumFinder> m_summed; // that the total is made of
+    long long m_numRows = 0;           // that stand for several pieces
 };
 }

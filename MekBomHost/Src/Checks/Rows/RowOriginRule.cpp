@@ -6,6 +6,8 @@
 
 #include "VorBomDataToken.h"
 
+#include <algorithm>
+
 namespace mekbom
 {
 namespace
@@ -38,16 +40,33 @@ std::string rows(long long number, long long all)
 void RowOriginRule::see(const VorBomDataRow& row)
 {
     ++m_numRows;
-    if (const VorString* const pTwice = tokenTwiceIn(row))
-    {
-        ++m_numWithTokenTwice;
-        if (m_twice.empty())
-            m_twice = Utf8::toBytes(*pTwice);
-    }
     if (row.child() != nullptr)
         ++m_numWithSubRows;
-    if (row.getUseThisDataForSums() == 0 || hasFormula(row))
-        ++m_numMarked;
+    if (isAsBefore(row))
+    {
+        m_numMarked += row.getUseThisDataForSums() == 0 ? 1 : 0;
+        return;
+    }
+    const VorString* const pTwice = tokenTwiceIn(row);
+    const bool isMarked = row.getUseThisDataForSums() == 0 || hasFormula(row);
+    if (pTwice != nullptr && m_twice.empty())
+        m_twice = Utf8::toBytes(*pTwice);
+    m_numWithTokenTwice += pTwice != nullptr ? 1 : 0;
+    m_numMarked += isMarked ? 1 : 0;
+    m_tokens.clear();
+    if (pTwice == nullptr && !isMarked)
+        for (const VorBomDataTuple& tuple : row.getData())
+            m_tokens.push_back(tuple.token().token());
+}
+
+// Rows of one parts list share the characters of their tokens, so no text is compared.
+bool RowOriginRule::isAsBefore(const VorBomDataRow& row) const
+{
+    const auto& tuples = row.getData();
+    return !m_tokens.empty() && tuples.length() == static_cast<int>(m_tokens.size()) &&
+           std::equal(m_tokens.begin(), m_tokens.end(), tuples.begin(),
+                      [](const VorString& token, const VorBomDataTuple& tuple)
+                      { return token.sharesTextWith(tuple.token().token()); });
 }
 
 void RowOriginRule::tell(MistakeList& mistakes) const

@@ -4,6 +4,11 @@
 
 #include "RowRule.h"
 
+#include "MekRoots/Exp/VorString.h"
+
+#include <string>
+#include <vector>
+
 #include <string>
 
 namespace mekbom
@@ -15,6 +20,9 @@ public:
     void tell(MistakeList& mistakes) const override;
 
 private:
+    bool isAsBefore(const VorBomDataRow& row) const;
+
+    std::vector<VorString> m_tokens; // of the last row whose tokens were looked at and found right
     long long m_numRows = 0;
     long long m_numWithTokenTwice = 0;
     long long m_numWithSubRows = 0;

@@ -5,11 +5,11 @@
 
 namespace mekbom
 {
-WholeNumberRule::WholeNumberRule(const CheckedTuple& tuple) : m_tuple(tuple), m_token(Utf8::toWide(tuple.token)) {}
+WholeNumberRule::WholeNumberRule(const CheckedTuple& tuple) : m_tuple(tuple), m_datum(Utf8::toWide(tuple.token)) {}
 
 void WholeNumberRule::see(const VorBomDataRow& row)
 {
-    const VorBomDataTuple* const pTuple = row.getTupleAt(m_token);
+    const VorBomDataTuple* const pTuple = m_datum.findIn(row);
     if (pTuple != nullptr && pTuple->value().type() == VorBomDataValue::kIntData)
         ++m_numRows;
 }

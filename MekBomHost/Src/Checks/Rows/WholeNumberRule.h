@@ -2,9 +2,8 @@
 // list have none, as all cells of such a column are read as quantities; rows from elsewhere may.
 #pragma once
 
+#include "DatumFinder.h"
 #include "RowRule.h"
-
-#include "MekRoots/Exp/VorString.h"
 
 namespace mekbom
 {
@@ -19,7 +18,7 @@ public:
 
 private:
     const CheckedTuple& m_tuple;
-    VorString m_token;
+    DatumFinder m_datum;
     long long m_numRows = 0; // with a whole number
 };
 }
