@@ -134,9 +134,11 @@ def own_list(folder, data, group, tokens, *options):
     """A list with a line for each row, totals of `tokens` (from heading to token and kind) and a group for each value of
     the token `group`."""
     sums = [{"token": f"%SumBy:%{token}"} for token, _ in tokens.values()]
+    are_assemblies = any(token.startswith("Assembly") for token, _ in tokens.values())
     template = folder / f"{data.stem}-own.json"
     template.write_text(json.dumps({
         "equalLines": "keep",
+        **({"allow": {"MB308": "each row of the file is an assembly"}} if are_assemblies else {}),
         "columns": [{"token": f"%{group}", "label": "Group", "order": "natural"},
                     *({"token": f"%{token}", "label": heading} for heading, (token, _) in tokens.items())],
         "sections": [
