@@ -32,9 +32,8 @@ void FormulaMistakes::run()
 // show the formula elsewhere.
 void FormulaMistakes::findIn(const CheckedTuple& tuple, const VorString& formula, const std::string& declared)
 {
-    const FormulaOperands operands = [this](const VorString& name) {
-        return m_tokens.knows(Utf8::toBytes(name)) ? FormulaResults::operandOf(m_list.file(), name) : FormulaOperand();
-    };
+    const FormulaOperands operands = [this](const VorString& name)
+    { return m_tokens.knows(Utf8::toBytes(name)) ? FormulaResults::operandOf(m_list.file(), name) : FormulaOperand(); };
     for (const Finding& finding : FormulaRules::check(formula, operands, declared))
         if (finding.code != MistakeCodes::kResultUndeclared.name)
             m_mistakes.add(finding, tuple);

@@ -54,7 +54,8 @@ std::string mistakeMessageOf(const Finding& finding)
 {
     const std::string place = placeOf(finding);
     return (place.empty() ? "" : place + ": ") + nameOf(finding.severity) + " " + finding.code + ": " +
-           (finding.field.empty() ? "" : "column " + inQuotes(finding.field) + ": ") + contentOf(finding) + (finding.remedy.empty() ? "" : "; help: " + finding.remedy);
+           (finding.field.empty() ? "" : "column " + inQuotes(finding.field) + ": ") + contentOf(finding) +
+           (finding.remedy.empty() ? "" : "; help: " + finding.remedy);
 }
 }
 

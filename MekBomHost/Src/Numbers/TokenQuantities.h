@@ -65,7 +65,6 @@ public:
     Measure commonMeasureOf(const std::vector<VorString>& tokens) const;
 
 private:
-
     const VorBomData& m_data;
     const VorBomTemplateUnits& m_tokenUnits;
     const FormulaResults& m_formulas;

@@ -96,8 +96,7 @@ TEST(EqualLinesTest, AFormulaThatDoesNotGrowWithThePiecesTellsLinesApart)
 
 TEST(EqualLinesTest, WhatStandsInPlaceOfAMissingNumberHasToReadAlike)
 {
-    const std::string details =
-        R"({ "token": "%PNum" }, { "token": "%Formula:%Weight*%Quantity", "value": "none" })";
+    const std::string details = R"({ "token": "%PNum" }, { "token": "%Formula:%Weight*%Quantity", "value": "none" })";
 
     EXPECT_EQ((Lines{ "P1 3", "P1 none" }),
               linesOf(countingList(details), "%PNum,%Weight,%Material\nP1,2,S235\nP1,,S235\nP1,1,S235\nP1,,S235\n"));

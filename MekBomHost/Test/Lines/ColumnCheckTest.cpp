@@ -36,32 +36,35 @@ TEST(ColumnCheckTest, AUnitMustMeasureWhatTheColumnShows)
 {
     EXPECT_EQ("", errorsOf(R"({ "token": "%Length", "unit": "m/2" })", "%Length"));
     EXPECT_EQ("", errorsOf(R"({ "token": "%Formula:%Weight/%Length", "unit": "lb/ft" })", "%Formula:%Weight/%Length"));
-    EXPECT_EQ(
-        "MB911 list.json:1:16: /columns/0/unit: found \"kg\", expected a unit of distance such as mm, m, in or ft, and after "
-        "a slash a precision if need be: lb/1, ft-in/16\n",
-        errorsOf(R"({ "token": "%Length", "unit": "kg" })", "%Length"));
+    EXPECT_EQ("MB911 list.json:1:16: /columns/0/unit: found \"kg\", expected a unit of distance such as mm, m, in or "
+              "ft, and after "
+              "a slash a precision if need be: lb/1, ft-in/16\n",
+              errorsOf(R"({ "token": "%Length", "unit": "kg" })", "%Length"));
     EXPECT_NE("", errorsOf(R"({ "token": "%Length", "unit": "furlong" })", "%Length"));
 }
 
 TEST(ColumnCheckTest, AUnitIsForQuantities)
 {
     for (const std::string token : { "%Quantity", "%Name", "%Own" })
-        EXPECT_EQ("MB816 list.json:1:16: /columns/0/unit: the unit \"m\" is for quantities, of which the column has none\n",
-                  errorsOf(R"({ "token": ")" + token + R"(", "unit": "m" })", token));
+        EXPECT_EQ(
+            "MB816 list.json:1:16: /columns/0/unit: the unit \"m\" is for quantities, of which the column has none\n",
+            errorsOf(R"({ "token": ")" + token + R"(", "unit": "m" })", token));
 }
 
 TEST(ColumnCheckTest, AResultIsForFormulas)
 {
     EXPECT_EQ("", errorsOf(R"({ "token": "%Formula:%Weight*2", "result": "EUR" })", "%Formula:%Weight*2"));
-    EXPECT_EQ("MB816 list.json:1:16: /columns/0/result: the result \"EUR\" is for formulas, of which the column has none\n",
-              errorsOf(R"({ "token": "%Weight", "result": "EUR" })", "%Weight"));
+    EXPECT_EQ(
+        "MB816 list.json:1:16: /columns/0/result: the result \"EUR\" is for formulas, of which the column has none\n",
+        errorsOf(R"({ "token": "%Weight", "result": "EUR" })", "%Weight"));
 }
 
 // Each printed "Cost [EUR] [kg]".
 TEST(ColumnCheckTest, ALabelMustNotCallAFormulasNumbersWhatTheyAreNot)
 {
     const std::string cost = "%Formula:%Weight*1.85";
-    const auto labelled = [&](const std::string& members) { return R"({ "token": ")" + cost + "\", " + members + " }"; };
+    const auto labelled = [&](const std::string& members)
+    { return R"({ "token": ")" + cost + "\", " + members + " }"; };
 
     EXPECT_EQ("MB421 list.json:1:16: error MB421: the label \"Cost [EUR]\" names EUR, but the numbers are weight; "
               "help: say \"result\": \"EUR\" in the column, or leave the brackets out\n",

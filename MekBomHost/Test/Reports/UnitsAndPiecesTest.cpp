@@ -108,7 +108,9 @@ TEST(UnitsAndPiecesTest, AHandleThatComesAgainIsTold)
     const ProgramRun run = listOf("Handle,PNum,Quantity,Weight,Paint [m2],Price\n2A0,P1,1,2,3,1\n2A0,P2,1,2,3,1\n");
 
     EXPECT_EQ(0, run.status) << run.errors;
-    EXPECT_NE(std::string::npos, run.errors.find("parts.csv: warning MB606: handle \"2A0\" stands in rows 1 and 2; help: ")) << run.errors;
+    EXPECT_NE(std::string::npos,
+              run.errors.find("parts.csv: warning MB606: handle \"2A0\" stands in rows 1 and 2; help: "))
+        << run.errors;
 }
 
 TEST(UnitsAndPiecesTest, TheFrameNeedsAUnitForItsSurfaces)
