@@ -19,5 +19,6 @@ TEST(RowNumbersTest, RowsAreNumberedFromOneAsTheyHang)
     EXPECT_EQ(2, numbers.numberOf(*pSecond));
     EXPECT_EQ(0, numbers.numberOf(stranger));
     EXPECT_EQ(0, RowNumbers().numberOf(*pFirst));
+    data.empty();
 }
 }

@@ -419,6 +419,7 @@ TEST(ReportJobTest, SampleRowsAreOnePieceEach)
     std::string expected = "Quantity\n--------\n";
     for (const VorBomItemBase* pRow = pSample->child(); pRow != nullptr; pRow = pRow->next())
         expected += "       1\n";
+    pSample->empty();
 
     EXPECT_EQ(expected, outcomeOf(std::move(request)));
 }
