@@ -56,7 +56,7 @@ std::string RowData::operandsOf(const VorBomDataRow& row, const VorString& formu
 std::string RowData::quantity(const VorString& token, double number) const
 {
     const VorBomTemplateUnits& tokenUnits = *m_report.reportTemplate.pTemplate->getBomTemplateUnits();
-    const std::string text = Utf8::toBytes(tokenUnits.getDisplayString(token, number));
+    std::string text = Utf8::toBytes(tokenUnits.getDisplayString(token, number));
     const UnitKind* const pKind = UnitKinds::find(tokenUnits.getUnitType(token));
     if (pKind == nullptr)
         return text;

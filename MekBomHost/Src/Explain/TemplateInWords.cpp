@@ -25,6 +25,7 @@ const char* const kDirections[] = { "descending", "ascending" };
 std::vector<std::string> namesOf(const std::vector<VorString>& tokens)
 {
     std::vector<std::string> names;
+    names.reserve(tokens.size());
     for (const VorString& token : tokens)
         names.push_back(Utf8::toBytes(token));
     return names;

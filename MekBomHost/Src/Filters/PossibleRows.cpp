@@ -27,7 +27,7 @@ Answers answersTo(const RowCondition& condition, bool hasColumn)
 
 bool canPass(const RowFilter& filter, const std::function<bool(const std::string&)>& hasColumn)
 {
-    const std::string text = filter.text();
+    const std::string& text = filter.text();
     if (text.empty())
         return true;
     ConditionReader reader(text);

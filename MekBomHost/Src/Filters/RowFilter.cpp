@@ -106,7 +106,7 @@ std::optional<Finding> RowFilter::parse(std::string_view text, RowFilter& filter
     if (!parsed.m_text.empty())
     {
         ConditionReader reader(parsed.m_text);
-        if (const std::optional<Finding> finding = reader.read())
+        if (std::optional<Finding> finding = reader.read())
             return finding;
         parsed.m_conditions = reader.conditions();
         parsed.m_steps = reader.steps();
