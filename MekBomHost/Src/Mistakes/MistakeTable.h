@@ -26,8 +26,8 @@ struct Mistake
     // data that differ.
     std::string bad;
     std::string good;
-    std::string badRows = ""; // empty for a rule on the template alone
-    std::string goodRows = "";
+    std::string badRows = {}; // empty for a rule on the template alone
+    std::string goodRows = {};
 
     // No parts list that this program reads trips the rule; rows that another program hands over may.
     bool needsForeignRows = false;

@@ -19,7 +19,7 @@ std::string computingPlain(const std::string& formula)
 const char* const kRows = "%PNum,%Material,%Length [mm],%Weight [kg]\n";
 }
 
-std::vector<Mistake> ofFormulas()
+std::vector<Mistake> ofFormulas() // NOLINT(readability-function-size): a table
 {
     return {
         { &MistakeCodes::kFormulaTooShort, "%Formula:1+2, %Formula:a*b",

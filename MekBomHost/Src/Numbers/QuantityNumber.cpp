@@ -7,7 +7,7 @@ namespace mekbom
 {
 VorString QuantityNumber::textOf(double value) const
 {
-    const VorString text = m_unit.getVorUnitTransform().formatValue(
+    VorString text = m_unit.getVorUnitTransform().formatValue(
         value, m_settings.suppressLastZeros, m_hasSymbol ? 1 : 0, m_settings.suppressZeroFeet,
         m_settings.suppressZeroInch, m_settings.showMinusBetweenFeetAndInch != 0 ? L'-' : L' ');
     if (!m_hasThousands)

@@ -57,7 +57,7 @@ Measure TokenQuantities::measureOf(const VorString& token) const
 
 Measure TokenQuantities::commonMeasureOf(const std::vector<VorString>& tokens) const
 {
-    const Measure first = tokens.empty() ? Measure() : measureOf(tokens.front());
+    Measure first = tokens.empty() ? Measure() : measureOf(tokens.front());
     for (const VorString& token : tokens)
         if (isNumeric(token) && !(measureOf(token) == first))
             return {};
