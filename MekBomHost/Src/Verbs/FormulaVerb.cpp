@@ -32,6 +32,7 @@ namespace
 int evaluate(const VorString& formula, const std::vector<VorString>& names, std::vector<double> values, double& value)
 {
     std::vector<const wchar_t*> texts;
+    texts.reserve(names.size() + 1);
     for (const VorString& name : names)
         texts.push_back(name.getStringW());
     texts.push_back(nullptr);

@@ -160,7 +160,7 @@ ReportRequest ReportVerb::request() const
 
 std::string ReportVerb::dataName() const
 {
-    const std::string name = m_data.name();
+    std::string name = m_data.name();
     if (!name.empty())
         return name;
     Finding finding = Finding::of(FindingCodes::kWrongArguments, "no --data", "a parts list");
