@@ -79,13 +79,12 @@ void SumRules::findSumOfTexts(const CheckedTuple& tuple)
                        "sum a number, or say what the data have: \"tokens\": { ... : \"number\" }");
 }
 
-// Blanks belong to the text of a formula; those in front of it do not.
+// Blanks in a formula and behind it belong to its text, and whether the details have the same is asked as MB306.
 void SumRules::findSumOfList(const CheckedTuple& tuple)
 {
     const std::string& summed = tuple.request.subject;
-    const bool hasBlank = isFormula(summed) ? summed.back() == ' ' : summed.find(' ') != std::string::npos;
-    const bool isList = !isFormula(summed) && summed.find(',') != std::string::npos;
-    if (!hasBlank && !isList)
+    const bool isList = summed.find(',') != std::string::npos;
+    if (isFormula(summed) || (summed.find(' ') == std::string::npos && !isList))
         return;
     const std::string first = withoutBlanks(summed.substr(0, summed.find(',')));
     m_mistakes.add(MistakeCodes::kSumOfList, tuple,
