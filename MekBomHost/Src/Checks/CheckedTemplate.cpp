@@ -1,3 +1,14 @@
+// The engine goes from first child to first child, and takes what stands right behind the first one for its footer:
+//
+//   root
+//     kReportHeader    level 0
+//       kGroupHeader   level 1
+//         kDetails     level 2, without a footer
+//       kGroupFooter   the footer of level 1
+//     kReportFooter    the footer of level 0
+//     kPageFooter      nothing: third of its siblings, it is never looked at
+//
+// All tuples are listed first, and pointers to them are handed out only once the list grows no more.
 #include "CheckedTemplate.h"
 
 #include "Utf8.h"
@@ -37,7 +48,8 @@ void CheckedTemplate::addTuples(const VorBomTemplateItem* pSection, bool isFoote
     }
 }
 
-// Those of the level above, and its own.
+// A list begins with that of the level around it: parts of one %Name are in one group only as long as the group by
+// %Material around them is the same.
 void CheckedTemplate::addGroupTokens(std::size_t level)
 {
     std::vector<std::string> tokens = level == 0 ? std::vector<std::string>() : m_groupTokens.back();
@@ -53,7 +65,8 @@ bool CheckedTemplate::isSummary() const
     return m_template.styleOf(deepest().pHeader).isSummary;
 }
 
-// Details of the outermost level never merge.
+// Details of the outermost level never merge: the engine compares a line with the one before it in the same group, and
+// there is no group around these.
 bool CheckedTemplate::mergesEqualLines() const
 {
     return (m_template.equalLines == kEqualLinesOpen || m_template.equalLines == kMergeEqualLines) &&
@@ -62,6 +75,7 @@ bool CheckedTemplate::mergesEqualLines() const
 
 std::string typeName(const VorBomTemplateItem& section)
 {
+    // In the order of VorBomTemplateItem::eTemplateItemType.
     static const char* const names[] = { "section",  "template",     "kReportHeader", "kPageHeader",  "kGroupHeader",
                                          "kDetails", "kGroupFooter", "kPageFooter",   "kReportFooter" };
     return names[section.type()];

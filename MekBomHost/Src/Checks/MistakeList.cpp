@@ -1,3 +1,9 @@
+// A rule knows the tuple that is wrong, and its author wants the line and column of the file. TemplateReader has kept
+// both in the style of the section:
+//
+//   tuple 1 of the kGroupFooter   ->   "/sections/1/tuples/1", line 8, columns 17 to 44   ->   "list.json:8:17: ..."
+//
+// What is about no tuple, such as a footer beside the details, has the place of its section.
 #include "MistakeList.h"
 
 #include <utility>
@@ -54,7 +60,7 @@ void MistakeList::addPlaced(const std::vector<Finding>& findings)
     }
 }
 
-// The built-in template has no file, and so no places.
+// The built-in template has no file, and so no places: its findings stand at line 0, which messages leave out.
 TemplatePlace MistakeList::placeOf(const CheckedTuple& tuple) const
 {
     const SectionStyle& style = m_template.styleOf(tuple.pSection);
