@@ -1,35 +1,25 @@
-// The engine goes from first child to first child, and takes what stands right behind the first one for its footer:
+// The lists of a template with groups by %Material and, in these, by %Name:
 //
-//   root
-//     kReportHeader    level 0
-//       kGroupHeader   level 1
-//         kDetails     level 2, without a footer
-//       kGroupFooter   the footer of level 1
-//     kReportFooter    the footer of level 0
-//     kPageFooter      nothing: third of its siblings, it is never looked at
+//   tuples()                                     "%GroupBy:%Material", "%SumBy:%Weight", "%GroupBy:%Name" ...
+//   tuplesOf(kGroup)                             the first and the third of them
+//   groupTokensDownTo(1), groupTokensDownTo(2)   { "%Material" }, { "%Material", "%Name" }
 //
-// All tuples are listed first, and pointers to them are handed out only once the list grows no more.
+// All tuples are listed first, and pointers to them are taken only once the list grows no more.
 #include "CheckedTemplate.h"
 
+#include "TemplateLevels.h"
 #include "Utf8.h"
 
 #include <algorithm>
 
 namespace mekbom
 {
-namespace
-{
-const VorBomTemplateItem* sectionOf(const VorBomItemBase* pItem)
-{
-    return static_cast<const VorBomTemplateItem*>(pItem); // all below the root are sections
-}
-}
-
 CheckedTemplate::CheckedTemplate(const ReportTemplate& reportTemplate) : m_template(reportTemplate)
 {
-    for (const VorBomItemBase* pItem = m_template.pTemplate->child(); pItem != nullptr; pItem = pItem->child())
+    const TemplateLevels levels(*m_template.pTemplate);
+    for (int i = 0; i < levels.count(); ++i)
     {
-        m_levels.push_back({ sectionOf(pItem), sectionOf(pItem->next()) });
+        m_levels.push_back({ levels.section({ i, false }), levels.section({ i, true }) });
         addTuples(m_levels.back().pHeader, false);
         addTuples(m_levels.back().pFooter, true);
     }

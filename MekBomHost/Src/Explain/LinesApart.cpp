@@ -29,7 +29,7 @@ LinesApart::LinesApart(const ExplainedReport& report)
     : m_report(report),
       m_levels(*report.reportTemplate.pTemplate),
       m_data(report),
-      m_details(*m_levels.section({ m_levels.count() - 1, false })),
+      m_details(m_levels.details()),
       m_columns(static_cast<std::size_t>(m_details.getData().length()), -1)
 {
     const std::vector<int> shown = report.reportTemplate.shownTuplesOf(m_details);

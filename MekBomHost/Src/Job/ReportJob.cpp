@@ -27,6 +27,7 @@
 #include "RowsCheck.h"
 #include "TemplateCheck.h"
 #include "TemplateChoice.h"
+#include "TemplateLevels.h"
 #include "TemplateReader.h"
 #include "UnitChoice.h"
 #include "Utf8.h"
@@ -84,24 +85,23 @@ std::string lostPiecesIn(const ListFoot& foot)
                                                   "which do not show their pieces";
 }
 
+// Whether a line has a cell that is wrong as soon as it stands for more rows than one: "%Quantity", or what grows with
+// it.
 bool linesShowPieces(const ReportTemplate& reportTemplate)
 {
-    const VorBomItemBase* pDetails = reportTemplate.pTemplate->child();
-    while (pDetails->child() != nullptr)
-        pDetails = pDetails->child();
-    const std::vector<int> shown = reportTemplate.shownTuplesOf(*pDetails);
+    const TemplateLevels levels(*reportTemplate.pTemplate);
+    const VorBomTemplateItem& details = levels.details();
+    const std::vector<int> shown = reportTemplate.shownTuplesOf(details);
     return std::any_of(shown.begin(), shown.end(),
-                       [pDetails](int tuple)
-                       { return PieceTokens::growWithPieces(pDetails->getData()[tuple].token().token()); });
+                       [&details](int tuple)
+                       { return PieceTokens::growWithPieces(details.getData()[tuple].token().token()); });
 }
 
 // The finding at the details, whose lines are the ones that merge.
 Finding inDetails(const Finding& finding, const ReportTemplate& reportTemplate)
 {
-    const VorBomItemBase* pDetails = reportTemplate.pTemplate->child();
-    while (pDetails->child() != nullptr)
-        pDetails = pDetails->child();
-    const TemplatePlace& place = reportTemplate.styleOf(pDetails).place;
+    const TemplateLevels levels(*reportTemplate.pTemplate);
+    const TemplatePlace& place = reportTemplate.styleOf(&levels.details()).place;
     Finding placed = finding.in(reportTemplate.fileName, place.span);
     placed.path = place.path;
     return placed;
