@@ -57,16 +57,10 @@ CLI::App& CheckVerb::declareOn(CLI::App& parent)
         .add_option("--data", m_data,
                     "Parts list, for mistakes that only data show; - reads standard input, hall takes the shipped one")
         ->type_name("FILE");
-    m_inputUnits.declareOn(check, "Unit of a column whose header names none");
-    check.add_option("--where", m_where, "Which rows are listed")->type_name("CONDITION");
-    check.add_option("--row-totals", m_rowTotals, "Columns whose values are those of all pieces of a row")
-        ->type_name("TOKEN,...")
-        ->delimiter(',');
+    m_rows.declareOn(check, "Which rows are listed");
     check.add_option("--format", m_format, "How to print what is found: text or json [text]")
         ->check(CLI::IsMember({ "text", kJson }));
-    check.add_option("--allow", m_allowed, "Mistakes to pass over, such as MB105")
-        ->type_name("CODE,...")
-        ->delimiter(',');
+    m_allowed.declareOn(check, "Mistakes to pass over, such as MB105");
     check.add_option("--explain", m_code, "Print what a code means, or all of them as a page")->type_name("CODE");
     return check;
 }
@@ -89,10 +83,8 @@ ExitStatus CheckVerb::check(FindingList& findings) const
     if (m_templateName.empty())
         refuse("check needs a template, or --explain; see mekbom check --help");
     ReportRequest request;
-    request.allowed = m_allowed;
-    request.inputUnits = m_inputUnits.pairs();
-    request.where = m_where;
-    request.rowTotals = m_rowTotals;
+    m_rows.fillIn(request);
+    request.allowed = m_allowed.words();
     if (m_templateName != TemplateFile::kDefault)
         request.pTemplate = TemplateFile::open(m_templateName, "template");
     if (!m_data.empty())

@@ -8,11 +8,11 @@
 // from being read at all is a message on standard error as anywhere else, or, among the others, JSON.
 #pragma once
 
-#include "PairOption.h"
+#include "ListOption.h"
+#include "RowOptions.h"
 #include "Verb.h"
 
 #include <string>
-#include <vector>
 
 namespace mekbom
 {
@@ -30,9 +30,7 @@ private:
     std::string m_data;         // a file or "hall"; empty for none
     std::string m_format = "text";
     std::string m_code; // to explain; empty for none
-    PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
-    std::string m_where;
-    std::vector<std::string> m_rowTotals;
-    std::vector<std::string> m_allowed;
+    RowOptions m_rows;
+    ListOption m_allowed{ "--allow", "CODE,..." };
 };
 }

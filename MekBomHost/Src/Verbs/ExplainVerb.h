@@ -6,13 +6,14 @@
 #pragma once
 
 #include "FileOption.h"
+#include "ListOption.h"
 #include "PairOption.h"
 #include "ReportRequest.h"
+#include "RowOptions.h"
 #include "Verb.h"
 
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace mekbom
 {
@@ -33,9 +34,7 @@ private:
     std::string m_units = "metric";
     PairOption m_unitChoices{ "--unit", "KIND=UNIT", "length=ft-in/16" };
     PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
-    PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
-    std::string m_where;
-    std::vector<std::string> m_rowTotals;
-    std::vector<std::string> m_allowed;
+    RowOptions m_rows;
+    ListOption m_allowed{ "--allow", "CODE,..." };
 };
 }

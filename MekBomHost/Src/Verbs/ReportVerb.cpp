@@ -22,7 +22,7 @@
 #include "ShippedFiles.h"
 #include "StandardOutput.h"
 #include "TemplateFile.h"
-#include "UnitChoice.h"
+#include "UnitsFile.h"
 
 #include <CLI/CLI.hpp>
 
@@ -112,15 +112,8 @@ void ReportVerb::declareOptionsOn(CLI::App& command)
     m_settingsFile.declareOn(command, "INI file that says how numbers are shown");
     m_settings.declareOn(command, "How numbers are laid out, such as C40_SuppressZeroFeet=0");
     m_output.declareOn(command, "File to write, - for standard output [-]");
-    m_inputUnits.declareOn(command, "Unit of a column whose header names none");
-    command.add_option("--where", m_where, "Which rows to list, such as \"%Material = 'S355' and %Length > 6 m\"")
-        ->type_name("CONDITION");
-    command.add_option("--row-totals", m_rowTotals, "Columns whose values are those of all pieces of a row")
-        ->type_name("TOKEN,...")
-        ->delimiter(',');
-    command.add_option("--allow", m_allowed, "Mistakes that stop no report, such as MB105")
-        ->type_name("CODE,...")
-        ->delimiter(',');
+    m_rows.declareOn(command, "Which rows to list, such as \"%Material = 'S355' and %Length > 6 m\"");
+    m_allowed.declareOn(command, "Mistakes that stop no report, such as MB105");
     command.add_flag("--check-totals", m_checksTotals, "Add up every total a second time, from the rows");
 }
 
@@ -142,19 +135,17 @@ ExitStatus ReportVerb::run(FindingList& findings)
 ReportRequest ReportVerb::request() const
 {
     ReportRequest request;
-    request.inputUnits = m_inputUnits.pairs();
+    m_rows.fillIn(request);
     request.unitChoices = m_unitChoices.pairs();
     request.settings = m_settings.pairs();
-    request.where = m_where;
-    request.rowTotals = m_rowTotals;
-    request.allowed = m_allowed;
+    request.allowed = m_allowed.words();
     request.checksTotals = m_checksTotals;
     request.pParts = parts();
     addTemplates(request);
     request.environment = Environment::variables(DisplaySettings::names());
     if (const std::string settingsFile = m_settingsFile.name(); !settingsFile.empty())
         request.pSettings = std::make_unique<FileSource>(settingsFile);
-    addUnits(request);
+    UnitsFile::setIn(request, m_units);
     return request;
 }
 
@@ -185,16 +176,6 @@ void ReportVerb::addTemplates(ReportRequest& request) const
     else if (!isSample())
         for (const std::string& shipped : ShippedFiles::templateNames())
             request.candidates.push_back(TemplateFile::open(shipped, m_template.option()));
-}
-
-// A word that is neither metric nor imperial is a file, if there is one of that name.
-void ReportVerb::addUnits(ReportRequest& request) const
-{
-    std::error_code error;
-    if (!UnitChoice::isBase(m_units) && std::filesystem::exists(m_units, error))
-        request.pUnits = std::make_unique<FileSource>(m_units);
-    else
-        request.units = m_units;
 }
 
 // A slip such as `-o parts.csv` must not cost the parts list, and who asks for list.xlsx is not to get a text in it.

@@ -8,15 +8,16 @@
 #pragma once
 
 #include "FileOption.h"
+#include "ListOption.h"
 #include "PairOption.h"
 #include "ReportJob.h"
 #include "ReportRequest.h"
 #include "ReportWriter.h"
+#include "RowOptions.h"
 #include "Verb.h"
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace mekbom
 {
@@ -40,7 +41,6 @@ private:
     ReportRequest request() const;
     std::unique_ptr<ByteSource> parts() const;
     void addTemplates(ReportRequest& request) const;
-    void addUnits(ReportRequest& request) const;
     void checkOutput() const;
     void write(const ReportWriter& writer) const;
     bool isSample() const;
@@ -54,11 +54,9 @@ private:
     FileOption m_settingsFile{ "--settings", "FILE" };
     PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
     FileOption m_output{ "-o,--output", "FILE" };
-    std::string m_where;
-    std::vector<std::string> m_rowTotals;
-    std::vector<std::string> m_allowed;
+    RowOptions m_rows;
+    ListOption m_allowed{ "--allow", "CODE,..." };
     bool m_checksTotals = false;
-    PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
 
     std::unique_ptr<ReportJob> m_pJob; // keeps what the last report was made of
 };
