@@ -1,3 +1,10 @@
+// What was found goes two ways. The author's mistakes are the answer to the command, and go to standard output, where
+// an editor or a pipe takes them; what kept the check from looking is about the run, and goes with all other messages:
+//
+//   list.json:5:32: error MB201: ...          standard output
+//   mekbom: parts.csv: cannot be read         standard error
+//
+// A program that asks for JSON gets both in one array, as it would have to read two streams otherwise.
 #include "CheckVerb.h"
 
 #include "DataFile.h"
@@ -70,6 +77,7 @@ ExitStatus CheckVerb::run(FindingList& findings)
     return m_code.empty() ? check(findings) : explain();
 }
 
+// A code wins over everything else that is given: the page is the same for every template.
 ExitStatus CheckVerb::explain() const
 {
     if (m_code != kAllCodes && !MistakeCodes::has(m_code))
@@ -96,7 +104,7 @@ ExitStatus CheckVerb::check(FindingList& findings) const
         StandardOutput::print(FindingJson::textOf(job.findings().all()));
         return status;
     }
-    std::string text;
+    std::string text; // without "mekbom: " in front: editors jump to what a line begins with
     for (const Finding& finding : job.findings().all())
         if (MistakeCodes::has(finding.code))
             text += messageOf(finding) + "\n";

@@ -29,7 +29,7 @@ private:
     std::string m_templateName; // a file, a shipped list or "default"
     std::string m_data;         // a file or "hall"; empty for none
     std::string m_format = "text";
-    std::string m_code; // to explain; empty for none
+    std::string m_code; // what to explain, or "all"; empty for a check
     RowOptions m_rows;
     ListOption m_allowed{ "--allow", "CODE,..." };
 };

@@ -1,3 +1,10 @@
+// A template alone is read and told; nothing is evaluated, and no job is needed. With data a report is made exactly as
+// mekbom report makes it, but for two things: nothing is printed of it, and it keeps what words about it need:
+//
+//   values   "Weight, %Weight added up: 250 + 250 + 14 = 514 kg" needs the numbers behind the texts
+//   rows     "Counts row 1 (2A3), row 2 (2A4) and row 3 (2A5)" needs the rows behind the lines
+//
+// So a list that a report refuses is not explained either: its findings are told, and the run ends with their status.
 #include "ExplainVerb.h"
 
 #include "DataFile.h"
@@ -93,6 +100,7 @@ ExitStatus ExplainVerb::explainTemplate() const
     return kDone;
 }
 
+// The words look at the job, which lives until they are printed.
 ExitStatus ExplainVerb::explainList(FindingList& findings) const
 {
     ReportJob job(request());

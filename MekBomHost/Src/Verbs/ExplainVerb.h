@@ -30,8 +30,8 @@ private:
 
     std::string m_templateName; // a file, a shipped list or "default"
     FileOption m_data{ "--data", "FILE" };
-    std::optional<int> m_line;
-    std::string m_units = "metric";
+    std::optional<int> m_line;      // from 1; nothing for all lines
+    std::string m_units = "metric"; // as UnitsFile takes them
     PairOption m_unitChoices{ "--unit", "KIND=UNIT", "length=ft-in/16" };
     PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
     RowOptions m_rows;

@@ -37,6 +37,7 @@ namespace
 const char* const kStandardOutput = "-";
 const char* const kSampleData = "sample";
 
+// Ends the run with a finding about an option, which stands in front of it in the message.
 [[noreturn]] void failAt(const std::string& option, Finding finding)
 {
     finding.source = option;
@@ -117,7 +118,9 @@ void ReportVerb::declareOptionsOn(CLI::App& command)
     command.add_flag("--check-totals", m_checksTotals, "Add up every total a second time, from the rows");
 }
 
-// The output is opened only once there is a report: a run that fails leaves the list of the run before as it was.
+// The output is opened only once there is a report: a run that fails leaves the list of the run before as it was. That
+// it may be written is asked before, since a user should not wait a minute for a report to be told of a slip in its
+// name.
 ExitStatus ReportVerb::run(FindingList& findings)
 {
     const std::unique_ptr<ReportWriter> pWriter = ReportFormats::createWriter(ReportFormats::kText);
@@ -179,6 +182,8 @@ void ReportVerb::addTemplates(ReportRequest& request) const
 }
 
 // A slip such as `-o parts.csv` must not cost the parts list, and who asks for list.xlsx is not to get a text in it.
+// Files are compared as the file system knows them, so that "./parts.csv" and a link to it are the same; a word such as
+// "hall", and a file that is not there yet, are none of them.
 void ReportVerb::checkOutput() const
 {
     if (isToStandardOutput())
@@ -198,6 +203,7 @@ void ReportVerb::checkOutput() const
     }
 }
 
+// OutputFile puts the list in place of the old file when the writer finishes it, and not before.
 void ReportVerb::write(const ReportWriter& writer) const
 {
     if (isToStandardOutput())

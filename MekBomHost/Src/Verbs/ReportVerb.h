@@ -5,6 +5,7 @@
 //
 // The verb is where files come in: it turns options into the sources of a ReportRequest, lets a ReportJob make the
 // report and hands it to a writer. A report that cannot be made leaves nothing written, and the file of `-o` as it was.
+// DemoVerb is the same for the shipped hall.
 #pragma once
 
 #include "FileOption.h"
@@ -31,15 +32,16 @@ public:
     static const char* const kNotes;
 
 protected:
-    // All options but the one for data.
+    // Declares all options but the one for data.
     void declareOptionsOn(CLI::App& command);
 
 private:
-    // A file, or one of the words for something else. Throws a Fault of status kWrongUsage when there is none.
+    // What the rows come from: a file, a word as DataFile takes it, or "sample". Throws a Fault of status kWrongUsage
+    // when nothing is given.
     virtual std::string dataName() const;
 
     ReportRequest request() const;
-    std::unique_ptr<ByteSource> parts() const;
+    std::unique_ptr<ByteSource> parts() const; // null for the sample rows
     void addTemplates(ReportRequest& request) const;
     void checkOutput() const;
     void write(const ReportWriter& writer) const;
@@ -49,7 +51,7 @@ private:
     // What the options were given as. None of these files is opened before the job reads it.
     FileOption m_data{ "--data", "FILE" };
     FileOption m_template{ "--template", "FILE" }; // or a list's name; without one a list that suits the data
-    std::string m_units = "metric";                // to print in, as UnitChoice takes them
+    std::string m_units = "metric";                // to print in, as UnitsFile takes them
     PairOption m_unitChoices{ "--unit", "KIND=UNIT", "length=ft-in/16" };
     FileOption m_settingsFile{ "--settings", "FILE" };
     PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
