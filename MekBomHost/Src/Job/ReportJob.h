@@ -65,7 +65,7 @@ private:
     // The status for the errors found, of which there is at least one.
     ExitStatus statusOfErrors() const;
 
-    // The steps, in their order. Each may throw a Fault, which ends the job.
+    // What both are made of. Each may throw a Fault, which ends the job.
     void prepareReport();
     bool hasRows() const;
     KnownTokens knownTokens() const;
