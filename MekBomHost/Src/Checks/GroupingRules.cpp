@@ -4,7 +4,7 @@
 //
 //   level 1  "%GroupBy:%Material"   "%SortAscBy:%Class,%Material"   MB201: rows of one material are spread over classes
 //   level 1  "%GroupBy:%Material"   "%SortAscBy:%Material"
-//   level 2  "%GroupBy:%Name"       "%SortDescBy:%Name,%Length"      right: %Length comes behind both
+//   level 2  "%GroupBy:%Name"       "%SortDescBy:%Name,%Length"     right: %Length comes behind both
 #include "GroupingRules.h"
 
 #include "Utf8.h"
@@ -83,8 +83,8 @@ void GroupingRules::run(bool hasData)
     findFilters();
 }
 
-// Requests are read in headers alone. In the deepest level sorting is, but grouping has no effect there: every row is a
-// group of its own.
+// Requests are read in headers alone. In that of the deepest level a sorting request works, but a grouping request does
+// not: every row is a group of its own there.
 bool GroupingRules::isRead(const CheckedTuple& tuple) const
 {
     return !tuple.isFooter && (tuple.request.kind != TokenRequest::kGroup || !m_list.isDeepest(tuple.level));

@@ -105,7 +105,7 @@ void StructureRules::findThirdSections(const CheckedLevel& level)
 
 // MB103 trips on [ kGroupHeader, kReportFooter ] and does not on [ kGroupHeader, kGroupFooter ]. The engine would take
 // either; what sections are called tells what the author expects of them. Two headers side by side, where the second
-// was to be the child of the first, are the more frequent form of it. A section of no type promises nothing.
+// was to be the child of the first, are another form of it. A section of no type promises nothing.
 void StructureRules::findFooterOfOtherType(const CheckedLevel& level)
 {
     const Section& header = *level.pHeader;

@@ -46,8 +46,8 @@ std::vector<CellsInWords::Cell> CellsInWords::cellsOf(const ReportLine& line, bo
     const std::vector<int> tuples = m_report.reportTemplate.shownTuplesOf(section);
     const std::vector<int>& columns = m_report.evaluated.layout().section(place).columns;
     std::vector<Cell> cells;
-    for (std::size_t i = 0; i < tuples.size();
-         ++i) // the layout has a column for each tuple that is shown, in their order
+    // The layout has a column for each tuple that is shown, in their order.
+    for (std::size_t i = 0; i < tuples.size(); ++i)
     {
         const auto column = static_cast<std::size_t>(columns[i]);
         cells.push_back({ section, tuples[i], m_report.evaluated.columns()[column],
