@@ -109,22 +109,22 @@ void addMissingAttributes(VorBomData& data, int numRows)
     ShapeRows(numRows).addTo(data, [&](ShapeRow& row, int) { dropAThird(row, draws); });
 }
 
+void shuffle(ShapeRow& row, Draws& draws)
+{
+    for (unsigned i = static_cast<unsigned>(row.size()); i > 1; --i)
+        std::swap(row[i - 1], row[draws.below(i)]);
+}
+
 void addAttributesInAnyOrder(VorBomData& data, int numRows)
 {
     Draws draws;
-    ShapeRows(numRows).addTo(data,
-                             [&](ShapeRow& row, int)
-                             {
-                                 for (unsigned i = static_cast<unsigned>(row.size()); i > 1; --i)
-                                     std::swap(row[i - 1], row[draws.below(i)]);
-                             });
+    ShapeRows(numRows).addTo(data, [&](ShapeRow& row, int) { shuffle(row, draws); });
 }
 
 // "%UserAttr1" and so on, which stand before the others in a row, so that look-ups have to pass them.
-template <unsigned NumAttributes>
-void addUserAttributes(VorBomData& data, int numRows)
+void addUserAttributes(VorBomData& data, int numRows, unsigned numAttributes, bool inAnyOrder)
 {
-    const auto tokens = numberedTexts(L"%%UserAttr%u", NumAttributes);
+    const auto tokens = numberedTexts(L"%%UserAttr%u", numAttributes);
     const auto texts = numberedTexts(L"text %u", 20);
     Draws draws;
     ShapeRows(numRows).addTo(data,
@@ -135,7 +135,20 @@ void addUserAttributes(VorBomData& data, int numRows)
                                      longer.push_back({ token, texts[draws.below(20)] });
                                  longer.insert(longer.end(), row.begin(), row.end());
                                  row = std::move(longer);
+                                 if (inAnyOrder)
+                                     shuffle(row, draws);
                              });
+}
+
+template <unsigned NumAttributes>
+void addUserAttributes(VorBomData& data, int numRows)
+{
+    addUserAttributes(data, numRows, NumAttributes, false);
+}
+
+void addSixtyInAnyOrder(VorBomData& data, int numRows)
+{
+    addUserAttributes(data, numRows, 60, true);
 }
 
 void addRepeatedTokens(VorBomData& data, int numRows)
@@ -372,6 +385,8 @@ std::vector<Shape> makeShapes()
           addAttributesInAnyOrder, createPlain },
         { "sixty-more", "What does an attribute cost that the report does not show?",
           "sixty more attributes before the others", kSame, addUserAttributes<60>, createPlain },
+        { "sixty-more-any-order", "And if rows have no layout in common?",
+          "sixty more attributes, in another order in each row", kSame, addSixtyInAnyOrder, createPlain },
         { "repeated-tokens", "What if a row has one token twice?", "a second name and a second length in each row",
           kSame, addRepeatedTokens, createPlain },
         { "mixed-kinds", "What if a column holds values of all kinds?",
