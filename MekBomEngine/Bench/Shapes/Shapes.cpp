@@ -121,18 +121,28 @@ void addAttributesInAnyOrder(VorBomData& data, int numRows)
     ShapeRows(numRows).addTo(data, [&](ShapeRow& row, int) { shuffle(row, draws); });
 }
 
-// "%UserAttr1" and so on, which stand before the others in a row, so that look-ups have to pass them.
+// "%UserAttr1" and so on, which stand before the others in a row, so that look-ups have to pass them. Texts, whole
+// numbers and weights by turns.
 void addUserAttributes(VorBomData& data, int numRows, unsigned numAttributes, bool inAnyOrder)
 {
     const auto tokens = numberedTexts(L"%%UserAttr%u", numAttributes);
     const auto texts = numberedTexts(L"text %u", 20);
     Draws draws;
+    const auto cellFor = [&](unsigned attribute) -> ShapeCell
+    {
+        switch (attribute % 3)
+        {
+            case 0: return { tokens[attribute], texts[draws.below(20)] };
+            case 1: return { tokens[attribute], static_cast<int>(draws.below(100)) };
+            default: return { tokens[attribute], draws.below(100000) / 100.0 };
+        }
+    };
     ShapeRows(numRows).addTo(data,
                              [&](ShapeRow& row, int)
                              {
                                  ShapeRow longer;
-                                 for (const VorString& token : tokens)
-                                     longer.push_back({ token, texts[draws.below(20)] });
+                                 for (unsigned i = 0; i < numAttributes; ++i)
+                                     longer.push_back(cellFor(i));
                                  longer.insert(longer.end(), row.begin(), row.end());
                                  row = std::move(longer);
                                  if (inAnyOrder)
@@ -345,7 +355,7 @@ std::unique_ptr<VorBomTemplate> createUserColumns()
     return sections.create();
 }
 
-// Few levels' tokens again and again: no group of the levels within ever ends before the one around it.
+// Six tokens by turns: the levels of the second turn and of all later ones can tell no row from another.
 std::unique_ptr<VorBomTemplate> createDeepNesting()
 {
     const std::vector<VorString> tokens{ L"%Material", L"%Phase", L"%Class", L"%Coating", L"%Name", L"%MNum" };
