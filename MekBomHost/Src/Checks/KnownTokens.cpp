@@ -1,6 +1,7 @@
 #include "KnownTokens.h"
 
 #include "NearestWord.h"
+#include "TokenNames.h"
 #include "TokenRequest.h"
 #include "Utf8.h"
 
@@ -14,8 +15,6 @@ namespace mekbom
 {
 namespace
 {
-const char* const kHandle = "%Handle"; // every object has one, whatever the catalogue says
-
 const VorBomTokenCatalogue::Entry* entryOf(const std::string& token)
 {
     return VorBomTokenCatalogue::find(Utf8::toWide(token));
@@ -29,7 +28,7 @@ KnownTokens::KnownTokens(const ReportTemplate& reportTemplate, std::vector<std::
 
 bool KnownTokens::isInCatalogue(const std::string& token) const
 {
-    return token == kHandle || entryOf(token) != nullptr;
+    return token == TokenNames::kHandle || entryOf(token) != nullptr;
 }
 
 bool KnownTokens::knows(const std::string& token) const
@@ -45,7 +44,7 @@ bool KnownTokens::isOfData(const std::string& token) const
 
 KnownTokens::eKind KnownTokens::kindOf(const std::string& token) const
 {
-    if (token == kHandle)
+    if (token == TokenNames::kHandle)
         return kText;
     if (const VorBomTokenCatalogue::Entry* const pEntry = entryOf(token))
         return pEntry->type == VorBomDataValue::kStringData ? kText

@@ -5,6 +5,7 @@
 #include "DataTokens.h"
 #include "InputUnits.h"
 #include "JsonText.h"
+#include "TokenNames.h"
 #include "UnitKinds.h"
 
 #include "VorBomTokenCatalogue.h"
@@ -20,7 +21,6 @@ namespace
 {
 using Columns = std::vector<InputColumn>;
 
-const char* const kQuantity = "%Quantity";
 const char* const kWeight = "%Weight";
 const char* const kTotalWeight = "%Formula:%Weight*%Quantity";
 
@@ -105,7 +105,7 @@ std::vector<std::string> columnElements(const Columns& columns, const InputColum
         elements.push_back("{ \"token\": " + jsonText(column.token) +
                            ", \"label\": " + jsonText(column.token.substr(1)) +
                            (&column == pSort && !isNaturalByCatalogue(column) ? ", \"order\": \"natural\" }" : " }"));
-    if (has(columns, kWeight) && has(columns, kQuantity))
+    if (has(columns, kWeight) && has(columns, TokenNames::kPieces))
         elements.push_back("{ \"token\": " + jsonText(kTotalWeight) + ", \"label\": \"Total weight\" }");
     return elements;
 }
@@ -151,7 +151,7 @@ std::vector<std::string> details(const Columns& columns, const InputColumn* pSor
         tuples.push_back(tuple("%SortAscBy:" + pSort->token));
     for (const InputColumn& column : columns)
         tuples.push_back(tuple(column.token));
-    if (has(columns, kWeight) && has(columns, kQuantity))
+    if (has(columns, kWeight) && has(columns, TokenNames::kPieces))
         tuples.push_back(tuple(kTotalWeight));
     return tuples;
 }
@@ -160,10 +160,10 @@ std::vector<std::string> details(const Columns& columns, const InputColumn* pSor
 std::vector<std::string> totals(const Columns& columns)
 {
     std::vector<std::string> tuples;
-    if (has(columns, kQuantity))
-        tuples.push_back(tuple(std::string("%SumBy:") + kQuantity));
+    if (has(columns, TokenNames::kPieces))
+        tuples.push_back(tuple(std::string("%SumBy:") + TokenNames::kPieces));
     if (has(columns, kWeight))
-        tuples.push_back(tuple(std::string("%SumBy:") + (has(columns, kQuantity) ? kTotalWeight : kWeight)));
+        tuples.push_back(tuple(std::string("%SumBy:") + (has(columns, TokenNames::kPieces) ? kTotalWeight : kWeight)));
     return tuples;
 }
 

@@ -15,6 +15,7 @@
 #include "FindingList.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
+#include "TokenNames.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 
@@ -29,8 +30,6 @@ namespace mekbom
 {
 namespace
 {
-const char* const kHandleToken = "%Handle";
-
 // What is wrong with "--input-unit TOKEN=UNIT".
 [[noreturn]] void failInOption(const std::string& token, const std::string& unit, Finding finding)
 {
@@ -129,10 +128,10 @@ PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector
     resolveColumns(reportTemplate);
     CellReader cells(m_columns, m_source, *reportTemplate.getBomData());
     cells.reserveTuples(numFormulas(reportTemplate));
-    if (find(kHandleToken) == nullptr && wanted.count(kHandleToken) > 0)
-        cells.numberRows(Utf8::toWide(kHandleToken));
-    if (wanted.count(kPiecesToken) > 0)
-        cells.countPieces(Utf8::toWide(kPiecesToken));
+    if (find(TokenNames::kHandle) == nullptr && wanted.count(TokenNames::kHandle) > 0)
+        cells.numberRows(Utf8::toWide(TokenNames::kHandle));
+    if (wanted.count(TokenNames::kPieces) > 0)
+        cells.countPieces(Utf8::toWide(TokenNames::kPieces));
     while (const Record* const pRecord = m_source.next())
         cells.read(*pRecord);
     PartsFacts facts = cells.finish();
@@ -221,8 +220,8 @@ void PartsList::addColumn(const std::string& heading)
     column.token = name.token;
     column.tupleToken = Utf8::toWide(name.token);
     column.unitSymbol = name.unit;
-    column.isHandle = name.token == kHandleToken;
-    column.isPieces = name.token == kPiecesToken;
+    column.isHandle = name.token == TokenNames::kHandle;
+    column.isPieces = name.token == TokenNames::kPieces;
     m_columns.push_back(column);
 }
 
@@ -235,7 +234,7 @@ void PartsList::findWantedColumns(const std::set<std::string>& wantedTokens)
         column.isWanted = wantedTokens.count(column.token) > 0;
         dividesByPieces = dividesByPieces || (column.isWanted && column.isRowTotal);
     }
-    if (InputColumn* const pPieces = dividesByPieces ? findColumn(kPiecesToken) : nullptr)
+    if (InputColumn* const pPieces = dividesByPieces ? findColumn(TokenNames::kPieces) : nullptr)
         pPieces->isWanted = true;
 }
 

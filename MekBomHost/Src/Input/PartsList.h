@@ -39,8 +39,6 @@ struct FindingCode;
 class PartsList
 {
 public:
-    static constexpr const char* kPiecesToken = "%Quantity"; // how many pieces a row stands for
-
     // Reads the header row. `source` is not owned and outlives the list.
     explicit PartsList(RecordSource& source);
 

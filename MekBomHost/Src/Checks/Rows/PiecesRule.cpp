@@ -16,11 +16,9 @@ std::string timesPieces(const std::string& summed)
     const TokenRequest request = TokenRequest::of(summed);
     const bool isProduct =
         request.kind != TokenRequest::kFormula || request.subject.find_first_of("+-/^(") == std::string::npos;
-    return "%Formula:" + (isProduct ? request.subject : "(" + request.subject + ")") + "*%Quantity";
+    return "%Formula:" + (isProduct ? request.subject : "(" + request.subject + ")") + "*" + TokenNames::kPieces;
 }
 }
-
-const VorString PiecesRule::kPieces(L"%Quantity");
 
 bool PiecesRule::isOfOnePiece(const CheckedTuple& total, const KnownTokens& tokens)
 {

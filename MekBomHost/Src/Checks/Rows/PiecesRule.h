@@ -10,6 +10,7 @@
 #include "DatumFinder.h"
 #include "KnownTokens.h"
 #include "RowRule.h"
+#include "TokenNames.h"
 
 #include "MekRoots/Exp/VorString.h"
 
@@ -21,8 +22,6 @@ namespace mekbom
 class PiecesRule : public RowRule
 {
 public:
-    static const VorString kPieces; // "%Quantity": how many pieces a row stands for
-
     // Whether a total adds up the weight, length ... of one piece: not that of an assembly, a phase or the whole model,
     // and no formula that counts something, such as "%Weight*%Quantity".
     static bool isOfOnePiece(const CheckedTuple& total, const KnownTokens& tokens);
@@ -39,7 +38,7 @@ private:
 
     const CheckedTuple& m_total;
     Finding::eSeverity m_severity;
-    DatumFinder m_pieces = DatumFinder(kPieces);
+    DatumFinder m_pieces = DatumFinder(TokenNames::kWidePieces);
     std::vector<DatumFinder> m_summed; // that the total is made of
     long long m_numRows = 0;           // that stand for several pieces
 };

@@ -9,6 +9,7 @@
 #include "PlainOrderRule.h"
 #include "RowOriginRule.h"
 #include "RowRule.h"
+#include "TokenNames.h"
 #include "TokenRules.h"
 #include "VaryingRule.h"
 #include "WholeNumberRule.h"
@@ -86,7 +87,7 @@ std::vector<VorString> neededTokens(const ReportTemplate& reportTemplate, const 
 {
     const CheckedTemplate list(reportTemplate);
     return totalsOfPieces(list, tokens).empty() ? std::vector<VorString>()
-                                                : std::vector<VorString>{ PiecesRule::kPieces };
+                                                : std::vector<VorString>{ TokenNames::kWidePieces };
 }
 
 std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens& tokens, const VorBomData& data)
