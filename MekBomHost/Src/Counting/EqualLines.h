@@ -17,8 +17,8 @@
 // lines apart of which it is unlike. Where a number is missing, what stands in its place has to read alike.
 //
 // The engine must hand over equal lines (RowTally asks for them): its totals have every row. Lines with a footer of
-// their own, and lines that are not printed, are handed on as they come. A line is followed by the rows that were added to it, as takeMergedRow. Memory:
-// the lines of one group, and a pointer for each of its rows.
+// their own, and lines that are not printed, are handed on as they come. A line is followed by the rows that were added
+// to it, as takeMergedRow. Memory: the lines of one group, and a pointer for each of its rows.
 #pragma once
 
 #include "ReportTemplate.h"
