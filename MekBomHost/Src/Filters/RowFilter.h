@@ -52,6 +52,10 @@ public:
     // As it was given, without blanks around it; empty for the filter without conditions.
     const std::string& text() const { return m_text; }
 
+    // The conditions in their order, and how their answers are joined; both empty for the filter without conditions.
+    const std::vector<RowCondition>& conditions() const { return m_conditions; }
+    const std::vector<FilterStep>& steps() const { return m_steps; }
+
     // The tokens that conditions are about, in their order, each as often as it is named.
     std::vector<VorString> tokens() const;
     bool names(const VorString& token) const;
