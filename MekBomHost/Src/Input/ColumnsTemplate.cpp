@@ -1,5 +1,9 @@
-// The text is put together of lines, not of JSON values: an author reads it, and comments stand where a group or a title
-// would go. The comments around the details are JSON themselves, so that taking the slashes away makes the group.
+// The text is put together of lines, not of JSON values: an author reads it, and comments stand where a group or a
+// title would go. The comments around the details are JSON themselves, so that taking the slashes away makes the group.
+// Of columns %Name, %Quantity and %Weight it says
+//   columns            %Name, %Quantity, %Weight and, as a formula, the weight of all pieces of a row
+//   details            sorted by %Name; the same four
+//   report footer      the sums of %Quantity and of that formula
 #include "ColumnsTemplate.h"
 
 #include "DataTokens.h"
@@ -29,7 +33,7 @@ const VorBomTokenCatalogue::Entry* entryOf(const InputColumn& column)
     return VorBomTokenCatalogue::find(column.tupleToken);
 }
 
-// Not one that the catalogue knows.
+// A column of the user's own, which is not one that the catalogue knows: the template has to say what it holds.
 bool isOwn(const InputColumn& column)
 {
     return !column.isHandle && entryOf(column) == nullptr;
@@ -52,7 +56,8 @@ bool canBeSortedBy(const InputColumn& column)
     return !column.isHandle && column.token.find_first_of(", \t") == std::string::npos;
 }
 
-// The first column of texts that the catalogue knows; without one the first that may hold texts. Null when there is none.
+// The first column of texts that the catalogue knows; without one the first that may hold texts, which is one of the
+// user's own without a unit. Null when there is none.
 const InputColumn* sortColumnOf(const Columns& columns)
 {
     const InputColumn* pOwn = nullptr;
@@ -69,6 +74,7 @@ const InputColumn* sortColumnOf(const Columns& columns)
     return pOwn;
 }
 
+// Whether rows are sorted by the column with 2 before 10 as it is; the column has to say it otherwise.
 bool isNaturalByCatalogue(const InputColumn& column)
 {
     const VorBomTokenCatalogue::Entry* const pEntry = entryOf(column);
@@ -110,6 +116,8 @@ std::vector<std::string> columnElements(const Columns& columns, const InputColum
     return elements;
 }
 
+// Of a column whose content is not known yet nothing is said: a template that called texts numbers would refuse the
+// very data that it was made for.
 std::vector<std::string> ownTokens(const Columns& columns)
 {
     std::vector<std::string> members;
@@ -123,6 +131,8 @@ std::vector<std::string> ownTokens(const Columns& columns)
     return members;
 }
 
+// A column of the user's own is shown in the reader's units when the template names its kind, and its heading has told
+// that: "Gap [in]" is a length.
 std::vector<std::string> tokenUnits(const Columns& columns)
 {
     std::vector<std::string> members;
@@ -144,6 +154,7 @@ std::string object(const std::string& key, const std::vector<std::string>& membe
     return members.empty() ? "" : "  \"" + key + "\": {\n" + lines(members, 4) + "\n  },\n";
 }
 
+// The sorting request goes first, and steers; the tuples behind it are the columns, one each.
 std::vector<std::string> details(const Columns& columns, const InputColumn* pSort)
 {
     std::vector<std::string> tuples;
@@ -172,6 +183,8 @@ std::string footer(const std::string& type, const std::string& label, const std:
     return "{ \"type\": \"" + type + "\", \"label\": \"" + label + "\", \"tuples\": [ " + joined(tuples) + " ] }";
 }
 
+// The lines as they would stand with their slashes taken away. The group sorts as well: a list that is grouped by what
+// it is not sorted by splits its groups.
 std::string groupBegin(const InputColumn& column)
 {
     return "        // Groups: take away the slashes before the next two lines, and before the one below the details.\n"
@@ -184,31 +197,23 @@ std::string groupEnd(const std::vector<std::string>& totals)
 {
     return "\n        // ] }" + (totals.empty() ? "" : ", " + footer("kGroupFooter", "Sum", totals));
 }
+
+std::string columnsMember(const Columns& columns, const InputColumn* pSort)
+{
+    return "  // In the order in which they are printed; \"unit\": \"m/2\" or \"width\": 20 say how.\n"
+           "  \"columns\": [\n" +
+           lines(columnElements(columns, pSort), 4) + "\n  ],\n";
 }
 
-std::string textOf(const Columns& allColumns)
+// The details alone below the report's header, between the comments that make a group; below them the totals, where
+// there is anything to total.
+std::string sectionsMember(const Columns& columns, const InputColumn* pSort)
 {
-    Columns columns;
-    std::copy_if(allColumns.begin(), allColumns.end(), std::back_inserter(columns), isDatum);
-    const InputColumn* const pSort = sortColumnOf(columns);
     const std::vector<std::string> sums = totals(columns);
-
-    std::string text =
-        "// A list with every column of its data: mekbom report --data DATA --template THIS-FILE prints it.\n"
-        "// Take out columns that you do not need, in \"columns\" and in \"tuples\", and rename others.\n"
-        "{\n"
-        "  \"$schema\": \"mekbom-template.schema.json\", // beside this file it makes editors check it\n"
-        "  // \"title\": \"My list\",\n"
-        "  \"equalLines\": \"keep\", // or \"count\": one line for all rows that read alike\n";
-    text += object("tokens", ownTokens(columns)) + object("tokenUnits", tokenUnits(columns));
-    text += "  // In the order in which they are printed; \"unit\": \"m/2\" or \"width\": 20 say how.\n"
-            "  \"columns\": [\n" +
-            lines(columnElements(columns, pSort), 4) +
-            "\n  ],\n"
-            "  \"sections\": [\n"
-            "    {\n"
-            "      \"type\": \"kReportHeader\",\n"
-            "      \"children\": [\n";
+    std::string text = "  \"sections\": [\n"
+                       "    {\n"
+                       "      \"type\": \"kReportHeader\",\n"
+                       "      \"children\": [\n";
     if (pSort != nullptr)
         text += groupBegin(*pSort);
     text += "        {\n"
@@ -222,6 +227,22 @@ std::string textOf(const Columns& allColumns)
     text += "\n      ]\n    }";
     if (!sums.empty())
         text += ",\n    " + footer("kReportFooter", "Total", sums);
-    return text + "\n  ]\n}\n";
+    return text + "\n  ]\n";
+}
+}
+
+std::string textOf(const Columns& allColumns)
+{
+    Columns columns;
+    std::copy_if(allColumns.begin(), allColumns.end(), std::back_inserter(columns), isDatum);
+    const InputColumn* const pSort = sortColumnOf(columns);
+    return "// A list with every column of its data: mekbom report --data DATA --template THIS-FILE prints it.\n"
+           "// Take out columns that you do not need, in \"columns\" and in \"tuples\", and rename others.\n"
+           "{\n"
+           "  \"$schema\": \"mekbom-template.schema.json\", // beside this file it makes editors check it\n"
+           "  // \"title\": \"My list\",\n"
+           "  \"equalLines\": \"keep\", // or \"count\": one line for all rows that read alike\n" +
+           object("tokens", ownTokens(columns)) + object("tokenUnits", tokenUnits(columns)) +
+           columnsMember(columns, pSort) + sectionsMember(columns, pSort) + "}\n";
 }
 }

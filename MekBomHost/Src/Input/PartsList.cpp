@@ -65,6 +65,7 @@ std::set<std::string> wantedTokens(VorBomTemplate& reportTemplate, const std::ve
     return tokens;
 }
 
+// Each formula becomes a tuple of every row when the list is evaluated, so rows get room for them beforehand.
 int numFormulas(VorBomTemplate& reportTemplate)
 {
     int number = 0;
@@ -121,6 +122,8 @@ void PartsList::setRowTotal(const std::string& token)
     pColumn->isRowTotal = true;
 }
 
+// Rows are numbered, or get their one piece, only where the list asks for it: neither is a column of the file, and what
+// nobody wants costs memory in each row.
 PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
 {
     const std::set<std::string> wanted = wantedTokens(reportTemplate, otherTokens);
@@ -139,6 +142,8 @@ PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector
     return facts;
 }
 
+// Before any row is read, so that the engine shows "Gap [in]" in the reader's units. The catalogue's tokens have their
+// kinds, whatever the unit of the column.
 void PartsList::registerKinds(VorBomTemplateUnits& units) const
 {
     for (const InputColumn& column : m_columns)
