@@ -73,6 +73,7 @@ void cutDecimals(std::string& text, std::size_t point, std::size_t numDecimals)
         raiseLastDigit(text);
 }
 
+// "12.50" becomes "12.5" and "12.00" becomes "12"; "1200" has no decimals to drop.
 void dropZeros(std::string& text)
 {
     if (text.find('.') == std::string::npos)
@@ -82,6 +83,7 @@ void dropZeros(std::string& text)
         text.pop_back();
 }
 
+// "12.5" becomes "12.50" for two decimals, and "12" becomes "12.00".
 void addZeros(std::string& text, std::size_t numDecimals)
 {
     if (numDecimals == 0)
@@ -95,6 +97,7 @@ void addZeros(std::string& text, std::size_t numDecimals)
     text.resize(std::max(text.size(), point + 1 + numDecimals), '0');
 }
 
+// "-0.00" is what -0.001 is rounded to, and reads as if there were less than nothing.
 void dropSignOfZero(std::string& text)
 {
     if (text.front() == '-' && text.find_first_not_of("-0.") == std::string::npos)
@@ -112,6 +115,7 @@ std::string singleText(float number)
     return readableText(number);
 }
 
+// A number with an exponent is not rounded: from 1e15 on a double has no decimals to speak of.
 std::string listedText(double number, const NumberStyle& style)
 {
     if (std::isnan(number))
