@@ -48,7 +48,7 @@ public:
     void takeHeader(const VorBomReportSection& header) override;
     void takeFooter(const VorBomReportSection& footer) override;
 
-    // To be called when the evaluation has come to its end.
+    // Hands on the lines of the last group. To be called once, when the evaluation has come to its end.
     void finish();
 
     // How many rows stand in the line of another one.
@@ -70,7 +70,7 @@ private:
         std::vector<const VorBomDataRow*> otherRows;
     };
 
-    // For a set of lines by their index: equal are those that read alike.
+    // The set knows lines by their index, and takes those for equal that read alike.
     struct Hash
     {
         std::size_t operator()(std::size_t line) const { return pLines->hashOf(line); }

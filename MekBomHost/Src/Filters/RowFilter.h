@@ -42,14 +42,14 @@ namespace mekbom
 class RowFilter
 {
 public:
-    // Of what type the values of a token are; kUnknownData when no row has any.
+    // Answers of what type the values of a token are; kUnknownData when no row has any.
     using TypeOf = std::function<VorBomDataValue::eBomDataValueType(const VorString&)>;
 
     // Sets `filter` to what `text`, UTF-8, says. When that is no filter: what is wrong with it, still without a place,
     // and `filter` untouched.
     static std::optional<Finding> parse(std::string_view text, RowFilter& filter);
 
-    // As it was given, without blanks around it; empty for the filter without conditions.
+    // The text as it was given, without blanks around it; empty for the filter without conditions.
     const std::string& text() const { return m_text; }
 
     // The conditions in their order, and how their answers are joined; both empty for the filter without conditions.

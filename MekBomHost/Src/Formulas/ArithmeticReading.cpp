@@ -163,7 +163,7 @@ void Reader::readOperand()
     m_wantsOperand = false;
 }
 
-// Behind the operand without the blanks at its end.
+// The end of the operand that begins here, in front of the blanks that may stand behind it.
 const wchar_t* Reader::operandEnd() const
 {
     const wchar_t* pEnd = m_pText;

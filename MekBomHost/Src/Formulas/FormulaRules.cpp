@@ -74,7 +74,7 @@ bool isLetter(wchar_t character)
            character > 0x7F;
 }
 
-// Without zeros in front, and up to an exponent.
+// How many digits the number has, without zeros in front and without its exponent: 3 of "0.0250e6".
 std::size_t numDigitsOf(std::wstring_view number)
 {
     const std::wstring_view mantissa = number.substr(0, number.find_first_of(L"eE"));

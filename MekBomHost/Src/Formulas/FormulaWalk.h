@@ -27,7 +27,7 @@ template <class Value, class Client>
 class FormulaWalk
 {
 public:
-    // Not owned; outlives the walk.
+    // The client is not owned and must outlive the walk.
     explicit FormulaWalk(Client& client) : m_client(client) {}
 
     // The value of the formula, which is that of its last statement that has an operand; that of nothing when none has.
