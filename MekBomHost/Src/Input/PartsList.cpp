@@ -127,6 +127,7 @@ void PartsList::setRowTotal(const std::string& token)
 PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
 {
     const std::set<std::string> wanted = wantedTokens(reportTemplate, otherTokens);
+    registerKinds(*reportTemplate.getBomTemplateUnits());
     findWantedColumns(wanted);
     resolveColumns(reportTemplate);
     CellReader cells(m_columns, m_source, *reportTemplate.getBomData());
@@ -297,6 +298,8 @@ std::string PartsList::whyNumbers(const InputColumn& column, const std::set<std:
     return computed.count(column.token) > 0 ? "the list computes with " + column.token : std::string();
 }
 
+// All kinds have been registered, so a unit whose token has none is one that the template denies. The list would show
+// its numbers as they are in the model, 2286 for 7.5 ft, and name no unit.
 void PartsList::resolveUnit(InputColumn& column, VorBomTemplateUnits::eTokenUnitType kind) const
 {
     if (column.type != VorBomDataValue::kDoubleData)
@@ -304,6 +307,9 @@ void PartsList::resolveUnit(InputColumn& column, VorBomTemplateUnits::eTokenUnit
     column.unit = InputUnits::find(column.unitSymbol, kind);
     if (!column.unit)
         failInUnit(column, FindingCodes::kColumnUnitUnknown, InputUnits::expectation(kind));
+    if (kind == VorBomTemplateUnits::kNoUnit)
+        failInUnit(column, FindingCodes::kColumnUnitUnknown, "none",
+                   "the template says that " + column.token + " has no unit");
     column.takesPlainNumbers = InputUnits::takesPlainNumbers(*column.unit);
     column.isInModelUnit = InputUnits::isOfModel(*column.unit);
     resolveQuantities(column, column.unit);

@@ -48,7 +48,7 @@ public:
     const InputColumn* find(const std::string& token) const;
 
     // Tells `units` of what kind the columns are that nobody knows but whose unit says it: "Gap [in]" is a length. What
-    // they know already stays.
+    // they know already stays. readRows() does it, too; whoever asks for kinds before that calls it.
     void registerKinds(VorBomTemplateUnits& units) const;
 
     // Says in which unit a column is given whose header row does not. Throws a Fault of status kWrongUsage when there
