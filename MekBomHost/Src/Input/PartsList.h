@@ -63,7 +63,8 @@ public:
     void setOwnTokens(const std::map<std::string, eOwnToken>& ownTokens) { m_ownTokens = ownTokens; }
 
     // Appends one row for each record to the template's data, and tells what is known of them. Rows carry the data that
-    // the template asks for, whose tokens must have been found already, and those of `otherTokens`. To be called once.
+    // the template asks for, and those of `otherTokens`. The template must have been told its units and have found its
+    // used tokens: what has no kind then is a plain number, and its column may have no unit. To be called once.
     PartsFacts readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens = {});
 
     // What readRows() has found. None of it is an error.
