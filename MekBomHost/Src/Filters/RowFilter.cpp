@@ -56,6 +56,7 @@ bool readNumber(const RowCondition& condition, Units::eTokenUnitType kind, doubl
     return unit && !isPlain && VorQuantityReader(unit->unit()).read(Utf8::toWide(condition.operand), number) == 1;
 }
 
+// "a number with or without a unit of distance such as mm, m, in or ft for %Length"
 std::string numberExpected(const RowCondition& condition, Units::eTokenUnitType kind)
 {
     const std::string token = Utf8::toBytes(condition.token);

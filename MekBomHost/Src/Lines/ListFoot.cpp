@@ -46,6 +46,7 @@ std::string amountOf(const TotalCount& total, const ReportTemplate& reportTempla
     return needsSymbol ? text + " " + column.unitSymbol : text;
 }
 
+// "1 row", "2 rows": all things that are counted here have a plural in s.
 std::string counted(std::size_t number, const std::string& thing)
 {
     return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
@@ -81,6 +82,8 @@ ListFoot::ListFoot(const ListFacts& facts, const ReportTemplate& reportTemplate,
     }
 }
 
+// What rows became comes first, then what is missing from totals, then what was assumed of the file: from what changes
+// a number to what might.
 std::vector<std::string> ListFoot::lines() const
 {
     std::vector<std::string> all;

@@ -36,6 +36,7 @@ std::string AlignedTable::text() const
     return text;
 }
 
+// The headings are a row as any other here: a column is as wide as its heading at least.
 std::vector<int> AlignedTable::widths() const
 {
     std::vector<int> widths(m_rows.front().size());

@@ -28,6 +28,7 @@ std::string shortestText(Number number, std::chars_format format)
     return std::string(text, end.ptr);
 }
 
+// True for what is no number, too: no comparison with it holds.
 bool hasExponent(double number)
 {
     return !(std::fabs(number) < kFirstWithExponent);
@@ -136,6 +137,8 @@ std::string listedText(double number, const NumberStyle& style)
     return text;
 }
 
+// Only the digits of the first number up to its point: "1234567.8912" has groups on the left of it alone. From the
+// right, so that the places further left stay where they are.
 void groupThousands(std::string& text)
 {
     const auto first = std::find_if(text.begin(), text.end(), VorCharacters::isDigit<char>);
