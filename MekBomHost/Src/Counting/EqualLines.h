@@ -1,5 +1,5 @@
-// Makes one line of the lines of a group that read alike, wherever in the group they stand: what a cutting list means by
-// a line with a number of pieces. For templates that say "equalLines": "count".
+// Makes one line of the lines of a group that read alike, wherever in the group they stand: what a cutting list means
+// by a line with a number of pieces. For templates that say "equalLines": "count".
 //
 //   lines of one group   P1  2 pieces  5.0 kg          ->   P1  3 pieces  7.5 kg
 //                        P2  1 piece   4.0 kg               P2  1 piece   4.0 kg

@@ -1,6 +1,6 @@
 // A row that is listed passes as the header of a line, one that is merged as itself. Which rows have a datum the engine
-// has found out already, and footers tell: no row is looked at again but those few that are merged. Told on rows P1 2.5,
-// P1 2.5 and P2 without a weight, under a footer with "%SumBy:%Weight":
+// has found out already, and footers tell: no row is looked at again but those few that are merged. Told on rows P1
+// 2.5, P1 2.5 and P2 without a weight, under a footer with "%SumBy:%Weight":
 //   header  P1           numListed 1
 //   merged  P1 2.5       numMerged 1, of %Weight lost 2.5, numLosing 1
 //   header  P2           numListed 2

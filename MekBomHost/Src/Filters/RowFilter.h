@@ -11,8 +11,8 @@
 //      mm, kg and rad; other quantities must name theirs. Two numbers closer than 1e-6 in these units are equal.
 //   2. Texts, in quotes of either kind or, where no comma, parenthesis or "and" is in them, without: 'S355', S355. They
 //      are equal when all their characters are; before and behind are in natural order, P2 before P10.
-// A row that lacks the datum meets no comparison but !=. A comma is "and", an exclamation mark is "not", <> is !=; words
-// may be in capitals. A name with blanks stands in braces: %{Cost code}.
+// A row that lacks the datum meets no comparison but !=. A comma is "and", an exclamation mark is "not", <> is !=;
+// words may be in capitals. A name with blanks stands in braces: %{Cost code}.
 //
 //   RowFilter filter;
 //   RowFilter::parse("%Length > 6 m", filter)    ->  nothing wrong
@@ -65,8 +65,8 @@ public:
     //   found "6 kg", expected a length such as 6 m or 6000
     std::optional<Finding> settle(const VorBomTemplateUnits& units, const TypeOf& typeOf);
 
-    // Removes and destroys the top-level rows of `data` that the list is not about; the others keep their order. Answers
-    // how many went.
+    // Removes and destroys the top-level rows of `data` that the list is not about; the others keep their order.
+    // Answers how many went.
     int apply(VorBomData& data) const;
 
 private:

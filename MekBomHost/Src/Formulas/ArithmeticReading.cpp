@@ -1,5 +1,5 @@
-// Operators wait until one that binds no tighter comes after them, as in the engine's reader, but a ')' combines back to
-// its '(' alone. "2*3+(4+5)*6":
+// Operators wait until one that binds no tighter comes after them, as in the engine's reader, but a ')' combines back
+// to its '(' alone. "2*3+(4+5)*6":
 //   2 * 3     waiting *
 //   +         waiting +          2*3 is combined
 //   ( 4 + 5   waiting + ( +

@@ -88,8 +88,8 @@ struct UnitPair
     const VorUnitDefinition* pBase = nullptr;
 };
 
-// The unit of that kind whose ratio to the base the constant is, or the inverse of it; none when there is none. Feet and
-// inches, and degrees with minutes, are several numbers in one text, of which no single constant is the ratio.
+// The unit of that kind whose ratio to the base the constant is, or the inverse of it; none when there is none. Feet
+// and inches, and degrees with minutes, are several numbers in one text, of which no single constant is the ratio.
 UnitPair findRatio(const VorUnitDefinition& base, double constant, double tolerance, bool isInverse)
 {
     for (int i = 0; i < Systems::numUnits(); ++i)
@@ -117,8 +117,8 @@ const VorUnitDefinition* usualUnitOf(Systems::eSystems system)
     return Systems::findUnit(Utf8::toWide(UnitKinds::find(system)->usualUnit));
 }
 
-// The same, with the model's unit for a base or, where no ratio to it is the constant, the unit that files usually mean:
-// 10.764 is that of ft2 to m2, while the model keeps areas in mm2.
+// The same, with the model's unit for a base or, where no ratio to it is the constant, the unit that files usually
+// mean: 10.764 is that of ft2 to m2, while the model keeps areas in mm2.
 UnitPair findHiddenUnit(Systems::eSystems system, double constant, double toModel, double toUsual, bool isDivisor)
 {
     const UnitPair pair = findUnitOfFactor(*Systems::findUnitOfModel(system), constant, toModel, isDivisor);
@@ -198,10 +198,9 @@ void ConstantFactors::addAll(const ConstantFactors& other, bool isDivisor)
     multiply(m_total, other.m_total);
 }
 
-// Constants that undo each other hide nothing: "%Length/1000*1000". One by itself says more than the product of several.
-// Constants that undo each other, "/1000*1000", hide nothing, and neither does an infinite quotient, of which no unit
-// is the ratio. A single constant is looked for first, because a message can quote it; then their product, of which
-// each may be no ratio by itself: 180 and 3.14159.
+// Constants that undo each other, "%Length/1000*1000", hide nothing, and neither does an infinite quotient, of which no
+// unit is the ratio. One by itself says more than the product of several, since a message can quote it; the product may
+// be a ratio where none of them is: 180 and 3.14159.
 std::string ConstantFactors::hiddenUnitOf(const Dimension& dimension) const
 {
     if (!std::isfinite(m_total) || isNear(std::fabs(m_total), 1.0, 0.0))

@@ -238,8 +238,8 @@ bool contradicts(const Term& result, FormulaResult::eReason reason, VorBomTempla
     return isDerived && result.isCertain && !result.dimension.isSameProduct(Dimension::ofType(declared));
 }
 
-// What to do about a constant that hides a unit: where the formula has a kind without it, declaring that kind would make
-// 0.5 kg of 0.5 t.
+// What to do about a constant that hides a unit: where the formula has a kind without it, declaring that kind would
+// make 0.5 kg of 0.5 t.
 std::string remedyOfHiddenUnit(const Term& result)
 {
     if (result.dimension.kind() == VorBomTemplateUnits::kNoUnit)

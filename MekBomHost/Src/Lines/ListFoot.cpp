@@ -26,8 +26,8 @@ const ReportColumn& columnOf(const TotalCount& total, const ReportLayout& layout
     return layout.columns()[static_cast<std::size_t>(columns[total.shownIndex])];
 }
 
-// What merged rows have taken out of a total, as the total itself is shown: "37.5 kg". Feet and inches, and degrees with
-// minutes, carry their marks with them and need no symbol behind them.
+// What merged rows have taken out of a total, as the total itself is shown: "37.5 kg". Feet and inches, and degrees
+// with minutes, carry their marks with them and need no symbol behind them.
 std::string amountOf(const TotalCount& total, const ReportTemplate& reportTemplate, const ReportColumn& column)
 {
     const VorBomItemBase* pHeader = reportTemplate.pTemplate->child();

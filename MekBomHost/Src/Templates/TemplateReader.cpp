@@ -249,8 +249,8 @@ void TemplateReader::readTuple(const JsonItem& tuple, VorBomItemBase& sectionIte
     }
 }
 
-// Below a level that prints its groups alone nothing is printed; where details say so themselves, they are not. Lines that
-// nobody sees are not merged either: every row belongs to its group, and to the totals.
+// Below a level that prints its groups alone nothing is printed; where details say so themselves, they are not. Lines
+// that nobody sees are not merged either: every row belongs to its group, and to the totals.
 void TemplateReader::summarize()
 {
     bool isBelow = false;

@@ -1,6 +1,6 @@
 // Blanks are owed rather than written: those that fill up a column wait for a text that stands behind them, so that a
-// row whose last texts are empty ends with its last text. Widths are those on a terminal, where "m²" takes two places and
-// three bytes.
+// row whose last texts are empty ends with its last text. Widths are those on a terminal, where "m²" takes two places
+// and three bytes.
 #include "AlignedTable.h"
 
 #include "Utf8.h"

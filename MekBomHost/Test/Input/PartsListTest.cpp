@@ -347,7 +347,8 @@ TEST(PartsListTest, AUnitThatTheTemplateDeniesIsRefused)
 {
     const auto faultWith = [](const std::string& heading, const std::string& token)
     {
-        MemorySource source("parts.csv", heading + ",Name\n7.5,x\n");
+        const std::string text = heading + ",Name\n7.5,x\n";
+        MemorySource source("parts.csv", text);
         CsvReader records(source);
         PartsList parts(records);
         ReportTemplate shown = TemplateReader::read("list.json", R"({ "tokenUnits": { "%Length": "kNoUnit", )"
