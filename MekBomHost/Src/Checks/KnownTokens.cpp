@@ -9,6 +9,7 @@
 #include "KnownTokens.h"
 
 #include "NearestWord.h"
+#include "TokenNames.h"
 #include "TokenRequest.h"
 #include "Utf8.h"
 
@@ -22,8 +23,6 @@ namespace mekbom
 {
 namespace
 {
-const char* const kHandle = "%Handle"; // every object has one, whatever the catalogue says
-
 const VorBomTokenCatalogue::Entry* entryOf(const std::string& token)
 {
     return VorBomTokenCatalogue::find(Utf8::toWide(token));
@@ -37,7 +36,7 @@ KnownTokens::KnownTokens(const ReportTemplate& reportTemplate, std::vector<std::
 
 bool KnownTokens::isInCatalogue(const std::string& token) const
 {
-    return token == kHandle || entryOf(token) != nullptr;
+    return token == TokenNames::kHandle || entryOf(token) != nullptr;
 }
 
 bool KnownTokens::knows(const std::string& token) const
@@ -55,7 +54,7 @@ bool KnownTokens::isOfData(const std::string& token) const
 // kind in "tokenUnits" makes a number of a token that nothing else describes.
 KnownTokens::eKind KnownTokens::kindOf(const std::string& token) const
 {
-    if (token == kHandle)
+    if (token == TokenNames::kHandle)
         return kText;
     if (const VorBomTokenCatalogue::Entry* const pEntry = entryOf(token))
         return pEntry->type == VorBomDataValue::kStringData ? kText

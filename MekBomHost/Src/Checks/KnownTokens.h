@@ -28,8 +28,6 @@ public:
         kOpen    // neither the catalogue nor the template says
     };
 
-    static constexpr const char* kPieces = "%Quantity"; // how many pieces a row stands for
-
     // `dataTokens` are those that the data have, with their percent signs; none where there are no data.
     KnownTokens(const ReportTemplate& reportTemplate, std::vector<std::string> dataTokens);
 

@@ -7,6 +7,7 @@
 // data's columns.
 #include "TokenRules.h"
 
+#include "TokenNames.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
@@ -144,7 +145,7 @@ std::vector<const CheckedTuple*> tuplesThatMayVary(const CheckedTemplate& list, 
     for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kShow))
         if (!list.isDeepest(pTuple->level) && list.file().styleOf(pTuple->pSection).isPrinted &&
             tokens.knows(pTuple->token) && !(pTuple->isFooter && tokens.isNumeric(pTuple->token)) &&
-            !contains(list.groupTokensDownTo(pTuple->level), pTuple->token) && pTuple->token != KnownTokens::kPieces)
+            !contains(list.groupTokensDownTo(pTuple->level), pTuple->token) && pTuple->token != TokenNames::kPieces)
             tuples.push_back(pTuple);
     return tuples;
 }
@@ -212,9 +213,9 @@ void TokenRules::findPiecesOfFirstRow(const CheckedTuple& tuple)
 {
     const bool isComputed = tuple.request.kind == TokenRequest::kFormula;
     if (tuple.isFooter || m_list.isDeepest(tuple.level) || !(isComputed || tuple.request.kind == TokenRequest::kShow) ||
-        !contains(dataTokensOf(tuple.request), KnownTokens::kPieces) ||
+        !contains(dataTokensOf(tuple.request), TokenNames::kPieces) ||
         !m_list.file().styleOf(tuple.pSection).isPrinted ||
-        contains(m_list.groupTokensDownTo(tuple.level), KnownTokens::kPieces))
+        contains(m_list.groupTokensDownTo(tuple.level), TokenNames::kPieces))
         return;
     m_mistakes.add(MistakeCodes::kTokenVariesInGroup, tuple,
                    inQuotes(tuple.token) + " counts the pieces of one row: the " + typeName(*tuple.pSection) +

@@ -15,9 +15,10 @@
 #include "VorBomDataToken.h"
 
 #include <cmath>
-#include <cstdint>
+#include <functional>
 #include <limits>
 #include <string>
+#include <string_view>
 
 namespace mekbom
 {
@@ -37,17 +38,15 @@ bool isSummed(const VorBomTemplate& reportTemplate, const VorString& token)
     return false;
 }
 
-// The FNV-1a hash, character by character.
 std::size_t hashOfText(const VorString& text)
 {
-    std::uint64_t hash = 0xcbf29ce484222325;
-    const wchar_t* const pText = text.getStringW();
-    for (int i = 0; i < text.length(); ++i)
-        hash = (hash ^ static_cast<std::uint32_t>(pText[i])) * 0x100000001b3;
-    return static_cast<std::size_t>(hash);
+    return std::hash<std::wstring_view>()({ text.getStringW(), static_cast<std::size_t>(text.length()) });
 }
 }
 
+// The lines to be counted are the details, which is the section that no other is below of. They stay as they are, with
+// m_level at -1, where they are no details, have a footer of their own, which would be that of one line, or print
+// nothing. What becomes of each column follows from its token alone: rule 1 of the header, 2, or 3.
 EqualLines::EqualLines(const ReportTemplate& reportTemplate, VorBomSectionSink& next)
     : SectionRelay(next, kTypedValues | kEqualLines),
       m_units(*reportTemplate.pTemplate->getBomTemplateUnits()),
@@ -71,6 +70,8 @@ EqualLines::EqualLines(const ReportTemplate& reportTemplate, VorBomSectionSink& 
     }
 }
 
+// Anything else than a line ends the group: the header of the next one, or a footer, before which its lines have to
+// stand.
 void EqualLines::takeHeader(const VorBomReportSection& header)
 {
     if (header.level == m_level)
@@ -90,6 +91,7 @@ void EqualLines::finish()
     handOn();
 }
 
+// The first line of all gives the section that lines are handed on in; its texts are overwritten for each of them.
 void EqualLines::take(const VorBomReportSection& line)
 {
     if (m_pShown == nullptr)
@@ -100,6 +102,8 @@ void EqualLines::take(const VorBomReportSection& line)
         addLastTo(*place);
 }
 
+// Copies of a text share its characters. Values are copied as well, since those of the engine are good for one call
+// only.
 void EqualLines::append(const VorBomReportSection& line)
 {
     m_lines.push_back({ line.pRow, {} });
@@ -109,8 +113,9 @@ void EqualLines::append(const VorBomReportSection& line)
     m_values.insert(m_values.end(), line.pValues, line.pValues + m_columns.size());
 }
 
-// Both read alike, so that of a column that is added up both have a number or neither has. The text stays that of the
-// first line until it is handed on: the next one has to read like that, and not like the sum.
+// Both read alike, so that of a column that is added up both have a number or neither has. Whole numbers stay whole
+// until a double is added, and a double stays one. The text stays that of the first line until it is handed on: the
+// next one has to read like that, and not like the sum.
 void EqualLines::addLastTo(std::size_t line)
 {
     const std::size_t numColumns = m_columns.size();
@@ -143,6 +148,7 @@ void EqualLines::handOn()
     m_values.clear();
 }
 
+// A line of one row shows the engine's own texts, whatever made them; only sums are shown anew.
 void EqualLines::handOn(std::size_t line)
 {
     const std::size_t first = line * m_columns.size();
@@ -158,7 +164,8 @@ void EqualLines::handOn(std::size_t line)
         SectionRelay::takeMergedRow(*pRow);
 }
 
-// A sum of whole numbers is one, however large.
+// A sum of whole numbers is one, however large: beyond 32 bits a format is given the double, and without a format the
+// digits are written here. Doubles without a format are quantities, or plain numbers as the engine shows them.
 VorString EqualLines::shownText(const VorBomTypedValue& value, const VorBomNumberFormat* pFormat) const
 {
     constexpr double kMostInt = std::numeric_limits<int>::max();
@@ -171,6 +178,8 @@ VorString EqualLines::shownText(const VorBomTypedValue& value, const VorBomNumbe
     return m_units.getDisplayString(value.unitType, value.number);
 }
 
+// Of the same columns that readAlike() compares. That one column has a number and the other none is left to
+// readAlike().
 std::size_t EqualLines::hashOf(std::size_t line) const
 {
     const std::size_t first = line * m_columns.size();
@@ -196,7 +205,8 @@ bool EqualLines::readAlike(std::size_t first, std::size_t second) const
     return true;
 }
 
-// Of what is merely added up a number does not, but whatever stands where there is none does.
+// Whether lines that differ in the value are different lines. Of what is merely added up a number does not tell them
+// apart, but whatever stands where there is none does: "n/a" is no piece.
 bool EqualLines::tellsApart(std::size_t column, const VorBomTypedValue& value) const
 {
     return m_columns[column].mustReadAlike || !holdsNumber(value.type);

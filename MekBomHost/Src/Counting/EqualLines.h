@@ -1,5 +1,5 @@
-// Makes one line of the lines of a group that read alike, wherever in the group they stand: what a cutting list means by
-// a line with a number of pieces. For templates that say "equalLines": "count".
+// Makes one line of the lines of a group that read alike, wherever in the group they stand: what a cutting list means
+// by a line with a number of pieces. For templates that say "equalLines": "count".
 //
 //   lines of one group   P1  2 pieces  5.0 kg          ->   P1  3 pieces  7.5 kg
 //                        P2  1 piece   4.0 kg               P2  1 piece   4.0 kg
@@ -17,8 +17,8 @@
 // lines apart of which it is unlike. Where a number is missing, what stands in its place has to read alike.
 //
 // The engine must hand over equal lines (RowTally asks for them): its totals have every row. Lines with a footer of
-// their own, and lines that are not printed, are handed on as they come. A line is followed by the rows that were added to it, as takeMergedRow. Memory:
-// the lines of one group, and a pointer for each of its rows.
+// their own, and lines that are not printed, are handed on as they come. A line is followed by the rows that were added
+// to it, as takeMergedRow. Memory: the lines of one group, and a pointer for each of its rows.
 #pragma once
 
 #include "ReportTemplate.h"
@@ -48,7 +48,7 @@ public:
     void takeHeader(const VorBomReportSection& header) override;
     void takeFooter(const VorBomReportSection& footer) override;
 
-    // To be called when the evaluation has come to its end.
+    // Hands on the lines of the last group. To be called once, when the evaluation has come to its end.
     void finish();
 
     // How many rows stand in the line of another one.
@@ -70,7 +70,7 @@ private:
         std::vector<const VorBomDataRow*> otherRows;
     };
 
-    // For a set of lines by their index: equal are those that read alike.
+    // The set knows lines by their index, and takes those for equal that read alike.
     struct Hash
     {
         std::size_t operator()(std::size_t line) const { return pLines->hashOf(line); }

@@ -2,6 +2,8 @@
 
 namespace mekbom
 {
+// The number is noted for each row rather than found by going through the list again: sorting moves rows, and they keep
+// neither neighbours nor places.
 RowNumbers::RowNumbers(const VorBomData& data)
 {
     int number = 0;

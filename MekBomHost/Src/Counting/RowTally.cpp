@@ -1,5 +1,10 @@
 // A row that is listed passes as the header of a line, one that is merged as itself. Which rows have a datum the engine
-// has found out already, and footers tell: no row is looked at again but those few that are merged.
+// has found out already, and footers tell: no row is looked at again but those few that are merged. Told on rows P1
+// 2.5, P1 2.5 and P2 without a weight, under a footer with "%SumBy:%Weight":
+//   header  P1           numListed 1
+//   merged  P1 2.5       numMerged 1, of %Weight lost 2.5, numLosing 1
+//   header  P2           numListed 2
+//   footer               of the rows with a line one has %Weight: numRows 1
 #include "RowTally.h"
 
 #include "NumberInValue.h"
@@ -11,6 +16,8 @@ namespace mekbom
 {
 namespace
 {
+// Two of the four ways to treat equal lines need all of them handed over: they are counted or kept behind this sink,
+// and none may have left the totals by then.
 int requestsOf(const ReportTemplate& reportTemplate)
 {
     const bool takesAll = reportTemplate.equalLines == kCountEqualLines || reportTemplate.equalLines == kKeepEqualLines;
@@ -45,7 +52,8 @@ RowTally::RowTally(const ReportTemplate& reportTemplate, VorBomSectionSink& next
     }
 }
 
-// Totals of inner footers count only for what merged rows take out of them: the outermost one has all rows.
+// A datum that several footers total is one entry, that of the outermost, since this is met first. Totals of inner
+// footers count only for what merged rows take out of them: the outermost one has all rows.
 void RowTally::addTotalsOf(const ReportTemplate& reportTemplate, const VorBomItemBase& footer, int level)
 {
     std::size_t shownIndex = 0;
@@ -83,6 +91,8 @@ void RowTally::takeFooter(const VorBomReportSection& footer)
     SectionRelay::takeFooter(footer);
 }
 
+// A row without a weight, or with one of 0, leaves no total poorer; only the others are losing rows, each counted once
+// however many totals it is missing from.
 void RowTally::takeMergedRow(const VorBomDataRow& row)
 {
     ++m_counts.numMerged;

@@ -21,7 +21,8 @@ namespace mekbom
 {
 namespace
 {
-// The sum of many numbers, as exact as a long double is, in whatever order they come.
+// The sum of many numbers, as exact as a long double is, in whatever order they come: the compensated sum of Kahan, as
+// Neumaier improved it. What an addition rounds away is found by taking the larger number off the sum again.
 class ExactSum
 {
 public:
@@ -35,7 +36,8 @@ public:
         m_size += std::fabs(number);
     }
 
-    long double value() const { return m_sum + m_rest; }
+    // What is left of an infinite sum is no number.
+    long double value() const { return std::isfinite(m_sum) ? m_sum + m_rest : m_sum; }
     long double size() const { return m_size; } // of all that was added, signs left out
 
 private:
@@ -44,11 +46,11 @@ private:
     long double m_size;
 };
 
-// The sum of two infinities of unlike sign is no number, on either side.
-bool agree(long double printed, const ExactSum& sum)
+// What has no room in a double is infinite on both sides, and the sum of two infinities of unlike sign is no number.
+bool agree(double printed, const ExactSum& sum)
 {
     const long double added = sum.value();
-    return printed == added || (std::isnan(printed) && std::isnan(added)) ||
+    return printed == static_cast<double>(added) || (std::isnan(printed) && std::isnan(added)) ||
            std::fabs(printed - added) <= TotalsCheck::kTolerance * sum.size();
 }
 
@@ -66,6 +68,7 @@ std::string shownBy(const VorBomTemplateItem& header)
 }
 }
 
+// A total may start from a number that the template gives it, "value": 100.0, which the rows then come on top of.
 TotalsCheck::TotalsCheck(const ReportTemplate& reportTemplate, VorBomSectionSink& next)
     : SectionRelay(next, kTypedValues)
 {
@@ -86,6 +89,8 @@ TotalsCheck::TotalsCheck(const ReportTemplate& reportTemplate, VorBomSectionSink
     }
 }
 
+// Groups are not looked up: a level's group begins where its header passes, and its rows are all that come until its
+// footer does. Of an inner level the begin is overwritten by each group.
 void TotalsCheck::takeHeader(const VorBomReportSection& header)
 {
     Level& level = m_levels[static_cast<std::size_t>(header.level)];
@@ -120,7 +125,8 @@ TotalsCheck::Rows TotalsCheck::rowsOf(int level) const
     return { m_rows.data() + ofLevel.firstRow, m_rows.data() + m_rows.size() };
 }
 
-// A total that no row has a number for stays what the template says, be that a number or a text.
+// A total that no row has a number for stays what the template says, be that a number or a text. One row with a text in
+// place of a number makes the engine report the total, and this check leave it alone.
 void TotalsCheck::check(const VorBomReportSection& footer, const Total& total)
 {
     ExactSum sum(total.start);

@@ -21,6 +21,7 @@ std::string firstMessageOf(const std::vector<Finding>& findings)
 }
 }
 
+// The text for handlers that know nothing of findings is made first: then the findings move.
 Fault::Fault(ExitStatus status, std::vector<Finding> findings, std::size_t numErrors)
     : std::runtime_error(firstMessageOf(findings)),
       m_status(status),

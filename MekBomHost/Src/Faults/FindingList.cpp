@@ -22,6 +22,7 @@ void FindingList::addAll(const std::vector<Finding>& findings, std::size_t numEr
     m_numOf[Finding::kError] = numErrorsBefore + numErrors;
 }
 
+// The Fault gets notes and warnings as well: they were found on the way, and may say why.
 void FindingList::throwIfAnyError() const
 {
     if (numErrors() > 0)

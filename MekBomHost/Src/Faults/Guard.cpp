@@ -21,6 +21,9 @@ ExitStatus failInternally(FindingList& findings, const std::string& reason)
 }
 }
 
+// The one place where exceptions end. A Fault was thrown by a room that could not go on, and knows what to say.
+// Whatever else arrives is a mistake of the program itself; it must not take with it a process that has other reports
+// to make.
 ExitStatus runGuarded(FindingList& findings, const std::function<ExitStatus()>& action)
 {
     try

@@ -27,6 +27,7 @@ std::size_t behindLineEnd(std::string_view text, std::size_t offset)
     return offset + (text.substr(offset, 2) == "\r\n" ? 2 : 1);
 }
 
+// Lines end as the readers of files take them, with LF, CRLF or CR, so that the place is the one that an editor shows.
 TextPlace placeOf(std::string_view text, std::size_t offset, int line)
 {
     std::size_t begin = 0;

@@ -10,6 +10,8 @@ namespace mekbom
 {
 FileSource::FileSource() : m_name("standard input"), m_pFile(stdin) {}
 
+// std::fread() gives fewer bytes than asked for at the end and after an error alike; only ferror() tells the two apart.
+// Bytes that came before an error are still handed over: the next call meets it again.
 std::size_t FileSource::read(char* pBytes, std::size_t size)
 {
     if (m_pFile == nullptr)
@@ -28,6 +30,7 @@ void FileSource::Closer::operator()(std::FILE* pFile) const
         std::fclose(pFile);
 }
 
+// In binary, so that line ends come as they are: the readers count on bytes, and take CRLF themselves.
 void FileSource::open()
 {
     m_pFile.reset(std::fopen(m_path.c_str(), "rb"));

@@ -47,6 +47,9 @@ OutputFile::Temporary::~Temporary()
         fs::remove(path, error);
 }
 
+// A path that is wrong is told before the report is made, and not after a million rows. What can be replaced is a
+// regular file; nothing at all needs no rights to be kept; anything else, a pipe or "/dev/null", is written to as it
+// is.
 OutputFile::OutputFile(const std::string& path) : m_name(path), m_target(path)
 {
     std::error_code error;

@@ -34,6 +34,8 @@ fs::path programFolder()
 
 const char* const kPartsList = "hall.csv";
 
+// Of two that suit a parts list equally well TemplateChoice takes the first: a more special list stands before
+// parts-list, which suits nearly all data.
 const std::vector<std::string>& templates()
 {
     static const std::vector<std::string> files = { "Templates/cutting-list.json", "Templates/assembly-list.json",
@@ -57,6 +59,7 @@ std::string templateNamed(std::string_view name)
     return std::string();
 }
 
+// The installation comes first, so that a program built from these sources and installed does not depend on them.
 std::string find(const std::string& relativePath)
 {
     const fs::path installed = (programFolder() / ".." / "share" / "mekbom").lexically_normal();

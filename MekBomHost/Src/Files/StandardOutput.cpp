@@ -20,6 +20,7 @@ namespace
 }
 }
 
+// Into the buffer of the C library, which it shares with whatever else the process prints there, in the same order.
 void StandardOutput::write(std::string_view text)
 {
     if (std::fwrite(text.data(), 1, text.size(), stdout) != text.size())
@@ -33,6 +34,7 @@ void StandardOutput::finish()
         failToWrite();
 }
 
+// What print() is for is short: the buffer is emptied at once, so that a full disk is told where it was met.
 void StandardOutput::print(std::string_view text)
 {
     StandardOutput output;

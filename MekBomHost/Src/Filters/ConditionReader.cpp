@@ -1,5 +1,6 @@
 // A function for each line of the grammar, which stands above it. Each gives false once something is wrong, with the
-// finding kept, and so ends the reading from wherever it is.
+// finding kept, and so ends the reading from wherever it is. An operator's step comes behind those of both its sides,
+// so that whoever takes the steps needs a stack and no tree:
 //
 //   "%Phase < 10 or !%Role"     readAlternatives   readAll   readOne: condition 0
 //                               "or"               readAll   readOne: "!", condition 1, step "not"
@@ -29,19 +30,23 @@ struct OperatorSign
     RowCondition::eOperator value;
 };
 
-// Longer signs first: "<=" is not "<" and an operand "= 6 m".
+// Longer signs first: "<=" is not "<" and an operand "= 6 m". Both signs for "unequal" are taken, since people know
+// either from other programs.
 const OperatorSign kOperators[] = {
     { "<=", RowCondition::kLessOrEqual }, { ">=", RowCondition::kGreaterOrEqual }, { "!=", RowCondition::kUnequal },
     { "<>", RowCondition::kUnequal },     { "=", RowCondition::kEqual },           { "<", RowCondition::kLess },
     { ">", RowCondition::kGreater },
 };
 
+// What a word may go on with: "android" does not begin with "and". Every byte beyond ASCII is part of a letter.
 bool isWordCharacter(char c)
 {
     return VorCharacters::isLetter(c) || VorCharacters::isDigit(c) || c == '_' || static_cast<unsigned char>(c) >= 0x80;
 }
 }
 
+// What is left over once a whole filter has been read, as of "%A %B" or "%A)", is where another operator would have to
+// be.
 std::optional<Finding> ConditionReader::read()
 {
     if (readAlternatives() && !m_rest.empty())
@@ -104,6 +109,8 @@ bool ConditionReader::readInParentheses()
 }
 
 // condition := token [ operator operand ]
+// An operator that is there must have an operand, and none is needed where there is no operator. A "!" behind a
+// condition, "%A !%B", lacks the comma in front of it, and is refused wherever the condition stands.
 bool ConditionReader::readCondition()
 {
     RowCondition condition;
@@ -116,6 +123,7 @@ bool ConditionReader::readCondition()
 }
 
 // token := '%' name | '%' '{' name '}'
+// Without braces a name ends where anything else may begin, so that "%Length>6" needs no blanks.
 bool ConditionReader::readToken(RowCondition& condition)
 {
     skipBlanks();
@@ -145,6 +153,7 @@ bool ConditionReader::readOperator(RowCondition& condition)
 }
 
 // operand := quoted text | what stands before the next comma, parenthesis, "and" or "or"
+// Blanks at the end of an operand belong to what follows it: of "S355 and %Name" it is "S355".
 bool ConditionReader::readOperand(RowCondition& condition)
 {
     skipBlanks();
@@ -158,6 +167,8 @@ bool ConditionReader::readOperand(RowCondition& condition)
     return true;
 }
 
+// Either quote closes with its own kind alone, so that a text with one of them stands in the other: "7'-6". There is no
+// sign for a quote within.
 bool ConditionReader::readQuoted(RowCondition& condition)
 {
     const std::size_t end = m_rest.find(m_rest.front(), 1);
@@ -169,6 +180,8 @@ bool ConditionReader::readQuoted(RowCondition& condition)
     return true;
 }
 
+// A word ends the operand only where it is one: of "%Name = Hand and %Phase" that is the second "and". An operand
+// without quotes may have blanks, as "6 m" has.
 std::size_t ConditionReader::operandLength() const
 {
     for (std::size_t i = 0; i < m_rest.size(); ++i)
@@ -200,7 +213,7 @@ bool ConditionReader::takeWord(std::string_view word)
     return true;
 }
 
-// `word` is in small letters.
+// Whether the word stands in front, in large letters or small ones, and ends there. `word` is in small letters.
 bool ConditionReader::startsWithWord(std::string_view text, std::string_view word) const
 {
     if (text.size() < word.size())

@@ -20,8 +20,8 @@ namespace mekbom
 class ConditionReader
 {
 public:
-    static constexpr int kDeepest =
-        100; // parentheses and "not" within each other; arbitrary: far more than people write
+    // Parentheses and "not" within each other. Arbitrary: far more than people write, and reading them recurses.
+    static constexpr int kDeepest = 100;
 
     // `text`, UTF-8, is not owned and outlives the reader.
     explicit ConditionReader(std::string_view text) : m_rest(text) {}

@@ -1,6 +1,10 @@
+// Each condition may have two answers over all rows, or only one. With columns %Mark and %Weight:
+//   not %BoltName            no row has a bolt name: "no" alone, and so "yes" alone of its opposite
+//   %Name or %Mark           "no" alone, and either: some rows may have a mark, so either
+//   both joined by "and"     "yes" is possible where it is on both sides
+// The steps are those that RowFilter takes for one row, on pairs of answers in place of single ones.
 #include "PossibleRows.h"
 
-#include "ConditionReader.h"
 #include "Utf8.h"
 
 #include <utility>
@@ -27,17 +31,14 @@ Answers answersTo(const RowCondition& condition, bool hasColumn)
 
 bool canPass(const RowFilter& filter, const std::function<bool(const std::string&)>& hasColumn)
 {
-    const std::string& text = filter.text();
-    if (text.empty())
+    if (filter.steps().empty())
         return true;
-    ConditionReader reader(text);
-    reader.read(); // which went well when the filter was made
     std::vector<Answers> answers;
-    for (const FilterStep& step : reader.steps())
+    for (const FilterStep& step : filter.steps())
     {
         if (step.action == FilterStep::kCondition)
         {
-            const RowCondition& condition = reader.conditions()[step.condition];
+            const RowCondition& condition = filter.conditions()[step.condition];
             answers.push_back(answersTo(condition, hasColumn(Utf8::toBytes(condition.token))));
             continue;
         }

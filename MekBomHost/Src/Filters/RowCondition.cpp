@@ -8,7 +8,8 @@ namespace mekbom
 {
 namespace
 {
-// The sign of the value minus the number; false for what is no number.
+// The sign of the value minus the number; false for what is no number. The engine compares values of one type alone, so
+// whole numbers are made doubles, which hold every int.
 bool compare(const VorBomDataValue& value, double number, int& sign)
 {
     switch (value.type())
@@ -23,6 +24,8 @@ bool compare(const VorBomDataValue& value, double number, int& sign)
 }
 }
 
+// What cannot be compared, a datum that is lacking or a text where the list has numbers, is unlike whatever it is
+// compared with, and neither less nor greater.
 bool RowCondition::isMetBy(const VorBomDataRow& row) const
 {
     const VorBomDataTuple* const pTuple = row.getTupleAt(token);

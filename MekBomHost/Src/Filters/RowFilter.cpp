@@ -34,13 +34,15 @@ bool meansModelUnit(Units::eTokenUnitType kind)
     return pKind == nullptr || *pKind->usualUnit == 0;
 }
 
+// kUnknownData for a token of the user's own, of which only the rows tell what it holds.
 VorBomDataValue::eBomDataValueType typeInCatalogue(const VorString& token)
 {
     const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(token);
     return pEntry == nullptr ? VorBomDataValue::kUnknownData : pEntry->type;
 }
 
-// A number without a unit, or with one of the kind that the token has.
+// A number without a unit, or with one of the kind that the token has. A plain number of a kind that must name its unit
+// is not handed to the reader of quantities, which would take "6000" for 6000 mm2.
 bool readNumber(const RowCondition& condition, Units::eTokenUnitType kind, double& number)
 {
     const std::optional<MEKUnit> unit = InputUnits::ofModel(kind);
@@ -54,6 +56,7 @@ bool readNumber(const RowCondition& condition, Units::eTokenUnitType kind, doubl
     return unit && !isPlain && VorQuantityReader(unit->unit()).read(Utf8::toWide(condition.operand), number) == 1;
 }
 
+// "a number with or without a unit of distance such as mm, m, in or ft for %Length"
 std::string numberExpected(const RowCondition& condition, Units::eTokenUnitType kind)
 {
     const std::string token = Utf8::toBytes(condition.token);
@@ -63,6 +66,7 @@ std::string numberExpected(const RowCondition& condition, Units::eTokenUnitType 
            InputUnits::expectation(kind) + " for " + token;
 }
 
+// A number in quotes is refused, though it could be read: its author wants a text compared, and would get a number.
 std::optional<Finding> settleNumber(RowCondition& condition, Units::eTokenUnitType kind)
 {
     condition.isNumber = true;
@@ -99,6 +103,7 @@ void destroy(VorBomItemBase* pRow)
 }
 }
 
+// `filter` is set at the end, so that a text with a mistake leaves it as it was.
 std::optional<Finding> RowFilter::parse(std::string_view text, RowFilter& filter)
 {
     RowFilter parsed;
@@ -129,7 +134,8 @@ bool RowFilter::names(const VorString& token) const
                        [&token](const RowCondition& condition) { return condition.token == token; });
 }
 
-// A token that the catalogue does not know is what its values are; one without values is what the operand looks like.
+// A token that the catalogue does not know is what its values are. One without values stays a comparison of texts,
+// which no row meets but by kUnequal, since none has the datum.
 std::optional<Finding> RowFilter::settle(const VorBomTemplateUnits& units, const TypeOf& typeOf)
 {
     for (RowCondition& condition : m_conditions)

@@ -11,8 +11,8 @@
 //      mm, kg and rad; other quantities must name theirs. Two numbers closer than 1e-6 in these units are equal.
 //   2. Texts, in quotes of either kind or, where no comma, parenthesis or "and" is in them, without: 'S355', S355. They
 //      are equal when all their characters are; before and behind are in natural order, P2 before P10.
-// A row that lacks the datum meets no comparison but !=. A comma is "and", an exclamation mark is "not", <> is !=; words
-// may be in capitals. A name with blanks stands in braces: %{Cost code}.
+// A row that lacks the datum meets no comparison but !=. A comma is "and", an exclamation mark is "not", <> is !=;
+// words may be in capitals. A name with blanks stands in braces: %{Cost code}.
 //
 //   RowFilter filter;
 //   RowFilter::parse("%Length > 6 m", filter)    ->  nothing wrong
@@ -42,15 +42,19 @@ namespace mekbom
 class RowFilter
 {
 public:
-    // Of what type the values of a token are; kUnknownData when no row has any.
+    // Answers of what type the values of a token are; kUnknownData when no row has any.
     using TypeOf = std::function<VorBomDataValue::eBomDataValueType(const VorString&)>;
 
     // Sets `filter` to what `text`, UTF-8, says. When that is no filter: what is wrong with it, still without a place,
     // and `filter` untouched.
     static std::optional<Finding> parse(std::string_view text, RowFilter& filter);
 
-    // As it was given, without blanks around it; empty for the filter without conditions.
+    // The text as it was given, without blanks around it; empty for the filter without conditions.
     const std::string& text() const { return m_text; }
+
+    // The conditions in their order, and how their answers are joined; both empty for the filter without conditions.
+    const std::vector<RowCondition>& conditions() const { return m_conditions; }
+    const std::vector<FilterStep>& steps() const { return m_steps; }
 
     // The tokens that conditions are about, in their order, each as often as it is named.
     std::vector<VorString> tokens() const;
@@ -61,8 +65,8 @@ public:
     //   found "6 kg", expected a length such as 6 m or 6000
     std::optional<Finding> settle(const VorBomTemplateUnits& units, const TypeOf& typeOf);
 
-    // Removes and destroys the top-level rows of `data` that the list is not about; the others keep their order. Answers
-    // how many went.
+    // Removes and destroys the top-level rows of `data` that the list is not about; the others keep their order.
+    // Answers how many went.
     int apply(VorBomData& data) const;
 
 private:

@@ -1,5 +1,5 @@
-// Operators wait until one that binds no tighter comes after them, as in the engine's reader, but a ')' combines back to
-// its '(' alone. "2*3+(4+5)*6":
+// Operators wait until one that binds no tighter comes after them, as in the engine's reader, but a ')' combines back
+// to its '(' alone. "2*3+(4+5)*6":
 //   2 * 3     waiting *
 //   +         waiting +          2*3 is combined
 //   ( 4 + 5   waiting + ( +
@@ -20,9 +20,11 @@ namespace mekbom
 {
 namespace
 {
+// A formula is a list of statements, and its value is that of the last one.
 constexpr wchar_t kSeparator = L';';
 
-// Of what waits, by how tightly it binds.
+// What waits, by how tightly it binds: what comes combines all that binds as tightly or tighter. A '(' binds least of
+// all, so that nothing passes it but its own ')'.
 enum eRank
 {
     kOpen, // a '('
@@ -71,7 +73,8 @@ private:
         wchar_t operation;
     };
 
-    // Each of these passes over what it reads.
+    // Each of these passes over what it reads. The first character of an item tells what it is, but what it means
+    // depends on what comes before it: a '-' is a sign where an operand is wanted, and a difference behind one.
     void readItem(wchar_t character);
     void readBeforeOperand(wchar_t character);
     void readBehindOperand(wchar_t character);
@@ -90,6 +93,7 @@ private:
     ArithmeticReading& m_reading;
     std::vector<Waiting> m_waiting;
     std::vector<int> m_operands; // indices into the tree
+    // True at the start, behind an operator and behind a '(': an operator is a mistake then, unless it is a sign.
     bool m_wantsOperand = true;
 };
 
@@ -108,6 +112,8 @@ void Reader::readItem(wchar_t character)
         readBehindOperand(character);
 }
 
+// "-a" is read as "0-a" whose 0 is nowhere: a node of nothing becomes the left side, and the sign waits for its right
+// one. A ')' with something to close is a mistake as well, "()" or "(a+)", but not one of the parentheses.
 void Reader::readBeforeOperand(wchar_t character)
 {
     if (!isOneOf(character, VorFormulaText::kOperators))
@@ -126,6 +132,8 @@ void Reader::readBeforeOperand(wchar_t character)
         fail(ArithmeticReading::kOperandMissing);
 }
 
+// An operand behind an operand, "2(3+4)" or "round(a)", is a product or a call to its author; the engine loses one of
+// the two, so it is named. A ')' leaves an operand behind it: the value of what it has closed.
 void Reader::readBehindOperand(wchar_t character)
 {
     if (character == L'(' || !isOneOf(character, VorFormulaText::kOperators))
@@ -138,6 +146,7 @@ void Reader::readBehindOperand(wchar_t character)
     m_wantsOperand = true;
 }
 
+// Whatever begins with a digit or a point means to be a number: no token and no variable does.
 void Reader::readOperand()
 {
     const wchar_t* const pEnd = operandEnd();
@@ -154,7 +163,7 @@ void Reader::readOperand()
     m_wantsOperand = false;
 }
 
-// Behind the operand without the blanks at its end.
+// The end of the operand that begins here, in front of the blanks that may stand behind it.
 const wchar_t* Reader::operandEnd() const
 {
     const wchar_t* pEnd = m_pText;
@@ -165,7 +174,9 @@ const wchar_t* Reader::operandEnd() const
     return pEnd;
 }
 
-// A number may go on behind the operand, as its exponent has a sign.
+// "1e-3" is one number to its author, though the operand ends before the '-'; so the scan may go on behind the operand.
+// It may also end within it, "2,5", which is a fault. The value is that of single precision, as the engine keeps
+// constants: both readings shall compute with the same one.
 FormulaNode Reader::numberAt(const wchar_t* pOperandEnd)
 {
     const wchar_t* pEnd = m_pText;
@@ -191,6 +202,8 @@ void Reader::close()
     m_waiting.pop_back();
 }
 
+// An empty statement, as between two separators, is none and has no value. The operands hold one node at the end, the
+// root: each operator that was combined has taken two and left one.
 void Reader::endStatement()
 {
     if (m_reading.fault != ArithmeticReading::kNone)
@@ -206,7 +219,8 @@ void Reader::endStatement()
     m_wantsOperand = true;
 }
 
-// Combines what binds as tightly as `rank` or tighter, back to a '('.
+// Combines what binds as tightly as `rank` or tighter, back to a '(', the last one first: so operators of one rank,
+// "8-2-1", combine from the left.
 void Reader::combineFor(eRank rank)
 {
     while (!m_waiting.empty() && m_waiting.back().rank >= rank)

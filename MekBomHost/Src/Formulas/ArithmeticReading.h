@@ -29,6 +29,7 @@ struct ArithmeticReading
     eFault fault = kNone;
     std::string what; // the operand that is lost or no number; UTF-8
 
+    // Reads the text behind "%Formula:", up to the first fault. The text is not needed afterwards.
     static ArithmeticReading read(const VorString& formula);
 };
 }

@@ -1,3 +1,9 @@
+// Told on "%Weight*2.2/1000", a weight, which the model keeps in kg:
+//   2.2    a factor: a kg is 2.20462 lb, and two digits say no more, so this is the ratio of pounds
+//   1000   a divisor: 1000 kg are a t, so this is the ratio of tonnes
+// Of which kind the product is shows only at its end; 1000 may be that of metres, too. So each constant is noted for
+// every kind of quantity that has a unit of that ratio, and hiddenUnitOf() looks at the kinds that the product then
+// has.
 #include "ConstantFactors.h"
 
 #include "NumberText.h"
@@ -62,7 +68,8 @@ double toleranceToModel(const FormulaConstant& constant)
     return precision.numDigits < (precision.hasPoint ? 2 : 3) ? 0.0 : precision.tolerance;
 }
 
-// A factor 1.5 on kg/m is an allowance more likely than the pounds per foot, 1.488.
+// The same for a ratio to the usual unit. It takes a digit more: a factor 1.5 on kg/m is an allowance more likely than
+// the pounds per foot, 1.488.
 double toleranceToUsual(const FormulaConstant& constant)
 {
     const WrittenPrecision precision = precisionOf(constant);
@@ -81,8 +88,9 @@ struct UnitPair
     const VorUnitDefinition* pBase = nullptr;
 };
 
-// The unit of that kind whose ratio to the base the constant is, or the inverse of it; none when there is none.
-UnitPair findUnit(const VorUnitDefinition& base, double constant, double tolerance, bool isInverse)
+// The unit of that kind whose ratio to the base the constant is, or the inverse of it; none when there is none. Feet
+// and inches, and degrees with minutes, are several numbers in one text, of which no single constant is the ratio.
+UnitPair findRatio(const VorUnitDefinition& base, double constant, double tolerance, bool isInverse)
 {
     for (int i = 0; i < Systems::numUnits(); ++i)
     {
@@ -99,8 +107,8 @@ UnitPair findUnit(const VorUnitDefinition& base, double constant, double toleran
 // that this gives comes before the other one, which may be meant as well.
 UnitPair findUnitOfFactor(const VorUnitDefinition& base, double constant, double tolerance, bool isDivisor)
 {
-    const UnitPair pair = findUnit(base, constant, tolerance, !isDivisor);
-    return pair.pUnit != nullptr ? pair : findUnit(base, constant, tolerance, isDivisor);
+    const UnitPair pair = findRatio(base, constant, tolerance, !isDivisor);
+    return pair.pUnit != nullptr ? pair : findRatio(base, constant, tolerance, isDivisor);
 }
 
 // The unit that files mean where they name none: null for kinds where that is the model's.
@@ -109,8 +117,9 @@ const VorUnitDefinition* usualUnitOf(Systems::eSystems system)
     return Systems::findUnit(Utf8::toWide(UnitKinds::find(system)->usualUnit));
 }
 
-// The same to the model's unit or, with 10.764 for the ft2 of a m2, to the usual one of files.
-UnitPair findUnit(Systems::eSystems system, double constant, double toModel, double toUsual, bool isDivisor)
+// The same, with the model's unit for a base or, where no ratio to it is the constant, the unit that files usually
+// mean: 10.764 is that of ft2 to m2, while the model keeps areas in mm2.
+UnitPair findHiddenUnit(Systems::eSystems system, double constant, double toModel, double toUsual, bool isDivisor)
 {
     const UnitPair pair = findUnitOfFactor(*Systems::findUnitOfModel(system), constant, toModel, isDivisor);
     const VorUnitDefinition* const pUsual = usualUnitOf(system);
@@ -153,6 +162,8 @@ std::string FormulaConstant::shownText() const
     return text.empty() ? numberText(value) : text;
 }
 
+// The constant's own text is kept for the first of a kind, since one is enough to be named. `product` is of ratios
+// alone and m_total of all constants: "1000*1.05" below kilograms has the one say tonnes, though the other is no ratio.
 void ConstantFactors::add(const FormulaConstant& constant, bool isDivisor)
 {
     const double toModel = toleranceToModel(constant);
@@ -160,7 +171,8 @@ void ConstantFactors::add(const FormulaConstant& constant, bool isDivisor)
     const double factor = isDivisor ? 1.0 / constant.value : constant.value;
     for (std::size_t i = 0; i < m_ratios.size(); ++i)
     {
-        const UnitPair pair = findUnit(Systems::kSystems[i], std::fabs(constant.value), toModel, toUsual, isDivisor);
+        const UnitPair pair =
+            findHiddenUnit(Systems::kSystems[i], std::fabs(constant.value), toModel, toUsual, isDivisor);
         if (pair.pUnit == nullptr)
             continue;
         Ratio& ratio = m_ratios[i];
@@ -186,7 +198,9 @@ void ConstantFactors::addAll(const ConstantFactors& other, bool isDivisor)
     multiply(m_total, other.m_total);
 }
 
-// Constants that undo each other hide nothing: "%Length/1000*1000". One by itself says more than the product of several.
+// Constants that undo each other, "%Length/1000*1000", hide nothing, and neither does an infinite quotient, of which no
+// unit is the ratio. One by itself says more than the product of several, since a message can quote it; the product may
+// be a ratio where none of them is: 180 and 3.14159.
 std::string ConstantFactors::hiddenUnitOf(const Dimension& dimension) const
 {
     if (!std::isfinite(m_total) || isNear(std::fabs(m_total), 1.0, 0.0))
@@ -198,11 +212,13 @@ std::string ConstantFactors::hiddenUnitOf(const Dimension& dimension) const
     const FormulaConstant total = { std::fabs(m_total), std::string() };
     const double tolerance = kComputedTolerance * total.value;
     for (const Systems::eSystems system : systems)
-        if (const UnitPair pair = findUnit(system, total.value, tolerance, tolerance, false); pair.pUnit != nullptr)
+        if (const UnitPair pair = findHiddenUnit(system, total.value, tolerance, tolerance, false);
+            pair.pUnit != nullptr)
             return describe(*pair.pUnit, *pair.pBase, total.shownText());
     return std::string();
 }
 
+// A factor that gives a unit is the inverse of its ratio: a number of kg times 0.001 is one of t, which are 1000 kg.
 bool ConstantFactors::give(const VorUnitDefinition& unit, const Dimension& dimension) const
 {
     const auto gives = [&unit](double factor) { return isNear(std::fabs(factor) * ratioOf(unit), 1.0, kRoundedAway); };
@@ -229,7 +245,8 @@ const VorUnitDefinition* ConstantFactors::givenUnitOf(const Dimension& dimension
     return nullptr;
 }
 
-// "%Length/1000+%Width/1000*1.05" is in metres, "%Length/1000+%Width" in nothing.
+// "%Length/1000+%Width/1000*1.05" is in metres, "%Length/1000+%Width" in no unit at all: what only one side is divided
+// by tells nothing of the sum. A product that is no number is near none, and so it is forgotten as well.
 void ConstantFactors::keepShared(const ConstantFactors& other)
 {
     for (std::size_t i = 0; i < m_ratios.size(); ++i)

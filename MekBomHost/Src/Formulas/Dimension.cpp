@@ -1,3 +1,9 @@
+// Told on "%Weight/%Length*%Price", with powers of length, area per length, weight, angle, and of own numbers:
+//   %Weight             0  0  1  0
+//   / %Length          -1  0  1  0                kind() weight-per-length
+//   * %Price           -1  0  1  0   %Price 1     no kind; text() "weight x %Price / length"
+// A product adds powers and a quotient takes them away; nothing else is known of a dimension, and nothing else is
+// needed to tell whether two of them can be added.
 #include "Dimension.h"
 
 #include "UnitKinds.h"
@@ -32,7 +38,8 @@ struct Powers
     }
 };
 
-// Of the model's unit of each kind: kg/mm³ is one power of weight and minus three of length.
+// The powers of the model's unit of each kind: kg/mm³ is one power of weight and minus three of length. An area per
+// length has those of a length; Dimension tells the two apart by where the power came from.
 Powers powersOf(Units::eTokenUnitType type)
 {
     switch (type)
@@ -74,6 +81,7 @@ Dimension Dimension::ofType(Units::eTokenUnitType type)
     return dimension;
 }
 
+// Nobody knows the unit of %Price, so it is a base of its own: prices can be added to prices alone.
 Dimension Dimension::ofOwnNumber(const std::string& token)
 {
     Dimension dimension;
@@ -87,11 +95,14 @@ bool Dimension::isSameProduct(const Dimension& other) const
            m_own == other.m_own;
 }
 
+// A length and an area per length are the same product, and yet no sum: one is shown in mm, the other in m2/m.
 bool Dimension::isLike(const Dimension& other) const
 {
     return isSameProduct(other) && (kind() == other.kind());
 }
 
+// The one that only area per length and length share is decided here; all other kinds differ in their powers, and the
+// loop finds the one there is.
 Units::eTokenUnitType Dimension::kind() const
 {
     const Powers powers = { length(), m_nWeight, m_nAngle };
@@ -105,7 +116,9 @@ Units::eTokenUnitType Dimension::kind() const
     return Units::kNoUnit;
 }
 
-// The smaller map goes into the larger one: a product of many own numbers takes no quadratic time.
+// The smaller map goes into the larger one: a product of many own numbers takes no quadratic time. That holds for
+// quotients, too, since the signs are turned before the maps change places, and a sum has no order. A power that comes
+// to 0 goes, so that %Price/%Price is plain.
 void Dimension::addPowers(Dimension other, int sign)
 {
     m_nLength = addPower(m_nLength, sign * other.m_nLength);
@@ -126,6 +139,7 @@ void Dimension::addPowers(Dimension other, int sign)
     }
 }
 
+// Positive powers first, as one says it: "weight x %Price / length^2", "1 / angle".
 std::string Dimension::text() const
 {
     if (isPlain())

@@ -24,20 +24,21 @@ class Dimension
 public:
     Dimension() = default;
 
-    // Of a kind of quantity; plain for a type that has no unit.
+    // The dimension of a kind of quantity; a plain number for a type that has no unit.
     static Dimension ofType(VorBomTemplateUnits::eTokenUnitType type);
 
-    // Of a number of the user's own, which is like no other but itself.
+    // The dimension of a number of the user's own, which can be added to no other: nobody knows the unit of "%Price".
     static Dimension ofOwnNumber(const std::string& token);
 
-    // Takes time by the powers of the one that has fewer of them.
+    // Both take time in proportion to the own numbers of the one that has fewer of them.
     void multiplyBy(Dimension other) { addPowers(std::move(other), 1); }
     void divideBy(Dimension other) { addPowers(std::move(other), -1); }
 
     // Whether values of both can be added.
     bool isLike(const Dimension& other) const;
 
-    // The same for an area per length and a length.
+    // The same, but true for an area per length and a length, too: a formula of tokens makes one where the other is
+    // meant.
     bool isSameProduct(const Dimension& other) const;
 
     // Whether values do not depend on the model's units: plain numbers, and the user's own.

@@ -1,4 +1,5 @@
-// The parser's tree is taken over in two steps, without recursion. For "2*(3+a)":
+// The parser's tree dies with the parser, so that nodes of our own take it over, in two steps, without recursion. For
+// "2*(3+a)":
 //   down   *  +  a  3  2      each operator, then its right side, then its left
 //   back   2  3  a  +  *      the same from its end: both sides stand before their operator
 // On the way back the operands and operators that wait for an operator above them stand on a stack.
@@ -13,6 +14,7 @@ namespace mekbom
 {
 namespace
 {
+// Each item before those below it, its right side before its left: the order of "down" above.
 std::vector<const VorExprEvTreeItem*> itemsOf(const VorExprEvTreeItem* pRoot)
 {
     std::vector<const VorExprEvTreeItem*> items;
@@ -30,6 +32,8 @@ std::vector<const VorExprEvTreeItem*> itemsOf(const VorExprEvTreeItem* pRoot)
     return items;
 }
 
+// A view may reach behind the end of the text that it looks at: the engine reads zeros there, and a name with zeros
+// behind it is another one. So as many zeros stand in the node's text as the view is longer than what exists.
 VorString textOf(const VorExprEvTextView& view)
 {
     const std::wstring_view existing = view.existingPart();
@@ -47,6 +51,8 @@ int numReadOf(const VorExprEvTextView& view)
     return static_cast<int>(pEnd - pStart);
 }
 
+// Whether an operand is a number is the engine's to say, which asks for no more than that it begins as one: "2nd" is 2,
+// "nan" is no name. An operand without a text is the left side of a negation.
 FormulaNode operandOf(const VorExprEvTextView& view, const wchar_t* pFormula)
 {
     FormulaNode node;
@@ -73,6 +79,7 @@ int takeSide(const VorExprEvTreeItem* pSide, std::vector<int>& waiting)
     return side;
 }
 
+// The root is the last item on the way back, and what waits then; a statement without an operand has no item at all.
 int addTree(const VorExprEvTreeItem* pRoot, const wchar_t* pFormula, FormulaTree& tree)
 {
     const std::vector<const VorExprEvTreeItem*> items = itemsOf(pRoot);
@@ -97,6 +104,7 @@ int addTree(const VorExprEvTreeItem* pRoot, const wchar_t* pFormula, FormulaTree
 }
 }
 
+// A statement that does not balance ends the reading, as it ends the engine's: what stands behind it is never computed.
 EngineReading EngineReading::read(const VorString& formula)
 {
     EngineReading reading;

@@ -19,6 +19,7 @@ struct EngineReading
     FormulaTree tree;       // of all statements before the first with an impaired parenthesis
     bool isBalanced = true; // whether each statement has as many '(' as ')'
 
+    // Reads the text behind "%Formula:". The text is not needed afterwards.
     static EngineReading read(const VorString& formula);
 };
 }

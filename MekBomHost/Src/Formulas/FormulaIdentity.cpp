@@ -1,7 +1,9 @@
-// Modulo a prime p, every number but 0 has an inverse, so that all four operations are exact: 1/3 is the number that
-// makes 1 of 3. A constant of single precision is a whole number times a power of two. Two formulas that are not the
-// same are two fractions of polynomials; those agree for few of the p values that each name can have: the chance is
-// their degree divided by p, for each set of numbers.
+// Modulo a prime p, every number but 0 has an inverse, so that all four operations are exact: modulo 7, 1/3 is 5, since
+// 3*5 = 15 is 1 more than twice 7. A constant of single precision is a whole number times a power of two. So
+// "(a+b)/3*3" and "a+b" come to the very same number, where doubles would differ in their last digit.
+//
+// Two formulas that are not the same are two fractions of polynomials; those agree for few of the p values that each
+// name can have: the chance is their degree divided by p, for each set of numbers (the lemma of Schwartz and Zippel).
 #include "FormulaIdentity.h"
 
 #include "FormulaWalk.h"
@@ -16,6 +18,8 @@ namespace
 constexpr std::uint64_t kPrime = 2147483647; // 2^31 - 1, so that products fit 64 bits
 constexpr unsigned kNumSets = 4; // arbitrary: even a formula of 100,000 factors passes by chance once in 10^17
 
+// By squaring, bit by bit of the exponent: "power(3, 5)" is 3 times 3^4. Factors are below 2^31, and so no product
+// overflows.
 std::uint64_t power(std::uint64_t base, std::uint64_t exponent)
 {
     std::uint64_t result = 1;
@@ -28,6 +32,7 @@ std::uint64_t power(std::uint64_t base, std::uint64_t exponent)
     return result;
 }
 
+// By Fermat's little theorem a number to the power of p-1 is 1, so to the power of p-2 it is what makes 1 of it.
 std::uint64_t inverse(std::uint64_t residue)
 {
     return power(residue, kPrime - 2);
@@ -38,7 +43,7 @@ std::uint64_t negative(std::uint64_t residue)
     return (kPrime - residue) % kPrime;
 }
 
-// Of a finite number of single precision.
+// The residue of a finite number of single precision: 0.5 is the mantissa 2^23, which is whole, times 2^-24.
 std::uint64_t residueOf(double number)
 {
     constexpr int kDigits = 24; // bits of a float
@@ -56,11 +61,11 @@ struct Residue
     bool isDefined = true;
 };
 
-// Computes with one set of numbers.
-class Set
+// Computes with one set of numbers for the names. What has no value makes all that is computed with it have none.
+class Numbers
 {
 public:
-    explicit Set(std::uint64_t number) : m_nNumber(number) {}
+    explicit Numbers(std::uint64_t set) : m_nSet(set) {}
 
     Residue ofNothing() const { return {}; }
 
@@ -71,10 +76,11 @@ public:
         return { residueOf(node.number), true };
     }
 
-    // The same number for the same name: FNV-1a over its characters, and what splitmix64 makes of that.
+    // The same number for the same name, on every machine, so that a finding does not come and go from run to run:
+    // FNV-1a over its characters, and what splitmix64 makes of that.
     Residue ofName(const VorString& name) const
     {
-        std::uint64_t hash = 0xcbf29ce484222325 + m_nNumber;
+        std::uint64_t hash = 0xcbf29ce484222325 + m_nSet;
         for (int i = 0; i < name.length(); ++i)
             hash = (hash ^ static_cast<std::uint64_t>(name.getStringW()[i])) * 0x100000001b3;
         hash = (hash ^ hash >> 30) * 0xbf58476d1ce4e5b9;
@@ -97,12 +103,12 @@ public:
     }
 
 private:
-    std::uint64_t m_nNumber;
+    std::uint64_t m_nSet;
 };
 
-Residue compute(const FormulaTree& tree, Set set)
+Residue compute(const FormulaTree& tree, Numbers numbers)
 {
-    return FormulaWalk<Residue, Set>(set).run(tree);
+    return FormulaWalk<Residue, Numbers>(numbers).run(tree);
 }
 }
 
@@ -110,8 +116,8 @@ bool haveSameValue(const FormulaTree& a, const FormulaTree& b)
 {
     for (unsigned i = 0; i < kNumSets; ++i)
     {
-        const Residue valueOfA = compute(a, Set(i));
-        const Residue valueOfB = compute(b, Set(i));
+        const Residue valueOfA = compute(a, Numbers(i));
+        const Residue valueOfB = compute(b, Numbers(i));
         if (valueOfA.isDefined != valueOfB.isDefined || valueOfA.value != valueOfB.value)
             return false;
     }

@@ -6,6 +6,9 @@
 
 namespace mekbom
 {
+// Kinds come first, since a template may register one for any token, "%Cut" of the user's own among them. A whole
+// number of the catalogue is a count of something and has no unit; a number of it without a kind is in a unit that only
+// the author knows.
 FormulaOperand FormulaOperand::ofCatalogue(const VorString& token, const VorBomTemplateUnits& units)
 {
     const VorBomTemplateUnits::eTokenUnitType type = units.getUnitType(token);

@@ -39,6 +39,7 @@ struct Term
     bool isCertain = true;                          // made of tokens of known kinds alone
 };
 
+// A bare number may be one of any unit: whatever it is a factor of is not certain to be what its tokens make.
 Term ofConstant(double value, const std::string& text)
 {
     Term term;
@@ -55,6 +56,7 @@ Term ofDimension(const Dimension& dimension)
     return term;
 }
 
+// A number of the user's own, or nobody's: what is computed with it contradicts no declaration.
 Term ofUncertain(const Dimension& dimension)
 {
     Term term = ofDimension(dimension);
@@ -62,6 +64,7 @@ Term ofUncertain(const Dimension& dimension)
     return term;
 }
 
+// Two constants are one, as the engine computes it: what cannot be divided stays 0, and nobody has written its digits.
 Term compute(wchar_t operation, const Term& left, const Term& right)
 {
     double value = 0.0;
@@ -69,7 +72,9 @@ Term compute(wchar_t operation, const Term& left, const Term& right)
     return ofConstant(value, std::string());
 }
 
-// A product or a quotient of which one side at most is a constant.
+// A product or a quotient of which one side at most is a constant. A constant on the left becomes a plain product with
+// itself as its only factor, so that "1000*%Length" and "%Length*1000" end as the same term; of "1/%Length" the
+// dimension is turned over as well.
 Term multiply(bool isQuotient, Term left, Term right)
 {
     if (left.isConstant)
@@ -131,7 +136,8 @@ FormulaResult Derivation::derive(const FormulaTree& tree)
     return m_found;
 }
 
-// No operand has a name that reaches beyond the formula.
+// A name that reaches beyond the formula, "a" and a zero, is no row's and no author's: nobody is asked for it. Unknown
+// names are taken for plain numbers, so that the derivation goes on, and are noted, so that nothing comes of it.
 Term Derivation::ofName(const VorString& name)
 {
     const bool isWithinFormula = name == VorString(name.getStringW());
@@ -148,6 +154,8 @@ Term Derivation::ofName(const VorString& name)
     return ofUncertain(Dimension());
 }
 
+// An area divided by a length is a length by its powers, but "%Paint/%Length" means an area per length: that is noted
+// here, where both sides are still known.
 Term Derivation::combine(const FormulaNode& node, Term left, Term right)
 {
     if (left.isConstant && right.isConstant)
@@ -160,6 +168,8 @@ Term Derivation::combine(const FormulaNode& node, Term left, Term right)
     return sum(std::move(left), std::move(right));
 }
 
+// Both products end here, so their constants are looked at before anything else: "%Length/1000+%Width" hides a unit in
+// its first term. The sum goes on as its left side, whose dimension is that of both when they are alike.
 Term Derivation::sum(Term left, Term right)
 {
     settle(left);
@@ -178,7 +188,7 @@ Term Derivation::sum(Term left, Term right)
     return left;
 }
 
-// Zero is zero in every unit.
+// Zero is zero in every unit, and what has no unit can be added to any number. A negation is a sum with zero, too.
 Term Derivation::sumWithConstant(Term term, const FormulaConstant& constant)
 {
     if (constant.value == 0.0 || term.dimension.isPlain())
@@ -196,6 +206,7 @@ void Derivation::settle(const Term& term)
         note(FormulaResult::kHiddenUnit, hidden);
 }
 
+// The first reason is the one that a reader of the formula meets first; those behind it mostly follow from it.
 void Derivation::note(FormulaResult::eReason reason, const std::string& what)
 {
     if (m_found.reason != FormulaResult::kNone)
@@ -204,6 +215,8 @@ void Derivation::note(FormulaResult::eReason reason, const std::string& what)
     m_found.what = what;
 }
 
+// A kind is told only where no reason speaks against it. Own numbers alone, "%Price*%Hours", have no kind and need
+// none: they stay what they are in whatever units a list is printed.
 void Derivation::conclude()
 {
     const VorBomTemplateUnits::eTokenUnitType kind = m_result.dimension.kind();
@@ -217,14 +230,16 @@ void Derivation::conclude()
     m_found.mayBeAreaPerLength = m_bDividesArea && kind == VorBomTemplateUnits::kDistanceUnit;
 }
 
+// Only what is certain contradicts: a constant or an own number within the formula may be in any unit, so that its
+// author may well know better.
 bool contradicts(const Term& result, FormulaResult::eReason reason, VorBomTemplateUnits::eTokenUnitType declared)
 {
     const bool isDerived = reason == FormulaResult::kNone || reason == FormulaResult::kNoKind;
     return isDerived && result.isCertain && !result.dimension.isSameProduct(Dimension::ofType(declared));
 }
 
-// What to do about a constant that hides a unit: where the formula has a kind without it, declaring that kind would make
-// 0.5 kg of 0.5 t.
+// What to do about a constant that hides a unit: where the formula has a kind without it, declaring that kind would
+// make 0.5 kg of 0.5 t.
 std::string remedyOfHiddenUnit(const Term& result)
 {
     if (result.dimension.kind() == VorBomTemplateUnits::kNoUnit)
@@ -235,7 +250,8 @@ std::string remedyOfHiddenUnit(const Term& result)
            inQuotes(pUnit == nullptr ? kDeclaredPlain : Utf8::toBytes(pUnit->asciiSymbol));
 }
 
-// The tokens give the declared kind, but not the number.
+// A kind that the tokens do not give, or that they give while the number is another one: "%Weight/1000" declared as a
+// weight would print half a tonne as half a kilogram.
 void checkKind(FormulaResult& result, const Term& term, const std::string& declared)
 {
     if (contradicts(term, result.reason, result.kind))
@@ -262,6 +278,34 @@ void checkLabel(FormulaResult& result, const Term& term)
     result.remedy = std::string(isHidden ? "take the constant out, and " : "") +
                     "write \"unit\": " + inQuotes(result.label) + " in the column instead of \"result\"";
 }
+
+FormulaResult unbalanced()
+{
+    FormulaResult result;
+    result.reason = FormulaResult::kUnreadable;
+    result.what = "the parentheses do not balance";
+    return result;
+}
+
+// Makes the result what its column says: a kind, a plain number, or a plain number with a label. The reason why nothing
+// was derived stays, for whoever wants to know what the declaration stands in for.
+void declare(FormulaResult& result, const Term& term, const std::string& declared)
+{
+    result.measure = FormulaResult::kPlain;
+    result.kind = VorBomTemplateUnits::kNoUnit;
+    result.mayBeAreaPerLength = false;
+    if (const UnitKind* const pKind = UnitKinds::find(declared))
+    {
+        result.measure = FormulaResult::kKind;
+        result.kind = VorBomTemplateUnits::unitTypeOf(pKind->system);
+        checkKind(result, term, declared);
+    }
+    else if (declared != kDeclaredPlain)
+    {
+        result.label = declared;
+        checkLabel(result, term);
+    }
+}
 }
 
 FormulaResult FormulaResult::derive(const VorString& formula, const FormulaOperands& operands)
@@ -272,32 +316,11 @@ FormulaResult FormulaResult::derive(const VorString& formula, const FormulaOpera
 FormulaResult FormulaResult::of(const VorString& formula, const FormulaOperands& operands, const std::string& declared)
 {
     const EngineReading reading = EngineReading::read(formula);
-    FormulaResult result;
     Derivation derivation(operands);
-    if (reading.isBalanced)
-        result = derivation.derive(reading.tree);
-    else
-    {
-        result.reason = kUnreadable;
-        result.what = "the parentheses do not balance";
-    }
+    FormulaResult result = reading.isBalanced ? derivation.derive(reading.tree) : unbalanced();
     result.remedy = result.reason == kHiddenUnit ? remedyOfHiddenUnit(derivation.result()) : kRemedy;
-    if (declared.empty())
-        return result;
-    result.measure = kPlain;
-    result.kind = VorBomTemplateUnits::kNoUnit;
-    result.mayBeAreaPerLength = false;
-    if (const UnitKind* const pKind = UnitKinds::find(declared))
-    {
-        result.measure = kKind;
-        result.kind = VorBomTemplateUnits::unitTypeOf(pKind->system);
-        checkKind(result, derivation.result(), declared);
-    }
-    else if (declared != kDeclaredPlain)
-    {
-        result.label = declared;
-        checkLabel(result, derivation.result());
-    }
+    if (!declared.empty())
+        declare(result, derivation.result(), declared);
     return result;
 }
 }

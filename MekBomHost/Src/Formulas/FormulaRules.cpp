@@ -2,7 +2,10 @@
 // what the second cannot read, or reads to another value, is what authors stumble over:
 //   "round(a*2.2)"   arithmetic has no factor "round" before a parenthesis    MB405
 //   "a-(b-1)*2"      both read it, and (a-b+1)*2 is not a-(b-1)*2              MB404
-// The other rules look at one operand each, along the engine's tree.
+// The other rules look at one operand each, along the engine's tree:
+//   "2,5*%Weight"    the operand "2,5" is read as the number 2                  MB408
+// One slip mostly breaks several rules, of which the most telling is kept: who is told that "2,5" is read as 2 need not
+// be told that both readings differ.
 #include "FormulaRules.h"
 
 #include "ArithmeticReading.h"
@@ -32,7 +35,8 @@ namespace
 {
 using namespace MistakeCodes;
 
-// Decimal digits of a whole number that single precision always keeps.
+// Decimal digits of a whole number that single precision, 24 bits, always keeps: 2^24 is 16777216, and not every number
+// of eight digits behind it has a float of its own.
 constexpr std::size_t kSingleDigits = 7;
 
 const char* const kNumberRemedy = "the decimal sign is a point, and the operators are \"*/+-=()\"";
@@ -63,13 +67,14 @@ std::string singleText(const FormulaNode& node)
     return mekbom::singleText(static_cast<float>(node.number));
 }
 
+// A character with which names begin; beyond ASCII every one is taken for a letter, as names may be in any language.
 bool isLetter(wchar_t character)
 {
     return (character >= L'a' && character <= L'z') || (character >= L'A' && character <= L'Z') || character == L'_' ||
            character > 0x7F;
 }
 
-// Without zeros in front, and up to an exponent.
+// How many digits the number has, without zeros in front and without its exponent: 3 of "0.0250e6".
 std::size_t numDigitsOf(std::wstring_view number)
 {
     const std::wstring_view mantissa = number.substr(0, number.find_first_of(L"eE"));
@@ -117,7 +122,8 @@ public:
     std::vector<Finding> run();
 
 private:
-    // What is known of a value: that it is a constant, or nothing.
+    // What is known of a value: that it is a constant, or nothing. Names have values only in rows, and a template may
+    // be looked at without any.
     struct Constant
     {
         bool isKnown;
@@ -158,6 +164,7 @@ private:
     std::vector<Finding> m_findings;
 };
 
+// The order of the steps matters: checkBothReadings() and checkLostNumber() keep quiet about what the walk has found.
 std::vector<Finding> Check::run()
 {
     if (isComputed())
@@ -176,7 +183,8 @@ std::vector<Finding> Check::run()
     return std::move(m_findings);
 }
 
-// Nothing else can be said of a formula that the engine passes over.
+// Nothing else can be said of a formula that the engine passes over: what is too short, such as "a*2", or does
+// not balance comes to no value that a reading could be compared with.
 bool Check::isComputed()
 {
     const std::wstring_view text = viewOf(m_formula);
@@ -193,7 +201,9 @@ bool Check::isComputed()
     return m_findings.empty();
 }
 
-// Names are looked for in rows by another splitting than that of the statements: a ';' does not end them.
+// Names are looked for in rows by another splitting than that of the statements: a ';' does not end them. Of
+// "a=2;%Weight*a" rows are asked for "2;%Weight", which none has, so that %Weight is unknown when it is computed with.
+// Both sides of it are told: what is asked for in vain, and what is not asked for.
 void Check::checkSeparators()
 {
     VorStringArray tokens = VorBomDataToken::getTokensFromFormula(m_formula);
@@ -213,7 +223,8 @@ void Check::checkSeparators()
                 "put a blank on both sides of the ';'");
 }
 
-// A statement that makes a variable for those behind it is what '=' is for.
+// A statement that makes a variable for those behind it is what '=' is for. Any other '=' was meant as a test, as in
+// "%Length=6000": one within a statement, one that ends the formula, one with a token on its left.
 void Check::checkAssignments()
 {
     const std::vector<FormulaNode>& nodes = m_engine.tree.nodes();
@@ -250,6 +261,8 @@ Check::Constant Check::ofName(const VorString& name)
     return { false, 0.0 };
 }
 
+// A divisor is known only where no name is below it. Values of unknown sides are computed as well, and go no further.
+// The bound is the engine's, and so calculate() is asked rather than 0.0001 written here.
 Check::Constant Check::combine(const FormulaNode& node, const Constant& left, const Constant& right)
 {
     double value = 0.0;
@@ -262,7 +275,8 @@ Check::Constant Check::combine(const FormulaNode& node, const Constant& left, co
     return { left.isKnown && right.isKnown, value };
 }
 
-// A name that no statement has assigned.
+// A name that no statement has assigned. The first thing that is wrong with it is told and no other, from what the
+// reading did to the name to what nobody knows of it.
 void Check::checkName(const VorString& name)
 {
     if (hasZeroBehind(name))
@@ -281,6 +295,7 @@ void Check::checkName(const VorString& name)
         checkUnknownName(name);
 }
 
+// A token of one word that nobody knows is not told here (FormulaRules.h says where).
 void Check::checkUnknownName(const VorString& name)
 {
     if (hasBlankWithin(name))
@@ -291,7 +306,8 @@ void Check::checkUnknownName(const VorString& name)
             "begin tokens with '%', and assign variables before they are used: \"a=4;a*2\"");
 }
 
-// A number is read from the start of its operand, as far as it is one.
+// A number is read from the start of its operand, as far as it is one: "1e" of "1e-3", whose exponent the engine does
+// not know; "2" of "2nd" and all of "inf", which were meant as names; "2" of "2,5".
 void Check::checkNumber(const FormulaNode& node)
 {
     if (node.numRead > node.text.length())
@@ -308,7 +324,8 @@ void Check::checkNumber(const FormulaNode& node)
         add(kNumberCutShort, quoted(node.text) + " is read as the number " + singleText(node), kNumberRemedy);
 }
 
-// Seven digits are always kept. A fraction that loses more is off by less than anybody measures.
+// Seven digits are always kept. A fraction that loses more is off by less than anybody measures, and so worth a note
+// only; a whole number, as of 16777217 pieces, is another number then.
 void Check::checkDigits(const FormulaNode& node)
 {
     const std::wstring_view number = numberOf(node);
@@ -324,7 +341,8 @@ void Check::checkDigits(const FormulaNode& node)
         m_findings.push_back(std::move(finding));
 }
 
-// Of a formula without names. All results are rounded to six decimals.
+// Looks at the value of a formula without names. All results are rounded to six decimals: 0.00012345 becomes
+// 0.000123, which is off by 0.4 %, and 1e-7 becomes nothing.
 void Check::checkConstant(double value)
 {
     constexpr double kDecimals = 1e6;
@@ -335,6 +353,8 @@ void Check::checkConstant(double value)
             "compute in a smaller unit");
 }
 
+// A formula that arithmetic cannot read is told in the words of its fault, with what the engine makes of it. An "(a+b"
+// is told by isComputed(): the engine refuses it, too.
 void Check::checkArithmetic()
 {
     switch (m_arithmetic.fault)
@@ -354,14 +374,17 @@ void Check::checkArithmetic()
     }
 }
 
-// Of numbers that the engine keeps, checkNumber has told.
+// What arithmetic calls no number may be one that the engine has read in part, of which checkNumber() has told already,
+// or one that it has lost as a whole, behind another operand.
 void Check::checkLostNumber()
 {
     if (!has(kNumberCutShort) && !has(kNameReadsAsNumber))
         add(kNumberCutShort, inQuotes(m_arithmetic.what) + " is no number: " + reading(), kNumberRemedy);
 }
 
-// What has been found of single operands explains why both readings differ.
+// What has been found of single operands explains why both readings differ; otherwise the parentheses or the signs are
+// to blame, and both readings are shown with all brackets. Readings that differ in form alone, (a*b)*c and a*(b*c),
+// come to the same value and are no mistake.
 void Check::checkBothReadings()
 {
     const bool isExplained =
@@ -371,10 +394,11 @@ void Check::checkBothReadings()
         return;
     add(kFormulaReadsOtherwise, reading() + ", not as " + quotedReading(m_arithmetic.tree.text()),
         "a ')' groups all that stands before it, and a sign binds less than '*' and '/': begin with the parentheses, "
-        "or "
-        "assign their value to a variable in a statement before");
+        "or assign their value to a variable in a statement before");
 }
 
+// What lists print of the formula, beside whether it can be told at all: a density in the model's kg/mm3 is 7.85e-6 for
+// steel, of which six decimals keep the first digit; an area per length and a length have the same powers.
 void Check::checkResult()
 {
     const FormulaResult result = FormulaResult::of(m_formula, m_operands, m_declared);
@@ -408,6 +432,7 @@ bool Check::has(const FindingCode& code) const
                        [&](const Finding& finding) { return finding.code == code.name; });
 }
 
+// One of each code is enough: of a formula with ten commas for points the first shows how to mend the others.
 void Check::add(const FindingCode& code, const std::string& statement, const std::string& remedy)
 {
     Finding finding = Finding::stating(code, statement);

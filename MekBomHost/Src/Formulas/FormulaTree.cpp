@@ -15,7 +15,7 @@ namespace mekbom
 {
 namespace
 {
-// A piece of the text: a node, or a character.
+// A piece of the text that is still to be written: a node, or a character where that is not 0.
 struct Piece
 {
     int node; // kNoSide for a side that is missing
@@ -35,6 +35,8 @@ VorString withoutZeros(const VorString& text)
     return VorString(text.getStringW()); // up to the first
 }
 
+// Where the engine has read fewer or more characters than the operand has, "2,5" or "1e-3", the number that it has made
+// of them is shown: that is what its author has to see.
 std::string operandText(const FormulaNode& node)
 {
     if (node.kind == FormulaNode::kNumber && node.numRead != node.text.length())
@@ -49,6 +51,7 @@ int FormulaTree::add(const FormulaNode& node)
     return static_cast<int>(m_nodes.size()) - 1;
 }
 
+// From the root down, which is from the last node to the first: each marks its sides before their turn comes.
 void FormulaTree::endStatement(int root)
 {
     m_roots.push_back(root);
@@ -60,6 +63,7 @@ void FormulaTree::endStatement(int root)
     m_nStatement = static_cast<int>(m_nodes.size());
 }
 
+// The left side of an assignment is where a value goes, and so none that is asked for.
 void FormulaTree::markSides(const FormulaNode& node)
 {
     if (!node.isComputed)
@@ -70,6 +74,7 @@ void FormulaTree::markSides(const FormulaNode& node)
         m_nodes[static_cast<std::size_t>(node.right)].isComputed = true;
 }
 
+// A statement without an operand, as behind a last ';', leaves the value of the one before it.
 int FormulaTree::root() const
 {
     for (auto root = m_roots.rbegin(); root != m_roots.rend(); ++root)
@@ -92,7 +97,8 @@ std::string FormulaTree::text() const
     return text;
 }
 
-// An assignment that is a whole statement needs no brackets.
+// Operators are taken apart into brackets, sides and sign, each put on the list with its end first; all else is
+// written. An assignment that is a whole statement needs no brackets.
 std::string FormulaTree::textOf(int root) const
 {
     std::string text;

@@ -66,7 +66,7 @@ public:
     //   "a=4;2,5*-a"  ->  "a=4;(2*(-a))"
     std::string text() const;
 
-    // The same of what stands below one node.
+    // The text, in the same form, of one node with what stands below it.
     std::string textOf(int node) const;
 
 private:

@@ -1,4 +1,5 @@
-// Computes something of a formula along its tree: a number, a dimension, whatever both sides of an operator make one of.
+// Computes something of a formula along its tree: a number, a dimension, whatever both sides of an operator make one
+// of.
 //
 //   struct Height // how many operators stand above each other
 //   {
@@ -11,8 +12,8 @@
 //   FormulaWalk<int, Height>(height).run(EngineReading::read(L"2*(3+a)").tree)   ->  2
 //
 // The client is asked for operands and operators from the left, both sides before their operator. Assignments are the
-// walk's: a name that has been assigned stands for what it was assigned last, and the client is not asked for it. A side
-// that is missing is nothing.
+// walk's: a name that has been assigned stands for what it was assigned last, and the client is not asked for it. A
+// side that is missing is nothing.
 #pragma once
 
 #include "FormulaTree.h"
@@ -27,7 +28,7 @@ template <class Value, class Client>
 class FormulaWalk
 {
 public:
-    // Not owned; outlives the walk.
+    // The client is not owned and must outlive the walk.
     explicit FormulaWalk(Client& client) : m_client(client) {}
 
     // The value of the formula, which is that of its last statement that has an operand; that of nothing when none has.

@@ -148,6 +148,8 @@ PartsFacts CellReader::facts() const
     return facts;
 }
 
+// A comma too many or too few shifts all cells behind it, so none of the record is looked at: they would all be wrong,
+// and the first is what is.
 bool CellReader::checkNumCells(const Record& record)
 {
     if (record.size() == m_columns.size())
@@ -300,6 +302,7 @@ void CellReader::addFinding(const FindingCode& code, std::size_t column, std::st
     m_findings.add(std::move(finding));
 }
 
+// The number is that of the row in the list, from 1; empty rows have none, so that it is one less behind each of them.
 void CellReader::addNumberAsHandle()
 {
     m_rows.setHandle(std::to_string(m_numRows));

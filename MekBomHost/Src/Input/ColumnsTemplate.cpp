@@ -1,10 +1,15 @@
-// The text is put together of lines, not of JSON values: an author reads it, and comments stand where a group or a title
-// would go. The comments around the details are JSON themselves, so that taking the slashes away makes the group.
+// The text is put together of lines, not of JSON values: an author reads it, and comments stand where a group or a
+// title would go. The comments around the details are JSON themselves, so that taking the slashes away makes the group.
+// Of columns %Name, %Quantity and %Weight it says
+//   columns            %Name, %Quantity, %Weight and, as a formula, the weight of all pieces of a row
+//   details            sorted by %Name; the same four
+//   report footer      the sums of %Quantity and of that formula
 #include "ColumnsTemplate.h"
 
 #include "DataTokens.h"
 #include "InputUnits.h"
 #include "JsonText.h"
+#include "TokenNames.h"
 #include "UnitKinds.h"
 
 #include "VorBomTokenCatalogue.h"
@@ -20,7 +25,6 @@ namespace
 {
 using Columns = std::vector<InputColumn>;
 
-const char* const kQuantity = "%Quantity";
 const char* const kWeight = "%Weight";
 const char* const kTotalWeight = "%Formula:%Weight*%Quantity";
 
@@ -29,7 +33,7 @@ const VorBomTokenCatalogue::Entry* entryOf(const InputColumn& column)
     return VorBomTokenCatalogue::find(column.tupleToken);
 }
 
-// Not one that the catalogue knows.
+// A column of the user's own, which is not one that the catalogue knows: the template has to say what it holds.
 bool isOwn(const InputColumn& column)
 {
     return !column.isHandle && entryOf(column) == nullptr;
@@ -52,7 +56,8 @@ bool canBeSortedBy(const InputColumn& column)
     return !column.isHandle && column.token.find_first_of(", \t") == std::string::npos;
 }
 
-// The first column of texts that the catalogue knows; without one the first that may hold texts. Null when there is none.
+// The first column of texts that the catalogue knows; without one the first that may hold texts, which is one of the
+// user's own without a unit. Null when there is none.
 const InputColumn* sortColumnOf(const Columns& columns)
 {
     const InputColumn* pOwn = nullptr;
@@ -69,6 +74,7 @@ const InputColumn* sortColumnOf(const Columns& columns)
     return pOwn;
 }
 
+// Whether rows are sorted by the column with 2 before 10 as it is; the column has to say it otherwise.
 bool isNaturalByCatalogue(const InputColumn& column)
 {
     const VorBomTokenCatalogue::Entry* const pEntry = entryOf(column);
@@ -105,11 +111,13 @@ std::vector<std::string> columnElements(const Columns& columns, const InputColum
         elements.push_back("{ \"token\": " + jsonText(column.token) +
                            ", \"label\": " + jsonText(column.token.substr(1)) +
                            (&column == pSort && !isNaturalByCatalogue(column) ? ", \"order\": \"natural\" }" : " }"));
-    if (has(columns, kWeight) && has(columns, kQuantity))
+    if (has(columns, kWeight) && has(columns, TokenNames::kPieces))
         elements.push_back("{ \"token\": " + jsonText(kTotalWeight) + ", \"label\": \"Total weight\" }");
     return elements;
 }
 
+// Of a column whose content is not known yet nothing is said: a template that called texts numbers would refuse the
+// very data that it was made for.
 std::vector<std::string> ownTokens(const Columns& columns)
 {
     std::vector<std::string> members;
@@ -123,6 +131,8 @@ std::vector<std::string> ownTokens(const Columns& columns)
     return members;
 }
 
+// A column of the user's own is shown in the reader's units when the template names its kind, and its heading has told
+// that: "Gap [in]" is a length.
 std::vector<std::string> tokenUnits(const Columns& columns)
 {
     std::vector<std::string> members;
@@ -144,6 +154,7 @@ std::string object(const std::string& key, const std::vector<std::string>& membe
     return members.empty() ? "" : "  \"" + key + "\": {\n" + lines(members, 4) + "\n  },\n";
 }
 
+// The sorting request goes first, and steers; the tuples behind it are the columns, one each.
 std::vector<std::string> details(const Columns& columns, const InputColumn* pSort)
 {
     std::vector<std::string> tuples;
@@ -151,7 +162,7 @@ std::vector<std::string> details(const Columns& columns, const InputColumn* pSor
         tuples.push_back(tuple("%SortAscBy:" + pSort->token));
     for (const InputColumn& column : columns)
         tuples.push_back(tuple(column.token));
-    if (has(columns, kWeight) && has(columns, kQuantity))
+    if (has(columns, kWeight) && has(columns, TokenNames::kPieces))
         tuples.push_back(tuple(kTotalWeight));
     return tuples;
 }
@@ -160,10 +171,10 @@ std::vector<std::string> details(const Columns& columns, const InputColumn* pSor
 std::vector<std::string> totals(const Columns& columns)
 {
     std::vector<std::string> tuples;
-    if (has(columns, kQuantity))
-        tuples.push_back(tuple(std::string("%SumBy:") + kQuantity));
+    if (has(columns, TokenNames::kPieces))
+        tuples.push_back(tuple(std::string("%SumBy:") + TokenNames::kPieces));
     if (has(columns, kWeight))
-        tuples.push_back(tuple(std::string("%SumBy:") + (has(columns, kQuantity) ? kTotalWeight : kWeight)));
+        tuples.push_back(tuple(std::string("%SumBy:") + (has(columns, TokenNames::kPieces) ? kTotalWeight : kWeight)));
     return tuples;
 }
 
@@ -172,6 +183,8 @@ std::string footer(const std::string& type, const std::string& label, const std:
     return "{ \"type\": \"" + type + "\", \"label\": \"" + label + "\", \"tuples\": [ " + joined(tuples) + " ] }";
 }
 
+// The lines as they would stand with their slashes taken away. The group sorts as well: a list that is grouped by what
+// it is not sorted by splits its groups.
 std::string groupBegin(const InputColumn& column)
 {
     return "        // Groups: take away the slashes before the next two lines, and before the one below the details.\n"
@@ -184,31 +197,23 @@ std::string groupEnd(const std::vector<std::string>& totals)
 {
     return "\n        // ] }" + (totals.empty() ? "" : ", " + footer("kGroupFooter", "Sum", totals));
 }
+
+std::string columnsMember(const Columns& columns, const InputColumn* pSort)
+{
+    return "  // In the order in which they are printed; \"unit\": \"m/2\" or \"width\": 20 say how.\n"
+           "  \"columns\": [\n" +
+           lines(columnElements(columns, pSort), 4) + "\n  ],\n";
 }
 
-std::string textOf(const Columns& allColumns)
+// The details alone below the report's header, between the comments that make a group; below them the totals, where
+// there is anything to total.
+std::string sectionsMember(const Columns& columns, const InputColumn* pSort)
 {
-    Columns columns;
-    std::copy_if(allColumns.begin(), allColumns.end(), std::back_inserter(columns), isDatum);
-    const InputColumn* const pSort = sortColumnOf(columns);
     const std::vector<std::string> sums = totals(columns);
-
-    std::string text =
-        "// A list with every column of its data: mekbom report --data DATA --template THIS-FILE prints it.\n"
-        "// Take out columns that you do not need, in \"columns\" and in \"tuples\", and rename others.\n"
-        "{\n"
-        "  \"$schema\": \"mekbom-template.schema.json\", // beside this file it makes editors check it\n"
-        "  // \"title\": \"My list\",\n"
-        "  \"equalLines\": \"keep\", // or \"count\": one line for all rows that read alike\n";
-    text += object("tokens", ownTokens(columns)) + object("tokenUnits", tokenUnits(columns));
-    text += "  // In the order in which they are printed; \"unit\": \"m/2\" or \"width\": 20 say how.\n"
-            "  \"columns\": [\n" +
-            lines(columnElements(columns, pSort), 4) +
-            "\n  ],\n"
-            "  \"sections\": [\n"
-            "    {\n"
-            "      \"type\": \"kReportHeader\",\n"
-            "      \"children\": [\n";
+    std::string text = "  \"sections\": [\n"
+                       "    {\n"
+                       "      \"type\": \"kReportHeader\",\n"
+                       "      \"children\": [\n";
     if (pSort != nullptr)
         text += groupBegin(*pSort);
     text += "        {\n"
@@ -222,6 +227,22 @@ std::string textOf(const Columns& allColumns)
     text += "\n      ]\n    }";
     if (!sums.empty())
         text += ",\n    " + footer("kReportFooter", "Total", sums);
-    return text + "\n  ]\n}\n";
+    return text + "\n  ]\n";
+}
+}
+
+std::string textOf(const Columns& allColumns)
+{
+    Columns columns;
+    std::copy_if(allColumns.begin(), allColumns.end(), std::back_inserter(columns), isDatum);
+    const InputColumn* const pSort = sortColumnOf(columns);
+    return "// A list with every column of its data: mekbom report --data DATA --template THIS-FILE prints it.\n"
+           "// Take out columns that you do not need, in \"columns\" and in \"tuples\", and rename others.\n"
+           "{\n"
+           "  \"$schema\": \"mekbom-template.schema.json\", // beside this file it makes editors check it\n"
+           "  // \"title\": \"My list\",\n"
+           "  \"equalLines\": \"keep\", // or \"count\": one line for all rows that read alike\n" +
+           object("tokens", ownTokens(columns)) + object("tokenUnits", tokenUnits(columns)) +
+           columnsMember(columns, pSort) + sectionsMember(columns, pSort) + "}\n";
 }
 }

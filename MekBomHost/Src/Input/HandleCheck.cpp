@@ -1,6 +1,10 @@
 // A hash table of row numbers is filled once all handles are there, so that it has its size from the beginning. Each
 // row looks at its own place, which no cache holds in a large list; so 64 rows ask for their places first, and look
-// when the memory has come.
+// when the memory has come. Of the handles "2A0", "2A1", "" and "2A0":
+//   row 0   "2A0"   enters 0
+//   row 1   "2A1"   enters 1
+//   row 2   ""      is not looked up: missing is not the same
+//   row 3   "2A0"   meets row 0, and is told with it
 #include "HandleCheck.h"
 
 #include "ByteWord.h"
@@ -21,6 +25,7 @@ namespace
 const std::size_t kMostNamed = 3; // arbitrary: enough to see what they have in common
 const std::size_t kRowsAtOnce = 64;
 
+// A short handle is its own key, a longer one has a hash for it; isSame() compares the texts of either.
 std::uint64_t keyOf(std::string_view handle)
 {
     return handle.size() <= ByteWord::kSize ? ByteWord::of(handle) : ByteWord::hashOf(handle);
@@ -92,6 +97,8 @@ std::vector<Finding> HandleCheck::findings() const
     return findings;
 }
 
+// A handle that stands in three rows makes two repetitions, each of the first row and a later one: the table keeps the
+// row that came first.
 std::vector<HandleCheck::Repetition> HandleCheck::repetitions() const
 {
     std::vector<Repetition> repetitions;
@@ -120,6 +127,8 @@ std::vector<HandleCheck::Repetition> HandleCheck::repetitions() const
     return repetitions;
 }
 
+// One finding for all, since they mostly have one cause: a column that is no handle, or a file that was appended to
+// itself.
 void HandleCheck::addRepeated(std::vector<Finding>& findings) const
 {
     const std::vector<Repetition> all = repetitions();
@@ -135,6 +144,7 @@ void HandleCheck::addRepeated(std::vector<Finding>& findings) const
     findings.push_back(notUnique(text));
 }
 
+// From the last row to the first, so that the one noted last is the first without a handle.
 void HandleCheck::addMissing(std::vector<Finding>& findings) const
 {
     std::size_t numMissing = 0;

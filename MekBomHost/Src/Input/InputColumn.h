@@ -1,4 +1,9 @@
 // One column of a parts list: which datum it carries, of which type, and in which unit its numbers are given.
+//
+//   heading "Length [ft]"    token "%Length", unitSymbol "ft"      known once the header row is read
+//                            type kDoubleData, unit of feet        known once the template is, for a wanted column
+//
+// A value, which PartsList fills in and CellReader reads by.
 #pragma once
 
 #include "VorBomDataValue.h"

@@ -15,6 +15,7 @@
 #include "FindingList.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
+#include "TokenNames.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 
@@ -29,8 +30,6 @@ namespace mekbom
 {
 namespace
 {
-const char* const kHandleToken = "%Handle";
-
 // What is wrong with "--input-unit TOKEN=UNIT".
 [[noreturn]] void failInOption(const std::string& token, const std::string& unit, Finding finding)
 {
@@ -66,6 +65,7 @@ std::set<std::string> wantedTokens(VorBomTemplate& reportTemplate, const std::ve
     return tokens;
 }
 
+// Each formula becomes a tuple of every row when the list is evaluated, so rows get room for them beforehand.
 int numFormulas(VorBomTemplate& reportTemplate)
 {
     int number = 0;
@@ -122,17 +122,20 @@ void PartsList::setRowTotal(const std::string& token)
     pColumn->isRowTotal = true;
 }
 
+// Rows are numbered, or get their one piece, only where the list asks for it: neither is a column of the file, and what
+// nobody wants costs memory in each row.
 PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
 {
     const std::set<std::string> wanted = wantedTokens(reportTemplate, otherTokens);
+    registerKinds(*reportTemplate.getBomTemplateUnits());
     findWantedColumns(wanted);
     resolveColumns(reportTemplate);
     CellReader cells(m_columns, m_source, *reportTemplate.getBomData());
     cells.reserveTuples(numFormulas(reportTemplate));
-    if (find(kHandleToken) == nullptr && wanted.count(kHandleToken) > 0)
-        cells.numberRows(Utf8::toWide(kHandleToken));
-    if (wanted.count(kPiecesToken) > 0)
-        cells.countPieces(Utf8::toWide(kPiecesToken));
+    if (find(TokenNames::kHandle) == nullptr && wanted.count(TokenNames::kHandle) > 0)
+        cells.numberRows(Utf8::toWide(TokenNames::kHandle));
+    if (wanted.count(TokenNames::kPieces) > 0)
+        cells.countPieces(Utf8::toWide(TokenNames::kPieces));
     while (const Record* const pRecord = m_source.next())
         cells.read(*pRecord);
     PartsFacts facts = cells.finish();
@@ -140,6 +143,8 @@ PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector
     return facts;
 }
 
+// Before any row is read, so that the engine shows "Gap [in]" in the reader's units. The catalogue's tokens have their
+// kinds, whatever the unit of the column.
 void PartsList::registerKinds(VorBomTemplateUnits& units) const
 {
     for (const InputColumn& column : m_columns)
@@ -221,8 +226,8 @@ void PartsList::addColumn(const std::string& heading)
     column.token = name.token;
     column.tupleToken = Utf8::toWide(name.token);
     column.unitSymbol = name.unit;
-    column.isHandle = name.token == kHandleToken;
-    column.isPieces = name.token == kPiecesToken;
+    column.isHandle = name.token == TokenNames::kHandle;
+    column.isPieces = name.token == TokenNames::kPieces;
     m_columns.push_back(column);
 }
 
@@ -235,7 +240,7 @@ void PartsList::findWantedColumns(const std::set<std::string>& wantedTokens)
         column.isWanted = wantedTokens.count(column.token) > 0;
         dividesByPieces = dividesByPieces || (column.isWanted && column.isRowTotal);
     }
-    if (InputColumn* const pPieces = dividesByPieces ? findColumn(kPiecesToken) : nullptr)
+    if (InputColumn* const pPieces = dividesByPieces ? findColumn(TokenNames::kPieces) : nullptr)
         pPieces->isWanted = true;
 }
 
@@ -293,6 +298,8 @@ std::string PartsList::whyNumbers(const InputColumn& column, const std::set<std:
     return computed.count(column.token) > 0 ? "the list computes with " + column.token : std::string();
 }
 
+// All kinds have been registered, so a unit whose token has none is one that the template denies. The list would show
+// its numbers as they are in the model, 2286 for 7.5 ft, and name no unit.
 void PartsList::resolveUnit(InputColumn& column, VorBomTemplateUnits::eTokenUnitType kind) const
 {
     if (column.type != VorBomDataValue::kDoubleData)
@@ -300,6 +307,9 @@ void PartsList::resolveUnit(InputColumn& column, VorBomTemplateUnits::eTokenUnit
     column.unit = InputUnits::find(column.unitSymbol, kind);
     if (!column.unit)
         failInUnit(column, FindingCodes::kColumnUnitUnknown, InputUnits::expectation(kind));
+    if (kind == VorBomTemplateUnits::kNoUnit)
+        failInUnit(column, FindingCodes::kColumnUnitUnknown, "none",
+                   "the template says that " + column.token + " has no unit");
     column.takesPlainNumbers = InputUnits::takesPlainNumbers(*column.unit);
     column.isInModelUnit = InputUnits::isOfModel(*column.unit);
     resolveQuantities(column, column.unit);

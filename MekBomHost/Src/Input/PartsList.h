@@ -39,8 +39,6 @@ struct FindingCode;
 class PartsList
 {
 public:
-    static constexpr const char* kPiecesToken = "%Quantity"; // how many pieces a row stands for
-
     // Reads the header row. `source` is not owned and outlives the list.
     explicit PartsList(RecordSource& source);
 
@@ -50,7 +48,7 @@ public:
     const InputColumn* find(const std::string& token) const;
 
     // Tells `units` of what kind the columns are that nobody knows but whose unit says it: "Gap [in]" is a length. What
-    // they know already stays.
+    // they know already stays. readRows() does it, too; whoever asks for kinds before that calls it.
     void registerKinds(VorBomTemplateUnits& units) const;
 
     // Says in which unit a column is given whose header row does not. Throws a Fault of status kWrongUsage when there
@@ -65,7 +63,8 @@ public:
     void setOwnTokens(const std::map<std::string, eOwnToken>& ownTokens) { m_ownTokens = ownTokens; }
 
     // Appends one row for each record to the template's data, and tells what is known of them. Rows carry the data that
-    // the template asks for, whose tokens must have been found already, and those of `otherTokens`. To be called once.
+    // the template asks for, and those of `otherTokens`. The template must have been told its units and have found its
+    // used tokens: what has no kind then is a plain number, and its column may have no unit. To be called once.
     PartsFacts readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens = {});
 
     // What readRows() has found. None of it is an error.

@@ -9,6 +9,7 @@
 #include "FindingCodes.h"
 #include "InQuotes.h"
 #include "NearestWord.h"
+#include "TokenNames.h"
 #include "TokenTable.h"
 #include "Utf8.h"
 
@@ -67,7 +68,7 @@ std::vector<std::pair<const InputColumn*, std::string>> meant(const PartsList& p
 Finding missing(const PartsList& parts, const std::string& source, const std::vector<std::string>& tokens)
 {
     std::string text = source + " has no column for " + joined(tokens, ", ") + ", which the template asks for";
-    if (std::find(tokens.begin(), tokens.end(), PartsList::kPiecesToken) != tokens.end())
+    if (std::find(tokens.begin(), tokens.end(), TokenNames::kPieces) != tokens.end())
         text += "; each row counts as one piece";
     Finding finding = Finding::saying(FindingCodes::kColumnMissing, text);
     finding.source = source;

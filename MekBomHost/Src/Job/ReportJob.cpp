@@ -29,6 +29,7 @@
 #include "TemplateChoice.h"
 #include "TemplateLevels.h"
 #include "TemplateReader.h"
+#include "TokenNames.h"
 #include "UnitChoice.h"
 #include "Utf8.h"
 
@@ -296,7 +297,7 @@ void ReportJob::readRows()
     m_partsFacts = m_pParts->readRows(m_pReport->engineTemplate(), otherTokens);
     m_pReport->facts().areUnitsAssumed = m_pParts->assumesUnits();
     m_pReport->facts().numEmptyRows = m_partsFacts.numEmptyRows;
-    m_pReport->facts().countsRowsAsPieces = m_pParts->find(PartsList::kPiecesToken) == nullptr;
+    m_pReport->facts().countsRowsAsPieces = m_pParts->find(TokenNames::kPieces) == nullptr;
     takeMistakes(m_pParts->findings());
 }
 
@@ -326,7 +327,7 @@ void ReportJob::takeSampleRows()
     VorBomTemplate& reportTemplate = m_pReport->engineTemplate();
     reportTemplate.getBomData()->setChild(pSample->child());
     pSample->setChild(nullptr);
-    const VorString piecesToken = Utf8::toWide(PartsList::kPiecesToken);
+    const VorString piecesToken = TokenNames::kWidePieces;
     if (!reportTemplate.isTokenRequired(piecesToken))
         return;
     for (VorBomItemBase* pRow = reportTemplate.getBomData()->child(); pRow != nullptr; pRow = pRow->next())

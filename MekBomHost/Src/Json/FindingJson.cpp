@@ -8,6 +8,8 @@ namespace
 {
 const int kIndent = 2;
 
+// Members stand in the order of this list, which is that of reading: what, where, and then the words. Programs rely on
+// the names.
 nlohmann::ordered_json objectOf(const Finding& finding)
 {
     return { { "severity", nameOf(finding.severity) },

@@ -79,6 +79,7 @@ std::string JsonChecker::textOf(const JsonItem& object, const std::string& key)
     return isText ? pNode->text : std::string();
 }
 
+// A text of the wrong kind is told by textOf(), once.
 std::string JsonChecker::requiredTextOf(const JsonItem& object, const std::string& key)
 {
     if (!has(object, key))
@@ -121,6 +122,7 @@ int JsonChecker::choiceOf(const JsonItem& object, const std::string& key, const 
     return -1;
 }
 
+// All elements, of whatever kind: each is asked for it on its own, so that one wrong element does not hide the others.
 std::vector<JsonItem> JsonChecker::elementsOf(const JsonItem& object, const std::string& key)
 {
     std::vector<JsonItem> elements;
@@ -141,6 +143,8 @@ bool JsonChecker::isOfKind(const JsonItem& item, JsonNode::eKind kind)
     return false;
 }
 
+// The finding about an unknown key is placed at the key, and its path names the object, since the member is none that
+// there could be.
 bool JsonChecker::isObjectOf(const JsonItem& item, const std::vector<std::string>& keys)
 {
     if (!isOfKind(item, JsonNode::kObject))

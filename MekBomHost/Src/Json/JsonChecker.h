@@ -58,7 +58,7 @@ public:
     void add(const JsonItem& item, const Finding& finding) { addAt(item.node.span, item.path, finding); }
     void addAt(const TextSpan& span, const std::string& path, const Finding& finding);
 
-    // In the order in which they were added.
+    // All findings so far, in the order in which they were added.
     const std::vector<Finding>& findings() const { return m_findings.all(); }
 
     // Throws a Fault of status kInvalidInput with all findings, if there is an error among them.

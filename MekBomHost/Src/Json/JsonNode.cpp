@@ -32,6 +32,7 @@ const JsonNode* JsonNode::find(const std::string& memberKey) const
     return found == children.end() ? nullptr : &*found;
 }
 
+// Texts are quoted and cut, numbers shown; of an array or object that it is one is enough.
 std::string JsonNode::description() const
 {
     switch (kind)

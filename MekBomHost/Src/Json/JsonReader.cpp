@@ -120,6 +120,7 @@ public:
 
     bool parse_error(std::size_t, const std::string&, const nlohmann::json::exception& error) override
     {
+        // The parser has taken the character that it did not expect, unless the text was empty.
         const std::size_t offset = m_numPassed == 0 ? 0 : m_numPassed - 1;
         m_reader.fail(m_reader.spanOf(offset, m_numPassed),
                       Finding::of(FindingCodes::kNoJson, "no valid JSON: " + reasonOf(error.what())));
@@ -172,6 +173,7 @@ private:
         return true;
     }
 
+    // The depth is bounded here because whoever takes the nodes apart, or destroys them, recurses.
     bool open(JsonNode::eKind kind)
     {
         addValue(kind);
@@ -200,6 +202,8 @@ private:
     TextSpan m_keySpan;
 };
 
+// The last two arguments of the parser say that nothing may stand behind the value, and that comments are passed over.
+// It reports to the handler as it goes, and makes no tree of its own.
 JsonNode JsonReader::read()
 {
     requireUtf8();

@@ -6,6 +6,8 @@ namespace
 {
 const char kHexDigits[] = "0123456789abcdef";
 
+// A quote and a backslash have short escapes, other control characters their code: a line feed is \u000a. DEL needs
+// none by the rules of JSON, but a terminal may take it for a command. Bytes beyond ASCII stand as they are.
 std::string escaped(char c)
 {
     if (c == '"' || c == '\\')

@@ -1,3 +1,9 @@
+// A column is asked what it shows once the layout knows it, since a template tells that of no column directly: what
+// stands in it follows from the tuples of all sections. A column of lengths with the label "Cut [m]" and the unit
+// "m/2":
+//   unit      every kind of quantity in the column must have it: lengths have metres
+//   label     the brackets must not name another unit than the numbers are in: they are in metres
+//   result    there is none, and none would be right: %Length is no formula
 #include "ColumnCheck.h"
 
 #include "ColumnUnit.h"
@@ -65,6 +71,7 @@ std::optional<Finding> errorOfLabel(const ReportColumn& column)
     return finding;
 }
 
+// The finding is placed at the column's object as a whole, and its path names the key.
 void add(std::vector<Finding>& findings, Finding finding, const ColumnStyle& style, const char* key)
 {
     finding.begin = style.place.span.begin;
@@ -74,6 +81,7 @@ void add(std::vector<Finding>& findings, Finding finding, const ColumnStyle& sty
 }
 }
 
+// Hidden columns are in no layout, and a column that the template does not describe says nothing that could be wrong.
 std::vector<Finding> errorsOf(const ReportTemplate& reportTemplate, const ReportLayout& layout,
                               const TokenQuantities& quantities)
 {

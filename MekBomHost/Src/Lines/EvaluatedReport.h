@@ -38,7 +38,8 @@ public:
     {
     }
 
-    // The same with a foot, from what was counted meanwhile.
+    // The same with a foot, which is made from what was counted during the evaluation. `facts` are not needed
+    // afterwards.
     EvaluatedReport(const ReportTemplate& reportTemplate, const VorUnitsManager& units, const PackedSections& sections,
                     const ListFacts& facts)
         : EvaluatedReport(reportTemplate, units, sections)
@@ -46,7 +47,7 @@ public:
         m_foot = ListFoot(facts, reportTemplate, m_layout);
     }
 
-    // In UTF-8; empty without one.
+    // The title, in UTF-8; empty for a report without one.
     const std::string& title() const { return m_title; }
 
     // What was left out of the list, by each filter that there is; none where nobody has counted.

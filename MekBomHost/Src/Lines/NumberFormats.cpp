@@ -38,6 +38,8 @@ bool isSum(const VorString& token)
 }
 
 // Goes over all rows: once for each token whose plain numbers are totalled, not for each line.
+// Decimals are those of the shortest text that identifies the double, 12.35 and not 12.3499999999999996, so that a
+// total of prices has as many as the prices have in the file.
 int mostDecimals(const VorBomData& data, const VorString& datum)
 {
     int most = 0;
@@ -61,6 +63,8 @@ public:
     }
 
     // Null where the engine's own way is right.
+    // What measures something and is no double, a whole number of a token that has a kind, is the engine's: it shows
+    // such numbers as they are.
     std::unique_ptr<const VorBomNumberFormat> of(const ShownTuple& tuple)
     {
         if (VorBomDataToken::isInvisibleToken(tuple.token) == 1)
@@ -73,6 +77,8 @@ public:
     }
 
 private:
+    // A quantity needs a format for one of three reasons: its column has a unit or a precision of its own, it wants
+    // blanks between thousands, or its heading names no unit, so that each number must.
     std::unique_ptr<const VorBomNumberFormat> ofQuantity(const ShownTuple& tuple, const UnitKind& kind) const
     {
         const ColumnStyle* const pStyle = tuple.pStyle;

@@ -35,7 +35,7 @@ std::size_t RepeatedTexts::add(const VorString& text, std::size_t slot)
     return number;
 }
 
-// For a text that there is no number for.
+// Notes that a text has no number, and gives the token up once most texts have none.
 std::size_t RepeatedTexts::miss()
 {
     m_trial.countMiss();

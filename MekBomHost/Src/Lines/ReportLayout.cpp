@@ -37,6 +37,7 @@ bool holds(const std::vector<int>& columns, int column)
     return std::find(columns.begin(), columns.end(), column) != columns.end();
 }
 
+// A header "HEA200" and its total "4" read as one line; two numbers in one column, or two labels, would not fit.
 bool canShareLine(const SectionLayout& header, const SectionLayout& footer)
 {
     const auto isShownByFooter = [&footer](int column) { return holds(footer.columns, column); };
@@ -53,6 +54,8 @@ void placeLabel(SectionLayout& section, std::size_t numColumns)
             section.labelColumn = column;
 }
 
+// The type is that of the first tuple, which comes from the outermost header: a column of names with a total below it
+// is one of texts.
 void describeContent(ReportColumn& column, const TokenQuantities& quantities, const ColumnStyle* pStyle,
                      const VorUnitsManager& units)
 {

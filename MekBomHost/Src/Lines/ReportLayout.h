@@ -48,7 +48,7 @@ public:
 
     const std::vector<ReportColumn>& columns() const { return m_columns; }
 
-    // From the report's outermost, level 0, inwards.
+    // The levels of the report, from the outermost, which is level 0, inwards.
     const std::vector<LevelLayout>& levels() const { return m_levels; }
     const SectionLayout& section(SectionPlace place) const;
 

@@ -13,11 +13,14 @@ namespace
 const int kFirstFraction = 1000; // formats from here on are fractions, as VorUnitTransform takes them
 const int kMostDecimals = 9;     // that a format can ask for
 
+// Every unit that a list is shown in is one of the catalogue, so that it is found there by its number.
 const VorUnitDefinition& definitionOf(const MEKUnit& unit)
 {
     return *VorUnitsTransformArray::findUnit(unit.unit());
 }
 
+// "decimals": 0 makes mm without decimals of mm; feet and inches to a sixteenth stay so, since sixteenths are no
+// decimals.
 MEKUnit withDecimals(const MEKUnit& unit, int decimals)
 {
     const bool hasDecimals =
@@ -36,6 +39,8 @@ MEKUnit of(const ColumnStyle* pStyle, const UnitKind& kind, const VorUnitsManage
     return withDecimals(ownOf(*pStyle, kind).value_or(ofList), pStyle->decimals);
 }
 
+// Whether "m/2" is a unit of the kind is tried on units of no report: setUnit() reads it, with its precision, and
+// refuses what is none. A text without a precision gets the one that its unit usually has.
 std::optional<MEKUnit> ownOf(const ColumnStyle& style, const UnitKind& kind)
 {
     VorUnitsManager units;

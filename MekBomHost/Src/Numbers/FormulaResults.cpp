@@ -1,3 +1,10 @@
+// Told on details with "%Formula:%Weight*%Price", whose column says "result": "EUR", and a footer with
+// "%SumBy:%Formula:%Weight*%Price":
+//   declarationsOf()       "%Weight*%Price" -> "EUR", in whatever section the column is that says it
+//   add(), details         a new entry: what FormulaResult makes of formula and declaration, and where it stands
+//   add(), footer          the same formula, which has its entry already
+//   find("%SumBy:...")     the entry of the formula that is summed: label "EUR"
+// So a total is in the unit of the lines above it, be it said there once or not at all.
 #include "FormulaResults.h"
 
 #include "InQuotes.h"
@@ -21,6 +28,8 @@ VorString formulaOf(const VorString& token)
     return VorBomDataToken::removeFormulaPrefix(formula) == 1 ? formula : VorString();
 }
 
+// What "tokenUnits" of the template say of a formula's text. Nothing is derived then: whoever names a formula there
+// knows what it gives.
 FormulaResult ofType(VorBomTemplateUnits::eTokenUnitType type)
 {
     FormulaResult result;
@@ -44,6 +53,7 @@ std::map<std::string, std::string> declarationsOf(const ReportTemplate& reportTe
     return declarations;
 }
 
+// The default template comes without a file, and its tuples have no places.
 TemplatePlace placeOf(const ReportTemplate& reportTemplate, const VorBomItemBase* pSection, int tuple)
 {
     const std::vector<TemplatePlace>& places = reportTemplate.styleOf(pSection).tuplePlaces;
@@ -63,6 +73,7 @@ FormulaResults::FormulaResults(const ReportTemplate& reportTemplate) : m_declare
         }
 }
 
+// Formulas are the same when their texts are, blanks included: so the engine tells them apart, too.
 void FormulaResults::add(const ReportTemplate& reportTemplate, const VorString& formula, const TemplatePlace& place)
 {
     bool isNew = false;
@@ -80,6 +91,9 @@ void FormulaResults::add(const ReportTemplate& reportTemplate, const VorString& 
     m_entries.push_back({ formula, FormulaResult::of(formula, operands, declaredFor(name)), place });
 }
 
+// The catalogue comes first. What it does not know is a number of the user's own, unless the template says that it is a
+// text: a formula would not be computed with texts, so its author means a number. What is no token at all stays
+// unknown.
 FormulaOperand FormulaResults::operandOf(const ReportTemplate& reportTemplate, const VorString& name)
 {
     const FormulaOperand known = FormulaOperand::ofCatalogue(name, *reportTemplate.pTemplate->getBomTemplateUnits());

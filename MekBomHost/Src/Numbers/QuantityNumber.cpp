@@ -5,6 +5,9 @@
 
 namespace mekbom
 {
+// The text is made as the engine makes it, with the settings of the list, so that a column with a unit of its own
+// differs from the others in nothing but the unit. Blanks between thousands go in afterwards, into the first number of
+// the text: of feet and inches, the feet.
 VorString QuantityNumber::textOf(double value) const
 {
     VorString text = m_unit.getVorUnitTransform().formatValue(

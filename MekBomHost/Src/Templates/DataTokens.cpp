@@ -1,5 +1,6 @@
 #include "DataTokens.h"
 
+#include "TokenNames.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
@@ -15,7 +16,8 @@ std::vector<std::string> of(VorBomTemplate& reportTemplate)
     for (const VorString& token : reportTemplate.getTokenTrace())
     {
         const std::string name = Utf8::toBytes(token);
-        if (isDatum(token) && name != "%Handle" && std::find(tokens.begin(), tokens.end(), name) == tokens.end())
+        if (isDatum(token) && name != TokenNames::kHandle &&
+            std::find(tokens.begin(), tokens.end(), name) == tokens.end())
             tokens.push_back(name);
     }
     return tokens;

@@ -48,6 +48,8 @@ const ColumnStyle* ReportTemplate::styleOfTuple(const VorBomItemBase& section, i
     return column.isEmpty() == 1 ? nullptr : columnStyleOf(column);
 }
 
+// Sections hang in the template as the engine wants them: each header has the next inner one for its child, and its
+// footer for its neighbour. Whatever else hangs there is never evaluated.
 std::vector<const VorBomItemBase*> ReportTemplate::evaluatedSections() const
 {
     std::vector<const VorBomItemBase*> sections;
@@ -59,6 +61,8 @@ std::vector<const VorBomItemBase*> ReportTemplate::evaluatedSections() const
     return sections;
 }
 
+// The one answer to what a line shows: layout, packed texts, totals and formats all go by this order, and by the
+// indices of the tuples in it.
 std::vector<int> ReportTemplate::shownTuplesOf(const VorBomItemBase& section) const
 {
     std::vector<int> shown;

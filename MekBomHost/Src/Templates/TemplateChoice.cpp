@@ -25,6 +25,8 @@ struct Cover
     bool isHalf() const { return 2 * numCovered >= numTokens; }
 };
 
+// A candidate whose filter nothing could pass covers nothing, however many of its data there are: a list of bolts is
+// none of parts that happen to have lengths and weights.
 Cover coverOf(const NamedText& file, const std::function<bool(const std::string&)>& hasColumn)
 {
     const ReportTemplate reportTemplate = TemplateReader::read(file.name, file.text);

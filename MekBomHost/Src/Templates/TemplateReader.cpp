@@ -32,6 +32,8 @@ struct Named
     T value;
 };
 
+// What the words of a template file stand for. A section's type is named as the engine's enumerator is, so that files
+// and sources say the same.
 const Named<Section::eTemplateItemType> kSectionTypes[] = {
     { "kReportHeader", Section::kReportHeader }, { "kPageHeader", Section::kPageHeader },
     { "kGroupHeader", Section::kGroupHeader },   { "kDetails", Section::kDetails },
@@ -76,6 +78,8 @@ ReportTemplate TemplateReader::read(const std::string& name, std::string_view te
     return reportTemplate;
 }
 
+// An unknown key is an error and not passed over: with "queryFitler" for "queryFilter" a list would be about all rows,
+// and nobody would know.
 ReportTemplate TemplateReader::build(const JsonNode& root)
 {
     m_template.pTemplate = std::make_unique<VorBomTemplate>();
@@ -104,6 +108,7 @@ ReportTemplate TemplateReader::build(const JsonNode& root)
     return std::move(m_template);
 }
 
+// The engine keeps the text, as it does for any template; the rows are filtered by what RowFilter makes of it.
 void TemplateReader::readQueryFilter(const JsonItem& root)
 {
     const std::string filter = m_json.textOf(root, "queryFilter");
@@ -132,6 +137,8 @@ void TemplateReader::readTokenUnits(const JsonItem& root)
     }
 }
 
+// { "%Price": "number", "%Order": "text" }: types of tokens that the catalogue does not know. Without them a column is
+// what its cells are.
 void TemplateReader::readOwnTokens(const JsonItem& root)
 {
     const JsonNode* const pTokens = root.node.find("tokens");
@@ -141,6 +148,8 @@ void TemplateReader::readOwnTokens(const JsonItem& root)
         readChoice(m_json, { *pTokens, "/tokens" }, member.key, kOwnTokens, m_template.ownTokens[member.key]);
 }
 
+// { "MB105": "the group says it all" }: each excuse needs its reason, and a code that there is. Otherwise a slip in the
+// code would excuse nothing and look as if it did.
 void TemplateReader::readAllowed(const JsonItem& root)
 {
     const JsonNode* const pAllowed = root.node.find("allow");
@@ -164,6 +173,8 @@ void TemplateReader::readColumns(const JsonItem& root)
             readColumn(column);
 }
 
+// A width, a number of decimals and the like that are wrong are findings, and stand here as if they were not written.
+// Two descriptions of one column would leave it open which counts.
 void TemplateReader::readColumn(const JsonItem& column)
 {
     ColumnStyle style;
@@ -194,6 +205,8 @@ void TemplateReader::readSections(const JsonItem& parent, const std::string& key
             readSection(section, parentItem);
 }
 
+// The section belongs to the template as soon as it is added, so that nothing leaks when something below it is wrong.
+// Its style is found by its address, which stays.
 void TemplateReader::readSection(const JsonItem& section, VorBomItemBase& parentItem)
 {
     Section::eTemplateItemType type = Section::kUnkTemplateItemType;
@@ -236,8 +249,8 @@ void TemplateReader::readTuple(const JsonItem& tuple, VorBomItemBase& sectionIte
     }
 }
 
-// Below a level that prints its groups alone nothing is printed; where details say so themselves, they are not. Lines that
-// nobody sees are not merged either: every row belongs to its group, and to the totals.
+// Below a level that prints its groups alone nothing is printed; where details say so themselves, they are not. Lines
+// that nobody sees are not merged either: every row belongs to its group, and to the totals.
 void TemplateReader::summarize()
 {
     bool isBelow = false;
@@ -254,6 +267,7 @@ void TemplateReader::summarize()
         m_template.equalLines = kKeepEqualLines;
 }
 
+// Hiding is all that the engine's sections need: it evaluates them as ever, and their lines are not printed.
 void TemplateReader::hide(const VorBomItemBase* pSection)
 {
     m_template.sectionStyles[pSection].isPrinted = false;

@@ -1,4 +1,5 @@
-// Kinds are not the catalogue's: a template has them as soon as it has its units.
+// The catalogue knows the type and order of each token, but no kinds of quantity: these a template registers as soon as
+// it is told its units. So a template without a section is made for each table, and asked for the kind of %Weight.
 #include "TokenTable.h"
 
 #include "AlignedTable.h"
@@ -48,6 +49,7 @@ std::string kindOf(const Entry& entry, const VorBomTemplateUnits& units)
     return pKind == nullptr ? "" : pKind->name;
 }
 
+// Asked for "weight", the table has %Weight and %AssemblyWeight; so case does not count.
 bool holds(const std::string& name, std::string_view word)
 {
     return std::search(name.begin(), name.end(), word.begin(), word.end(),
@@ -56,6 +58,8 @@ bool holds(const std::string& name, std::string_view word)
 }
 }
 
+// A word that is a whole token is found by the catalogue as well: "%UserAttr17" is in no name, and yet one of those
+// that begin with %UserAttr.
 std::string textOf(std::string_view word)
 {
     VorBomTemplate withUnits;

@@ -1,6 +1,6 @@
 // Blanks are owed rather than written: those that fill up a column wait for a text that stands behind them, so that a
-// row whose last texts are empty ends with its last text. Widths are those on a terminal, where "m²" takes two places and
-// three bytes.
+// row whose last texts are empty ends with its last text. Widths are those on a terminal, where "m²" takes two places
+// and three bytes.
 #include "AlignedTable.h"
 
 #include "Utf8.h"
@@ -36,6 +36,7 @@ std::string AlignedTable::text() const
     return text;
 }
 
+// The headings are a row as any other here: a column is as wide as its heading at least.
 std::vector<int> AlignedTable::widths() const
 {
     std::vector<int> widths(m_rows.front().size());

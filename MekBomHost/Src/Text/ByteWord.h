@@ -1,5 +1,11 @@
 // Up to eight bytes of text as one number, so that short cells are read, compared and told apart without a loop over
 // their bytes, whose end no processor foresees.
+//
+//   ByteWord::of("S355")                 ->  0x35353353: the first byte is the lowest
+//   char bytes[ByteWord::kSize];
+//   ByteWord::write(0x35353353, bytes)   ->  "S355"
+//
+// A text of more bytes has a hash in place of its word, which is the word of no shorter text.
 #pragma once
 
 #include "MekRoots/Exp/VorFibonacciHash.h"

@@ -15,14 +15,19 @@ bool isControl(int codePoint)
 }
 }
 
-std::string inQuotes(std::string_view text, int most)
+std::string harmless(std::string_view text, int most)
 {
-    std::string result = "\"";
+    std::string result;
     for (int n = 0; n < most && !text.empty(); ++n)
     {
         const int codePoint = Utf8::takeCodePoint(text);
         Utf8::appendCodePoint(result, isControl(codePoint) ? '?' : codePoint);
     }
-    return result + (text.empty() ? "\"" : "...\"");
+    return result + (text.empty() ? "" : "...");
+}
+
+std::string inQuotes(std::string_view text, int most)
+{
+    return "\"" + harmless(text, most) + "\"";
 }
 }

@@ -15,4 +15,7 @@ constexpr int kMostQuoted = 60; // characters; arbitrary: leaves room for the re
 // `text`, UTF-8, in double quotes; control characters become '?', and what goes past `most` characters is cut to
 // "...". A byte that is no UTF-8 becomes U+FFFD.
 std::string inQuotes(std::string_view text, int most = kMostQuoted);
+
+// The same without the quotes, for a name that stands in a sentence as one of its words: "shop.ini sets C7_Other".
+std::string harmless(std::string_view text, int most = kMostQuoted);
 }

@@ -91,6 +91,7 @@ std::string_view withoutSign(std::string_view text)
 }
 
 template <class Number>
+// The longer way. from_chars() must have taken the whole text: "12 kg" begins with a number and is none.
 bool readAny(std::string_view text, Number& value)
 {
     text = withoutPlus(withoutBlanks(text));
@@ -152,6 +153,8 @@ std::string_view withoutZeroDecimals(std::string_view text)
 }
 
 // plain := [ sign ] digits [ '.' [ digits ] ] | [ sign ] '.' digits
+// Zeros in front make a text of a number, as "0417" is: they would be gone when it is written again. A lone 0 is fine,
+// "0.5".
 bool isPlain(std::string_view text)
 {
     text = withoutSign(withoutBlanks(text));

@@ -28,6 +28,7 @@ std::string shortestText(Number number, std::chars_format format)
     return std::string(text, end.ptr);
 }
 
+// True for what is no number, too: no comparison with it holds.
 bool hasExponent(double number)
 {
     return !(std::fabs(number) < kFirstWithExponent);
@@ -73,6 +74,7 @@ void cutDecimals(std::string& text, std::size_t point, std::size_t numDecimals)
         raiseLastDigit(text);
 }
 
+// "12.50" becomes "12.5" and "12.00" becomes "12"; "1200" has no decimals to drop.
 void dropZeros(std::string& text)
 {
     if (text.find('.') == std::string::npos)
@@ -82,6 +84,7 @@ void dropZeros(std::string& text)
         text.pop_back();
 }
 
+// "12.5" becomes "12.50" for two decimals, and "12" becomes "12.00".
 void addZeros(std::string& text, std::size_t numDecimals)
 {
     if (numDecimals == 0)
@@ -95,6 +98,7 @@ void addZeros(std::string& text, std::size_t numDecimals)
     text.resize(std::max(text.size(), point + 1 + numDecimals), '0');
 }
 
+// "-0.00" is what -0.001 is rounded to, and reads as if there were less than nothing.
 void dropSignOfZero(std::string& text)
 {
     if (text.front() == '-' && text.find_first_not_of("-0.") == std::string::npos)
@@ -112,6 +116,7 @@ std::string singleText(float number)
     return readableText(number);
 }
 
+// A number with an exponent is not rounded: from 1e15 on a double has no decimals to speak of.
 std::string listedText(double number, const NumberStyle& style)
 {
     if (std::isnan(number))
@@ -132,6 +137,8 @@ std::string listedText(double number, const NumberStyle& style)
     return text;
 }
 
+// Only the digits of the first number up to its point: "1234567.8912" has groups on the left of it alone. From the
+// right, so that the places further left stay where they are.
 void groupThousands(std::string& text)
 {
     const auto first = std::find_if(text.begin(), text.end(), VorCharacters::isDigit<char>);

@@ -1,3 +1,6 @@
+// Asked for bytes 2, 4 and 9 of a text, the counter goes over its first nine bytes once: each answer goes on from the
+// one before. A column is counted up by the bytes that begin a character, so the letter of two bytes in "\u00E4bc" is
+// one.
 #include "TextPlace.h"
 
 #include "Utf8.h"

@@ -35,6 +35,7 @@ bool isAllAscii(std::string_view bytes)
 }
 
 // How many bytes in front are ASCII.
+// Asked first whether all of it is, which it nearly always is, and which is answered many bytes at a time.
 std::size_t asciiLength(std::string_view bytes)
 {
     if (isAllAscii(bytes))
@@ -90,6 +91,7 @@ void appendWide(std::vector<wchar_t>& text, int codePoint)
 }
 }
 
+// From one character beyond ASCII to the next; what is ASCII between them is passed over many bytes at a time.
 std::size_t findInvalid(std::string_view bytes)
 {
     std::size_t pos = asciiLength(bytes);
@@ -116,6 +118,9 @@ std::string_view withoutByteOrderMark(std::string_view bytes)
     return bytes.substr(0, mark.size()) == mark ? bytes.substr(mark.size()) : bytes;
 }
 
+// See the top for the three ways. The word of a text that is too long for it has all high bits set, and so takes one of
+// the others. Of a short text all eight characters are written, zeros behind its end: the loop has no length to wait
+// for.
 VorString toWide(std::string_view bytes)
 {
     wchar_t characters[kMostShort];
@@ -158,6 +163,7 @@ int displayWidth(int codePoint)
     return codePoint < 0x7F ? 1 : utf8proc_charwidth(codePoint);
 }
 
+// ASCII in front, which is nearly always all of a text, has as many columns as bytes.
 int displayWidth(std::string_view bytes)
 {
     const std::size_t numAscii = asciiLength(bytes);
@@ -181,6 +187,7 @@ int takeCodePoint(std::string_view& bytes)
     return length == 0 ? kReplacement : codePoint;
 }
 
+// ASCII, a byte that is its own code point, needs no encoder.
 void appendCodePoint(std::string& bytes, int codePoint)
 {
     if (codePoint < 0x80)

@@ -1,7 +1,9 @@
-// A setting may be made three times, and the last one counts: C40_SuppressZeroFeet is 1 as long as nobody says
-// anything, 0 with the variable of that name in the environment, 1 again with a line of the settings file, and 0 with "
-// --setting C40_SuppressZeroFeet=0". All of them are read, so that a mistake shows even where another one comes over
-// it.
+// A setting may be made three times, and the last one counts:
+//   nobody says anything                           C40_SuppressZeroFeet is 1
+//   a variable of that name in the environment     0
+//   a line of the settings file                    1 again
+//   --setting C40_SuppressZeroFeet=0               0
+// All of them are read, so that a mistake shows even where another one comes over it.
 #include "DisplaySettings.h"
 
 #include "Fault.h"
@@ -25,6 +27,7 @@ struct Setting
     int DisplaySettings::*pNumber;
 };
 
+// A setting that is added to DisplaySettings is added here, too, in the same order; all else follows from the table.
 const Setting kSettings[] = {
     { "C0_BOMSuppressLastZeros", &DisplaySettings::suppressLastZeros },
     { "C40_SuppressZeroFeet", &DisplaySettings::suppressZeroFeet },
@@ -54,10 +57,11 @@ Finding unknown(const std::string& name)
     return finding;
 }
 
+// Only a note: one file of settings may serve several programs, of which this one knows four settings.
 Finding unused(const std::string& name, const std::string& fileName)
 {
-    Finding finding =
-        Finding::saying(FindingCodes::kSettingUnused, fileName + " sets " + name + ", which lists do not use");
+    Finding finding = Finding::saying(FindingCodes::kSettingUnused,
+                                      fileName + " sets " + harmless(name) + ", which lists do not use");
     finding.remedy = NearestWord::question(name, DisplaySettings::names());
     return finding;
 }
@@ -91,7 +95,7 @@ void readFile(const NamedText& file, DisplaySettings& settings, FindingList& fin
         const Setting* const pSetting = findSetting(ini.key());
         int number = 0;
         if (!NumberReader::read(ini.value(), number))
-            ini.fail(noWholeNumber("\"" + ini.value() + "\" for " + ini.key()));
+            ini.fail(noWholeNumber(inQuotes(ini.value()) + " for " + harmless(ini.key())));
         if (pSetting != nullptr)
             settings.*pSetting->pNumber = number;
         else
@@ -99,6 +103,8 @@ void readFile(const NamedText& file, DisplaySettings& settings, FindingList& fin
     }
 }
 
+// A mistake names the option as the user wrote it: "--setting" alone where the name is wrong, with the name where its
+// value is.
 void readOption(const std::string& name, const std::string& value, DisplaySettings& settings)
 {
     const Setting* const pSetting = findSetting(name);
@@ -117,6 +123,7 @@ std::vector<std::string> DisplaySettings::names()
     return names;
 }
 
+// From the farthest to the nearest: what is set for the machine, for the shop, for this one list.
 DisplaySettings DisplaySettings::read(const Origins& origins, FindingList& findings)
 {
     DisplaySettings settings;

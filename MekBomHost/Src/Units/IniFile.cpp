@@ -1,7 +1,13 @@
+// KTIniReader reads wide text and knows no files: this adds what is before and behind it. Of the bytes "length =
+// mm\nabc\n" of "shop.ini":
+//   IniFile()    they are text, and made wide
+//   next()       "length", "mm", in bytes again
+//   next()       throws: shop.ini:2: found "abc", expected a line such as key = value
 #include "IniFile.h"
 
 #include "Fault.h"
 #include "FindingCodes.h"
+#include "InQuotes.h"
 #include "TextCheck.h"
 #include "Utf8.h"
 
@@ -28,7 +34,7 @@ bool IniFile::next()
     if (m_reader.next() == 0)
     {
         if (m_reader.fault().isEmpty() == 0)
-            fail(Finding::of(FindingCodes::kEntryMalformed, "\"" + Utf8::toBytes(m_reader.found()) + "\"",
+            fail(Finding::of(FindingCodes::kEntryMalformed, inQuotes(Utf8::toBytes(m_reader.found())),
                              Utf8::toBytes(m_reader.expected())));
         return false;
     }

@@ -36,6 +36,8 @@ std::optional<MEKUnit> find(const std::string& symbol, Units::eTokenUnitType kin
     return unitOf(*pUnit);
 }
 
+// What nobody names is in the unit that the model keeps: mm, rad, kg, and mm2 for areas. Whether files may leave it out
+// is another question, which PartsList asks.
 std::optional<MEKUnit> ofModel(Units::eTokenUnitType kind)
 {
     const UnitKind* const pKind = UnitKinds::find(kind);
@@ -54,6 +56,7 @@ bool isOfModel(const MEKUnit& unit)
     return Catalogue::findUnit(unit.unit())->isOfModel() == 1;
 }
 
+// "7" in a column of feet and inches may be seven of either, so it is no quantity there.
 bool takesPlainNumbers(const MEKUnit& unit)
 {
     return layoutOf(unit) == VorUnitDefinition::kPlainNumber;

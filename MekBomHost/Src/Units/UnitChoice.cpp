@@ -40,6 +40,7 @@ std::optional<Finding> choose(VorUnitsManager& units, const std::string& kind, c
     return unitUnknown(unit, *pKind);
 }
 
+// All kinds at once; what was chosen before is gone.
 std::optional<Finding> chooseBase(VorUnitsManager& units, const std::string& base)
 {
     if (!isBase(base))
@@ -52,6 +53,7 @@ std::optional<Finding> chooseBase(VorUnitsManager& units, const std::string& bas
     return std::nullopt;
 }
 
+// Whoever passes a word that is no base meant a file, most likely, so the finding offers both.
 VorUnitsManager unitsOfBase(const std::string& base)
 {
     VorUnitsManager units;
@@ -91,6 +93,8 @@ VorUnitsManager withChoices(VorUnitsManager units, const Choices& choices)
 }
 }
 
+// The examples of a precision are of other kinds than most: they show how it is written, while the expectation in front
+// names the units.
 Finding unitUnknown(const std::string& unit, const UnitKind& kind)
 {
     return Finding::of(FindingCodes::kUnitUnknown, inQuotes(unit),
@@ -100,6 +104,7 @@ Finding unitUnknown(const std::string& unit, const UnitKind& kind)
 const char* const kMetric = "metric";
 const char* const kImperial = "imperial";
 
+// Case counts, as in units: "Metric" is asked for as a file, and not found.
 bool isBase(const std::string& word)
 {
     return word == kMetric || word == kImperial;

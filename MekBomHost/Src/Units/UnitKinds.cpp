@@ -24,6 +24,8 @@ const UnitKind* findIf(const Predicate& isWanted)
 const std::array<UnitKind, Systems::kNumSystems>& all()
 {
     static constexpr std::array<UnitKind, Systems::kNumSystems> kKinds = { {
+        // The model keeps areas in mm2, and what is per length or volume per mm. No file gives them so: hence their
+        // usual units.
         { Systems::kDistance, "length", "distance", "a unit of distance such as mm, m, in or ft", "" },
         { Systems::kAngle, "angle", "", "a unit of angle such as rad or deg", "" },
         { Systems::kWeight, "weight", "", "a unit of weight such as kg or lb", "" },
@@ -49,6 +51,7 @@ const UnitKind* find(Units::eTokenUnitType type)
     return findIf([type](const UnitKind& kind) { return Units::unitTypeOf(kind.system) == type; });
 }
 
+// The table is in the order of the systems (see above), so the index of a system is that of its kind.
 const UnitKind* find(Systems::eSystems system)
 {
     const int index = Systems::indexOf(system);

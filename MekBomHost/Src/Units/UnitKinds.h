@@ -30,7 +30,7 @@ struct UnitKind
 
 namespace UnitKinds
 {
-// In the order of VorUnitsTransformArray::kSystems, in which they are also listed to users.
+// All kinds, in the order of VorUnitsTransformArray::kSystems, in which they are also listed to users.
 const std::array<UnitKind, VorUnitsTransformArray::kNumSystems>& all();
 
 // The kind that is called so by either name, taken as written, case included; null when none is.

@@ -10,6 +10,6 @@
 
 namespace mekbom::UnitTable
 {
-// In UTF-8, aligned for a terminal, with a line end behind each line and an explanation below the table.
+// The table in UTF-8, aligned for a terminal, with a line end behind each line and an explanation below.
 std::string text();
 }

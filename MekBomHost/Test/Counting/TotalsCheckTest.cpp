@@ -187,4 +187,10 @@ TEST(TotalsCheckTest, NumbersOfUnlikeSizesAndSignsAreAddedExactly)
 
     EXPECT_EQ("", outcomeOf(kByMaterial, parts).mistake);
 }
+
+// Each number has room in a double, and their sum has not; the compensation of an infinite sum is no number.
+TEST(TotalsCheckTest, ASumThatIsInfiniteOnBothSidesPasses)
+{
+    EXPECT_EQ("", outcomeOf(kByMaterial, "%Name,%Material,%Weight\nA,S355,1e308\nB,S355,1.5e308\nC,S355,2\n").mistake);
+}
 }

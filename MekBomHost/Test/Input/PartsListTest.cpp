@@ -342,6 +342,34 @@ TEST(PartsListTest, AKindOfTheTemplateNeedsAUnitAsOneOfTheCatalogueDoes)
               faultWith("kAreaPerDistanceUnit"));
 }
 
+// Its numbers were printed in mm, below a heading that named no unit.
+TEST(PartsListTest, AUnitThatTheTemplateDeniesIsRefused)
+{
+    const auto faultWith = [](const std::string& heading, const std::string& token)
+    {
+        const std::string text = heading + ",Name\n7.5,x\n";
+        MemorySource source("parts.csv", text);
+        CsvReader records(source);
+        PartsList parts(records);
+        ReportTemplate shown = TemplateReader::read("list.json", R"({ "tokenUnits": { "%Length": "kNoUnit", )"
+                                                                 R"("%Gap": "kNoUnit" }, "sections": [ )"
+                                                                 R"({ "type": "kDetails", "tuples": [ { "token": ")" +
+                                                                     token + "\" } ] } ] }");
+        shown.pTemplate->setUnitsForTokens(nullptr);
+        shown.pTemplate->findUsedTokens();
+        return faultOf([&] { parts.readRows(*shown.pTemplate); });
+    };
+
+    EXPECT_EQ("3 parts.csv:1: column \"Length [ft]\": found unit \"ft\", expected none: the template says that %Length "
+              "has no unit\n",
+              faultWith("Length [ft]", "%Length"));
+    EXPECT_EQ("3 parts.csv:1: column \"Gap [in]\": found unit \"in\", expected none: the template says that %Gap has "
+              "no unit\n",
+              faultWith("Gap [in]", "%Gap"));
+    EXPECT_EQ("", faultWith("Gap [in]", "%Name")) << "nobody wants it";
+    EXPECT_EQ("", faultWith("Gap", "%Gap"));
+}
+
 TEST(PartsListTest, TextsOfTheCatalogueStayAsTheyAreWritten)
 {
     EXPECT_EQ(": [%Name t 1E5] [%Material t 1.10]\n: [%Name t 0012] [%Material t 2]\n",

@@ -209,6 +209,7 @@ TEST_F(RealDataTest, TheOtherFilesAreRead)
         all.pTemplate->addChild(pDetails);
         for (const InputColumn& column : parts.columns())
             pDetails->addData(VorBomDataTuple(column.tupleToken, VorString()));
+        all.pTemplate->setUnitsForTokens(nullptr);
         all.pTemplate->findUsedTokens();
 
         EXPECT_EQ("", faultOf([&] { parts.readRows(*all.pTemplate); })) << name;

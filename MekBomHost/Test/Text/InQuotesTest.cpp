@@ -31,4 +31,11 @@ TEST(InQuotesTest, BrokenCharactersAreReplaced)
 {
     EXPECT_EQ("\"\xEF\xBF\xBD\"", inQuotes("\xC3"));
 }
+
+TEST(InQuotesTest, AWordOfASentenceNeedsNoQuotes)
+{
+    EXPECT_EQ("C7_?[2J", harmless("C7_\x1B[2J"));
+    EXPECT_EQ("xx...", harmless("xxx", 2));
+    EXPECT_EQ("", harmless(""));
+}
 }

@@ -107,6 +107,20 @@ TEST(DisplaySettingsTest, AMalformedFileIsNamedWithItsLine)
     EXPECT_EQ("3 shop.ini:1:3: found byte 0xE4, expected text in UTF-8\n", faultFrom(fromFile("; \xE4")));
 }
 
+// A file from anywhere could have cleared the terminal with its mistakes.
+TEST(DisplaySettingsTest, WhatAFileSaysReachesNoTerminalAsACommand)
+{
+    FindingList findings;
+
+    DisplaySettings::read(fromFile("C7_\x1B[2J=5\n"), findings);
+
+    ASSERT_EQ(1U, findings.all().size());
+    EXPECT_EQ("shop.ini sets C7_?[2J, which lists do not use", messageOf(findings.all()[0]));
+    EXPECT_EQ("3 shop.ini:1: found \"?[2J\" for C7_?[2J, expected a whole number\n",
+              faultFrom(fromFile("C7_\x1B[2J=\x1B[2J")));
+    EXPECT_EQ("3 shop.ini:1: found \"?[2J\", expected a line such as key = value\n", faultFrom(fromFile("\x1B[2J")));
+}
+
 TEST(DisplaySettingsTest, OptionsAreChecked)
 {
     EXPECT_EQ("2 --setting: found \"C40_SupressZeroFeet\", expected one of C0_BOMSuppressLastZeros, "

@@ -24,7 +24,7 @@ std::string timesPieces(const std::string& summed)
     const TokenRequest request = TokenRequest::of(summed);
     const bool isProduct =
         request.kind != TokenRequest::kFormula || request.subject.find_first_of("+-/^(") == std::string::npos;
-    return "%Formula:" + (isProduct ? request.subject : "(" + request.subject + ")") + "*" + KnownTokens::kPieces;
+    return "%Formula:" + (isProduct ? request.subject : "(" + request.subject + ")") + "*" + TokenNames::kPieces;
 }
 }
 
@@ -41,7 +41,7 @@ bool PiecesRule::isOfOnePiece(const CheckedTuple& total, const KnownTokens& toke
 }
 
 PiecesRule::PiecesRule(const CheckedTuple& total, Finding::eSeverity severity)
-    : m_total(total), m_severity(severity), m_pieces(Utf8::toWide(KnownTokens::kPieces))
+    : m_total(total), m_severity(severity), m_pieces(TokenNames::kWidePieces)
 {
     for (const std::string& token : dataTokensOf(total.request))
         m_summed.emplace_back(Utf8::toWide(token));

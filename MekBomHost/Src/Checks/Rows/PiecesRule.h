@@ -14,6 +14,7 @@
 #include "DatumFinder.h"
 #include "KnownTokens.h"
 #include "RowRule.h"
+#include "TokenNames.h"
 
 #include <string>
 #include <vector>

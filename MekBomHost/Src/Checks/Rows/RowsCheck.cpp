@@ -19,8 +19,8 @@
 #include "PlainOrderRule.h"
 #include "RowOriginRule.h"
 #include "RowRule.h"
+#include "TokenNames.h"
 #include "TokenRules.h"
-#include "Utf8.h"
 #include "VaryingRule.h"
 #include "WholeNumberRule.h"
 
@@ -99,7 +99,7 @@ std::vector<VorString> neededTokens(const ReportTemplate& reportTemplate, const 
 {
     const CheckedTemplate list(reportTemplate);
     return totalsOfPieces(list, tokens).empty() ? std::vector<VorString>()
-                                                : std::vector<VorString>{ Utf8::toWide(KnownTokens::kPieces) };
+                                                : std::vector<VorString>{ TokenNames::kWidePieces };
 }
 
 std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens& tokens, const VorBomData& data)
