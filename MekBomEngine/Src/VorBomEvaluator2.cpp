@@ -111,7 +111,7 @@ int VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineS
     // From here on a sink may stop the report or throw while groups are open.
     const SectionsInProgress sectionsInProgress(stack);
     VorBomTemplateUnits* pUnits = reportTemplate.getBomTemplateUnits();
-    VorBomRowsAhead ahead(pData->child());
+    VorBomRowsAhead ahead(pData->child(), stack[0].m_pPlan->positions());
     int numRowsDone = 0;
     for (VorBomItemBase* pRow = pData->child(); pRow != nullptr; pRow = pRow->next())
     {

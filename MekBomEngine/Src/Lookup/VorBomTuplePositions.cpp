@@ -46,21 +46,28 @@ const int* VorBomTuplePositions::lookAt(const VorBomItemBase& row)
     }
     if (!hasGrown)
         latest.positions.assign(static_cast<std::size_t>(m_nNumNumbers), kNone);
-    int* const pPositions = latest.positions.data();
-    for (int i = numKnown; i < tuples.length(); ++i)
-    {
-        const int number = numberOf(tuples.begin()[i].token().token());
-        if (number != kNotAsked && pPositions[number] == kNone) // a later tuple with the same token is not found
-            pPositions[number] = i;
-    }
+    findFrom(numKnown, tuples, latest.positions.data());
     if (!hasGrown)
         keepAsPattern(tuples, latest.positions);
-    return pPositions;
+    return latest.positions.data();
+}
+
+// Of equal tokens the first tuple is found.
+void VorBomTuplePositions::findFrom(int first, const VorBomDataTupleArray& tuples, int* pPositions)
+{
+    const VorBomDataTuple* const pTuples = tuples.begin();
+    const int numTuples = tuples.length();
+    for (int i = first; i < numTuples; ++i)
+    {
+        const int number = numberOf(pTuples[i].token().token());
+        if (number != kNotAsked && pPositions[number] == kNone)
+            pPositions[number] = i;
+    }
 }
 
 bool VorBomTuplePositions::hasPattern(const VorBomDataTupleArray& tuples) const
 {
-    return static_cast<std::size_t>(tuples.length()) == m_patternTexts.size() &&
+    return !m_patternTexts.empty() && static_cast<std::size_t>(tuples.length()) == m_patternTexts.size() &&
            std::equal(tuples.begin(), tuples.end(), m_patternTexts.begin(),
                       [](const VorBomDataTuple& tuple, const void* pText)
                       { return tuple.token().token().memory() == pText; });
@@ -69,27 +76,33 @@ bool VorBomTuplePositions::hasPattern(const VorBomDataTupleArray& tuples) const
 // Only of texts that are all known, which are kept: at the address of another a new text may come to lie.
 void VorBomTuplePositions::keepAsPattern(const VorBomDataTupleArray& tuples, const std::vector<int>& positions)
 {
-    m_patternTexts.clear();
     m_patternPositions = positions;
-    if (m_nNumKnown == kMostKnown)
-        return;
-    for (const VorBomDataTuple& tuple : tuples)
-        m_patternTexts.push_back(tuple.token().token().memory());
+    m_patternTexts.resize(m_nNumKnown < kMostKnown ? static_cast<std::size_t>(tuples.length()) : 0);
+    std::transform(tuples.begin(), tuples.begin() + m_patternTexts.size(), m_patternTexts.begin(),
+                   [](const VorBomDataTuple& tuple) { return tuple.token().token().memory(); });
 }
 
-inline std::size_t VorBomTuplePositions::placeFor(const VorString& token) const
+inline std::size_t VorBomTuplePositions::firstPlaceFor(const VorString& token) const
 {
-    const auto address = reinterpret_cast<std::uintptr_t>(token.memory());
-    std::size_t place = VorFibonacciHash::placeOf(address, m_nKnownBits);
+    return VorFibonacciHash::placeOf(reinterpret_cast<std::uintptr_t>(token.memory()), m_nKnownBits);
+}
+
+// Nearly every text is found at its first place, in few instructions: wide rows have many that nobody asks for.
+inline int VorBomTuplePositions::numberOf(const VorString& token)
+{
+    const Known& known = m_known.data()[firstPlaceFor(token)];
+    if (known.text.sharesTextWith(token) && known.number != kFree)
+        return known.number;
+    const int number = m_known[placeFor(token)].number;
+    return number != kFree ? number : learn(token);
+}
+
+std::size_t VorBomTuplePositions::placeFor(const VorString& token) const
+{
+    std::size_t place = firstPlaceFor(token);
     while (m_known[place].number != kFree && !m_known[place].text.sharesTextWith(token))
         place = (place + 1) % m_known.size();
     return place;
-}
-
-inline int VorBomTuplePositions::numberOf(const VorString& token)
-{
-    const int number = m_known[placeFor(token)].number;
-    return number != kFree ? number : learn(token);
 }
 
 int VorBomTuplePositions::learn(const VorString& token)

@@ -43,6 +43,9 @@ public:
         return lookAt(row);
     }
 
+    // The positions of a row met lately: a guess at those of rows that come, before these are looked at.
+    const std::vector<int>& usual() const { return m_patternPositions; }
+
 private:
     // The text of a token met in a row, kept so that its address stays its own; free while the number is kFree.
     struct Known
@@ -63,10 +66,12 @@ private:
     static constexpr std::size_t kMostKnown = 4096;
 
     const int* lookAt(const VorBomItemBase& row);
+    void findFrom(int first, const VorBomDataTupleArray& tuples, int* pPositions);
     bool hasPattern(const VorBomDataTupleArray& tuples) const;
     void keepAsPattern(const VorBomDataTupleArray& tuples, const std::vector<int>& positions);
     int numberOf(const VorString& token);
     int learn(const VorString& token);
+    std::size_t firstPlaceFor(const VorString& token) const;
     std::size_t placeFor(const VorString& token) const;
     void growKnown();
 

@@ -77,8 +77,8 @@ void defineRowVariables(ExpressionsEvaluator& evaluator, const VorBomDataRow* pR
 
 // Compiled from the very text that computeOnce() reads, so that both have the same names. One that is no token, such as
 // "Factor", is a variable of the section alone: rows are not asked for it, though they may have a tuple of that name.
-VorBomFormulaColumn::VorBomFormulaColumn(std::shared_ptr<VorBomTuplePositions> pPositions, const VorBomDataTupleArray& tuples,
-                                         int index)
+VorBomFormulaColumn::VorBomFormulaColumn(std::shared_ptr<VorBomTuplePositions> pPositions,
+                                         const VorBomDataTupleArray& tuples, int index)
     : m_nIndex(index),
       m_formula(formulaOf(tuples[index])),
       m_compiled(m_formula.getStringW(), m_formula.length()),

@@ -54,7 +54,8 @@ VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum,
 
 // Formulas are no columns to be looked up: a row of an earlier report carries the result of that under the formula's
 // token, and what must stand in the section until the formula is computed is the template's value.
-VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomTuplePositions>& pPositions, const VorBomTemplateItem& section)
+VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomTuplePositions>& pPositions,
+                                   const VorBomTemplateItem& section)
     : m_section(section), m_columns(pPositions, tokensOf(section.getData())), m_display(section.getData())
 {
     const VorBomDataTupleArray& tuples = section.getData();

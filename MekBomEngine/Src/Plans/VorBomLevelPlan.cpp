@@ -14,6 +14,7 @@ std::vector<VorString> toVector(const VorStringArray& texts)
 VorBomLevelPlan::VorBomLevelPlan(const std::shared_ptr<VorBomTuplePositions>& pPositions,
                                  const VorBomTemplateItem& headerSection, const VorBomTemplateItem* pFooterSection)
     : header(pPositions, headerSection),
+      m_pPositions(pPositions),
       m_grouping(pPositions, toVector(headerSection.groupingTokens())),
       m_groupingOfLast(pPositions, toVector(headerSection.groupingTokens()))
 {

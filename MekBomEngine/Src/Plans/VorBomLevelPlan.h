@@ -27,10 +27,14 @@ public:
     // Lets both sections keep their values when they are shown, from now on.
     void keepValues();
 
+    // Where rows have what all plans of the evaluation ask for.
+    const VorBomTuplePositions& positions() const { return *m_pPositions; }
+
     VorBomHeaderPlan header;
     std::optional<VorBomFooterPlan> footer;
 
 private:
+    std::shared_ptr<VorBomTuplePositions> m_pPositions;
     VorBomColumns m_grouping;
     VorBomColumns m_groupingOfLast; // of the same tokens: an object knows one row at a time
 };

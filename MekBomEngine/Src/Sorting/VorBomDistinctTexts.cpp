@@ -7,13 +7,18 @@
 
 namespace
 {
-// FNV-1a over the characters, its upper half mixed into the lower.
+// FNV-1a over pairs of characters, its upper half mixed into the lower.
 std::uint32_t hashOf(const VorString& text)
 {
     std::uint64_t hash = 14695981039346656037U;
     const wchar_t* pCharacter = text.getStringW();
-    for (int i = text.length(); i > 0; --i)
-        hash = (hash ^ static_cast<std::uint32_t>(*pCharacter++)) * 1099511628211U;
+    const wchar_t* const pEnd = pCharacter + text.length();
+    for (; pEnd - pCharacter >= 2; pCharacter += 2)
+        hash = (hash ^ static_cast<std::uint32_t>(pCharacter[0]) ^
+                static_cast<std::uint64_t>(static_cast<std::uint32_t>(pCharacter[1])) << 32) *
+               1099511628211U;
+    if (pCharacter != pEnd)
+        hash = (hash ^ static_cast<std::uint32_t>(*pCharacter)) * 1099511628211U;
     return static_cast<std::uint32_t>(hash ^ (hash >> 32));
 }
 }

@@ -10,13 +10,13 @@
 #include "VorBomRanks.h"
 
 #include "VorBomDistinctTexts.h"
+#include "VorBomTextKeys.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <numeric>
 #include <utility>
 
 namespace
@@ -145,6 +145,31 @@ NumbersOfRows<Number> sortedNumbers(const std::vector<const VorBomDataTuple*>& t
     return numbers;
 }
 
+// The indices of different texts in their order.
+std::vector<std::uint32_t> inOrder(const std::vector<const VorString*>& texts, bool naturally)
+{
+    struct KeyedText
+    {
+        std::uint64_t key;
+        std::uint32_t index;
+    };
+    const VorBomTextKeys keys(texts, naturally);
+    std::vector<KeyedText> sorted;
+    sorted.reserve(texts.size());
+    for (const VorString* pText : texts)
+        sorted.push_back({ keys.of(*pText), static_cast<std::uint32_t>(sorted.size()) });
+    const auto compare = naturally ? &VorString::compareWithNumbers
+                                   : static_cast<int (*)(const VorString&, const VorString&)>(&VorString::compare);
+    std::sort(sorted.begin(), sorted.end(),
+              [&](const KeyedText& a, const KeyedText& b)
+              { return a.key != b.key ? a.key < b.key : compare(*texts[a.index], *texts[b.index]) < 0; });
+
+    std::vector<std::uint32_t> order;
+    order.reserve(sorted.size());
+    for (const KeyedText& text : sorted)
+        order.push_back(text.index);
+    return order;
+}
 }
 
 VorBomRanks::VorBomRanks(const std::vector<const VorBomDataTuple*>& tuples, VorBomDataToken::eSortType sortType)
@@ -191,16 +216,9 @@ void VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, b
             m_ranks[row] = distinct.indexOf(textOf(*tuples[row]));
     const std::vector<const VorString*>& texts = distinct.texts();
 
-    const auto compare = naturally ? &VorString::compareWithNumbers
-                                   : static_cast<int (*)(const VorString&, const VorString&)>(&VorString::compare);
-    std::vector<std::uint32_t> order(texts.size());
-    std::iota(order.begin(), order.end(), 0U);
-    std::sort(order.begin(), order.end(),
-              [&](std::uint32_t a, std::uint32_t b) { return compare(*texts[a], *texts[b]) < 0; });
     std::vector<std::uint32_t> rankOfText(texts.size());
-    for (const std::uint32_t text : order)
+    for (const std::uint32_t text : inOrder(texts, naturally))
         rankOfText[text] = m_nNumRanks++;
-
     for (std::size_t row = 0; row < tuples.size(); ++row)
         if (!isMissing(tuples[row]))
             m_ranks[row] = rankOfText[m_ranks[row]];

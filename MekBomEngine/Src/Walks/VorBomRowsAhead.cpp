@@ -12,6 +12,7 @@
 #include "MekRoots/Exp/VorMemoryHint.h"
 
 #include <cstddef>
+#include <vector>
 
 namespace
 {
@@ -26,13 +27,15 @@ inline void bringIn(const void* pMemory, std::size_t size)
     VorMemoryHint::willRead(pLine + size - 1); // what begins within a line ends in one more
 }
 
-void bringInNext(const VorBomItemBase& row)
+using Positions = std::vector<int>;
+
+void bringInNext(const VorBomItemBase& row, const Positions&)
 {
     if (row.next() != nullptr)
         bringIn(row.next(), sizeof(VorBomDataRow));
 }
 
-void bringInTuples(const VorBomItemBase& row)
+void bringInTuples(const VorBomItemBase& row, const Positions&)
 {
     const VorBomDataTupleArray& tuples = row.getData();
     constexpr int kNumAppended = 1; // for a formula, mostly
@@ -40,30 +43,41 @@ void bringInTuples(const VorBomItemBase& row)
         bringIn(tuples.begin(), static_cast<std::size_t>(tuples.length() + kNumAppended) * sizeof(VorBomDataTuple));
 }
 
-void bringInPayloads(const VorBomItemBase& row)
+// Visits the values that the row has at `positions`, some of which are VorBomTuplePositions::kNone.
+template <class Visit>
+void forValuesAt(const Positions& positions, const VorBomItemBase& row, Visit visit)
 {
-    for (const VorBomDataTuple& tuple : row.getData())
-        VorMemoryHint::willRead(tuple.value().data());
+    const VorBomDataTupleArray& tuples = row.getData();
+    for (const int position : positions)
+        if (position >= 0 && position < tuples.length())
+            visit(tuples.begin()[position].value());
+}
+
+void bringInPayloads(const VorBomItemBase& row, const Positions& positions)
+{
+    forValuesAt(positions, row, [](const VorBomDataValue& value) { VorMemoryHint::willRead(value.data()); });
 }
 
 // Bytes of a text of some ten characters with what stands before them.
 constexpr std::size_t kShortText = 56;
 
-void bringInTexts(const VorBomItemBase& row)
+void bringInText(const VorBomDataValue& value)
 {
-    for (const VorBomDataTuple& tuple : row.getData())
-    {
-        if (tuple.value().type() != VorBomDataValue::kStringData)
-            continue;
-        if (const void* pMemory = static_cast<const VorString*>(tuple.value().data())->memory())
-            bringIn(pMemory, kShortText);
-    }
+    if (value.type() != VorBomDataValue::kStringData)
+        return;
+    if (const void* pMemory = static_cast<const VorString*>(value.data())->memory())
+        bringIn(pMemory, kShortText);
+}
+
+void bringInTexts(const VorBomItemBase& row, const Positions& positions)
+{
+    forValuesAt(positions, row, bringInText);
 }
 }
 
 // The foremost step stands four rows ahead. The first rows are met with less help or none, which a long list
 // does not feel.
-VorBomRowsAhead::VorBomRowsAhead(VorBomItemBase* pFirst)
+VorBomRowsAhead::VorBomRowsAhead(VorBomItemBase* pFirst, const VorBomTuplePositions& positions) : m_positions(positions)
 {
     VorBomItemBase* pRow = pFirst;
     for (int step = kNumSteps; step-- > 0;)
@@ -76,13 +90,13 @@ VorBomRowsAhead::VorBomRowsAhead(VorBomItemBase* pFirst)
 
 void VorBomRowsAhead::advance()
 {
-    using Step = void (*)(const VorBomItemBase& row);
+    using Step = void (*)(const VorBomItemBase& row, const Positions& positions);
     static constexpr Step kSteps[kNumSteps] = { bringInNext, bringInTuples, bringInPayloads, bringInTexts };
     for (int step = 0; step < kNumSteps; ++step)
     {
         if (m_pRows[step] == nullptr)
             continue;
-        kSteps[step](*m_pRows[step]);
+        kSteps[step](*m_pRows[step], m_positions.usual());
         m_pRows[step] = m_pRows[step]->next();
     }
 }

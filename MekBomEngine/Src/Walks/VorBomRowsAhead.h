@@ -2,16 +2,18 @@
 // is four steps away: the row, its tuples, their payloads, the texts these refer to. A row takes one step at a time,
 // while the rows before it are evaluated, so that no step waits for memory.
 //
-//   VorBomRowsAhead ahead(data.child());
+//   VorBomRowsAhead ahead(data.child(), positions);
 //   for (row = data.child(); row; row = row->next()) { ahead.advance(); evaluate(row); }
 #pragma once
 
 #include "VorBomItemBase.h"
+#include "VorBomTuplePositions.h"
 
 class VorBomRowsAhead
 {
 public:
-    explicit VorBomRowsAhead(VorBomItemBase* pFirst);
+    // Payloads and texts are fetched where rows usually have what `positions` are asked for. It is not owned.
+    VorBomRowsAhead(VorBomItemBase* pFirst, const VorBomTuplePositions& positions);
 
     // Call it once for each row, before the row is looked at.
     void advance();
@@ -19,5 +21,6 @@ public:
 private:
     static constexpr int kNumSteps = 4;
 
+    const VorBomTuplePositions& m_positions;
     VorBomItemBase* m_pRows[kNumSteps]; // the rows that take each step next, the foremost first; null past the end
 };

@@ -6,6 +6,25 @@
 
 #include <memory>
 
+namespace
+{
+// Positions in rows of so many tuples, be they more or fewer than those of the rows to come; 0 for those of no row.
+VorBomTuplePositions usedPositions(int numTuples)
+{
+    const wchar_t* const kTokens[] = { L"%Name", L"%Weight", L"%Role", L"%Length" };
+    VorBomTuplePositions positions;
+    VorBomDataRow row;
+    for (int i = 0; i < numTuples; ++i)
+    {
+        positions.ask(kTokens[i]);
+        row.addData(VorBomDataTuple(VorString(kTokens[i]), 0));
+    }
+    if (numTuples > 0)
+        positions.in(row);
+    return positions;
+}
+}
+
 TEST(VorBomRowsAheadTest, ListsOfAnyLengthAreWalkedToTheirEnd)
 {
     for (int numRows = 0; numRows < 12; ++numRows)
@@ -14,7 +33,8 @@ TEST(VorBomRowsAheadTest, ListsOfAnyLengthAreWalkedToTheirEnd)
         BomTree<VorBomData> data;
         for (int i = 0; i < numRows; ++i)
             data.addChild(newRow({ tuple(L"%Name", L"HEA200"), tuple(L"%Weight", 2.5), tuple(L"%Role", NoValue()) }));
-        VorBomRowsAhead ahead(data.child());
+        VorBomTuplePositions positions = usedPositions(numRows % 5);
+        VorBomRowsAhead ahead(data.child(), positions);
         for (int i = 0; i < numRows; ++i)
             ahead.advance();
 
@@ -27,7 +47,8 @@ TEST(VorBomRowsAheadTest, RowsMayGoOnceTheyWerePassed)
     BomTree<VorBomData> data;
     for (int i = 0; i < 10; ++i)
         data.addChild(newRow({ tuple(L"%Weight", 2.5) }));
-    VorBomRowsAhead ahead(data.child());
+    VorBomTuplePositions positions = usedPositions(1);
+    VorBomRowsAhead ahead(data.child(), positions);
     while (data.child() != nullptr)
     {
         ahead.advance();

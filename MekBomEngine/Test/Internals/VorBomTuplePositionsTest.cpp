@@ -133,6 +133,8 @@ TEST(VorBomTuplePositionsTest, TokensInAnyNumberOfTextsAreFound)
         for (int i = 0; i < 100; ++i)
             ASSERT_EQ(199 - i, pPositions[numbers[static_cast<std::size_t>(i)]]);
     }
+    const VorBomDataRow empty;
+    EXPECT_EQ(kNone, positions.in(empty)[numbers[0]]);
 }
 
 TEST(VorBomTuplePositionsTest, RandomRowsThatComeGrowAndGoAreReadAsLookingUpEachTokenDoes)

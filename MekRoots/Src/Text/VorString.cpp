@@ -43,10 +43,8 @@ int findCharacters(const VorString& text, const wchar_t* pWanted, int wantedLeng
 int compareCharacters(const wchar_t* pFirst, int firstLength, const wchar_t* pSecond, int secondLength)
 {
     const int shared = std::min(firstLength, secondLength);
-    for (int i = 0; i < shared; ++i)
-        if (pFirst[i] != pSecond[i])
-            return sign(pFirst[i], pSecond[i]);
-    return sign(firstLength, secondLength);
+    const int order = std::wmemcmp(pFirst, pSecond, static_cast<std::size_t>(shared));
+    return order != 0 ? sign(order, 0) : sign(firstLength, secondLength);
 }
 
 // A run of digits without its leading zeros, and where it ends: of "B007-2" the run at 1 is "7" and ends at the minus.
