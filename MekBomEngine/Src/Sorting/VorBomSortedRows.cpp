@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <memory>
 #include <numeric>
-#include <utility>
 
 VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorBomSortKeys& keys)
     : m_keys(keys), m_columns(m_keys.count())
@@ -24,7 +23,7 @@ VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorBomSortKeys& keys)
     for (Column& column : m_columns)
         column.resize(m_rows.size());
     // The pointers outlive `columns`: they hold as long as no row gets a tuple, and none does while rows are sorted.
-    VorBomColumns columns(std::make_shared<VorBomTuplePositions>(), std::move(tokens));
+    VorBomColumns columns(std::make_shared<VorBomTuplePositions>(), tokens);
     for (std::size_t row = 0; row < m_rows.size(); ++row)
     {
         columns.find(*m_rows[row]);
