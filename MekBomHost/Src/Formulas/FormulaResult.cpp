@@ -26,7 +26,6 @@ namespace mekbom
 {
 namespace
 {
-const char* const kDeclaredPlain = "none";
 const char* const kRemedy = "say what it gives in the column, \"result\": a kind such as \"weight\", \"none\", or a "
                             "label of its own such as \"EUR\"";
 
@@ -232,7 +231,7 @@ std::string remedyOfHiddenUnit(const Term& result)
     const VorUnitDefinition* const pUnit = result.factors.givenUnitOf(result.dimension);
     return "take the constant out: lists show the number in the reader's unit; or give it a label of its own in the "
            "column, \"result\": " +
-           inQuotes(pUnit == nullptr ? kDeclaredPlain : Utf8::toBytes(pUnit->asciiSymbol));
+           inQuotes(pUnit == nullptr ? FormulaResult::kDeclaredPlain : Utf8::toBytes(pUnit->asciiSymbol));
 }
 
 // The tokens give the declared kind, but not the number.

@@ -48,6 +48,13 @@ const ColumnStyle* ReportTemplate::styleOfTuple(const VorBomItemBase& section, i
     return column.isEmpty() == 1 ? nullptr : columnStyleOf(column);
 }
 
+TemplatePlace ReportTemplate::placeOfTuple(const VorBomItemBase& section, int tupleIndex) const
+{
+    const SectionStyle& style = styleOf(&section);
+    const auto index = static_cast<std::size_t>(tupleIndex);
+    return index < style.tuplePlaces.size() ? style.tuplePlaces[index] : style.place;
+}
+
 std::vector<const VorBomItemBase*> ReportTemplate::evaluatedSections() const
 {
     std::vector<const VorBomItemBase*> sections;

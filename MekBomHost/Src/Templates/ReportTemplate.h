@@ -120,6 +120,9 @@ struct ReportTemplate
     // The same for one of a section's tuples; null for one that steers the evaluation, too.
     const ColumnStyle* styleOfTuple(const VorBomItemBase& section, int tupleIndex) const;
 
+    // Where one of a section's tuples stands in the file; an empty place in a template without a file.
+    TemplatePlace placeOfTuple(const VorBomItemBase& section, int tupleIndex) const;
+
     // The sections that are evaluated, as those of one group come: headers from the outside in, then footers from the
     // inside out.
     std::vector<const VorBomItemBase*> evaluatedSections() const;
