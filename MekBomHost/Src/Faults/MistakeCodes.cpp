@@ -76,6 +76,7 @@ const std::vector<FindingCode>& all()
     };
     return codes;
 }
+        kNoNumberLeft,
 
 bool has(std::string_view code)
 {

@@ -165,3 +165,5 @@ const std::vector<FindingCode>& all();
 //   MistakeCodes::has("MB805")   ->  false
 bool has(std::string_view code);
 }
+inline constexpr FindingCode kNoNumberLeft = { "MB607", Finding::kError,
+                                               "A total or the result of a formula is too large to be a number." };

@@ -3,6 +3,7 @@
 //   RowTally      counts rows: those that are listed and those that are merged
 //   TotalsCheck   adds up every total a second time, if that is wanted
 //   EqualLines    makes one line of those that read alike, if the template says "count"
+//   OverflowCheck looks for numbers that have become none
 //   PackedSections, which keeps what is printed
 #include "Report.h"
 
@@ -10,6 +11,7 @@
 #include "EqualLines.h"
 #include "Fault.h"
 #include "FormulaResults.h"
+#include "OverflowCheck.h"
 #include "RowTally.h"
 #include "TokenQuantities.h"
 #include "TotalsCheck.h"
@@ -89,7 +91,8 @@ void Report::evaluateRows()
 {
     std::optional<EqualLines> equalLines;
     std::optional<TotalsCheck> check;
-    VorBomSectionSink* pSink = &m_sections;
+    OverflowCheck overflows(m_template, m_sections);
+    VorBomSectionSink* pSink = &overflows;
     if (m_template.equalLines == kCountEqualLines)
         pSink = &equalLines.emplace(m_template, *pSink);
     if (m_checksTotals)
@@ -102,6 +105,7 @@ void Report::evaluateRows()
         m_facts.numRowsInOtherLines = equalLines->numRowsAdded();
     }
     m_facts.rows = tally.counts();
+    m_mistakes = overflows.findings();
 }
 
 void Report::checkRows() const

@@ -139,8 +139,7 @@ ExitStatus ReportJob::makeReport()
         return statusOfErrors();
     if (m_request.checksTotals)
         m_pReport->checkTotals();
-    m_pReport->evaluate();
-    checkLostTotals();
+    evaluate();
     m_pReport->facts().numWarnings = m_findings.numWarnings();
     return m_findings.numErrors() > 0 ? kMistakes : kDone;
 }
@@ -156,11 +155,15 @@ ExitStatus ReportJob::checkReport()
         checkRows();
     }
     if (hasRows() && m_findings.numErrors() == 0)
-    {
-        m_pReport->evaluate();
-        checkLostTotals();
-    }
+        evaluate();
     return m_findings.numErrors() > 0 ? statusOfErrors() : kDone;
+}
+
+void ReportJob::evaluate()
+{
+    m_pReport->evaluate();
+    takeMistakes(m_pReport->mistakes());
+    checkLostTotals();
 }
 
 // What only the author of the list can mend is another thing than a file that cannot be read.
