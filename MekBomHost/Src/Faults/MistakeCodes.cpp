@@ -16,6 +16,7 @@ const std::vector<FindingCode>& all()
         kSectionBelowDetails,
         kChildrenOfFooter,
         kFooterBesideDetails,
+        kRoundedAlike,
         kGroupNotSorted,
         kRequestWithoutPercent,
         kGroupingWithoutEffect,

@@ -36,6 +36,9 @@ inline constexpr FindingCode kChildrenOfFooter = { "MB108", Finding::kWarning,
 inline constexpr FindingCode kFooterBesideDetails = {
     "MB109", Finding::kWarning, "A footer stands beside the details, and is printed after every row."
 };
+inline constexpr FindingCode kRoundedAlike = {
+    "MB110", Finding::kWarning, "Lines that are counted as one read alike only because their numbers are rounded."
+};
 inline constexpr FindingCode kGroupNotSorted = {
     "MB201", Finding::kError, "A list is grouped by what it is not sorted by, so that groups split."
 };

@@ -106,6 +106,8 @@ void Report::evaluateRows()
     }
     m_facts.rows = tally.counts();
     m_mistakes = overflows.findings();
+    if (equalLines)
+        m_mistakes.insert(m_mistakes.end(), equalLines->findings().begin(), equalLines->findings().end());
 }
 
 void Report::checkRows() const
