@@ -31,6 +31,7 @@ const std::vector<FindingCode>& all()
         kMarksNearlyEqual,
         kGroupedTwice,
         kFilterWithoutEffect,
+        kTextsDifferInBlanks,
         kSumOutsideFooter,
         kSumOfTexts,
         kSumOfList,

@@ -68,6 +68,9 @@ inline constexpr FindingCode kGroupedTwice = { "MB213", Finding::kWarning,
                                                "Two levels are grouped by the same token." };
 inline constexpr FindingCode kFilterWithoutEffect = { "MB214", Finding::kWarning,
                                                       "A filtering request filters no row." };
+inline constexpr FindingCode kTextsDifferInBlanks = {
+    "MB215", Finding::kWarning, "Texts that a list is grouped by differ in blanks at their ends alone."
+};
 inline constexpr FindingCode kSumOutsideFooter = { "MB301", Finding::kError,
                                                    "A total stands in a header or in the details." };
 inline constexpr FindingCode kSumOfTexts = { "MB302", Finding::kError, "A total is one of texts." };

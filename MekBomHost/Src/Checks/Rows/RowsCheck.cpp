@@ -1,5 +1,6 @@
 #include "RowsCheck.h"
 
+#include "BlankRule.h"
 #include "CheckedTemplate.h"
 #include "GroupingRules.h"
 #include "MarkRule.h"
@@ -68,6 +69,14 @@ void addMarkRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& 
                 rules.push_back(std::make_unique<MarkRule>(*pTuple, element.token));
 }
 
+void addBlankRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
+{
+    for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kGroup))
+        for (const TokenRequest::Element& element : pTuple->request.elements)
+            if (!pTuple->isFooter && !list.isDeepest(pTuple->level) && !tokens.isNumeric(element.token))
+                rules.push_back(std::make_unique<BlankRule>(*pTuple, element.token));
+}
+
 void addOrderRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
 {
     for (const SortKey& key : sortKeysOfOpenOrder(list, tokens))
@@ -97,6 +106,7 @@ std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens
     addSumRules(rules, list, tokens);
     addFormulaRules(rules, list);
     addMarkRules(rules, list, tokens);
+    addBlankRules(rules, list, tokens);
     addOrderRules(rules, list, tokens);
     addWholeNumberRules(rules, list, tokens);
     rules.push_back(std::make_unique<RowOriginRule>());
