@@ -307,9 +307,14 @@ void ReportJob::checkFilterTokens() const
 {
     for (const VorString& token : m_pReport->filterTokens())
         if (VorBomTokenCatalogue::find(token) == nullptr && m_pParts->find(Utf8::toBytes(token)) == nullptr)
-            m_pReport->failInFilter(Finding::of(FindingCodes::kNoQueryFilter, inQuotes(Utf8::toBytes(token)),
-                                                "a token of the catalogue or a column of " + m_pRecords->name()),
-                                    m_pReport->reportTemplate().queryFilter.names(token));
+        {
+            const std::string name = Utf8::toBytes(token);
+            const std::string nearest = knownTokens().nearestTo(name);
+            Finding finding = Finding::of(FindingCodes::kNoQueryFilter, inQuotes(name),
+                                          "a token of the catalogue or a column of " + m_pRecords->name());
+            finding.remedy = nearest.empty() ? "" : "did you mean " + inQuotes(nearest) + "?";
+            m_pReport->failInFilter(finding, m_pReport->reportTemplate().queryFilter.names(token));
+        }
 }
 
 // The rows change hands: the sample has to let go of them, or both would delete them. Each is one piece, as a row of a
