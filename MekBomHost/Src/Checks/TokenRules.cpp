@@ -37,7 +37,7 @@ void TokenRules::run(bool hasData)
 {
     for (const CheckedTuple& tuple : m_list.tuples())
     {
-        findUnknownTokens(tuple);
+        findUnknownTokens(tuple, hasData);
         findUnknownColumn(tuple);
         findMalformedColumn(tuple);
         findNumberAsData(tuple);
@@ -58,16 +58,19 @@ void TokenRules::addUnknown(const CheckedTuple& tuple, const std::string& token,
                        : "did you mean " + inQuotes(nearest) + "?");
 }
 
-void TokenRules::findUnknownTokens(const CheckedTuple& tuple)
+// Without data nobody knows what rows have.
+void TokenRules::findUnknownTokens(const CheckedTuple& tuple, bool hasData)
 {
     for (const std::string& token : dataTokensOf(tuple.request))
         if (!m_tokens.knows(token) && VorBomDataToken::isToken(Utf8::toWide(token)) == 1)
             addUnknown(tuple, token,
-                       "no token " + inQuotes(token) +
-                           " is known: no row has it, and the template's own "
-                           "value is taken everywhere");
+                       "no token " + inQuotes(token) + " is known: " +
+                           (hasData ? "no row has it" : "neither the catalogue nor the template has it") +
+                           ", and the template's own value is taken everywhere");
         else if (!m_tokens.knows(token) && tuple.request.kind == TokenRequest::kSum)
-            addUnknown(tuple, token, inQuotes(tuple.token) + " sums " + inQuotes(token) + ", which no row has");
+            addUnknown(tuple, token,
+                       inQuotes(tuple.token) + " sums " + inQuotes(token) + ", which " +
+                           (hasData ? "no row has" : "is no token"));
 }
 
 // A column may have a name of its own, as long as the template describes it.

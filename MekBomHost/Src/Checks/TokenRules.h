@@ -17,7 +17,7 @@ public:
     void run(bool hasData);
 
 private:
-    void findUnknownTokens(const CheckedTuple& tuple);
+    void findUnknownTokens(const CheckedTuple& tuple, bool hasData);
     void findUnknownColumn(const CheckedTuple& tuple);
     void findUnknownUnits();
     void findMalformedColumn(const CheckedTuple& tuple);

@@ -230,6 +230,38 @@ TEST(TemplateCheckTest, AHeaderNeverShowsThePiecesOfItsGroup)
     EXPECT_EQ("", codesInGroup({ "%GroupBy:%Quantity", "%SortAscBy:%Quantity", "%Quantity" }));
 }
 
+// Whatever was shared, the weight was recommended.
+TEST(TemplateCheckTest, WhatRowsShareIsReplacedByWhatEachHasOfIt)
+{
+    const auto remedyFor = [](const std::string& token)
+    {
+        const std::vector<Finding> mistakes = mistakesIn(groupedList(kByMaterial, kParts, { "%SumBy:" + token }));
+        return mistakes.size() == 1 ? mistakes[0].remedy : codesOf(mistakes);
+    };
+    const std::string inHeader = " in the header of its group instead";
+    const std::string own = inHeader + ", or sum what is the row's own: \"%SumBy:";
+
+    EXPECT_EQ("show \"%AssemblyWeight\"" + own + "%Formula:%Weight*%Quantity\"", remedyFor("%AssemblyWeight"));
+    EXPECT_EQ("show \"%AssemblyExactWeight\"" + own + "%Formula:%ExactWeight*%Quantity\"",
+              remedyFor("%AssemblyExactWeight"));
+    EXPECT_EQ("show \"%SawLengthInModel\"" + own + "%Formula:%SawLength*%Quantity\"", remedyFor("%SawLengthInModel"));
+    EXPECT_EQ("show \"%PaintInAssembly\"" + own + "%Formula:%Paint*%Quantity\"", remedyFor("%PaintInAssembly"));
+    EXPECT_EQ("show \"%QuantityInAllAssemblyInPhase\"" + own + "%Quantity\"",
+              remedyFor("%QuantityInAllAssemblyInPhase"));
+    EXPECT_EQ("show \"%MQuantityInPhase\"" + own + "%Formula:%IsMP*%Quantity\"", remedyFor("%MQuantityInPhase"));
+}
+
+TEST(TemplateCheckTest, WithoutDataNobodyIsToldWhatRowsHave)
+{
+    const std::string list = groupedList(kByMaterial, { "%PNum", "%posNum" }, kWeights);
+
+    EXPECT_EQ("no token \"%posNum\" is known: neither the catalogue nor the template has it, and the template's own "
+              "value is taken everywhere",
+              mistakesIn(list)[0].statement);
+    EXPECT_EQ("no token \"%posNum\" is known: no row has it, and the template's own value is taken everywhere",
+              mistakesIn(list, { "%PNum" })[0].statement);
+}
+
 TEST(TemplateCheckTest, ANumberOtherThanZeroIsPrintedLikeData)
 {
     EXPECT_EQ("MB505", codesInDetails({ "%PNum", R"({ "token": "%Weight", "value": 1000.0 })" }));
