@@ -3,9 +3,12 @@
 // from the catalogue, from the template's own "tokens" and "tokenUnits", or from the data's columns.
 #include "TokenRules.h"
 
+#include "TokenQuantities.h"
+#include "UnitKinds.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
+#include "VorBomTemplate.h"
 
 #include <algorithm>
 
@@ -44,6 +47,7 @@ void TokenRules::run(bool hasData)
         findPiecesOfFirstRow(tuple);
     }
     findUnknownUnits();
+    findOtherKinds();
     findNumbersWithoutUnit();
     if (!hasData)
         findVaryingTokens();
@@ -104,8 +108,15 @@ void TokenRules::findUnknownUnits()
 {
     for (const auto& [key, place] : m_list.file().tokenUnitPlaces)
     {
-        const TokenRequest request = TokenRequest::of(key);
-        const std::string token = request.kind == TokenRequest::kSum ? request.subject : key;
+        const VorString datum = TokenQuantities::datumOf(Utf8::toWide(key));
+        const std::string token = Utf8::toBytes(datum);
+        if (VorString formula = datum; VorBomDataToken::removeFormulaPrefix(formula) == 1)
+        {
+            m_mistakes.add(MistakeCodes::kTokenUnknown, place,
+                           inQuotes(key) + " is no name of a formula here: its unit is that of nothing",
+                           "write " + inQuotes(Utf8::toBytes(formula)) + ", without a prefix");
+            continue;
+        }
         if (m_tokens.isInCatalogue(token) || m_tokens.isOfData(token) || m_list.file().ownTokens.count(token) > 0 ||
             isUsed(token))
             continue;
@@ -113,6 +124,23 @@ void TokenRules::findUnknownUnits()
         m_mistakes.add(MistakeCodes::kTokenUnknown, place,
                        "no token " + inQuotes(token) + " is known, nor used in the list: its unit is that of nothing",
                        nearest.empty() ? "take it out" : "did you mean " + inQuotes(nearest) + "?");
+    }
+}
+
+// A weight in kilograms would be printed as one in pounds, or as a length: under the author's own label, whatever that says.
+void TokenRules::findOtherKinds()
+{
+    VorBomTemplate ofCatalogue;
+    ofCatalogue.setUnitsForTokens(nullptr);
+    for (const auto& [key, place] : m_list.file().tokenUnitPlaces)
+    {
+        const VorString token = TokenQuantities::datumOf(Utf8::toWide(key));
+        const auto type = ofCatalogue.getBomTemplateUnits()->getUnitType(token);
+        const UnitKind* const pKind = UnitKinds::find(type);
+        if (pKind != nullptr && m_list.file().pTemplate->getBomTemplateUnits()->getUnitType(Utf8::toWide(key)) != type)
+            m_mistakes.add(MistakeCodes::kOtherKindThanCatalogue, place,
+                           inQuotes(Utf8::toBytes(token)) + " is " + pKind->name + ", which this entry denies",
+                           "take it out: lists show " + Utf8::toBytes(token) + " in the reader's unit");
     }
 }
 

@@ -20,6 +20,7 @@ private:
     void findUnknownTokens(const CheckedTuple& tuple, bool hasData);
     void findUnknownColumn(const CheckedTuple& tuple);
     void findUnknownUnits();
+    void findOtherKinds();
     void findMalformedColumn(const CheckedTuple& tuple);
     void findVaryingTokens();
     void findNumbersWithoutUnit();

@@ -69,16 +69,17 @@ const std::vector<FindingCode>& all()
         kNumberWithoutUnit,
         kNumberAsData,
         kWholeNumberUnderUnit,
+        kOtherKindThanCatalogue,
         kKindsMixed,
         kTokenTwiceInRow,
         kSubRows,
         kNotANumber,
         kMarksOfEarlierReport,
         kHandleNotUnique,
+        kNoNumberLeft,
     };
     return codes;
 }
-        kNoNumberLeft,
 
 bool has(std::string_view code)
 {

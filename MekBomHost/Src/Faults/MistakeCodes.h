@@ -153,6 +153,9 @@ inline constexpr FindingCode kNumberAsData = {
 inline constexpr FindingCode kWholeNumberUnderUnit = {
     "MB506", Finding::kWarning, "A whole number stands under a token with a unit, and is printed without it."
 };
+inline constexpr FindingCode kOtherKindThanCatalogue = {
+    "MB507", Finding::kError, "\"tokenUnits\" gives a token of the catalogue another kind than it has."
+};
 inline constexpr FindingCode kKindsMixed = { "MB601", Finding::kError, "One token has values of several kinds." };
 inline constexpr FindingCode kTokenTwiceInRow = { "MB602", Finding::kWarning, "A row has the same token twice." };
 inline constexpr FindingCode kSubRows = { "MB603", Finding::kError, "Rows below rows are in no list." };
@@ -162,6 +165,8 @@ inline constexpr FindingCode kMarksOfEarlierReport = { "MB605", Finding::kWarnin
                                                        "Rows carry the marks of an earlier report." };
 inline constexpr FindingCode kHandleNotUnique = { "MB606", Finding::kWarning,
                                                   "An object handle is empty or stands in several rows." };
+inline constexpr FindingCode kNoNumberLeft = { "MB607", Finding::kError,
+                                               "A total or the result of a formula is too large to be a number." };
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();
@@ -171,5 +176,3 @@ const std::vector<FindingCode>& all();
 //   MistakeCodes::has("MB805")   ->  false
 bool has(std::string_view code);
 }
-inline constexpr FindingCode kNoNumberLeft = { "MB607", Finding::kError,
-                                               "A total or the result of a formula is too large to be a number." };

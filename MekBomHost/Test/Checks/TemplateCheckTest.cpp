@@ -172,6 +172,22 @@ TEST(TemplateCheckTest, AnEntryOfTokenUnitsMustNameATokenOfTheList)
                           R"("tokenUnits": { "%Weight*2": "kWeightUnit" })"));
 }
 
+TEST(TemplateCheckTest, AnEntryOfTokenUnitsNamesAFormulaByItsTextAlone)
+{
+    for (const std::string prefix : { "%Formula:", "%SumBy:%Formula:" })
+        EXPECT_EQ("MB501", codesIn(kByMaterial, { "%PNum", "%Formula:%Weight*2" }, { "%SumBy:%Formula:%Weight*2" },
+                                   R"("tokenUnits": { ")" + prefix + R"(%Weight*2": "kDistanceUnit" })"));
+}
+
+// Kilograms stood under the author's "Mass [lb]".
+TEST(TemplateCheckTest, AnEntryOfTokenUnitsMustNotDenyTheKindOfATokenOfTheCatalogue)
+{
+    for (const std::string entry : { R"("%Weight": "kNoUnit")", R"("%Weight": "kDistanceUnit")",
+                                     R"("%Weight": "kReservedUnitType")", R"("%SumBy:%Weight": "kNoUnit")" })
+        EXPECT_EQ("MB507", codesIn(kByMaterial, kParts, kWeights, "\"tokenUnits\": { " + entry + " }")) << entry;
+    EXPECT_EQ("", codesIn(kByMaterial, kParts, kWeights, R"("tokenUnits": { "%Weight": "kWeightUnit" })"));
+}
+
 TEST(TemplateCheckTest, TheTokenWithTwoPercentSignsIsNone)
 {
     EXPECT_EQ("", codesInDetails({ "%PNum", "%%PaintMeter" }));
@@ -214,22 +230,6 @@ TEST(TemplateCheckTest, WhatRowsShareIsAddedByEachOfThem)
     EXPECT_EQ("", codesInFooter({ "%SumBy:%Weight", "%SumBy:%Quantity" }));
 }
 
-TEST(TemplateCheckTest, AFormulaMayGiveTheAssemblyToOneOfItsRows)
-{
-    EXPECT_EQ("", codesIn(kByMaterial, { "%PNum", "%Formula:%AssemblyWeight*%IsMP" },
-                          { "%SumBy:%Formula:%AssemblyWeight*%IsMP" }));
-}
-
-TEST(TemplateCheckTest, AHeaderNeverShowsThePiecesOfItsGroup)
-{
-    const std::string list = groupedList({ "%GroupBy:%PNum", "%SortAscBy:%PNum", "%PNum", "%Quantity" }, kParts, {});
-    EXPECT_EQ("MB503", codesOf(mistakesIn(list)));
-    EXPECT_EQ("MB503", codesOf(mistakesIn(list, { "%PNum", "%Length", "%Weight", "%Quantity" })));
-
-    EXPECT_EQ("MB503", codesInGroup({ "%GroupBy:%PNum", "%SortAscBy:%PNum", "%Formula:%Weight*%Quantity" }));
-    EXPECT_EQ("", codesInGroup({ "%GroupBy:%Quantity", "%SortAscBy:%Quantity", "%Quantity" }));
-}
-
 // Whatever was shared, the weight was recommended.
 TEST(TemplateCheckTest, WhatRowsShareIsReplacedByWhatEachHasOfIt)
 {
@@ -260,6 +260,22 @@ TEST(TemplateCheckTest, WithoutDataNobodyIsToldWhatRowsHave)
               mistakesIn(list)[0].statement);
     EXPECT_EQ("no token \"%posNum\" is known: no row has it, and the template's own value is taken everywhere",
               mistakesIn(list, { "%PNum" })[0].statement);
+}
+
+TEST(TemplateCheckTest, AFormulaMayGiveTheAssemblyToOneOfItsRows)
+{
+    EXPECT_EQ("", codesIn(kByMaterial, { "%PNum", "%Formula:%AssemblyWeight*%IsMP" },
+                          { "%SumBy:%Formula:%AssemblyWeight*%IsMP" }));
+}
+
+TEST(TemplateCheckTest, AHeaderNeverShowsThePiecesOfItsGroup)
+{
+    const std::string list = groupedList({ "%GroupBy:%PNum", "%SortAscBy:%PNum", "%PNum", "%Quantity" }, kParts, {});
+    EXPECT_EQ("MB503", codesOf(mistakesIn(list)));
+    EXPECT_EQ("MB503", codesOf(mistakesIn(list, { "%PNum", "%Length", "%Weight", "%Quantity" })));
+
+    EXPECT_EQ("MB503", codesInGroup({ "%GroupBy:%PNum", "%SortAscBy:%PNum", "%Formula:%Weight*%Quantity" }));
+    EXPECT_EQ("", codesInGroup({ "%GroupBy:%Quantity", "%SortAscBy:%Quantity", "%Quantity" }));
 }
 
 TEST(TemplateCheckTest, ANumberOtherThanZeroIsPrintedLikeData)
