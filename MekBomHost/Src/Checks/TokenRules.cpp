@@ -18,6 +18,9 @@ namespace
 {
 const char* const kPieces = "%Quantity";
 
+// Arbitrary: more than anybody misspells. Each takes a look at all words there are, thousands in a wide file.
+const int kMostSuggestions = 100;
+
 // What describes the objects of one mark: their assembly, or the part that they all are. The data may say otherwise,
 // and the rules on data tell then.
 bool belongsToMark(const std::string& token, const std::vector<std::string>& groupTokens)
@@ -55,7 +58,7 @@ void TokenRules::run(bool hasData)
 
 void TokenRules::addUnknown(const CheckedTuple& tuple, const std::string& token, const std::string& effect)
 {
-    const std::string nearest = m_tokens.nearestTo(token);
+    const std::string nearest = m_numUnknown++ < kMostSuggestions ? m_tokens.nearestTo(token) : std::string();
     m_mistakes.add(MistakeCodes::kTokenUnknown, tuple, effect,
                    nearest.empty()
                        ? "declare a token of your own: \"tokens\": { " + inQuotes(token) + ": \"text\" }, or \"number\""

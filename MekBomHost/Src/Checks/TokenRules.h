@@ -29,6 +29,8 @@ private:
 
     void addUnknown(const CheckedTuple& tuple, const std::string& token, const std::string& effect);
     bool isUsed(const std::string& token) const;
+
+    int m_numUnknown = 0; // tokens, or their uses
 };
 
 // The tuples that show, in a header or footer, what need not be the same in all rows of its groups: neither what they

@@ -111,7 +111,8 @@ private:
     Term sum(Term left, Term right);
     Term sumWithConstant(Term term, const FormulaConstant& constant);
     void settle(const Term& term);
-    void note(FormulaResult::eReason reason, const std::string& what);
+    template <class What>
+    void note(FormulaResult::eReason reason, const What& what);
     void conclude();
 
     const FormulaOperands& m_operands;
@@ -123,7 +124,7 @@ private:
 FormulaResult Derivation::derive(const FormulaTree& tree)
 {
     if (tree.root() == FormulaNode::kNoSide)
-        note(FormulaResult::kUnreadable, "there is nothing to compute");
+        note(FormulaResult::kUnreadable, [] { return "there is nothing to compute"; });
     m_result = Walk(*this).run(tree);
     settle(m_result);
     conclude();
@@ -141,8 +142,10 @@ Term Derivation::ofName(const VorString& name)
         case FormulaOperand::kPieces: return ofDimension(Dimension());
         case FormulaOperand::kQuantity: return ofDimension(Dimension::ofType(operand.type));
         case FormulaOperand::kOwnUnit: return ofUncertain(Dimension::ofOwnNumber(text));
-        case FormulaOperand::kText: note(FormulaResult::kTextOperand, inQuotes(text) + " is a text"); break;
-        default: note(FormulaResult::kUnknownOperand, "nobody knows " + inQuotes(text)); break;
+        case FormulaOperand::kText:
+            note(FormulaResult::kTextOperand, [&] { return inQuotes(text) + " is a text"; });
+            break;
+        default: note(FormulaResult::kUnknownOperand, [&] { return "nobody knows " + inQuotes(text); }); break;
     }
     return ofUncertain(Dimension());
 }
@@ -169,7 +172,8 @@ Term Derivation::sum(Term left, Term right)
         return sumWithConstant(std::move(left), right.constant);
     if (!left.dimension.isLike(right.dimension))
     {
-        note(FormulaResult::kUnlikeSum, "adds " + left.dimension.text() + " and " + right.dimension.text());
+        note(FormulaResult::kUnlikeSum,
+             [&] { return "adds " + left.dimension.text() + " and " + right.dimension.text(); });
         left.isCertain = false;
     }
     left.isCertain = left.isCertain && right.isCertain;
@@ -182,7 +186,8 @@ Term Derivation::sumWithConstant(Term term, const FormulaConstant& constant)
 {
     if (constant.value == 0.0 || term.dimension.isPlain())
         return term;
-    note(FormulaResult::kUnlikeSum, "adds " + term.dimension.text() + " and the bare number " + constant.shownText());
+    note(FormulaResult::kUnlikeSum,
+         [&] { return "adds " + term.dimension.text() + " and the bare number " + constant.shownText(); });
     term.isCertain = false;
     return term;
 }
@@ -192,15 +197,17 @@ void Derivation::settle(const Term& term)
 {
     const std::string hidden = term.factors.hiddenUnitOf(term.dimension);
     if (!hidden.empty())
-        note(FormulaResult::kHiddenUnit, hidden);
+        note(FormulaResult::kHiddenUnit, [&] { return hidden; });
 }
 
-void Derivation::note(FormulaResult::eReason reason, const std::string& what)
+// The words of the first reason alone are made: those of a long product take as long as the product.
+template <class What>
+void Derivation::note(FormulaResult::eReason reason, const What& what)
 {
     if (m_found.reason != FormulaResult::kNone)
         return;
     m_found.reason = reason;
-    m_found.what = what;
+    m_found.what = what();
 }
 
 void Derivation::conclude()
@@ -208,7 +215,7 @@ void Derivation::conclude()
     const VorBomTemplateUnits::eTokenUnitType kind = m_result.dimension.kind();
     const bool isFree = m_result.dimension.isFreeOfUnits();
     if (kind == VorBomTemplateUnits::kNoUnit && !isFree)
-        note(FormulaResult::kNoKind, m_result.dimension.text() + " is no kind of quantity");
+        note(FormulaResult::kNoKind, [&] { return m_result.dimension.text() + " is no kind of quantity"; });
     if (m_found.reason != FormulaResult::kNone)
         return;
     m_found.measure = isFree ? FormulaResult::kPlain : FormulaResult::kKind;

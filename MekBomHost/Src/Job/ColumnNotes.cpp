@@ -25,6 +25,9 @@ namespace
 {
 const std::size_t kMostNamed = 5; // arbitrary: what fits in a note
 
+// Arbitrary: more than a file lacks by slips. Every column is compared with each of them.
+const std::size_t kMostLookedFor = 200;
+
 bool isKnown(const VorString& token)
 {
     return VorBomTokenCatalogue::find(token) != nullptr;
@@ -39,9 +42,9 @@ std::string joined(const std::vector<std::string>& texts, const std::string& sep
 }
 
 // The columns that may have been meant to be one of the tokens, each with that.
-std::vector<std::pair<const InputColumn*, std::string>> meant(const PartsList& parts,
-                                                              const std::vector<std::string>& tokens)
+std::vector<std::pair<const InputColumn*, std::string>> meant(const PartsList& parts, std::vector<std::string> tokens)
 {
+    tokens.resize(std::min(tokens.size(), kMostLookedFor));
     std::vector<std::string> allNames = tokens;
     for (std::string& name : TokenTable::names())
         allNames.push_back(std::move(name));

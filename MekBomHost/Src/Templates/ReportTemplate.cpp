@@ -3,9 +3,10 @@
 // below the weights, in column "%Weight", and "%GroupBy:%Name" only steers and stands nowhere.
 #include "ReportTemplate.h"
 
+#include "Utf8.h"
+
 #include "VorBomDataToken.h"
 
-#include <algorithm>
 #include <cstddef>
 
 namespace mekbom
@@ -35,11 +36,16 @@ VorString ReportTemplate::columnTokenOf(const VorBomItemBase& section, int tuple
     return summed;
 }
 
+bool ReportTemplate::addColumn(const ColumnStyle& style)
+{
+    columns.push_back(style);
+    return m_columnIndices.emplace(Utf8::toBytes(style.token), columns.size() - 1).second;
+}
+
 const ColumnStyle* ReportTemplate::columnStyleOf(const VorString& columnToken) const
 {
-    const auto found = std::find_if(columns.begin(), columns.end(),
-                                    [&columnToken](const ColumnStyle& column) { return column.token == columnToken; });
-    return found == columns.end() ? nullptr : &*found;
+    const auto found = m_columnIndices.find(Utf8::toBytes(columnToken));
+    return found == m_columnIndices.end() ? nullptr : &columns[found->second];
 }
 
 const ColumnStyle* ReportTemplate::styleOfTuple(const VorBomItemBase& section, int tupleIndex) const

@@ -262,6 +262,19 @@ TEST(TemplateCheckTest, WithoutDataNobodyIsToldWhatRowsHave)
               mistakesIn(list, { "%PNum" })[0].statement);
 }
 
+// Thousands of unknown tokens in a list, and as many columns in the data, took minutes.
+TEST(TemplateCheckTest, AfterAHundredUnknownTokensNobodyIsAskedWhatTheyMean)
+{
+    Tuples details = { "%PNum" };
+    for (int i = 0; i <= 100; ++i)
+        details.push_back("%Wieght");
+    const std::vector<Finding> mistakes = mistakesIn(groupedList(kByMaterial, details, kWeights));
+
+    ASSERT_EQ(101u, mistakes.size());
+    EXPECT_EQ("did you mean \"%Weight\"?", mistakes[99].remedy);
+    EXPECT_EQ(0u, mistakes[100].remedy.find("declare a token of your own: "));
+}
+
 TEST(TemplateCheckTest, AFormulaMayGiveTheAssemblyToOneOfItsRows)
 {
     EXPECT_EQ("", codesIn(kByMaterial, { "%PNum", "%Formula:%AssemblyWeight*%IsMP" },
