@@ -1,7 +1,7 @@
 """Runs the benchmarks of a build on the same rows, prints tables with medians and ratios, and writes them as JSON.
 
     python3 Scripts/bench.py --build build/bench [--sizes 10000,100000,1000000]
-                             [--sections evaluate,formulas,job,curves]
+                             [--sections evaluate,shapes,formulas,job,curves]
                              [--rounds 3] [--json build/bench/bench.json] [--document Docs/PERFORMANCE.md]
 
 All programs get the same environment, in which freed memory stays in the process. Each is started --rounds times for
@@ -24,7 +24,7 @@ ROOT = Path(__file__).resolve().parent.parent
 COMPARISON = ROOT / "MekBomEngine/Bench/Comparison"
 GENERATOR = ROOT / "MekBomHost/Bench/generate_parts.py"
 WHOLE_JOB = ROOT / "MekBomHost/Bench/whole_job.py"
-SECTIONS = ["evaluate", "formulas", "job", "curves"]
+SECTIONS = ["evaluate", "shapes", "formulas", "job", "curves"]
 
 # Fresh pages are dear on virtual machines: nothing is given back to the system, and what is asked for comes in plenty.
 MEMORY_STAYS = {
@@ -152,6 +152,16 @@ def compare_reports(build, sizes, rounds):
     return results
 
 
+def compare_shapes(build, sizes):
+    """Shape by shape, each by turns with the plain one."""
+    results = {}
+    for size in sizes:
+        print(f"{size} rows: shapes", file=sys.stderr)
+        runs = {10_000: 15, 100_000: 7}.get(size, 3)
+        results[size] = run_json_lines([build / "MekBomEngine/Bench/ShapesBench", size, "--json", "--runs", runs])
+    return results
+
+
 def compare_formulas(build):
     program = build / "ExpressionEvaluator/FormulaComparison"
     print("formulas", file=sys.stderr)
@@ -210,6 +220,7 @@ def read_arguments():
 def run_sections(build, sections, sizes, rounds):
     measure = {
         "evaluate": lambda: compare_reports(build, sizes, rounds),
+        "shapes": lambda: compare_shapes(build, sizes),
         "formulas": lambda: compare_formulas(build),
         "job": lambda: {"rows": max(sizes), "programs": compare_jobs(build, max(sizes), rounds)},
         "curves": lambda: run_curves(build),

@@ -72,6 +72,28 @@ def engine_table(evaluate):
     return table(["the engine at"] + [f"{size} rows" for size in sizes], rows)
 
 
+def shapes_of(shapes):
+    """Of each shape that is compared with the plain one, its results at all sizes."""
+    return [lines for lines in zip(*shapes.values()) if lines[0]["allowed"]]
+
+
+def shapes_table(shapes):
+    rows = []
+    for lines in shapes_of(shapes):
+        rows.append([f"{lines[0]['program']}: {lines[0]['difference']}",
+                     " / ".join(number(line["milliseconds"] * 1e6 / line["rows"]) for line in lines),
+                     " / ".join(f"{line['toPlain']:.2f}" for line in lines),
+                     " / ".join(f"{line['allowed']:.2f}" for line in lines),
+                     "met" if all(line["toPlain"] <= line["allowed"] for line in lines) else "MISSED"])
+    return table([f"shape, {' / '.join(map(str, shapes))} rows", "ns per row", "to plain", "at most", ""], rows)
+
+
+def extremes_table(shapes):
+    rows = [[f"{line['program']}: {line['difference']}", number(line["milliseconds"]), number(line["tuples"])]
+            for line in next(iter(shapes.values())) if not line["allowed"]]
+    return table(["extreme shape", "milliseconds", "tuples"], rows)
+
+
 def formulas_of(results):
     """Name to nanoseconds, of programs that were not skipped."""
     return {line["name"]: line["ns"] for line in results["formulas"] if "ns" in line and "formula" not in line}
@@ -143,6 +165,14 @@ def evaluate_bounds(evaluate):
     ]
 
 
+def shapes_bounds(shapes):
+    """The shape that is furthest from what it may take, or nearest to it."""
+    worst = max((line for lines in shapes_of(shapes) for line in lines),
+                key=lambda line: line["toPlain"] / line["allowed"])
+    return [at_most(f"to plain by what is allowed, at worst {worst['program']}, {worst['rows']} rows",
+                    worst["toPlain"] / worst["allowed"], 1)]
+
+
 def formulas_bounds(results):
     found = formulas_of(results)
     fastest = min((ns for name, ns in found.items() if name not in ("engine", "limit")), default=math.inf)
@@ -165,6 +195,8 @@ def bounds(results):
     found = []
     if "evaluate" in results:
         found += evaluate_bounds(results["evaluate"])
+    if "shapes" in results:
+        found += shapes_bounds(results["shapes"])
     if "formulas" in results:
         found += formulas_bounds(results)
     if "job" in results:
@@ -187,6 +219,8 @@ def all_tables(results):
     parts = [f"{machine['processor']}, {machine['processors']} processors, {machine['system']}, {machine['compiler']}"]
     if "evaluate" in results:
         parts += [evaluate_table(results["evaluate"]), engine_table(results["evaluate"])]
+    if "shapes" in results:
+        parts += [shapes_table(results["shapes"]), extremes_table(results["shapes"])]
     if "formulas" in results:
         parts.append(formulas_table(results))
     if "job" in results:

@@ -13,7 +13,7 @@
 // was found, summed or computed, and after that section was shown the text that the report shows.
 //
 // Tokens are texts that share their characters when they are copied. Rows whose equal tokens are copies of one
-// VorString are looked up fastest, and only they are recognised as rows of one layout: whoever makes a million rows
+// VorString are looked up fastest, as a text that was met before is known by its address: whoever makes a million rows
 // should make each token once and hand it to all of them.
 //
 // Which of two tuples with equal tokens counts is the rule of the list that they stand in, not theirs: a look-up finds

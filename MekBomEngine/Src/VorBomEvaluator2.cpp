@@ -133,15 +133,15 @@ int VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineS
 // Types are not looked at: where a section stands says what it does.
 VorBomEngineStateArray VorBomEvaluator2::getTemplateStack(VorBomTemplate* pTemplate)
 {
-    // One for all levels: each asks for the layout of the same row, which is told once.
-    const auto pLayouts = std::make_shared<VorBomRowLayouts>();
+    // One for all levels: each asks about the same row, which is looked at once.
+    const auto pPositions = std::make_shared<VorBomTuplePositions>();
     VorBomEngineStateArray stack;
     for (VorBomTemplateItem* pItem = asSection(pTemplate->child()); pItem != nullptr; pItem = asSection(pItem->child()))
     {
         VorBomEngineState state;
         state.m_pHeader = pItem;
         state.m_pFooter = asSection(pItem->next());
-        state.m_pPlan = std::make_shared<VorBomLevelPlan>(pLayouts, *state.m_pHeader, state.m_pFooter);
+        state.m_pPlan = std::make_shared<VorBomLevelPlan>(pPositions, *state.m_pHeader, state.m_pFooter);
         setFormats(*pTemplate, *state.m_pHeader, state.m_pPlan->header.display());
         if (state.m_pFooter != nullptr)
             setFormats(*pTemplate, *state.m_pFooter, state.m_pPlan->footer->display());
@@ -157,7 +157,7 @@ VorBomTemplateItem* VorBomEvaluator2::process(VorBomTemplateItem* pTemplateItem,
         VorAssert::vorAssert(L"NULL != pTemplateItem", kSourcePath, __LINE__);
         return nullptr;
     }
-    return VorBomHeaderPlan(std::make_shared<VorBomRowLayouts>(), *pTemplateItem).process(*pRow).release();
+    return VorBomHeaderPlan(std::make_shared<VorBomTuplePositions>(), *pTemplateItem).process(*pRow).release();
 }
 
 // NOLINTNEXTLINE(performance-unnecessary-value-param): a caller may empty its array meanwhile
@@ -168,7 +168,7 @@ VorBomTemplateItem* VorBomEvaluator2::process(VorBomTemplateItem* pTemplateItem,
         VorAssert::vorAssert(L"NULL != pTemplateItem", kSourcePath, __LINE__);
         return nullptr;
     }
-    return VorBomFooterPlan(std::make_shared<VorBomRowLayouts>(), *pTemplateItem).finish(rows).release();
+    return VorBomFooterPlan(std::make_shared<VorBomTuplePositions>(), *pTemplateItem).finish(rows).release();
 }
 
 int VorBomEvaluator2::evaluateData(VorBomDataRow* pRow, VorBomEngineStateArray& stack, VorBomTemplateUnits* pUnits)

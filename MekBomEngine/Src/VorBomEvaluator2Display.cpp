@@ -24,7 +24,7 @@ void VorBomEvaluator2::evaluateExpressions(VorBomTemplateItem* pItem, VorBomData
     if (pItem == nullptr)
         return;
     VorBomDataRow noRow; // has no numbers; the results that it gets go with it
-    VorBomHeaderPlan plan(std::make_shared<VorBomRowLayouts>(), *pItem);
+    VorBomHeaderPlan plan(std::make_shared<VorBomTuplePositions>(), *pItem);
     plan.computeFormulas(*pItem, pRow != nullptr ? pRow : &noRow);
     plan.leaveLastFormula();
 }

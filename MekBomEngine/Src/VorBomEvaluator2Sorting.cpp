@@ -11,6 +11,7 @@
 #include "MekRoots/Exp/VorAssert.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <vector>
 
 thread_local VorStringArray VorBomEvaluator2::m_arrTokensToSortDataRow;
@@ -219,10 +220,12 @@ int VorBomEvaluator2::sortItemList(VorBomTemplateItem*& pFirst, const VorStringA
         int ascending = 1;
         appendSortKeys(sortingTokens, ascending, m_arrTokensToSortEvaluatedItems, m_arrSortOrderForEvaluatedItems);
 
-        std::vector<VorHeaderFooterSortingStruct> sorted(pairs.begin(), pairs.end());
-        vorStableMergeSort(sorted, [](const VorHeaderFooterSortingStruct& a, const VorHeaderFooterSortingStruct& b)
-                           { return compareEvaluatedItems(&a, &b) <= 0; });
-        std::copy(sorted.begin(), sorted.end(), pairs.begin());
+        const std::vector<VorHeaderFooterSortingStruct> unsorted(pairs.begin(), pairs.end());
+        const std::vector<std::uint32_t> places =
+            vorStableMergeSort(unsorted.size(), [&unsorted](std::uint32_t a, std::uint32_t b)
+                               { return compareEvaluatedItems(&unsorted[a], &unsorted[b]) <= 0; });
+        std::transform(places.begin(), places.end(), pairs.begin(),
+                       [&](std::uint32_t place) { return unsorted[place]; });
     }
     relinkSections(pairs);
     pFirst = pairs.first().m_pHeaderItem;

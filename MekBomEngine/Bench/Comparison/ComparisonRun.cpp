@@ -68,6 +68,12 @@ ComparisonRun::Line& ComparisonRun::Line::add(const char* name, double value)
     return *this;
 }
 
+ComparisonRun::Line& ComparisonRun::Line::add(const char* name, const std::string& text)
+{
+    m_text += ", \"" + std::string(name) + "\": \"" + text + "\"";
+    return *this;
+}
+
 void ComparisonRun::Line::print() const
 {
     std::printf("%s}\n", m_text.c_str());

@@ -33,6 +33,7 @@ public:
         Line(const char* program, long long numRows);
         Line& add(const char* name, const std::vector<double>& runs); // all but the first
         Line& add(const char* name, double value);
+        Line& add(const char* name, const std::string& text); // without quotes and backslashes
         void print() const;
 
     private:

@@ -42,9 +42,9 @@ class FormulaTimer
 public:
     explicit FormulaTimer(const VorBomDataTupleArray& details)
         : m_details(details),
-          m_layouts(std::make_shared<VorBomRowLayouts>()),
-          m_columns(m_layouts, { details[0].token().token() }),
-          m_formula(m_layouts, details, details.length() - 1)
+          m_positions(std::make_shared<VorBomTuplePositions>()),
+          m_columns(m_positions, { details[0].token().token() }),
+          m_formula(m_positions, details, details.length() - 1)
     {
     }
 
@@ -80,7 +80,7 @@ private:
     }
 
     const VorBomDataTupleArray& m_details;
-    std::shared_ptr<VorBomRowLayouts> m_layouts;
+    std::shared_ptr<VorBomTuplePositions> m_positions;
     VorBomColumns m_columns;
     VorBomFormulaColumn m_formula;
     double m_result = 0;

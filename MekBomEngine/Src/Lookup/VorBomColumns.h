@@ -1,15 +1,15 @@
-// Data looked up in many rows: a list of tokens, and where each layout of rows has them.
+// Data looked up in many rows: a list of tokens, and where the row at hand has them.
 //
-//   VorBomColumns columns(layouts, { L"%Material", L"%Weight" });
+//   VorBomColumns columns(positions, { L"%Material", L"%Weight" });
 //   columns.find(row);
 //   columns[1]   ->  the row's first tuple "%Weight", or null
 //
-// Finds what VorBomItemBase::getTupleAt finds. What columns[] answers is valid until find() is asked for another row or
-// the row gets further tuples.
+// Finds what VorBomItemBase::getTupleAt finds. What columns[] answers is valid until the row gets further tuples, or two
+// other rows were looked up by anyone who shares the positions (VorBomTuplePositions).
 #pragma once
 
 #include "VorBomItemBase.h"
-#include "VorBomRowLayouts.h"
+#include "VorBomTuplePositions.h"
 
 #include "MekRoots/Exp/VorString.h"
 
@@ -20,49 +20,31 @@
 class VorBomColumns
 {
 public:
-    VorBomColumns(std::shared_ptr<VorBomRowLayouts> pLayouts, std::vector<VorString> tokens);
+    VorBomColumns(std::shared_ptr<VorBomTuplePositions> pPositions, const std::vector<VorString>& tokens);
 
-    // Takes `column` for one that no row has. To be called before the first find().
-    void leaveOut(int column) { m_leftOut.push_back(column); }
-
-    // Columns are moved, never copied: they point into their own list of positions.
-    VorBomColumns(const VorBomColumns&) = delete;
-    VorBomColumns& operator=(const VorBomColumns&) = delete;
-    VorBomColumns(VorBomColumns&&) noexcept = default;
-    VorBomColumns& operator=(VorBomColumns&&) noexcept = default;
-    ~VorBomColumns() = default;
+    // Takes `column` for one that no row has.
+    void leaveOut(int column) { m_numbers[static_cast<std::size_t>(column)] = VorBomTuplePositions::kNotAsked; }
 
     // Looks all tokens up in `row`.
     void find(VorBomItemBase& row)
     {
         m_pTuples = row.getData().begin();
-        const int layout = m_pLayouts->layoutOf(row);
-        if (layout != m_nLayout || layout == VorBomRowLayouts::kNoLayout)
-            usePositionsOf(layout, row.getData());
+        m_pPositions = m_pAsked->in(row);
     }
 
-    int count() const { return static_cast<int>(m_tokens.size()); }
+    int count() const { return static_cast<int>(m_numbers.size()); }
 
     VorBomDataTuple* operator[](int column) const
     {
-        const int position = m_pPositions[column];
+        const int position = m_pPositions[m_numbers[static_cast<std::size_t>(column)]];
         return position < 0 ? nullptr : m_pTuples + position;
     }
 
 private:
-    using Positions = std::vector<int>; // per token; VorBomTupleFinder::kNone where the layout lacks it
+    std::shared_ptr<VorBomTuplePositions> m_pAsked;
+    std::vector<int> m_numbers; // of each token
 
-    void usePositionsOf(int layout, const VorBomDataTupleArray& tuples);
-    Positions positionsIn(const VorBomDataTupleArray& tuples) const;
-
-    std::shared_ptr<VorBomRowLayouts> m_pLayouts;
-    std::vector<VorString> m_tokens;
-    std::vector<int> m_leftOut;
-    std::vector<Positions> m_positions; // per layout; empty where none was asked for
-    Positions m_positionsOfRow;         // of a row that has no layout
-
-    // The row that find() was called for last: its layout, the positions in it, its tuples.
-    int m_nLayout = VorBomRowLayouts::kNoLayout;
+    // The row that find() was called for last: the position in it for each number, and its tuples.
     const int* m_pPositions = nullptr;
     VorBomDataTuple* m_pTuples = nullptr;
 };

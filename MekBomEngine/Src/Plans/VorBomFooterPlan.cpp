@@ -94,8 +94,8 @@ std::vector<VorString> tokensOf(const VorBomDataTupleArray& tuples)
 }
 }
 
-VorBomFooterPlan::VorBomFooterPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section)
-    : m_section(section), m_columns(pLayouts, tokensOf(section.getData())), m_display(section.getData())
+VorBomFooterPlan::VorBomFooterPlan(const std::shared_ptr<VorBomTuplePositions>& pPositions, const VorBomTemplateItem& section)
+    : m_section(section), m_columns(pPositions, tokensOf(section.getData())), m_display(section.getData())
 {
     for (const VorBomDataTuple& tuple : section.getData())
     {

@@ -24,7 +24,7 @@ class VorBomFooterPlan
 {
 public:
     // The section is not owned and must not change as long as the plan is used.
-    VorBomFooterPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section);
+    VorBomFooterPlan(const std::shared_ptr<VorBomTuplePositions>& pPositions, const VorBomTemplateItem& section);
 
     // Takes in the rows of the open group that came since the last call. Rows that do not count are passed over;
     // whether they do must be settled by now.

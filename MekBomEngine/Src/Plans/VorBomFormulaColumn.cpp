@@ -77,13 +77,13 @@ void defineRowVariables(ExpressionsEvaluator& evaluator, const VorBomDataRow* pR
 
 // Compiled from the very text that computeOnce() reads, so that both have the same names. One that is no token, such as
 // "Factor", is a variable of the section alone: rows are not asked for it, though they may have a tuple of that name.
-VorBomFormulaColumn::VorBomFormulaColumn(std::shared_ptr<VorBomRowLayouts> pLayouts, const VorBomDataTupleArray& tuples,
+VorBomFormulaColumn::VorBomFormulaColumn(std::shared_ptr<VorBomTuplePositions> pPositions, const VorBomDataTupleArray& tuples,
                                          int index)
     : m_nIndex(index),
       m_formula(formulaOf(tuples[index])),
       m_compiled(m_formula.getStringW(), m_formula.length()),
       m_isCompiled(isComputable(m_formula) && m_compiled.isCompiled() != 0),
-      m_rowColumns(std::move(pLayouts), m_compiled.names()),
+      m_rowColumns(std::move(pPositions), m_compiled.names()),
       m_values(m_compiled.names().size())
 {
     const std::vector<VorString> rowTokens = sortedRowTokens(m_formula);

@@ -21,7 +21,7 @@ class VorBomFormulaColumn
 {
 public:
     // `tuples` are those of the section that all others are made from; the one at `index` must be a formula.
-    VorBomFormulaColumn(std::shared_ptr<VorBomRowLayouts> pLayouts, const VorBomDataTupleArray& tuples, int index);
+    VorBomFormulaColumn(std::shared_ptr<VorBomTuplePositions> pPositions, const VorBomDataTupleArray& tuples, int index);
 
     int index() const { return m_nIndex; }
 

@@ -54,8 +54,8 @@ VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum,
 
 // Formulas are no columns to be looked up: a row of an earlier report carries the result of that under the formula's
 // token, and what must stand in the section until the formula is computed is the template's value.
-VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section)
-    : m_section(section), m_columns(pLayouts, tokensOf(section.getData())), m_display(section.getData())
+VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomTuplePositions>& pPositions, const VorBomTemplateItem& section)
+    : m_section(section), m_columns(pPositions, tokensOf(section.getData())), m_display(section.getData())
 {
     const VorBomDataTupleArray& tuples = section.getData();
     for (int i = 0; i < tuples.length(); ++i)
@@ -63,7 +63,7 @@ VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLay
         if (VorBomDataToken::isFormula(tuples[i].token().token()) == 0)
             continue;
         m_columns.leaveOut(i);
-        m_formulas.emplace_back(pLayouts, tuples, i);
+        m_formulas.emplace_back(pPositions, tuples, i);
     }
 }
 

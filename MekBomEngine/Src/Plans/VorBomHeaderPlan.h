@@ -6,7 +6,7 @@
 //   computeFormulas    the same with 5.0 under the formula, which the row carries then, too
 //   display().show     texts in the units of the report
 //
-// A plan serves rows of any layout, but one evaluation and one thread only.
+// A plan serves rows with any tuples, but one evaluation and one thread only.
 #pragma once
 
 #include "VorBomColumns.h"
@@ -22,7 +22,7 @@ class VorBomHeaderPlan
 {
 public:
     // The section is not owned and must not change as long as the plan is used.
-    VorBomHeaderPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& section);
+    VorBomHeaderPlan(const std::shared_ptr<VorBomTuplePositions>& pPositions, const VorBomTemplateItem& section);
 
     // A copy of the section without links, its values taken from the row where the row has them; formulas stay as they
     // are. Marks the row's tuples it took as used. Reports "false" for an empty value in the row and passes it over.

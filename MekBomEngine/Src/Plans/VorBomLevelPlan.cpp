@@ -11,14 +11,14 @@ std::vector<VorString> toVector(const VorStringArray& texts)
 }
 }
 
-VorBomLevelPlan::VorBomLevelPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts,
+VorBomLevelPlan::VorBomLevelPlan(const std::shared_ptr<VorBomTuplePositions>& pPositions,
                                  const VorBomTemplateItem& headerSection, const VorBomTemplateItem* pFooterSection)
-    : header(pLayouts, headerSection),
-      m_grouping(pLayouts, toVector(headerSection.groupingTokens())),
-      m_groupingOfLast(pLayouts, toVector(headerSection.groupingTokens()))
+    : header(pPositions, headerSection),
+      m_grouping(pPositions, toVector(headerSection.groupingTokens())),
+      m_groupingOfLast(pPositions, toVector(headerSection.groupingTokens()))
 {
     if (pFooterSection != nullptr)
-        footer.emplace(pLayouts, *pFooterSection);
+        footer.emplace(pPositions, *pFooterSection);
 }
 
 // The row before is looked up again, not remembered: it may have got results of formulas since, and its tuples moved.

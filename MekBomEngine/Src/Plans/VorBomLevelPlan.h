@@ -1,7 +1,7 @@
 // What one level of a report asks of every row: its header, its footer, and when a row opens a new group. All plans of
-// an evaluation share one set of layouts, so that a row's layout is told once for all levels.
+// an evaluation share one set of positions, so that a row is looked at once for all levels.
 //
-//   VorBomLevelPlan plan(layouts, header, nullptr);   // header "%GroupBy:%Material", rows S235, S235, S355
+//   VorBomLevelPlan plan(positions, header, nullptr);   // header "%GroupBy:%Material", rows S235, S235, S355
 //   plan.isSameGroup(second, first)   ->  1
 //   plan.isSameGroup(third, second)   ->  0
 #pragma once
@@ -18,7 +18,7 @@ class VorBomLevelPlan
 {
 public:
     // Neither section is owned; the footer may be null.
-    VorBomLevelPlan(const std::shared_ptr<VorBomRowLayouts>& pLayouts, const VorBomTemplateItem& headerSection,
+    VorBomLevelPlan(const std::shared_ptr<VorBomTuplePositions>& pPositions, const VorBomTemplateItem& headerSection,
                     const VorBomTemplateItem* pFooterSection);
 
     // 1 when the rows agree in what the header groups by; answers as VorBomDataRow::compare being 0.

@@ -5,8 +5,8 @@
 //   ranks of rows 0 to 3                   2 0 1 2
 //   rows 0 to 3, ascending by these        1 2 0 3: counted per rank, then each put in its place
 //
-// Between 2.5 and 2.5000001 the answer would be no. Comparing calls the two equal, and three such values in a row may
-// have equal neighbours but unequal ends: there is no order to rank by, and create() leaves it to comparisons.
+// 2.5 and 2.5000001 would get one rank: comparing calls the two equal. With a third value that is equal to the second, but
+// not to the first, all three get one still, but an unordered one.
 #include "VorBomRanks.h"
 
 #include "VorBomDistinctTexts.h"
@@ -57,15 +57,16 @@ bool isNan(double number)
     return std::isnan(number);
 }
 
-bool canFollow(int, int)
+// Numbers in ascending order are equal to those beside them, or less than all that follow. Differences of doubles grow
+// with the distance, also when rounded: where the ends of a stretch are equal, so are all within it.
+bool areEqual(int first, int second)
 {
-    return true;
+    return first == second;
 }
 
-// Whether a double may rank right after a smaller or equal one: when comparing them tells the same.
-bool canFollow(double smaller, double larger)
+bool areEqual(double first, double second)
 {
-    return smaller == larger || VorBomDataValue::compareDoubles(smaller, larger) != 0;
+    return VorBomDataValue::compareDoubles(first, second) == 0;
 }
 
 // A number with its row, and whole numbers that are in the order of the numbers.
@@ -144,35 +145,23 @@ NumbersOfRows<Number> sortedNumbers(const std::vector<const VorBomDataTuple*>& t
     return numbers;
 }
 
-// Whether comparing any two neighbours tells what their sorted order tells; then it does so for all pairs.
-template <class Number>
-bool compareAsTheyAreSorted(const NumbersOfRows<Number>& numbers)
-{
-    for (std::size_t i = 1; i < numbers.size(); ++i)
-        if (!canFollow(numbers[i - 1].number, numbers[i].number))
-            return false;
-    return true;
-}
 }
 
-int VorBomRanks::create(const std::vector<const VorBomDataTuple*>& tuples, VorBomDataToken::eSortType sortType)
+VorBomRanks::VorBomRanks(const std::vector<const VorBomDataTuple*>& tuples, VorBomDataToken::eSortType sortType)
+    : m_ranks(tuples.size(), kWithoutDatum)
 {
-    // Rank 0 is there even where every row has the datum, and no row has it then.
-    m_nNumRanks = 1;
     if (std::all_of(tuples.begin(), tuples.end(), isMissing))
-    {
-        m_ranks.assign(tuples.size(), 0);
-        return 1;
-    }
+        return;
     const bool isNatural = sortType == VorBomDataToken::kSortAlphanumeric;
-    // Numbers in natural order, and values of several kinds, are what comparing reports; ranking them would hide it.
-    switch (commonType(tuples))
-    {
-        case VorBomDataValue::kStringData: return rankTexts(tuples, isNatural);
-        case VorBomDataValue::kIntData: return isNatural ? 0 : rankNumbers<int>(tuples);
-        case VorBomDataValue::kDoubleData: return isNatural ? 0 : rankNumbers<double>(tuples);
-        default: return 0;
-    }
+    const VorBomDataValue::eBomDataValueType type = commonType(tuples);
+    if (type == VorBomDataValue::kStringData)
+        rankTexts(tuples, isNatural);
+    else if (type == VorBomDataValue::kIntData && !isNatural)
+        rankNumbers<int>(tuples);
+    else if (type == VorBomDataValue::kDoubleData && !isNatural)
+        rankNumbers<double>(tuples);
+    else
+        rankAllAlike(tuples); // numbers in natural order, and several kinds, are what comparing reports
 }
 
 // Counts how many rows have each rank, then puts the rows in their places, from the first on.
@@ -193,11 +182,10 @@ void VorBomRanks::sortStably(std::vector<std::uint32_t>& rows, bool isAscending)
 }
 
 // Equal texts are found by their characters first: a column has far fewer texts than rows, and only those are compared.
-int VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bool naturally)
+void VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bool naturally)
 {
     // Until the ranks are known m_ranks holds the number of each row's text.
     VorBomDistinctTexts distinct;
-    m_ranks.assign(tuples.size(), 0);
     for (std::size_t row = 0; row < tuples.size(); ++row)
         if (!isMissing(tuples[row]))
             m_ranks[row] = distinct.indexOf(textOf(*tuples[row]));
@@ -216,24 +204,42 @@ int VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bo
     for (std::size_t row = 0; row < tuples.size(); ++row)
         if (!isMissing(tuples[row]))
             m_ranks[row] = rankOfText[m_ranks[row]];
-    return 1;
 }
 
-// Equal numbers stand side by side once they are sorted, and a new rank begins where two differ.
+// Once they are sorted, numbers that count as equal stand side by side. 2.0, 2.0000008 and 2.0000016 are one such stretch
+// as each is equal to the next; its ends are not, so it is unordered.
 template <class Number>
-int VorBomRanks::rankNumbers(const std::vector<const VorBomDataTuple*>& tuples)
+void VorBomRanks::rankNumbers(const std::vector<const VorBomDataTuple*>& tuples)
 {
     const NumbersOfRows<Number> numbers = sortedNumbers<Number>(tuples);
-    if (numbers.empty() || !compareAsTheyAreSorted(numbers))
-        return 0;
-
-    m_ranks.assign(tuples.size(), 0);
-    for (std::size_t i = 0; i < numbers.size(); ++i)
+    if (numbers.empty())
+        return rankAllAlike(tuples);
+    auto begin = numbers.begin();
+    while (begin != numbers.end())
     {
-        if (i > 0 && numbers[i - 1].number != numbers[i].number)
-            ++m_nNumRanks;
-        m_ranks[numbers[i].row] = m_nNumRanks;
+        const auto end = std::adjacent_find(begin, numbers.end(),
+                                            [](const auto& smaller, const auto& larger)
+                                            { return !areEqual(smaller.number, larger.number); });
+        const auto last = end == numbers.end() ? end - 1 : end;
+        for (auto entry = begin; entry <= last; ++entry)
+            m_ranks[entry->row] = m_nNumRanks;
+        if (!areEqual(begin->number, last->number))
+            markUnordered(m_nNumRanks);
+        ++m_nNumRanks;
+        begin = last + 1;
     }
-    ++m_nNumRanks;
-    return 1;
+}
+
+void VorBomRanks::rankAllAlike(const std::vector<const VorBomDataTuple*>& tuples)
+{
+    for (std::size_t row = 0; row < tuples.size(); ++row)
+        if (!isMissing(tuples[row]))
+            m_ranks[row] = m_nNumRanks;
+    markUnordered(m_nNumRanks++);
+}
+
+void VorBomRanks::markUnordered(std::uint32_t rank)
+{
+    m_isUnordered.resize(m_ranks.size() + 1); // at most as many ranks as rows, and the one without datum
+    m_isUnordered[rank] = 1;
 }

@@ -3,7 +3,6 @@
 //   B2 and none    a datum is more than none, and descending makes that -1: the row without a name stands last
 #include "VorBomSortKeys.h"
 
-#include "VorBomDataToken.h"
 #include "VorBomTokenCatalogue.h"
 
 namespace
@@ -36,9 +35,15 @@ int VorBomSortKeys::Key::compare(const VorBomDataTuple* pFirst, const VorBomData
 int VorBomSortKeys::Key::compareValues(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
 {
     const bool bothHaveIt = pFirst != nullptr && pSecond != nullptr;
-    if (bothHaveIt && sortType == kByCatalogue)
-        sortType = VorBomDataToken::getSortType(token);
+    if (bothHaveIt)
+        findSortType();
     if (bothHaveIt && sortType == VorBomDataToken::kSortAlphanumeric)
         return pFirst->value().compareAlphanumeric(pSecond->value());
     return VorBomDataTuple::compareValues(pFirst, pSecond);
+}
+
+void VorBomSortKeys::Key::findSortType()
+{
+    if (sortType == kByCatalogue)
+        sortType = VorBomDataToken::getSortType(token);
 }

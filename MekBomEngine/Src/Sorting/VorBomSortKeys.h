@@ -9,6 +9,7 @@
 // datum stands before those that have it when ascending, after them when descending.
 #pragma once
 
+#include "VorBomDataToken.h"
 #include "VorBomDataTuple.h"
 
 #include "MekRoots/Exp/VorArray.h"
@@ -30,14 +31,24 @@ public:
     const VorString& token(std::size_t key) const { return m_keys[key].token; }
     bool isAscending(std::size_t key) const { return m_keys[key].isAscending; }
 
-    // An eSortType; kByCatalogue for a token that has none, neither set nor of its own in the catalogue.
-    int sortType(std::size_t key) const { return m_keys[key].sortType; }
-
-    // Compares two rows, of which firstTuple(key) and secondTuple(key) tell the tuple under a key, or null.
-    template <class FirstTuple, class SecondTuple>
-    int compare(FirstTuple firstTuple, SecondTuple secondTuple)
+    // Values under a token that nobody knows, neither host nor catalogue, compare plainly.
+    VorBomDataToken::eSortType sortType(std::size_t key) const
     {
-        for (std::size_t key = 0; key < m_keys.size(); ++key)
+        const int type = m_keys[key].sortType;
+        return type == kByCatalogue ? VorBomDataToken::kSortString : static_cast<VorBomDataToken::eSortType>(type);
+    }
+
+    bool isUnknown(std::size_t key) const { return m_keys[key].sortType == kByCatalogue; }
+
+    // Reports a token that nobody knows, as the first comparison of two values under it does; nothing after that.
+    void reportIfUnknown(std::size_t key) { m_keys[key].findSortType(); }
+
+    // Compares two rows, of which firstTuple(key) and secondTuple(key) tell the tuple under a key, or null. The keys
+    // before `firstKey` are known to be equal.
+    template <class FirstTuple, class SecondTuple>
+    int compare(FirstTuple firstTuple, SecondTuple secondTuple, std::size_t firstKey = 0)
+    {
+        for (std::size_t key = firstKey; key < m_keys.size(); ++key)
             if (const int order = m_keys[key].compare(firstTuple(key), secondTuple(key)))
                 return order;
         return 0;
@@ -48,6 +59,7 @@ private:
     {
         int compare(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond);
         int compareValues(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond);
+        void findSortType();
 
         VorString token;
         bool isAscending;

@@ -6,9 +6,9 @@
 #include "VorBomSortedRows.h"
 
 #include "VorBomColumns.h"
-#include "VorBomRanks.h"
 #include "VorStableMergeSort.h"
 
+#include <algorithm>
 #include <memory>
 #include <numeric>
 #include <utility>
@@ -24,7 +24,7 @@ VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorBomSortKeys& keys)
     for (Column& column : m_columns)
         column.resize(m_rows.size());
     // The pointers outlive `columns`: they hold as long as no row gets a tuple, and none does while rows are sorted.
-    VorBomColumns columns(std::make_shared<VorBomRowLayouts>(), std::move(tokens));
+    VorBomColumns columns(std::make_shared<VorBomTuplePositions>(), std::move(tokens));
     for (std::size_t row = 0; row < m_rows.size(); ++row)
     {
         columns.find(*m_rows[row]);
@@ -37,8 +37,11 @@ std::vector<VorBomItemBase*> VorBomSortedRows::sorted()
 {
     std::vector<std::uint32_t> indices(m_rows.size());
     std::iota(indices.begin(), indices.end(), 0U);
-    if (!sortByRanks(indices))
-        vorStableMergeSort(indices, [this](std::uint32_t a, std::uint32_t b) { return compareRows(a, b) <= 0; });
+    const Ranks ranks = rankColumns();
+    for (std::size_t key = m_keys.count(); key-- > 0;)
+        ranks[key].sortStably(indices, m_keys.isAscending(key));
+    mergeUnordered(ranks, indices);
+    reportUnknownKeys(ranks, indices);
 
     std::vector<VorBomItemBase*> rows;
     rows.reserve(indices.size());
@@ -47,25 +50,74 @@ std::vector<VorBomItemBase*> VorBomSortedRows::sorted()
     return rows;
 }
 
-// False with `indices` untouched when a column cannot be ranked, or its token is one that comparing reports as unknown.
-bool VorBomSortedRows::sortByRanks(std::vector<std::uint32_t>& indices) const
+VorBomSortedRows::Ranks VorBomSortedRows::rankColumns() const
 {
-    // All columns are ranked before any sorting, so that giving up leaves nothing half sorted.
-    std::vector<VorBomRanks> ranks(m_keys.count());
+    Ranks ranks;
+    ranks.reserve(m_keys.count());
     for (std::size_t key = 0; key < m_keys.count(); ++key)
-    {
-        const int sortType = m_keys.sortType(key);
-        if (sortType == VorBomSortKeys::kByCatalogue ||
-            !ranks[key].create(m_columns[key], static_cast<VorBomDataToken::eSortType>(sortType)))
-            return false;
-    }
-    for (std::size_t key = m_keys.count(); key-- > 0;)
-        ranks[key].sortStably(indices, m_keys.isAscending(key));
-    return true;
+        ranks.emplace_back(m_columns[key], m_keys.sortType(key));
+    return ranks;
 }
 
-int VorBomSortedRows::compareRows(std::uint32_t first, std::uint32_t second)
+// Told on %Material and %Length, and rows 0 to 3 with S235 1.0000016, S355 1, S235 1, S235 1.0000008:
+//   by ranks     0 2 3 1: the lengths share one rank, an unordered one
+//   0 2 3        tie up to %Length, so their lengths are merged. 2 and 3 are equal; 2 is less than 0, but 3 is equal to
+//                it: 2 0 3
+//   1            ties with no other row
+void VorBomSortedRows::mergeUnordered(const Ranks& ranks, std::vector<std::uint32_t>& indices)
+{
+    const auto hasUnordered = [](const VorBomRanks& column) { return column.hasUnordered(); };
+    if (std::none_of(ranks.begin(), ranks.end(), hasUnordered))
+        return;
+    std::vector<std::uint32_t> buffer(indices.size());
+    for (auto begin = indices.begin(); begin != indices.end();)
+    {
+        const std::uint32_t first = *begin;
+        const auto unordered = std::find_if(ranks.begin(), ranks.end(),
+                                            [first](const VorBomRanks& column) { return column.isUnordered(first); });
+        if (unordered == ranks.end())
+        {
+            ++begin;
+            continue;
+        }
+        const auto isApart = [&](std::uint32_t row)
+        {
+            return std::any_of(ranks.begin(), unordered + 1,
+                               [first, row](const VorBomRanks& column)
+                               { return column.rankOf(row) != column.rankOf(first); });
+        };
+        const auto end = std::find_if(begin, indices.end(), isApart);
+        std::sort(begin, end); // as they came, before the keys behind this one sorted them
+        const auto isNotAfter = [this, key = static_cast<std::size_t>(unordered - ranks.begin())](
+                                    std::uint32_t a, std::uint32_t b) { return compareRows(a, b, key) <= 0; };
+        std::uint32_t* const pBegin = indices.data() + (begin - indices.begin());
+        vorStableMergeSort(pBegin, pBegin + (end - begin), buffer.data(), isNotAfter);
+        begin = end;
+    }
+}
+
+// A token that nobody knows is reported when two values under it are compared. Whatever the way of sorting, neighbours
+// in the result were: two that have the datum and tie in all keys before it.
+void VorBomSortedRows::reportUnknownKeys(const Ranks& ranks, const std::vector<std::uint32_t>& indices)
+{
+    for (std::size_t key = 0; key < ranks.size(); ++key)
+    {
+        if (!m_keys.isUnknown(key))
+            continue;
+        const auto areCompared = [&ranks, key](std::uint32_t first, std::uint32_t second)
+        {
+            const auto areTied = [first, second](const VorBomRanks& column)
+            { return column.rankOf(first) == column.rankOf(second) && !column.isUnordered(first); };
+            return ranks[key].hasDatum(first) && ranks[key].hasDatum(second) &&
+                   std::all_of(ranks.begin(), ranks.begin() + static_cast<std::ptrdiff_t>(key), areTied);
+        };
+        if (std::adjacent_find(indices.begin(), indices.end(), areCompared) != indices.end())
+            m_keys.reportIfUnknown(key);
+    }
+}
+
+int VorBomSortedRows::compareRows(std::uint32_t first, std::uint32_t second, std::size_t firstKey)
 {
     return m_keys.compare([this, first](std::size_t key) { return m_columns[key][first]; },
-                          [this, second](std::size_t key) { return m_columns[key][second]; });
+                          [this, second](std::size_t key) { return m_columns[key][second]; }, firstKey);
 }

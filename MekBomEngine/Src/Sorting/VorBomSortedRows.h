@@ -4,11 +4,13 @@
 //   VorBomSortedRows rows(data, keys);   // %Material and %Length, length descending
 //   rows.sorted()  ->  S235 200, S355 300, S355 100
 //
-// Each row's tuples are looked up once. Columns that can be ranked (VorBomRanks), as nearly all can, are sorted by
-// counting ranks, from the last key to the first; if one cannot, values are compared in a stable merge.
+// Each row's tuples are looked up once, and rows are sorted by counting the ranks of their values (VorBomRanks), from the
+// last key to the first. Where values of a key have no order, and only among rows that are equal under all keys before,
+// values are compared in a stable merge: the result is that of such a merge over all rows.
 #pragma once
 
 #include "VorBomData.h"
+#include "VorBomRanks.h"
 #include "VorBomSortKeys.h"
 
 #include <cstdint>
@@ -28,8 +30,13 @@ public:
 private:
     using Column = std::vector<const VorBomDataTuple*>; // one tuple per row
 
-    bool sortByRanks(std::vector<std::uint32_t>& indices) const;
-    int compareRows(std::uint32_t first, std::uint32_t second);
+    // Ranks of all columns, one for each key.
+    using Ranks = std::vector<VorBomRanks>;
+
+    Ranks rankColumns() const;
+    void mergeUnordered(const Ranks& ranks, std::vector<std::uint32_t>& indices);
+    void reportUnknownKeys(const Ranks& ranks, const std::vector<std::uint32_t>& indices);
+    int compareRows(std::uint32_t first, std::uint32_t second, std::size_t firstKey);
 
     VorBomSortKeys m_keys;
     std::vector<VorBomItemBase*> m_rows;

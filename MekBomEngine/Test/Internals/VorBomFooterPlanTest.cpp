@@ -9,7 +9,7 @@ using Item = VorBomTemplateItem;
 
 VorBomFooterPlan planFor(const Item& section)
 {
-    return VorBomFooterPlan(std::make_shared<VorBomRowLayouts>(), section);
+    return VorBomFooterPlan(std::make_shared<VorBomTuplePositions>(), section);
 }
 
 Item footer(Tuples tuples)

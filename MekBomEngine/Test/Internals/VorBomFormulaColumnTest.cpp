@@ -16,7 +16,7 @@ VorBomDataTupleArray section(Tuples tuples)
 // The formula is the last tuple.
 VorBomFormulaColumn formulaOf(const VorBomDataTupleArray& tuples)
 {
-    return VorBomFormulaColumn(std::make_shared<VorBomRowLayouts>(), tuples, tuples.length() - 1);
+    return VorBomFormulaColumn(std::make_shared<VorBomTuplePositions>(), tuples, tuples.length() - 1);
 }
 
 // The result as text, "-" for none. Reading the formula once and evaluating it from its text must agree.

@@ -9,7 +9,7 @@ using Item = VorBomTemplateItem;
 
 VorBomHeaderPlan planFor(const Item& section)
 {
-    return VorBomHeaderPlan(std::make_shared<VorBomRowLayouts>(), section);
+    return VorBomHeaderPlan(std::make_shared<VorBomTuplePositions>(), section);
 }
 
 Item details(Tuples tuples)

@@ -30,7 +30,7 @@ TEST(VorBomLevelPlanTest, RowsAgreeWhenTheirFirstTuplesDo)
     Item header(Item::kGroupHeader);
     header.addData(VorBomDataTuple(L"%GroupBy:%Name,%Weight", VorString()));
     header.findGroupingTokens();
-    VorBomLevelPlan plan(std::make_shared<VorBomRowLayouts>(), header, nullptr);
+    VorBomLevelPlan plan(std::make_shared<VorBomTuplePositions>(), header, nullptr);
     VorBomDataRow first;
     VorBomDataRow second;
     EXPECT_EQ(1, plan.isSameGroup(first, second)) << "both lack everything";
@@ -50,7 +50,7 @@ TEST(VorBomLevelPlanTest, RowsOfUnlikeKindsAreReportedAndNeverAgree)
     Item header(Item::kGroupHeader);
     header.addData(VorBomDataTuple(L"%GroupBy:%Weight", VorString()));
     header.findGroupingTokens();
-    VorBomLevelPlan plan(std::make_shared<VorBomRowLayouts>(), header, nullptr);
+    VorBomLevelPlan plan(std::make_shared<VorBomTuplePositions>(), header, nullptr);
     VorBomDataRow first;
     VorBomDataRow second;
     first.addData(VorBomDataTuple(L"%Weight", 1));

@@ -23,14 +23,20 @@ public:
             m_pointers.push_back(tuple.token().token().isEmpty() ? nullptr : &tuple);
     }
 
-    bool canBeRanked(VorBomDataToken::eSortType sortType) const { return VorBomRanks().create(m_pointers, sortType); }
+    // The rows' ranks, with "!" behind one that is unordered.
+    std::string ranks(VorBomDataToken::eSortType sortType) const
+    {
+        const VorBomRanks ranks(m_pointers, sortType);
+        std::string text;
+        for (std::uint32_t row = 0; row < m_pointers.size(); ++row)
+            text += std::to_string(ranks.rankOf(row)) + (ranks.isUnordered(row) ? "!" : "");
+        return text;
+    }
 
-    // The rows' indices after sorting, "!" when the column cannot be ranked.
+    // The rows' indices after sorting.
     std::string sorted(VorBomDataToken::eSortType sortType, bool isAscending = true) const
     {
-        VorBomRanks ranks;
-        if (!ranks.create(m_pointers, sortType))
-            return "!";
+        const VorBomRanks ranks(m_pointers, sortType);
         std::vector<std::uint32_t> rows(m_pointers.size());
         std::iota(rows.begin(), rows.end(), 0U);
         ranks.sortStably(rows, isAscending);
@@ -94,40 +100,53 @@ TEST(VorBomRanksTest, ColumnWithoutAnyDataIsAllEqual)
     EXPECT_EQ("01", Column({ kMissing, kMissing }).sorted(VorBomDataToken::kSortAlphanumeric));
 }
 
-TEST(VorBomRanksTest, UnlikeOrEmptyValuesCannotBeRanked)
+TEST(VorBomRanksTest, UnlikeOrEmptyValuesShareAnUnorderedRank)
 {
     VorBomDataTuple empty = datum(1);
     VorBomDataValue(std::move(empty.value()));
 
-    EXPECT_FALSE(Column({ datum(1), datum(1.0) }).canBeRanked(VorBomDataToken::kSortNumeric));
-    EXPECT_FALSE(Column({ datum(1), text(L"1") }).canBeRanked(VorBomDataToken::kSortString));
-    EXPECT_FALSE(Column({ empty }).canBeRanked(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("1!1!0", Column({ datum(1), datum(1.0), kMissing }).ranks(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("1!01!", Column({ datum(1), kMissing, text(L"1") }).ranks(VorBomDataToken::kSortString));
+    EXPECT_EQ("1!", Column({ empty }).ranks(VorBomDataToken::kSortNumeric));
 }
 
 TEST(VorBomRanksTest, NumbersHaveNoNaturalOrder)
 {
-    EXPECT_FALSE(Column({ datum(1), datum(2) }).canBeRanked(VorBomDataToken::kSortAlphanumeric));
-    EXPECT_FALSE(Column({ datum(1.0) }).canBeRanked(VorBomDataToken::kSortAlphanumeric));
+    EXPECT_EQ("1!1!", Column({ datum(1), datum(2) }).ranks(VorBomDataToken::kSortAlphanumeric));
+    EXPECT_EQ("1!", Column({ datum(1.0) }).ranks(VorBomDataToken::kSortAlphanumeric));
 }
 
-TEST(VorBomRanksTest, DoublesWithinTheToleranceCannotBeRanked)
+TEST(VorBomRanksTest, DoublesAllWithinTheToleranceOfEachOtherAreEqual)
 {
-    EXPECT_FALSE(Column({ datum(1.0), datum(1.0000005) }).canBeRanked(VorBomDataToken::kSortNumeric));
-    EXPECT_FALSE(Column({ datum(1.0), datum(std::nan("")) }).canBeRanked(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("11", Column({ datum(1.0), datum(1.0000005) }).ranks(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("11213", Column({ datum(2.0000008), datum(2.0), datum(7.5), datum(2.0000004), datum(8.0) })
+                           .ranks(VorBomDataToken::kSortNumeric));
     EXPECT_EQ("01", Column({ datum(1.0), datum(1.0000011) }).sorted(VorBomDataToken::kSortNumeric));
     EXPECT_EQ("01", Column({ datum(0.0), datum(-0.0) }).sorted(VorBomDataToken::kSortNumeric));
     EXPECT_EQ("120", Column({ datum(INFINITY), datum(-INFINITY), datum(1.0) }).sorted(VorBomDataToken::kSortNumeric));
 }
 
+TEST(VorBomRanksTest, AChainOfDoublesWhoseEndsDifferIsUnordered)
+{
+    const Column column({ datum(2.0000008), datum(1.0), datum(2.0), datum(2.0000016), datum(3.0), datum(3.0000009) });
+
+    EXPECT_EQ("2!12!2!33", column.ranks(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("102345", column.sorted(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("450231", column.sorted(VorBomDataToken::kSortNumeric, false));
+}
+
 // No sort of the standard may see one.
-TEST(VorBomRanksTest, ColumnsFullOfNaNsCannotBeRanked)
+TEST(VorBomRanksTest, ANaNLeavesAllNumbersUnordered)
 {
     std::vector<VorBomDataTuple> tuples;
     for (int i = 0; i < 500; ++i)
         tuples.push_back(datum(i % 3 == 0 ? std::nan("") : 250.0 - i));
+    const Column column(std::move(tuples));
 
-    EXPECT_FALSE(Column(std::move(tuples)).canBeRanked(VorBomDataToken::kSortNumeric));
-    EXPECT_FALSE(Column({ datum(std::nan("")) }).canBeRanked(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("1!1!1!1!", column.ranks(VorBomDataToken::kSortNumeric).substr(0, 8));
+    EXPECT_EQ("1!01!1!",
+              Column({ datum(5.0), kMissing, datum(std::nan("")), datum(1.0) }).ranks(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("1!", Column({ datum(std::nan("")) }).ranks(VorBomDataToken::kSortNumeric));
 }
 
 TEST(VorBomRanksTest, RankedColumnsComeOutAsComparingThemDoes)
@@ -148,9 +167,7 @@ TEST(VorBomRanksTest, RankedColumnsComeOutAsComparingThemDoes)
                          [&](std::uint32_t a, std::uint32_t b)
                          { return VorBomDataTuple::compareValues(pointers[a], pointers[b]) < 0; });
 
-        VorBomRanks ranks;
-        ASSERT_EQ(1, ranks.create(pointers, VorBomDataToken::kSortNumeric));
-        ranks.sortStably(rows, true);
+        VorBomRanks(pointers, VorBomDataToken::kSortNumeric).sortStably(rows, true);
 
         EXPECT_EQ(expected, rows);
     }
@@ -177,8 +194,8 @@ void expectAsAStableSort(Source next, int numRows, std::mt19937& random)
     std::vector<const VorBomDataTuple*> pointers;
     for (const VorBomDataTuple& tuple : tuples)
         pointers.push_back(random() % 7 == 0 ? nullptr : &tuple);
-    VorBomRanks ranks;
-    ASSERT_EQ(1, ranks.create(pointers, VorBomDataToken::kSortNumeric));
+    const VorBomRanks ranks(pointers, VorBomDataToken::kSortNumeric);
+    ASSERT_FALSE(ranks.hasUnordered());
 
     for (const int sign : { 1, -1 })
     {
@@ -235,9 +252,9 @@ TEST(VorBomRanksTest, NumbersSmallerThanTheToleranceCannotBeToldFromZero)
 {
     const double smallest = std::numeric_limits<double>::denorm_min();
 
-    EXPECT_FALSE(columnOf({ 0.0, smallest }).canBeRanked(VorBomDataToken::kSortNumeric));
-    EXPECT_FALSE(columnOf({ -smallest, 5.0, smallest }).canBeRanked(VorBomDataToken::kSortNumeric));
-    EXPECT_TRUE(columnOf({ smallest, smallest }).canBeRanked(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("11", columnOf({ 0.0, smallest }).ranks(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("121", columnOf({ -smallest, 5.0, smallest }).ranks(VorBomDataToken::kSortNumeric));
+    EXPECT_EQ("11", columnOf({ smallest, smallest }).ranks(VorBomDataToken::kSortNumeric));
 }
 
 TEST(VorBomRanksTest, ManyEqualNumbersKeepTheirOrder)

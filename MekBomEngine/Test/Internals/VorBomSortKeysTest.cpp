@@ -113,11 +113,15 @@ TEST(VorBomSortKeysTest, UnknownTokenWithASortTypeOfItsOwnIsNotReported)
     EXPECT_TRUE(log.isEmpty());
 }
 
-TEST(VorBomSortKeysTest, TokensWithoutEntryHaveNoSortTypeToRankBy)
+TEST(VorBomSortKeysTest, TokensWithoutEntryAreUnknownAndComparePlainly)
 {
     const VorBomSortKeys keys = keysOf({ { L"%Num", 1 }, { L"%Formula:%A*2", 1 }, { L"%Nobody", 1 } });
 
     EXPECT_EQ(VorBomDataToken::kSortAlphanumeric, keys.sortType(0));
-    EXPECT_EQ(VorBomSortKeys::kByCatalogue, keys.sortType(1));
-    EXPECT_EQ(VorBomSortKeys::kByCatalogue, keys.sortType(2));
+    EXPECT_FALSE(keys.isUnknown(0));
+    for (const std::size_t key : { 1U, 2U })
+    {
+        EXPECT_TRUE(keys.isUnknown(key));
+        EXPECT_EQ(VorBomDataToken::kSortString, keys.sortType(key));
+    }
 }

@@ -1,24 +1,25 @@
+// The lists of a template with groups by %Material and, in these, by %Name:
+//
+//   tuples()                                     "%GroupBy:%Material", "%SumBy:%Weight", "%GroupBy:%Name" ...
+//   tuplesOf(kGroup)                             the first and the third of them
+//   groupTokensDownTo(1), groupTokensDownTo(2)   { "%Material" }, { "%Material", "%Name" }
+//
+// All tuples are listed first, and pointers to them are taken only once the list grows no more.
 #include "CheckedTemplate.h"
 
+#include "TemplateLevels.h"
 #include "Utf8.h"
 
 #include <algorithm>
 
 namespace mekbom
 {
-namespace
-{
-const VorBomTemplateItem* sectionOf(const VorBomItemBase* pItem)
-{
-    return static_cast<const VorBomTemplateItem*>(pItem); // all below the root are sections
-}
-}
-
 CheckedTemplate::CheckedTemplate(const ReportTemplate& reportTemplate) : m_template(reportTemplate)
 {
-    for (const VorBomItemBase* pItem = m_template.pTemplate->child(); pItem != nullptr; pItem = pItem->child())
+    const TemplateLevels levels(*m_template.pTemplate);
+    for (int i = 0; i < levels.count(); ++i)
     {
-        m_levels.push_back({ sectionOf(pItem), sectionOf(pItem->next()) });
+        m_levels.push_back({ levels.section({ i, false }), levels.section({ i, true }) });
         addTuples(m_levels.back().pHeader, false);
         addTuples(m_levels.back().pFooter, true);
     }
@@ -37,7 +38,8 @@ void CheckedTemplate::addTuples(const VorBomTemplateItem* pSection, bool isFoote
     }
 }
 
-// Those of the level above, and its own.
+// A list begins with that of the level around it: parts of one %Name are in one group only as long as the group by
+// %Material around them is the same.
 void CheckedTemplate::addGroupTokens(std::size_t level)
 {
     std::vector<std::string> tokens = level == 0 ? std::vector<std::string>() : m_groupTokens.back();
@@ -53,7 +55,8 @@ bool CheckedTemplate::isSummary() const
     return m_template.styleOf(deepest().pHeader).isSummary;
 }
 
-// Details of the outermost level never merge.
+// Details of the outermost level never merge: the engine compares a line with the one before it in the same group, and
+// there is no group around these.
 bool CheckedTemplate::mergesEqualLines() const
 {
     return (m_template.equalLines == kEqualLinesOpen || m_template.equalLines == kMergeEqualLines) &&
@@ -62,6 +65,7 @@ bool CheckedTemplate::mergesEqualLines() const
 
 std::string typeName(const VorBomTemplateItem& section)
 {
+    // In the order of VorBomTemplateItem::eTemplateItemType.
     static const char* const names[] = { "section",  "template",     "kReportHeader", "kPageHeader",  "kGroupHeader",
                                          "kDetails", "kGroupFooter", "kPageFooter",   "kReportFooter" };
     return names[section.type()];

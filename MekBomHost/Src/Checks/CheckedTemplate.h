@@ -8,7 +8,9 @@
 //   kReportFooter
 //
 // Position alone makes a header or footer: of siblings the first opens a level and the second closes it. What stands
-// behind these two, and what stands below a footer, is in no level. Looks at the template, which outlives it.
+// behind these two, and what stands below a footer, is in no level.
+//
+// The template is not owned, outlives this object and keeps its sections meanwhile.
 #pragma once
 
 #include "ReportTemplate.h"
@@ -26,13 +28,13 @@ struct CheckedLevel
     const VorBomTemplateItem* pFooter; // null for a level without one
 };
 
-// A tuple of a section that the engine evaluates.
+// A tuple of a section that the engine evaluates, with where it stands and what it asks for.
 struct CheckedTuple
 {
     std::size_t level; // 0 for the outermost
     bool isFooter;
-    const VorBomTemplateItem* pSection;
-    int index; // in its section
+    const VorBomTemplateItem* pSection; // the template's
+    int index;                          // among the tuples of its section, from 0
     std::string token;
     TokenRequest request;
 
@@ -48,23 +50,26 @@ public:
 
     const ReportTemplate& file() const { return m_template; }
     const std::vector<CheckedLevel>& levels() const { return m_levels; }
+
+    // The level that has none below it: the details of most lists. Only where there are levels at all.
     const CheckedLevel& deepest() const { return m_levels.back(); }
     bool isDeepest(std::size_t level) const { return level + 1 == m_levels.size(); }
 
-    // Of all levels, outermost first, the header before the footer.
+    // The tuples of all levels, outermost first and of each level those of the header first.
     const std::vector<CheckedTuple>& tuples() const { return m_tuples; }
 
-    // Those of one kind.
+    // The tuples of one kind, in the same order.
     const std::vector<const CheckedTuple*>& tuplesOf(TokenRequest::eKind kind) const { return m_tuplesOf[kind]; }
 
-    // What the groups of that level are told apart by: the tokens that the headers down to it are grouped by, the
-    // deepest level left out, where grouping has no effect.
+    // What tells the groups of that level from each other: the tokens that its header and those around it group by.
+    // A grouping request in the deepest level adds none: each row is a group of its own there.
     const std::vector<std::string>& groupTokensDownTo(std::size_t level) const { return m_groupTokens[level]; }
 
     // Whether the list prints groups without the lines in them.
     bool isSummary() const;
 
-    // Whether lines that read alike leave the totals: that is the engine's own way, which a template may change.
+    // Whether the engine merges a line into the one before it where both read alike, and takes its row out of all
+    // totals: its own way, unless the template says "count" or "keep", or prints no lines.
     bool mergesEqualLines() const;
 
 private:

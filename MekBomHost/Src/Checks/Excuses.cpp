@@ -1,3 +1,5 @@
+// "--allow MB150" is refused rather than passed over: there is no such mistake, so that the one that was meant would go
+// on stopping the report. The codes in a template need no second look: TemplateReader has refused them at their place.
 #include "Excuses.h"
 
 #include "Fault.h"

@@ -14,6 +14,7 @@
 
 namespace mekbom
 {
+// Both prefixes are taken off: "%SumBy:%Formula:%Weight*2" is about the formula "%Weight*2".
 void FormulaMistakes::run()
 {
     const FormulaResults results(m_list.file());
@@ -28,8 +29,9 @@ void FormulaMistakes::run()
     m_mistakes.addPlaced(results.undeclared());
 }
 
-// That nobody says what the result measures is left to FormulaResults, which knows of "tokenUnits" and of columns that
-// show the formula elsewhere.
+// FormulaRules, too, tells that nobody says what the result measures, as it must where there is no template. Here that
+// is left to FormulaResults, which knows of "tokenUnits" and of columns that show the formula elsewhere. A token
+// that nothing knows is handed over as kUnknown, of which FormulaRules is silent: TokenRules tells it once, as MB501.
 void FormulaMistakes::findIn(const CheckedTuple& tuple, const VorString& formula, const std::string& declared)
 {
     const FormulaOperands operands = [this](const VorString& name)

@@ -1,5 +1,8 @@
-// The mistakes in formulas, MB401 to MB421, of all formulas that a template computes or sums: FormulaRules finds them, and
-// FormulaResults those whose result nobody says.
+// The mistakes in formulas, of all that a template computes or sums: those from MB401 to MB422 for which the formula
+// and the template are enough.
+//
+// FormulaRules finds them in the text, and FormulaResults those whose result nobody says (MB421). That a formula stands
+// only in a footer (MB403) is told by SumRules, and that rows lack one of its data (MB413) by OperandRule.
 #pragma once
 
 #include "TemplateRules.h"

@@ -2,9 +2,9 @@
 // levels make one key, the outermost first, and groups are whole when it begins with the tokens of their level and of
 // those above it, in whatever order, and has no other token among them:
 //
-//   level 1  "%GroupBy:%Material"   "%SortAscBy:%Class,%Material"    MB201: rows of one material are spread over classes
+//   level 1  "%GroupBy:%Material"   "%SortAscBy:%Class,%Material"   MB201: rows of one material are spread over classes
 //   level 1  "%GroupBy:%Material"   "%SortAscBy:%Material"
-//   level 2  "%GroupBy:%Name"       "%SortDescBy:%Name,%Length"      right: %Length comes behind both
+//   level 2  "%GroupBy:%Name"       "%SortDescBy:%Name,%Length"     right: %Length comes behind both
 #include "GroupingRules.h"
 
 #include "Utf8.h"
@@ -26,7 +26,7 @@ std::string listOf(const CheckedTuple& tuple)
     return list;
 }
 
-// Texts of the catalogue in which numbers stand as a rule.
+// Texts of the catalogue in which numbers stand as a rule, though the catalogue sorts them as plain texts.
 bool isNumberedText(const std::string& token)
 {
     static const std::vector<std::string> tokens = { "%Phase",    "%Level",     "%HeatNumber",       "%LoadNumber",
@@ -48,11 +48,13 @@ std::string mendedList(const std::string& list)
     return mended;
 }
 
+// The prefix stays: "%SortDescBy:%A;%B" becomes "%SortDescBy:%A,%B".
 std::string mendedRequest(const CheckedTuple& tuple)
 {
     return tuple.token.substr(0, tuple.token.find(':') + 1) + mendedList(tuple.request.subject);
 }
 
+// Whether a column of the template says "order": "natural" or "plain" for the token.
 bool saysOrder(const CheckedTemplate& list, const std::string& token)
 {
     const ColumnStyle* const pStyle = list.file().columnStyleOf(Utf8::toWide(token));
@@ -62,10 +64,9 @@ bool saysOrder(const CheckedTemplate& list, const std::string& token)
 
 void GroupingRules::run(bool hasData)
 {
-    for (std::size_t i = 0; i < m_list.levels().size(); ++i)
-        findUnsortedGroups(i);
     for (const CheckedTuple* const pTuple : m_list.tuplesOf(TokenRequest::kGroup))
     {
+        findUnsortedGroups(*pTuple);
         findBadElements(*pTuple);
         findGroupingWithoutEffect(*pTuple);
         findGroupingByFloat(*pTuple);
@@ -82,38 +83,41 @@ void GroupingRules::run(bool hasData)
     findFilters();
 }
 
-// Grouping is read in headers; in the deepest level, where every row is a group of its own, to no effect.
+// Requests are read in headers alone. In that of the deepest level a sorting request works, but a grouping request does
+// not: every row is a group of its own there.
 bool GroupingRules::isRead(const CheckedTuple& tuple) const
 {
     return !tuple.isFooter && (tuple.request.kind != TokenRequest::kGroup || !m_list.isDeepest(tuple.level));
 }
 
+// The engine sorts once, by the requests of all levels one behind the other, before it makes any group. What is no
+// token is left out, as no row has it.
 std::vector<std::string> GroupingRules::sortKeys() const
 {
     std::vector<std::string> keys;
     for (const CheckedTuple* const pTuple : m_list.tuplesOf(TokenRequest::kSort))
         for (const Element& element : pTuple->request.elements)
-            if (isRead(*pTuple) && element.sort == TokenRequest::kToken)
+            if (isRead(*pTuple) && element.kind == TokenRequest::kToken)
                 keys.push_back(element.token);
     return keys;
 }
 
-void GroupingRules::findUnsortedGroups(std::size_t level)
+void GroupingRules::findUnsortedGroups(const CheckedTuple& tuple)
 {
-    for (const CheckedTuple* const pTuple : m_list.tuplesOf(TokenRequest::kGroup))
-        if (pTuple->level == level && isRead(*pTuple))
-        {
-            findMissingKeys(*pTuple);
-            findKeyBefore(*pTuple);
-        }
+    if (!isRead(tuple))
+        return;
+    findMissingKeys(tuple);
+    findKeyBefore(tuple);
 }
 
+// MB201 trips on "%GroupBy:%Material" without a sorting request for %Material, and does not when the request stands on
+// another level: "%SortAscBy:%Material" in the details sorts the rows as well.
 void GroupingRules::findMissingKeys(const CheckedTuple& tuple)
 {
     const std::vector<std::string> keys = sortKeys();
     std::string missing;
     for (const Element& element : tuple.request.elements)
-        if (element.sort == TokenRequest::kToken && !contains(keys, element.token))
+        if (element.kind == TokenRequest::kToken && !contains(keys, element.token))
             missing += (missing.empty() ? "" : ",") + element.token;
     if (!missing.empty())
         m_mistakes.add(MistakeCodes::kGroupNotSorted, tuple,
@@ -122,7 +126,9 @@ void GroupingRules::findMissingKeys(const CheckedTuple& tuple)
                        inQuotes(tuple.token) + " needs " + inQuotes("%SortAscBy:" + missing) + " beside it");
 }
 
-// A key of neither this group nor those around it that comes before one of the group's own.
+// MB201 trips on "%GroupBy:%Material" with "%SortAscBy:%Name,%Material", since rows of S235 stand under each name, and
+// does not with "%SortAscBy:%Material,%Name", nor where a level around it groups by %Name. `other` is the first key
+// that belongs neither to this group nor to those around it; one key of the group's own behind it is enough.
 void GroupingRules::findKeyBefore(const CheckedTuple& tuple)
 {
     const std::vector<std::string> keys = sortKeys();
@@ -143,13 +149,19 @@ void GroupingRules::findKeyBefore(const CheckedTuple& tuple)
     }
 }
 
+// "%GroupBy:%Material,%Name" is right. One letter off, it is one of four mistakes, each with another remedy:
+//
+//   MB205   "%GroupBy:%Material;%Name"            one element with a semicolon in it
+//   MB202   "%GroupBy:Material"                   no percent sign
+//   MB206   "%GroupBy:%SortAscBy:%Material"       a request in place of a token
+//   MB207   "%GroupBy:%Formula:%Length*2"         a formula, which is computed only when its group is open
 void GroupingRules::findBadElements(const CheckedTuple& tuple)
 {
     const bool groups = tuple.request.kind == TokenRequest::kGroup;
     const std::string effect =
         groups ? "no row has it, so all rows are one group" : "no row has it, so nothing is sorted";
     for (const Element& element : tuple.request.elements)
-        switch (element.sort)
+        switch (element.kind)
         {
             case TokenRequest::kToken: break;
             case TokenRequest::kMalformed:
@@ -178,7 +190,8 @@ void GroupingRules::findBadElements(const CheckedTuple& tuple)
         }
 }
 
-// A group header that is the deepest level is told of as such.
+// MB203 trips on "%GroupBy:%Name" in the details and in any footer, and does not in the kGroupHeader around them. In a
+// kGroupHeader that is the deepest level MB104 is told alone: once that has its details, the grouping works.
 void GroupingRules::findGroupingWithoutEffect(const CheckedTuple& tuple)
 {
     const bool isInDetails =
@@ -190,6 +203,7 @@ void GroupingRules::findGroupingWithoutEffect(const CheckedTuple& tuple)
                        "move it to the kGroupHeader whose groups it is to make");
 }
 
+// MB204 trips on "%SortDescBy:%Weight" in the kGroupFooter, and does not in the details, which sort within the groups.
 void GroupingRules::findSortingWithoutEffect(const CheckedTuple& tuple)
 {
     if (tuple.isFooter)
@@ -198,6 +212,8 @@ void GroupingRules::findSortingWithoutEffect(const CheckedTuple& tuple)
                        "move it to the " + typeName(*m_list.levels()[tuple.level].pHeader) + " in front of the footer");
 }
 
+// MB208 is a note: it trips on "%SortDescBy:%Weight,%Name", where %Name goes from Z to A as well, and does not on
+// "%SortDescBy:%Weight,%SortAscBy:%Name", nor on "%SortAscBy:%Weight,%Name", since upwards is what everybody expects.
 void GroupingRules::findDescendingThatGoesOn(const CheckedTuple& tuple)
 {
     for (const Element& element : tuple.request.elements)
@@ -208,11 +224,13 @@ void GroupingRules::findDescendingThatGoesOn(const CheckedTuple& tuple)
                                inQuotes("%SortDescBy:" + element.token) + " in the list, to say which is meant");
 }
 
+// MB209 trips on "%GroupBy:%Length" and does not on "%GroupBy:%Quantity": 6000.000 and 6000.004 mm print alike and are
+// two groups all the same, since the engine takes numbers for equal that are less than 1e-6 apart.
 void GroupingRules::findGroupingByFloat(const CheckedTuple& tuple)
 {
     std::string numbers;
     for (const Element& element : tuple.request.elements)
-        if (element.sort == TokenRequest::kToken && m_tokens.kindOf(element.token) == KnownTokens::kNumber)
+        if (element.kind == TokenRequest::kToken && m_tokens.kindOf(element.token) == KnownTokens::kNumber)
             numbers += (numbers.empty() ? "" : " and ") + element.token;
     if (isRead(tuple) && !numbers.empty())
         m_mistakes.add(MistakeCodes::kGroupingByFloat, tuple,
@@ -222,6 +240,8 @@ void GroupingRules::findGroupingByFloat(const CheckedTuple& tuple)
                        "\"the data are rounded\" }");
 }
 
+// MB210 is a note: it trips on "%SortAscBy:%Phase", where phase 10 comes before phase 2, and does not once a column of
+// the template says "order" for %Phase, be it "plain".
 void GroupingRules::findPlainOrder(const CheckedTuple& tuple)
 {
     for (const Element& element : tuple.request.elements)
@@ -231,6 +251,8 @@ void GroupingRules::findPlainOrder(const CheckedTuple& tuple)
                            "say \"order\": \"natural\" in the column " + inQuotes(element.token));
 }
 
+// MB211 trips on "%SortAscBy:%PosNum", and does not when "tokens" says that %PosNum is a number. Where it is a column
+// of the data, PlainOrderRule tells it if the cells are texts.
 void GroupingRules::findSortingByUnknown(bool hasData)
 {
     for (const SortKey& key : sortKeysOfOpenOrder(m_list, m_tokens))
@@ -241,19 +263,23 @@ void GroupingRules::findSortingByUnknown(bool hasData)
                            helpForOpenOrder(key.token));
 }
 
+// MB213 trips on "%GroupBy:%Material" within groups by %Material, and does not on "%GroupBy:%Material,%Name" around
+// groups by other tokens.
 void GroupingRules::findGroupedTwice(const CheckedTuple& tuple)
 {
     if (!isRead(tuple) || tuple.level == 0)
         return;
     const std::vector<std::string> outer = m_list.groupTokensDownTo(tuple.level - 1);
     for (const Element& element : tuple.request.elements)
-        if (element.sort == TokenRequest::kToken && contains(outer, element.token))
+        if (element.kind == TokenRequest::kToken && contains(outer, element.token))
             m_mistakes.add(MistakeCodes::kGroupedTwice, tuple,
                            inQuotes(tuple.token) + " groups by " + element.token + " within groups by " +
                                element.token + ", which splits nothing",
                            "take " + element.token + " out of it, or the level");
 }
 
+// MB214 trips on any "%FilterBy:", wherever it stands: the engine hands the numbers behind it to whoever gathers the
+// data, and leaves out no row itself.
 void GroupingRules::findFilters()
 {
     for (const CheckedTuple* const pTuple : m_list.tuplesOf(TokenRequest::kFilter))
@@ -266,7 +292,7 @@ std::vector<SortKey> sortKeysOfOpenOrder(const CheckedTemplate& list, const Know
     std::vector<SortKey> keys;
     for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kSort))
         for (const Element& element : pTuple->request.elements)
-            if (!pTuple->isFooter && element.sort == TokenRequest::kToken && !tokens.isInCatalogue(element.token) &&
+            if (!pTuple->isFooter && element.kind == TokenRequest::kToken && !tokens.isInCatalogue(element.token) &&
                 !tokens.isNumeric(element.token) && !saysOrder(list, element.token))
                 keys.push_back({ pTuple, element.token });
     return keys;

@@ -13,11 +13,11 @@ class GroupingRules : private TemplateRules
 public:
     using TemplateRules::TemplateRules;
 
-    // `hasData` leaves it to the rules on data to say in what order their own columns come.
+    // `hasData` leaves sorting by a column of the data to PlainOrderRule, which sees whether its cells are texts.
     void run(bool hasData);
 
 private:
-    void findUnsortedGroups(std::size_t level);
+    void findUnsortedGroups(const CheckedTuple& tuple);
     void findMissingKeys(const CheckedTuple& tuple);
     void findKeyBefore(const CheckedTuple& tuple);
     void findBadElements(const CheckedTuple& tuple);
@@ -41,10 +41,11 @@ struct SortKey
     std::string token;
 };
 
-// The keys of which neither the catalogue nor the template says how they are sorted. The order of numbers is that of
-// their values, and sorting by a handle is hardly meant to put it in order.
+// The keys of which neither the catalogue nor the template says how they are sorted: "%SortAscBy:%PosNum", unless the
+// template has "tokens": { "%PosNum": "number" } or a column with an "order". Numbers are sorted by value, whatever a
+// column says, and %Handle is left out, as nobody minds in what order handles come.
 std::vector<SortKey> sortKeysOfOpenOrder(const CheckedTemplate& list, const KnownTokens& tokens);
 
-// How to say it.
+// What the author is told to write so that the order is said.
 std::string helpForOpenOrder(const std::string& token);
 }

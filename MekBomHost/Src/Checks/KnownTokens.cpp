@@ -1,3 +1,11 @@
+// What may be asked of a token depends on who knows it. A list says "tokens": { "%Gap": "number" } and is run on a
+// parts list with the columns "Gap", "Weight" and "PosNum":
+//
+//              knows   kindOf    who says it
+//   %Weight    yes     kNumber   the catalogue, whatever the data hold
+//   %Gap       yes     kNumber   the template
+//   %PosNum    yes     kOpen     the data have it, but only the cells of a column tell what is in it
+//   %Wieght    no      kOpen     nobody, and %Weight is the nearest
 #include "KnownTokens.h"
 
 #include "NearestWord.h"
@@ -44,6 +52,8 @@ bool KnownTokens::isOfData(const std::string& token) const
     return m_isOfData.count(token) > 0;
 }
 
+// The catalogue comes first, whatever the template declares: the engine asks nobody else for the type of %Weight. A
+// kind in "tokenUnits" makes a number of a token that nothing else describes.
 KnownTokens::eKind KnownTokens::kindOf(const std::string& token) const
 {
     if (token == kHandle)
@@ -70,6 +80,9 @@ bool KnownTokens::hasUnit(const std::string& token) const
            VorBomTemplateUnits::kNoUnit;
 }
 
+// The catalogue's names tell it: %AssemblyWeight and %WeightInAssembly are of one assembly, %QuantityInPhase is of a
+// phase, and %MQuantity, the number of equal assemblies, is the one that follows no pattern. A token of the author's
+// own may be called anything.
 bool KnownTokens::isSharedByRows(const std::string& token) const
 {
     if (!isInCatalogue(token))
@@ -80,6 +93,7 @@ bool KnownTokens::isSharedByRows(const std::string& token) const
     return token == "%MQuantity";
 }
 
+// A column with an "order" overrules the catalogue, and what neither of them orders is plain text.
 bool KnownTokens::isNatural(const std::string& token) const
 {
     const ColumnStyle* const pStyle = m_template.columnStyleOf(Utf8::toWide(token));
@@ -89,7 +103,9 @@ bool KnownTokens::isNatural(const std::string& token) const
     return pEntry != nullptr && pEntry->sort == VorBomDataToken::kSortAlphanumeric;
 }
 
-// "%Sumby:%Weight" is no token at all: what stands before the colon is looked for among the prefixes.
+// "%Sumby:%Weight" is no token at all: what stands before the colon is looked for among the prefixes. Of equally near
+// names the first counts, so that columns of the data come before the author's own tokens, and these before the
+// catalogue's.
 std::string KnownTokens::nearestTo(const std::string& token) const
 {
     const std::size_t colon = token.find(':');

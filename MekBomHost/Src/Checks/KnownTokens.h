@@ -6,7 +6,8 @@
 //   tokens.kindOf("%PosNum")      ->  kOpen: only the cells can tell
 //   tokens.nearestTo("%Wieght")   ->  "%Weight"
 //
-// Tokens are UTF-8, without a prefix such as "%SumBy:". Looks at the template while it is asked.
+// Tokens are UTF-8, without a prefix such as "%SumBy:". The template is not owned and outlives this object, whose
+// questions it answers: kinds and units that are registered with it later count.
 #pragma once
 
 #include "ReportTemplate.h"
@@ -28,18 +29,24 @@ public:
         kOpen    // neither the catalogue nor the template says
     };
 
-    // `dataTokens` are those that the data have; none where there are no data.
+    static constexpr const char* kPieces = "%Quantity"; // how many pieces a row stands for
+
+    // `dataTokens` are those that the data have, with their percent signs; none where there are no data.
     KnownTokens(const ReportTemplate& reportTemplate, std::vector<std::string> dataTokens);
 
+    // Whether the catalogue has it; of "%Handle" it is taken for granted.
     bool isInCatalogue(const std::string& token) const;
 
-    // Whether the catalogue, the template's "tokens" or "tokenUnits", or the data have it.
+    // Whether a row can have it at all: the catalogue, the template's "tokens" or "tokenUnits", or the data name it.
     bool knows(const std::string& token) const;
 
-    // Whether the data have it.
+    // Whether it is among the tokens of the data, whoever else knows it.
     bool isOfData(const std::string& token) const;
 
+    // What the catalogue says, else the template's "tokens", else its "tokenUnits": what has a unit is a number.
     eKind kindOf(const std::string& token) const;
+
+    // Whether it is kWhole or kNumber.
     bool isNumeric(const std::string& token) const;
 
     // Whether numbers of that token are shown in a unit.
@@ -52,7 +59,10 @@ public:
     // Whether rows are sorted by the token in natural order, "P2" before "P10".
     bool isNatural(const std::string& token) const;
 
-    // The token, or the token behind such a prefix as "%SumBy:", that was meant; empty when none is near.
+    // The token that was meant, or, of a text with a colon, the same behind the prefix that was meant; empty when none
+    // is near.
+    //   "%Wieght"         ->  "%Weight"
+    //   "%Sumby:%Weight"  ->  "%SumBy:%Weight"
     std::string nearestTo(const std::string& token) const;
 
 private:

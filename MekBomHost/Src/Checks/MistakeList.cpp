@@ -1,3 +1,9 @@
+// A rule knows the tuple that is wrong, and its author wants the line and column of the file. TemplateReader has kept
+// both in the style of the section:
+//
+//   tuple 1 of the kGroupFooter   ->   "/sections/1/tuples/1", line 8, columns 17 to 44   ->   "list.json:8:17: ..."
+//
+// What is about no tuple, such as a footer beside the details, has the place of its section.
 #include "MistakeList.h"
 
 #include <utility>

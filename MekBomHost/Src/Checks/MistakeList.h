@@ -1,4 +1,5 @@
-// The mistakes that rules find in one list, each at its place in the template file.
+// The mistakes that rules find in one list, each at its place in the template file, in the order in which they are
+// added.
 //
 //   MistakeList mistakes(reportTemplate);
 //   mistakes.add(MistakeCodes::kSumOutsideFooter, tuple, "the total stands in a header", "move it to the footer");
@@ -26,14 +27,14 @@ public:
              const std::string& help);
     void add(const FindingCode& code, const TemplatePlace& place, const std::string& what, const std::string& help);
 
-    // A mistake that is less bad, or worse, than its code says.
+    // The same for a mistake that is less bad, or worse, in this list than its code says.
     void add(const FindingCode& code, Finding::eSeverity severity, const CheckedTuple& tuple, const std::string& what,
              const std::string& help);
 
-    // Of whoever reads formulas: a finding without a place.
+    // A finding that lacks its place, such as those of FormulaRules, which sees no file: it gets the tuple's.
     void add(Finding finding, const CheckedTuple& tuple);
 
-    // Of whoever knows the places in the template file: findings that lack no more than the file's name.
+    // Findings that have their places in the template file, and lack no more than its name.
     void addPlaced(const std::vector<Finding>& findings);
 
     const std::vector<Finding>& findings() const { return m_findings; }

@@ -1,11 +1,13 @@
-// The engine goes down the first children of a template and looks at no type on its way: { page header, report header }
-// side by side are a header and its footer. So all rules here ask what stands where, and whether its type says that
-// the author meant it to.
+// The engine goes down the first children of a template and looks at no type on its way. An author who writes a page
+// header, then the list, gets a page header per row:
+//
+//   kPageHeader                   the header of the only level
+//   kReportHeader { kDetails }    its footer; what stands below a footer is never looked at
+//
+// So the rules here ask what stands where, and whether its type says that the author meant it to.
 #include "StructureRules.h"
 
 #include "VorBomDataToken.h"
-
-#include "Utf8.h"
 
 #include <algorithm>
 #include <string>
@@ -16,7 +18,7 @@ namespace
 {
 using Section = VorBomTemplateItem;
 
-// The footer that belongs to a header; the type without a meaning for one that needs none.
+// The footer that belongs to a header; kUnkTemplateItemType for details, which need none.
 Section::eTemplateItemType footerTypeOf(Section::eTemplateItemType header)
 {
     switch (header)
@@ -33,6 +35,7 @@ bool isFooterType(Section::eTemplateItemType type)
     return type == Section::kReportFooter || type == Section::kPageFooter || type == Section::kGroupFooter;
 }
 
+// Whether a line of the section has no text at all: what groups, sorts and filters is never printed.
 bool showsNothing(const Section& section)
 {
     const auto& tuples = section.getData();
@@ -68,6 +71,8 @@ void StructureRules::run()
     findFooterBesideDetails();
 }
 
+// MB101 trips on [ kPageHeader, kReportHeader ] side by side, and does not on [ kReportHeader, kReportFooter ]. With
+// the list as its child the page header is the outermost level: printed once, and no less a surprise.
 void StructureRules::findPageHeaderFirst()
 {
     const Section& first = *m_list.levels().front().pHeader;
@@ -83,6 +88,7 @@ void StructureRules::findPageHeaderFirst()
                    "page header shows");
 }
 
+// MB102 trips on the third of [ kReportHeader, kReportFooter, kPageFooter ], and does not on the first two.
 void StructureRules::findThirdSections(const CheckedLevel& level)
 {
     const VorBomItemBase* pItem = level.pFooter == nullptr ? nullptr : level.pFooter->next();
@@ -97,7 +103,9 @@ void StructureRules::findThirdSections(const CheckedLevel& level)
     }
 }
 
-// Two sections of a level may be anything; what they are called tells what the author expects of them.
+// MB103 trips on [ kGroupHeader, kReportFooter ] and does not on [ kGroupHeader, kGroupFooter ]. The engine would take
+// either; what sections are called tells what the author expects of them. Two headers side by side, where the second
+// was to be the child of the first, are another form of it. A section of no type promises nothing.
 void StructureRules::findFooterOfOtherType(const CheckedLevel& level)
 {
     const Section& header = *level.pHeader;
@@ -117,6 +125,8 @@ void StructureRules::findFooterOfOtherType(const CheckedLevel& level)
                        : "put it into the \"children\" of the " + typeName(header));
 }
 
+// MB104 trips on a kGroupHeader without children: with the rows 10 kg and 12 kg of S235 it prints S235 twice, each time
+// with a total of one row. It does not once a kDetails stands below, or a summary in its place.
 void StructureRules::findGroupHeaderDeepest()
 {
     const Section& header = *m_list.deepest().pHeader;
@@ -135,6 +145,9 @@ bool StructureRules::isDetailsDeepest() const
     return m_list.deepest().pHeader->type() == Section::kDetails;
 }
 
+// MB105 trips on details without tuples, or with "%SortAscBy:%PNum" alone: rows of 10 and 12 kg make two lines without
+// a text, which read alike, so that the second row is merged and the total is 10 kg. It does not where the template
+// says "equalLines": "keep" or "count", or "summary".
 void StructureRules::findEmptyDetails()
 {
     if (!isDetailsDeepest() || !showsNothing(*m_list.deepest().pHeader) || !m_list.mergesEqualLines())
@@ -145,7 +158,9 @@ void StructureRules::findEmptyDetails()
                    "for groups and totals alone write { \"type\": \"kDetails\", \"summary\": true }");
 }
 
-// A token that the catalogue lacks may be anything, and so a mark, too.
+// MB106 trips on details of %Name and %Weight, where two beams of one name and weight are one line, and does not once
+// %PNum is shown, or where the template says what becomes of equal lines. A token that the catalogue lacks may be
+// anything, and so a mark, too.
 void StructureRules::findDetailsWithoutMark()
 {
     const Section& details = *m_list.deepest().pHeader;
@@ -162,6 +177,8 @@ void StructureRules::findDetailsWithoutMark()
                    "show a mark such as %PNum, or say what becomes of equal lines: \"equalLines\": \"count\"");
 }
 
+// MB107 trips on kDetails { kDetails }: the outer one opens with the first row, and shows its values for all of them.
+// It does not on kGroupHeader { kDetails }.
 void StructureRules::findSectionsBelowDetails(std::size_t level)
 {
     const Section& header = *m_list.levels()[level].pHeader;
@@ -172,6 +189,8 @@ void StructureRules::findSectionsBelowDetails(std::size_t level)
                        "make them the deepest level, or make the section a kGroupHeader");
 }
 
+// MB108 trips on [ kGroupHeader, kGroupFooter { kDetails } ] and does not on [ kGroupHeader { kDetails }, kGroupFooter
+// ].
 void StructureRules::findChildrenOfFooter(const CheckedLevel& level)
 {
     if (level.pFooter != nullptr && level.pFooter->child() != nullptr)
@@ -180,6 +199,8 @@ void StructureRules::findChildrenOfFooter(const CheckedLevel& level)
                        "move its \"children\" to the " + typeName(*level.pHeader) + " in front of it");
 }
 
+// MB109 trips on kGroupHeader { kDetails, kGroupFooter } and does not on [ kGroupHeader { kDetails }, kGroupFooter ]:
+// the first has a total of one row below each line.
 void StructureRules::findFooterBesideDetails()
 {
     const CheckedLevel& level = m_list.deepest();

@@ -1,4 +1,4 @@
-// The rules about the structure of sections, MB101 to MB109.
+// The rules about the structure of sections, MB101 to MB109: what stands where, whatever it shows.
 #pragma once
 
 #include "TemplateRules.h"

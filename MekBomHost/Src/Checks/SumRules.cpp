@@ -1,8 +1,14 @@
 // A total is asked for in a footer, "%SumBy:" and one token. It starts with the value that the template gives it, or
 // with nothing, and takes what each row has under that very text: a blank too many and no row has it. Formulas are
-// computed by headers and details, which write the result into the row that they were made of; a footer computes none.
+// computed by headers and details, which write the result into the row that they were made of; a footer computes none:
+//
+//   details   %Formula:%Weight*2              rows of 10 and 12 kg get 20 and 24 under "%Formula:%Weight*2"
+//   footer    %SumBy:%Formula:%Weight*2       44
+//             %SumBy:%Formula:%Weight * 2     nothing: no row has a datum of that name
+//             %Formula:%Weight*2              24, found in the last row
 #include "SumRules.h"
 
+#include "NumberInValue.h"
 #include "Utf8.h"
 
 #include "VorBomDataValue.h"
@@ -14,8 +20,6 @@ namespace mekbom
 {
 namespace
 {
-const char* const kFormulaPrefix = "%Formula:";
-
 std::string withoutBlanks(std::string text)
 {
     text.erase(std::remove(text.begin(), text.end(), ' '), text.end());
@@ -24,23 +28,13 @@ std::string withoutBlanks(std::string text)
 
 bool isFormula(const std::string& text)
 {
-    return startsWith(text, kFormulaPrefix);
+    return startsWith(text, TokenRequest::kFormulaPrefix);
 }
 
+// A formula is none: it is what the details have computed, and may be summed.
 bool isRequest(const std::string& text)
 {
     return TokenRequest::of(text).kind != TokenRequest::kShow && !isFormula(text);
-}
-
-double numberIn(const VorBomDataValue& value)
-{
-    return value.type() == VorBomDataValue::kIntData ? *static_cast<const int*>(value.data())
-                                                     : *static_cast<const double*>(value.data());
-}
-
-bool isNumber(const VorBomDataValue& value)
-{
-    return value.type() == VorBomDataValue::kIntData || value.type() == VorBomDataValue::kDoubleData;
 }
 }
 
@@ -62,6 +56,7 @@ void SumRules::run()
         findFormulaOnlyInFooter(*pTuple);
 }
 
+// MB301 trips on "%SumBy:%Weight" in the details and does not in the kGroupFooter.
 void SumRules::findSumOutsideFooter(const CheckedTuple& tuple)
 {
     if (!tuple.isFooter)
@@ -71,6 +66,7 @@ void SumRules::findSumOutsideFooter(const CheckedTuple& tuple)
                        "move it to the footer of the level whose rows it is to add up");
 }
 
+// MB302 trips on "%SumBy:%Name" and does not on "%SumBy:%Weight", nor on a token of which nobody knows the kind.
 void SumRules::findSumOfTexts(const CheckedTuple& tuple)
 {
     if (m_tokens.kindOf(tuple.request.subject) == KnownTokens::kText)
@@ -79,13 +75,13 @@ void SumRules::findSumOfTexts(const CheckedTuple& tuple)
                        "sum a number, or say what the data have: \"tokens\": { ... : \"number\" }");
 }
 
-// Blanks belong to the text of a formula; those in front of it do not.
+// MB303 trips on "%SumBy: %Weight" and "%SumBy:%Weight,%Length", and does not on "%SumBy:%Formula:%Weight * 2": blanks
+// in a formula and behind it belong to its text, and whether the details have the same is asked as MB306.
 void SumRules::findSumOfList(const CheckedTuple& tuple)
 {
     const std::string& summed = tuple.request.subject;
-    const bool hasBlank = isFormula(summed) ? summed.back() == ' ' : summed.find(' ') != std::string::npos;
-    const bool isList = !isFormula(summed) && summed.find(',') != std::string::npos;
-    if (!hasBlank && !isList)
+    const bool isList = summed.find(',') != std::string::npos;
+    if (isFormula(summed) || (summed.find(' ') == std::string::npos && !isList))
         return;
     const std::string first = withoutBlanks(summed.substr(0, summed.find(',')));
     m_mistakes.add(MistakeCodes::kSumOfList, tuple,
@@ -93,13 +89,15 @@ void SumRules::findSumOfList(const CheckedTuple& tuple)
                    (isList ? "give each token a tuple of its own: " : "write ") + inQuotes("%SumBy:" + first));
 }
 
-// A text is replaced by the first number, and kinds of numbers are added as they come; both only look like a mistake.
+// MB304 trips on a "value" of 100, which makes 122 of 10 and 12 kg, and does not on 0, be it that of a whole number
+// under a weight. A text such as "none" is a note: the first number replaces it, so that it shows only where there is
+// none.
 void SumRules::findStartElsewhere(const CheckedTuple& tuple)
 {
     const VorBomDataValue& start = tuple.value();
     const std::string shown = Utf8::toBytes(start.asString());
     const std::string help = "take the \"value\" out: a total starts with a zero of its own kind";
-    if (isNumber(start) && numberIn(start) != 0)
+    if (numberIn(start).value_or(0) != 0)
         m_mistakes.add(MistakeCodes::kSumStartsElsewhere, tuple,
                        inQuotes(tuple.token) + " starts with " + shown + ", which is part of every total", help);
     else if (start.type() == VorBomDataValue::kStringData && !shown.empty())
@@ -109,7 +107,9 @@ void SumRules::findStartElsewhere(const CheckedTuple& tuple)
                        help);
 }
 
-// What the footer's own groups have in common is the same in the last row as in all others.
+// MB305 trips on %Weight in the footer of groups by %Material, and does not in that of groups by %Weight, whose last
+// row has what all others have. A formula counts as a number if the details compute it; one that stands in footers
+// alone is MB403. The deepest level's footer is for one row, whose weight is no surprise.
 void SumRules::findFooterWithoutSum(const CheckedTuple& tuple)
 {
     const bool isComputed = tuple.request.kind == TokenRequest::kFormula && isComputedForEveryRow(tuple.token);
@@ -122,6 +122,7 @@ void SumRules::findFooterWithoutSum(const CheckedTuple& tuple)
                    "write " + inQuotes("%SumBy:" + tuple.token) + " for the total");
 }
 
+// Whether any header computes it, the details among them: then some rows at least have it.
 bool SumRules::isComputedInHeader(const std::string& formulaToken) const
 {
     const std::vector<CheckedTuple>& tuples = m_list.tuples();
@@ -130,6 +131,7 @@ bool SumRules::isComputedInHeader(const std::string& formulaToken) const
                        { return !tuple.isFooter && tuple.token == formulaToken; });
 }
 
+// Whether the deepest level computes it, which opens for each row; a header around it opens for the first one alone.
 bool SumRules::isComputedForEveryRow(const std::string& formulaToken) const
 {
     const std::vector<CheckedTuple>& tuples = m_list.tuples();
@@ -148,6 +150,8 @@ std::string SumRules::sameFormulaOfDetails(const std::string& formulaToken) cons
     return std::string();
 }
 
+// MB306 trips on "%SumBy:%Formula:%Weight*2" when the details have "%Formula:%Weight * 2", or a kGroupHeader alone has
+// the formula, and does not when the details have it letter by letter.
 void SumRules::findSumOfMissingFormula(const CheckedTuple& tuple)
 {
     const std::string& formula = tuple.request.subject;
@@ -168,6 +172,7 @@ void SumRules::findSumOfMissingFormula(const CheckedTuple& tuple)
                        "give the details a tuple " + inQuotes(formula));
 }
 
+// MB309 trips on "%SumBy:%SumBy:%Weight" and does not on "%SumBy:%Formula:%Weight*2".
 void SumRules::findSumOfRequest(const CheckedTuple& tuple)
 {
     const std::string& summed = tuple.request.subject;
@@ -177,7 +182,9 @@ void SumRules::findSumOfRequest(const CheckedTuple& tuple)
                        suggestion("write ", "%SumBy:" + TokenRequest::of(summed).subject));
 }
 
-// A formula may make it the row's own: "%AssemblyWeight*%IsMP" is that of the assembly in one row of it alone.
+// MB308 trips on "%SumBy:%AssemblyWeight": an assembly of 500 kg in three rows adds 1500. It does not on
+// "%SumBy:%Weight", and not on a formula with a datum of the row: "%AssemblyWeight*%IsMP" is that of the assembly in
+// its main part alone.
 void SumRules::findSumOfShared(const CheckedTuple& tuple)
 {
     const std::vector<std::string> summed = dataTokensOf(tuple.request);
@@ -209,6 +216,7 @@ std::string SumRules::ownOfRow(const std::string& shared) const
     return m_tokens.kindOf(own) == KnownTokens::kWhole ? own : "%Formula:" + own + "*%Quantity";
 }
 
+// MB403 trips on "%Formula:%Weight*2" in a footer alone, and does not when a header or the details have it, too.
 void SumRules::findFormulaOnlyInFooter(const CheckedTuple& tuple)
 {
     if (tuple.isFooter && !isComputedInHeader(tuple.token))

@@ -1,4 +1,5 @@
-// The rules about totals, MB301 to MB309 without those about data, and MB403, about formulas that are never computed.
+// The rules about totals, MB301 to MB309 but MB307, which only an evaluation shows (ReportJob), and MB403, about
+// formulas that are never computed. Of MB308 the half that needs no data: PiecesRule tells the other.
 #pragma once
 
 #include "TemplateRules.h"

@@ -1,3 +1,7 @@
+// Each class of rules goes through the template by itself, and what they find is brought into the order of the file at
+// the end, as an author reads it. Findings of one tuple stay as they were added, so the classes run in the order of
+// their codes: a "%GroupBy:%Materail" is told as one that nothing sorts (MB201) before it is told as misspelled
+// (MB501).
 #include "TemplateCheck.h"
 
 #include "CheckedTemplate.h"
@@ -25,7 +29,7 @@ std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens
 {
     const CheckedTemplate list(reportTemplate);
     MistakeList mistakes(reportTemplate);
-    if (list.levels().empty())
+    if (list.levels().empty()) // the rules may ask for the first level and the deepest one
         return mistakes.findings();
     StructureRules(list, tokens, mistakes).run();
     GroupingRules(list, tokens, mistakes).run(hasData);

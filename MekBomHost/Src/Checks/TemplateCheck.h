@@ -18,6 +18,8 @@
 
 namespace mekbom::TemplateCheck
 {
-// All mistakes of whatever severity, in the order of the file. `hasData` leaves to RowsCheck what data tell better.
+// All mistakes of whatever severity, excused or not, in the order of the file; of one place, the lower hundreds of
+// codes first. None for a template without sections. `hasData` leaves to RowsCheck what data tell better. `tokens` is
+// about the same template.
 std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens& tokens, bool hasData);
 }

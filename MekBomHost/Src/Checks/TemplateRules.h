@@ -1,9 +1,10 @@
 // What rules on the template have in common: the levels and tuples they look at, what is known of tokens, and the list
-// that takes their findings. A class for each hundred of codes holds the rules, each a function of its own.
+// that takes their findings. A class for each hundred of codes holds the rules, each a function of its own, which finds
+// one mistake, wherever it stands, and adds it with what was written, what comes of it and how to write it right.
 //
 //   SumRules(checked, tokens, mistakes).run();
 //
-// All three outlive the rules.
+// None of the three is owned, and all of them outlive the rules.
 #pragma once
 
 #include "CheckedTemplate.h"

@@ -25,7 +25,9 @@ struct TokenRequest
         kFormula
     };
 
-    // What an element of a list is.
+    static constexpr const char* kFormulaPrefix = "%Formula:";
+
+    // What stands where a grouping or sorting request should name a token.
     enum eElement
     {
         kToken,
@@ -37,24 +39,28 @@ struct TokenRequest
 
     struct Element
     {
-        std::string token;         // without its direction
-        eElement sort = kToken;    // what the text is
-        bool isDescending = false; // of sorting requests alone, as the next
-        bool hasDirection = false; // in front of itself, and not that of the element before it
+        std::string token; // without its direction
+        eElement kind = kToken;
+        bool isDescending = false; // false in a grouping request, which has no order
+        bool hasDirection = false; // whether "%SortDescBy:" or its like stands right in front of this very element
     };
 
     static TokenRequest of(const std::string& token);
 
     eKind kind = kShow;
-    std::string subject;           // what is shown, summed or computed; of a list all behind the prefix
-    std::vector<Element> elements; // of kGroup and kSort
+    std::string subject;           // the text behind the prefix; for kShow, which has none, the whole token
+    std::vector<Element> elements; // the subject taken apart, for kGroup and kSort; empty for all others
 };
 
-// The tokens that a row is asked for: those of a formula, be it summed or not, or the one that is shown, summed, or that
-// groups and sorts.
+// The tokens that the engine looks up in a row on account of the request, each as often as it is named:
+//
+//   "%Weight"                                ->  "%Weight"
+//   "%SumBy:%Formula:%Weight*%Quantity"      ->  "%Weight", "%Quantity"
+//   "%SortDescBy:%Weight,Name"               ->  "%Weight"      what is no token is asked of no row
+//   "%FilterBy:3"                            ->  none
 std::vector<std::string> dataTokensOf(const TokenRequest& request);
 
-// "%GroupBy:", "%SortAscBy:" and so on: what can stand in front of a token.
+// "%GroupBy:", "%SortAscBy:" and so on: all that can stand in front of a token, each once.
 const std::vector<std::string>& requestPrefixes();
 
 // Whether `text` begins with `prefix`.

@@ -1,6 +1,10 @@
-// A token is looked up in a row as it is written. What no row has keeps the value that the template gave it: a column
-// "%posNum" with the starting value 0 prints "0" on each line, and nobody is told. So every token has to be known,
-// from the catalogue, from the template's own "tokens" and "tokenUnits", or from the data's columns.
+// A token is looked up in a row as it is written. What no row has keeps the value that the template gave it, and nobody
+// is told:
+//
+//   { "token": "%posNum", "value": 0 }   over rows with a %PosNum of 1, 2 and 3 prints 0 on each of three lines
+//
+// So every token has to be known, from the catalogue, from the template's own "tokens" and "tokenUnits", or from the
+// data's columns.
 #include "TokenRules.h"
 
 #include "TokenQuantities.h"
@@ -16,13 +20,12 @@ namespace mekbom
 {
 namespace
 {
-const char* const kPieces = "%Quantity";
-
 // Arbitrary: more than anybody misspells. Each takes a look at all words there are, thousands in a wide file.
 const int kMostSuggestions = 100;
 
-// What describes the objects of one mark: their assembly, or the part that they all are. The data may say otherwise,
-// and the rules on data tell then.
+// Whether the token describes all objects of a mark that the rows are grouped by: %MName those of an assembly's mark,
+// and %Material those of a part's, since parts of one mark are equal. The data may say otherwise; VaryingRule tells
+// then.
 bool belongsToMark(const std::string& token, const std::vector<std::string>& groupTokens)
 {
     static const std::vector<std::string> ofAssembly = { "%MName", "%MQuantity", "%AssemblyWeight",
@@ -65,7 +68,9 @@ void TokenRules::addUnknown(const CheckedTuple& tuple, const std::string& token,
                        : "did you mean " + inQuotes(nearest) + "?");
 }
 
-// Without data nobody knows what rows have.
+// MB501 trips on "%posNum" and on "%SumBy:Weight", and does not on "%Weight", nor on "%posNum" where a parts list has
+// such a column. What is shown and is no token at all ("Weight") is told as MB502; what is summed has no column, and is
+// told here. Without data nobody knows what rows have.
 void TokenRules::findUnknownTokens(const CheckedTuple& tuple, bool hasData)
 {
     for (const std::string& token : dataTokensOf(tuple.request))
@@ -80,7 +85,8 @@ void TokenRules::findUnknownTokens(const CheckedTuple& tuple, bool hasData)
                            (hasData ? "no row has" : "is no token"));
 }
 
-// A column may have a name of its own, as long as the template describes it.
+// MB501 trips on { "token": "%Name", "column": "%Rloe" } and does not when "columns" describes "%Rloe", or when it is a
+// token that is known or used in the list: then there is such a column.
 void TokenRules::findUnknownColumn(const CheckedTuple& tuple)
 {
     const SectionStyle& style = m_list.file().styleOf(tuple.pSection);
@@ -94,6 +100,8 @@ void TokenRules::findUnknownColumn(const CheckedTuple& tuple)
                        ", which nothing describes");
 }
 
+// Whether any tuple shows, sums, computes or computes with it. A formula goes by its text without the prefix, as
+// "tokenUnits" names it.
 bool TokenRules::isUsed(const std::string& token) const
 {
     const std::vector<CheckedTuple>& tuples = m_list.tuples();
@@ -101,12 +109,13 @@ bool TokenRules::isUsed(const std::string& token) const
                        [&token](const CheckedTuple& tuple)
                        {
                            return tuple.token == token || tuple.request.subject == token ||
-                                  tuple.request.subject == "%Formula:" + token ||
+                                  tuple.request.subject == TokenRequest::kFormulaPrefix + token ||
                                   contains(dataTokensOf(tuple.request), token);
                        });
 }
 
-// An entry makes a token known, if it is one that the list uses; else it is most likely misspelled.
+// MB501 trips on "tokenUnits": { "%Wieght": "kWeightUnit" } in a list that shows %Weight, and does not when the list
+// shows %Wieght: an entry makes a token known that is used, and one that nothing uses is most likely misspelled.
 void TokenRules::findUnknownUnits()
 {
     for (const auto& [key, place] : m_list.file().tokenUnitPlaces)
@@ -130,7 +139,8 @@ void TokenRules::findUnknownUnits()
     }
 }
 
-// A weight in kilograms would be printed as one in pounds, or as a length: under the author's own label, whatever that says.
+// MB507 trips on "%Weight": "kNoUnit" in "tokenUnits" and does not on "%Weight": "kWeightUnit". A weight in kilograms
+// would be printed as one in pounds, or as a length: under the author's own label, whatever that says.
 void TokenRules::findOtherKinds()
 {
     VorBomTemplate ofCatalogue;
@@ -147,7 +157,8 @@ void TokenRules::findOtherKinds()
     }
 }
 
-// The catalogue's "%%PaintMeter" is found as it is, on purpose.
+// MB502 trips on the columns "Weight" and "%%Weight", which no heading of a parts list turns into, and does not on
+// "%Weight". The catalogue's "%%PaintMeter" is found as it is, on purpose: the engine spells it so.
 void TokenRules::findMalformedColumn(const CheckedTuple& tuple)
 {
     const std::string& token = tuple.token;
@@ -167,11 +178,13 @@ std::vector<const CheckedTuple*> tuplesThatMayVary(const CheckedTemplate& list, 
     for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kShow))
         if (!list.isDeepest(pTuple->level) && list.file().styleOf(pTuple->pSection).isPrinted &&
             tokens.knows(pTuple->token) && !(pTuple->isFooter && tokens.isNumeric(pTuple->token)) &&
-            !contains(list.groupTokensDownTo(pTuple->level), pTuple->token) && pTuple->token != kPieces)
+            !contains(list.groupTokensDownTo(pTuple->level), pTuple->token) && pTuple->token != KnownTokens::kPieces)
             tuples.push_back(pTuple);
     return tuples;
 }
 
+// MB503 trips on %Name in the header of groups by %Material, and does not in that of groups by %Material and %Name, nor
+// on %Material in that of groups by %PNum. Without data it is told of whatever may vary.
 void TokenRules::findVaryingTokens()
 {
     for (const CheckedTuple* const pTuple : tuplesThatMayVary(m_list, m_tokens))
@@ -183,6 +196,8 @@ void TokenRules::findVaryingTokens()
                            "group by " + pTuple->token + " as well, or show it in the details");
 }
 
+// MB504 is a note: it trips on "tokens": { "%Gap": "number" }, whose 25.4 stays 25.4 in a list in inches, and does not
+// once "tokenUnits" says that it is a length. It stands at the first tuple that shows or sums the token.
 void TokenRules::findNumbersWithoutUnit()
 {
     for (const auto& [token, kind] : m_list.file().ownTokens)
@@ -200,8 +215,9 @@ void TokenRules::findNumbersWithoutUnit()
     }
 }
 
-// A text starts with whatever is not a number, and a number with 0, which nobody takes for a weight or a price. What is
-// neither in the catalogue nor in the data is a constant of the template, and meant to be the same in all rows.
+// MB505 trips on "value": 1000.0 under %Width and on "value": 0 under %Name, and does not on "value": 0.0 under %Width:
+// a 0 is taken for a width that is missing, but on a column of names it reads like data. What is neither in the
+// catalogue nor in the data is a constant of the template, and meant to be the same in all rows.
 void TokenRules::findNumberAsData(const CheckedTuple& tuple)
 {
     const VorBomDataValue& start = tuple.value();
@@ -224,13 +240,15 @@ void TokenRules::findNumberAsData(const CheckedTuple& tuple)
                        "take the \"value\" out: the cell stays blank then");
 }
 
-// Told whether or not there are data: a group whose rows all stand for one piece shows 1, however many there are.
+// MB503 trips on %Quantity and on "%Formula:%Weight*%Quantity" in a header, and does not in the header of groups by
+// %Quantity. Whether or not there are data: three rows of one piece each do not vary, and the header shows 1 for them.
 void TokenRules::findPiecesOfFirstRow(const CheckedTuple& tuple)
 {
     const bool isComputed = tuple.request.kind == TokenRequest::kFormula;
     if (tuple.isFooter || m_list.isDeepest(tuple.level) || !(isComputed || tuple.request.kind == TokenRequest::kShow) ||
-        !contains(dataTokensOf(tuple.request), kPieces) || !m_list.file().styleOf(tuple.pSection).isPrinted ||
-        contains(m_list.groupTokensDownTo(tuple.level), kPieces))
+        !contains(dataTokensOf(tuple.request), KnownTokens::kPieces) ||
+        !m_list.file().styleOf(tuple.pSection).isPrinted ||
+        contains(m_list.groupTokensDownTo(tuple.level), KnownTokens::kPieces))
         return;
     m_mistakes.add(MistakeCodes::kTokenVariesInGroup, tuple,
                    inQuotes(tuple.token) + " counts the pieces of one row: the " + typeName(*tuple.pSection) +

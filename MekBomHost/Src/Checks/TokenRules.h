@@ -1,4 +1,4 @@
-// The rules about tokens and columns, MB501 to MB505.
+// The rules about tokens and columns, MB501 to MB505. MB506 takes data: WholeNumberRule.
 #pragma once
 
 #include "TemplateRules.h"
@@ -13,7 +13,8 @@ class TokenRules : private TemplateRules
 public:
     using TemplateRules::TemplateRules;
 
-    // `hasData` leaves it to the rules on data to say what varies within a group.
+    // `hasData` leaves MB503 to VaryingRule, which sees whether a token does vary within its groups; but for the pieces
+    // of a group, which are told in either case.
     void run(bool hasData);
 
 private:
@@ -33,7 +34,8 @@ private:
     int m_numUnknown = 0; // tokens, or their uses
 };
 
-// The tuples that show, in a header or footer, what need not be the same in all rows of its groups: neither what they
-// are grouped by, nor a number in a footer, of which SumRules tells, nor the pieces of a row, which no group shares.
+// The tuples that show, in a printed header or footer, what need not be the same in all rows of its groups. Left out
+// are what the groups are made by, a number in a footer, of which SumRules tells (MB305), pieces, of which TokenRules
+// always tells, and what nobody knows (MB501). The details' own line shows one row and is left out, too.
 std::vector<const CheckedTuple*> tuplesThatMayVary(const CheckedTemplate& list, const KnownTokens& tokens);
 }

@@ -18,6 +18,7 @@ namespace mekbom::Commands
 {
 namespace
 {
+// All there are, called or not: that is what the parser gives to a filter that takes each.
 std::vector<const CLI::App*> commandsOf(const CLI::App& command)
 {
     return command.get_subcommands([](const CLI::App*) { return true; });
@@ -31,6 +32,7 @@ std::vector<std::string> namesIn(const CLI::App& command)
     return names;
 }
 
+// "--output" and "-o" as a user writes them; without what stands in its place alone, which has no name.
 std::vector<std::string> optionsOf(const CLI::App& command)
 {
     std::vector<std::string> options;
@@ -63,6 +65,7 @@ std::string lineOf(const CLI::App& command)
     return pProgram->get_name() + (words.empty() ? "" : " ") + words;
 }
 
+// A single minus sign stands for standard input and is none.
 bool isOption(const std::string& word)
 {
     return word.size() > 1 && word.front() == '-';
@@ -128,6 +131,7 @@ const CLI::App& find(const CLI::App& program, const std::vector<std::string>& wo
     return *pFound;
 }
 
+// A command has one command below it that was called, or none: that is how the verbs declare theirs.
 const CLI::App& calledIn(const CLI::App& program)
 {
     const CLI::App* pCommand = &program;
@@ -150,6 +154,8 @@ void checkCommandsIn(const CLI::App& program)
             throw Fault(kWrongUsage, unknownCommand(command, word));
 }
 
+// A word that nobody took is told first, that of the outermost command before all others, then that no command was
+// called. Only what is left is in the parser's own words: an option without its value, a word that is missing.
 Finding explain(const CLI::App& program, const CLI::ParseError& error)
 {
     const CLI::App& called = calledIn(program);

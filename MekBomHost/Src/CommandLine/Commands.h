@@ -25,15 +25,18 @@ namespace mekbom::Commands
 // names no command.
 const CLI::App& find(const CLI::App& program, const std::vector<std::string>& words);
 
-// The command that was called last when `program` parsed its arguments.
+// The innermost command that `program` was called with when it parsed its arguments: convert of "mekbom units convert";
+// `program` itself where no command was called. The parser owns it.
 const CLI::App& calledIn(const CLI::App& program);
 
 // The help of a command, be it one within another: that of convert begins with "Usage: mekbom units convert".
 std::string helpOf(const CLI::App& command);
 
-// Throws a Fault of status kWrongUsage when a word stands where a command is expected, and names none.
+// Throws a Fault of status kWrongUsage when a word stands where a command is expected, and names none: "mekbom reprot
+// --help" would print the program's help otherwise.
 void checkCommandsIn(const CLI::App& program);
 
-// What is wrong with the arguments that `program` threw `error` over.
+// What is wrong with the arguments that `program` threw `error` over: an error whose source is the words of the
+// command, empty for the program itself.
 Finding explain(const CLI::App& program, const CLI::ParseError& error);
 }

@@ -11,6 +11,6 @@
 
 namespace mekbom::Environment
 {
-// Those of `names` that are set, with what they hold.
+// Those of `names` that are set, each with what it holds, in the order of `names`. What is set to nothing holds "".
 std::vector<std::pair<std::string, std::string>> variables(const std::vector<std::string>& names);
 }

@@ -10,7 +10,7 @@
 
 namespace mekbom
 {
-// The parser would refuse a second file, too, but in its own words.
+// The parser would refuse a second file, too, but in its own words. So it takes all there are, and name() refuses.
 void FileOption::declareOn(CLI::App& command, const std::string& help)
 {
     m_pOption =
@@ -31,6 +31,7 @@ std::string FileOption::name() const
     return given.empty() ? std::string() : given.front();
 }
 
+// Of "-o,--output" the long one, as messages and help have it.
 std::string FileOption::option() const
 {
     return m_names.substr(m_names.find("--"));

@@ -22,7 +22,8 @@ public:
     // `names` are those of the option, "-o,--output"; `form` is what help calls its value.
     FileOption(std::string names, std::string form) : m_names(std::move(names)), m_form(std::move(form)) {}
 
-    // Adds the option to `command`, which keeps what it is given: this object is of use as long as that is.
+    // Adds the option to `command`, which keeps what it is given: the command outlives the use of this object. To be
+    // called once, and before the others.
     void declareOn(CLI::App& command, const std::string& help);
 
     // What was given; empty for nothing. Throws a Fault of status kWrongUsage when there is a second one.
@@ -34,6 +35,6 @@ public:
 private:
     std::string m_names;
     std::string m_form;
-    const CLI::Option* m_pOption = nullptr; // the command's
+    const CLI::Option* m_pOption = nullptr; // not owned: the command's; null until declareOn()
 };
 }

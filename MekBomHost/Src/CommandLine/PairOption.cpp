@@ -10,7 +10,8 @@
 
 namespace mekbom
 {
-// An option with a list of values would take all words up to the next option; this one takes one word each time.
+// An option with a list of values would take all words up to the next option; this one takes one word each time, so
+// that "--unit length=m list.json" leaves the template to the verb.
 void PairOption::declareOn(CLI::App& command, const std::string& help)
 {
     command.add_option(m_name, m_arguments, help + "; may be repeated")->type_name(m_form)->allow_extra_args(false);
@@ -24,7 +25,8 @@ std::vector<std::pair<std::string, std::string>> PairOption::pairs() const
     return pairs;
 }
 
-// The first equals sign divides the two; the second word may hold others.
+// The first equals sign divides the two; the second word may hold others: "--input-unit %A=b=c" asks for a unit "b=c",
+// which is refused as such.
 std::pair<std::string, std::string> PairOption::pairOf(const std::string& argument) const
 {
     const std::size_t equals = argument.find('=');

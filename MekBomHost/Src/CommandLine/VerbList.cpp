@@ -1,5 +1,6 @@
-// Parsing only notes which verb was called. It runs when its caller says so: all options are parsed then, of verbs
-// within verbs too, and what a verb throws does not pass through the parser.
+// Parsing only notes which verb was called: of "mekbom units read 30'" the program's list notes UnitsVerb, and the list
+// in that notes UnitsReadVerb. A verb runs when its caller says so: all options are parsed then, of verbs within verbs
+// too, and what a verb throws does not pass through the parser.
 #include "VerbList.h"
 
 #include <CLI/CLI.hpp>

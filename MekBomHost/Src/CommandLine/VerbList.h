@@ -6,7 +6,8 @@
 //   app.parse(numArguments, arguments);         "mekbom count parts.csv"
 //   verbs.called()->run(findings);
 //
-// A verb may have verbs below it, in a list of its own: "mekbom units read 30'" calls UnitsVerb, and that UnitsReadVerb.
+// A verb may have verbs below it, in a list of its own: "mekbom units read 30'" calls UnitsVerb, and that
+// UnitsReadVerb.
 #pragma once
 
 #include "Verb.h"

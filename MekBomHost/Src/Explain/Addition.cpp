@@ -1,3 +1,11 @@
+// A reader adds up what is printed, and may get something else than the list says. Three thirds of 100 kg, to two
+// decimals:
+//
+//   numbers behind the texts    33.333... + 33.333... + 33.333... = 100       what the engine adds
+//   texts                       33.33     + 33.33     + 33.33     = 99.99     what a reader adds
+//
+// So the texts are read back and added, and when that is not the text of the total, a remark says why. Numbers that the
+// list shows in another unit than the model's come back with errors in their last digits, hence the tolerance.
 #include "Addition.h"
 
 #include <cmath>
@@ -33,7 +41,8 @@ std::string Addition::text(const std::string& total) const
     return text + " = " + m_numbers.withUnit(total) + rounding(total);
 }
 
-// Empty when the texts add up.
+// The remark; empty when the texts add up. A text that cannot be read back is NaN, which equals nothing, so that the
+// remark is made.
 std::string Addition::rounding(const std::string& total) const
 {
     std::vector<std::string> texts = m_texts;

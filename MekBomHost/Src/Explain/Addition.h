@@ -22,7 +22,7 @@ namespace mekbom
 class Addition
 {
 public:
-    // Not owned; outlives this object.
+    // `numbers`, which say how the list shows its numbers, are not owned and outlive this object.
     explicit Addition(const ListNumbers& numbers) : m_numbers(numbers) {}
 
     // `number` in the model's unit.
@@ -35,8 +35,8 @@ private:
     std::string rounding(const std::string& total) const;
 
     const ListNumbers& m_numbers;
-    std::vector<std::string> m_texts; // of those that are written
-    std::size_t m_numMore = 0;
-    double m_sumOfMore = 0;
+    std::vector<std::string> m_texts; // the summands that are written, as the list shows them
+    std::size_t m_numMore = 0;        // how many are not
+    double m_sumOfMore = 0;           // what these come to, in the model's unit
 };
 }

@@ -46,6 +46,7 @@ std::vector<CellsInWords::Cell> CellsInWords::cellsOf(const ReportLine& line, bo
     const std::vector<int> tuples = m_report.reportTemplate.shownTuplesOf(section);
     const std::vector<int>& columns = m_report.evaluated.layout().section(place).columns;
     std::vector<Cell> cells;
+    // The layout has a column for each tuple that is shown, in their order.
     for (std::size_t i = 0; i < tuples.size(); ++i)
     {
         const auto column = static_cast<std::size_t>(columns[i]);
@@ -55,7 +56,8 @@ std::vector<CellsInWords::Cell> CellsInWords::cellsOf(const ReportLine& line, bo
     return cells;
 }
 
-// Nothing about a cell that shows what its row has.
+// Nothing is said of a cell that shows what its row has. The numbers are compared without a tolerance: one that was
+// only handed on is the row's to the last digit, and any other was added up.
 std::string CellsInWords::inHeader(const Cell& cell, const RowList& rows) const
 {
     const VorBomDataRow& row = **rows.begin();
@@ -70,6 +72,8 @@ std::string CellsInWords::inHeader(const Cell& cell, const RowList& rows) const
     return std::string();
 }
 
+// The summands are read from the rows again. A starting value of the template comes first, as the engine adds to it;
+// rows without the datum add nothing, and are not written as 0.
 std::string CellsInWords::addedUp(const Cell& cell, const RowList& rows, const VorString& token, double start) const
 {
     const ListNumbers numbers(m_report, cell.section, cell.tuple, cell.value, cell.column);
@@ -85,6 +89,8 @@ std::string CellsInWords::addedUp(const Cell& cell, const RowList& rows, const V
            (start != 0 ? ", the first from the template" : "") + "\n";
 }
 
+// The engine writes a result into the row, so a row without it is one that the formula failed on, or was not computed
+// for.
 std::string CellsInWords::computed(const Cell& cell, const VorBomDataRow& row) const
 {
     VorString formula = cell.tupleInTemplate().token().token();
@@ -98,7 +104,7 @@ std::string CellsInWords::computed(const Cell& cell, const VorBomDataRow& row) c
     return what + with + " is " + numbers.withUnit(cell.text) + "\n";
 }
 
-// A text that is summed is no sum: the last row's stands there.
+// Only numbers are added up. A footer that shows a datum, or sums a text, has that of the last row counted.
 std::string CellsInWords::inFooter(const Cell& cell, const RowList& rows) const
 {
     VorString token = cell.tupleInTemplate().token().token();

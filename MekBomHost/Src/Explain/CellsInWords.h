@@ -1,5 +1,5 @@
 // Where the cells of a line come from that are not simply what its row has: the sums, what was computed, and what the
-// template says itself.
+// template says itself. A cell that shows what its row has is passed over.
 //
 //   CellsInWords(explained).ofFooter(line)
 //
@@ -29,7 +29,8 @@ public:
     // Nothing of `report` is copied; it must outlive this object.
     explicit CellsInWords(const ExplainedReport& report);
 
-    // A sentence a line, in UTF-8. Empty for a line without that section. Lines have their values and rows.
+    // Sentences in UTF-8, each with its line end; empty for a line without that section. `line` is one of the report,
+    // which was evaluated with the values and rows of its lines.
     std::string ofHeader(const ReportLine& line) const;
     std::string ofFooter(const ReportLine& line) const;
 
@@ -38,7 +39,7 @@ private:
     struct Cell
     {
         const VorBomTemplateItem& section;
-        int tuple;
+        int tuple; // among those of the section
         const ReportColumn& column;
         std::string text;
         const VorBomTypedValue& value;

@@ -1,3 +1,10 @@
+// A line is told from the outside in: where it stands and what it shows, which rows made it, where its numbers come
+// from, and why it is a line of its own. Which rows are told depends on what stands on the line:
+//
+//   details              "Made by row 1. Merged into it, and in no total: row 3."
+//   header               "Opened by row 1."          the group's other rows are those of the lines below it
+//   footer               "Counts row 1 and row 2."   without the row that was merged
+//   header and footer    both, for a group that is printed without its lines
 #include "LineInWords.h"
 
 #include "Fault.h"
@@ -62,6 +69,7 @@ std::string LineInWords::heading(int number, const ReportLine& line) const
            sectionOf(line.place, isDetails(line)) + ": " + contentOf(line) + "\n";
 }
 
+// Cells without a text are passed over: a footer would name every column otherwise.
 std::string LineInWords::contentOf(const ReportLine& line) const
 {
     std::string text = line.label.empty() ? std::string() : inQuotes(line.label);
@@ -84,7 +92,8 @@ std::string LineInWords::rowsOf(const ReportLine& line) const
     return text;
 }
 
-// The first made the line, the others read as it does.
+// The first row made the line, and the others read as it does. What became of them depends on the template: "count" has
+// added them to the line, and the engine's own way has left them out of all totals.
 std::string LineInWords::rowsOfDetails(const RowList& rows) const
 {
     const RowList others{ rows.begin() + 1, rows.end() };
@@ -96,6 +105,7 @@ std::string LineInWords::rowsOfDetails(const RowList& rows) const
     return text;
 }
 
+// Only details have something that keeps them apart; the line next to one may be a header, a footer, or missing.
 std::string LineInWords::neighbour(const ReportLine& line, const ReportLine* pOther, const std::string& name) const
 {
     if (pOther == nullptr || !isDetails(*pOther))

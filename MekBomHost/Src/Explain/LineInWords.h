@@ -33,8 +33,8 @@ public:
     // Nothing of `report` is copied; it must outlive this object.
     explicit LineInWords(const ExplainedReport& report);
 
-    // In UTF-8, each line with its end. Throws a Fault of status kWrongUsage, which says how many lines there are, for a
-    // number that is none of theirs.
+    // In UTF-8, each line with its end. Throws a Fault of status kWrongUsage, which says how many lines there are, for
+    // a number that is none of theirs.
     std::string text(int number) const;
 
     // All lines with their numbers, each as text() begins with it.

@@ -1,3 +1,5 @@
+// Lines can only be read one after the other, so that line 3 is found by reading 1 to 4: 2 is kept as the one before, 3
+// as the line, 4 as the one after, and nothing behind it is read. Without a line 3 all have been read, and are counted.
 #include "LineNeighbours.h"
 
 namespace mekbom

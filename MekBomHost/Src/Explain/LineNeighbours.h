@@ -16,14 +16,16 @@ namespace mekbom
 class LineNeighbours
 {
 public:
-    // The lines refer to what the report keeps, and are good as long as that.
+    // Looks for the line with that number, from 1. The lines refer to what the report keeps, and are good as long as
+    // that.
     LineNeighbours(const EvaluatedReport& report, int number);
 
     const ReportLine* line() const { return pointerTo(m_line); }
     const ReportLine* before() const { return pointerTo(m_before); } // null for the first line
     const ReportLine* after() const { return pointerTo(m_after); }   // null for the last one
 
-    // How many lines the report has, unless there is a line of the number.
+    // How many lines the report has; of use only when line() is null, since the search ends behind a line that it
+    // finds.
     int numLines() const { return m_numLines; }
 
 private:

@@ -1,3 +1,9 @@
+// Two lines are two for one of two reasons, and the first is looked for first: in lines of two groups the texts may
+// well be the same. Of a list by %Material with a hidden column %Phase:
+//
+//   S235  HEA200        row 1, phase 1
+//   S235  HEA200        row 2, phase 2     differs in %Phase: the engine compares hidden columns, too
+//   S355  HEA200        row 3              is in another group, whatever else differs
 #include "LinesApart.h"
 
 #include "InQuotes.h"
@@ -19,6 +25,7 @@ const VorBomDataRow& firstRowOf(const ReportLine& line)
     return **line.headerRows.begin();
 }
 
+// %Name: "IPE450", here "IPE360"
 std::string unlike(const VorString& token, const std::string& other, const std::string& here)
 {
     return Utf8::toBytes(token) + ": " + other + ", here " + here;
@@ -29,7 +36,7 @@ LinesApart::LinesApart(const ExplainedReport& report)
     : m_report(report),
       m_levels(*report.reportTemplate.pTemplate),
       m_data(report),
-      m_details(*m_levels.section({ m_levels.count() - 1, false })),
+      m_details(m_levels.details()),
       m_columns(static_cast<std::size_t>(m_details.getData().length()), -1)
 {
     const std::vector<int> shown = report.reportTemplate.shownTuplesOf(m_details);
@@ -80,6 +87,7 @@ bool LinesApart::isCounted(const VorString& token) const
     return m_report.reportTemplate.equalLines == kCountEqualLines && PieceTokens::growWithPieces(token);
 }
 
+// The text of the line where there is one; what is not printed is told as the line's first row has it.
 std::string LinesApart::textOf(const ReportLine& line, int tuple) const
 {
     const int column = m_columns[static_cast<std::size_t>(tuple)];

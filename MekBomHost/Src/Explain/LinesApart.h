@@ -25,7 +25,8 @@ public:
     // Nothing of `report` is copied; it must outlive this object.
     explicit LinesApart(const ExplainedReport& report);
 
-    // Both are lines of details, with their rows.
+    // What a sentence about `line` says, behind its subject; values of `other` come first. Both are lines of details,
+    // with their rows.
     std::string text(const ReportLine& line, const ReportLine& other) const;
 
 private:
@@ -38,6 +39,6 @@ private:
     TemplateLevels m_levels;
     RowData m_data;
     const VorBomTemplateItem& m_details;
-    std::vector<int> m_columns; // of each tuple of the details; -1 for one that is not shown
+    std::vector<int> m_columns; // the column of each tuple of the details; -1 for one that is not shown
 };
 }

@@ -1,3 +1,6 @@
+// The summands of a total must be shown as the total is, which may not be how the list shows them elsewhere: in a
+// column "unit": "t/3" a weight of 260.61 kg is 0.261, though the details show 260.61. So texts are made as the
+// evaluation makes those of the very tuple that holds the total, and are read back in the unit of its column.
 #include "ListNumbers.h"
 
 #include "ColumnUnit.h"
@@ -44,7 +47,7 @@ ListNumbers::ListNumbers(const ExplainedReport& report, const VorBomTemplateItem
     m_symbol = ColumnUnit::symbolOf(*m_unit);
 }
 
-// As the evaluation does it.
+// As the evaluation does it: a format of the template's own comes before the unit, and a whole number has no unit.
 std::string ListNumbers::textOf(double number) const
 {
     const bool isWhole = m_shown.type == VorBomDataValue::kIntData;
@@ -62,7 +65,8 @@ std::string ListNumbers::withUnit(const std::string& text) const
     return needsUnit ? text + " " + m_symbol : text;
 }
 
-// The blank of "6 1/2" belongs there, that of "1 234" only groups digits.
+// A blank is of either kind: that of "6 1/2" belongs there, that of "1 234" only groups digits. So a quantity is read
+// as it stands first, and without its blanks only when that fails.
 std::optional<double> ListNumbers::valueOf(const std::string& text) const
 {
     double value = 0;

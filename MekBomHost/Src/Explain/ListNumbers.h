@@ -21,18 +21,18 @@ namespace mekbom
 class ListNumbers
 {
 public:
-    // Of the numbers that are shown as `shown` is, which stands under the `tuple`-th token of `section`, in `column`.
-    // Nothing of `report` is copied; it must outlive this object.
+    // For the numbers that are shown as `shown` is, which stands under the `tuple`-th token of `section`, from 0, in
+    // `column`. Nothing of `report` is copied; it must outlive this object, as the section does.
     ListNumbers(const ExplainedReport& report, const VorBomTemplateItem& section, int tuple,
                 const VorBomTypedValue& shown, const ReportColumn& column);
 
-    // `number` in the model's unit.
+    // The text that the list would show for a number, which is in the model's unit.
     std::string textOf(double number) const;
 
     // A text with the symbol of its unit behind it, where it needs one: not feet and inches, and not twice.
     std::string withUnit(const std::string& text) const;
 
-    // In the model's unit; nothing for a text that no number is read from.
+    // The number, in the model's unit, that somebody reads in a text; nothing for a text that no number is read from.
     std::optional<double> valueOf(const std::string& text) const;
 
 private:
@@ -40,7 +40,7 @@ private:
     const VorBomTemplateItem& m_section;
     int m_tuple;
     VorBomTypedValue m_shown;
-    std::optional<MEKUnit> m_unit; // none for numbers without
-    std::string m_symbol;
+    std::optional<MEKUnit> m_unit; // the column's; none for numbers that have no unit
+    std::string m_symbol;          // its symbol, such as "kg"; empty without a unit
 };
 }

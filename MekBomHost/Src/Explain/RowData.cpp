@@ -1,3 +1,5 @@
+// Words about a row show its data as a list without columns of its own would: in the unit that the report has for their
+// kind, with the symbol behind it. A column may show the same datum otherwise (ListNumbers); a row has no columns.
 #include "RowData.h"
 
 #include "ColumnUnit.h"
@@ -36,6 +38,7 @@ std::string RowData::textOf(const VorBomDataTuple* pTuple, const VorString& toke
     return pTuple->value().type() == VorBomDataValue::kStringData ? inQuotes(text) : text;
 }
 
+// The engine looks in the row first and in the section then, and a formula may name a datum twice: "%A*%A" has one.
 std::string RowData::operandsOf(const VorBomDataRow& row, const VorString& formula,
                                 const VorBomTemplateItem& section) const
 {
@@ -53,6 +56,7 @@ std::string RowData::operandsOf(const VorBomDataRow& row, const VorString& formu
     return WordList::joined(operands);
 }
 
+// Feet and inches have their marks and degrees their signs; all other numbers need a symbol to be understood.
 std::string RowData::quantity(const VorString& token, double number) const
 {
     const VorBomTemplateUnits& tokenUnits = *m_report.reportTemplate.pTemplate->getBomTemplateUnits();

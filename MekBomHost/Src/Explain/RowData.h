@@ -26,13 +26,15 @@ public:
     // Nothing of `report` is copied; it must outlive this object.
     explicit RowData(const ExplainedReport& report) : m_report(report) {}
 
-    // Whole or not; nothing for a text and for a row without the datum.
+    // The number, whole or not, in the model's unit; nothing for a text and for a row without the datum.
     static std::optional<double> numberIn(const VorBomDataRow& row, const VorString& token);
 
+    // Texts come in quotes, quantities with the symbol of their unit; "none" for a row without the datum.
     std::string textOf(const VorBomDataRow& row, const VorString& token) const;
 
     // The data of a formula of `section`, each once:  "%Weight 260.61 kg and %Quantity 2". What the row lacks and the
-    // section shows, is the template's value:  "%Weight 0 kg (the template's)".
+    // section shows is the template's value:  "%Weight 0 kg (the template's)". `formula` is without its prefix; empty
+    // for one without data.
     std::string operandsOf(const VorBomDataRow& row, const VorString& formula, const VorBomTemplateItem& section) const;
 
 private:

@@ -20,7 +20,7 @@ std::string RowNames::names(const RowList& rows) const
 {
     std::vector<std::string> names;
     for (const VorBomDataRow* const pRow : rows)
-        names.push_back(names.size() < kMostNamed ? name(*pRow) : std::string());
+        names.push_back(names.size() < kMostNamed ? name(*pRow) : std::string()); // the others are only counted
     return WordList::firstOf(names, kMostNamed);
 }
 }

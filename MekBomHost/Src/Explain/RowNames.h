@@ -15,10 +15,13 @@ namespace mekbom
 class RowNames
 {
 public:
-    // Not owned; outlives this object.
+    // `numbers` are not owned and outlive this object.
     explicit RowNames(const RowNumbers& numbers) : m_numbers(numbers) {}
 
+    // In UTF-8. A row that `numbers` do not know is "row 0".
     std::string name(const VorBomDataRow& row) const;
+
+    // The first twenty rows by their names, and how many there are more; empty for no rows.
     std::string names(const RowList& rows) const;
 
 private:

@@ -20,7 +20,7 @@ namespace mekbom
 {
 namespace
 {
-const char* const kDirections[] = { "descending", "ascending" };
+const char* const kDirections[] = { "descending", "ascending" }; // by SortKey::isAscending
 
 std::vector<std::string> namesOf(const std::vector<VorString>& tokens)
 {
@@ -31,6 +31,7 @@ std::vector<std::string> namesOf(const std::vector<VorString>& tokens)
     return names;
 }
 
+// "shows ", { "%Name", "%Weight" }, ", of the last row" -> "shows %Name and %Weight, of the last row"
 void addUnlessEmpty(std::vector<std::string>& sentences, const std::string& before,
                     const std::vector<std::string>& words, const std::string& after)
 {
@@ -72,7 +73,7 @@ std::string wordsFor(eEqualLines equalLines)
 TemplateInWords::TemplateInWords(const ReportTemplate& reportTemplate)
     : m_template(reportTemplate), m_levels(*reportTemplate.pTemplate)
 {
-    int ascending = 1; // a request without direction has that of the one before it, on an outer level, too
+    int ascending = 1; // an element without a direction of its own goes in that of the one before it
     for (int level = 0; level < m_levels.count(); ++level)
     {
         m_sortKeys.emplace_back();
@@ -92,6 +93,7 @@ std::string TemplateInWords::text() const
     return text;
 }
 
+// What holds for the list as a whole, and a blank line behind it.
 std::string TemplateInWords::head() const
 {
     std::string text;
@@ -109,6 +111,8 @@ std::string TemplateInWords::level(int level) const
            section({ level, false }) + section({ level, true });
 }
 
+// A level without grouping tokens never splits: its one group lasts as long as the one around it. In the deepest level
+// grouping tokens change nothing, since every row is a group of its own there.
 std::string TemplateInWords::whatItIs(int level) const
 {
     const std::vector<VorString> tokens = m_levels.groupTokens(level);
@@ -121,7 +125,8 @@ std::string TemplateInWords::whatItIs(int level) const
            names;
 }
 
-// "sorted by %A and %B, ascending, as plain text, then by %C, descending, as numbers"
+// "sorted by %A and %B, ascending, as plain text, then by %C, descending, as numbers": keys that follow each other and
+// have direction and order in common are named together.
 std::string TemplateInWords::sorting(int level) const
 {
     std::string text;
@@ -140,7 +145,9 @@ std::string TemplateInWords::sorting(int level) const
     return text;
 }
 
-// Numbers are sorted by value, whatever their column says.
+// The catalogue says it, unless the template does: that a token is a number, in "tokens", or what the order of its
+// column is. Numbers are sorted by value, whatever their column says. What the catalogue does not know is told as plain
+// text, although a column of the data may turn out to hold numbers: here there are no data.
 std::string TemplateInWords::order(const VorString& token) const
 {
     const ColumnStyle* const pStyle = m_template.columnStyleOf(token);
@@ -160,7 +167,9 @@ std::string TemplateInWords::order(const VorString& token) const
     }
 }
 
-// Rows that agree in what this level and those around it group by stand together if the first sort keys are just these.
+// Rows that agree in what this level and those around it group by stand together if the first sort keys are just these,
+// in whatever order: with groups by %Material and %Name, the keys %Name, %Material, %Length do, and %Length, %Material,
+// %Name do not.
 bool TemplateInWords::bringsTogether(int level) const
 {
     std::vector<VorString> missing;
@@ -181,6 +190,9 @@ bool TemplateInWords::bringsTogether(int level) const
     return missing.empty();
 }
 
+// "  footer  is labelled "Total"; adds up %Weight, from 0": a line for each section, its parts in the order in which
+// they matter. A section that is not printed is told all the same, since it opens a group or computes for those that
+// are.
 std::string TemplateInWords::section(SectionPlace place) const
 {
     const VorBomTemplateItem* const pSection = m_levels.section(place);
@@ -204,7 +216,7 @@ std::string TemplateInWords::section(SectionPlace place) const
            joinedBySemicolons(parts) + "\n";
 }
 
-// Grouping and sorting are told of the level.
+// What the tuples do in this place, in three heaps. Grouping and sorting are told of the level, and filters do nothing.
 std::vector<std::string> TemplateInWords::tuples(const VorBomTemplateItem& section, SectionPlace place) const
 {
     std::vector<std::string> shown;
@@ -227,6 +239,7 @@ std::vector<std::string> TemplateInWords::tuples(const VorBomTemplateItem& secti
         else
             (VorBomDataToken::isFormula(token) == 1 ? computed : shown).push_back(readable(token) + hidden);
     }
+    // A line shows its own row, which needs no words; a header shows that of the first row, and a footer of the last.
     const bool opensGroup = !place.isFooter && !m_levels.isDeepest(place.level);
     std::vector<std::string> parts;
     addUnlessEmpty(parts, "shows ", shown,

@@ -38,6 +38,7 @@ private:
         bool isAscending;
     };
 
+    // Parts of the text, each with its line ends, and parts of a line.
     std::string head() const;
     std::string level(int level) const;
     std::string whatItIs(int level) const;

@@ -10,7 +10,7 @@
 
 namespace mekbom::WordList
 {
-// Empty for no words.
+// All of them; empty for no words.
 std::string joined(const std::vector<std::string>& words);
 
 // No more than `most` of them, and how many are left.

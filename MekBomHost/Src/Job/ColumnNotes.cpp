@@ -41,7 +41,9 @@ std::string joined(const std::vector<std::string>& texts, const std::string& sep
     return text;
 }
 
-// The columns that may have been meant to be one of the tokens, each with that.
+// The columns that may have been meant to be one of the tokens, each with that token; the first few, since a note that
+// asks of ten columns is not read. A column that the catalogue knows can only have been meant for a token of the
+// author's own, which no catalogue has.
 std::vector<std::pair<const InputColumn*, std::string>> meant(const PartsList& parts, std::vector<std::string> tokens)
 {
     tokens.resize(std::min(tokens.size(), kMostLookedFor));

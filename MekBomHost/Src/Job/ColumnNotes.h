@@ -15,12 +15,12 @@
 
 namespace mekbom::ColumnNotes
 {
-// That the list asks for `tokens`, at least one, of which the parts list called `source` has no columns.
+// Says that the list asks for `tokens`, at least one, for which the parts list called `source` has no columns.
 Finding missing(const PartsList& parts, const std::string& source, const std::vector<std::string>& tokens);
 
-// That a list was chosen, of that name and title, because it suits the columns.
+// Says that a list was chosen, of that name and title, because it suits the columns. The title may be empty.
 Finding chosen(const std::string& name, const std::string& title);
 
-// That no list suits the columns, so that they are printed as they are.
+// Says that no list suits the columns of the parts list called `source`, so that they are printed as they are.
 Finding printedAsTheyAre(const PartsList& parts, const std::string& source);
 }

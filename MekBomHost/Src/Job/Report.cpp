@@ -5,6 +5,9 @@
 //   EqualLines    makes one line of those that read alike, if the template says "count"
 //   OverflowCheck looks for numbers that have become none
 //   PackedSections, which keeps what is printed
+//
+// The chain is made from its end, as each sink is given the one that it hands on to. RowTally stands in front, because
+// EqualLines would show it one line where there were three rows.
 #include "Report.h"
 
 #include "ColumnCheck.h"
@@ -76,6 +79,8 @@ void Report::evaluate()
         checkRows();
 }
 
+// What a column shows must be known before the first number is written: the kind of each formula, the order that texts
+// are sorted in, and how many decimals its numbers have, which the rows tell.
 void Report::prepareNumbers()
 {
     const FormulaResults formulas(m_template);
@@ -110,6 +115,8 @@ void Report::evaluateRows()
         m_mistakes.insert(m_mistakes.end(), equalLines->findings().begin(), equalLines->findings().end());
 }
 
+// Each row is filtered out, merged into the line of another one, or listed; of 7 rows 2 + 1 + 4 are all. A difference
+// is a fault of the program and not of its user, so that it ends the run as one.
 void Report::checkRows() const
 {
     int numKnown = m_facts.rows.numListed + m_facts.rows.numMerged;
@@ -140,6 +147,7 @@ void Report::failInFilter(Finding finding, bool isFromTemplate) const
     throw Fault(kInvalidInput, finding);
 }
 
+// Rows get their numbers before any of them is left out: a user counts the lines of the file.
 void Report::filter()
 {
     if (m_sections.contents().rows)
@@ -150,6 +158,7 @@ void Report::filter()
     m_isFiltered = true;
 }
 
+// A filter learns here what it compares: only with rows is it known whether "%Mark > 5" is about numbers or texts.
 void Report::apply(RowFilter& filter, bool isFromTemplate)
 {
     if (filter.text().empty())

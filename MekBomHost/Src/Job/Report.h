@@ -32,22 +32,22 @@ namespace mekbom
 class Report
 {
 public:
-    // `settings` say how numbers are shown, whatever the settings repository of the process holds; `contents` what is
-    // to be known of a line beside its texts.
+    // Takes the template over, and copies the rest. `settings` say how numbers are shown, whatever the settings
+    // repository of the process holds; `contents` what is to be known of a line beside its texts.
     Report(ReportTemplate reportTemplate, const VorUnitsManager& units,
            const DisplaySettings& settings = DisplaySettings(), LineContents contents = LineContents());
 
     // Leaves rows out beside those that the template leaves out. To be called before the rows are read.
     void addFilter(const RowFilter& filter) { m_where = filter; }
 
-    // The template whose data the rows go to.
+    // The template whose data the rows go to; owned by the report.
     VorBomTemplate& engineTemplate() { return *m_template.pTemplate; }
     const ReportTemplate& reportTemplate() const { return m_template; }
 
-    // That numbers are shown in.
+    // The units that numbers are shown in.
     const VorUnitsManager& units() const { return m_units; }
 
-    // Of all rows that were read, once they were evaluated; of none unless lines keep their rows.
+    // The numbers of all rows that were read, once they were filtered; of none unless lines keep their rows.
     const RowNumbers& rowNumbers() const { return m_rowNumbers; }
 
     // What is wrong with what the template says of numbers: formulas whose result nobody can tell, units that do not
@@ -55,18 +55,20 @@ public:
     // without a unit, or in that of the list. To be called before evaluate().
     std::vector<Finding> columnErrors() const;
 
-    // The tokens that rows are left out by, which rows must be read with: a datum that was not kept would be taken for
-    // one that is not there.
+    // The tokens that the filters ask for, the template's and the one added. Rows must be read with them, even where
+    // the list shows none of them: a datum that was not kept would be taken for one that is not there.
     std::vector<VorString> filterTokens() const;
 
-    // Throws what is wrong with a filter, with its place: the template's, or else the one added.
+    // Throws a Fault of what is wrong with a filter: with its place in the template and of status kInvalidInput, or,
+    // for the one added, of status kWrongUsage.
     [[noreturn]] void failInFilter(Finding finding, bool isFromTemplate) const;
 
     // Leaves out the rows that the list is not about. Throws a Fault for a filter that compares a datum with what it
     // cannot be compared with. To be called once; evaluate() does it where nobody has.
     void filter();
 
-    // Has evaluate() add up every total a second time, from the rows, and see where each row has gone.
+    // Has evaluate() add up every total a second time, from the rows, and see where each row has gone. To be called
+    // before it.
     void checkTotals() { m_checksTotals = true; }
 
     // Filters, unless that has been done, then evaluates. To be called once. Throws std::runtime_error when totals are
@@ -79,7 +81,7 @@ public:
     // What became of the rows, for the foot of the list; evaluate() counts them. Who knows more of them says it here.
     ListFacts& facts() { return m_facts; }
 
-    // The evaluated report, which looks at this object and must not outlive it.
+    // The evaluated report, which looks at this object and must not outlive it. To be called behind evaluate().
     EvaluatedReport evaluated() const { return EvaluatedReport(m_template, m_units, m_sections, m_facts); }
 
 private:
@@ -89,14 +91,14 @@ private:
     void evaluateRows();
     void checkRows() const;
 
-    VorUnitsManager m_units; // that numbers are shown in
+    VorUnitsManager m_units;
     DisplaySettings m_settings;
     ReportTemplate m_template;
-    std::unique_ptr<NumberFormats> m_pFormats; // that the template refers to, once it is evaluated
+    std::unique_ptr<NumberFormats> m_pFormats; // what the template writes its numbers with from evaluate() on
     bool m_isFiltered = false;
     RowFilter m_where;
     RowNumbers m_rowNumbers;
-    PackedSections m_sections; // of the evaluated report
+    PackedSections m_sections; // what was evaluated; it refers to m_template
     ListFacts m_facts;
     std::vector<Finding> m_mistakes;
     bool m_checksTotals = false;

@@ -7,7 +7,8 @@
 //       tell(messageOf(finding));
 //
 // A job touches nothing but its request: no files, no streams, no state of the process. Jobs with other units and other
-// settings may therefore run one after the other, side by side, and on several threads, each job on one at a time.
+// settings may therefore run one after the other, side by side, and on several threads, each job on one at a time. It
+// owns its rows, its template and all that they refer to, until it goes.
 #pragma once
 
 #include "ExitStatus.h"
@@ -51,7 +52,8 @@ public:
     // The evaluated report, good for as long as the job is. Only once run() has returned kDone.
     EvaluatedReport report() const { return m_pReport->evaluated(); }
 
-    // What the report was made of and with, under the same conditions.
+    // The template, the units and the numbers of the rows that the report was made with, under the same conditions.
+    // Rows have numbers only where the request asks for the rows of lines.
     const ReportTemplate& reportTemplate() const { return m_pReport->reportTemplate(); }
     const VorUnitsManager& units() const { return m_pReport->units(); }
     const RowNumbers& rowNumbers() const { return m_pReport->rowNumbers(); }
@@ -59,7 +61,11 @@ public:
 private:
     ExitStatus makeReport();
     ExitStatus checkReport();
+
+    // The status for the errors found, of which there is at least one.
     ExitStatus statusOfErrors() const;
+
+    // What both are made of. Each may throw a Fault, which ends the job.
     void prepareReport();
     bool hasRows() const;
     KnownTokens knownTokens() const;

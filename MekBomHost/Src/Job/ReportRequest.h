@@ -9,6 +9,9 @@
 //
 // Sources are read when the job comes to them, in the order of the members, so that the first mistake a user hears of
 // is the same wherever the texts come from. Their names are what findings call them.
+//
+// Owns its sources; whoever makes a job of it moves it there. All texts are UTF-8, and what is left alone is a report
+// of the sample rows in the default template.
 #pragma once
 
 #include "ByteSource.h"
@@ -28,7 +31,7 @@ struct ReportRequest
     std::unique_ptr<ByteSource> pParts; // a parts list, comma-separated; null for the sample rows
     Pairs inputUnits;                   // of columns whose heading names none: "%Paint", "m2"
 
-    std::unique_ptr<ByteSource> pTemplate; // null: the one of the candidates that suits the parts list best
+    std::unique_ptr<ByteSource> pTemplate; // null for the one of the candidates that suits the parts list best
     std::vector<std::unique_ptr<ByteSource>> candidates; // in order of preference; if none suits, the columns are
                                                          // printed as they are; without any, the default template
 

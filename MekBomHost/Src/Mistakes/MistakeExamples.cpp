@@ -1,3 +1,12 @@
+// An example differs from a right list in one place, and is short enough to be read on a page. groupedList(kByMaterial,
+// { "%PNum" }, kWeights) is nearly the shortest list that groups and sums:
+//
+//   { "sections": [
+//     { "type": "kReportHeader", "children": [
+//       { "type": "kGroupHeader", "tuples": [ %GroupBy:%Material, %SortAscBy:%Material, %Material ],
+//         "children": [ { "type": "kDetails", "tuples": [ %PNum ] } ] },
+//       { "type": "kGroupFooter", "tuples": [ %SumBy:%Weight ] } ] },
+//     { "type": "kReportFooter" } ] }
 #include "MistakeExamples.h"
 
 namespace mekbom::MistakeExamples
@@ -39,6 +48,11 @@ std::string listWithFormula(const std::string& formula, const std::string& keys)
     Tuples details = kParts;
     details.push_back(formula);
     return groupedList(kByMaterial, details, kWeights, keys);
+}
+
+std::string withForeignRows(const std::string& happens)
+{
+    return happens + " Parts lists have none such; rows that another program hands over may.";
 }
 
 std::string listOfSections(const std::string& sections, const std::string& keys)

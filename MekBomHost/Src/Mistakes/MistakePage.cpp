@@ -1,3 +1,12 @@
+// A rule, as Markdown; the examples come with their data where it is these that trip it:
+//
+//   # MB105: A details section shows nothing, ...      the sentence of its code
+//   Told as an error.
+//   - Written: an empty details section ...            three columns of MistakeTable
+//   - What happens: ...
+//   - Instead: ...
+//   Trips it:                                          the bad template, as JSON
+//   Does not:                                          the good one; "These data do not" where only the data differ
 #include "MistakePage.h"
 
 #include "Finding.h"
@@ -26,7 +35,8 @@ std::string block(const std::string& words, const std::string& language, const s
     return words + ":\n\n```" + language + "\n" + text + "```\n\n";
 }
 
-// Where only the data differ, the template is shown once.
+// Where only the data differ, the template is shown once. Nothing is shown of rows that no parts list has: a template
+// alone would trip nothing.
 std::string examplesOf(const Mistake& mistake)
 {
     if (mistake.needsForeignRows)
@@ -50,7 +60,7 @@ std::string ruleOf(const Mistake& mistake, const std::string& heading)
            "\n- Instead: " + mistake.fix + "\n\n" + examplesOf(mistake);
 }
 
-// "MB105" -> "Structure".
+// "MB105" -> "Structure": the digit behind "MB" counts the hundreds from 1.
 std::string hundredOf(const Mistake& mistake)
 {
     return kHundreds[mistake.pCode->name[2] - '1'];

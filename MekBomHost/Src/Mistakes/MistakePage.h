@@ -8,9 +8,9 @@
 
 namespace mekbom::MistakePage
 {
-// One rule. The code is that of a mistake.
+// One rule, below a heading of the first order; empty for a code that no mistake has.
 std::string of(std::string_view code);
 
-// All of them, with what they have in common on top: Docs/MISTAKES.md.
+// All rules, with what they have in common on top, below headings for each hundred: Docs/MISTAKES.md to the letter.
 std::string ofAll();
 }

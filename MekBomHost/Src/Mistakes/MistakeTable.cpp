@@ -1,3 +1,6 @@
+// Each hundred of codes has a page of its own, MistakesOfStructure.cpp and so on, and pages stand in the order of their
+// codes, so that the table is sorted as soon as each page is. MistakeTableTest asks whether it is, and whether it has
+// every code.
 #include "MistakeTable.h"
 
 #include "MistakeExamples.h"

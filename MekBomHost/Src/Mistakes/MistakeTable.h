@@ -4,7 +4,8 @@
 //   MistakeTable::find("MB203")->writes   ->  "%GroupBy: in the deepest level, or in a footer"
 //   MistakeTable::find("MB203")->bad      ->  a template file
 //
-// `mekbom check --explain` and Docs/MISTAKES.md are made of it, and a test runs all its templates.
+// `mekbom check --explain` and Docs/MISTAKES.md are made of it. A test runs all its templates: a bad one must trip its
+// rule, a good one none at all. All texts are UTF-8; the table never changes once it is made.
 #pragma once
 
 #include "FindingCodes.h"
@@ -17,10 +18,10 @@ namespace mekbom
 {
 struct Mistake
 {
-    const FindingCode* pCode;
-    std::string writes;  // what the author writes
-    std::string happens; // what comes of it
-    std::string fix;     // how to write it right
+    const FindingCode* pCode; // one of MistakeCodes; never null
+    std::string writes;       // what the author writes
+    std::string happens;      // what comes of it
+    std::string fix;          // how to write it right
 
     // Texts of template files, and, for a rule on data, of parts lists. Where both have the same template, it is the
     // data that differ.
@@ -38,7 +39,7 @@ namespace MistakeTable
 // In the order of the codes, each once.
 const std::vector<Mistake>& all();
 
-// Null when the table has no such code.
+// The mistake of a code such as "MB203", owned by the table; null when the table has none.
 const Mistake* find(std::string_view code);
 }
 }

@@ -1,3 +1,4 @@
+// MB601 to MB606, about data. The template is right throughout, and the same in both examples: the data differ.
 #include "MistakeCodes.h"
 #include "MistakeExamples.h"
 
@@ -5,8 +6,6 @@ namespace mekbom::MistakeExamples
 {
 namespace
 {
-const char* const kForeign = " Parts lists have none such; rows that another program hands over may.";
-
 std::string weights()
 {
     return groupedList(kByMaterial, { "%PNum", "%Weight" }, kWeights);
@@ -33,16 +32,15 @@ std::vector<Mistake> ofData()
           "A column that is computed with has numbers alone: order, groups and totals would be arbitrary otherwise.",
           "Mend the cells that are named.", ownNumbers(), ownNumbers(), prices + "P1,S235,10\nP2,S235,n/a\n",
           prices + "P1,S235,10\nP2,S235,12\n" },
-        { &MistakeCodes::kTokenTwiceInRow, "a token twice in one row",
-          std::string("The first value counts.") + kForeign, "Give each row every token once.", weights(), weights(),
-          "", "", true },
-        { &MistakeCodes::kSubRows, "rows below rows", std::string("They are in no list.") + kForeign,
+        { &MistakeCodes::kTokenTwiceInRow, "a token twice in one row", withForeignRows("The first value counts."),
+          "Give each row every token once.", weights(), weights(), "", "", true },
+        { &MistakeCodes::kSubRows, "rows below rows", withForeignRows("They are in no list."),
           "Put all rows side by side.", weights(), weights(), "", "", true },
         { &MistakeCodes::kNotANumber, "NaN, or an infinite number, in the data",
           "It is equal to everything, and no total with it is a number.", "Leave the cell empty.", weights(), weights(),
           head + "P1,S235,nan\n", head + "P1,S235,\n" },
         { &MistakeCodes::kMarksOfEarlierReport, "data that have been evaluated before",
-          std::string("Rows that were merged then are in no total now, and formulas show their old values.") + kForeign,
+          withForeignRows("Rows that were merged then are in no total now, and formulas show their old values."),
           "Build the data anew for each report.", weights(), weights(), "", "", true },
         { &MistakeCodes::kHandleNotUnique, "empty or repeated object handles",
           "A line cannot be traced back to its object.", "Give each row a handle of its own.", traced(), traced(),

@@ -1,3 +1,5 @@
+// MB401 to MB422, about formulas. Each example has one formula, in the details of a list by material, and the right one
+// differs from it by what the rule is about. MB413 needs data: some rows of its example lack a weight.
 #include "MistakeCodes.h"
 #include "MistakeExamples.h"
 
@@ -10,7 +12,7 @@ std::string computing(const std::string& formula, const std::string& keys = "")
     return listWithFormula("%Formula:" + formula, keys);
 }
 
-// What a formula gives is said by its column.
+// The same with a column that says what the formula gives, for one whose tokens do not: else MB421 would trip as well.
 std::string computingPlain(const std::string& formula)
 {
     return computing(formula, R"("columns": [ { "token": "%Formula:)" + formula + R"(", "result": "none" } ])");
@@ -53,9 +55,7 @@ std::vector<Mistake> ofFormulas() // NOLINT(readability-function-size): a table
         { &MistakeCodes::kExponentIsDifference, "1e-3*%W", "It is 0.001 - 3*W.", "Write 0.001*%W.",
           computingPlain("1e-3*%Weight"), computingPlain("0.001*%Weight") },
         { &MistakeCodes::kOperandMissing, "%W *, %W -", "They are 0 and -W.",
-          "Write the operand, or take the "
-          "operator out.",
-          computing("%Weight *"), computing("%Weight * 2") },
+          "Write the operand, or take the operator out.", computing("%Weight *"), computing("%Weight * 2") },
         { &MistakeCodes::kAssignmentAsTest, "%W=5 as a test, a=b=3", "They assign: 5, and a variable named \"=\".",
           "There are no tests; filter rows with \"queryFilter\".", computingPlain("%Weight=5"),
           computing("%Weight*5") },

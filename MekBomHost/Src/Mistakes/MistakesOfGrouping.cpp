@@ -1,3 +1,4 @@
+// MB201 to MB214, about grouping, sorting and filtering. Most examples differ in the tuples of the group header alone.
 #include "MistakeCodes.h"
 #include "MistakeExamples.h"
 
@@ -10,7 +11,7 @@ std::string groupedBy(const Tuples& group, const std::string& keys = "")
     return groupedList(group, kParts, kWeights, keys);
 }
 
-// Two levels of groups.
+// Two levels of groups, the outer one by material and the inner one by another token.
 std::string groupedTwice(const std::string& inner)
 {
     return listOfSections(R"({ "type": "kGroupHeader",
@@ -74,8 +75,7 @@ std::vector<Mistake> ofGrouping()
                     R"("columns": [ { "token": "%Phase", "order": "natural" } ])") },
         { &MistakeCodes::kSortingByUnknown, "sorting by a token that the catalogue lacks (%PosNum)",
           "Texts come in plain order, \"10\" before \"2\". With data it is told of columns of texts alone: numbers "
-          "come "
-          "in the order of their values.",
+          "come in the order of their values.",
           "Say \"order\": \"natural\" or \"plain\" in the column of the token, or declare it a number in \"tokens\".",
           groupedBy({ "%GroupBy:%PosNum", "%SortAscBy:%PosNum", "%PosNum" }, R"("tokens": { "%PosNum": "text" })"),
           groupedBy({ "%GroupBy:%PosNum", "%SortAscBy:%PosNum", "%PosNum" }, R"("tokens": { "%PosNum": "text" },

@@ -1,3 +1,5 @@
+// MB101 to MB109, about sections. An example is as few sections as the mistake takes, and the right one has the same
+// sections in their places.
 #include "MistakeCodes.h"
 #include "MistakeExamples.h"
 
@@ -15,6 +17,7 @@ std::string reportOf(const std::string& sections)
                           " ] },\n    { \"type\": \"kReportFooter\" }");
 }
 
+// A group by material around its children, empty for none, and behind it what stands as its footer.
 std::string groupOf(const std::string& children, const std::string& footer = R"({ "type": "kGroupFooter" })")
 {
     return R"({ "type": "kGroupHeader",

@@ -1,3 +1,4 @@
+// MB301 to MB309, about totals. Most examples differ in the tuples of the group footer alone.
 #include "MistakeCodes.h"
 #include "MistakeExamples.h"
 
@@ -58,8 +59,7 @@ std::vector<Mistake> ofSums()
           "or model is added again by each of its rows. With \"equalLines\": \"count\" a value of one piece is an "
           "error: lines add it up to what is neither that of one piece nor that of all.",
           "Sum a formula that the details compute: %SumBy:%Formula:%Weight*%Quantity. Show %AssemblyWeight in the "
-          "header "
-          "of its group.",
+          "header of its group.",
           groupedList(kByMaterial, { "%PNum", "%Weight" }, kWeights),
           groupedList(kByMaterial, detailsWithFormula, { total }), kPieces + std::string("P1,S235,10,4\n"),
           kPieces + std::string("P1,S235,10,4\n") },

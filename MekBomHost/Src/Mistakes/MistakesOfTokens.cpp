@@ -1,3 +1,4 @@
+// MB501 to MB506, about tokens and columns. Most examples add one tuple to the details of a list by material.
 #include "MistakeCodes.h"
 #include "MistakeExamples.h"
 
@@ -9,8 +10,6 @@ std::string showing(const std::string& tuple, const std::string& keys = "")
 {
     return groupedList(kByMaterial, { "%PNum", tuple }, kWeights, keys);
 }
-
-const char* const kForeign = " Parts lists have none such; rows that another program hands over may.";
 }
 
 std::vector<Mistake> ofTokens()
@@ -32,8 +31,7 @@ std::vector<Mistake> ofTokens()
           "With data it is told only where it varies; lengths and the like that differ by less than 0.005 do not. "
           "%Quantity, or a formula with it, is told in every header: one row's pieces are never those of the group.",
           "Group by it as well, or show it in the details; sum pieces in the footer. What belongs to a mark needs no "
-          "more than the mark: %MName "
-          "within groups by %MNum, %Material within groups by %PNum.",
+          "more than the mark: %MName within groups by %MNum, %Material within groups by %PNum.",
           groupedList(withName, kParts, kWeights),
           groupedList({ "%GroupBy:%Material,%Name", "%SortAscBy:%Material,%Name", "%Material", "%Name" }, kParts,
                       kWeights) },
@@ -49,7 +47,7 @@ std::vector<Mistake> ofTokens()
           "Take the \"value\" out.", showing(R"({ "token": "%Width", "value": 1000.0 })"),
           showing(R"({ "token": "%Width", "value": 0.0 })") },
         { &MistakeCodes::kWholeNumberUnderUnit, "a whole number under a token with a unit",
-          std::string("It is printed as it is, in the model's unit, whatever units are asked for.") + kForeign,
+          withForeignRows("It is printed as it is, in the model's unit, whatever units are asked for."),
           "Hand over a number with decimals.", showing("%Length"), showing("%Length"), "", "", true },
         { &MistakeCodes::kOtherKindThanCatalogue, "\"tokenUnits\": { \"%Length\": \"kNoUnit\" }",
           "The model's number, in mm, is printed under whatever the label says, or as a quantity that it is not.",

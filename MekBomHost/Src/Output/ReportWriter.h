@@ -37,8 +37,9 @@ public:
     // What lines must hold beside their texts. Asked before the report is evaluated: it is kept from then on.
     virtual LineContents contents() const { return LineContents(); }
 
-    // Writes the whole report, reading its lines as often as need be, and finishes the sink. Throws what the sink
-    // throws. The same writer can write other reports, at the same time too.
+    // Writes the whole report, reading its lines as often as need be, and finishes the sink. `report` was evaluated
+    // with contents() at least, and neither of the two is kept. Throws what the sink throws, which is then not
+    // finished. The same writer can write other reports, at the same time too.
     virtual void write(const EvaluatedReport& report, TextSink& sink) const = 0;
 };
 }

@@ -1,3 +1,9 @@
+// What a run has found is printed when it is over, in one of two forms:
+//
+//   list.json:8:17: error MB301: the total ...            an author's mistake: all of them, as compilers print theirs
+//   mekbom: parts.csv:3: column "Weight": found "n/a" ... anything else: twenty at most, and how many more there are
+//
+// A parts list with a million rows may have a million faults of one kind, whereas an author mends all mistakes at once.
 #include "Program.h"
 
 #include "AllVerbs.h"
@@ -48,7 +54,8 @@ void printMessage(const std::string& message)
     std::fputs(("mekbom: " + message + "\n").c_str(), stderr);
 }
 
-// Of the template; a cell that breaks the kind of its column is one of perhaps a million.
+// Whether it is about the list itself. A cell that breaks the kind of its column has the code of a mistake, too
+// (MB601), but is one of perhaps a million, and has a field.
 bool isMistakeInList(const Finding& finding)
 {
     return MistakeCodes::has(finding.code) && finding.field.empty();
@@ -63,6 +70,7 @@ void printMistakes(const FindingList& findings)
             std::fputs((messageOf(finding) + "\n").c_str(), stderr);
 }
 
+// A FindingList keeps only so many errors and counts all, so that what is left over comes from its count.
 void printErrors(const FindingList& findings)
 {
     std::size_t numShown = 0;
@@ -91,6 +99,7 @@ void printFindings(const FindingList& findings)
 }
 }
 
+// A verb may throw what it likes: the guard turns it into a finding and a status.
 ExitStatus Program::run(int numArguments, const char* const* arguments)
 {
     FindingList findings;

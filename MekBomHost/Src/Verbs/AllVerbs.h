@@ -8,6 +8,7 @@
 
 namespace mekbom
 {
-// All of them, in the order in which help lists them.
+// All of them, in the order in which help lists them: what most people call comes first. Each call makes new ones, so
+// that nothing of one run is left for the next.
 VerbList allVerbs();
 }

@@ -1,3 +1,10 @@
+// What was found goes two ways. The author's mistakes are the answer to the command, and go to standard output, where
+// an editor or a pipe takes them; what kept the check from looking is about the run, and goes with all other messages:
+//
+//   list.json:5:32: error MB201: ...          standard output
+//   mekbom: parts.csv: cannot be read         standard error
+//
+// A program that asks for JSON gets both in one array, as it would have to read two streams otherwise.
 #include "CheckVerb.h"
 
 #include "DataFile.h"
@@ -57,16 +64,10 @@ CLI::App& CheckVerb::declareOn(CLI::App& parent)
         .add_option("--data", m_data,
                     "Parts list, for mistakes that only data show; - reads standard input, hall takes the shipped one")
         ->type_name("FILE");
-    m_inputUnits.declareOn(check, "Unit of a column whose header names none");
-    check.add_option("--where", m_where, "Which rows are listed")->type_name("CONDITION");
-    check.add_option("--row-totals", m_rowTotals, "Columns whose values are those of all pieces of a row")
-        ->type_name("TOKEN,...")
-        ->delimiter(',');
+    m_rows.declareOn(check, "Which rows are listed");
     check.add_option("--format", m_format, "How to print what is found: text or json [text]")
         ->check(CLI::IsMember({ "text", kJson }));
-    check.add_option("--allow", m_allowed, "Mistakes to pass over, such as MB105")
-        ->type_name("CODE,...")
-        ->delimiter(',');
+    m_allowed.declareOn(check, "Mistakes to pass over, such as MB105");
     check.add_option("--explain", m_code, "Print what a code means, or all of them as a page")->type_name("CODE");
     return check;
 }
@@ -76,6 +77,7 @@ ExitStatus CheckVerb::run(FindingList& findings)
     return m_code.empty() ? check(findings) : explain();
 }
 
+// A code wins over everything else that is given: the page is the same for every template.
 ExitStatus CheckVerb::explain() const
 {
     if (m_code != kAllCodes && !MistakeCodes::has(m_code))
@@ -89,10 +91,8 @@ ExitStatus CheckVerb::check(FindingList& findings) const
     if (m_templateName.empty())
         refuse("check needs a template, or --explain; see mekbom check --help");
     ReportRequest request;
-    request.allowed = m_allowed;
-    request.inputUnits = m_inputUnits.pairs();
-    request.where = m_where;
-    request.rowTotals = m_rowTotals;
+    m_rows.fillIn(request);
+    request.allowed = m_allowed.words();
     if (m_templateName != TemplateFile::kDefault)
         request.pTemplate = TemplateFile::open(m_templateName, "template");
     if (!m_data.empty())
@@ -104,7 +104,7 @@ ExitStatus CheckVerb::check(FindingList& findings) const
         StandardOutput::print(FindingJson::textOf(job.findings().all()));
         return status;
     }
-    std::string text;
+    std::string text; // without "mekbom: " in front: editors jump to what a line begins with
     for (const Finding& finding : job.findings().all())
         if (MistakeCodes::has(finding.code))
             text += messageOf(finding) + "\n";

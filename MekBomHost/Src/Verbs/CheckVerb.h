@@ -8,11 +8,11 @@
 // from being read at all is a message on standard error as anywhere else, or, among the others, JSON.
 #pragma once
 
-#include "PairOption.h"
+#include "ListOption.h"
+#include "RowOptions.h"
 #include "Verb.h"
 
 #include <string>
-#include <vector>
 
 namespace mekbom
 {
@@ -29,10 +29,8 @@ private:
     std::string m_templateName; // a file, a shipped list or "default"
     std::string m_data;         // a file or "hall"; empty for none
     std::string m_format = "text";
-    std::string m_code; // to explain; empty for none
-    PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
-    std::string m_where;
-    std::vector<std::string> m_rowTotals;
-    std::vector<std::string> m_allowed;
+    std::string m_code; // what to explain, or "all"; empty for a check
+    RowOptions m_rows;
+    ListOption m_allowed{ "--allow", "CODE,..." };
 };
 }

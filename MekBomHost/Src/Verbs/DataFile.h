@@ -14,8 +14,9 @@
 
 namespace mekbom::DataFile
 {
-extern const char* const kHall;
-extern const char* const kStandardInput;
+extern const char* const kHall;          // the word for the parts list that comes with the program
+extern const char* const kStandardInput; // the word for standard input
 
+// A source that has not been opened yet: a file that is missing is told by whoever reads. Never null.
 std::unique_ptr<ByteSource> open(const std::string& name);
 }

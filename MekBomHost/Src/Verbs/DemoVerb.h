@@ -16,6 +16,7 @@ public:
     CLI::App& declareOn(CLI::App& parent) override;
 
 private:
+    // The shipped hall: there is no option that says otherwise.
     std::string dataName() const override;
 };
 }

@@ -1,3 +1,10 @@
+// A template alone is read and told; nothing is evaluated, and no job is needed. With data a report is made exactly as
+// mekbom report makes it, but for two things: nothing is printed of it, and it keeps what words about it need:
+//
+//   values   "Weight, %Weight added up: 250 + 250 + 14 = 514 kg" needs the numbers behind the texts
+//   rows     "Counts row 1 (2A3), row 2 (2A4) and row 3 (2A5)" needs the rows behind the lines
+//
+// So a list that a report refuses is not explained either: its findings are told, and the run ends with their status.
 #include "ExplainVerb.h"
 
 #include "DataFile.h"
@@ -5,7 +12,6 @@
 #include "Environment.h"
 #include "ExplainedReport.h"
 #include "Fault.h"
-#include "FileSource.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
 #include "LineInWords.h"
@@ -14,13 +20,11 @@
 #include "TemplateFile.h"
 #include "TemplateInWords.h"
 #include "TemplateReader.h"
-#include "UnitChoice.h"
+#include "UnitsFile.h"
 
 #include <CLI/CLI.hpp>
 
-#include <filesystem>
-#include <system_error>
-#include <utility>
+#include <memory>
 
 namespace mekbom
 {
@@ -68,14 +72,8 @@ CLI::App& ExplainVerb::declareOn(CLI::App& parent)
         ->type_name("UNITS");
     m_unitChoices.declareOn(explain, "Unit and precision of one kind, such as length=ft-in/16");
     m_settings.declareOn(explain, "How numbers are laid out, such as C40_SuppressZeroFeet=0");
-    m_inputUnits.declareOn(explain, "Unit of a column whose header names none");
-    explain.add_option("--where", m_where, "Which rows are listed")->type_name("CONDITION");
-    explain.add_option("--row-totals", m_rowTotals, "Columns whose values are those of all pieces of a row")
-        ->type_name("TOKEN,...")
-        ->delimiter(',');
-    explain.add_option("--allow", m_allowed, "Mistakes that stop no report, such as MB105")
-        ->type_name("CODE,...")
-        ->delimiter(',');
+    m_rows.declareOn(explain, "Which rows are listed");
+    m_allowed.declareOn(explain, "Mistakes that stop no report, such as MB105");
     return explain;
 }
 
@@ -102,6 +100,7 @@ ExitStatus ExplainVerb::explainTemplate() const
     return kDone;
 }
 
+// The words look at the job, which lives until they are printed.
 ExitStatus ExplainVerb::explainList(FindingList& findings) const
 {
     ReportJob job(request());
@@ -125,16 +124,10 @@ ReportRequest ExplainVerb::request() const
         request.pTemplate = TemplateFile::open(m_templateName, "template");
     request.environment = Environment::variables(DisplaySettings::names());
     request.settings = m_settings.pairs();
-    std::error_code error;
-    if (!UnitChoice::isBase(m_units) && std::filesystem::exists(m_units, error))
-        request.pUnits = std::make_unique<FileSource>(m_units);
-    else
-        request.units = m_units;
+    UnitsFile::setIn(request, m_units);
     request.unitChoices = m_unitChoices.pairs();
-    request.inputUnits = m_inputUnits.pairs();
-    request.where = m_where;
-    request.rowTotals = m_rowTotals;
-    request.allowed = m_allowed;
+    m_rows.fillIn(request);
+    request.allowed = m_allowed.words();
     request.contents.values = true;
     request.contents.rows = true;
     return request;

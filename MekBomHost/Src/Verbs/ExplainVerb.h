@@ -6,13 +6,14 @@
 #pragma once
 
 #include "FileOption.h"
+#include "ListOption.h"
 #include "PairOption.h"
 #include "ReportRequest.h"
+#include "RowOptions.h"
 #include "Verb.h"
 
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace mekbom
 {
@@ -29,13 +30,11 @@ private:
 
     std::string m_templateName; // a file, a shipped list or "default"
     FileOption m_data{ "--data", "FILE" };
-    std::optional<int> m_line;
-    std::string m_units = "metric";
+    std::optional<int> m_line;      // from 1; nothing for all lines
+    std::string m_units = "metric"; // as UnitsFile takes them
     PairOption m_unitChoices{ "--unit", "KIND=UNIT", "length=ft-in/16" };
     PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
-    PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
-    std::string m_where;
-    std::vector<std::string> m_rowTotals;
-    std::vector<std::string> m_allowed;
+    RowOptions m_rows;
+    ListOption m_allowed{ "--allow", "CODE,..." };
 };
 }

@@ -1,5 +1,12 @@
-// The formula is computed as lists compute it, whatever is wrong with it. What the rules for the formulas of templates
-// find in it is told besides: as warnings about a value, or as errors when there is none.
+// The formula is computed as lists compute it, whatever is wrong with it, and told in both readings where they differ:
+//
+//   mekbom formula '%W-(%Q-1)*2' %W=10 %Q=3
+//     16                                       what lists show
+//     ((%W-(%Q-1))*2)   as lists read it       a ')' applies all that is pending on its left: (10-2)*2
+//     (%W-((%Q-1)*2))   as ordinary arithmetic reads it: 10-2*2 would be 6
+//
+// What the rules for the formulas of templates find in it is told besides: as warnings about a value, or as errors when
+// there is none.
 #include "FormulaVerb.h"
 
 #include "ArithmeticReading.h"
@@ -40,7 +47,8 @@ int evaluate(const VorString& formula, const std::vector<VorString>& names, std:
     return evaluateFormula(formula.getStringW(), texts.data(), values.data(), static_cast<int>(texts.size()), &value);
 }
 
-// Both readings where they come to different values, else the one there is.
+// Both readings where they come to different values, else the one there is: for a formula that ordinary arithmetic
+// cannot read, and for one that both read alike.
 std::string readingsOf(const VorString& formula)
 {
     const FormulaTree ofEngine = EngineReading::read(formula).tree;
@@ -79,6 +87,7 @@ CLI::App& FormulaVerb::declareOn(CLI::App& parent)
     return formula;
 }
 
+// Status 1 is for no value alone: a script that computes with a formula wants the value, with or without a warning.
 ExitStatus FormulaVerb::run(FindingList& findings)
 {
     readValues();
@@ -93,6 +102,7 @@ ExitStatus FormulaVerb::run(FindingList& findings)
     return isComputed ? kDone : kMistakes;
 }
 
+// "my length=2.5" is a name with a blank in it, as formulas may have; blanks around the name are dropped.
 void FormulaVerb::readValues()
 {
     for (const std::string& argument : m_arguments)
@@ -109,8 +119,9 @@ void FormulaVerb::readValues()
     }
 }
 
-// Values have no unit here. That both readings differ shows in the output, and a name without a value is told of in
-// other words than a template's.
+// Values have no unit here, so all names are plain numbers and no result is undeclared. That both readings differ
+// (MB404) shows in the output. A name without a value is an operand that the rules cannot know; it is told once, in
+// words for a command line, and not as a template's token that nobody knows.
 void FormulaVerb::tellMistakes(FindingList& findings, bool isComputed) const
 {
     std::string unknown;

@@ -22,10 +22,13 @@ public:
     ExitStatus run(FindingList& findings) override;
 
 private:
+    // Takes m_arguments apart. Throws a Fault of status kWrongUsage for one that is no name and number.
     void readValues();
+
+    // Adds what the rules for formulas find: as warnings where there is a value, as errors where there is none.
     void tellMistakes(FindingList& findings, bool isComputed) const;
 
-    std::string m_formula;
+    std::string m_formula;                // in UTF-8
     std::vector<std::string> m_arguments; // "a=3"
 
     std::vector<VorString> m_names;

@@ -7,6 +7,7 @@
 
 namespace mekbom
 {
+// The verb answers about the program that it is part of, so it keeps the app that it is declared on.
 CLI::App& HelpVerb::declareOn(CLI::App& parent)
 {
     m_pProgram = &parent;

@@ -1,5 +1,12 @@
 // A template says of tokens that the catalogue does not know whether they are numbers or texts, so that it can be
-// checked without data. A column's cells tell, all of them: 4, 12.5 and M16 are texts.
+// checked without data. A column's cells tell, all of them:
+//
+//   Gap          Bolt       Slot [in]
+//   4            4          a quantity, whatever stands below it
+//   12.5         M16
+//   a number     a text
+//
+// So the whole file is read, although the template has nothing of its rows.
 #include "NewListVerb.h"
 
 #include "ColumnsTemplate.h"
@@ -37,7 +44,8 @@ ExitStatus NewListVerb::run(FindingList&)
     return kDone;
 }
 
-// Columns with a unit are numbers whatever their cells hold; a report tells those that are none.
+// Columns with a unit are numbers whatever their cells hold; a report tells those that are none. A record may have
+// fewer cells than the header row, and what it has beyond those belongs to no column.
 std::vector<InputColumn> NewListVerb::columnsOf(RecordSource& records)
 {
     std::vector<InputColumn> columns = PartsList(records).columns();

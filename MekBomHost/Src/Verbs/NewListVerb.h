@@ -21,8 +21,9 @@ public:
     ExitStatus run(FindingList& findings) override;
 
 private:
+    // The columns of the header row, each with the type that its cells have, all records read.
     static std::vector<InputColumn> columnsOf(RecordSource& records);
 
-    std::string m_data;
+    std::string m_data; // a file, or a word as DataFile takes it
 };
 }

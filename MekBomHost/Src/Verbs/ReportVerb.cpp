@@ -22,7 +22,7 @@
 #include "ShippedFiles.h"
 #include "StandardOutput.h"
 #include "TemplateFile.h"
-#include "UnitChoice.h"
+#include "UnitsFile.h"
 
 #include <CLI/CLI.hpp>
 
@@ -37,6 +37,7 @@ namespace
 const char* const kStandardOutput = "-";
 const char* const kSampleData = "sample";
 
+// Ends the run with a finding about an option, which stands in front of it in the message.
 [[noreturn]] void failAt(const std::string& option, Finding finding)
 {
     finding.source = option;
@@ -112,19 +113,14 @@ void ReportVerb::declareOptionsOn(CLI::App& command)
     m_settingsFile.declareOn(command, "INI file that says how numbers are shown");
     m_settings.declareOn(command, "How numbers are laid out, such as C40_SuppressZeroFeet=0");
     m_output.declareOn(command, "File to write, - for standard output [-]");
-    m_inputUnits.declareOn(command, "Unit of a column whose header names none");
-    command.add_option("--where", m_where, "Which rows to list, such as \"%Material = 'S355' and %Length > 6 m\"")
-        ->type_name("CONDITION");
-    command.add_option("--row-totals", m_rowTotals, "Columns whose values are those of all pieces of a row")
-        ->type_name("TOKEN,...")
-        ->delimiter(',');
-    command.add_option("--allow", m_allowed, "Mistakes that stop no report, such as MB105")
-        ->type_name("CODE,...")
-        ->delimiter(',');
+    m_rows.declareOn(command, "Which rows to list, such as \"%Material = 'S355' and %Length > 6 m\"");
+    m_allowed.declareOn(command, "Mistakes that stop no report, such as MB105");
     command.add_flag("--check-totals", m_checksTotals, "Add up every total a second time, from the rows");
 }
 
-// The output is opened only once there is a report: a run that fails leaves the list of the run before as it was.
+// The output is opened only once there is a report: a run that fails leaves the list of the run before as it was. That
+// it may be written is asked before, since a user should not wait a minute for a report to be told of a slip in its
+// name.
 ExitStatus ReportVerb::run(FindingList& findings)
 {
     const std::unique_ptr<ReportWriter> pWriter = ReportFormats::createWriter(ReportFormats::kText);
@@ -142,19 +138,17 @@ ExitStatus ReportVerb::run(FindingList& findings)
 ReportRequest ReportVerb::request() const
 {
     ReportRequest request;
-    request.inputUnits = m_inputUnits.pairs();
+    m_rows.fillIn(request);
     request.unitChoices = m_unitChoices.pairs();
     request.settings = m_settings.pairs();
-    request.where = m_where;
-    request.rowTotals = m_rowTotals;
-    request.allowed = m_allowed;
+    request.allowed = m_allowed.words();
     request.checksTotals = m_checksTotals;
     request.pParts = parts();
     addTemplates(request);
     request.environment = Environment::variables(DisplaySettings::names());
     if (const std::string settingsFile = m_settingsFile.name(); !settingsFile.empty())
         request.pSettings = std::make_unique<FileSource>(settingsFile);
-    addUnits(request);
+    UnitsFile::setIn(request, m_units);
     return request;
 }
 
@@ -187,17 +181,9 @@ void ReportVerb::addTemplates(ReportRequest& request) const
             request.candidates.push_back(TemplateFile::open(shipped, m_template.option()));
 }
 
-// A word that is neither metric nor imperial is a file, if there is one of that name.
-void ReportVerb::addUnits(ReportRequest& request) const
-{
-    std::error_code error;
-    if (!UnitChoice::isBase(m_units) && std::filesystem::exists(m_units, error))
-        request.pUnits = std::make_unique<FileSource>(m_units);
-    else
-        request.units = m_units;
-}
-
 // A slip such as `-o parts.csv` must not cost the parts list, and who asks for list.xlsx is not to get a text in it.
+// Files are compared as the file system knows them, so that "./parts.csv" and a link to it are the same; a word such as
+// "hall", and a file that is not there yet, are none of them.
 void ReportVerb::checkOutput() const
 {
     if (isToStandardOutput())
@@ -217,6 +203,7 @@ void ReportVerb::checkOutput() const
     }
 }
 
+// OutputFile puts the list in place of the old file when the writer finishes it, and not before.
 void ReportVerb::write(const ReportWriter& writer) const
 {
     if (isToStandardOutput())

@@ -5,18 +5,20 @@
 //
 // The verb is where files come in: it turns options into the sources of a ReportRequest, lets a ReportJob make the
 // report and hands it to a writer. A report that cannot be made leaves nothing written, and the file of `-o` as it was.
+// DemoVerb is the same for the shipped hall.
 #pragma once
 
 #include "FileOption.h"
+#include "ListOption.h"
 #include "PairOption.h"
 #include "ReportJob.h"
 #include "ReportRequest.h"
 #include "ReportWriter.h"
+#include "RowOptions.h"
 #include "Verb.h"
 
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace mekbom
 {
@@ -30,17 +32,17 @@ public:
     static const char* const kNotes;
 
 protected:
-    // All options but the one for data.
+    // Declares all options but the one for data.
     void declareOptionsOn(CLI::App& command);
 
 private:
-    // A file, or one of the words for something else. Throws a Fault of status kWrongUsage when there is none.
+    // What the rows come from: a file, a word as DataFile takes it, or "sample". Throws a Fault of status kWrongUsage
+    // when nothing is given.
     virtual std::string dataName() const;
 
     ReportRequest request() const;
-    std::unique_ptr<ByteSource> parts() const;
+    std::unique_ptr<ByteSource> parts() const; // null for the sample rows
     void addTemplates(ReportRequest& request) const;
-    void addUnits(ReportRequest& request) const;
     void checkOutput() const;
     void write(const ReportWriter& writer) const;
     bool isSample() const;
@@ -49,16 +51,14 @@ private:
     // What the options were given as. None of these files is opened before the job reads it.
     FileOption m_data{ "--data", "FILE" };
     FileOption m_template{ "--template", "FILE" }; // or a list's name; without one a list that suits the data
-    std::string m_units = "metric";                // to print in, as UnitChoice takes them
+    std::string m_units = "metric";                // to print in, as UnitsFile takes them
     PairOption m_unitChoices{ "--unit", "KIND=UNIT", "length=ft-in/16" };
     FileOption m_settingsFile{ "--settings", "FILE" };
     PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
     FileOption m_output{ "-o,--output", "FILE" };
-    std::string m_where;
-    std::vector<std::string> m_rowTotals;
-    std::vector<std::string> m_allowed;
+    RowOptions m_rows;
+    ListOption m_allowed{ "--allow", "CODE,..." };
     bool m_checksTotals = false;
-    PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
 
     std::unique_ptr<ReportJob> m_pJob; // keeps what the last report was made of
 };

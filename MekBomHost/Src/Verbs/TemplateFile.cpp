@@ -1,3 +1,8 @@
+// A shipped list is known by its name alone, and a file by whatever path it has; between them stand slips:
+//
+//   bolt-list      the shipped list          ./bolt-list    a file, there or not
+//   bolt-lst       refused, unless there is a file of that name: "did you mean "bolt-list"?"
+//   lists/mine     a file, there or not: whoever reads it tells that it is missing
 #include "TemplateFile.h"
 
 #include "Fault.h"
@@ -17,7 +22,7 @@ const char* const kDefault = "default";
 
 namespace
 {
-// A word that could be the name of a list: people write a path, or the ending of a file, where they mean one.
+// Whether a word could be the name of a list: people write a path, or the ending of a file, where they mean a file.
 bool isPlainWord(const std::string& text)
 {
     return text.find_first_of("./\\") == std::string::npos;

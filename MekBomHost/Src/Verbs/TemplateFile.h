@@ -16,7 +16,7 @@ namespace mekbom::TemplateFile
 {
 extern const char* const kDefault; // the word for the built-in template, which no bytes stand for
 
-// Findings call a shipped list by its name. Throws a Fault of status kWrongUsage, which names `option` and asks what was
-// meant, for a word that is neither a list nor a file.
+// A source that has not been opened yet; never null. Findings call a shipped list by its name. Throws a Fault of status
+// kWrongUsage, which names `option` and asks what was meant, for a word that is neither a list nor a file.
 std::unique_ptr<ByteSource> open(const std::string& name, const std::string& option);
 }

@@ -21,7 +21,8 @@ CLI::App& TokensVerb::declareOn(CLI::App& parent)
     return tokens;
 }
 
-// Nothing found is wrong usage rather than an empty table: a script that asks for a token wants to know.
+// Nothing found is wrong usage rather than an empty table: a script that asks for a token wants to know. "mekbom tokens
+// weigth" is asked whether it meant %Weight.
 ExitStatus TokensVerb::run(FindingList&)
 {
     const std::string table = TokenTable::textOf(m_word);

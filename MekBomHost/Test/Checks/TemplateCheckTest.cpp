@@ -138,9 +138,15 @@ TEST(TemplateCheckTest, FormulasAreComparedLetterByLetter)
 
     EXPECT_EQ("", codesIn(kByMaterial, details, { "%SumBy:%Formula:%Weight*2" }));
     EXPECT_EQ("MB306", codesIn(kByMaterial, details, { "%SumBy:%Formula:%Weight * 2" }));
+    EXPECT_EQ("MB306", codesIn(kByMaterial, details, { "%SumBy:%Formula:%Weight*2 " }));
     EXPECT_EQ("MB306", codesIn({ "%GroupBy:%Material", "%SortAscBy:%Material", "%Formula:%Weight*2" }, kParts,
                                { "%SumBy:%Formula:%Weight*2" }));
     EXPECT_EQ("MB403", codesInFooter({ "%Formula:%Weight*2" }));
+}
+
+TEST(TemplateCheckTest, ATotalWasRefusedForTheBlankThatItsFormulaHasInTheDetailsToo)
+{
+    EXPECT_EQ("", codesIn(kByMaterial, { "%PNum", "%Formula:%Weight*2 " }, { "%SumBy:%Formula:%Weight*2 " }));
 }
 
 TEST(TemplateCheckTest, TokensAreLookedForWhereverTheyStand)

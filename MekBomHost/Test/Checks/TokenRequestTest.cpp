@@ -13,7 +13,7 @@ std::string elementsOf(const std::string& token)
 {
     std::string text;
     for (const TokenRequest::Element& element : TokenRequest::of(token).elements)
-        text += (element.sort == TokenRequest::kToken ? element.token : "[" + element.token + "]") +
+        text += (element.kind == TokenRequest::kToken ? element.token : "[" + element.token + "]") +
                 (element.isDescending ? "-" : "+") + (element.hasDirection ? "! " : " ");
     return text;
 }
@@ -48,12 +48,12 @@ TEST(TokenRequestTest, ADirectionHoldsUntilAnotherIsNamed)
 
 TEST(TokenRequestTest, WhatIsNoTokenIsToldApart)
 {
-    const auto sortOf = [](const char* token) { return TokenRequest::of(token).elements.front().sort; };
+    const auto kindOf = [](const char* token) { return TokenRequest::of(token).elements.front().kind; };
 
-    EXPECT_EQ(TokenRequest::kWithoutPercent, sortOf("%GroupBy:Material"));
-    EXPECT_EQ(TokenRequest::kRequest, sortOf("%GroupBy:%SortAscBy:%A"));
-    EXPECT_EQ(TokenRequest::kComputed, sortOf("%GroupBy:%Formula:%A*2"));
-    EXPECT_EQ(TokenRequest::kMalformed, sortOf("%GroupBy:"));
+    EXPECT_EQ(TokenRequest::kWithoutPercent, kindOf("%GroupBy:Material"));
+    EXPECT_EQ(TokenRequest::kRequest, kindOf("%GroupBy:%SortAscBy:%A"));
+    EXPECT_EQ(TokenRequest::kComputed, kindOf("%GroupBy:%Formula:%A*2"));
+    EXPECT_EQ(TokenRequest::kMalformed, kindOf("%GroupBy:"));
 }
 
 TEST(TokenRequestTest, RowsAreAskedForTheTokensOfAFormulaSummedOrNot)

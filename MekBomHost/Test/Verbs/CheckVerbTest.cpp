@@ -37,6 +37,12 @@ TEST_F(CheckVerbTest, ErrorsAreStatusOne)
     EXPECT_EQ("", run.errors);
 }
 
+TEST_F(CheckVerbTest, ATemplateBehindCodesWasTakenForOneOfThem)
+{
+    EXPECT_EQ(kDone, runHere({ "check", "--allow", "MB210,MB503", m_good }).status);
+    EXPECT_EQ(kDone, runHere({ "explain", "--allow", "MB210,MB503", m_good }).status);
+}
+
 TEST_F(CheckVerbTest, WarningsAndNotesAreToldAndAreNoFailure)
 {
     const ProgramRun run = runHere({ "check", m_good });

@@ -22,7 +22,7 @@ public:
 
     const VorString& token() const { return m_token; }
 
-    // The row's first tuple with the token, owned by the row; null when it has none.
+    // The row's tuple with the token, owned by the row; null when it has none.
     const VorBomDataTuple* findIn(const VorBomDataRow& row)
     {
         const auto& tuples = row.getData();
@@ -39,6 +39,8 @@ public:
     }
 
 private:
+    // Whether the tuple has the very characters that were found in an earlier row: two addresses are compared, no
+    // texts.
     bool isFound(const VorBomDataTuple& tuple) const
     {
         return m_found.isEmpty() == 0 && m_found.sharesTextWith(tuple.token().token());

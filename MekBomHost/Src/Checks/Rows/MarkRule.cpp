@@ -1,3 +1,9 @@
+// Marks are kept under what natural order takes them for. The first one under a name stays; another spelling under the
+// same name is the mistake:
+//
+//   "B02"   is kept under "B2"
+//   "B10"   is kept under "B10"
+//   "B2"    finds "B02" under "B2": these two are told, and no further mark is looked at
 #include "MarkRule.h"
 
 #include "InQuotes.h"
@@ -10,7 +16,7 @@ namespace mekbom
 {
 namespace
 {
-// "B02" -> "B2", "A-010" -> "A-10", "B0" stays.
+// "B02" -> "B2", "A-010" -> "A-10". The last zero of a number stays, so that "B0" and "B00" are "B0" and not "B".
 std::string withoutLeadingZeros(const std::string& text)
 {
     std::string bare;
@@ -32,6 +38,7 @@ MarkRule::MarkRule(const CheckedTuple& request, const std::string& token)
 
 void MarkRule::see(const VorBomDataRow& row)
 {
+    // One pair is enough to say what is wrong, so that rows behind it cost nothing.
     const VorBomDataTuple* const pTuple = m_pair.empty() ? m_marked.findIn(row) : nullptr;
     if (pTuple == nullptr || pTuple->value().type() != VorBomDataValue::kStringData)
         return;

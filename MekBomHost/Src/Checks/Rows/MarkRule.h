@@ -1,5 +1,10 @@
-// MB212: texts in natural order that differ by leading zeros alone, such as "B2" and "B02". They stand side by side and
-// are two groups all the same, which looks as if one of them came twice.
+// MB212, a note: texts in natural order that differ by leading zeros alone. They stand side by side and are two groups
+// all the same, which looks as if one of them came twice.
+//
+//   rows with the marks "B2" and "B02", sorted by %PNum     ->   told, with both
+//   rows with the marks "B2", "B20" and "C02"               ->   nothing to tell
+//
+// Keeps each mark once: its memory grows with the marks, not with the rows.
 #pragma once
 
 #include "DatumFinder.h"
@@ -15,7 +20,7 @@ namespace mekbom
 class MarkRule : public RowRule
 {
 public:
-    // The sorting request that names `token`; it outlives the rule.
+    // `request` is the sorting request that names `token`; it outlives the rule.
     MarkRule(const CheckedTuple& request, const std::string& token);
 
     void see(const VorBomDataRow& row) override;
@@ -25,7 +30,7 @@ private:
     const CheckedTuple& m_request;
     DatumFinder m_marked;
     VorString m_last;                                     // of the row before: most marks follow themselves
-    std::unordered_map<std::string, std::string> m_marks; // by what they are without leading zeros
-    std::string m_pair;                                   // "B02" and "B2", once there are such
+    std::unordered_map<std::string, std::string> m_marks; // "B2" -> "B02": by what they are without leading zeros
+    std::string m_pair; // the first two that are alike, in quotes; empty as long as there are none
 };
 }

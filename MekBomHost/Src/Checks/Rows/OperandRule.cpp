@@ -1,7 +1,11 @@
+// A formula finds its operands in two places, the row and the tuples of its own section. What the section shows with a
+// starting number is therefore never lacking, and only the other tokens are looked for in the rows. A text in the row
+// is as good as nothing: no formula computes with one.
 #include "OperandRule.h"
 
 #include "InQuotes.h"
 #include "MistakeCodes.h"
+#include "NumberInValue.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
@@ -14,8 +18,7 @@ namespace
 {
 bool isNumber(const VorBomDataTuple* pTuple)
 {
-    return pTuple != nullptr && (pTuple->value().type() == VorBomDataValue::kIntData ||
-                                 pTuple->value().type() == VorBomDataValue::kDoubleData);
+    return pTuple != nullptr && holdsNumber(pTuple->value().type());
 }
 }
 

@@ -1,4 +1,7 @@
 // MB413: rows lack a token that a formula computes with. Their lines keep the starting value, and totals lack them.
+//
+//   "%Formula:%Weight*%Price" over rows with prices 2, none and 3   ->   "1 of 3 rows have no number %Price"
+//   the same in details with { "token": "%Price", "value": 2 }      ->   nothing: the second row is computed with 2
 #pragma once
 
 #include "DatumFinder.h"
@@ -13,8 +16,7 @@ namespace mekbom
 class OperandRule : public RowRule
 {
 public:
-    // The formula that the rule is about, in a header or in the details; it outlives the rule. Numbers of the formula's
-    // own section count as there: formulas see them.
+    // The formula that the rule is about, in a header or in the details; it outlives the rule.
     explicit OperandRule(const CheckedTuple& formula);
 
     void see(const VorBomDataRow& row) override;
@@ -24,11 +26,11 @@ private:
     struct Operand
     {
         DatumFinder datum;
-        long long numLacking;
+        long long numLacking; // rows without a number for it
     };
 
     const CheckedTuple& m_formula;
-    std::vector<Operand> m_operands;
+    std::vector<Operand> m_operands; // each token of the formula once, without those that its section has numbers for
     long long m_numRows = 0;
 };
 }

@@ -1,3 +1,10 @@
+// The engine adds what it finds in each row, once, and a row says that it stands for several pieces in one of two ways:
+//
+//   %Quantity 4                                   a row of a parts list for four equal parts
+//   EqualPartObjectHandles() of three objects     a row of another program for four: its own object and three like it
+//
+// Either way a weight of 134.4 kg is that of one piece. A row without a weight adds nothing, wrong or right, and is not
+// counted among those that are told.
 #include "PiecesRule.h"
 
 #include "InQuotes.h"
@@ -10,18 +17,19 @@ namespace mekbom
 {
 namespace
 {
-// "%Formula:%Weight*1.05*%Quantity", "%Formula:(%Length+%Width)*%Quantity"
+// What to sum instead: "%Formula:%Weight*1.05*%Quantity", "%Formula:(%Length+%Width)*%Quantity". Products need no
+// parentheses, and are better off without: a ')' applies all that is pending on its left.
 std::string timesPieces(const std::string& summed)
 {
     const TokenRequest request = TokenRequest::of(summed);
     const bool isProduct =
         request.kind != TokenRequest::kFormula || request.subject.find_first_of("+-/^(") == std::string::npos;
-    return "%Formula:" + (isProduct ? request.subject : "(" + request.subject + ")") + "*%Quantity";
+    return "%Formula:" + (isProduct ? request.subject : "(" + request.subject + ")") + "*" + KnownTokens::kPieces;
 }
 }
 
-const VorString PiecesRule::kPieces(L"%Quantity");
-
+// A token with a unit is measured on a piece, unless a whole assembly shares it; a whole number among the operands is
+// taken for a count, so that "%Weight*%MQuantity" is left alone as well.
 bool PiecesRule::isOfOnePiece(const CheckedTuple& total, const KnownTokens& tokens)
 {
     const std::vector<std::string> summed = dataTokensOf(total.request);
@@ -32,7 +40,8 @@ bool PiecesRule::isOfOnePiece(const CheckedTuple& total, const KnownTokens& toke
     return std::any_of(summed.begin(), summed.end(), isMeasure) && std::none_of(summed.begin(), summed.end(), isOfMore);
 }
 
-PiecesRule::PiecesRule(const CheckedTuple& total, Finding::eSeverity severity) : m_total(total), m_severity(severity)
+PiecesRule::PiecesRule(const CheckedTuple& total, Finding::eSeverity severity)
+    : m_total(total), m_severity(severity), m_pieces(Utf8::toWide(KnownTokens::kPieces))
 {
     for (const std::string& token : dataTokensOf(total.request))
         m_summed.emplace_back(Utf8::toWide(token));

@@ -8,6 +8,7 @@ namespace mekbom
 {
 PlainOrderRule::PlainOrderRule(const SortKey& key) : m_key(key), m_token(Utf8::toWide(key.token)) {}
 
+// The first text settles it: a column of a parts list has either texts or numbers from its first cell to its last.
 void PlainOrderRule::see(const VorBomDataRow& row)
 {
     if (!m_text.empty())

@@ -1,3 +1,11 @@
+// Whether a row has a token twice takes all pairs of its tuples, and a look into each for a formula: too much for each
+// of a million rows that all have the same tokens. So the tokens of a row that was found right are kept, and a row is
+// right, too, if it has them at the same places:
+//
+//   row 1   %PNum %Material %Weight            is looked at: nothing twice, no formula
+//   row 2   %PNum %Material %Weight            as before: three addresses are compared
+//   row 3   %PNum %Weight %Material %Weight    is looked at: %Weight stands there twice
+//   row 4   %PNum %Material %Weight            is looked at again, as the tokens of row 3 are no measure
 #include "RowOriginRule.h"
 
 #include "InQuotes.h"
@@ -23,6 +31,7 @@ const VorString* tokenTwiceIn(const VorBomDataRow& row)
     return nullptr;
 }
 
+// The engine writes "%Formula:%Weight*2" into a row once it has computed it, and finds it there the next time.
 bool hasFormula(const VorBomDataRow& row)
 {
     for (const VorBomDataTuple& tuple : row.getData())
@@ -37,6 +46,7 @@ std::string rows(long long number, long long all)
 }
 }
 
+// A row as before has no formula in it; that it may be left out of sums is no matter of its tokens.
 void RowOriginRule::see(const VorBomDataRow& row)
 {
     ++m_numRows;

@@ -21,7 +21,11 @@ public:
     RowRule& operator=(const RowRule&) = delete;
     virtual ~RowRule() = default;
 
+    // Looks at the next row and notes what of it matters. It is called for every row of the list, so a rule that has
+    // seen enough returns at once, and none is to take longer the more rows there were.
     virtual void see(const VorBomDataRow& row) = 0;
+
+    // Adds what the rows have shown, nothing where they are right. Called once, behind the last row.
     virtual void tell(MistakeList& mistakes) const = 0;
 };
 }

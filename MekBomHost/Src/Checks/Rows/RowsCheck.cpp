@@ -1,3 +1,14 @@
+// A rule of a template that asks for nothing of the kind is not even made: a list without formulas pays for no
+// OperandRule. What a rule is about decides how many there are of it:
+//
+//   VaryingRule       one for each level that shows what may vary in its groups
+//   PiecesRule        one for each total of values of one piece
+//   OperandRule       one for each formula of a header or of the details
+//   MarkRule          one for each token that rows are sorted by in natural order
+//   BlankRule         one for each token that rows are grouped by and that may be a text
+//   PlainOrderRule    one for each token of which nobody says how rows are sorted by it
+//   WholeNumberRule   one for each tuple that shows a token with a unit
+//   RowOriginRule     one: it is about the rows alone
 #include "RowsCheck.h"
 
 #include "BlankRule.h"
@@ -11,6 +22,7 @@
 #include "RowOriginRule.h"
 #include "RowRule.h"
 #include "TokenRules.h"
+#include "Utf8.h"
 #include "VaryingRule.h"
 #include "WholeNumberRule.h"
 
@@ -37,6 +49,7 @@ void addVaryingRules(Rules& rules, const CheckedTemplate& list, const KnownToken
     }
 }
 
+// The totals in footers that add up values of one piece; elsewhere nothing is added up.
 std::vector<const CheckedTuple*> totalsOfPieces(const CheckedTemplate& list, const KnownTokens& tokens)
 {
     std::vector<const CheckedTuple*> totals;
@@ -46,15 +59,16 @@ std::vector<const CheckedTuple*> totalsOfPieces(const CheckedTemplate& list, con
     return totals;
 }
 
-void addSumRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
+void addPiecesRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
 {
+    // A line of several rows shows such a total itself, and there it is wrong whatever is meant.
     const bool countsEqualLines = list.file().equalLines == kCountEqualLines;
     const Finding::eSeverity severity = countsEqualLines ? Finding::kError : MistakeCodes::kPiecesNotCounted.severity;
     for (const CheckedTuple* const pTuple : totalsOfPieces(list, tokens))
         rules.push_back(std::make_unique<PiecesRule>(*pTuple, severity));
 }
 
-void addFormulaRules(Rules& rules, const CheckedTemplate& list)
+void addOperandRules(Rules& rules, const CheckedTemplate& list)
 {
     for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kFormula))
         if (!pTuple->isFooter)
@@ -77,7 +91,7 @@ void addBlankRules(Rules& rules, const CheckedTemplate& list, const KnownTokens&
                 rules.push_back(std::make_unique<BlankRule>(*pTuple, element.token));
 }
 
-void addOrderRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
+void addPlainOrderRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
 {
     for (const SortKey& key : sortKeysOfOpenOrder(list, tokens))
         rules.push_back(std::make_unique<PlainOrderRule>(key));
@@ -95,7 +109,7 @@ std::vector<VorString> neededTokens(const ReportTemplate& reportTemplate, const 
 {
     const CheckedTemplate list(reportTemplate);
     return totalsOfPieces(list, tokens).empty() ? std::vector<VorString>()
-                                                : std::vector<VorString>{ PiecesRule::kPieces };
+                                                : std::vector<VorString>{ Utf8::toWide(KnownTokens::kPieces) };
 }
 
 std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens& tokens, const VorBomData& data)
@@ -103,11 +117,11 @@ std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens
     const CheckedTemplate list(reportTemplate);
     Rules rules;
     addVaryingRules(rules, list, tokens);
-    addSumRules(rules, list, tokens);
-    addFormulaRules(rules, list);
+    addPiecesRules(rules, list, tokens);
+    addOperandRules(rules, list);
     addMarkRules(rules, list, tokens);
     addBlankRules(rules, list, tokens);
-    addOrderRules(rules, list, tokens);
+    addPlainOrderRules(rules, list, tokens);
     addWholeNumberRules(rules, list, tokens);
     rules.push_back(std::make_unique<RowOriginRule>());
 

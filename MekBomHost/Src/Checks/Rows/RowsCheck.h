@@ -21,10 +21,11 @@
 
 namespace mekbom::RowsCheck
 {
-// The tokens that rows have to be read with for the rules, beside those that the template asks for: how many pieces a row
-// stands for, where a total is of values of one piece.
+// The tokens that rows have to be read with for the rules, beside those that the template asks for: how many pieces a
+// row stands for, where a total is of values of one piece.
 std::vector<VorString> neededTokens(const ReportTemplate& reportTemplate, const KnownTokens& tokens);
 
-// All mistakes of whatever severity. Takes time in proportion to the rows.
+// All mistakes of whatever severity, excused or not, one rule after the other and not in the order of the file. Reads
+// `data` and changes nothing in it, in a time in proportion to its rows. The template must have levels.
 std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens& tokens, const VorBomData& data);
 }

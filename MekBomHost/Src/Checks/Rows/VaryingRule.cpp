@@ -1,3 +1,10 @@
+// Grouped by %Name, with a header that shows %Material and %Weight, rows as they stand in the file:
+//
+//   row 1   HEA200  S235  10 kg    the first of its group, kept
+//   row 2   IPE360  S355  20 kg    the first of its group, kept
+//   row 3   HEA200  S355  10 kg    is compared with row 1: %Material varies, "S235, S355"; %Weight does not
+//
+// Only the first two values are told. Once everything that is watched varies, no further row is looked at.
 #include "VaryingRule.h"
 
 #include "InQuotes.h"
@@ -23,6 +30,8 @@ void mix(std::uint64_t& hash, std::uint64_t value)
     hash ^= hash >> 29; // lets high bits count in low ones, too
 }
 
+// Numbers count by their bits, so that 0.1 and 0.1 + 1e-9, which the engine takes for one group, are two here: a datum
+// that differs between just these two is not told.
 void mixValue(std::uint64_t& hash, const VorBomDataValue& value)
 {
     mix(hash, static_cast<std::uint64_t>(value.type()));
@@ -45,6 +54,7 @@ bool areClose(const VorBomDataValue& first, const VorBomDataValue& second, doubl
            std::abs(*static_cast<const double*>(first.data()) - *static_cast<const double*>(second.data())) < tolerance;
 }
 
+// What both rows lack is the same; what one of them lacks is not, as the other's value is shown for both.
 bool isSame(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond, double tolerance)
 {
     if (pFirst == nullptr || pSecond == nullptr)
@@ -93,6 +103,7 @@ void VaryingRule::see(const VorBomDataRow& row)
     }
 }
 
+// A token that the row lacks counts, too: rows without %Phase are a group of their own.
 std::uint64_t VaryingRule::groupOf(const VorBomDataRow& row) const
 {
     std::uint64_t hash = kStart;

@@ -6,8 +6,8 @@
 // decimal. A plain number is printed in full, and so compared.
 //
 // Rows of a group need not follow each other yet, so each row is compared with the first that has the same values under
-// the tokens of the group. Groups are told apart by a hash of 64 bits: that two of a million share one and are taken for
-// one group has a chance of one in thirty million, and costs a needless warning.
+// the tokens of the group. Groups are told apart by a hash of 64 bits: that two of a million share one and are taken
+// for one group has a chance of one in thirty million, and costs a needless warning.
 #pragma once
 
 #include "KnownTokens.h"
@@ -25,7 +25,8 @@ namespace mekbom
 class VaryingRule : public RowRule
 {
 public:
-    // The groups' tokens, and the tuples, all of one level, that the rule is about. The tuples outlive it.
+    // `groupTokens` tell the groups of a level from each other, and `tuples` are what its header and footer show that
+    // may vary in them. The tuples outlive the rule, `tokens` is asked only here.
     VaryingRule(const std::vector<std::string>& groupTokens, const std::vector<const CheckedTuple*>& tuples,
                 const KnownTokens& tokens);
 
@@ -45,7 +46,7 @@ private:
 
     std::vector<VorString> m_groupTokens;
     std::vector<Watched> m_watched;
-    std::size_t m_numVarying = 0;
-    std::unordered_map<std::uint64_t, const VorBomDataRow*> m_firstRows; // of each group
+    std::size_t m_numVarying = 0;                                        // how many of m_watched have values
+    std::unordered_map<std::uint64_t, const VorBomDataRow*> m_firstRows; // the first row of each group, by its hash
 };
 }

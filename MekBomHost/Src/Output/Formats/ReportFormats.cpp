@@ -1,3 +1,6 @@
+// A name asks for a format, and the ending of a file only promises one: "list.xlsx" is refused, since a text in it
+// would not open, but neither "list.txt" nor "list.lst" asks for anything. Once there is a format for an ending, it is
+// a line of the first table and no longer a word of the second.
 #include "ReportFormats.h"
 
 #include "TextTableWriter.h"
@@ -34,6 +37,7 @@ const Format kFormats[] = {
 const std::string_view kOtherEndings[] = { "csv",  "tsv", "htm", "html", "json", "xml", "yaml", "xls",
                                            "xlsx", "ods", "doc", "docx", "odt",  "rtf", "pdf" };
 
+// "Parts.XLSX" -> "xlsx"; empty for "list" and for "lists.d/list".
 std::string endingOf(std::string_view fileName)
 {
     const std::size_t dot = fileName.find_last_of("./\\");

@@ -39,8 +39,8 @@ void makeRoomForText(TextColumn& column, const ShownText& text)
         makeRoom(column, text.view(), column.textLimit);
 }
 
-// As wide as its heading needs.
-// A template's width limits the heading and labels in every column, other texts only where these are not numbers.
+// The column as wide as its heading needs. A template's width limits the heading and labels in every column, other
+// texts only where these are not numbers.
 TextColumn describe(const ReportColumn& described)
 {
     TextColumn column;
@@ -65,7 +65,7 @@ void makeRoomForLabels(const EvaluatedReport& report, std::vector<TextColumn>& c
     }
 }
 
-// By what is known of all texts together; false where each one has to be looked at.
+// Makes room by what is known of all texts together; false where each one has to be looked at.
 bool makeRoomForLongest(TextColumn& column, TextExtent extent)
 {
     const ShownText longest = { nullptr, extent.longest, extent.areAllPlain };

@@ -34,7 +34,7 @@ struct TextColumn
 
 namespace TextColumns
 {
-// One for each column of the report, in their order.
+// One for each column of the report, in their order. Values: the report may go.
 std::vector<TextColumn> of(const EvaluatedReport& report);
 }
 }

@@ -13,7 +13,8 @@
 //
 // A blank line sets off groups of several lines, a rule the report's own footer. A column is as wide as its widest
 // text, or as the template says: texts that are wider go on in the next line, numbers widen the column. Lines have no
-// blanks at their end. What the list is made of stands below a blank line, where it is known. The whole table is in UTF-8, whatever the locale.
+// blanks at their end. What the list is made of stands below a blank line, where it is known. The whole table is in
+// UTF-8, whatever the locale.
 #pragma once
 
 #include "EvaluatedReport.h"
@@ -29,7 +30,7 @@ namespace mekbom
 class TextTable
 {
 public:
-    // Neither is owned; both must outlive the table.
+    // Neither `report` nor `sink` is owned; both must outlive the table.
     TextTable(const EvaluatedReport& report, TextSink& sink);
 
     // Writes the whole table into the sink and finishes that. To be called once.

@@ -14,7 +14,7 @@
 
 namespace mekbom::WordWrap
 {
-// The lines of `text`, of which there is at least one. Line breaks end a line, tabs become blanks, other
-// control characters U+FFFD.
+// The lines of `text`, of which there is at least one. Line breaks end a line, tabs become blanks, and other
+// control characters U+FFFD. A character that is wider than the column stands in a line of its own.
 std::vector<std::string> wrap(std::string_view text, int width);
 }

@@ -30,6 +30,7 @@ using Catalogue = VorUnitsTransformArray;
 const char* const kBlank = "blank";
 const char* const kMinus = "minus";
 
+// The unit of a symbol such as "ft", which carries no precision: it is for a number that is read.
 const VorUnitDefinition& findUnit(const std::string& symbol)
 {
     const VorUnitDefinition* const pUnit = Catalogue::findUnit(Utf8::toWide(symbol));
@@ -39,6 +40,7 @@ const VorUnitDefinition& findUnit(const std::string& symbol)
     return *pUnit;
 }
 
+// The unit of "ft-in/16" with its precision. What is read overwrites all that the unit begins with.
 MEKUnit readUnit(const std::string& word)
 {
     MEKUnit unit(Catalogue::findUnitOfModel(Catalogue::kDistance)->number, 0, 0);
@@ -48,6 +50,7 @@ MEKUnit readUnit(const std::string& word)
     return unit;
 }
 
+// The quantity in the model's unit.
 double readQuantity(const std::string& text, const VorUnitDefinition& unit, const std::string& symbol)
 {
     const VorString wideText = Utf8::toWide(text);
@@ -91,7 +94,7 @@ std::string UnitsConvertVerb::convert() const
     if (transform.system() != from.system)
         QuantityWords::refuse(FindingCodes::kUnitUnknown, m_to,
                               UnitKinds::find(from.system)->expectation + std::string(", as ") + m_from + " is");
-    const int showUnitSymbol = 0;
+    const int showUnitSymbol = 0; // who asked for the unit knows it, and scripts want a number
     return Utf8::toBytes(transform.formatValue(readQuantity(m_value, from, m_from), m_nSuppressLastZeros,
                                                showUnitSymbol, m_nSuppressZeroFeet, m_nSuppressZeroInch,
                                                m_separator == kMinus ? L'-' : L' '));

@@ -17,16 +17,18 @@ public:
     ExitStatus run(FindingList& findings) override;
 
 private:
+    // The text of the quantity in the other unit. Throws a Fault of status kWrongUsage for a word that is no unit, a
+    // text that is no quantity, and units of different kinds.
     std::string convert() const;
 
     std::string m_value; // a number in m_from, or a quantity with a unit of its own
     std::string m_from;  // a symbol
     std::string m_to;    // a symbol and a precision
 
-    // How the text is laid out: as lists do it when nobody sets anything.
+    // How the text is laid out, each 0 or 1: as lists do it when nobody sets anything.
     int m_nSuppressLastZeros = 1;
     int m_nSuppressZeroFeet = 1;
     int m_nSuppressZeroInch = 1;
-    std::string m_separator;
+    std::string m_separator; // "minus" or "blank"; empty is blank, too
 };
 }

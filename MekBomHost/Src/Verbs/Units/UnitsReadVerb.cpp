@@ -1,3 +1,5 @@
+// Which kind a quantity is of is found by trying one kind after the other. Lengths come first, so that "2286", which
+// any of them would take, is a length; "100 lb" is none, and is taken by the reader of weights.
 #include "UnitsReadVerb.h"
 
 #include "NumberText.h"
@@ -27,6 +29,7 @@ double readOfAnyKind(const std::string& text)
     for (const UnitKind& kind : UnitKinds::all())
         if (VorQuantityReader(Catalogue::findUnitOfModel(kind.system)->number).read(wideText, value) == 1)
             return value;
+    // What is wrong is explained by the kind that was most likely meant.
     const bool isAngle = wideText.find(L"\u00B0", 0) >= 0;
     const VorQuantityReader likely(
         Catalogue::findUnitOfModel(isAngle ? Catalogue::kAngle : Catalogue::kDistance)->number);

@@ -17,6 +17,6 @@ public:
     ExitStatus run(FindingList& findings) override;
 
 private:
-    std::string m_value;
+    std::string m_value; // in UTF-8, with its unit unless it is a length in mm
 };
 }

@@ -32,6 +32,7 @@ CLI::App& UnitsVerb::declareOn(CLI::App& parent)
     return units;
 }
 
+// The verbs below belong to this one, so that it runs the one that was called; the program sees "units" alone.
 ExitStatus UnitsVerb::run(FindingList& findings)
 {
     if (m_tasks.called() != nullptr)

@@ -3,6 +3,10 @@
 //   const TemplateLevels levels(*reportTemplate.pTemplate);
 //   levels.count()                ->  3 for report header, group header, details
 //   levels.section({ 1, true })   ->  the footer of the groups, or null
+//   levels.details()              ->  the section that makes a line of each row
+//
+// The first of siblings opens a level and the second closes it, whatever their types; what stands behind these two, and
+// what stands below a footer, is in no level.
 #pragma once
 
 #include "SectionPlace.h"
@@ -25,11 +29,16 @@ public:
     int count() const { return static_cast<int>(m_headers.size()); }
     bool isDeepest(int level) const { return level + 1 == count(); }
 
-    // Null for a footer that the level has not.
+    // Owned by the template; null for a footer that the level has not. The level is one of those there are.
     const VorBomTemplateItem* section(SectionPlace place) const;
 
-    // What the header groups and sorts by, the latter with directions as written: "%SortAscBy:%Name", "%Material".
+    // The header of the deepest level, which is evaluated for every row. There must be a level.
+    const VorBomTemplateItem& details() const { return *m_headers.back(); }
+
+    // What the header of that level groups by: "%Material", "%Name". None for a level without such a request.
     std::vector<VorString> groupTokens(int level) const;
+
+    // What it sorts by, with directions as written: "%SortAscBy:%Name", "%Material".
     std::vector<VorString> sortRequests(int level) const;
 
 private:

@@ -1,3 +1,9 @@
+// Only headers are kept. The footer of a level is whatever stands right behind its header, and what stands behind the
+// footer is never asked for:
+//
+//   { kReportHeader { kGroupHeader { kDetails }, kGroupFooter }, kReportFooter, kPageFooter }
+//
+// has three headers, of which the first two have a footer, and a page footer that no level knows.
 #include "TemplateLevels.h"
 
 #include "VorBomDataToken.h"

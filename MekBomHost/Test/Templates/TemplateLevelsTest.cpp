@@ -17,6 +17,7 @@ TEST(TemplateLevelsTest, EachLevelHasAHeaderAndMayHaveAFooter)
     EXPECT_EQ(VorBomTemplateItem::kGroupHeader, levels.section({ 1, false })->type());
     EXPECT_EQ(VorBomTemplateItem::kDetails, levels.section({ 2, false })->type());
     EXPECT_EQ(nullptr, levels.section({ 2, true }));
+    EXPECT_EQ(levels.section({ 2, false }), &levels.details());
     EXPECT_FALSE(levels.isDeepest(1));
     EXPECT_TRUE(levels.isDeepest(2));
 }
