@@ -25,6 +25,7 @@ from printed_list import number, print_list
 HERE = pathlib.Path(__file__).parent
 HALL = HERE / "hall.csv"
 REAL_FILES = ("steel-frame.csv", "steel-frame-assemblies.csv", "profiles.csv")
+ROUNDED_ALIKE = {"steel-frame.csv, bolt-list, imperial": ("MB110",)}  # bolts of 9 and of 10 mm are both 3/8"
 NO_WEIGHT = ("MB413",)                  # some rows have none
 AREAS = ("--input-unit", "%Paint=m2")   # the frame's surfaces name no unit
 
@@ -205,8 +206,9 @@ def check(program, case):
         name = f"{case.name}, {system}"
         wrong += check_line(name, printed, printed.lines[-1], rows, case.totals, units) if case.totals else 0
         wrong += check_groups(case._replace(name=name), printed, rows, units) if case.group else 0
-        if set(printed.mistakes) != set(case.mistakes):
-            print(f"{name}: tells {printed.mistakes}, expected {case.mistakes}", file=sys.stderr)
+        mistakes = {*case.mistakes, *ROUNDED_ALIKE.get(name, ())}
+        if set(printed.mistakes) != mistakes:
+            print(f"{name}: tells {printed.mistakes}, expected {sorted(mistakes)}", file=sys.stderr)
             wrong += 1
         counts = [f"{len(everything)} rows read", f"{len(rows)} listed"]
         if not all(count in printed.foot[0] for count in counts):

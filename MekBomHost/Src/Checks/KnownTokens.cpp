@@ -16,7 +16,6 @@
 #include "VorBomTemplateUnits.h"
 #include "VorBomTokenCatalogue.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace mekbom
@@ -30,7 +29,9 @@ const VorBomTokenCatalogue::Entry* entryOf(const std::string& token)
 }
 
 KnownTokens::KnownTokens(const ReportTemplate& reportTemplate, std::vector<std::string> dataTokens)
-    : m_template(reportTemplate), m_dataTokens(std::move(dataTokens))
+    : m_template(reportTemplate),
+      m_dataTokens(std::move(dataTokens)),
+      m_isOfData(m_dataTokens.begin(), m_dataTokens.end())
 {
 }
 
@@ -47,7 +48,7 @@ bool KnownTokens::knows(const std::string& token) const
 
 bool KnownTokens::isOfData(const std::string& token) const
 {
-    return std::find(m_dataTokens.begin(), m_dataTokens.end(), token) != m_dataTokens.end();
+    return m_isOfData.count(token) > 0;
 }
 
 // The catalogue comes first, whatever the template declares: the engine asks nobody else for the type of %Weight. A

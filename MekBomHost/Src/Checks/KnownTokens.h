@@ -13,6 +13,7 @@
 #include "ReportTemplate.h"
 
 #include <string>
+#include <unordered_set>
 #include <vector>
 
 namespace mekbom
@@ -65,5 +66,6 @@ public:
 private:
     const ReportTemplate& m_template;
     std::vector<std::string> m_dataTokens;
+    std::unordered_set<std::string> m_isOfData; // the same ones
 };
 }

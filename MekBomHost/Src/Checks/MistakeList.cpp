@@ -60,14 +60,6 @@ void MistakeList::addPlaced(const std::vector<Finding>& findings)
     }
 }
 
-// The built-in template has no file, and so no places: its findings stand at line 0, which messages leave out.
-TemplatePlace MistakeList::placeOf(const CheckedTuple& tuple) const
-{
-    const SectionStyle& style = m_template.styleOf(tuple.pSection);
-    const auto index = static_cast<std::size_t>(tuple.index);
-    return index < style.tuplePlaces.size() ? style.tuplePlaces[index] : style.place;
-}
-
 void MistakeList::addAt(const TemplatePlace& place, Finding finding)
 {
     finding.source = m_template.fileName;

@@ -40,7 +40,10 @@ public:
     const std::vector<Finding>& findings() const { return m_findings; }
 
 private:
-    TemplatePlace placeOf(const CheckedTuple& tuple) const;
+    TemplatePlace placeOf(const CheckedTuple& tuple) const
+    {
+        return m_template.placeOfTuple(*tuple.pSection, tuple.index);
+    }
     void addAt(const TemplatePlace& place, Finding finding);
 
     const ReportTemplate& m_template;

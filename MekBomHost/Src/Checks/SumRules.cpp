@@ -191,12 +191,29 @@ void SumRules::findSumOfShared(const CheckedTuple& tuple)
     const auto isShared = [this](const std::string& token) { return m_tokens.isSharedByRows(token); };
     if (!tuple.isFooter || summed.empty() || !std::all_of(summed.begin(), summed.end(), isShared))
         return;
+    const std::string own = ownOfRow(summed.front());
     m_mistakes.add(MistakeCodes::kPiecesNotCounted, tuple,
                    inQuotes(tuple.token) + " adds " + summed.front() +
                        " once for each row, though rows of one assembly, phase or model share it",
-                   "show " + inQuotes(tuple.request.subject) +
-                       " in the header of its group instead, or sum what is the row's own: "
-                       "\"%SumBy:%Formula:%Weight*%Quantity\"");
+                   "show " + inQuotes(tuple.request.subject) + " in the header of its group instead" +
+                       suggestion(", or sum what is the row's own: ", own.empty() ? "" : "%SumBy:" + own));
+}
+
+// Of "%AssemblyWeight" and "%WeightInPhase" alike "%Formula:%Weight*%Quantity": what a row adds to them. Whole numbers are
+// counted already. Empty where the catalogue has none such.
+std::string SumRules::ownOfRow(const std::string& shared) const
+{
+    const std::string ofAssembly = "%Assembly";
+    if (startsWith(shared, "%MQuantity"))
+        return "%Formula:%IsMP*%Quantity"; // the main part stands for its assembly
+    std::string own = shared;
+    for (const char* const whole : { "InAssembly", "InAllAssembly", "InPhase", "InModel" })
+        own = own.substr(0, own.find(whole));
+    if (startsWith(own, ofAssembly))
+        own = "%" + own.substr(ofAssembly.size());
+    if (own == shared || !m_tokens.isInCatalogue(own))
+        return std::string();
+    return m_tokens.kindOf(own) == KnownTokens::kWhole ? own : "%Formula:" + own + "*%Quantity";
 }
 
 // MB403 trips on "%Formula:%Weight*2" in a footer alone, and does not when a header or the details have it, too.

@@ -24,6 +24,7 @@ private:
     void findSumOfShared(const CheckedTuple& tuple);
     void findFormulaOnlyInFooter(const CheckedTuple& tuple);
 
+    std::string ownOfRow(const std::string& shared) const;
     bool isComputedInHeader(const std::string& formulaToken) const;
     bool isComputedForEveryRow(const std::string& formulaToken) const;
     std::string sameFormulaOfDetails(const std::string& formulaToken) const;

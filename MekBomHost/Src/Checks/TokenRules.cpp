@@ -8,9 +8,12 @@
 #include "TokenRules.h"
 
 #include "TokenNames.h"
+#include "TokenQuantities.h"
+#include "UnitKinds.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
+#include "VorBomTemplate.h"
 
 #include <algorithm>
 
@@ -18,6 +21,9 @@ namespace mekbom
 {
 namespace
 {
+// Arbitrary: more than anybody misspells. Each takes a look at all words there are, thousands in a wide file.
+const int kMostSuggestions = 100;
+
 // Whether the token describes all objects of a mark that the rows are grouped by: %MName those of an assembly's mark,
 // and %Material those of a part's, since parts of one mark are equal. The data may say otherwise; VaryingRule tells
 // then.
@@ -41,13 +47,14 @@ void TokenRules::run(bool hasData)
 {
     for (const CheckedTuple& tuple : m_list.tuples())
     {
-        findUnknownTokens(tuple);
+        findUnknownTokens(tuple, hasData);
         findUnknownColumn(tuple);
         findMalformedColumn(tuple);
         findNumberAsData(tuple);
         findPiecesOfFirstRow(tuple);
     }
     findUnknownUnits();
+    findOtherKinds();
     findNumbersWithoutUnit();
     if (!hasData)
         findVaryingTokens();
@@ -55,7 +62,7 @@ void TokenRules::run(bool hasData)
 
 void TokenRules::addUnknown(const CheckedTuple& tuple, const std::string& token, const std::string& effect)
 {
-    const std::string nearest = m_tokens.nearestTo(token);
+    const std::string nearest = m_numUnknown++ < kMostSuggestions ? m_tokens.nearestTo(token) : std::string();
     m_mistakes.add(MistakeCodes::kTokenUnknown, tuple, effect,
                    nearest.empty()
                        ? "declare a token of your own: \"tokens\": { " + inQuotes(token) + ": \"text\" }, or \"number\""
@@ -64,17 +71,19 @@ void TokenRules::addUnknown(const CheckedTuple& tuple, const std::string& token,
 
 // MB501 trips on "%posNum" and on "%SumBy:Weight", and does not on "%Weight", nor on "%posNum" where a parts list has
 // such a column. What is shown and is no token at all ("Weight") is told as MB502; what is summed has no column, and is
-// told here.
-void TokenRules::findUnknownTokens(const CheckedTuple& tuple)
+// told here. Without data nobody knows what rows have.
+void TokenRules::findUnknownTokens(const CheckedTuple& tuple, bool hasData)
 {
     for (const std::string& token : dataTokensOf(tuple.request))
         if (!m_tokens.knows(token) && VorBomDataToken::isToken(Utf8::toWide(token)) == 1)
             addUnknown(tuple, token,
-                       "no token " + inQuotes(token) +
-                           " is known: no row has it, and the template's own "
-                           "value is taken everywhere");
+                       "no token " + inQuotes(token) + " is known: " +
+                           (hasData ? "no row has it" : "neither the catalogue nor the template has it") +
+                           ", and the template's own value is taken everywhere");
         else if (!m_tokens.knows(token) && tuple.request.kind == TokenRequest::kSum)
-            addUnknown(tuple, token, inQuotes(tuple.token) + " sums " + inQuotes(token) + ", which no row has");
+            addUnknown(tuple, token,
+                       inQuotes(tuple.token) + " sums " + inQuotes(token) + ", which " +
+                           (hasData ? "no row has" : "is no token"));
 }
 
 // MB501 trips on { "token": "%Name", "column": "%Rloe" } and does not when "columns" describes "%Rloe", or when it is a
@@ -112,8 +121,15 @@ void TokenRules::findUnknownUnits()
 {
     for (const auto& [key, place] : m_list.file().tokenUnitPlaces)
     {
-        const TokenRequest request = TokenRequest::of(key);
-        const std::string token = request.kind == TokenRequest::kSum ? request.subject : key;
+        const VorString datum = TokenQuantities::datumOf(Utf8::toWide(key));
+        const std::string token = Utf8::toBytes(datum);
+        if (VorString formula = datum; VorBomDataToken::removeFormulaPrefix(formula) == 1)
+        {
+            m_mistakes.add(MistakeCodes::kTokenUnknown, place,
+                           inQuotes(key) + " is no name of a formula here: its unit is that of nothing",
+                           "write " + inQuotes(Utf8::toBytes(formula)) + ", without a prefix");
+            continue;
+        }
         if (m_tokens.isInCatalogue(token) || m_tokens.isOfData(token) || m_list.file().ownTokens.count(token) > 0 ||
             isUsed(token))
             continue;
@@ -121,6 +137,24 @@ void TokenRules::findUnknownUnits()
         m_mistakes.add(MistakeCodes::kTokenUnknown, place,
                        "no token " + inQuotes(token) + " is known, nor used in the list: its unit is that of nothing",
                        nearest.empty() ? "take it out" : "did you mean " + inQuotes(nearest) + "?");
+    }
+}
+
+// MB507 trips on "%Weight": "kNoUnit" in "tokenUnits" and does not on "%Weight": "kWeightUnit". A weight in kilograms
+// would be printed as one in pounds, or as a length: under the author's own label, whatever that says.
+void TokenRules::findOtherKinds()
+{
+    VorBomTemplate ofCatalogue;
+    ofCatalogue.setUnitsForTokens(nullptr);
+    for (const auto& [key, place] : m_list.file().tokenUnitPlaces)
+    {
+        const VorString token = TokenQuantities::datumOf(Utf8::toWide(key));
+        const auto type = ofCatalogue.getBomTemplateUnits()->getUnitType(token);
+        const UnitKind* const pKind = UnitKinds::find(type);
+        if (pKind != nullptr && m_list.file().pTemplate->getBomTemplateUnits()->getUnitType(Utf8::toWide(key)) != type)
+            m_mistakes.add(MistakeCodes::kOtherKindThanCatalogue, place,
+                           inQuotes(Utf8::toBytes(token)) + " is " + pKind->name + ", which this entry denies",
+                           "take it out: lists show " + Utf8::toBytes(token) + " in the reader's unit");
     }
 }
 

@@ -18,9 +18,10 @@ public:
     void run(bool hasData);
 
 private:
-    void findUnknownTokens(const CheckedTuple& tuple);
+    void findUnknownTokens(const CheckedTuple& tuple, bool hasData);
     void findUnknownColumn(const CheckedTuple& tuple);
     void findUnknownUnits();
+    void findOtherKinds();
     void findMalformedColumn(const CheckedTuple& tuple);
     void findVaryingTokens();
     void findNumbersWithoutUnit();
@@ -29,6 +30,8 @@ private:
 
     void addUnknown(const CheckedTuple& tuple, const std::string& token, const std::string& effect);
     bool isUsed(const std::string& token) const;
+
+    int m_numUnknown = 0; // tokens, or their uses
 };
 
 // The tuples that show, in a printed header or footer, what need not be the same in all rows of its groups. Left out

@@ -9,11 +9,19 @@
 // and a group of a hundred thousand lines may be followed by as many of one.
 #include "EqualLines.h"
 
+#include "InQuotes.h"
+#include "MistakeCodes.h"
 #include "NumberInValue.h"
+#include "NumberText.h"
 #include "PieceTokens.h"
+#include "UnitKinds.h"
+#include "Utf8.h"
 
 #include "VorBomDataToken.h"
 
+#include "MekUnits/Src/VorUnitDefinition.h"
+
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -38,6 +46,23 @@ bool isSummed(const VorBomTemplate& reportTemplate, const VorString& token)
     return false;
 }
 
+// Numbers of a model differ by less than that for no reason that an author would care about.
+bool areClose(double number, double other)
+{
+    constexpr double kTolerance = 1e-3; // of the greater one; arbitrary
+    return std::fabs(number - other) <= kTolerance * std::max(std::fabs(number), std::fabs(other));
+}
+
+// "9.5 mm"
+std::string inModelUnit(const VorBomTypedValue& value)
+{
+    const UnitKind* const pKind = UnitKinds::find(value.unitType);
+    const std::string text = numberText(value.number);
+    return pKind == nullptr
+               ? text
+               : text + " " + Utf8::toBytes(VorUnitsTransformArray::findUnitOfModel(pKind->system)->symbol);
+}
+
 std::size_t hashOfText(const VorString& text)
 {
     return std::hash<std::wstring_view>()({ text.getStringW(), static_cast<std::size_t>(text.length()) });
@@ -49,6 +74,7 @@ std::size_t hashOfText(const VorString& text)
 // nothing. What becomes of each column follows from its token alone: rule 1 of the header, 2, or 3.
 EqualLines::EqualLines(const ReportTemplate& reportTemplate, VorBomSectionSink& next)
     : SectionRelay(next, kTypedValues | kEqualLines),
+      m_fileName(reportTemplate.fileName),
       m_units(*reportTemplate.pTemplate->getBomTemplateUnits()),
       m_index(noLines())
 {
@@ -66,7 +92,8 @@ EqualLines::EqualLines(const ReportTemplate& reportTemplate, VorBomSectionSink& 
         const VorString& token = tuple.token().token();
         const bool growsInStep = PieceTokens::growWithPieces(token);
         m_columns.push_back({ growsInStep || isSummed(*reportTemplate.pTemplate, token), !growsInStep,
-                              reportTemplate.pTemplate->numberFormat(*pDetails, static_cast<int>(m_columns.size())) });
+                              reportTemplate.pTemplate->numberFormat(*pDetails, static_cast<int>(m_columns.size())),
+                              reportTemplate.placeOfTuple(*pDetails, static_cast<int>(m_columns.size())) });
     }
 }
 
@@ -123,6 +150,8 @@ void EqualLines::addLastTo(std::size_t line)
     const VorBomTypedValue* pAdded = m_values.data() + (m_lines.size() - 1) * numColumns;
     for (std::size_t i = 0; i < numColumns; ++i, ++pSum, ++pAdded)
     {
+        if (!m_columns[i].isAdded && !m_columns[i].isFound && !areClose(pSum->number, pAdded->number))
+            addRounding(line, i, *pAdded);
         if (!m_columns[i].isAdded || !holdsNumber(pSum->type))
             continue;
         pSum->number += pAdded->number;
@@ -134,6 +163,21 @@ void EqualLines::addLastTo(std::size_t line)
     m_texts.resize(m_texts.size() - numColumns);
     m_values.resize(m_values.size() - numColumns);
     ++m_numRowsAdded;
+}
+
+void EqualLines::addRounding(std::size_t line, std::size_t column, const VorBomTypedValue& other)
+{
+    Column& rounded = m_columns[column];
+    rounded.isFound = true;
+    const std::size_t shown = line * m_columns.size() + column;
+    Finding finding =
+        Finding::stating(MistakeCodes::kRoundedAlike,
+                         "lines with " + inModelUnit(m_values[shown]) + " and " + inModelUnit(other) +
+                             " are counted as one: both are shown as " + inQuotes(Utf8::toBytes(m_texts[shown])))
+            .in(m_fileName, rounded.place.span);
+    finding.path = rounded.place.path;
+    finding.remedy = "show the column more precisely, with \"decimals\" or a \"unit\" such as \"mm/2\" of its own";
+    m_findings.push_back(finding);
 }
 
 void EqualLines::handOn()

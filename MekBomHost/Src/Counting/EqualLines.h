@@ -21,6 +21,7 @@
 // to it, as takeMergedRow. Memory: the lines of one group, and a pointer for each of its rows.
 #pragma once
 
+#include "Finding.h"
 #include "ReportTemplate.h"
 #include "SectionRelay.h"
 
@@ -32,6 +33,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <unordered_set>
 #include <vector>
 
@@ -51,6 +53,10 @@ public:
     // Hands on the lines of the last group. To be called once, when the evaluation has come to its end.
     void finish();
 
+    // What was found, each with its place in the template: MB110, once for each column, of two lines that were made one
+    // though a number of the one differs from that of the other by more than a thousandth.
+    const std::vector<Finding>& findings() const { return m_findings; }
+
     // How many rows stand in the line of another one.
     int numRowsAdded() const { return m_numRowsAdded; }
 
@@ -61,6 +67,8 @@ private:
         bool isAdded = false;
         bool mustReadAlike = true;
         const VorBomNumberFormat* pFormat = nullptr; // not owned; null where the template's units show its numbers
+        TemplatePlace place = {};
+        bool isFound = false; // that rounding alone made two numbers alike
     };
 
     // A line of the open group. Its texts and numbers are those from its index times the number of columns on.
@@ -86,6 +94,7 @@ private:
     LineSet noLines() const { return LineSet(0, Hash{ this }, Equal{ this }); }
     void take(const VorBomReportSection& line);
     void append(const VorBomReportSection& line);
+    void addRounding(std::size_t line, std::size_t column, const VorBomTypedValue& other);
     void addLastTo(std::size_t line);
     void handOn();
     void handOn(std::size_t line);
@@ -94,6 +103,7 @@ private:
     bool readAlike(std::size_t first, std::size_t second) const;
     bool tellsApart(std::size_t column, const VorBomTypedValue& value) const;
 
+    const std::string m_fileName; // of the template
     const VorBomTemplateUnits& m_units;
     int m_level = -1; // of the lines that are counted; -1 when none are
     std::vector<Column> m_columns;
@@ -104,5 +114,6 @@ private:
     LineSet m_index;                              // of the lines above
     std::unique_ptr<VorBomTemplateItem> m_pShown; // the line that is handed on
     int m_numRowsAdded = 0;
+    std::vector<Finding> m_findings;
 };
 }

@@ -14,6 +14,7 @@
 #include "Utf8.h"
 
 #include <cmath>
+#include <limits>
 #include <optional>
 #include <stdexcept>
 
@@ -46,11 +47,14 @@ private:
     long double m_size;
 };
 
-// What has no room in a double is infinite on both sides, and the sum of two infinities of unlike sign is no number.
-bool agree(double printed, const ExactSum& sum)
+// The sum of two infinities of unlike sign is no number, on either side. A sum of doubles may pass the greatest of them
+// where a long double does not: that is for OverflowCheck to tell.
+bool agree(long double printed, const ExactSum& sum)
 {
     const long double added = sum.value();
-    return printed == static_cast<double>(added) || (std::isnan(printed) && std::isnan(added)) ||
+    const bool mayPassGreatest = sum.size() > std::numeric_limits<double>::max();
+    return (mayPassGreatest && !std::isfinite(printed)) || printed == added ||
+           (std::isnan(printed) && std::isnan(added)) ||
            std::fabs(printed - added) <= TotalsCheck::kTolerance * sum.size();
 }
 

@@ -16,6 +16,7 @@ const std::vector<FindingCode>& all()
         kSectionBelowDetails,
         kChildrenOfFooter,
         kFooterBesideDetails,
+        kRoundedAlike,
         kGroupNotSorted,
         kRequestWithoutPercent,
         kGroupingWithoutEffect,
@@ -30,6 +31,7 @@ const std::vector<FindingCode>& all()
         kMarksNearlyEqual,
         kGroupedTwice,
         kFilterWithoutEffect,
+        kTextsDifferInBlanks,
         kSumOutsideFooter,
         kSumOfTexts,
         kSumOfList,
@@ -67,12 +69,14 @@ const std::vector<FindingCode>& all()
         kNumberWithoutUnit,
         kNumberAsData,
         kWholeNumberUnderUnit,
+        kOtherKindThanCatalogue,
         kKindsMixed,
         kTokenTwiceInRow,
         kSubRows,
         kNotANumber,
         kMarksOfEarlierReport,
         kHandleNotUnique,
+        kNoNumberLeft,
     };
     return codes;
 }

@@ -36,6 +36,9 @@ inline constexpr FindingCode kChildrenOfFooter = { "MB108", Finding::kWarning,
 inline constexpr FindingCode kFooterBesideDetails = {
     "MB109", Finding::kWarning, "A footer stands beside the details, and is printed after every row."
 };
+inline constexpr FindingCode kRoundedAlike = {
+    "MB110", Finding::kWarning, "Lines that are counted as one read alike only because their numbers are rounded."
+};
 inline constexpr FindingCode kGroupNotSorted = {
     "MB201", Finding::kError, "A list is grouped by what it is not sorted by, so that groups split."
 };
@@ -65,6 +68,9 @@ inline constexpr FindingCode kGroupedTwice = { "MB213", Finding::kWarning,
                                                "Two levels are grouped by the same token." };
 inline constexpr FindingCode kFilterWithoutEffect = { "MB214", Finding::kWarning,
                                                       "A filtering request filters no row." };
+inline constexpr FindingCode kTextsDifferInBlanks = {
+    "MB215", Finding::kWarning, "Texts that a list is grouped by differ in blanks at their ends alone."
+};
 inline constexpr FindingCode kSumOutsideFooter = { "MB301", Finding::kError,
                                                    "A total stands in a header or in the details." };
 inline constexpr FindingCode kSumOfTexts = { "MB302", Finding::kError, "A total is one of texts." };
@@ -147,6 +153,9 @@ inline constexpr FindingCode kNumberAsData = {
 inline constexpr FindingCode kWholeNumberUnderUnit = {
     "MB506", Finding::kWarning, "A whole number stands under a token with a unit, and is printed without it."
 };
+inline constexpr FindingCode kOtherKindThanCatalogue = {
+    "MB507", Finding::kError, "\"tokenUnits\" gives a token of the catalogue another kind than it has."
+};
 inline constexpr FindingCode kKindsMixed = { "MB601", Finding::kError, "One token has values of several kinds." };
 inline constexpr FindingCode kTokenTwiceInRow = { "MB602", Finding::kWarning, "A row has the same token twice." };
 inline constexpr FindingCode kSubRows = { "MB603", Finding::kError, "Rows below rows are in no list." };
@@ -156,6 +165,8 @@ inline constexpr FindingCode kMarksOfEarlierReport = { "MB605", Finding::kWarnin
                                                        "Rows carry the marks of an earlier report." };
 inline constexpr FindingCode kHandleNotUnique = { "MB606", Finding::kWarning,
                                                   "An object handle is empty or stands in several rows." };
+inline constexpr FindingCode kNoNumberLeft = { "MB607", Finding::kError,
+                                               "A total or the result of a formula is too large to be a number." };
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();

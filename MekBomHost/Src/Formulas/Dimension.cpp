@@ -92,7 +92,16 @@ Dimension Dimension::ofOwnNumber(const std::string& token)
 bool Dimension::isSameProduct(const Dimension& other) const
 {
     return length() == other.length() && m_nWeight == other.m_nWeight && m_nAngle == other.m_nAngle &&
-           m_own == other.m_own;
+           hasSameOwnNumbers(other);
+}
+
+bool Dimension::hasSameOwnNumbers(const Dimension& other) const
+{
+    const int sign = m_nOwnSign * other.m_nOwnSign;
+    return m_own.size() == other.m_own.size() &&
+           std::equal(m_own.begin(), m_own.end(), other.m_own.begin(),
+                      [sign](const auto& power, const auto& another)
+                      { return power.first == another.first && power.second == sign * another.second; });
 }
 
 // A length and an area per length are the same product, and yet no sum: one is shown in mm, the other in m2/m.
@@ -116,24 +125,24 @@ Units::eTokenUnitType Dimension::kind() const
     return Units::kNoUnit;
 }
 
-// The smaller map goes into the larger one: a product of many own numbers takes no quadratic time. That holds for
-// quotients, too, since the signs are turned before the maps change places, and a sum has no order. A power that comes
-// to 0 goes, so that %Price/%Price is plain.
+// The smaller map goes into the larger one, whose powers keep their sign: neither a product of many own numbers nor
+// "a/(b/(c/(d/..." takes quadratic time. A power that comes to 0 goes, so that %Price/%Price is plain.
 void Dimension::addPowers(Dimension other, int sign)
 {
     m_nLength = addPower(m_nLength, sign * other.m_nLength);
     m_nAreaPerLength = addPower(m_nAreaPerLength, sign * other.m_nAreaPerLength);
     m_nWeight = addPower(m_nWeight, sign * other.m_nWeight);
     m_nAngle = addPower(m_nAngle, sign * other.m_nAngle);
-    if (sign < 0)
-        for (auto& [token, power] : other.m_own)
-            power = -power;
+    other.m_nOwnSign *= sign;
     if (m_own.size() < other.m_own.size())
+    {
         m_own.swap(other.m_own);
+        std::swap(m_nOwnSign, other.m_nOwnSign);
+    }
     for (const auto& [token, power] : other.m_own)
     {
         const auto found = m_own.emplace(token, 0).first;
-        found->second = addPower(found->second, power);
+        found->second = addPower(found->second, m_nOwnSign * other.m_nOwnSign * power);
         if (found->second == 0)
             m_own.erase(found);
     }
@@ -153,7 +162,7 @@ std::string Dimension::text() const
     add("length", length());
     add("angle", m_nAngle);
     for (const auto& [token, power] : m_own)
-        add(token, power);
+        add(token, m_nOwnSign * power);
     return productText(above + below);
 }
 }

@@ -59,6 +59,7 @@ public:
     std::string text() const;
 
 private:
+    bool hasSameOwnNumbers(const Dimension& other) const;
     bool isAreaPerLength() const { return m_nAreaPerLength == 1 && m_nLength == 0; }
     void addPowers(Dimension other, int sign);
 
@@ -66,6 +67,7 @@ private:
     int m_nAreaPerLength = 0; // powers of tokens that are an area per length
     int m_nWeight = 0;
     int m_nAngle = 0;
-    std::map<std::string, int> m_own; // powers of the user's own numbers by token; none is 0
+    std::map<std::string, int> m_own; // powers of the user's own numbers by token, times m_nOwnSign; none is 0
+    int m_nOwnSign = 1;               // -1 turns them all round, which a division by many does
 };
 }

@@ -26,7 +26,6 @@ namespace mekbom
 {
 namespace
 {
-const char* const kDeclaredPlain = "none";
 const char* const kRemedy = "say what it gives in the column, \"result\": a kind such as \"weight\", \"none\", or a "
                             "label of its own such as \"EUR\"";
 
@@ -117,7 +116,8 @@ private:
     Term sum(Term left, Term right);
     Term sumWithConstant(Term term, const FormulaConstant& constant);
     void settle(const Term& term);
-    void note(FormulaResult::eReason reason, const std::string& what);
+    template <class What>
+    void note(FormulaResult::eReason reason, const What& what);
     void conclude();
 
     const FormulaOperands& m_operands;
@@ -129,7 +129,7 @@ private:
 FormulaResult Derivation::derive(const FormulaTree& tree)
 {
     if (tree.root() == FormulaNode::kNoSide)
-        note(FormulaResult::kUnreadable, "there is nothing to compute");
+        note(FormulaResult::kUnreadable, [] { return "there is nothing to compute"; });
     m_result = Walk(*this).run(tree);
     settle(m_result);
     conclude();
@@ -148,8 +148,10 @@ Term Derivation::ofName(const VorString& name)
         case FormulaOperand::kPieces: return ofDimension(Dimension());
         case FormulaOperand::kQuantity: return ofDimension(Dimension::ofType(operand.type));
         case FormulaOperand::kOwnUnit: return ofUncertain(Dimension::ofOwnNumber(text));
-        case FormulaOperand::kText: note(FormulaResult::kTextOperand, inQuotes(text) + " is a text"); break;
-        default: note(FormulaResult::kUnknownOperand, "nobody knows " + inQuotes(text)); break;
+        case FormulaOperand::kText:
+            note(FormulaResult::kTextOperand, [&] { return inQuotes(text) + " is a text"; });
+            break;
+        default: note(FormulaResult::kUnknownOperand, [&] { return "nobody knows " + inQuotes(text); }); break;
     }
     return ofUncertain(Dimension());
 }
@@ -180,7 +182,8 @@ Term Derivation::sum(Term left, Term right)
         return sumWithConstant(std::move(left), right.constant);
     if (!left.dimension.isLike(right.dimension))
     {
-        note(FormulaResult::kUnlikeSum, "adds " + left.dimension.text() + " and " + right.dimension.text());
+        note(FormulaResult::kUnlikeSum,
+             [&] { return "adds " + left.dimension.text() + " and " + right.dimension.text(); });
         left.isCertain = false;
     }
     left.isCertain = left.isCertain && right.isCertain;
@@ -193,7 +196,8 @@ Term Derivation::sumWithConstant(Term term, const FormulaConstant& constant)
 {
     if (constant.value == 0.0 || term.dimension.isPlain())
         return term;
-    note(FormulaResult::kUnlikeSum, "adds " + term.dimension.text() + " and the bare number " + constant.shownText());
+    note(FormulaResult::kUnlikeSum,
+         [&] { return "adds " + term.dimension.text() + " and the bare number " + constant.shownText(); });
     term.isCertain = false;
     return term;
 }
@@ -203,16 +207,18 @@ void Derivation::settle(const Term& term)
 {
     const std::string hidden = term.factors.hiddenUnitOf(term.dimension);
     if (!hidden.empty())
-        note(FormulaResult::kHiddenUnit, hidden);
+        note(FormulaResult::kHiddenUnit, [&] { return hidden; });
 }
 
-// The first reason is the one that a reader of the formula meets first; those behind it mostly follow from it.
-void Derivation::note(FormulaResult::eReason reason, const std::string& what)
+// The first reason is the one that a reader of the formula meets first; those behind it mostly follow from it. Its words
+// alone are made: those of a long product take as long as the product.
+template <class What>
+void Derivation::note(FormulaResult::eReason reason, const What& what)
 {
     if (m_found.reason != FormulaResult::kNone)
         return;
     m_found.reason = reason;
-    m_found.what = what;
+    m_found.what = what();
 }
 
 // A kind is told only where no reason speaks against it. Own numbers alone, "%Price*%Hours", have no kind and need
@@ -222,7 +228,7 @@ void Derivation::conclude()
     const VorBomTemplateUnits::eTokenUnitType kind = m_result.dimension.kind();
     const bool isFree = m_result.dimension.isFreeOfUnits();
     if (kind == VorBomTemplateUnits::kNoUnit && !isFree)
-        note(FormulaResult::kNoKind, m_result.dimension.text() + " is no kind of quantity");
+        note(FormulaResult::kNoKind, [&] { return m_result.dimension.text() + " is no kind of quantity"; });
     if (m_found.reason != FormulaResult::kNone)
         return;
     m_found.measure = isFree ? FormulaResult::kPlain : FormulaResult::kKind;
@@ -247,7 +253,7 @@ std::string remedyOfHiddenUnit(const Term& result)
     const VorUnitDefinition* const pUnit = result.factors.givenUnitOf(result.dimension);
     return "take the constant out: lists show the number in the reader's unit; or give it a label of its own in the "
            "column, \"result\": " +
-           inQuotes(pUnit == nullptr ? kDeclaredPlain : Utf8::toBytes(pUnit->asciiSymbol));
+           inQuotes(pUnit == nullptr ? FormulaResult::kDeclaredPlain : Utf8::toBytes(pUnit->asciiSymbol));
 }
 
 // A kind that the tokens do not give, or that they give while the number is another one: "%Weight/1000" declared as a
@@ -300,7 +306,7 @@ void declare(FormulaResult& result, const Term& term, const std::string& declare
         result.kind = VorBomTemplateUnits::unitTypeOf(pKind->system);
         checkKind(result, term, declared);
     }
-    else if (declared != kDeclaredPlain)
+    else if (declared != FormulaResult::kDeclaredPlain)
     {
         result.label = declared;
         checkLabel(result, term);

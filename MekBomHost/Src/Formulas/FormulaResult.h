@@ -42,6 +42,8 @@ struct FormulaResult
         kUnreadable      // the parentheses do not balance, or there is no operand
     };
 
+    static constexpr const char* kDeclaredPlain = "none"; // how a column says that a formula gives a plain number
+
     eMeasure measure = kUndeclared;
     VorBomTemplateUnits::eTokenUnitType kind = VorBomTemplateUnits::kNoUnit; // set for kKind alone
     eReason reason = kNone;                                                  // why derive() could not tell, which may

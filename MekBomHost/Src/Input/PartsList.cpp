@@ -44,15 +44,6 @@ namespace
     throw Fault(kWrongUsage, finding);
 }
 
-// The one with the token, or null.
-template <class Columns>
-auto* findIn(Columns& columns, const std::string& token)
-{
-    const auto found = std::find_if(columns.begin(), columns.end(),
-                                    [&token](const InputColumn& column) { return column.token == token; });
-    return found == columns.end() ? nullptr : &*found;
-}
-
 // What the template traces, and others beside it. Case counts: a template that asks for "%Length" has no use for a
 // column "%length".
 std::set<std::string> wantedTokens(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
@@ -88,12 +79,14 @@ PartsList::PartsList(RecordSource& source) : m_source(source)
 
 const InputColumn* PartsList::find(const std::string& token) const
 {
-    return findIn(m_columns, token);
+    const auto found = m_indices.find(token);
+    return found == m_indices.end() ? nullptr : &m_columns[found->second];
 }
 
 InputColumn* PartsList::findColumn(const std::string& token)
 {
-    return findIn(m_columns, token);
+    const auto found = m_indices.find(token);
+    return found == m_indices.end() ? nullptr : &m_columns[found->second];
 }
 
 // To say again what the heading says is no mistake: a script may pass its units with files that name them and with
@@ -228,6 +221,7 @@ void PartsList::addColumn(const std::string& heading)
     column.unitSymbol = name.unit;
     column.isHandle = name.token == TokenNames::kHandle;
     column.isPieces = name.token == TokenNames::kPieces;
+    m_indices.emplace(column.token, m_columns.size());
     m_columns.push_back(column);
 }
 

@@ -26,10 +26,12 @@
 
 #include "VorBomTemplate.h"
 
+#include <cstddef>
 #include <map>
 #include <optional>
 #include <set>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace mekbom
@@ -93,6 +95,7 @@ private:
 
     RecordSource& m_source;
     std::vector<InputColumn> m_columns;
+    std::unordered_map<std::string, std::size_t> m_indices; // of the first column with each token
     std::map<std::string, eOwnToken> m_ownTokens;
     std::vector<Finding> m_findings;
 };

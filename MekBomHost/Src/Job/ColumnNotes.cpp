@@ -26,6 +26,9 @@ namespace
 {
 const std::size_t kMostNamed = 5; // arbitrary: what fits in a note
 
+// Arbitrary: more than a file lacks by slips. Every column is compared with each of them.
+const std::size_t kMostLookedFor = 200;
+
 bool isKnown(const VorString& token)
 {
     return VorBomTokenCatalogue::find(token) != nullptr;
@@ -42,9 +45,9 @@ std::string joined(const std::vector<std::string>& texts, const std::string& sep
 // The columns that may have been meant to be one of the tokens, each with that token; the first few, since a note that
 // asks of ten columns is not read. A column that the catalogue knows can only have been meant for a token of the
 // author's own, which no catalogue has.
-std::vector<std::pair<const InputColumn*, std::string>> meant(const PartsList& parts,
-                                                              const std::vector<std::string>& tokens)
+std::vector<std::pair<const InputColumn*, std::string>> meant(const PartsList& parts, std::vector<std::string> tokens)
 {
+    tokens.resize(std::min(tokens.size(), kMostLookedFor));
     std::vector<std::string> allNames = tokens;
     for (std::string& name : TokenTable::names())
         allNames.push_back(std::move(name));

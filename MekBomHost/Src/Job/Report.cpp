@@ -3,6 +3,7 @@
 //   RowTally      counts rows: those that are listed and those that are merged
 //   TotalsCheck   adds up every total a second time, if that is wanted
 //   EqualLines    makes one line of those that read alike, if the template says "count"
+//   OverflowCheck looks for numbers that have become none
 //   PackedSections, which keeps what is printed
 //
 // The chain is made from its end, as each sink is given the one that it hands on to. RowTally stands in front, because
@@ -13,6 +14,7 @@
 #include "EqualLines.h"
 #include "Fault.h"
 #include "FormulaResults.h"
+#include "OverflowCheck.h"
 #include "RowTally.h"
 #include "TokenQuantities.h"
 #include "TotalsCheck.h"
@@ -94,7 +96,8 @@ void Report::evaluateRows()
 {
     std::optional<EqualLines> equalLines;
     std::optional<TotalsCheck> check;
-    VorBomSectionSink* pSink = &m_sections;
+    OverflowCheck overflows(m_template, m_sections);
+    VorBomSectionSink* pSink = &overflows;
     if (m_template.equalLines == kCountEqualLines)
         pSink = &equalLines.emplace(m_template, *pSink);
     if (m_checksTotals)
@@ -107,6 +110,9 @@ void Report::evaluateRows()
         m_facts.numRowsInOtherLines = equalLines->numRowsAdded();
     }
     m_facts.rows = tally.counts();
+    m_mistakes = overflows.findings();
+    if (equalLines)
+        m_mistakes.insert(m_mistakes.end(), equalLines->findings().begin(), equalLines->findings().end());
 }
 
 // Each row is filtered out, merged into the line of another one, or listed; of 7 rows 2 + 1 + 4 are all. A difference

@@ -75,6 +75,9 @@ public:
     // checked and one is wrong, or a row has gone nowhere.
     void evaluate();
 
+    // What evaluate() found: numbers that have become too large, and lines that were rounded into one.
+    const std::vector<Finding>& mistakes() const { return m_mistakes; }
+
     // What became of the rows, for the foot of the list; evaluate() counts them. Who knows more of them says it here.
     ListFacts& facts() { return m_facts; }
 
@@ -97,6 +100,7 @@ private:
     RowNumbers m_rowNumbers;
     PackedSections m_sections; // what was evaluated; it refers to m_template
     ListFacts m_facts;
+    std::vector<Finding> m_mistakes;
     bool m_checksTotals = false;
 };
 }

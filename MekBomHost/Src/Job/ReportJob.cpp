@@ -143,8 +143,7 @@ ExitStatus ReportJob::makeReport()
         return statusOfErrors();
     if (m_request.checksTotals)
         m_pReport->checkTotals();
-    m_pReport->evaluate();
-    checkLostTotals();
+    evaluate();
     m_pReport->facts().numWarnings = m_findings.numWarnings();
     return m_findings.numErrors() > 0 ? kMistakes : kDone;
 }
@@ -160,11 +159,15 @@ ExitStatus ReportJob::checkReport()
         checkRows();
     }
     if (hasRows() && m_findings.numErrors() == 0)
-    {
-        m_pReport->evaluate();
-        checkLostTotals();
-    }
+        evaluate();
     return m_findings.numErrors() > 0 ? statusOfErrors() : kDone;
+}
+
+void ReportJob::evaluate()
+{
+    m_pReport->evaluate();
+    takeMistakes(m_pReport->mistakes());
+    checkLostTotals();
 }
 
 // What only the author of the list can mend is another thing than a file that cannot be read.
@@ -314,9 +317,14 @@ void ReportJob::checkFilterTokens() const
 {
     for (const VorString& token : m_pReport->filterTokens())
         if (VorBomTokenCatalogue::find(token) == nullptr && m_pParts->find(Utf8::toBytes(token)) == nullptr)
-            m_pReport->failInFilter(Finding::of(FindingCodes::kNoQueryFilter, inQuotes(Utf8::toBytes(token)),
-                                                "a token of the catalogue or a column of " + m_pRecords->name()),
-                                    m_pReport->reportTemplate().queryFilter.names(token));
+        {
+            const std::string name = Utf8::toBytes(token);
+            const std::string nearest = knownTokens().nearestTo(name);
+            Finding finding = Finding::of(FindingCodes::kNoQueryFilter, inQuotes(name),
+                                          "a token of the catalogue or a column of " + m_pRecords->name());
+            finding.remedy = nearest.empty() ? "" : "did you mean " + inQuotes(nearest) + "?";
+            m_pReport->failInFilter(finding, m_pReport->reportTemplate().queryFilter.names(token));
+        }
 }
 
 // The rows change hands: the sample has to let go of them, or both would delete them. Each is one piece, as a row of a

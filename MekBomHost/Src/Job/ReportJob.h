@@ -81,6 +81,7 @@ private:
     void checkFilterTokens() const;
     void takeSampleRows();
     void noteMissingColumns();
+    void evaluate();
     void checkLostTotals();
 
     ReportRequest m_request;

@@ -4,6 +4,7 @@
 //   token "%Name", label "Profile", no unit                ->   heading()  "Profile"
 #pragma once
 
+#include "LabelUnit.h"
 #include "UnitKinds.h"
 
 #include "MekRoots/Exp/VorString.h"
@@ -18,10 +19,11 @@ struct ReportColumn
     // The label with the unit in brackets; the label as it is without a unit, and when it names the unit itself. A label
     // that names another unit of the kind, which the list does not show, gets the one that it shows:
     //   "Weight [kg]" in a list in pounds  ->  "Weight [lb]"
+    //   "Weight (kg)" in a list in pounds  ->  "Weight (lb)"
     std::string heading() const;
 
     // What the label has in brackets at its end beside the unit that the heading adds: "EUR" of "Cost [EUR] [kg]". Empty
-    // where the heading has one pair of brackets, or none.
+    // where the heading has one pair of brackets, or none. Parentheses count where a unit stands in them.
     std::string otherBrackets() const;
 
     VorString token;                    // the column's name: no other column has it unless a section shows it twice
@@ -34,5 +36,9 @@ struct ReportColumn
     bool isNumeric = false;              // it shows numbers: half of one would be another number
     bool isAlignedRight = false;         // as the template says, else numbers right and texts left
     int width = 0;                       // in characters on a terminal; 0 where the template leaves it open
+
+private:
+    // Whether what the label names is the unit that the numbers are shown in, or another one of their kind.
+    bool isOfNumbers(const LabelUnit& named) const;
 };
 }

@@ -169,16 +169,17 @@ int ReportLayout::columnFor(const VorString& token, const VorString& tupleToken,
 // The index of the column with that token; -1 when there is none.
 int ReportLayout::findColumn(const VorString& token) const
 {
-    const auto found = std::find_if(m_columns.begin(), m_columns.end(),
-                                    [&token](const ReportColumn& column) { return column.token == token; });
-    return found == m_columns.end() ? -1 : static_cast<int>(found - m_columns.begin());
+    const auto found = m_indices.find(Utf8::toBytes(token));
+    return found == m_indices.end() ? -1 : found->second;
 }
 
 int ReportLayout::addColumn(const VorString& token)
 {
     ReportColumn column;
     column.token = token;
+    const auto index = static_cast<int>(m_columns.size());
+    m_indices.emplace(Utf8::toBytes(token), index);
     m_columns.push_back(column);
-    return static_cast<int>(m_columns.size()) - 1;
+    return index;
 }
 }

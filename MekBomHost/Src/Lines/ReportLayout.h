@@ -19,6 +19,7 @@
 #include "MekRoots/Exp/VorUnitsManager.h"
 
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace mekbom
@@ -62,6 +63,7 @@ private:
     int addColumn(const VorString& token);
 
     std::vector<ReportColumn> m_columns;
+    std::unordered_map<std::string, int> m_indices; // of the first column with each token, in UTF-8
     std::vector<LevelLayout> m_levels;
 };
 }

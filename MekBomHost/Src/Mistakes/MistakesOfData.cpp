@@ -45,6 +45,11 @@ std::vector<Mistake> ofData()
         { &MistakeCodes::kHandleNotUnique, "empty or repeated object handles",
           "A line cannot be traced back to its object.", "Give each row a handle of its own.", traced(), traced(),
           handles + "A1,S235,10\nA1,S235,12\n", handles + "A1,S235,10\nA2,S235,12\n" },
+        { &MistakeCodes::kNoNumberLeft, "numbers in the data that are far too large",
+          "A total or the result of a formula passes the greatest number there is, 1.8e+308, and would be printed as "
+          "\"inf\" or \"nan\".",
+          "Mend the cells: numbers of that size are slips.", weights(), weights(),
+          head + "P1,S235,1e308\nP2,S235,1e308\n", head + "P1,S235,1e307\nP2,S235,1e307\n" },
     };
 }
 }

@@ -95,6 +95,11 @@ std::vector<Mistake> ofGrouping()
           "Write the condition into \"queryFilter\" of the template.",
           groupedBy({ "%FilterBy: %Beam , %Plate", "%GroupBy:%Material", "%SortAscBy:%Material", "%Material" }),
           groupedBy(kByMaterial, R"("queryFilter": "%Weight")") },
+        { &MistakeCodes::kTextsDifferInBlanks, "\"S355\" and \"S355 \" under a token that the list is grouped by",
+          "Texts stay as they are written: there are two groups that read alike, each with totals of its own.",
+          "Take the blanks out of the cells.", groupedList(kByMaterial, { "%PNum", "%Weight" }, kWeights),
+          groupedList(kByMaterial, { "%PNum", "%Weight" }, kWeights), kMarks + std::string("P1,S355,10\nP2,S355 ,12\n"),
+          kMarks + std::string("P1,S355,10\nP2,S355,12\n") },
     };
 }
 }

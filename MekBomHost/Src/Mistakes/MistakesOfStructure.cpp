@@ -25,6 +25,16 @@ std::string groupOf(const std::string& children, const std::string& footer = R"(
            tuplesOf(kByMaterial) + (children.empty() ? " ] }" : " ],\n        \"children\": [ " + children + " ] }") +
            ",\n      " + footer;
 }
+
+// Lengths with so many decimals.
+std::string countedLengths(int decimals)
+{
+    return groupedList(kByMaterial, { "%Name", "%Quantity", "%Length" }, {},
+                       R"("equalLines": "count", "columns": [ { "token": "%Length", "decimals": )" +
+                           std::to_string(decimals) + " } ]");
+}
+
+const char* const kLengths = "%Name,%Material,%Quantity,%Length [mm]\nM10,S235,4,9.6\nM10,S235,2,10.4\n";
 }
 
 std::vector<Mistake> ofStructure()
@@ -78,6 +88,12 @@ std::vector<Mistake> ofStructure()
         { &MistakeCodes::kFooterBesideDetails, "a footer beside the details", "It is printed after every row.",
           "Move it one level up, behind the section whose child the details are.",
           reportOf(groupOf(details + R"(, { "type": "kGroupFooter" })")), reportOf(groupOf(details)) },
+        { &MistakeCodes::kRoundedAlike, "\"equalLines\": \"count\", and numbers that are alike only as they are shown",
+          "Lines of bolts of 9.5 and of 10 mm, both shown as 3/8\", become one, and the list says of all what it says "
+          "of "
+          "the first. Numbers within a thousandth of each other count as alike.",
+          "Show the column more precisely: give it \"decimals\", or a \"unit\" such as \"mm/2\", of its own.",
+          countedLengths(0), countedLengths(1), kLengths, kLengths },
     };
 }
 }

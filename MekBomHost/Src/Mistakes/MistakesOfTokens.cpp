@@ -49,6 +49,11 @@ std::vector<Mistake> ofTokens()
         { &MistakeCodes::kWholeNumberUnderUnit, "a whole number under a token with a unit",
           withForeignRows("It is printed as it is, in the model's unit, whatever units are asked for."),
           "Hand over a number with decimals.", showing("%Length"), showing("%Length"), "", "", true },
+        { &MistakeCodes::kOtherKindThanCatalogue, "\"tokenUnits\": { \"%Length\": \"kNoUnit\" }",
+          "The model's number, in mm, is printed under whatever the label says, or as a quantity that it is not.",
+          "Take the entry out; a \"unit\" in the column shows lengths in another unit than the list.",
+          showing("%Length", R"("tokenUnits": { "%Length": "kNoUnit" })"),
+          showing("%Length", R"("tokenUnits": { "%Length": "kDistanceUnit" })") },
     };
 }
 }

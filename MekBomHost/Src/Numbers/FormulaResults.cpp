@@ -8,6 +8,7 @@
 #include "FormulaResults.h"
 
 #include "InQuotes.h"
+#include "LabelUnit.h"
 #include "MistakeCodes.h"
 #include "TokenQuantities.h"
 #include "UnitKinds.h"
@@ -15,7 +16,8 @@
 
 #include "VorBomDataToken.h"
 
-#include <cstddef>
+#include <set>
+#include <utility>
 
 namespace mekbom
 {
@@ -28,49 +30,87 @@ VorString formulaOf(const VorString& token)
     return VorBomDataToken::removeFormulaPrefix(formula) == 1 ? formula : VorString();
 }
 
-// What "tokenUnits" of the template say of a formula's text. Nothing is derived then: whoever names a formula there
-// knows what it gives.
-FormulaResult ofType(VorBomTemplateUnits::eTokenUnitType type)
+// As a column would say it.
+std::string resultOf(VorBomTemplateUnits::eTokenUnitType type)
 {
-    FormulaResult result;
-    result.measure = UnitKinds::find(type) != nullptr ? FormulaResult::kKind : FormulaResult::kPlain;
-    result.kind = type;
-    return result;
+    const UnitKind* const pKind = UnitKinds::find(type);
+    return pKind == nullptr ? FormulaResult::kDeclaredPlain : pKind->name;
 }
 
-// What columns say of formulas, by formula; of two that say something of one, the first.
-std::map<std::string, std::string> declarationsOf(const ReportTemplate& reportTemplate)
+// "length" and "distance" are one kind.
+bool areSame(const std::string& result, const std::string& other)
 {
-    std::map<std::string, std::string> declarations;
-    for (const VorBomItemBase* pSection : reportTemplate.evaluatedSections())
-        for (int i = 0; i < pSection->getData().length(); ++i)
-        {
-            const VorString formula = formulaOf(pSection->getData()[i].token().token());
-            const ColumnStyle* const pStyle = reportTemplate.styleOfTuple(*pSection, i);
-            if (formula.isEmpty() == 0 && pStyle != nullptr && !pStyle->result.empty())
-                declarations.emplace(Utf8::toBytes(formula), pStyle->result);
-        }
-    return declarations;
+    const UnitKind* const pKind = UnitKinds::find(result);
+    return result == other || (pKind != nullptr && pKind == UnitKinds::find(other));
 }
 
-// The default template comes without a file, and its tuples have no places.
-TemplatePlace placeOf(const ReportTemplate& reportTemplate, const VorBomItemBase* pSection, int tuple)
+// A plain number under a label that names a unit is one in that unit: "none" over "Total [lb]" says "lb".
+std::string resultOf(const ColumnStyle& style)
 {
-    const std::vector<TemplatePlace>& places = reportTemplate.styleOf(pSection).tuplePlaces;
-    const auto index = static_cast<std::size_t>(tuple);
-    return index < places.size() ? places[index] : TemplatePlace();
+    const LabelUnit named = LabelUnit::of(style.label);
+    return style.result == FormulaResult::kDeclaredPlain && named.pUnit != nullptr ? named.text : style.result;
+}
+
+Finding placed(Finding finding, const TemplatePlace& place)
+{
+    finding.begin = place.span.begin;
+    finding.end = place.span.end;
+    finding.path = place.path;
+    return finding;
 }
 }
 
-FormulaResults::FormulaResults(const ReportTemplate& reportTemplate) : m_declared(declarationsOf(reportTemplate))
+FormulaResults::FormulaResults(const ReportTemplate& reportTemplate)
 {
+    declareByColumns(reportTemplate);
     for (const VorBomItemBase* pSection : reportTemplate.evaluatedSections())
         for (int i = 0; i < pSection->getData().length(); ++i)
         {
             const VorString formula = formulaOf(pSection->getData()[i].token().token());
             if (formula.isEmpty() == 0)
-                add(reportTemplate, formula, placeOf(reportTemplate, pSection, i));
+                add(reportTemplate, formula, reportTemplate.placeOfTuple(*pSection, i));
         }
+}
+
+// A column that shows a formula on several levels says it once.
+void FormulaResults::declareByColumns(const ReportTemplate& reportTemplate)
+{
+    std::set<std::pair<std::string, const ColumnStyle*>> seen;
+    for (const VorBomItemBase* pSection : reportTemplate.evaluatedSections())
+        for (int i = 0; i < pSection->getData().length(); ++i)
+        {
+            const VorString formula = formulaOf(pSection->getData()[i].token().token());
+            const ColumnStyle* const pStyle = reportTemplate.styleOfTuple(*pSection, i);
+            if (formula.isEmpty() == 0 && pStyle != nullptr && !pStyle->result.empty() &&
+                seen.emplace(Utf8::toBytes(formula), pStyle).second)
+                declare(Utf8::toBytes(formula),
+                        { resultOf(*pStyle), "the column " + inQuotes(Utf8::toBytes(pStyle->token)) }, pStyle->place);
+        }
+}
+
+// That a formula has no unit does not say that its column must not call it something.
+void FormulaResults::declareByUnits(const ReportTemplate& reportTemplate, const VorString& formula)
+{
+    const std::string name = Utf8::toBytes(formula);
+    const auto entry = reportTemplate.tokenUnitPlaces.find(name);
+    if (entry == reportTemplate.tokenUnitPlaces.end())
+        return;
+    const std::string result = resultOf(reportTemplate.pTemplate->getBomTemplateUnits()->getUnitType(formula));
+    const std::string declared = declaredFor(name);
+    if (declared.empty() || result != FormulaResult::kDeclaredPlain || UnitKinds::find(declared) != nullptr)
+        declare(name, { result, "\"tokenUnits\"" }, entry->second);
+}
+
+void FormulaResults::declare(const std::string& formula, const Declaration& declaration, const TemplatePlace& place)
+{
+    const Declaration& first = m_declared.emplace(formula, declaration).first->second;
+    if (areSame(first.result, declaration.result))
+        return;
+    const auto saying = [](const Declaration& one) { return one.where + " says " + inQuotes(one.result); };
+    Finding finding = Finding::stating(MistakeCodes::kResultUndeclared,
+                                       inQuotes(formula) + ": " + saying(first) + ", and " + saying(declaration));
+    finding.remedy = "say it in one of them alone: a formula gives the same wherever it stands";
+    m_conflicts.push_back(placed(finding, place));
 }
 
 // Formulas are the same when their texts are, blanks included: so the engine tells them apart, too.
@@ -80,15 +120,9 @@ void FormulaResults::add(const ReportTemplate& reportTemplate, const VorString& 
     m_indices.findOrInsert(formula, static_cast<int>(m_entries.size()), isNew);
     if (!isNew)
         return;
-    const std::string name = Utf8::toBytes(formula);
-    if (reportTemplate.tokenUnitPlaces.count(name) > 0)
-    {
-        m_entries.push_back(
-            { formula, ofType(reportTemplate.pTemplate->getBomTemplateUnits()->getUnitType(formula)), place });
-        return;
-    }
+    declareByUnits(reportTemplate, formula);
     const auto operands = [&reportTemplate](const VorString& operand) { return operandOf(reportTemplate, operand); };
-    m_entries.push_back({ formula, FormulaResult::of(formula, operands, declaredFor(name)), place });
+    m_entries.push_back({ formula, FormulaResult::of(formula, operands, declaredFor(Utf8::toBytes(formula))), place });
 }
 
 // The catalogue comes first. What it does not know is a number of the user's own, unless the template says that it is a
@@ -114,7 +148,7 @@ const FormulaResult* FormulaResults::find(const VorString& token) const
 std::string FormulaResults::declaredFor(const std::string& formula) const
 {
     const auto declared = m_declared.find(formula);
-    return declared == m_declared.end() ? std::string() : declared->second;
+    return declared == m_declared.end() ? std::string() : declared->second.result;
 }
 
 void FormulaResults::registerWith(VorBomTemplateUnits& units) const
@@ -125,7 +159,7 @@ void FormulaResults::registerWith(VorBomTemplateUnits& units) const
 
 std::vector<Finding> FormulaResults::undeclared() const
 {
-    std::vector<Finding> findings;
+    std::vector<Finding> findings = m_conflicts;
     for (const Entry& entry : m_entries)
     {
         const bool isOpen = entry.result.measure == FormulaResult::kUndeclared;
@@ -135,10 +169,7 @@ std::vector<Finding> FormulaResults::undeclared() const
                                            inQuotes(Utf8::toBytes(entry.formula)) + ": " +
                                                (isOpen ? entry.result.what : entry.result.contradiction));
         finding.remedy = entry.result.remedy;
-        finding.begin = entry.place.span.begin;
-        finding.end = entry.place.span.end;
-        finding.path = entry.place.path;
-        findings.push_back(finding);
+        findings.push_back(placed(finding, entry.place));
     }
     return findings;
 }

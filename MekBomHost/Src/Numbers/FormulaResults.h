@@ -9,7 +9,8 @@
 //   results.undeclared();                                          // one finding, about %Length/1000
 //
 // One formula gives one result wherever it stands: what the column of its details says holds for its totals, in
-// whatever column these are. Kinds that "tokenUnits" of the template name for a formula's text count as said, too.
+// whatever column these are. Kinds that "tokenUnits" of the template name for a formula's text count as said, too. Two
+// that say something else of one formula are an error.
 #pragma once
 
 #include "Finding.h"
@@ -38,7 +39,7 @@ public:
     // Of "%Formula:..." or its total; null for any other token and for a formula that the template has not.
     const FormulaResult* find(const VorString& token) const;
 
-    // What a column says that the formula gives, by the text without prefixes; empty where none does.
+    // What a column or "tokenUnits" says that the formula gives, by the text without prefixes; empty where none does.
     std::string declaredFor(const std::string& formula) const;
 
     // Tells the engine, so that it shows each formula in the unit of its kind, or without any. A formula whose measure
@@ -46,7 +47,7 @@ public:
     void registerWith(VorBomTemplateUnits& units) const;
 
     // The errors of the formulas whose measure neither follows from their tokens nor is said, and of those that are said
-    // to be what they cannot be: each with its place in the template, without the name of the file.
+    // to be what they cannot be, or two things: each with its place in the template, without the name of the file.
     std::vector<Finding> undeclared() const;
 
 private:
@@ -57,10 +58,21 @@ private:
         TemplatePlace place; // of the first tuple that shows it
     };
 
+    // What somebody says that a formula gives.
+    struct Declaration
+    {
+        std::string result; // "weight", "none", "EUR"
+        std::string where;  // "the column "%Cost"", "tokenUnits"
+    };
+
+    void declareByColumns(const ReportTemplate& reportTemplate);
+    void declareByUnits(const ReportTemplate& reportTemplate, const VorString& formula);
+    void declare(const std::string& formula, const Declaration& declaration, const TemplatePlace& place);
     void add(const ReportTemplate& reportTemplate, const VorString& formula, const TemplatePlace& place);
 
     std::vector<Entry> m_entries;                  // as the sections name them
     VorStringHashMap<int> m_indices;               // by formula
-    std::map<std::string, std::string> m_declared; // what columns say, by formula
+    std::map<std::string, Declaration> m_declared; // by formula; of several the first
+    std::vector<Finding> m_conflicts;              // of those that say something else
 };
 }

@@ -3,9 +3,10 @@
 // below the weights, in column "%Weight", and "%GroupBy:%Name" only steers and stands nowhere.
 #include "ReportTemplate.h"
 
+#include "Utf8.h"
+
 #include "VorBomDataToken.h"
 
-#include <algorithm>
 #include <cstddef>
 
 namespace mekbom
@@ -35,17 +36,29 @@ VorString ReportTemplate::columnTokenOf(const VorBomItemBase& section, int tuple
     return summed;
 }
 
+bool ReportTemplate::addColumn(const ColumnStyle& style)
+{
+    columns.push_back(style);
+    return m_columnIndices.emplace(Utf8::toBytes(style.token), columns.size() - 1).second;
+}
+
 const ColumnStyle* ReportTemplate::columnStyleOf(const VorString& columnToken) const
 {
-    const auto found = std::find_if(columns.begin(), columns.end(),
-                                    [&columnToken](const ColumnStyle& column) { return column.token == columnToken; });
-    return found == columns.end() ? nullptr : &*found;
+    const auto found = m_columnIndices.find(Utf8::toBytes(columnToken));
+    return found == m_columnIndices.end() ? nullptr : &columns[found->second];
 }
 
 const ColumnStyle* ReportTemplate::styleOfTuple(const VorBomItemBase& section, int tupleIndex) const
 {
     const VorString column = columnTokenOf(section, tupleIndex);
     return column.isEmpty() == 1 ? nullptr : columnStyleOf(column);
+}
+
+TemplatePlace ReportTemplate::placeOfTuple(const VorBomItemBase& section, int tupleIndex) const
+{
+    const SectionStyle& style = styleOf(&section);
+    const auto index = static_cast<std::size_t>(tupleIndex);
+    return index < style.tuplePlaces.size() ? style.tuplePlaces[index] : style.place;
 }
 
 // Sections hang in the template as the engine wants them: each header has the next inner one for its child, and its

@@ -15,6 +15,7 @@
 #include "VorBomTemplate.h"
 #include "VorBomTemplateItem.h"
 
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <string>
@@ -98,7 +99,7 @@ struct ReportTemplate
     std::string title;     // UTF-8
     RowFilter queryFilter; // which rows the list is about
     TemplatePlace queryFilterPlace;
-    std::vector<ColumnStyle> columns; // in the order of the table; columns not named here follow
+    std::vector<ColumnStyle> columns; // in the order of the table; columns not named here follow. See addColumn()
     eEqualLines equalLines = kEqualLinesOpen;
     std::map<std::string, std::string> allowed; // mistakes that the template excuses, by code, with the reason
     std::map<std::string, eOwnToken> ownTokens; // what the template says of tokens that the catalogue does not know
@@ -107,6 +108,9 @@ struct ReportTemplate
 
     // The style of a section of pTemplate; the usual one for a section without.
     const SectionStyle& styleOf(const VorBomItemBase* pSection) const;
+
+    // Appends a column to those above. False when there is one with its token, which stays the one that is found.
+    bool addColumn(const ColumnStyle& style);
 
     // The column that shows a section's tuple: the one the file names for it, else the one that has its very token,
     // else the column of what it sums. Empty for a tuple that steers the evaluation and is not shown.
@@ -120,6 +124,9 @@ struct ReportTemplate
     // The same for one of a section's tuples; null for one that steers the evaluation, too.
     const ColumnStyle* styleOfTuple(const VorBomItemBase& section, int tupleIndex) const;
 
+    // Where one of a section's tuples stands in the file; an empty place in a template without a file.
+    TemplatePlace placeOfTuple(const VorBomItemBase& section, int tupleIndex) const;
+
     // The sections that are evaluated, as those of one group come: headers from the outside in, then footers from the
     // inside out.
     std::vector<const VorBomItemBase*> evaluatedSections() const;
@@ -130,5 +137,8 @@ struct ReportTemplate
 
     // Whether the section has a line in the table: a printed one that shows a tuple or a label.
     bool hasLine(const VorBomItemBase& section) const;
+
+private:
+    std::unordered_map<std::string, std::size_t> m_columnIndices; // by token, in UTF-8
 };
 }

@@ -190,11 +190,9 @@ void TemplateReader::readColumn(const JsonItem& column)
     style.result = m_json.textOf(column, "result");
     style.isHidden = m_json.booleanOf(column, "hidden", false);
     style.place = { column.path, column.node.span };
-    for (const ColumnStyle& other : m_template.columns)
-        if (other.token == style.token)
-            m_json.add(column, Finding::of(FindingCodes::kColumnDescribedTwice,
-                                           "column " + inQuotes(token) + " a second time"));
-    m_template.columns.push_back(style);
+    if (!m_template.addColumn(style))
+        m_json.add(column,
+                   Finding::of(FindingCodes::kColumnDescribedTwice, "column " + inQuotes(token) + " a second time"));
 }
 
 // Goes down as deep as the sections are nested, which JsonReader::kDeepest bounds.

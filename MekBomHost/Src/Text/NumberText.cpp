@@ -16,7 +16,7 @@ namespace mekbom
 {
 namespace
 {
-const double kFirstWithExponent = 1e15;
+const double kMostInFull = 9007199254740992.0; // 2^53: up to here a double has every whole number
 const std::size_t kGroupSize = 3;
 
 // The shortest text that identifies the number.
@@ -31,7 +31,7 @@ std::string shortestText(Number number, std::chars_format format)
 // True for what is no number, too: no comparison with it holds.
 bool hasExponent(double number)
 {
-    return !(std::fabs(number) < kFirstWithExponent);
+    return !(std::fabs(number) <= kMostInFull);
 }
 
 // std::to_chars alone would take the shorter of both ways of writing, "1e+06" for a million.
@@ -39,7 +39,7 @@ template <class Number>
 std::string readableText(Number number)
 {
     const Number size = std::fabs(number);
-    const bool isPlain = size == 0 || (size >= Number(1e-5) && size < Number(kFirstWithExponent));
+    const bool isPlain = size == 0 || (size >= Number(1e-5) && size <= Number(kMostInFull));
     return shortestText(number, isPlain ? std::chars_format::fixed : std::chars_format::scientific);
 }
 

@@ -5,7 +5,8 @@
 
 namespace mekbom
 {
-// The shortest text that identifies the number, without an exponent from a hundred-thousandth to below 1e15.
+// The shortest text that identifies the number, without an exponent from a hundred-thousandth to 2^53, the last up to which a
+// double has every whole number.
 //   numberText(1e6)    ->  "1000000"
 //   numberText(0.1)    ->  "0.1"
 //   numberText(1e-6)   ->  "1e-06"
@@ -26,7 +27,7 @@ struct NumberStyle
 };
 
 // The number in full: rounded to the decimals of the style, half away from zero, as its shortest decimal text has it.
-// From 1e15 on it has an exponent; what rounds to zero has no sign; and what is no number is "inf", "-inf" or "nan".
+// Beyond 2^53 it has an exponent; what rounds to zero has no sign; and what is no number is "inf", "-inf" or "nan".
 //   listedText(1234567.89, NumberStyle())       ->  "1234567.89"
 //   listedText(0.1 + 0.2, { 1, false, false })  ->  "0.3"
 //   listedText(2.675, { 2, false, false })      ->  "2.68"

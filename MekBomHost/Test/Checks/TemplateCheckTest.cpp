@@ -178,6 +178,22 @@ TEST(TemplateCheckTest, AnEntryOfTokenUnitsMustNameATokenOfTheList)
                           R"("tokenUnits": { "%Weight*2": "kWeightUnit" })"));
 }
 
+TEST(TemplateCheckTest, AnEntryOfTokenUnitsNamesAFormulaByItsTextAlone)
+{
+    for (const std::string prefix : { "%Formula:", "%SumBy:%Formula:" })
+        EXPECT_EQ("MB501", codesIn(kByMaterial, { "%PNum", "%Formula:%Weight*2" }, { "%SumBy:%Formula:%Weight*2" },
+                                   R"("tokenUnits": { ")" + prefix + R"(%Weight*2": "kDistanceUnit" })"));
+}
+
+// Kilograms stood under the author's "Mass [lb]".
+TEST(TemplateCheckTest, AnEntryOfTokenUnitsMustNotDenyTheKindOfATokenOfTheCatalogue)
+{
+    for (const std::string entry : { R"("%Weight": "kNoUnit")", R"("%Weight": "kDistanceUnit")",
+                                     R"("%Weight": "kReservedUnitType")", R"("%SumBy:%Weight": "kNoUnit")" })
+        EXPECT_EQ("MB507", codesIn(kByMaterial, kParts, kWeights, "\"tokenUnits\": { " + entry + " }")) << entry;
+    EXPECT_EQ("", codesIn(kByMaterial, kParts, kWeights, R"("tokenUnits": { "%Weight": "kWeightUnit" })"));
+}
+
 TEST(TemplateCheckTest, TheTokenWithTwoPercentSignsIsNone)
 {
     EXPECT_EQ("", codesInDetails({ "%PNum", "%%PaintMeter" }));
@@ -218,6 +234,51 @@ TEST(TemplateCheckTest, WhatRowsShareIsAddedByEachOfThem)
     EXPECT_EQ("MB308", codesIn(kByMaterial, { "%PNum", "%Formula:%AssemblyWeight*%MQuantity" },
                                { "%SumBy:%Formula:%AssemblyWeight*%MQuantity" }));
     EXPECT_EQ("", codesInFooter({ "%SumBy:%Weight", "%SumBy:%Quantity" }));
+}
+
+// Whatever was shared, the weight was recommended.
+TEST(TemplateCheckTest, WhatRowsShareIsReplacedByWhatEachHasOfIt)
+{
+    const auto remedyFor = [](const std::string& token)
+    {
+        const std::vector<Finding> mistakes = mistakesIn(groupedList(kByMaterial, kParts, { "%SumBy:" + token }));
+        return mistakes.size() == 1 ? mistakes[0].remedy : codesOf(mistakes);
+    };
+    const std::string inHeader = " in the header of its group instead";
+    const std::string own = inHeader + ", or sum what is the row's own: \"%SumBy:";
+
+    EXPECT_EQ("show \"%AssemblyWeight\"" + own + "%Formula:%Weight*%Quantity\"", remedyFor("%AssemblyWeight"));
+    EXPECT_EQ("show \"%AssemblyExactWeight\"" + own + "%Formula:%ExactWeight*%Quantity\"",
+              remedyFor("%AssemblyExactWeight"));
+    EXPECT_EQ("show \"%SawLengthInModel\"" + own + "%Formula:%SawLength*%Quantity\"", remedyFor("%SawLengthInModel"));
+    EXPECT_EQ("show \"%PaintInAssembly\"" + own + "%Formula:%Paint*%Quantity\"", remedyFor("%PaintInAssembly"));
+    EXPECT_EQ("show \"%QuantityInAllAssemblyInPhase\"" + own + "%Quantity\"",
+              remedyFor("%QuantityInAllAssemblyInPhase"));
+    EXPECT_EQ("show \"%MQuantityInPhase\"" + own + "%Formula:%IsMP*%Quantity\"", remedyFor("%MQuantityInPhase"));
+}
+
+TEST(TemplateCheckTest, WithoutDataNobodyIsToldWhatRowsHave)
+{
+    const std::string list = groupedList(kByMaterial, { "%PNum", "%posNum" }, kWeights);
+
+    EXPECT_EQ("no token \"%posNum\" is known: neither the catalogue nor the template has it, and the template's own "
+              "value is taken everywhere",
+              mistakesIn(list)[0].statement);
+    EXPECT_EQ("no token \"%posNum\" is known: no row has it, and the template's own value is taken everywhere",
+              mistakesIn(list, { "%PNum" })[0].statement);
+}
+
+// Thousands of unknown tokens in a list, and as many columns in the data, took minutes.
+TEST(TemplateCheckTest, AfterAHundredUnknownTokensNobodyIsAskedWhatTheyMean)
+{
+    Tuples details = { "%PNum" };
+    for (int i = 0; i <= 100; ++i)
+        details.push_back("%Wieght");
+    const std::vector<Finding> mistakes = mistakesIn(groupedList(kByMaterial, details, kWeights));
+
+    ASSERT_EQ(101u, mistakes.size());
+    EXPECT_EQ("did you mean \"%Weight\"?", mistakes[99].remedy);
+    EXPECT_EQ(0u, mistakes[100].remedy.find("declare a token of your own: "));
 }
 
 TEST(TemplateCheckTest, AFormulaMayGiveTheAssemblyToOneOfItsRows)

@@ -94,6 +94,27 @@ TEST(EqualLinesTest, AFormulaThatDoesNotGrowWithThePiecesTellsLinesApart)
                                                      "%PNum,%Quantity,%Material\nP1,2,S235\nP1,2,S235\nP1,1,S235\n"));
 }
 
+// Bolts of 9.5 and of 10 mm became one line, and nobody was told.
+TEST(EqualLinesTest, NumbersThatRoundingAloneMakesAlikeAreToldOncePerColumn)
+{
+    const std::string list = countingList(kPieces + R"(, { "token": "%Diameter" })");
+    const auto told = [&list](const std::string& rows)
+    {
+        const std::unique_ptr<Report> pReport =
+            reportOf(list, "%PNum,%Quantity,%Diameter,%Material\n" + rows, VorUnitsManager::imperial());
+        pReport->evaluate();
+        std::string text;
+        for (const Finding& finding : pReport->mistakes())
+            text += finding.code + " " + finding.path + ": " + finding.statement + "\n";
+        return text;
+    };
+
+    EXPECT_EQ("MB110 /sections/0/children/0/children/0/tuples/2/token: lines with 9.5 mm and 10 mm are counted as one: "
+              "both are shown as \"3/8\"\"\n",
+              told("M6,1,6,S235\nM,1,9.5,S235\nM,1,10,S235\nM,1,9.5,S235\nM,1,10,S235\n"));
+    EXPECT_EQ("", told("M,1,9.5,S235\nM,1,9.500001,S235\nM,1,20,S235\nM,1,10,S355\n"));
+}
+
 TEST(EqualLinesTest, WhatStandsInPlaceOfAMissingNumberHasToReadAlike)
 {
     const std::string details = R"({ "token": "%PNum" }, { "token": "%Formula:%Weight*%Quantity", "value": "none" })";

@@ -77,6 +77,19 @@ TEST(DimensionTest, NumbersOfTheUsersOwnAreLikeThemselvesAlone)
     EXPECT_FALSE(product(kWeight, kPrice).isFreeOfUnits());
 }
 
+// Each division by a longer quotient turned all powers of that round, one by one.
+TEST(DimensionTest, OwnNumbersMayBeDividedByManyOfThem)
+{
+    const Dimension rate = Dimension::ofOwnNumber("%Rate");
+    const Dimension nested = quotient(kPrice, quotient(kHours, quotient(rate, kWeight))); // %Price * %Rate / ...
+
+    EXPECT_EQ("%Price x %Rate / weight / %Hours", nested.text());
+    EXPECT_TRUE(nested.isSameProduct(quotient(product(kPrice, rate), product(kWeight, kHours))));
+    EXPECT_FALSE(nested.isSameProduct(quotient(product(kPrice, kHours), product(kWeight, rate))));
+    EXPECT_FALSE(nested.isSameProduct(quotient(kPlain, nested)));
+    EXPECT_TRUE(product(nested, quotient(kPlain, nested)).isPlain());
+}
+
 TEST(DimensionTest, TheTextNamesTheKindOrThePowers)
 {
     EXPECT_EQ("a number without unit", kPlain.text());

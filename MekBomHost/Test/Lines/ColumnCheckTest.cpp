@@ -81,7 +81,9 @@ TEST(ColumnCheckTest, ALabelMustNotNameAUnitOfAnotherKind)
     EXPECT_EQ("MB421 list.json:1:16: error MB421: the label \"Weight [m]\" names m, but the numbers are weight; "
               "help: leave the brackets out: the heading names the unit\n",
               errorsOf(R"({ "token": "%Weight", "label": "Weight [m]" })", "%Weight"));
-    for (const std::string label : { "Weight [lb]", "Weight [net]", "Weight" })
+    const std::string inParentheses = "Weight (m)";
+    EXPECT_NE("", errorsOf(R"({ "token": "%Weight", "label": ")" + inParentheses + R"(" })", "%Weight"));
+    for (const std::string label : { "Weight [lb]", "Weight [net]", "Weight", "Weight (kg)", "Weight (net)" })
         EXPECT_EQ("", errorsOf(R"({ "token": "%Weight", "label": ")" + label + R"(" })", "%Weight")) << label;
 }
 

@@ -39,6 +39,16 @@ TEST(ReportColumnTest, HeadingsNameNoUnitButTheOneShown)
     EXPECT_EQ("] [lb]", headingOf("]", "lb", "weight"));
 }
 
+// "Weight (kg) [lb]" named two.
+TEST(ReportColumnTest, UnitsInParenthesesAreThoseShownToo)
+{
+    EXPECT_EQ("Weight (lb)", headingOf("Weight (kg)", "lb", "weight"));
+    EXPECT_EQ("Weight (kg)", headingOf("Weight (kg)", "kg", "weight"));
+    EXPECT_EQ("Cost (EUR)", headingOf("Cost (EUR)", "EUR"));
+    EXPECT_EQ("Weight (net) [lb]", headingOf("Weight (net)", "lb", "weight"));
+    EXPECT_EQ("Length (m) [lb]", headingOf("Length (m)", "lb", "weight"));
+}
+
 TEST(ReportColumnTest, BracketsThatAreNoUnitOfTheNumbersAreFoundInTheLabel)
 {
     const auto otherBracketsOf = [](const std::string& label, const std::string& unitSymbol, const char* kind)
@@ -52,6 +62,9 @@ TEST(ReportColumnTest, BracketsThatAreNoUnitOfTheNumbersAreFoundInTheLabel)
 
     EXPECT_EQ("EUR", otherBracketsOf("Cost [EUR]", "kg", "weight"));
     EXPECT_EQ("m", otherBracketsOf("Weight [m]", "kg", "weight"));
+    EXPECT_EQ("m", otherBracketsOf("Weight (m)", "kg", "weight"));
+    EXPECT_EQ("", otherBracketsOf("Weight (t)", "kg", "weight"));
+    EXPECT_EQ("", otherBracketsOf("Weight (net)", "kg", "weight"));
     EXPECT_EQ("", otherBracketsOf("Weight [lb]", "kg", "weight"));
     EXPECT_EQ("", otherBracketsOf("Weight", "kg", "weight"));
     EXPECT_EQ("", otherBracketsOf("Cost [EUR]", "EUR", ""));

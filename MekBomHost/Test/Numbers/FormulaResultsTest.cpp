@@ -102,6 +102,57 @@ TEST(FormulaResultsTest, UnitsOfTheTemplateForAFormulaCountAsSaid)
     EXPECT_EQ(VorBomTemplateUnits::kWeightUnit, FormulaResults(list).find(L"%Formula:%Width*7.85")->kind);
 }
 
+// The formula printed as a length, and nobody was told.
+TEST(FormulaResultsTest, UnitsOfTheTemplateMustNotContradictAFormulasTokens)
+{
+    const char* const kPieces = R"({ "token": "%Formula:%Weight*%Quantity" })";
+
+    EXPECT_EQ("MB421 /sections/0/children/0/tuples/0/token: \"%Weight*%Quantity\": is weight, declared as length\n",
+              undeclaredIn(templateOf(R"("tokenUnits": { "%Weight*%Quantity": "kDistanceUnit" },)", kPieces)));
+    EXPECT_EQ("", undeclaredIn(templateOf(R"("tokenUnits": { "%Weight*%Quantity": "kWeightUnit" },)", kPieces)));
+}
+
+// The first one won, and the other column's heading was wrong.
+TEST(FormulaResultsTest, TwoThatSaySomethingElseOfOneFormulaAreAnError)
+{
+    const std::string details = R"({ "token": "%Formula:%Weight*%Price", "column": "%Cost" })";
+    const std::string total = R"({ "token": "%SumBy:%Formula:%Weight*%Price", "column": "%Sum" })";
+    const auto told = [&](const std::string& ofCost, const std::string& ofSum, const std::string& units = "")
+    {
+        return undeclaredIn(templateOf(R"("columns": [ { "token": "%Cost", "result": ")" + ofCost +
+                                           R"(" }, { "token": "%Sum", "result": ")" + ofSum + "\" } ]," + units,
+                                       details, total));
+    };
+
+    EXPECT_EQ("MB421 /columns/1: \"%Weight*%Price\": the column \"%Cost\" says \"EUR\", and the column \"%Sum\" says "
+              "\"USD\"\n",
+              told("EUR", "USD"));
+    EXPECT_EQ("MB421 /tokenUnits/%Weight*%Price: \"%Weight*%Price\": the column \"%Cost\" says \"EUR\", and "
+              "\"tokenUnits\" says \"weight\"\n",
+              told("EUR", "EUR", R"("tokenUnits": { "%Weight*%Price": "kWeightUnit" },)"));
+    EXPECT_EQ("", told("EUR", "EUR", R"("tokenUnits": { "%Weight*%Price": "kNoUnit" },)"));
+    EXPECT_EQ("", told("length", "distance"));
+}
+
+// Kilograms stood under "Total [lb]".
+TEST(FormulaResultsTest, APlainNumberIsInTheUnitThatItsLabelNames)
+{
+    const auto told = [](const std::string& label)
+    {
+        return undeclaredIn(templateOf(R"("columns": [ { "token": "%Formula:%Weight*%Quantity", "result": "none",
+                                                         "label": ")" +
+                                           label + R"(" } ],)",
+                                       R"({ "token": "%Formula:%Weight*%Quantity" })"));
+    };
+
+    EXPECT_EQ("MB421 /sections/0/children/0/tuples/0/token: \"%Weight*%Quantity\": gives weight, but no number of "
+              "\"lb\"\n",
+              told("Total [lb]"));
+    EXPECT_EQ("", told("Total [kg]"));
+    EXPECT_EQ("", told("Total [net]"));
+    EXPECT_EQ("", told("Total"));
+}
+
 TEST(FormulaResultsTest, TheEngineIsToldTheKindsAndThatThereIsNone)
 {
     const ReportTemplate list =

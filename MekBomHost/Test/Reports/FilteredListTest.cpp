@@ -77,6 +77,7 @@ TEST(FilteredListTest, ATokenThatNobodyKnowsIsAMistakeWhereverItStands)
     EXPECT_EQ(
         0U, inOption.errors.find("mekbom: --where: found \"%Materal\", expected a token of the catalogue or a column"))
         << inOption.errors;
+    EXPECT_NE(std::string::npos, inOption.errors.find("did you mean \"%Material\"?")) << inOption.errors;
 
     const ProgramRun inTemplate = list("\"queryFilter\": \"!%Lenght\",", {});
     EXPECT_EQ(3, inTemplate.status);
@@ -84,6 +85,7 @@ TEST(FilteredListTest, ATokenThatNobodyKnowsIsAMistakeWhereverItStands)
               withoutFolder(inTemplate.errors)
                   .find("mekbom: list.json:1:18: /queryFilter: found \"%Lenght\", expected a token of the catalogue"))
         << inTemplate.errors;
+    EXPECT_NE(std::string::npos, inTemplate.errors.find("did you mean \"%Length\"?")) << inTemplate.errors;
 }
 
 // That no row has a coating is no mistake: the list is empty, and says why.

@@ -20,9 +20,19 @@ TEST(NumberTextTest, NumbersOfAnOrdinarySizeHaveNoExponent)
 
 TEST(NumberTextTest, LargeAndSmallNumbersHaveOne)
 {
-    EXPECT_EQ("1e+15", numberText(1e15));
+    EXPECT_EQ("9.007199254740994e+15", numberText(9007199254740994.0));
     EXPECT_EQ("1.601846337396014e-08", numberText(1.601846337396014e-08));
     EXPECT_EQ("-1.7976931348623157e+308", numberText(-1.7976931348623157e308));
+}
+
+// They printed as 1e+15 and 9.007199254740991e+15.
+TEST(NumberTextTest, WholeNumbersAreInFullAsFarAsADoubleHasThemAll)
+{
+    EXPECT_EQ("1000000000000000", numberText(1e15));
+    EXPECT_EQ("9007199254740991", listedText(9007199254740991.0, NumberStyle()));
+    EXPECT_EQ("9 007 199 254 740 992", listedText(9007199254740992.0, { NumberStyle::kAllDecimals, false, true }));
+    EXPECT_EQ("-9007199254740992.00", listedText(-9007199254740992.0, { 2, true, false }));
+    EXPECT_EQ("9007199254740992", singleText(9007199254740992.0F));
 }
 
 TEST(NumberTextTest, SinglePrecisionTakesFewerDigits)
@@ -42,7 +52,7 @@ TEST(NumberTextTest, ListsShowNumbersInFull)
     EXPECT_EQ("0.00000785", listedText(0.00000785, plain));
     EXPECT_EQ("4", listedText(4.0, plain));
     EXPECT_EQ("0", listedText(-0.0, plain));
-    EXPECT_EQ("1e+15", listedText(1e15, plain));
+    EXPECT_EQ("9.007199254740994e+15", listedText(9007199254740994.0, plain));
     EXPECT_EQ("-1.5e+20", listedText(-1.5e20, plain));
     EXPECT_EQ(std::string::npos, listedText(std::numeric_limits<double>::denorm_min(), plain).find('e'));
 }

@@ -12,8 +12,6 @@
 
 #include "MekRoots/Exp/VorArray.h"
 
-#include <algorithm>
-
 namespace mekbom
 {
 namespace
@@ -26,11 +24,12 @@ bool isNumber(const VorBomDataTuple* pTuple)
 
 OperandRule::OperandRule(const CheckedTuple& formula) : m_formula(formula)
 {
+    VorStringHashMap<int> seen;
     for (const VorString& token : VorBomDataToken::getTokensFromFormula(Utf8::toWide(formula.request.subject)))
     {
-        const bool isThere = std::any_of(m_operands.begin(), m_operands.end(),
-                                         [&token](const Operand& operand) { return operand.datum.token() == token; });
-        if (!isThere && !isNumber(formula.pSection->getTupleAt(token)))
+        bool isNew = false;
+        seen.findOrInsert(token, 0, isNew);
+        if (isNew && !isNumber(formula.pSection->getTupleAt(token)))
             m_operands.push_back({ DatumFinder(token), 0 });
     }
 }

@@ -5,11 +5,13 @@
 //   PiecesRule        one for each total of values of one piece
 //   OperandRule       one for each formula of a header or of the details
 //   MarkRule          one for each token that rows are sorted by in natural order
+//   BlankRule         one for each token that rows are grouped by and that may be a text
 //   PlainOrderRule    one for each token of which nobody says how rows are sorted by it
 //   WholeNumberRule   one for each tuple that shows a token with a unit
 //   RowOriginRule     one: it is about the rows alone
 #include "RowsCheck.h"
 
+#include "BlankRule.h"
 #include "CheckedTemplate.h"
 #include "GroupingRules.h"
 #include "MarkRule.h"
@@ -81,6 +83,14 @@ void addMarkRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& 
                 rules.push_back(std::make_unique<MarkRule>(*pTuple, element.token));
 }
 
+void addBlankRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
+{
+    for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kGroup))
+        for (const TokenRequest::Element& element : pTuple->request.elements)
+            if (!pTuple->isFooter && !list.isDeepest(pTuple->level) && !tokens.isNumeric(element.token))
+                rules.push_back(std::make_unique<BlankRule>(*pTuple, element.token));
+}
+
 void addPlainOrderRules(Rules& rules, const CheckedTemplate& list, const KnownTokens& tokens)
 {
     for (const SortKey& key : sortKeysOfOpenOrder(list, tokens))
@@ -110,6 +120,7 @@ std::vector<Finding> run(const ReportTemplate& reportTemplate, const KnownTokens
     addPiecesRules(rules, list, tokens);
     addOperandRules(rules, list);
     addMarkRules(rules, list, tokens);
+    addBlankRules(rules, list, tokens);
     addPlainOrderRules(rules, list, tokens);
     addWholeNumberRules(rules, list, tokens);
     rules.push_back(std::make_unique<RowOriginRule>());

@@ -231,4 +231,33 @@ TEST_F(RowsCheckTest, AColumnOfNumbersIsSortedAsNumbers)
     EXPECT_NE(std::string::npos, linesOf(check()).find("warning MB211: \"%SortAscBy:%Gap\" sorts by %Gap")) << "texts";
     EXPECT_NE(std::string::npos, linesOf(check()).find("texts such as \"9a\" come in plain order"));
 }
+
+// Two groups of the same name, without a word.
+TEST_F(RowsCheckTest, TextsOfGroupsThatDifferInBlanksAloneAreToldOnce)
+{
+    const Tuples byMaterial = { "%GroupBy:%Material", "%SortAscBy:%Material", "%Material" };
+    for (const wchar_t* const padded : { L"S355 ", L" S355", L"\tS355\r\n" })
+        for (const bool isPaddedFirst : { true, false })
+        {
+            use(byMaterial, kLine, kTotal);
+            addPart(L"P1", isPaddedFirst ? padded : L"S355", 1);
+            addPart(L"P2", L"S235", 1);
+            addPart(L"P3", isPaddedFirst ? L"S355" : padded, 1);
+            addPart(L"P4", L"S355", 1);
+            EXPECT_EQ("MB215", codesOf(check())) << isPaddedFirst;
+        }
+
+    use(byMaterial, kLine, kTotal);
+    addPart(L"P1", L"S355 ", 1);
+    addPart(L"P2", L"S235 ", 1);
+    addPart(L"P3", L"S355 J2", 1);
+    EXPECT_EQ("", codesOf(check())) << "no two of them read alike";
+
+    addPart(L"P4", L" S355", 1);
+    ASSERT_EQ("MB215", codesOf(check()));
+    EXPECT_EQ(
+        "%Material has \"S355 \" and \" S355\", which differ in blanks alone: they are two groups that read alike",
+        check()[0].statement);
+}
+
 }
