@@ -16,6 +16,7 @@
 #include "VorBomTemplate.h"
 
 #include <algorithm>
+#include <set>
 
 namespace mekbom
 {
@@ -201,14 +202,14 @@ void TokenRules::findVaryingTokens()
 // once "tokenUnits" says that it is a length. It stands at the first tuple that shows or sums the token.
 void TokenRules::findNumbersWithoutUnit()
 {
-    for (const auto& [token, kind] : m_list.file().ownTokens)
+    std::set<std::string> seen; // a token is told of once, at the first tuple that asks for it
+    for (const CheckedTuple& tuple : m_list.tuples())
     {
-        const auto isShownHere = [&name = token](const CheckedTuple& tuple)
-        { return tuple.request.subject == name && tuple.request.kind != TokenRequest::kFormula; };
-        const std::vector<CheckedTuple>& tuples = m_list.tuples();
-        const auto shown = std::find_if(tuples.begin(), tuples.end(), isShownHere);
-        if (kind == kOwnNumber && shown != tuples.end() && !m_tokens.hasUnit(token))
-            m_mistakes.add(MistakeCodes::kNumberWithoutUnit, *shown,
+        const std::string& token = tuple.request.subject;
+        const auto own = m_list.file().ownTokens.find(token);
+        if (own != m_list.file().ownTokens.end() && own->second == kOwnNumber &&
+            tuple.request.kind != TokenRequest::kFormula && seen.insert(token).second && !m_tokens.hasUnit(token))
+            m_mistakes.add(MistakeCodes::kNumberWithoutUnit, tuple,
                            token + " is a number of your own without a unit: it is printed as it is, whatever units "
                                    "are asked for",
                            "give it a kind if it measures something: \"tokenUnits\": { " + inQuotes(token) +

@@ -207,7 +207,7 @@ void Derivation::settle(const Term& term)
 {
     const std::string hidden = term.factors.hiddenUnitOf(term.dimension);
     if (!hidden.empty())
-        note(FormulaResult::kHiddenUnit, [&] { return hidden; });
+        note(FormulaResult::kHiddenUnit, [&]() -> const std::string& { return hidden; });
 }
 
 // The first reason is the one that a reader of the formula meets first; those behind it mostly follow from it. Its words

@@ -113,12 +113,17 @@ bool JsonChecker::booleanOf(const JsonItem& object, const std::string& key, bool
 int JsonChecker::choiceOf(const JsonItem& object, const std::string& key, const std::vector<std::string>& names)
 {
     const JsonNode* const pNode = object.node.find(key);
-    if (pNode == nullptr || !isOfKind(memberOf(object, key, *pNode), JsonNode::kText))
+    return pNode == nullptr ? -1 : choiceOf(memberOf(object, key, *pNode), names);
+}
+
+int JsonChecker::choiceOf(const JsonItem& item, const std::vector<std::string>& names)
+{
+    if (!isOfKind(item, JsonNode::kText))
         return -1;
-    const auto found = std::find(names.begin(), names.end(), pNode->text);
+    const auto found = std::find(names.begin(), names.end(), item.node.text);
     if (found != names.end())
         return static_cast<int>(found - names.begin());
-    add(memberOf(object, key, *pNode), noneOf(names, FindingCodes::kNameUnknown, "", pNode->text));
+    add(item, noneOf(names, FindingCodes::kNameUnknown, "", item.node.text));
     return -1;
 }
 

@@ -45,6 +45,9 @@ public:
     //   { "align": "right" }, names "left" and "right"   gives 1
     int choiceOf(const JsonItem& object, const std::string& key, const std::vector<std::string>& names);
 
+    // The same of a value at hand, such as each member of an object in turn; -1, with a finding, when it is none of them.
+    int choiceOf(const JsonItem& item, const std::vector<std::string>& names);
+
     // The elements of an array, reached as "/columns/0", "/columns/1"; none when the member is missing or, with a
     // finding, no array.
     std::vector<JsonItem> elementsOf(const JsonItem& object, const std::string& key);

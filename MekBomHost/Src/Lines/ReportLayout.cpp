@@ -32,15 +32,11 @@ std::string labelOf(const VorString& token)
     return Utf8::toBytes(label);
 }
 
-bool holds(const std::vector<int>& columns, int column)
-{
-    return std::find(columns.begin(), columns.end(), column) != columns.end();
-}
-
 // A header "HEA200" and its total "4" read as one line; two numbers in one column, or two labels, would not fit.
 bool canShareLine(const SectionLayout& header, const SectionLayout& footer)
 {
-    const auto isShownByFooter = [&footer](int column) { return holds(footer.columns, column); };
+    const std::set<int> inFooter(footer.columns.begin(), footer.columns.end());
+    const auto isShownByFooter = [&inFooter](int column) { return inFooter.count(column) > 0; };
     return footer.label.empty() && header.label.empty() &&
            std::none_of(header.columns.begin(), header.columns.end(), isShownByFooter);
 }
@@ -49,9 +45,12 @@ bool canShareLine(const SectionLayout& header, const SectionLayout& footer)
 // Without such a column `labelColumn` stays -1, and a writer has to find another place.
 void placeLabel(SectionLayout& section, std::size_t numColumns)
 {
-    for (int column = 0; column < static_cast<int>(numColumns) && section.labelColumn < 0; ++column)
-        if (!holds(section.columns, column))
-            section.labelColumn = column;
+    const std::set<int> shown(section.columns.begin(), section.columns.end());
+    int column = 0;
+    while (shown.count(column) > 0)
+        ++column;
+    if (column < static_cast<int>(numColumns))
+        section.labelColumn = column;
 }
 
 // The type is that of the first tuple, which comes from the outermost header: a column of names with a total below it
@@ -120,10 +119,12 @@ SectionLayout ReportLayout::layOut(const ReportTemplate& reportTemplate, const V
     if (pSection == nullptr || !reportTemplate.styleOf(pSection).isPrinted)
         return section;
     section.label = reportTemplate.styleOf(pSection).label;
+    std::set<int> taken;
     for (const int tupleIndex : reportTemplate.shownTuplesOf(*pSection))
     {
         const VorString& token = pSection->getData()[tupleIndex].token().token();
-        const int column = columnFor(reportTemplate.columnTokenOf(*pSection, tupleIndex), token, section.columns);
+        const int column = columnFor(reportTemplate.columnTokenOf(*pSection, tupleIndex), token, taken);
+        taken.insert(column);
         m_columns[static_cast<std::size_t>(column)].shownTokens.push_back(token);
         section.columns.push_back(column);
     }
@@ -155,15 +156,15 @@ void ReportLayout::describeColumns(const ReportTemplate& reportTemplate, const V
 }
 
 // The column of `token`, or, when the section has taken that already, one of the tuple's own.
-int ReportLayout::columnFor(const VorString& token, const VorString& tupleToken, const std::vector<int>& taken)
+int ReportLayout::columnFor(const VorString& token, const VorString& tupleToken, const std::set<int>& taken)
 {
     const int column = findColumn(token);
     if (column < 0)
         return addColumn(token);
-    if (!holds(taken, column))
+    if (taken.count(column) == 0)
         return column;
     const int own = findColumn(tupleToken);
-    return own < 0 || holds(taken, own) ? addColumn(tupleToken) : own;
+    return own < 0 || taken.count(own) > 0 ? addColumn(tupleToken) : own;
 }
 
 // The index of the column with that token; -1 when there is none.

@@ -18,6 +18,7 @@
 #include "MekRoots/Exp/VorString.h"
 #include "MekRoots/Exp/VorUnitsManager.h"
 
+#include <set>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -58,7 +59,7 @@ private:
     SectionLayout layOut(const ReportTemplate& reportTemplate, const VorBomItemBase* pSection);
     void completeLevels();
     void describeColumns(const ReportTemplate& reportTemplate, const VorUnitsManager& units);
-    int columnFor(const VorString& token, const VorString& tupleToken, const std::vector<int>& taken);
+    int columnFor(const VorString& token, const VorString& tupleToken, const std::set<int>& taken);
     int findColumn(const VorString& token) const;
     int addColumn(const VorString& token);
 

@@ -14,6 +14,17 @@ namespace mekbom
 {
 using Units = VorBomTemplateUnits;
 
+TokenQuantities::TokenQuantities(const VorBomData& data, const VorBomTemplateUnits& tokenUnits,
+                                 const FormulaResults& formulas)
+    : m_data(data), m_tokenUnits(tokenUnits), m_formulas(formulas)
+{
+    if (data.child() == nullptr)
+        return;
+    bool isFirst = false; // of equal tokens in the row
+    for (const VorBomDataTuple& tuple : data.child()->getData())
+        m_typesInFirstRow.findOrInsert(tuple.token().token(), tuple.value().type(), isFirst);
+}
+
 VorString TokenQuantities::datumOf(const VorString& token)
 {
     VorString summed;
@@ -26,7 +37,14 @@ VorBomDataValue::eBomDataValueType TokenQuantities::typeOf(const VorString& toke
     if (VorBomDataToken::isFormula(datum) == 1)
         return VorBomDataValue::kDoubleData;
     const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(datum);
-    return pEntry != nullptr ? pEntry->type : typeInRows(m_data, datum);
+    return pEntry != nullptr ? pEntry->type : typeOfDatum(datum);
+}
+
+// Most columns are those of the first row, of which there may be thousands. What it lacks is looked for in all rows.
+VorBomDataValue::eBomDataValueType TokenQuantities::typeOfDatum(const VorString& datum) const
+{
+    const auto* const pType = m_typesInFirstRow.find(datum);
+    return pType != nullptr ? pType->value : typeInRows(m_data, datum);
 }
 
 bool TokenQuantities::isNumeric(const VorString& token) const

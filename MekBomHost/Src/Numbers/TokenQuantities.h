@@ -14,6 +14,7 @@
 #include "VorBomTemplateUnits.h"
 
 #include "MekRoots/Exp/VorString.h"
+#include "MekRoots/Exp/VorStringHashMap.h"
 
 #include <string>
 #include <vector>
@@ -33,11 +34,8 @@ struct Measure
 class TokenQuantities
 {
 public:
-    // None of the three is owned; all must outlive this object.
-    TokenQuantities(const VorBomData& data, const VorBomTemplateUnits& tokenUnits, const FormulaResults& formulas)
-        : m_data(data), m_tokenUnits(tokenUnits), m_formulas(formulas)
-    {
-    }
+    // None of the three is owned; all must outlive this object, and the rows stay as they are meanwhile.
+    TokenQuantities(const VorBomData& data, const VorBomTemplateUnits& tokenUnits, const FormulaResults& formulas);
 
     // The token that a total sums; any other token as it is.
     //   "%SumBy:%Weight"  ->  "%Weight"
@@ -65,8 +63,11 @@ public:
     Measure commonMeasureOf(const std::vector<VorString>& tokens) const;
 
 private:
+    VorBomDataValue::eBomDataValueType typeOfDatum(const VorString& datum) const;
+
     const VorBomData& m_data;
     const VorBomTemplateUnits& m_tokenUnits;
     const FormulaResults& m_formulas;
+    VorStringHashMap<VorBomDataValue::eBomDataValueType> m_typesInFirstRow;
 };
 }

@@ -5,7 +5,7 @@
 
 #include "VorBomDataToken.h"
 
-#include <algorithm>
+#include <set>
 
 namespace mekbom::DataTokens
 {
@@ -13,11 +13,11 @@ namespace mekbom::DataTokens
 std::vector<std::string> of(VorBomTemplate& reportTemplate)
 {
     std::vector<std::string> tokens;
+    std::set<std::string> known;
     for (const VorString& token : reportTemplate.getTokenTrace())
     {
         const std::string name = Utf8::toBytes(token);
-        if (isDatum(token) && name != TokenNames::kHandle &&
-            std::find(tokens.begin(), tokens.end(), name) == tokens.end())
+        if (isDatum(token) && name != TokenNames::kHandle && known.insert(name).second)
             tokens.push_back(name);
     }
     return tokens;

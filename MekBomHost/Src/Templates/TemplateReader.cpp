@@ -57,14 +57,20 @@ const int kGreatestInt = std::numeric_limits<int>::max();
 const int kMostDecimals = 15;  // a double has no more
 const int kWidestColumn = 200; // arbitrary: wider than any terminal line that one would read
 
-// Sets `value` to that of the entry whose name the member is. Leaves it alone when the member is missing or wrong.
 template <class T, std::size_t N>
-void readChoice(JsonChecker& json, const JsonItem& object, const std::string& key, const Named<T> (&table)[N], T& value)
+std::vector<std::string> namesOf(const Named<T> (&table)[N])
 {
     std::vector<std::string> names;
     for (const Named<T>& entry : table)
         names.push_back(entry.name);
-    const int choice = json.choiceOf(object, key, names);
+    return names;
+}
+
+// Sets `value` to that of the entry whose name the member is. Leaves it alone when the member is missing or wrong.
+template <class T, std::size_t N>
+void readChoice(JsonChecker& json, const JsonItem& object, const std::string& key, const Named<T> (&table)[N], T& value)
+{
+    const int choice = json.choiceOf(object, key, namesOf(table));
     if (choice >= 0)
         value = table[choice].value;
 }
@@ -130,7 +136,7 @@ void TemplateReader::readTokenUnits(const JsonItem& root)
         return;
     for (const JsonNode& member : pUnits->children)
     {
-        const int type = m_json.choiceOf({ *pUnits, "/tokenUnits" }, member.key, UnitKinds::typeNames());
+        const int type = m_json.choiceOf({ member, "/tokenUnits/" + member.key }, UnitKinds::typeNames());
         m_template.pTemplate->getBomTemplateUnits()->AddTokenType(
             Utf8::toWide(member.key), type < 0 ? Units::kNoUnit : static_cast<Units::eTokenUnitType>(type));
         m_template.tokenUnitPlaces[member.key] = { "/tokenUnits/" + member.key, member.keySpan };
@@ -144,8 +150,12 @@ void TemplateReader::readOwnTokens(const JsonItem& root)
     const JsonNode* const pTokens = root.node.find("tokens");
     if (pTokens == nullptr || !m_json.isOfKind({ *pTokens, "/tokens" }, JsonNode::kObject))
         return;
+    const std::vector<std::string> names = namesOf(kOwnTokens);
     for (const JsonNode& member : pTokens->children)
-        readChoice(m_json, { *pTokens, "/tokens" }, member.key, kOwnTokens, m_template.ownTokens[member.key]);
+    {
+        const int choice = m_json.choiceOf({ member, "/tokens/" + member.key }, names);
+        m_template.ownTokens[member.key] = choice < 0 ? kOwnNumber : kOwnTokens[choice].value;
+    }
 }
 
 // { "MB105": "the group says it all" }: each excuse needs its reason, and a code that there is. Otherwise a slip in the

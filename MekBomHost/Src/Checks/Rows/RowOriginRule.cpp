@@ -1,4 +1,4 @@
-// Whether a row has a token twice takes all pairs of its tuples, and a look into each for a formula: too much for each
+// Whether a row has a token twice takes putting its tokens in order, and a look into each for a formula: too much for each
 // of a million rows that all have the same tokens. So the tokens of a row that was found right are kept, and a row is
 // right, too, if it has them at the same places:
 //
@@ -14,21 +14,27 @@
 
 #include "VorBomDataToken.h"
 
+#include "MekRoots/Exp/VorStringOrder.h"
+
 #include <algorithm>
+#include <vector>
 
 namespace mekbom
 {
 namespace
 {
-// The first token that comes again; null when none does. Rows have a dozen tuples, so all pairs are few.
+// A token that comes again, the first in their order; null when none does. Rows may have thousands of tuples.
 const VorString* tokenTwiceIn(const VorBomDataRow& row)
 {
-    const auto& tuples = row.getData();
-    for (int i = 1; i < tuples.length(); ++i)
-        for (int j = 0; j < i; ++j)
-            if (tuples[i].token().token() == tuples[j].token().token())
-                return &tuples[i].token().token();
-    return nullptr;
+    std::vector<const VorString*> tokens;
+    for (const VorBomDataTuple& tuple : row.getData())
+        tokens.push_back(&tuple.token().token());
+    std::sort(tokens.begin(), tokens.end(),
+              [](const VorString* pFirst, const VorString* pSecond) { return VorStringLess()(*pFirst, *pSecond); });
+    const auto twice =
+        std::adjacent_find(tokens.begin(), tokens.end(),
+                           [](const VorString* pFirst, const VorString* pSecond) { return *pFirst == *pSecond; });
+    return twice == tokens.end() ? nullptr : *twice;
 }
 
 // The engine writes "%Formula:%Weight*2" into a row once it has computed it, and finds it there the next time.
