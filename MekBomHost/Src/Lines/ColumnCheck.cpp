@@ -53,18 +53,19 @@ bool showsFormula(const ReportColumn& column)
                        { return VorBomDataToken::isFormula(TokenQuantities::datumOf(token)) == 1; });
 }
 
-// The heading would name two units: "Cost [EUR] [kg]". Numbers of the data may have words such as "[net]" in brackets;
+// The heading would name two units: "Cost [EUR] [kg]", or "Cost [EUR] [USD]". Numbers of the data may have words such as "[net]" in brackets;
 // those of a formula would be taken for what the brackets call them.
 std::optional<Finding> errorOfLabel(const ReportColumn& column)
 {
     const std::string named = column.otherBrackets();
     const bool isOfFormula = showsFormula(column);
     const bool isUnit = VorUnitsTransformArray::findUnit(Utf8::toWide(named)) != nullptr;
-    if (named.empty() || column.pUnitKind == nullptr || (!isOfFormula && !isUnit))
+    if (named.empty() || (!isOfFormula && !isUnit))
         return std::nullopt;
-    Finding finding =
-        Finding::stating(MistakeCodes::kResultUndeclared, "the label " + inQuotes(column.label) + " names " + named +
-                                                              ", but the numbers are " + column.pUnitKind->name);
+    const std::string shown = column.pUnitKind != nullptr ? "the numbers are " + std::string(column.pUnitKind->name)
+                                                          : "\"result\" says " + column.unitSymbol;
+    Finding finding = Finding::stating(MistakeCodes::kResultUndeclared,
+                                       "the label " + inQuotes(column.label) + " names " + named + ", but " + shown);
     finding.remedy = isOfFormula && !isUnit
                          ? "say \"result\": " + inQuotes(named) + " in the column, or leave the brackets out"
                          : "leave the brackets out: the heading names the unit";

@@ -59,7 +59,7 @@ TEST(ColumnCheckTest, AResultIsForFormulas)
         errorsOf(R"({ "token": "%Weight", "result": "EUR" })", "%Weight"));
 }
 
-// Each printed "Cost [EUR] [kg]".
+// The first printed "Cost [EUR] [kg]", the second "Cost [EUR] [USD]".
 TEST(ColumnCheckTest, ALabelMustNotCallAFormulasNumbersWhatTheyAreNot)
 {
     const std::string cost = "%Formula:%Weight*1.85";
@@ -70,6 +70,9 @@ TEST(ColumnCheckTest, ALabelMustNotCallAFormulasNumbersWhatTheyAreNot)
               "help: say \"result\": \"EUR\" in the column, or leave the brackets out\n",
               errorsOf(labelled(R"("label": "Cost [EUR]")"), cost));
     EXPECT_NE("", errorsOf(labelled(R"("label": "Mass [m]")"), cost));
+    EXPECT_EQ("MB421 list.json:1:16: error MB421: the label \"Cost [EUR]\" names EUR, but \"result\" says USD; "
+              "help: say \"result\": \"EUR\" in the column, or leave the brackets out\n",
+              errorsOf(labelled(R"("label": "Cost [EUR]", "result": "USD")"), cost));
     EXPECT_EQ("", errorsOf(labelled(R"("label": "Cost [EUR]", "result": "EUR")"), cost));
     EXPECT_EQ("", errorsOf(labelled(R"("label": "Cost [EUR]", "result": "none")"), cost));
     EXPECT_EQ("", errorsOf(labelled(R"("label": "Mass [t]")"), cost)); // the heading has the unit that is shown
