@@ -1,7 +1,7 @@
 """Runs the benchmarks of a build on the same rows, prints tables with medians and ratios, and writes them as JSON.
 
     python3 Scripts/bench.py --build build/bench [--sizes 10000,100000,1000000]
-                             [--sections evaluate,shapes,formulas,job,curves]
+                             [--sections evaluate,shapes,threads,formulas,job,curves]
                              [--rounds 3] [--json build/bench/bench.json] [--document Docs/PERFORMANCE.md]
 
 All programs get the same environment, in which freed memory stays in the process. Each is started --rounds times for
@@ -24,7 +24,7 @@ ROOT = Path(__file__).resolve().parent.parent
 COMPARISON = ROOT / "MekBomEngine/Bench/Comparison"
 GENERATOR = ROOT / "MekBomHost/Bench/generate_parts.py"
 WHOLE_JOB = ROOT / "MekBomHost/Bench/whole_job.py"
-SECTIONS = ["evaluate", "shapes", "formulas", "job", "curves"]
+SECTIONS = ["evaluate", "shapes", "threads", "formulas", "job", "curves"]
 
 # Fresh pages are dear on virtual machines: nothing is given back to the system, and what is asked for comes in plenty.
 MEMORY_STAYS = {
@@ -162,6 +162,12 @@ def compare_shapes(build, sizes):
     return results
 
 
+def compare_threads(build):
+    """One thread that makes reports, then two."""
+    print("threads", file=sys.stderr)
+    return run_json_lines([build / "MekBomEngine/Bench/ManyReports", 2, 20_000, 15])
+
+
 def compare_formulas(build):
     program = build / "ExpressionEvaluator/FormulaComparison"
     print("formulas", file=sys.stderr)
@@ -221,6 +227,7 @@ def run_sections(build, sections, sizes, rounds):
     measure = {
         "evaluate": lambda: compare_reports(build, sizes, rounds),
         "shapes": lambda: compare_shapes(build, sizes),
+        "threads": lambda: compare_threads(build),
         "formulas": lambda: compare_formulas(build),
         "job": lambda: {"rows": max(sizes), "programs": compare_jobs(build, max(sizes), rounds)},
         "curves": lambda: run_curves(build),

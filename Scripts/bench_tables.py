@@ -94,6 +94,15 @@ def extremes_table(shapes):
     return table(["extreme shape", "milliseconds", "tuples"], rows)
 
 
+def threads_table(threads):
+    rows = [[str(line["rows"]), number(line["reportsPerSecond"]),
+             f"{line['reportsPerSecond'] / threads[0]['reportsPerSecond']:.2f}",
+             number(line["processorMillisecondsOfEvaluation"]), number(line["locksPerRow"]),
+             number(line["locksWaitedFor"])] for line in threads]
+    return table(["threads, each with reports of its own", "reports per second", "to one thread",
+                  "ms of processor time to evaluate one", "locks per row", "locks waited for"], rows)
+
+
 def formulas_of(results):
     """Name to nanoseconds, of programs that were not skipped."""
     return {line["name"]: line["ns"] for line in results["formulas"] if "ns" in line and "formula" not in line}
@@ -173,6 +182,13 @@ def shapes_bounds(shapes):
                     worst["toPlain"] / worst["allowed"], 1)]
 
 
+def threads_bounds(threads):
+    one, two = threads[0], threads[1]
+    return [at_least("reports per second of two threads to one", two["reportsPerSecond"] / one["reportsPerSecond"], 1.9),
+            at_most("processor time per report of two threads to one",
+                    two["processorMillisecondsOfEvaluation"] / one["processorMillisecondsOfEvaluation"], 1.1)]
+
+
 def formulas_bounds(results):
     found = formulas_of(results)
     fastest = min((ns for name, ns in found.items() if name not in ("engine", "limit")), default=math.inf)
@@ -197,6 +213,8 @@ def bounds(results):
         found += evaluate_bounds(results["evaluate"])
     if "shapes" in results:
         found += shapes_bounds(results["shapes"])
+    if "threads" in results:
+        found += threads_bounds(results["threads"])
     if "formulas" in results:
         found += formulas_bounds(results)
     if "job" in results:
@@ -221,6 +239,8 @@ def all_tables(results):
         parts += [evaluate_table(results["evaluate"]), engine_table(results["evaluate"])]
     if "shapes" in results:
         parts += [shapes_table(results["shapes"]), extremes_table(results["shapes"])]
+    if "threads" in results:
+        parts.append(threads_table(results["threads"]))
     if "formulas" in results:
         parts.append(formulas_table(results))
     if "job" in results:

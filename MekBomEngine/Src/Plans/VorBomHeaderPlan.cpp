@@ -2,6 +2,7 @@
 //   process             the payloads of both tuples come from one stretch of cells; 2.5 is the row's, "" the template's
 //   computeFormulas     5.0 replaces "" in its cell, and a tuple with 5.0 is appended to the row. Its cell is one of a
 //                       stretch that serves many rows, since it stays with the row when the section goes
+//   process, again      if the section was given back, 2.5 makes way for the next row's weight, in the same cell
 //   leaveLastFormula    after the last row that section is made once more, and its last formula computed by the
 //                       evaluator that leaves variables and errors in the thread's lists
 #include "VorBomHeaderPlan.h"
@@ -29,26 +30,25 @@ std::vector<VorString> tokensOf(const VorBomDataTupleArray& tuples)
     return tokens;
 }
 
-VorBomDataTuple copyOf(const VorBomDataTuple& column, VorBomPayloadCells& cells)
-{
-    return VorBomDataTuple(column.token().token(), column.value(), cells, column.used());
-}
-
-// The row's value, if it has one, under the column's token.
-VorBomDataTuple tupleFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, VorBomPayloadCells& cells,
-                         bool isReported)
+// The row's value, if it has one, else the template's.
+const VorBomDataValue& valueFor(const VorBomDataTuple& column, VorBomDataTuple* pDatum, bool isReported)
 {
     if (pDatum == nullptr)
-        return copyOf(column, cells);
+        return column.value();
     if (pDatum->value().type() == VorBomDataValue::kUnknownData)
     {
         if (isReported)
             VorAssert::vorAssert(L"false", kSourcePath, __LINE__);
-        return copyOf(column, cells);
+        return column.value();
     }
     if (pDatum->used() != 1)
         pDatum->setUsed(1); // rows of an earlier evaluation are marked: their memory need not be written
-    return VorBomDataTuple(column.token().token(), pDatum->value(), cells, column.used());
+    return pDatum->value();
+}
+
+bool isEmpty(const VorBomDataTuple& column)
+{
+    return column.value().type() == VorBomDataValue::kUnknownData;
 }
 }
 
@@ -70,7 +70,28 @@ VorBomHeaderPlan::VorBomHeaderPlan(const std::shared_ptr<VorBomTuplePositions>& 
 
 std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::process(VorBomDataRow& row)
 {
-    return makeSection(row, true);
+    if (m_pSpare == nullptr)
+        return makeSection(row, true);
+    refill(*m_pSpare, row);
+    return std::move(m_pSpare);
+}
+
+// A column without a value in the template is empty where a row has none, and no value is made empty by assigning.
+void VorBomHeaderPlan::takeBack(std::unique_ptr<VorBomTemplateItem> pSection)
+{
+    const VorBomDataTupleArray& columns = m_section.getData();
+    if (std::none_of(columns.begin(), columns.end(), isEmpty))
+        m_pSpare = std::move(pSection);
+}
+
+// Each value takes the place of the one before in its cell, a number that of the text that it was shown as.
+void VorBomHeaderPlan::refill(VorBomTemplateItem& section, VorBomDataRow& row)
+{
+    m_columns.find(row);
+    const VorBomDataTuple* pColumn = m_section.getData().begin();
+    VorBomDataTuple* pTuple = section.getData().begin();
+    for (int i = 0; i < m_columns.count(); ++i, ++pColumn, ++pTuple)
+        pTuple->value() = valueFor(*pColumn, m_columns[i], true);
 }
 
 // A report makes a section for every row, so the room for its tuples is taken at once, each is made in its place, and
@@ -84,7 +105,12 @@ std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::makeSection(VorBomDataRow&
     pEvaluated->getData().setPhysicalLength(columns.length());
     pEvaluated->getData().appendMade(columns.length(),
                                      [this, &cells, isEmptyDatumReported, pColumns = columns.begin()](int i)
-                                     { return tupleFor(pColumns[i], m_columns[i], cells, isEmptyDatumReported); });
+                                     {
+                                         const VorBomDataTuple& column = pColumns[i];
+                                         return VorBomDataTuple(column.token().token(),
+                                                                valueFor(column, m_columns[i], isEmptyDatumReported),
+                                                                cells, column.used());
+                                     });
     return pEvaluated;
 }
 

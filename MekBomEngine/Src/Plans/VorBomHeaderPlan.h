@@ -28,6 +28,10 @@ public:
     // are. Marks the row's tuples it took as used. Reports "false" for an empty value in the row and passes it over.
     std::unique_ptr<VorBomTemplateItem> process(VorBomDataRow& row);
 
+    // Takes a section that process() made, and that nobody needs any more, to make the next one of: a report that is
+    // handed over line by line needs the memory of two lines. Its values may be changed, its tuples must be there.
+    void takeBack(std::unique_ptr<VorBomTemplateItem> pSection);
+
     // Computes the formulas of a section with the tokens of this plan's, and appends each result to the row, which may
     // be null.
     void computeFormulas(VorBomTemplateItem& evaluated, VorBomDataRow* pRow);
@@ -54,11 +58,13 @@ public:
 
 private:
     std::unique_ptr<VorBomTemplateItem> makeSection(VorBomDataRow& row, bool isEmptyDatumReported);
+    void refill(VorBomTemplateItem& section, VorBomDataRow& row);
     VorBomPayloadCells& cellsForRows();
 
     const VorBomTemplateItem& m_section;
     VorBomColumns m_columns; // one per tuple of the section; formulas are left out
     std::vector<VorBomFormulaColumn> m_formulas;
+    std::unique_ptr<VorBomTemplateItem> m_pSpare;     // a section to be filled anew, or null
     VorBomDataRow* m_pLastRow = nullptr;              // the one that formulas were computed for last; not owned
     std::optional<VorBomPayloadCells> m_cellsForRows; // of results; apart from the sections, which go before the rows
     int m_numCellsForRows = 0;                        // of those taken last

@@ -30,8 +30,9 @@ void VorBomSinkTarget::open(VorBomEngineStateArray& stack, int level, VorBomTemp
     if (level == stack.length() - 1)
         return; // the line may be merged still
     group.m_pPlan->header.display().show(units, group.m_pEvaluatedHeader->getData());
-    const Section pHeader(std::exchange(group.m_pEvaluatedHeader, nullptr));
+    Section pHeader(std::exchange(group.m_pEvaluatedHeader, nullptr));
     handOverHeader(*pHeader, group, level);
+    group.m_pPlan->header.takeBack(std::move(pHeader));
 }
 
 void VorBomSinkTarget::take(VorBomEngineStateArray& stack, int level)
@@ -43,10 +44,14 @@ void VorBomSinkTarget::take(VorBomEngineStateArray& stack, int level)
         handOverHeader(*pHeader, group, level);
     if (pFooter != nullptr)
         handOverFooter(*pFooter, group, level);
-    if (m_takesEqualLines || level < stack.length() - 1 || (pHeader == nullptr && pFooter == nullptr))
-        return; // without a section before it a line is compared with none
-    m_pSectionBefore = std::move(pFooter != nullptr ? pFooter : pHeader);
-    group.m_pSectionBefore = m_pSectionBefore.get();
+    // Without a section before it a line is compared with none.
+    if (!m_takesEqualLines && level == stack.length() - 1 && (pHeader != nullptr || pFooter != nullptr))
+    {
+        std::swap(m_pSectionBefore, pFooter != nullptr ? pFooter : pHeader);
+        group.m_pSectionBefore = m_pSectionBefore.get();
+    }
+    if (pHeader != nullptr)
+        group.m_pPlan->header.takeBack(std::move(pHeader));
 }
 
 void VorBomSinkTarget::handOverHeader(const VorBomTemplateItem& header, const VorBomEngineState& group, int level)

@@ -1,5 +1,6 @@
 // Hands the sections of a report to a host's sink: a header when its group opens, a footer when it closes, a line when
-// it is complete. Keeps no section but the one that the next line is compared with.
+// it is complete. Of each level a header that was handed over is given back, to make the next one of, and the line that the
+// next is compared with is kept.
 #pragma once
 
 #include "VorBomSectionSink.h"
@@ -19,7 +20,7 @@ public:
     int takeProgress(int numRowsDone) override { return m_sink.takeProgress(numRowsDone); }
 
 private:
-    using Section = std::unique_ptr<const VorBomTemplateItem>; // nothing hangs in it, so it goes without empty()
+    using Section = std::unique_ptr<VorBomTemplateItem>; // nothing hangs in it, so it goes without empty()
 
     void handOverHeader(const VorBomTemplateItem& header, const VorBomEngineState& group, int level);
     void handOverFooter(const VorBomTemplateItem& footer, const VorBomEngineState& group, int level);

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace
 {
 using Item = VorBomTemplateItem;
@@ -57,6 +59,49 @@ TEST(VorBomHeaderPlanTest, OnePlanServesRowsOfAnyLayout)
     EXPECT_EQ(VorString(L"[ kDetails     ][%Name:B][%Weight:heavy]"), listOf(*plan.process(rows[1])));
     EXPECT_EQ(VorString(L"[ kDetails     ][%Name:none][%Weight:0.5]"), listOf(*plan.process(rows[2])));
     EXPECT_EQ(VorString(L"[ kDetails     ][%Name:A][%Weight:1]"), listOf(*plan.process(rows[0])));
+}
+
+// Shown and computed meanwhile, so that every value is of another kind than the next one.
+TEST(VorBomHeaderPlanTest, SectionGivenBackIsFilledAnewWithWhatARowLacksFromTheTemplate)
+{
+    const Item section =
+        details({ tuple(L"%Name", L"none"), tuple(L"%Weight", 0.5), tuple(L"%Formula:%Weight*2", L"") });
+    VorBomHeaderPlan plan = planFor(section);
+    VorBomTemplateUnits units;
+    VorBomDataRow rows[3];
+    addTuples(rows[0], { tuple(L"%Name", L"A"), tuple(L"%Weight", 1.5) });
+    addTuples(rows[1], { tuple(L"%Weight", 3) });
+    addTuples(rows[2], { tuple(L"%Name", 7) });
+    auto pEvaluated = plan.process(rows[0]);
+    plan.computeFormulas(*pEvaluated, &rows[0]);
+    plan.display().show(units, pEvaluated->getData());
+    const VorBomTemplateItem* const pFirst = pEvaluated.get();
+    const void* const pFirstCell = pEvaluated->getData()[0].value().data();
+
+    plan.takeBack(std::move(pEvaluated));
+    pEvaluated = plan.process(rows[1]);
+
+    EXPECT_EQ(pFirst, pEvaluated.get());
+    EXPECT_EQ(pFirstCell, pEvaluated->getData()[0].value().data());
+    EXPECT_EQ(VorString(L"[ kDetails     ][%Name:none][%Weight:3][%Formula:%Weight*2:]"), listOf(*pEvaluated));
+
+    plan.takeBack(std::move(pEvaluated));
+    EXPECT_EQ(VorString(L"[ kDetails     ][%Name:7][%Weight:0.5][%Formula:%Weight*2:]"),
+              listOf(*plan.process(rows[2])));
+    EXPECT_NE(pFirst, plan.process(rows[1]).get()) << "each is given back once";
+}
+
+TEST(VorBomHeaderPlanTest, SectionWithEmptyValuesIsMadeAnew)
+{
+    const Item section = details({ tuple(L"%Name", NoValue()) });
+    VorBomHeaderPlan plan = planFor(section);
+    VorBomDataRow named;
+    VorBomDataRow nameless;
+    named.addData(tuple(L"%Name", L"A"));
+
+    plan.takeBack(plan.process(named));
+
+    EXPECT_EQ(VorBomDataValue::kUnknownData, plan.process(nameless)->getData()[0].value().type());
 }
 
 TEST(VorBomHeaderPlanTest, EmptyValueInARowIsReportedForEachTupleThatAsks)
