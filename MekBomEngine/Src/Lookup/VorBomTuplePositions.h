@@ -37,9 +37,12 @@ public:
     // has as many tuples still is taken to have the same ones; if it has more, only those are looked at.
     const int* in(const VorBomItemBase& row)
     {
-        for (const Row& known : m_rows)
-            if (known.pRow == &row && known.numTuples == row.getData().length())
-                return known.positions.data();
+        for (int i = 0; i < 2; ++i)
+            if (m_rows[i].pRow == &row && m_rows[i].numTuples == row.getData().length())
+            {
+                m_nLatest = i;
+                return m_rows[i].positions.data();
+            }
         return lookAt(row);
     }
 
@@ -81,7 +84,7 @@ private:
     std::vector<Known> m_known = std::vector<Known>(std::size_t{ 1 } << m_nKnownBits); // open-addressed, by address
     std::size_t m_nNumKnown = 0;
     Row m_rows[2];
-    int m_nLatest = 0; // of the two rows
+    int m_nLatest = 0; // of the two rows, the one asked about last: the other makes way
 
     // Where the texts of a row's tokens lie, and its positions: most rows are like the one before.
     std::vector<const void*> m_patternTexts;

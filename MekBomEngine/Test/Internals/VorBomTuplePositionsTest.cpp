@@ -82,6 +82,7 @@ TEST(VorBomTuplePositionsTest, TwoRowsStayValidWhileTheyTakeTurns)
     EXPECT_EQ(1, pSecond[name]);
     EXPECT_EQ(pFirst, positions.in(first));
     EXPECT_EQ(2, positions.in(third)[name]);
+    EXPECT_EQ(0, pFirst[name]) << "asked about since the second was";
     EXPECT_EQ(0, positions.in(first)[name]);
     EXPECT_EQ(1, positions.in(second)[name]);
 }
