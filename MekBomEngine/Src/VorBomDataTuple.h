@@ -4,8 +4,8 @@
 //   tuple.token().token()      ->  "%Weight"
 //   tuple.value().asString()   ->  "12.5"
 //
-// Owns both; copies are independent. Kept small, since a large model has tens of millions of them: 24 bytes
-// where a derived class may use what its base leaves over, 32 bytes elsewhere.
+// Owns both; copies are independent. Kept small, since a large model has tens of millions of them: 24 bytes with the
+// payload where a derived class may use what its base leaves over, 32 bytes elsewhere.
 //
 // What the value means depends on whose tuple it is. In a row it is the datum: a number in the model's internal units
 // (millimetre, kilogram, radian and what follows from them) or a text. In a section of a template it is what the
@@ -49,18 +49,8 @@ public:
     VorBomDataTuple(const VorString& token, const VorBomDataValue& value) : m_token(token), m_value(value) {}
     VorBomDataTuple(const VorString& token, VorBomDataValue&& value) : m_token(token), m_value(std::move(value)) {}
 
-    // Takes an int, a double or a VorString, whose payload comes into one of `cells`.
-    // The cells are not kept: they may go before the tuple does.
-    template <class Value>
-    VorBomDataTuple(const VorString& token, const Value& value, VorBomPayloadCells& cells)
-        : m_token(token), m_value(value, cells)
-    {
-    }
-
-    // Takes a copy of a value of any kind, whose payload comes into one of `cells`, and a used flag.
-    // For copies of a template's columns, which bring their flag along.
-    VorBomDataTuple(const VorString& token, const VorBomDataValue& value, VorBomPayloadCells& cells, int used)
-        : m_token(token), m_value(value, cells)
+    // Takes a value of any kind and a used flag, for copies of a template's columns, which bring theirs along.
+    VorBomDataTuple(const VorString& token, const VorBomDataValue& value, int used) : m_token(token), m_value(value)
     {
         setUsed(used);
     }

@@ -12,16 +12,16 @@
 //
 // Invariants:
 //   1. type() is kUnknownData exactly when data() is null; a value without type is called empty.
-//   2. The payload is a block of its own, owned by this value and shared with no other; copies are independent.
+//   2. The payload is this value's own and shared with no other; copies are independent.
 //   3. Values of different kinds are never converted to each other.
 //
 // Units: numbers are in the model's internal units, millimetre, kilogram, radian and what follows from them, or have
 // no unit at all. A value does not know which; its token does, and VorBomTemplateUnits turns one into the text of the
 // other.
 //
-// Memory: a value is a pointer and a kind, and its payload lies in a cell of VorBomPayloadCells. Once it has a cell, a
-// value keeps it through every set(), whatever the kind. Where the system has no memory left, std::bad_alloc passes
-// through: a value under construction then does not come to be, and one that is being set stays empty if it was empty.
+// Memory: a payload lies in the value itself, next to its kind, and a text refers to characters that its copies share.
+// So nothing here takes memory or throws, but for asString(), which passes std::bad_alloc on where the system has none
+// left.
 //
 // Threads: one value is for one thread at a time. Copies may go to other threads, also those of texts, which share
 // their characters; a value may be destroyed on another thread than the one that made it.
@@ -29,11 +29,10 @@
 // Misuse is reported as "false" from "MekBomEngine/Src/VorBomDataValue" and survived with the answers stated below.
 #pragma once
 
-#include "VorBomPayloadCells.h"
-
 #include "MekRoots/Exp/MekExport.h"
 #include "MekRoots/Exp/VorString.h"
 
+#include <cstring>
 #include <new>
 #include <utility>
 
@@ -50,45 +49,39 @@ public:
         kStringData = 3   // one VorString
     };
 
-    // An empty value takes no memory. The others copy what they are given; a text is copied by sharing its characters.
+    // Copies what it is given; a text is copied by sharing its characters.
     VorBomDataValue() noexcept = default;
-    VorBomDataValue(int value) { create<int>(VorBomPayloadCells::takeOne(), kIntData, value); }
-    VorBomDataValue(double value) { create<double>(VorBomPayloadCells::takeOne(), kDoubleData, value); }
-    VorBomDataValue(const VorString& value) { create<VorString>(VorBomPayloadCells::takeOne(), kStringData, value); }
+    VorBomDataValue(int value) noexcept : m_payload(value), m_nType(kIntData) {}
+    VorBomDataValue(double value) noexcept : m_payload(value), m_nType(kDoubleData) {}
+    VorBomDataValue(const VorString& value) noexcept : m_payload(value), m_nType(kStringData) {}
 
     // Reports a type that is none of the four; the copy is empty then.
-    VorBomDataValue(const VorBomDataValue& other) { copy(other, VorBomPayloadCells::takeOne); }
-
-    // Make the same values with payloads in `cells`.
-    // The cells need not outlive the value: each belongs to the value from then on, which gives it back by itself.
-    //   VorBomPayloadCells cells(2);
-    //   VorBomDataValue weight(12.5, cells), length(6000.0, cells);    // their numbers lie side by side
-    // A copy of an empty value takes no cell.
-    VorBomDataValue(int value, VorBomPayloadCells& cells) { create<int>(cells.take(), kIntData, value); }
-    VorBomDataValue(double value, VorBomPayloadCells& cells) { create<double>(cells.take(), kDoubleData, value); }
-    VorBomDataValue(const VorString& value, VorBomPayloadCells& cells)
+    VorBomDataValue(const VorBomDataValue& other)
     {
-        create<VorString>(cells.take(), kStringData, value);
-    }
-    VorBomDataValue(const VorBomDataValue& other, VorBomPayloadCells& cells)
-    {
-        copy(other, [&cells] { return cells.take(); });
+        if (other.m_nType == kStringData)
+            beginText(other.m_payload.text);
+        else if (other.hasNoText())
+            takeNumber(other);
+        else
+            *this = other; // corrupt and reported
     }
 
     // Takes the payload over; `other` is empty afterwards.
     //   VorBomDataValue first(12.5), second(std::move(first));
     //   first.type()   ->  kUnknownData
-    VorBomDataValue(VorBomDataValue&& other) noexcept : m_pData(other.m_pData), m_nType(other.m_nType)
+    VorBomDataValue(VorBomDataValue&& other) noexcept
     {
+        if (other.m_nType == kStringData)
+            beginText(std::move(other.m_payload.text));
+        else
+            takeNumber(other);
         other.m_nType = kUnknownData;
-        other.m_pData = nullptr;
     }
 
     // Copies the payload.
     // On purpose: assigning an empty value leaves the target exactly as it was, it does not clear it; callers overlay
     // values and rely on it. Reports and leaves the target alone as well when the other type is none of the four.
     // Pinned by VorBomDataValueTest.AssigningEmptyKeepsTheTarget.
-    // A target that has a cell keeps it, whatever it held: no memory is given back and taken again.
     //   VorBomDataValue shown(12.5);
     //   shown = VorBomDataValue(L"12.5 kg");
     //   shown = VorBomDataValue();
@@ -97,47 +90,48 @@ public:
 
     // Takes the payload over; `other` is empty afterwards. An empty `other` leaves the target alone, as above, so that
     // assigning a temporary means the same as assigning a named value. Assigning a value to itself changes nothing.
-    // Other than in copying, the target's cell is given back: the payload that it takes over has one.
     VorBomDataValue& operator=(VorBomDataValue&& other) noexcept;
 
-    // Gives the payload's cell back. A corrupt type is reported, and its cell is lost rather than freed by guess.
+    // A corrupt type is reported.
     ~VorBomDataValue()
     {
-        if (m_nType != kUnknownData)
+        if (!hasNoText())
             empty();
     }
 
-    // Replace payload and type. The text may be this value's own.
-    // A pointer that data() gave earlier is not to be used after a change of kind, although the cell is the same one:
-    // what lies in it is another type. A value of a corrupt type is reported, its payload left where it is, and a new
-    // cell taken.
+    // Replace payload and type. The text may be this value's own. A corrupt type is reported before it is replaced.
+    // A pointer that data() gave earlier is not to be used after a change of kind: what lies there is of another type.
     //   VorBomDataValue total(3);
     //   total.set(2147483648.0);
     //   total.type()   ->  kDoubleData
-    void set(int value);
+    void set(int value)
+    {
+        endText();
+        m_payload.whole = value;
+        m_nType = kIntData;
+    }
     void set(double value)
     {
-        if (m_nType == kDoubleData)
-            *static_cast<double*>(m_pData) = value;
-        else
-            replaceBy(value);
+        endText();
+        m_payload.number = value;
+        m_nType = kDoubleData;
     }
-    void set(const VorString& value);
-    void set(VorString&& value) // takes the text over
+    void set(const VorString& value) { set(VorString(value)); } // the argument may be this value's own text
+    void set(VorString&& value)                                 // takes the text over
     {
-        if (m_nType == kIntData || m_nType == kDoubleData)
-            create<VorString>(m_pData, kStringData, std::move(value));
-        else
-            replaceBy(std::move(value));
+        VorString text(std::move(value));
+        endText();
+        beginText(std::move(text));
     }
 
-    // The payload, to be cast by type(): int*, double* or VorString*; null for an empty value. It lives until this
-    // value changes. Owned by this value and never to be freed by the caller. What is written through the pointer must
-    // be of the kind that type() names; the value does not notice anything else.
+    // The payload, to be cast by type(): int*, double* or VorString*; null for an empty value. It lies in this value, so
+    // it lives until the value changes, moves or goes: the tuple of an item, until tuples are added. Never to be freed by
+    // the caller. What is written through the pointer must be of the kind that type() names; the value does not notice
+    // anything else.
     //   VorBomDataValue count(12);
     //   ++*static_cast<int*>(count.data());
     //   count.asString()   ->  "13"
-    void* data() const { return m_pData; }
+    void* data() const { return m_nType == kUnknownData ? nullptr : &m_payload; }
     eBomDataValueType type() const { return m_nType; }
 
     // Sign of this minus other. Doubles closer than 1e-6 are equal, whatever their size, and so is a NaN and anything;
@@ -151,7 +145,7 @@ public:
     int compare(const VorBomDataValue& other) const
     {
         const bool isSameText = m_nType == kStringData && other.m_nType == kStringData &&
-                                textValue().sharesTextWith(other.textValue()); // as in most rows of a group
+                                m_payload.text.sharesTextWith(other.m_payload.text); // as in most rows of a group
         return isSameText ? 0 : compareAnew(other);
     }
 
@@ -176,53 +170,52 @@ public:
     VorString asString() const;
 
 protected:
-    // Frees the payload; the value is empty afterwards. A corrupt type is reported and its payload not touched.
+    // Ends the payload; the value is empty afterwards. A corrupt type is reported and its payload not touched.
     void empty();
 
 private:
     // Tests make values of corrupt types through it.
     friend struct VorBomDataValueAccess;
 
-    // Each reads the payload as one kind: only after type() was asked, and never of an empty value.
-    int intValue() const { return *static_cast<const int*>(m_pData); }
-    double doubleValue() const { return *static_cast<const double*>(m_pData); }
-    const VorString& textValue() const { return *static_cast<const VorString*>(m_pData); }
+    // All bytes are set from the start, so that a number is copied without asking which kind it is of.
+    union Payload
+    {
+        Payload() noexcept : number(0) {}
+        Payload(int value) noexcept : number(0) { whole = value; }
+        Payload(double value) noexcept : number(value) {}
+        Payload(const VorString& value) noexcept : text(value) {}
+        Payload(const Payload&) = delete; // which member lives is known to the value alone
+        Payload& operator=(const Payload&) = delete;
+        ~Payload() {}
+
+        int whole;
+        double number;
+        VorString text;
+    };
+
+    // Empty or a number, of which nothing needs to be ended. False for a corrupt type.
+    bool hasNoText() const { return static_cast<unsigned int>(m_nType) <= kDoubleData; }
+    // Makes an empty value, or one whose text was ended, a text.
+    template <class Text>
+    void beginText(Text&& text) noexcept
+    {
+        ::new (static_cast<void*>(&m_payload.text)) VorString(std::forward<Text>(text));
+        m_nType = kStringData;
+    }
+    // Makes a value without a text an empty one or a number, as `other` is.
+    void takeNumber(const VorBomDataValue& other) noexcept
+    {
+        std::memcpy(static_cast<void*>(&m_payload), &other.m_payload, sizeof m_payload);
+        m_nType = other.m_nType;
+    }
+    void endText()
+    {
+        if (!hasNoText())
+            empty();
+    }
     // compare() for values that do not share one text; all that is reported is reported here.
     int compareAnew(const VorBomDataValue& other) const;
-    // Swaps payloads and kinds; nothing is copied.
-    void exchange(VorBomDataValue& other) noexcept;
-    // set() for any kind of present payload, an empty or corrupt one too.
-    void replaceBy(double value);
-    void replaceBy(VorString&& value);
-    // The one ends the payload's life and leaves its cell, the other answers a cell without a living payload. Between
-    // freeCell() and the payload that is then made in it the type is out of date: nothing that may throw may stand
-    // there.
-    void endPayload();
-    void* freeCell();
 
-    static_assert(sizeof(int) <= VorBomPayloadCells::kCellSize && sizeof(VorString) <= VorBomPayloadCells::kCellSize,
-                  "a value keeps its cell when its kind changes");
-
-    // Give a value that is empty its payload.
-    // create() also replaces a number, whose life needs no ending; it would leak a text.
-    template <class Payload, class Value>
-    void create(void* pCell, eBomDataValueType type, Value&& value)
-    {
-        m_pData = ::new (pCell) Payload(std::forward<Value>(value));
-        m_nType = type;
-    }
-    template <class TakeCell>
-    void copy(const VorBomDataValue& other, TakeCell takeCell)
-    {
-        switch (other.m_nType)
-        {
-            case kIntData: create<int>(takeCell(), kIntData, other.intValue()); break;
-            case kDoubleData: create<double>(takeCell(), kDoubleData, other.doubleValue()); break;
-            case kStringData: create<VorString>(takeCell(), kStringData, other.textValue()); break;
-            default: *this = other; break; // empty, or corrupt and reported
-        }
-    }
-
-    void* m_pData = nullptr;
+    mutable Payload m_payload; // data() gives constant values away to be changed, too
     eBomDataValueType m_nType = kUnknownData;
 };

@@ -194,18 +194,25 @@ TEST(VorBomDataValueTest, MovedFromIsEmpty)
 {
     const LeakCheck leaks;
     VorBomDataValue source = text(L"S235");
-    const void* pPayload = source.data();
+    const auto charactersOf = [](const VorBomDataValue& value)
+    { return static_cast<const VorString*>(value.data())->getStringW(); };
+    const wchar_t* pCharacters = charactersOf(source);
 
     VorBomDataValue moved(std::move(source));
-    EXPECT_EQ(pPayload, moved.data());
+    EXPECT_EQ(pCharacters, charactersOf(moved));
     EXPECT_EQ(nullptr, source.data()); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
     EXPECT_EQ(VorBomDataValue::kUnknownData, source.type());
 
     VorBomDataValue target(5);
     target = std::move(moved);
-    EXPECT_EQ(pPayload, target.data());
+    EXPECT_EQ(pCharacters, charactersOf(target));
     EXPECT_EQ(VorBomDataValue::kUnknownData,
               moved.type()); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
+
+    VorBomDataValue number(2.5);
+    target = std::move(number);
+    EXPECT_EQ(2.5, doubleIn(target));
+    EXPECT_EQ(nullptr, number.data()); // NOLINT(bugprone-use-after-move,clang-analyzer-cplusplus.Move)
 }
 
 TEST(VorBomDataValueTest, SwappingExchangesEmptyValuesToo)

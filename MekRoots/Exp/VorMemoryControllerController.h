@@ -1,7 +1,7 @@
-// Where the arrays, texts and value payloads of this system get their memory.
+// Where the arrays, texts and items of this system get their memory.
 //
 // Blocks of up to kLargestPooledBlock bytes come from a pool: pages of one thread each, cut in the order of addresses,
-// so that the millions of small payloads of a report cost a few instructions each and lie side by side in the order in
+// so that the millions of small texts of a report cost a few instructions each and lie side by side in the order in
 // which they were made. A block may be freed on another thread than the one that allocated it, and while thread-local
 // objects are destroyed. Larger blocks come from the system. Under AddressSanitizer every block does, so that leaks and
 // overruns are seen.
@@ -18,7 +18,7 @@
 class MEK_ROOTS_API VorMemoryControllerController
 {
 public:
-    // Holds the tuples of a wide row, 32 of at most 32 bytes; its texts and value payloads are smaller.
+    // Holds the tuples of a wide row, 32 of at most 32 bytes; its texts are smaller.
     static constexpr std::size_t kLargestPooledBlock = 1024;
 
     // Room for `numElements` elements of `elementSize` bytes each, its content undefined; null when that is no bytes at
@@ -28,13 +28,6 @@ public:
     {
         return allocate(sizeOf(numElements, elementSize), elementSize % 16 == 0);
     }
-
-    // The most bytes that are served as neighbours: an eighth of a page.
-    static constexpr std::size_t kLargestNeighbourhood = 8192;
-
-    // `numBlocks` blocks of `blockSize` bytes, a multiple of 8, side by side for the price of one; each is given back
-    // by itself, as deallocateArray(pBlock, 1, blockSize). Null when the pool does not serve so much at once.
-    static void* allocateNeighbours(std::size_t numBlocks, std::size_t blockSize);
 
     // Gives back what allocateArray returned for the same two numbers. Null is allowed.
     static void deallocateArray(void* pBlock, std::size_t numElements, std::size_t elementSize)

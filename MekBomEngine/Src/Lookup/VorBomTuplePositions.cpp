@@ -21,7 +21,7 @@ int VorBomTuplePositions::ask(const VorString& token)
         ++m_nNumNumbers;
         m_known.assign(m_known.size(), Known());
         m_nNumKnown = 0;
-        m_patternTexts.clear();
+        m_hasPattern = false;
         m_patternPositions.assign(static_cast<std::size_t>(m_nNumNumbers), kNone);
         for (Row& row : m_rows)
             row.pRow = nullptr;
@@ -67,18 +67,23 @@ void VorBomTuplePositions::findFrom(int first, const VorBomDataTupleArray& tuple
 
 bool VorBomTuplePositions::hasPattern(const VorBomDataTupleArray& tuples) const
 {
-    return !m_patternTexts.empty() && static_cast<std::size_t>(tuples.length()) == m_patternTexts.size() &&
-           std::equal(tuples.begin(), tuples.end(), m_patternTexts.begin(),
-                      [](const VorBomDataTuple& tuple, const void* pText)
+    const auto numTexts = static_cast<int>(m_patternTexts.size());
+    return m_hasPattern && (m_isPatternWhole ? tuples.length() == numTexts : tuples.length() >= numTexts) &&
+           std::equal(m_patternTexts.begin(), m_patternTexts.end(), tuples.begin(),
+                      [](const void* pText, const VorBomDataTuple& tuple)
                       { return tuple.token().token().memory() == pText; });
 }
 
-// Only of texts that are all known, which are kept: at the address of another a new text may come to lie.
+// Only of texts that are all known, which are kept: at the address of another a new text may come to lie. Where all
+// tokens were found, those behind them make no difference: rows are sorted by a few tokens, which mostly stand in front.
 void VorBomTuplePositions::keepAsPattern(const VorBomDataTupleArray& tuples, const std::vector<int>& positions)
 {
     m_patternPositions = positions;
-    m_patternTexts.resize(m_nNumKnown < kMostKnown ? static_cast<std::size_t>(tuples.length()) : 0);
-    std::transform(tuples.begin(), tuples.begin() + m_patternTexts.size(), m_patternTexts.begin(),
+    m_hasPattern = m_nNumKnown < kMostKnown;
+    m_isPatternWhole = std::find(positions.begin() + 1, positions.end(), kNone) != positions.end();
+    const int numTexts = m_isPatternWhole ? tuples.length() : *std::max_element(positions.begin(), positions.end()) + 1;
+    m_patternTexts.resize(static_cast<std::size_t>(numTexts));
+    std::transform(tuples.begin(), tuples.begin() + numTexts, m_patternTexts.begin(),
                    [](const VorBomDataTuple& tuple) { return tuple.token().token().memory(); });
 }
 

@@ -86,7 +86,9 @@ private:
     Row m_rows[2];
     int m_nLatest = 0; // of the two rows, the one asked about last: the other makes way
 
-    // Where the texts of a row's tokens lie, and its positions: most rows are like the one before.
+    // Where the texts of a row's tokens lie, all or the first ones, and its positions: most rows are like the one before.
+    bool m_hasPattern = false;
+    bool m_isPatternWhole = false;
     std::vector<const void*> m_patternTexts;
     std::vector<int> m_patternPositions;
 };

@@ -1,8 +1,7 @@
 // Told on a details section %Weight 0.0, "%Formula:%Weight*2" "" and a row %Weight 2.5:
-//   process             the payloads of both tuples come from one stretch of cells; 2.5 is the row's, "" the template's
-//   computeFormulas     5.0 replaces "" in its cell, and a tuple with 5.0 is appended to the row. Its cell is one of a
-//                       stretch that serves many rows, since it stays with the row when the section goes
-//   process, again      if the section was given back, 2.5 makes way for the next row's weight, in the same cell
+//   process             a section with both tuples; 2.5 is the row's, "" the template's
+//   computeFormulas     5.0 replaces "", and a tuple with 5.0 is appended to the row
+//   process, again      if the section was given back, 2.5 makes way for the next row's weight, in the same tuple
 //   leaveLastFormula    after the last row that section is made once more, and its last formula computed by the
 //                       evaluator that leaves variables and errors in the thread's lists
 #include "VorBomHeaderPlan.h"
@@ -16,10 +15,6 @@
 
 namespace
 {
-// How many results of formulas get their memory at once: few at first, as a report may be small, then ever more.
-constexpr int kFewestCellsForRows = 16;
-constexpr int kMostCellsForRows = VorMemoryControllerController::kLargestNeighbourhood / VorBomPayloadCells::kCellSize;
-
 const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomEvaluator2"; // whose reports these are
 
 std::vector<VorString> tokensOf(const VorBomDataTupleArray& tuples)
@@ -84,7 +79,7 @@ void VorBomHeaderPlan::takeBack(std::unique_ptr<VorBomTemplateItem> pSection)
         m_pSpare = std::move(pSection);
 }
 
-// Each value takes the place of the one before in its cell, a number that of the text that it was shown as.
+// Each value takes the place of the one before, a number that of the text that it was shown as.
 void VorBomHeaderPlan::refill(VorBomTemplateItem& section, VorBomDataRow& row)
 {
     m_columns.find(row);
@@ -94,22 +89,20 @@ void VorBomHeaderPlan::refill(VorBomTemplateItem& section, VorBomDataRow& row)
         pTuple->value() = valueFor(*pColumn, m_columns[i], true);
 }
 
-// A report makes a section for every row, so the room for its tuples is taken at once, each is made in its place, and
-// their payloads lie side by side.
+// A report makes a section for every row, so the room for its tuples is taken at once, and each is made in its place.
 std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::makeSection(VorBomDataRow& row, bool isEmptyDatumReported)
 {
     m_columns.find(row);
     const VorBomDataTupleArray& columns = m_section.getData();
     auto pEvaluated = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
-    VorBomPayloadCells cells(columns.length());
     pEvaluated->getData().setPhysicalLength(columns.length());
     pEvaluated->getData().appendMade(columns.length(),
-                                     [this, &cells, isEmptyDatumReported, pColumns = columns.begin()](int i)
+                                     [this, isEmptyDatumReported, pColumns = columns.begin()](int i)
                                      {
                                          const VorBomDataTuple& column = pColumns[i];
                                          return VorBomDataTuple(column.token().token(),
                                                                 valueFor(column, m_columns[i], isEmptyDatumReported),
-                                                                cells, column.used());
+                                                                column.used());
                                      });
     return pEvaluated;
 }
@@ -128,7 +121,7 @@ void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomData
         {
             tuple.value().set(result);
             if (pRow != nullptr)
-                pRow->getData().emplace(tuple.token().token(), result, cellsForRows());
+                pRow->getData().emplace(tuple.token().token(), result);
         }
         else if (!message.isEmpty()) // a formula that is none has no message: there is nothing to compute
         {
@@ -157,14 +150,4 @@ int VorBomHeaderPlan::leaveLastFormula()
             tuples[formula.index()].value().set(result);
     }
     return 1;
-}
-
-VorBomPayloadCells& VorBomHeaderPlan::cellsForRows()
-{
-    if (!m_cellsForRows || m_cellsForRows->isUsedUp())
-    {
-        m_numCellsForRows = std::clamp(2 * m_numCellsForRows, kFewestCellsForRows, kMostCellsForRows);
-        m_cellsForRows.emplace(m_numCellsForRows);
-    }
-    return *m_cellsForRows;
 }

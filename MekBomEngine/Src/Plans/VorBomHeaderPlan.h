@@ -15,7 +15,6 @@
 #include "VorBomTemplateItem.h"
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 class VorBomHeaderPlan
@@ -59,15 +58,12 @@ public:
 private:
     std::unique_ptr<VorBomTemplateItem> makeSection(VorBomDataRow& row, bool isEmptyDatumReported);
     void refill(VorBomTemplateItem& section, VorBomDataRow& row);
-    VorBomPayloadCells& cellsForRows();
 
     const VorBomTemplateItem& m_section;
     VorBomColumns m_columns; // one per tuple of the section; formulas are left out
     std::vector<VorBomFormulaColumn> m_formulas;
-    std::unique_ptr<VorBomTemplateItem> m_pSpare;     // a section to be filled anew, or null
-    VorBomDataRow* m_pLastRow = nullptr;              // the one that formulas were computed for last; not owned
-    std::optional<VorBomPayloadCells> m_cellsForRows; // of results; apart from the sections, which go before the rows
-    int m_numCellsForRows = 0;                        // of those taken last
+    std::unique_ptr<VorBomTemplateItem> m_pSpare; // a section to be filled anew, or null
+    VorBomDataRow* m_pLastRow = nullptr;          // the one that formulas were computed for last; not owned
     bool m_keepsFailures = false;
     std::vector<Failure> m_failures;
     VorBomDisplayPlan m_display;

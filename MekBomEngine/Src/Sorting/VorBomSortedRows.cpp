@@ -18,17 +18,15 @@ VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorBomSortKeys& keys)
     std::vector<VorString> tokens;
     for (std::size_t key = 0; key < m_keys.count(); ++key)
         tokens.push_back(m_keys.token(key));
-    for (VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
-        m_rows.push_back(pRow);
-    for (Column& column : m_columns)
-        column.resize(m_rows.size());
     // The pointers outlive `columns`: they hold as long as no row gets a tuple, and none does while rows are sorted.
     VorBomColumns columns(std::make_shared<VorBomTuplePositions>(), tokens);
-    for (std::size_t row = 0; row < m_rows.size(); ++row)
+    // Each row is looked up as soon as it is met, so that waiting for the next one is of some use.
+    for (VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
     {
-        columns.find(*m_rows[row]);
+        m_rows.push_back(pRow);
+        columns.find(*pRow);
         for (std::size_t i = 0; i < m_columns.size(); ++i)
-            m_columns[i][row] = columns[static_cast<int>(i)];
+            m_columns[i].push_back(columns[static_cast<int>(i)]);
     }
 }
 

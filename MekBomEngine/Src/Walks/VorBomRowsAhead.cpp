@@ -1,9 +1,8 @@
-// Told on rows 1, 2, 3 ... while row 1 is evaluated. Four fetches are on their way, and none needs what another of
+// Told on rows 1, 2, 3 ... while row 1 is evaluated. Three fetches are on their way, and none needs what another of
 // them brings:
-//   row 6                   whose address row 5 has, which came a row ago
-//   tuples of row 4         whose address row 4 has
-//   payloads of row 3       whose addresses its tuples have
-//   texts of row 2          whose addresses its payloads have
+//   row 5                   whose address row 4 has, which came a row ago
+//   tuples of row 3         whose address row 3 has
+//   texts of row 2          whose addresses its tuples have
 // When row 2 is evaluated, each step takes the row after.
 #include "VorBomRowsAhead.h"
 
@@ -43,21 +42,6 @@ void bringInTuples(const VorBomItemBase& row, const Positions&)
         bringIn(tuples.begin(), static_cast<std::size_t>(tuples.length() + kNumAppended) * sizeof(VorBomDataTuple));
 }
 
-// Visits the values that the row has at `positions`, some of which are VorBomTuplePositions::kNone.
-template <class Visit>
-void forValuesAt(const Positions& positions, const VorBomItemBase& row, Visit visit)
-{
-    const VorBomDataTupleArray& tuples = row.getData();
-    for (const int position : positions)
-        if (position >= 0 && position < tuples.length())
-            visit(tuples.begin()[position].value());
-}
-
-void bringInPayloads(const VorBomItemBase& row, const Positions& positions)
-{
-    forValuesAt(positions, row, [](const VorBomDataValue& value) { VorMemoryHint::willRead(value.data()); });
-}
-
 // Bytes of a text of some ten characters with what stands before them.
 constexpr std::size_t kShortText = 56;
 
@@ -69,13 +53,17 @@ void bringInText(const VorBomDataValue& value)
         bringIn(pMemory, kShortText);
 }
 
+// Some positions are VorBomTuplePositions::kNone.
 void bringInTexts(const VorBomItemBase& row, const Positions& positions)
 {
-    forValuesAt(positions, row, bringInText);
+    const VorBomDataTupleArray& tuples = row.getData();
+    for (const int position : positions)
+        if (position >= 0 && position < tuples.length())
+            bringInText(tuples.begin()[position].value());
 }
 }
 
-// The foremost step stands four rows ahead. The first rows are met with less help or none, which a long list
+// The foremost step stands three rows ahead. The first rows are met with less help or none, which a long list
 // does not feel.
 VorBomRowsAhead::VorBomRowsAhead(VorBomItemBase* pFirst, const VorBomTuplePositions& positions) : m_positions(positions)
 {
@@ -91,7 +79,7 @@ VorBomRowsAhead::VorBomRowsAhead(VorBomItemBase* pFirst, const VorBomTuplePositi
 void VorBomRowsAhead::advance()
 {
     using Step = void (*)(const VorBomItemBase& row, const Positions& positions);
-    static constexpr Step kSteps[kNumSteps] = { bringInNext, bringInTuples, bringInPayloads, bringInTexts };
+    static constexpr Step kSteps[kNumSteps] = { bringInNext, bringInTuples, bringInTexts };
     for (int step = 0; step < kNumSteps; ++step)
     {
         if (m_pRows[step] == nullptr)

@@ -87,6 +87,26 @@ TEST(VorBomTuplePositionsTest, TwoRowsStayValidWhileTheyTakeTurns)
     EXPECT_EQ(1, positions.in(second)[name]);
 }
 
+TEST(VorBomTuplePositionsTest, TokensBehindAllThatAreAskedForMakeNoDifference)
+{
+    VorBomDataRow first, longer, shorter, moved;
+    addTokens(first, { kName, kWeight, kLength });
+    addTokens(longer, { kName, kWeight, L"%Phase", kName, kWeight });
+    addTokens(shorter, { kName });
+    addTokens(moved, { kName, kLength, kWeight });
+    VorBomTuplePositions positions;
+    const int name = positions.ask(kName);
+    const int weight = positions.ask(kWeight);
+    ASSERT_EQ(1, positions.in(first)[weight]);
+
+    EXPECT_EQ(0, positions.in(longer)[name]);
+    EXPECT_EQ(1, positions.in(longer)[weight]);
+    EXPECT_EQ(kNone, positions.in(shorter)[weight]) << "a row that ends before them";
+    EXPECT_EQ(1, positions.in(first)[weight]);
+    EXPECT_EQ(2, positions.in(moved)[weight]);
+    EXPECT_EQ(0, positions.in(moved)[name]);
+}
+
 TEST(VorBomTuplePositionsTest, RowThatGrowsIsLookedAtFromThereOn)
 {
     VorBomDataRow row;

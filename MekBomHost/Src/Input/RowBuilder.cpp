@@ -10,7 +10,6 @@
 #include "Utf8.h"
 
 #include "VorBomDataRow.h"
-#include "VorBomPayloadCells.h"
 
 #include "MekRoots/Exp/VorMemoryHint.h"
 
@@ -133,13 +132,12 @@ void RowBuilder::buildRow(Row& row, std::size_t endDatum)
     // A row of a large model holds no more than it needs.
     const auto numTuples = static_cast<int>(pEnd - pFirst);
     tuples.setPhysicalLength(numTuples + m_numReserved);
-    VorBomPayloadCells cells(numTuples);
     for (const Datum* pDatum = pFirst; pDatum != pEnd; ++pDatum)
         switch (pDatum->type)
         {
-            case VorBomDataValue::kIntData: tuples.emplace(*pDatum->pToken, pDatum->whole, cells); break;
-            case VorBomDataValue::kDoubleData: tuples.emplace(*pDatum->pToken, pDatum->number, cells); break;
-            default: tuples.emplace(*pDatum->pToken, *pDatum->pText, cells); break;
+            case VorBomDataValue::kIntData: tuples.emplace(*pDatum->pToken, pDatum->whole); break;
+            case VorBomDataValue::kDoubleData: tuples.emplace(*pDatum->pToken, pDatum->number); break;
+            default: tuples.emplace(*pDatum->pToken, *pDatum->pText); break;
         }
     m_data.addChild(pRow.release());
 }

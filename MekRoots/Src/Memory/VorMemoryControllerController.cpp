@@ -15,19 +15,6 @@ void* VorMemoryControllerController::allocate(std::size_t size, bool isAlignedTo
     return pHeap->allocate(size, isAlignedTo16);
 }
 
-// One piece is cut off the run for all of them. The heap has counted it as one live block, so the others are added.
-void* VorMemoryControllerController::allocateNeighbours(std::size_t numBlocks, std::size_t blockSize)
-{
-    VorMemoryHeap* pHeap = VorMemoryThread::heap();
-    if (pHeap == nullptr || numBlocks == 0 || !VorMemoryThread::isPooled(blockSize) ||
-        numBlocks > kLargestNeighbourhood / blockSize)
-        return nullptr;
-    void* pBlocks = pHeap->allocate(numBlocks * blockSize, false);
-    pHeap->addLive(static_cast<long long>(numBlocks) - 1);
-    return pBlocks;
-}
-
-// Neighbours come back here one by one, each with its own size and its own place in the count of live blocks.
 void VorMemoryControllerController::release(void* pBlock, std::size_t size)
 {
     VorMemoryHeap* pHeap = VorMemoryThread::heap();

@@ -40,8 +40,7 @@ public:
     static VorMemoryHeap& takeOne();
     static void handBack(VorMemoryHeap& heap);
 
-    // `size` bytes, at least 1, aligned to 8 or to 16. At most VorMemoryControllerController::kLargestNeighbourhood: a
-    // block of up to kLargestBlock bytes, or several blocks at once. Throws std::bad_alloc.
+    // `size` bytes, 1 to kLargestBlock, aligned to 8 or to 16. Throws std::bad_alloc.
     void* allocate(std::size_t size, bool isAlignedTo16)
     {
         size = rounded(size);
