@@ -14,7 +14,8 @@
 //
 // Tokens are texts that share their characters when they are copied. Rows whose equal tokens are copies of one
 // VorString are looked up fastest, as a text that was met before is known by its address: whoever makes a million rows
-// should make each token once and hand it to all of them.
+// should make each token once and hand it to all of them. Threads that make reports at the same time should each make
+// their own: every copy of a text is counted in one place, and threads that count there by turns wait for each other.
 //
 // Which of two tuples with equal tokens counts is the rule of the list that they stand in, not theirs: a look-up finds
 // the first (VorBomItemBase::getTupleAt).

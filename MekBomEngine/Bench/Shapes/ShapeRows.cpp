@@ -5,20 +5,6 @@
 
 namespace
 {
-// One text for each token, shared by all rows.
-struct Tokens
-{
-    const VorString handle{ L"%Handle" }, position{ L"%Num" }, mark{ L"%MNum" }, material{ L"%Material" },
-        profile{ L"%Name" }, length{ L"%Length" }, weight{ L"%Weight" }, paint{ L"%Paint" }, quantity{ L"%Quantity" },
-        phase{ L"%Phase" }, type{ L"%Class" }, coating{ L"%Coating" }, thickness{ L"%Thick" }, width{ L"%Width" };
-};
-
-const Tokens& tokens()
-{
-    static const Tokens all;
-    return all;
-}
-
 VorString numbered(const wchar_t* pattern, unsigned number)
 {
     VorString text;
@@ -74,22 +60,21 @@ ShapeRows::ShapeRows(int numRows)
 ShapeRow ShapeRows::cellsOf(int index) const
 {
     const ShapePart& part = parts[static_cast<std::size_t>(index)];
-    const Tokens& token = tokens();
     return {
-        { token.handle, numbered(L"%X", static_cast<unsigned>(index) + 4096) },
-        { token.position, positions[part.position] },
-        { token.mark, marks[part.mark] },
-        { token.material, materials[part.material] },
-        { token.profile, profiles[part.profile] },
-        { token.length, part.length },
-        { token.weight, part.weight },
-        { token.paint, part.paint },
-        { token.quantity, part.quantity },
-        { token.phase, phases[part.phase] },
-        { token.type, types[part.type] },
-        { token.coating, coatings[part.coating] },
-        { token.thickness, part.thickness },
-        { token.width, part.width },
+        { tokens.handle, numbered(L"%X", static_cast<unsigned>(index) + 4096) },
+        { tokens.position, positions[part.position] },
+        { tokens.mark, marks[part.mark] },
+        { tokens.material, materials[part.material] },
+        { tokens.profile, profiles[part.profile] },
+        { tokens.length, part.length },
+        { tokens.weight, part.weight },
+        { tokens.paint, part.paint },
+        { tokens.quantity, part.quantity },
+        { tokens.phase, phases[part.phase] },
+        { tokens.type, types[part.type] },
+        { tokens.coating, coatings[part.coating] },
+        { tokens.thickness, part.thickness },
+        { tokens.width, part.width },
     };
 }
 

@@ -6,7 +6,7 @@
 //   rows.addTo(data, [](ShapeRow& row, int) { row.pop_back(); });    // how a row tells it
 //
 // Equal texts of a column share one text, and equal tokens share theirs, as a host that reads a file makes them. Only the
-// handle is a text of its own.
+// handle is a text of its own. Rows of another ShapeRows share nothing with them, so that threads do not meet in texts.
 #pragma once
 
 #include "MekBomEngine/Src/VorBomData.h"
@@ -31,6 +31,14 @@ struct ShapeCell
 };
 using ShapeRow = std::vector<ShapeCell>;
 
+// One text for each token, shared by all rows of a list.
+struct ShapeTokens
+{
+    VorString handle{ L"%Handle" }, position{ L"%Num" }, mark{ L"%MNum" }, material{ L"%Material" },
+        profile{ L"%Name" }, length{ L"%Length" }, weight{ L"%Weight" }, paint{ L"%Paint" }, quantity{ L"%Quantity" },
+        phase{ L"%Phase" }, type{ L"%Class" }, coating{ L"%Coating" }, thickness{ L"%Thick" }, width{ L"%Width" };
+};
+
 class ShapeRows
 {
 public:
@@ -40,6 +48,7 @@ public:
     // decimal, weights two.
     explicit ShapeRows(int numRows);
 
+    ShapeTokens tokens;
     std::vector<ShapePart> parts;
     std::vector<VorString> positions, marks, materials, profiles, phases, types, coatings;
     int numFormulas = 1; // that a row has room for without its tuples being moved
