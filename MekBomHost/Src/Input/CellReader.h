@@ -17,6 +17,7 @@
 #include "FindingList.h"
 #include "HandleCheck.h"
 #include "InputColumn.h"
+#include "NumberNotation.h"
 #include "PartsFacts.h"
 #include "RecordSource.h"
 #include "RowBuilder.h"
@@ -42,6 +43,10 @@ public:
     // Rows get room for that many more tuples: the evaluation adds one for each formula.
     void reserveTuples(int numTuples) { m_rows.reserveTuples(numTuples); }
 
+    // How numbers are written in cells that are texts; the plain way where nobody says it. To be called before the first
+    // read().
+    void setNotation(const NumberNotation& notation);
+
     // Each row gets its number, from 1, as its handle: for data that bring none.
     void numberRows(const VorString& handleToken) { m_numberToken = handleToken; }
 
@@ -65,22 +70,32 @@ private:
         int numFilled = 0;
         int numDecimals = 0;
         bool isRefused = false; // for want of a unit, which is said once
+        bool isUnclear = false; // a number may be two, which is said once, too
     };
 
     bool checkNumCells(const Record& record);
-    int piecesOf(const Record& record) const;
+    int piecesOf(const Record& record);
+    template <class Read>
+    NumberNotation::eReading readWithNotation(std::size_t column, const RecordCell& cell, std::string_view text,
+                                              const Read& read, bool& isRead);
     void readCell(std::size_t column, const RecordCell& cell);
     std::string_view textOf(const RecordCell& cell);
-    void readWhole(std::size_t column, std::string_view text);
+    void readWhole(std::size_t column, const RecordCell& cell);
     void readNumber(std::size_t column, const RecordCell& cell);
     bool divideByPieces(double& value) const;
-    void readText(std::size_t column, std::string_view text);
-    void readUntyped(std::size_t column, std::string_view text);
+    void readText(std::size_t column, const RecordCell& cell);
+    void readUntyped(std::size_t column, const RecordCell& cell);
     void readHandle(std::size_t column, std::string_view text);
-    bool readQuantity(std::size_t column, std::string_view text, double& value);
+    bool readQuantity(std::size_t column, std::string_view text, double& value) const;
+    void refuseNumber(std::size_t column, std::string_view text);
+    bool refuseNotation(std::size_t column, std::string_view text, NumberNotation::eReading reading);
+    void refuseUnclear(std::size_t column, std::string_view text);
+    void refuseOtherSign(std::size_t column, std::string_view text);
+    void noteGroups(std::size_t column, std::string_view text);
     void refuseForWantOfUnit(std::size_t column, std::string_view text);
     void addFinding(const FindingCode& code, std::size_t column, std::string_view text, const std::string& expected,
                     const std::string& remedy = std::string());
+    void addFinding(Finding finding, std::size_t column);
     void addNumberAsHandle();
     void addHandleFindings();
     void fillOpenColumns();
@@ -104,5 +119,8 @@ private:
     int m_numEmptyRows = 0;   // passed over
     int m_numPieces = 1;      // of the row that is being read; looked at only where row totals are divided
     std::string m_numberText; // of the cell that is being read, if it is a number
+    NumberNotation m_notation;
+    std::string m_plainText;  // of the cell that is being read, where its number is written in another way
+    bool m_hasGroups = false; // digits in groups, which is said of the first number
 };
 }

@@ -1,9 +1,17 @@
 // What a user says of how parts lists are to be read. What is left empty is found in the file.
 #pragma once
 
+#include "NumberNotation.h"
+#include "TextEncoding.h"
+
+#include <optional>
+
 namespace mekbom
 {
 struct InputChoices
 {
+    std::optional<char> delimiter;                               // between the fields of CSV
+    std::optional<TextEncoding::eEncoding> encoding;             // of CSV
+    NumberNotation::eSign decimalSign = NumberNotation::kNoSign; // of numbers that are texts
 };
 }

@@ -1,11 +1,11 @@
 #include "PartsFormats.h"
 
-#include "CsvReader.h"
+#include "CsvFile.h"
 
 namespace mekbom::PartsFormats
 {
-std::unique_ptr<RecordSource> open(ByteSource& source, const InputChoices&, FindingList&)
+std::unique_ptr<RecordSource> open(ByteSource& source, const InputChoices& choices, FindingList& notes)
 {
-    return std::make_unique<CsvReader>(source);
+    return std::make_unique<CsvFile>(source, choices, notes);
 }
 }

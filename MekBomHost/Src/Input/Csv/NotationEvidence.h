@@ -1,0 +1,36 @@
+// Collects what the cells of number columns show of how their file writes numbers.
+//
+//   NotationEvidence evidence;
+//   evidence.add("1.234", 2);          // shows nothing: a thousand and more, or one and a little
+//   evidence.add("12,5", 3);
+//   evidence.notation(';')             ->  a decimal comma, settled, "as \"12,5\" on line 3 shows"
+#pragma once
+
+#include "NumberNotation.h"
+
+#include <string>
+#include <string_view>
+
+namespace mekbom
+{
+class NotationEvidence
+{
+public:
+    // `line` is the one on which the cell stands.
+    void add(std::string_view cell, int line);
+
+    // Settled where all cells that show a sign show the same one. Where some show the one and some the other, it is the
+    // sign of the most, and open. Where none shows any, the comma between fields speaks for the point.
+    NumberNotation notation(char delimiter) const;
+
+private:
+    struct Shown
+    {
+        int number = 0;
+        std::string first; // "\"12,5\" on line 3"
+    };
+
+    Shown m_point;
+    Shown m_comma;
+};
+}
