@@ -113,7 +113,7 @@ public:
     const void* memory() const { return m_pBlock; }
 
     // Promises that no text is used on one thread while a copy of it is on another, whatever threads this process will
-    // have: users are then counted without locks all the same, which takes a report of many rows a tenth less time. For
+    // have: users are then counted without locks all the same, which takes a twelfth off the time of a report of many rows. For
     // the main() of a program whose other threads share no texts, before it starts them; not for a library, which does
     // not know. Cannot be taken back.
     static void promiseNotToShare() { s_isNotShared = true; }

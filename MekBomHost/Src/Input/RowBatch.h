@@ -49,7 +49,7 @@ public:
         };
     };
 
-    // Measured: a batch on its way from one thread to another stays within the processor's caches.
+    // Arbitrary: few enough to stay in the caches between two threads, many against what handing over takes.
     static constexpr std::size_t kMostRows = 512;
 
     explicit RowBatch(std::size_t numColumns);
