@@ -10,8 +10,8 @@
 //      and every evaluated section of a report.
 //   2. A block with more than one user is never written to. Every operation that changes a text first gives it a block
 //      of its own.
-// Copies may be used and destroyed on different threads; one VorString object is for one thread at a time. Where there is
-// one thread alone users are counted without locks, and where a program promises as good as that.
+// Copies may be used and destroyed on different threads; one VorString object is for one thread at a time. Where there
+// is one thread alone users are counted without locks, and where a program promises as good as that.
 //
 // Texts are ordered by the numeric value of their characters; nothing here knows a locale. Positions and lengths count
 // characters of type wchar_t, whatever their width on the platform.
@@ -113,9 +113,9 @@ public:
     const void* memory() const { return m_pBlock; }
 
     // Promises that no text is used on one thread while a copy of it is on another, whatever threads this process will
-    // have: users are then counted without locks all the same, which takes a twelfth off the time of a report of many rows. For
-    // the main() of a program whose other threads share no texts, before it starts them; not for a library, which does
-    // not know. Cannot be taken back.
+    // have: users are then counted without locks all the same, which takes a twelfth off the time of a report of many
+    // rows. For the main() of a program whose other threads share no texts, before it starts them; not for a library,
+    // which does not know. Cannot be taken back.
     static void promiseNotToShare() { s_isNotShared = true; }
 
     // -1, 0 or 1 by the characters' numeric values from the left; a prefix comes before the longer text.

@@ -39,27 +39,35 @@ const int* VorBomTuplePositions::lookAt(const VorBomItemBase& row)
     const int numKnown = hasGrown ? latest.numTuples : 0;
     latest.pRow = &row;
     latest.numTuples = tuples.length();
-    if (!hasGrown && hasPattern(tuples))
-    {
+    if (hasGrown)
+        findFrom(numKnown, tuples, latest.positions.data());
+    else if (hasPattern(tuples))
         latest.positions = m_patternPositions;
-        return latest.positions.data();
-    }
-    if (!hasGrown)
+    else
+    {
         latest.positions.assign(static_cast<std::size_t>(m_nNumNumbers), kNone);
-    findFrom(numKnown, tuples, latest.positions.data());
-    if (!hasGrown)
+        findAll(tuples, latest.positions.data());
         keepAsPattern(tuples, latest.positions);
+    }
     return latest.positions.data();
 }
 
-// Of equal tokens the first tuple is found.
-void VorBomTuplePositions::findFrom(int first, const VorBomDataTupleArray& tuples, int* pPositions)
+// From the last tuple to the first, so that of equal tokens the first stays. What nobody asks for has a place as well:
+// in rows of many tokens in any order nobody could foresee which of them are asked for, a processor neither.
+void VorBomTuplePositions::findAll(const VorBomDataTupleArray& tuples, int* pPositions)
 {
     const VorBomDataTuple* const pTuples = tuples.begin();
-    const int numTuples = tuples.length();
-    for (int i = first; i < numTuples; ++i)
+    for (int i = tuples.length(); i-- > 0;)
+        pPositions[numberOf(pTuples[i].token().token())] = i;
+    pPositions[kNotAsked] = kNone;
+}
+
+// Among the tuples from `first` on, those of tokens that the row had none of before.
+void VorBomTuplePositions::findFrom(int first, const VorBomDataTupleArray& tuples, int* pPositions)
+{
+    for (int i = first; i < tuples.length(); ++i)
     {
-        const int number = numberOf(pTuples[i].token().token());
+        const int number = numberOf(tuples.begin()[i].token().token());
         if (number != kNotAsked && pPositions[number] == kNone)
             pPositions[number] = i;
     }

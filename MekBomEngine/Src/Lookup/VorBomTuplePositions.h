@@ -69,6 +69,7 @@ private:
     static constexpr std::size_t kMostKnown = 4096;
 
     const int* lookAt(const VorBomItemBase& row);
+    void findAll(const VorBomDataTupleArray& tuples, int* pPositions);
     void findFrom(int first, const VorBomDataTupleArray& tuples, int* pPositions);
     bool hasPattern(const VorBomDataTupleArray& tuples) const;
     void keepAsPattern(const VorBomDataTupleArray& tuples, const std::vector<int>& positions);

@@ -138,12 +138,12 @@ void VorBomFooterPlan::takeIn(VorBomDataRow& row)
 {
     if (row.getUseThisDataForSums() == 0)
         return;
-    m_columns.find(row);
+    const VorBomColumns::Found found = m_columns.find(row);
     VorBomDataTuple* pTuple = m_pFooter->getData().begin();
     const int numColumns = m_columns.count();
     for (int i = 0; i < numColumns; ++i, ++pTuple)
     {
-        const VorBomDataTuple* pDatum = m_columns[i];
+        const VorBomDataTuple* pDatum = found[i];
         if (pDatum == nullptr)
             continue;
         ++m_numFound[static_cast<std::size_t>(i)];

@@ -10,6 +10,7 @@
 #include "ExpressionEvaluator/Src/VorFormulaText.h"
 
 #include <algorithm>
+#include <optional>
 #include <string_view>
 #include <utility>
 
@@ -113,11 +114,12 @@ int VorBomFormulaColumn::compute(const VorBomDataTupleArray& tuples, VorBomDataR
 // written to m_values until then is of no matter: the next row writes all of it anew.
 int VorBomFormulaColumn::computeCompiled(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result)
 {
+    std::optional<VorBomColumns::Found> found;
     if (pRow != nullptr)
-        m_rowColumns.find(*pRow);
+        found = m_rowColumns.find(*pRow);
     for (std::size_t name = 0; name < m_values.size(); ++name)
     {
-        const VorBomDataTuple* pDatum = pRow == nullptr ? nullptr : m_rowColumns[static_cast<int>(name)];
+        const VorBomDataTuple* pDatum = found.has_value() ? (*found)[static_cast<int>(name)] : nullptr;
         if ((pDatum == nullptr || !getNumber(pDatum->value(), m_values[name])) &&
             !findInSection(name, tuples, m_values[name]))
             return 0;

@@ -82,26 +82,26 @@ void VorBomHeaderPlan::takeBack(std::unique_ptr<VorBomTemplateItem> pSection)
 // Each value takes the place of the one before, a number that of the text that it was shown as.
 void VorBomHeaderPlan::refill(VorBomTemplateItem& section, VorBomDataRow& row)
 {
-    m_columns.find(row);
+    const VorBomColumns::Found found = m_columns.find(row);
     const VorBomDataTuple* pColumn = m_section.getData().begin();
     VorBomDataTuple* pTuple = section.getData().begin();
     for (int i = 0; i < m_columns.count(); ++i, ++pColumn, ++pTuple)
-        pTuple->value() = valueFor(*pColumn, m_columns[i], true);
+        pTuple->value() = valueFor(*pColumn, found[i], true);
 }
 
 // A report makes a section for every row, so the room for its tuples is taken at once, and each is made in its place.
 std::unique_ptr<VorBomTemplateItem> VorBomHeaderPlan::makeSection(VorBomDataRow& row, bool isEmptyDatumReported)
 {
-    m_columns.find(row);
+    const VorBomColumns::Found found = m_columns.find(row);
     const VorBomDataTupleArray& columns = m_section.getData();
     auto pEvaluated = std::make_unique<VorBomTemplateItem>(m_section, VorBomTemplateItem::kWithoutLinksAndTuples);
     pEvaluated->getData().setPhysicalLength(columns.length());
     pEvaluated->getData().appendMade(columns.length(),
-                                     [this, isEmptyDatumReported, pColumns = columns.begin()](int i)
+                                     [found, isEmptyDatumReported, pColumns = columns.begin()](int i)
                                      {
                                          const VorBomDataTuple& column = pColumns[i];
                                          return VorBomDataTuple(column.token().token(),
-                                                                valueFor(column, m_columns[i], isEmptyDatumReported),
+                                                                valueFor(column, found[i], isEmptyDatumReported),
                                                                 column.used());
                                      });
     return pEvaluated;

@@ -15,8 +15,7 @@ VorBomLevelPlan::VorBomLevelPlan(const std::shared_ptr<VorBomTuplePositions>& pP
                                  const VorBomTemplateItem& headerSection, const VorBomTemplateItem* pFooterSection)
     : header(pPositions, headerSection),
       m_pPositions(pPositions),
-      m_grouping(pPositions, toVector(headerSection.groupingTokens())),
-      m_groupingOfLast(pPositions, toVector(headerSection.groupingTokens()))
+      m_grouping(pPositions, toVector(headerSection.groupingTokens()))
 {
     if (pFooterSection != nullptr)
         footer.emplace(pPositions, *pFooterSection);
@@ -25,10 +24,10 @@ VorBomLevelPlan::VorBomLevelPlan(const std::shared_ptr<VorBomTuplePositions>& pP
 // The row before is looked up again, not remembered: it may have got results of formulas since, and its tuples moved.
 int VorBomLevelPlan::isSameGroup(VorBomDataRow& row, VorBomDataRow& lastRow)
 {
-    m_grouping.find(row);
-    m_groupingOfLast.find(lastRow);
+    const VorBomColumns::Found here = m_grouping.find(row);
+    const VorBomColumns::Found before = m_grouping.find(lastRow);
     for (int i = 0; i < m_grouping.count(); ++i)
-        if (VorBomDataTuple::compareValues(m_grouping[i], m_groupingOfLast[i]) != 0)
+        if (VorBomDataTuple::compareValues(here[i], before[i]) != 0)
             return 0;
     return 1;
 }

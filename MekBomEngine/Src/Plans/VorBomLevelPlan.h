@@ -36,5 +36,4 @@ public:
 private:
     std::shared_ptr<VorBomTuplePositions> m_pPositions;
     VorBomColumns m_grouping;
-    VorBomColumns m_groupingOfLast; // of the same tokens: an object knows one row at a time
 };

@@ -24,9 +24,9 @@ VorBomSortedRows::VorBomSortedRows(VorBomData& data, const VorBomSortKeys& keys)
     for (VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
     {
         m_rows.push_back(pRow);
-        columns.find(*pRow);
+        const VorBomColumns::Found found = columns.find(*pRow);
         for (std::size_t i = 0; i < m_columns.size(); ++i)
-            m_columns[i].push_back(columns[static_cast<int>(i)]);
+            m_columns[i].push_back(found[static_cast<int>(i)]);
     }
 }
 

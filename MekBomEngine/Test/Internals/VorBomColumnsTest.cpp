@@ -16,12 +16,12 @@ const VorString kWeight(L"%Weight");
 // What `columns` finds in the row, as texts with blanks between; "-" for nothing.
 VorString found(VorBomColumns& columns, VorBomItemBase& row)
 {
-    columns.find(row);
+    const VorBomColumns::Found tuples = columns.find(row);
     VorString text;
     for (int i = 0; i < columns.count(); ++i)
     {
         text += i == 0 ? L"" : L" ";
-        text += columns[i] == nullptr ? VorString(L"-") : columns[i]->value().asString();
+        text += tuples[i] == nullptr ? VorString(L"-") : tuples[i]->value().asString();
     }
     return text;
 }
@@ -39,7 +39,7 @@ TEST(VorBomColumnsTest, TheFirstTupleOfEachTokenIsFound)
     VorBomColumns columns = nameAndWeight();
 
     EXPECT_EQ(VorString(L"2 1"), found(columns, row));
-    EXPECT_EQ(row.getTupleAt(kWeight), columns[1]) << "the row's own tuple, not a copy";
+    EXPECT_EQ(row.getTupleAt(kWeight), columns.find(row)[1]) << "the row's own tuple, not a copy";
 }
 
 TEST(VorBomColumnsTest, WhatIsLeftOutIsFoundInNoRow)
@@ -132,10 +132,10 @@ TEST(VorBomColumnsTest, RandomRowsAreReadAsLookingUpTokenByTokenDoes)
             row.addData(VorBomDataTuple(random() % 8 == 0 ? VorString(token.getStringW()) : token, step));
         }
 
-        columns.find(row);
+        const VorBomColumns::Found tuples = columns.find(row);
 
         for (int i = 0; i < columns.count(); ++i)
-            ASSERT_EQ(row.getTupleAt(asked[i]), columns[i]) << step;
+            ASSERT_EQ(row.getTupleAt(asked[i]), tuples[i]) << step;
     }
 }
 

@@ -13,7 +13,6 @@
 #include "ColumnHeading.h"
 #include "ColumnNotes.h"
 #include "ColumnsTemplate.h"
-#include "CsvReader.h"
 #include "DataTokens.h"
 #include "DisplaySettings.h"
 #include "Excuses.h"
@@ -23,6 +22,7 @@
 #include "InQuotes.h"
 #include "MistakeCodes.h"
 #include "NamedText.h"
+#include "PartsFormats.h"
 #include "PieceTokens.h"
 #include "RowsCheck.h"
 #include "TemplateCheck.h"
@@ -242,7 +242,7 @@ void ReportJob::openParts()
             refuseForSample("--row-totals");
         return;
     }
-    m_pRecords = std::make_unique<CsvReader>(*m_request.pParts);
+    m_pRecords = PartsFormats::open(*m_request.pParts, m_request.input, m_findings);
     m_pParts = std::make_unique<PartsList>(*m_pRecords, m_request.numProcessors);
     for (const auto& [token, unit] : m_request.inputUnits)
         m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);

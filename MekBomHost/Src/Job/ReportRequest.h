@@ -15,6 +15,7 @@
 #pragma once
 
 #include "ByteSource.h"
+#include "InputChoices.h"
 #include "LineContents.h"
 
 #include <memory>
@@ -28,7 +29,8 @@ struct ReportRequest
 {
     using Pairs = std::vector<std::pair<std::string, std::string>>;
 
-    std::unique_ptr<ByteSource> pParts; // a parts list, comma-separated; null for the sample rows
+    std::unique_ptr<ByteSource> pParts; // a parts list; null for the sample rows
+    InputChoices input;                 // how it is to be read
     Pairs inputUnits;                   // of columns whose heading names none: "%Paint", "m2"
 
     std::unique_ptr<ByteSource> pTemplate; // null for the one of the candidates that suits the parts list best

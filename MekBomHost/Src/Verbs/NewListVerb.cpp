@@ -10,8 +10,9 @@
 #include "NewListVerb.h"
 
 #include "ColumnsTemplate.h"
-#include "CsvReader.h"
 #include "DataFile.h"
+#include "FindingList.h"
+#include "PartsFormats.h"
 #include "PartsList.h"
 #include "StandardOutput.h"
 #include "UntypedCells.h"
@@ -30,17 +31,18 @@ CLI::App& NewListVerb::declareOn(CLI::App& parent)
     newList.add_option("data", m_data, "Parts list; - reads standard input, hall takes the shipped one")
         ->required()
         ->type_name("FILE");
+    m_input.declareOn(newList);
     newList.footer("Examples\n"
                    "  mekbom new-list parts.csv > list.json\n"
                    "  mekbom report --data parts.csv --template list.json");
     return newList;
 }
 
-ExitStatus NewListVerb::run(FindingList&)
+ExitStatus NewListVerb::run(FindingList& findings)
 {
     const std::unique_ptr<ByteSource> pFile = DataFile::open(m_data);
-    CsvReader records(*pFile);
-    StandardOutput::print(ColumnsTemplate::textOf(columnsOf(records)));
+    const std::unique_ptr<RecordSource> pRecords = PartsFormats::open(*pFile, m_input.choices(), findings);
+    StandardOutput::print(ColumnsTemplate::textOf(columnsOf(*pRecords)));
     return kDone;
 }
 

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "InputColumn.h"
+#include "InputOptions.h"
 #include "Verb.h"
 
 #include <string>
@@ -24,6 +25,7 @@ private:
     // The columns of the header row, each with the type that its cells have, all records read.
     static std::vector<InputColumn> columnsOf(RecordSource& records);
 
+    InputOptions m_input;
     std::string m_data; // a file, or a word as DataFile takes it
 };
 }

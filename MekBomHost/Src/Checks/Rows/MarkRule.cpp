@@ -1,5 +1,5 @@
-// Two marks can differ by leading zeros only where one has any, and most lists have none: keeping each mark took
-// 4 % of the instructions of the whole job. So rows are gone through a second time once a mark such as "B02" was met. Then
+// Two marks can differ by leading zeros only where one has any, and most lists have none: keeping each mark took 4 % of
+// the instructions of the whole job. So rows are gone through a second time once a mark such as "B02" was met. Then
 // marks are kept under what natural order takes them for. The first one under a name stays; another spelling under the
 // same name is the mistake:
 //

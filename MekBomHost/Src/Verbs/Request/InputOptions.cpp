@@ -1,0 +1,8 @@
+#include "InputOptions.h"
+
+#include <CLI/CLI.hpp>
+
+namespace mekbom
+{
+void InputOptions::declareOn(CLI::App&) {}
+}
