@@ -62,11 +62,9 @@ const FindingCode& codeOf(std::string_view text, const FindingCode& otherwise)
 }
 }
 
-CellReader::CellReader(const std::vector<InputColumn>& columns, const RecordSource& source, VorBomData& data)
+CellReader::CellReader(const std::vector<InputColumn>& columns, RecordSource& source)
     : m_columns(columns),
       m_source(source),
-      m_data(data),
-      m_rows(data, columns.size()),
       m_untypedCells(columns.size()),
       m_notes(columns.size()),
       m_handleColumn(indexOf(columns, [](const InputColumn& column) { return column.isHandle; })),
@@ -90,6 +88,16 @@ void CellReader::setNotation(const NumberNotation& notation)
             m_untypedCells[i].setNotation(notation);
 }
 
+bool CellReader::read(RowBatch& batch)
+{
+    batch.clear();
+    m_pBatch = &batch;
+    const Record* pRecord = nullptr;
+    while (!batch.isFull() && (pRecord = m_source.next()) != nullptr)
+        read(*pRecord);
+    return pRecord != nullptr || batch.numRows() > 0;
+}
+
 // A record with a wrong cell makes a row all the same, of the cells that are right: reading goes on, so that one run
 // tells all mistakes, and finish() throws before anybody sees such a row.
 void CellReader::read(const Record& record)
@@ -102,7 +110,7 @@ void CellReader::read(const Record& record)
         return;
     }
     ++m_numRows;
-    m_rows.beginRow();
+    m_pBatch->beginRow();
     if (m_numberToken.isEmpty() == 0)
         addNumberAsHandle();
     if (m_dividesRowTotals)
@@ -111,26 +119,23 @@ void CellReader::read(const Record& record)
         if (!record[column].isNothing())
             readCell(column, record[column]);
     if (m_piecesToken.isEmpty() == 0 && (m_piecesColumn == record.size() || record[m_piecesColumn].isNothing()))
-        m_rows.add(m_piecesToken, 1);
+        m_pBatch->add(m_piecesToken, 1);
     if (m_handleColumn != record.size())
         m_handles.add(textOf(record[m_handleColumn]));
-    if (m_rows.isFull())
-        m_rows.build();
 }
 
-PartsFacts CellReader::finish()
+PartsFacts CellReader::finish(VorBomData& data)
 {
     addHandleFindings();
     m_findings.throwIfAnyError();
-    m_rows.build();
-    fillOpenColumns();
+    fillOpenColumns(data);
     return facts();
 }
 
 // The columns whose type was open are filled in last: `takeNext` gives their cells in the order of the rows.
 // A row has a tuple of such a column exactly where a text of it was kept, so the next tuple met always belongs to the
 // next text. That holds only if no row with these tokens was in the data before the first record.
-void CellReader::fillOpenColumns()
+void CellReader::fillOpenColumns(VorBomData& data)
 {
     std::vector<std::size_t> openColumns;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
@@ -138,7 +143,7 @@ void CellReader::fillOpenColumns()
             openColumns.push_back(i);
     if (openColumns.empty())
         return;
-    for (VorBomItemBase* pRow = m_data.child(); pRow != nullptr; pRow = pRow->next())
+    for (VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
         for (const std::size_t column : openColumns)
             if (VorBomDataTuple* pTuple = pRow->getTupleAt(m_columns[column].tupleToken))
                 pTuple->value() = m_untypedCells[column].takeNext();
@@ -232,7 +237,7 @@ void CellReader::readWhole(std::size_t column, const RecordCell& cell)
     const auto read = [&value](std::string_view plain) { return readWholeNumber(plain, value); };
     const NumberNotation::eReading reading = readWithNotation(column, cell, text, read, isRead);
     if (isRead)
-        return m_rows.add(m_columns[column].tupleToken, value);
+        return m_pBatch->add(m_columns[column].tupleToken, value);
     if (refuseNotation(column, text, reading))
         return;
     const bool isWhole = NumberReader::isWhole(NumberReader::withoutZeroDecimals(text));
@@ -274,7 +279,7 @@ void CellReader::readNumber(std::size_t column, const RecordCell& cell)
         return addFinding(FindingCodes::kTotalOfNoPieces, column, text, "0 in a row of 0 pieces");
     int& mostDecimals = m_notes[column].numDecimals;
     mostDecimals = std::max(mostDecimals, numDecimals);
-    m_rows.add(properties.tupleToken, value);
+    m_pBatch->add(properties.tupleToken, value);
 }
 
 // False when there are no pieces to divide by.
@@ -292,7 +297,7 @@ void CellReader::readText(std::size_t column, const RecordCell& cell)
     if (properties.isHandle)
         readHandle(column, textOf(cell));
     else if (properties.type == VorBomDataValue::kStringData)
-        m_rows.addText(properties.tupleToken, column, textOf(cell));
+        m_pBatch->addText(properties.tupleToken, column, textOf(cell));
     else
         readUntyped(column, cell);
 }
@@ -314,14 +319,14 @@ void CellReader::readUntyped(std::size_t column, const RecordCell& cell)
             return addFinding(codeOf(text, MistakeCodes::kKindsMixed), column, text, "a number", properties.whyNumbers);
     }
     m_untypedCells[column].add(kept);
-    m_rows.add(properties.tupleToken, 0); // a place for the value that finish() sets
+    m_pBatch->add(properties.tupleToken, 0); // a place for the value that finish() sets
 }
 
 void CellReader::readHandle(std::size_t column, std::string_view text)
 {
-    m_rows.setHandle(text);
+    m_pBatch->setHandle(text);
     if (m_columns[column].isWanted)
-        m_rows.addHandle(m_columns[column].tupleToken);
+        m_pBatch->addHandle(m_columns[column].tupleToken);
 }
 
 // A cell that is more than a number.
@@ -417,8 +422,8 @@ void CellReader::addFinding(Finding finding, std::size_t column)
 // The number is that of the row in the list, from 1; empty rows have none, so that it is one less behind each of them.
 void CellReader::addNumberAsHandle()
 {
-    m_rows.setHandle(std::to_string(m_numRows));
-    m_rows.addHandle(m_numberToken);
+    m_pBatch->setHandle(std::to_string(m_numRows));
+    m_pBatch->addHandle(m_numberToken);
 }
 
 void CellReader::addHandleFindings()

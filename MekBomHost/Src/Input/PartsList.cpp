@@ -7,6 +7,7 @@
 //   nothing asks for %Length              its cells are not looked at
 #include "PartsList.h"
 
+#include "BatchesAhead.h"
 #include "CellReader.h"
 #include "ColumnHeading.h"
 #include "DataTokens.h"
@@ -15,6 +16,7 @@
 #include "FindingList.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
+#include "RowBuilder.h"
 #include "TokenNames.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
@@ -72,7 +74,7 @@ std::string statementOf(const InputColumn& column)
 }
 }
 
-PartsList::PartsList(RecordSource& source) : m_source(source)
+PartsList::PartsList(RecordSource& source, unsigned numProcessors) : m_source(source), m_numProcessors(numProcessors)
 {
     readHeader();
 }
@@ -124,16 +126,14 @@ PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector
     findWantedColumns(wanted);
     resolveColumns(reportTemplate);
     const NumberNotation notation = this->notation(*reportTemplate.getBomTemplateUnits());
-    CellReader cells(m_columns, m_source, *reportTemplate.getBomData());
+    CellReader cells(m_columns, m_source);
     cells.setNotation(notation);
-    cells.reserveTuples(numFormulas(reportTemplate));
     if (find(TokenNames::kHandle) == nullptr && wanted.count(TokenNames::kHandle) > 0)
         cells.numberRows(Utf8::toWide(TokenNames::kHandle));
     if (wanted.count(TokenNames::kPieces) > 0)
         cells.countPieces(Utf8::toWide(TokenNames::kPieces));
-    while (const Record* const pRecord = m_source.next())
-        cells.read(*pRecord);
-    PartsFacts facts = cells.finish();
+    buildRows(cells, *reportTemplate.getBomData(), numFormulas(reportTemplate));
+    PartsFacts facts = cells.finish(*reportTemplate.getBomData());
     if (notation.sign() == NumberNotation::kComma && !notation.isChosen())
         m_findings.push_back(commaNote(notation));
     m_findings.insert(m_findings.end(), cells.findings().begin(), cells.findings().end());
@@ -160,6 +160,15 @@ NumberNotation PartsList::notation(const VorBomTemplateUnits& units) const
         return notation;
     const NumberNotation assumed = m_source.notationOf(ofAnything);
     return { assumed.isSettled() ? assumed.sign() : NumberNotation::kPoint, NumberNotation::kOpen, assumed.reason() };
+}
+
+void PartsList::buildRows(CellReader& cells, VorBomData& data, int numFormulas)
+{
+    RowBuilder rows(data, m_columns.size());
+    rows.reserveTuples(numFormulas);
+    BatchesAhead batches(cells, m_columns.size(), m_numProcessors);
+    while (const RowBatch* const pBatch = batches.next())
+        rows.build(*pBatch);
 }
 
 // Before any row is read, so that the engine shows "Gap [in]" in the reader's units. The catalogue's tokens have their

@@ -23,7 +23,8 @@
 // same order. A source of a format that has numbers hands them over as they are stored; one of texts leaves it to the
 // reader of the cells which of them are numbers. What no record can be made of ends the reading with a Fault of status
 // kInvalidInput that names the place; what the cells ought to hold, and how many there ought to be, is not its concern.
-// A source is read once, from its begin to its end, by one thread at a time.
+// A source is read once, from its begin to its end, by one thread at a time, which need not be the one that made it; so
+// it uses no copies of VorStrings that others have.
 #pragma once
 
 #include "Finding.h"

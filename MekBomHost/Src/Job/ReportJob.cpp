@@ -243,7 +243,7 @@ void ReportJob::openParts()
         return;
     }
     m_pRecords = PartsFormats::open(*m_request.pParts, m_request.input, m_findings);
-    m_pParts = std::make_unique<PartsList>(*m_pRecords);
+    m_pParts = std::make_unique<PartsList>(*m_pRecords, m_request.numProcessors);
     for (const auto& [token, unit] : m_request.inputUnits)
         m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);
     for (const std::string& token : m_request.rowTotals)

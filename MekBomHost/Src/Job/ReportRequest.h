@@ -50,6 +50,8 @@ struct ReportRequest
     std::vector<std::string> allowed;   // "MB105": mistakes that stop no report
     bool checksTotals = false;          // add up every total a second time, from the rows, and compare
 
+    unsigned numProcessors = 1; // with two, long parts lists are read on a thread of their own: PartsList
+
     LineContents contents; // what the writer wants of lines beside their texts
 };
 }

@@ -28,6 +28,7 @@
 
 #include <filesystem>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 namespace mekbom
@@ -144,6 +145,7 @@ ReportRequest ReportVerb::request() const
     request.allowed = m_allowed.words();
     request.checksTotals = m_checksTotals;
     request.pParts = parts();
+    request.numProcessors = std::thread::hardware_concurrency();
     addTemplates(request);
     request.environment = Environment::variables(DisplaySettings::names());
     if (const std::string settingsFile = m_settingsFile.name(); !settingsFile.empty())

@@ -1,5 +1,6 @@
 #include "CellReader.h"
 
+#include "RowBuilder.h"
 #include "Utf8.h"
 
 #include "Support/FakeSource.h"
@@ -40,16 +41,17 @@ protected:
     void read(std::vector<Record> records)
     {
         FakeSource source(std::move(records));
-        CellReader cells(m_columns, source, m_data);
-        cells.reserveTuples(m_numReserved);
+        CellReader cells(m_columns, source);
+        RowBatch batch(m_columns.size());
+        RowBuilder rows(m_data, m_columns.size());
         cells.setNotation(m_notation);
         if (m_numbersRows)
             cells.numberRows(L"%Handle");
         if (m_countsPieces)
             cells.countPieces(L"%Quantity");
-        while (const Record* const pRecord = source.next())
-            cells.read(*pRecord);
-        m_facts = cells.finish();
+        while (cells.read(batch))
+            rows.build(batch);
+        m_facts = cells.finish(m_data);
         m_findings = cells.findings();
     }
 
@@ -62,7 +64,6 @@ protected:
 
     std::vector<InputColumn> m_columns;
     VorBomData m_data;
-    int m_numReserved = 0;
     bool m_numbersRows = false;
     bool m_countsPieces = false;
     NumberNotation m_notation;
@@ -282,15 +283,6 @@ TEST_F(CellReaderTest, RowsAreNumberedOnRequest)
     EXPECT_EQ("[%Handle:1][%Name:a]\n[%Handle:2][%Name:b]", rows());
 }
 
-TEST_F(CellReaderTest, RowsGetRoomForWhatTheEvaluationAdds)
-{
-    m_numReserved = 3;
-
-    read({ { textCell("a"), RecordCell(), RecordCell(), RecordCell() } });
-
-    EXPECT_EQ(4, m_data.child()->getData().physicalLength());
-}
-
 TEST_F(CellReaderTest, EverythingThatIsWrongIsNoted)
 {
     EXPECT_EQ("3 parts.xyz:1: found 1 field, expected 4 as in the header row\n"
@@ -300,6 +292,5 @@ TEST_F(CellReaderTest, EverythingThatIsWrongIsNoted)
                   [this] {
                       read({ { textCell("a") }, { RecordCell(), textCell("2.5"), textCell("y"), RecordCell() } });
                   }));
-    EXPECT_EQ(nullptr, m_data.child());
 }
 }
