@@ -156,10 +156,10 @@ NumberNotation PartsList::notation(const VorBomTemplateUnits& units) const
             ofNumbers.push_back(i);
     }
     const NumberNotation notation = m_source.notationOf(ofNumbers);
-    if (!notation.isOpen() || !notation.reason().empty())
+    if (!notation.isOpen())
         return notation;
-    const NumberNotation assumed = m_source.notationOf(ofAnything);
-    return { assumed.isSettled() ? assumed.sign() : NumberNotation::kPoint, NumberNotation::kOpen, assumed.reason() };
+    const NumberNotation shown = m_source.notationOf(ofAnything);
+    return shown.isSettled() ? NumberNotation(shown.sign(), NumberNotation::kOpen, shown.reason()) : notation;
 }
 
 void PartsList::buildRows(CellReader& cells, VorBomData& data, int numFormulas)

@@ -184,6 +184,8 @@ NumberNotation::eReading NumberNotation::addWord(std::string_view word, bool may
 
 NumberNotation::eSign NumberNotation::shownBy(std::string_view text)
 {
+    if (text.find_first_of(".,") == std::string_view::npos)
+        return kNoSign;
     const std::string_view word = onlyWordOf(text);
     const bool mayBeGrouped = !isExponent(text);
     const bool withPoint = !plainWord(word, kPoint, mayBeGrouped).empty();

@@ -32,6 +32,7 @@ public:
     enum eCertainty
     {
         kOpen,    // nothing tells
+        kMixed,   // some numbers show this sign, some the other
         kAssumed, // the point stands for decimals, as in programs; that a comma divides thousands is not known
         kShown,   // by a number that no other sign allows to read
         kChosen   // by the user
@@ -57,10 +58,11 @@ public:
     bool isSettled() const { return m_certainty == kShown || m_certainty == kChosen; }
     bool isChosen() const { return m_certainty == kChosen; }
     bool isOpen() const { return m_certainty == kOpen; }
+    bool isMixed() const { return m_certainty == kMixed; }
     const std::string& reason() const { return m_reason; }
 
     // Whether a number that NumberReader reads is surely that number.
-    bool isPlain() const { return m_sign == kPoint && m_certainty != kOpen; }
+    bool isPlain() const { return m_sign == kPoint && (m_certainty == kAssumed || isSettled()); }
 
     // Sets `plain` to the text with its numbers as NumberReader has them: decimals behind a point, no groups. What is no
     // number in either way stays as it is. Worth nothing unless the reading is kReadable.
@@ -68,8 +70,11 @@ public:
 
     // The sign that a text shows which is a number, or one with a unit: kNoSign where it can be read with either, or is
     // no number.
-    //   shownBy("12,5")  ->  kComma      shownBy("1.234")   ->  kNoSign      shownBy("0.240")     ->  kPoint
-    //   shownBy("7,5 m") ->  kComma      shownBy("PL12,5")  ->  kNoSign      shownBy("1.234,50")  ->  kComma
+    //   NumberNotation::shownBy("12,5")      ->  kComma
+    //   NumberNotation::shownBy("7.5 m")     ->  kPoint
+    //   NumberNotation::shownBy("0.240")     ->  kPoint: no group begins with 0
+    //   NumberNotation::shownBy("1.234")     ->  kNoSign
+    //   NumberNotation::shownBy("PL12,5")    ->  kNoSign
     static eSign shownBy(std::string_view text);
 
     // What the text is when it is read with that sign, for messages: "1,234" is "1.234" with a comma, "1234" with a

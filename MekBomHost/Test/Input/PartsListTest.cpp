@@ -365,7 +365,8 @@ TEST(PartsListTest, ANumberFarBelowThatContradictsIsRefused)
     EXPECT_EQ(
         "3 parts.csv:" + line +
             ": column \"Weight\": found \"12,5\", which is 12.5 with a decimal comma and no number with a decimal "
-            "point, expected a decimal point: mend the cell, or give --decimal , if all numbers are written so\n",
+            "point, expected a decimal point, as no number of the first rows shows a comma: mend the cell, or give "
+            "--decimal , if all numbers are written so\n",
         faultInFile(text + "12,5;\n"));
     EXPECT_NE("", faultInFile(text + "1.234;\n"));
     EXPECT_NE("", faultInFile(text + "1,234;\n"));

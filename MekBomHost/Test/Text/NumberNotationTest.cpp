@@ -177,6 +177,7 @@ TEST(NumberNotationTest, OnlyAPointThatIsAtLeastAssumedIsPlain)
     EXPECT_TRUE(kPlain.isPlain());
     EXPECT_TRUE(kPointShown.isPlain());
     EXPECT_FALSE(kPointOpen.isPlain());
+    EXPECT_FALSE(NumberNotation(NumberNotation::kPoint, NumberNotation::kMixed, "").isPlain());
     EXPECT_FALSE(kCommaShown.isPlain());
 }
 }

@@ -13,6 +13,7 @@
 #include "Utf8.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace mekbom::CsvDelimiter
@@ -21,54 +22,52 @@ namespace
 {
 const std::size_t kMostLines = 100; // arbitrary: more than enough to tell by
 
+const std::string_view kDelimiters = ",;\t|";
+
+// In the same order.
 struct Name
 {
     const char* word;
     const char* inSentence;
 };
-
 const Name kNames[] = { { ",", "a comma" }, { ";", "a semicolon" }, { "tab", "a tab" }, { "|", "a vertical bar" } };
 
-std::size_t indexOf(char delimiter)
+// How many of each delimiter stand in a record.
+using Counts = std::array<std::size_t, std::size(kNames)>;
+
+// Takes the record that `head` begins with; false where its end is not there.
+bool takeRecord(std::string_view& head, Counts& counts)
 {
-    const auto& delimiters = all();
-    const auto found = std::find_if(delimiters.begin(), delimiters.end(),
-                                    [delimiter](const auto& entry) { return entry.second == delimiter; });
-    return static_cast<std::size_t>(found - delimiters.begin());
+    counts.fill(0);
+    bool isQuoted = false;
+    for (std::size_t i = 0; i < head.size(); ++i)
+    {
+        const std::size_t index = kDelimiters.find(head[i]);
+        if (head[i] == '"')
+            isQuoted = !isQuoted;
+        else if (!isQuoted && (head[i] == '\n' || head[i] == '\r'))
+        {
+            head.remove_prefix(i);
+            return true;
+        }
+        else if (!isQuoted && index != std::string_view::npos)
+            ++counts[index];
+    }
+    head = std::string_view();
+    return false;
 }
 
-// How many of each delimiter stand in a record.
-using Counts = std::vector<std::size_t>;
-
-// The counts of the first records that are there whole; the last one may be cut short, and counts only if it is the
-// first, too.
+// Those of the first records, never none. One that is cut short counts only if there is no other.
 std::vector<Counts> countsOf(std::string_view head)
 {
     std::vector<Counts> records;
-    Counts counts(all().size());
-    bool isQuoted = false;
-    bool isEmpty = true;
-    for (const char byte : head)
+    Counts counts;
+    do
     {
-        if (byte == '"')
-            isQuoted = !isQuoted;
-        if (isQuoted || (byte != '\n' && byte != '\r'))
-        {
-            isEmpty = false;
-            const std::size_t index = isQuoted ? all().size() : indexOf(byte);
-            if (index < all().size())
-                ++counts[index];
-            continue;
-        }
-        if (!isEmpty)
+        head.remove_prefix(std::min(head.find_first_not_of("\r\n"), head.size()));
+        if (takeRecord(head, counts) || records.empty())
             records.push_back(counts);
-        if (records.size() == kMostLines)
-            return records;
-        counts.assign(counts.size(), 0);
-        isEmpty = true;
-    }
-    if (records.empty())
-        records.push_back(counts);
+    } while (!head.empty() && records.size() < kMostLines);
     return records;
 }
 
@@ -100,15 +99,16 @@ std::string quotedName(std::size_t index)
 
 const std::vector<std::pair<const char*, char>>& all()
 {
-    static const std::vector<std::pair<const char*, char>> delimiters = {
-        { kNames[0].word, ',' }, { kNames[1].word, ';' }, { kNames[2].word, '\t' }, { kNames[3].word, '|' }
-    };
+    static const std::vector<std::pair<const char*, char>> delimiters = { { kNames[0].word, kDelimiters[0] },
+                                                                          { kNames[1].word, kDelimiters[1] },
+                                                                          { kNames[2].word, kDelimiters[2] },
+                                                                          { kNames[3].word, kDelimiters[3] } };
     return delimiters;
 }
 
 const char* nameOf(char delimiter)
 {
-    return kNames[indexOf(delimiter)].inSentence;
+    return kNames[kDelimiters.find(delimiter)].inSentence;
 }
 
 char recognise(std::string_view head, const std::string& name)
@@ -116,7 +116,7 @@ char recognise(std::string_view head, const std::string& name)
     const std::vector<Counts> records = countsOf(head);
     std::size_t best = 0;
     std::size_t rival = 0; // another one that suits as well
-    for (std::size_t i = 1; i < all().size(); ++i)
+    for (std::size_t i = 1; i < kDelimiters.size(); ++i)
     {
         const std::size_t suited = numSuited(records, i);
         const std::size_t most = numSuited(records, best);
@@ -127,7 +127,7 @@ char recognise(std::string_view head, const std::string& name)
     }
     if (best != rival)
         failBetween(best, rival, name);
-    return all()[best].second;
+    return kDelimiters[best];
 }
 
 char announced(std::string_view head)
@@ -136,6 +136,6 @@ char announced(std::string_view head)
     head = Utf8::withoutByteOrderMark(head);
     const bool isLine = head.substr(0, prefix.size()) == prefix && head.size() > prefix.size() + 1 &&
                         (head[prefix.size() + 1] == '\n' || head[prefix.size() + 1] == '\r');
-    return isLine && indexOf(head[prefix.size()]) < all().size() ? head[prefix.size()] : '\0';
+    return isLine && kDelimiters.find(head[prefix.size()]) != std::string_view::npos ? head[prefix.size()] : '\0';
 }
 }

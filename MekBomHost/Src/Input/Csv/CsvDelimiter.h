@@ -2,7 +2,7 @@
 //
 //   CsvDelimiter::recognise("Mark;Profile;Weight\nB1;HEA200;134,4\n", "parts.csv")     ->  ';'
 //   CsvDelimiter::recognise("Name\nHEA200\n", "parts.csv")                             ->  ',': there is none
-//   CsvDelimiter::recognise("a,b;c\n1,2;3\n", "parts.csv")                             throws: it may be either
+//   CsvDelimiter::recognise("a,b;c\n1,2;3\n", "parts.csv")                             ->  throws: it may be either
 //   CsvDelimiter::announced("sep=;\r\nMark;Profile\r\n")                               ->  ';'
 #pragma once
 

@@ -80,7 +80,7 @@ NumberNotation CsvFile::notationOf(const std::vector<std::size_t>& columns) cons
     NotationEvidence evidence;
     try
     {
-        while (const Record* const pRecord = reader.next())
+        for (const Record* pRecord = reader.next(); pRecord != nullptr && !evidence.isEnough(); pRecord = reader.next())
             addRecord(*pRecord, columns, lineOf(reader), evidence);
     }
     catch (const Fault&) // NOLINT(bugprone-empty-catch): see above

@@ -1,5 +1,6 @@
 #include "NotationEvidence.h"
 
+#include "CsvDelimiter.h"
 #include "InQuotes.h"
 
 namespace mekbom
@@ -16,12 +17,14 @@ void NotationEvidence::add(std::string_view cell, int line)
 
 NumberNotation NotationEvidence::notation(char delimiter) const
 {
-    if (m_point.number == 0 && m_comma.number == 0)
-        return { NumberNotation::kPoint, delimiter == ',' ? NumberNotation::kAssumed : NumberNotation::kOpen, "" };
-    const bool isComma = m_comma.number > m_point.number;
-    const bool isSettled = m_point.number == 0 || m_comma.number == 0;
-    return { isComma ? NumberNotation::kComma : NumberNotation::kPoint,
-             isSettled ? NumberNotation::kShown : NumberNotation::kOpen,
-             "as " + (isComma ? m_comma : m_point).first + " shows" };
+    const bool isMixed = m_point.number > 0 && m_comma.number > 0;
+    const NumberNotation::eCertainty certainty = isMixed ? NumberNotation::kMixed : NumberNotation::kShown;
+    if (m_comma.number > m_point.number)
+        return { NumberNotation::kComma, certainty, "as " + m_comma.first + " shows" };
+    if (m_point.number > 0)
+        return { NumberNotation::kPoint, certainty, "as " + m_point.first + " shows" };
+    if (delimiter == CsvDelimiter::kPlain)
+        return { NumberNotation::kPoint, NumberNotation::kAssumed, "as files with commas between columns have it" };
+    return { NumberNotation::kPoint, NumberNotation::kOpen, "as no number of the first rows shows a comma" };
 }
 }

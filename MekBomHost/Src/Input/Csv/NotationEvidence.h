@@ -19,11 +19,16 @@ public:
     // `line` is the one on which the cell stands.
     void add(std::string_view cell, int line);
 
-    // Settled where all cells that show a sign show the same one. Where some show the one and some the other, it is the
-    // sign of the most, and open. Where none shows any, the comma between fields speaks for the point.
+    // Whether so many cells have shown a sign that others will hardly change what it is.
+    bool isEnough() const { return m_point.number + m_comma.number >= kEnough; }
+
+    // Settled where all cells that show a sign show the same one; mixed, with the sign of the most, where they do not.
+    // Where none shows any, the comma between fields speaks for the point.
     NumberNotation notation(char delimiter) const;
 
 private:
+    static constexpr int kEnough = 100; // arbitrary
+
     struct Shown
     {
         int number = 0;

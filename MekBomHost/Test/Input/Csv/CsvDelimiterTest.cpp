@@ -48,6 +48,7 @@ TEST(CsvDelimiterTest, WhatStandsInQuotesDividesNothing)
 TEST(CsvDelimiterTest, ARowMayHaveFieldsTooMany)
 {
     EXPECT_EQ(',', recognised("a,b\n1,2,3\n4,5,6\n"));
+    EXPECT_EQ(';', recognised("a,b;c\n1;2\n")); // the last line is there whole
     EXPECT_EQ(';', recognised("a;b,c\n1;2\n1,5;2\n1;2;3\n"));
 }
 

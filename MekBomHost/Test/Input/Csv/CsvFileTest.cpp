@@ -102,7 +102,7 @@ TEST(CsvFileTest, TheNotationIsThatOfTheColumnsAskedFor)
     EXPECT_EQ(NumberNotation::kComma, notationOf(text, { 2 }).sign());
     EXPECT_EQ("as \"12,5\" on line 3 shows", notationOf(text, { 2 }).reason());
     EXPECT_EQ(NumberNotation::kPoint, notationOf(text, { 1 }).sign());
-    EXPECT_TRUE(notationOf(text, { 1, 2 }).isOpen());
+    EXPECT_TRUE(notationOf(text, { 1, 2 }).isMixed());
     EXPECT_TRUE(notationOf(text, {}).isOpen());
 }
 

@@ -36,6 +36,19 @@ TEST(NotationEvidenceTest, CellsThatFitBothSettleNothing)
     EXPECT_TRUE(shownBy({}).isOpen());
 }
 
+TEST(NotationEvidenceTest, AHundredCellsThatShowASignAreEnough)
+{
+    NotationEvidence evidence;
+    for (int line = 2; line < 102; ++line)
+    {
+        EXPECT_FALSE(evidence.isEnough());
+        evidence.add("1.234", line);
+        evidence.add("12.5", line);
+    }
+
+    EXPECT_TRUE(evidence.isEnough());
+}
+
 TEST(NotationEvidenceTest, AmongCommasThePointIsAssumed)
 {
     EXPECT_TRUE(shownBy({ "1.234" }, ',').isPlain());
@@ -46,9 +59,9 @@ TEST(NotationEvidenceTest, CellsThatContradictEachOtherSettleNothing)
 {
     const NumberNotation mixed = shownBy({ "12.5", "13,5", "14,5" });
 
-    EXPECT_TRUE(mixed.isOpen());
+    EXPECT_TRUE(mixed.isMixed());
     EXPECT_EQ(NumberNotation::kComma, mixed.sign());
     EXPECT_EQ("as \"13,5\" on line 3 shows", mixed.reason());
-    EXPECT_TRUE(shownBy({ "12.5", "13,5" }, ',').isOpen());
+    EXPECT_TRUE(shownBy({ "12.5", "13,5" }, ',').isMixed());
 }
 }
