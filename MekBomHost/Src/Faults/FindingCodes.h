@@ -70,6 +70,16 @@ inline constexpr FindingCode kRowTotalOfMissingColumn = {
 inline constexpr FindingCode kRowTotalOfNoNumber = { "MB723", kError,
                                                      "Row totals are announced for a column of texts or of whole "
                                                      "numbers." };
+inline constexpr FindingCode kUnitsOfFilesDiffer = {
+    "MB729", kError, "Two parts lists of one report give a column in units that differ."
+};
+inline constexpr FindingCode kNoJsonParts = { "MB730", kError, "A parts list in JSON is no sequence of objects." };
+inline constexpr FindingCode kPartsWithinParts = { "MB731", kError, "A part in JSON has an object or a list in it." };
+inline constexpr FindingCode kAssemblyColumnMissing = {
+    "MB732", kError, "A list lacks the column that tells which part belongs to which assembly."
+};
+inline constexpr FindingCode kAssemblyTwice = { "MB733", kError, "Two assemblies have the same handle." };
+inline constexpr FindingCode kAssemblyUnknown = { "MB734", kError, "A part names an assembly that there is none of." };
 
 // Template files.
 inline constexpr FindingCode kNoJson = { "MB801", kError, "A template file is no JSON with comments." };

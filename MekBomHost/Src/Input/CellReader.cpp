@@ -11,6 +11,7 @@
 #include "CellReader.h"
 
 #include "FindingCodes.h"
+#include "HeaderRow.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
 #include "MistakeCodes.h"
@@ -27,11 +28,6 @@ namespace mekbom
 {
 namespace
 {
-std::string fieldCount(std::size_t numFields)
-{
-    return std::to_string(numFields) + (numFields == 1 ? " field" : " fields");
-}
-
 template <class Predicate>
 std::size_t indexOf(const std::vector<InputColumn>& columns, const Predicate& isMeant)
 {
@@ -159,8 +155,7 @@ bool CellReader::checkNumCells(const Record& record)
 {
     if (record.size() == m_columns.size())
         return true;
-    Finding finding = Finding::of(FindingCodes::kWrongNumberOfFields, fieldCount(record.size()),
-                                  std::to_string(m_columns.size()) + " as in the header row");
+    Finding finding = HeaderRow::wrongNumberOfFields(record.size(), m_columns.size());
     m_source.placeRecord(finding);
     m_findings.add(std::move(finding));
     return false;

@@ -14,6 +14,7 @@
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
+#include "HeaderRow.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
 #include "RowBuilder.h"
@@ -168,11 +169,8 @@ bool PartsList::assumesUnits() const
 
 void PartsList::readHeader()
 {
-    const Record* const pHeader = m_source.next();
-    if (pHeader == nullptr)
-        failWithoutHeader();
     FindingList findings;
-    for (const RecordCell& cell : *pHeader)
+    for (const RecordCell& cell : HeaderRow::read(m_source))
     {
         addColumn(cell.asText());
         checkColumn(m_columns.back(), findings);
@@ -180,13 +178,6 @@ void PartsList::readHeader()
     if (m_columns.size() == 1)
         checkSeparator(m_columns.front(), findings);
     findings.throwIfAnyError();
-}
-
-void PartsList::failWithoutHeader() const
-{
-    Finding finding = Finding::of(FindingCodes::kNoHeaderRow, "nothing", "a header row with column names");
-    finding.source = m_source.name();
-    throw Fault(kInvalidInput, finding);
 }
 
 // `column` is the last one so far.

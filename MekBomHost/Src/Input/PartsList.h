@@ -81,7 +81,6 @@ public:
 private:
     void buildRows(CellReader& cells, VorBomData& data, int numFormulas);
     void readHeader();
-    [[noreturn]] void failWithoutHeader() const;
     void checkColumn(const InputColumn& column, FindingList& findings) const;
     void checkSeparator(const InputColumn& column, FindingList& findings) const;
     void addHeaderFinding(Finding finding, FindingList& findings) const;
