@@ -240,9 +240,12 @@ void ReportJob::openParts()
             refuseForSample("--input-unit");
         if (!m_request.rowTotals.empty())
             refuseForSample("--row-totals");
+        if (!m_request.input.sheet.empty())
+            refuseForSample("--sheet");
         return;
     }
-    m_pRecords = PartsFormats::open(*m_request.pParts, m_request.input, m_findings);
+    m_pPartsBytes = std::make_unique<PeekedSource>(*m_request.pParts, PartsFormats::kHeadSize);
+    m_pRecords = PartsFormats::open(*m_pPartsBytes, m_request.input, m_findings);
     m_pParts = std::make_unique<PartsList>(*m_pRecords);
     for (const auto& [token, unit] : m_request.inputUnits)
         m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);

@@ -16,6 +16,7 @@
 #include "KnownTokens.h"
 #include "PartsFacts.h"
 #include "PartsList.h"
+#include "PeekedSource.h"
 #include "RecordSource.h"
 #include "Report.h"
 #include "ReportRequest.h"
@@ -86,7 +87,8 @@ private:
 
     ReportRequest m_request;
     FindingList m_findings;
-    bool m_isCheckOnly = false;               // no report is made, and so all mistakes are told, notes included
+    bool m_isCheckOnly = false; // no report is made, and so all mistakes are told, notes included
+    std::unique_ptr<PeekedSource> m_pPartsBytes;
     std::unique_ptr<RecordSource> m_pRecords; // null for the sample rows, as m_pParts is
     std::unique_ptr<PartsList> m_pParts;
     PartsFacts m_partsFacts;

@@ -41,7 +41,8 @@ CLI::App& NewListVerb::declareOn(CLI::App& parent)
 ExitStatus NewListVerb::run(FindingList& findings)
 {
     const std::unique_ptr<ByteSource> pFile = DataFile::open(m_data);
-    const std::unique_ptr<RecordSource> pRecords = PartsFormats::open(*pFile, m_input.choices(), findings);
+    PeekedSource bytes(*pFile, PartsFormats::kHeadSize);
+    const std::unique_ptr<RecordSource> pRecords = PartsFormats::open(bytes, m_input.choices(), findings);
     StandardOutput::print(ColumnsTemplate::textOf(columnsOf(*pRecords)));
     return kDone;
 }
