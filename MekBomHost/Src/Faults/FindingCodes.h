@@ -81,6 +81,27 @@ inline constexpr FindingCode kAssemblyColumnMissing = {
 inline constexpr FindingCode kAssemblyTwice = { "MB733", kError, "Two assemblies have the same handle." };
 inline constexpr FindingCode kAssemblyUnknown = { "MB734", kError, "A part names an assembly that there is none of." };
 
+// Workbooks, which are parts lists, too.
+inline constexpr FindingCode kWorkbookDamaged = { "MB740", kError,
+                                                  "A workbook is damaged: a part of it is not as it must be." };
+inline constexpr FindingCode kWorkbookTooLarge = { "MB741", kError,
+                                                   "A part of a workbook is larger than any that is sound." };
+inline constexpr FindingCode kWorkbookOfOtherKind = { "MB742", kError,
+                                                      "A file is a workbook of a kind that is not read." };
+inline constexpr FindingCode kSheetUnknown = { "MB743", kError, "A workbook has no sheet of that name." };
+inline constexpr FindingCode kSheetChosen = { "MB744", kNote,
+                                              "One of several sheets was taken, and nobody said which." };
+inline constexpr FindingCode kRowsAboveHeader = { "MB745", kNote,
+                                                  "Rows above the header row of a sheet are not read." };
+inline constexpr FindingCode kCellWithoutHeading = { "MB746", kError, "A cell stands in a column without a heading." };
+inline constexpr FindingCode kCellShownOtherwise = {
+    "MB747", kError, "A cell shows something else than the number that it holds, such as a date."
+};
+inline constexpr FindingCode kCellWithoutValue = { "MB748", kError,
+                                                   "A cell holds an error, or a formula without its value." };
+inline constexpr FindingCode kCellsMerged = { "MB749", kError,
+                                              "Cells are merged over several rows, of which one has their value." };
+
 // Template files.
 inline constexpr FindingCode kNoJson = { "MB801", kError, "A template file is no JSON with comments." };
 inline constexpr FindingCode kKeyTwice = { "MB802", kError, "An object has the same key twice." };

@@ -85,6 +85,8 @@ void AssemblyRecords::readAssemblies()
         if (pRecord->size() != m_numAssemblyColumns)
             failInAssembly(HeaderRow::wrongNumberOfFields(pRecord->size(), m_numAssemblyColumns));
         const RecordCell handle = keep((*pRecord)[m_handleColumn]);
+        if (handle.isRefused())
+            failInAssembly(handle.refusal());
         if (handle.isNothing())
             continue; // nobody can name it
         if (!m_assemblies.emplace(handle.text(), m_givenCells.size()).second)
@@ -106,6 +108,8 @@ RecordCell AssemblyRecords::keep(const RecordCell& cell)
 {
     if (cell.isNothing())
         return cell;
+    if (cell.isRefused())
+        return RecordCell(m_refusals.emplace_back(cell.refusal()));
     m_texts.push_back(cell.asText());
     return RecordCell(std::string_view(m_texts.back()));
 }

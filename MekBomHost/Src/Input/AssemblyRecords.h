@@ -54,10 +54,11 @@ private:
     bool m_isBegun = false;
     std::size_t m_numPartColumns = 0;
     std::size_t m_numAssemblyColumns = 0;
-    std::size_t m_assemblyColumn = 0;                               // of the parts
-    std::size_t m_handleColumn = 0;                                 // of the assemblies
-    std::vector<std::size_t> m_givenColumns;                        // of the assemblies: those that parts get
-    std::deque<std::string> m_texts;                                // of all that is kept of the assemblies
+    std::size_t m_assemblyColumn = 0;        // of the parts
+    std::size_t m_handleColumn = 0;          // of the assemblies
+    std::vector<std::size_t> m_givenColumns; // of the assemblies: those that parts get
+    std::deque<std::string> m_texts;         // of all that is kept of the assemblies
+    std::deque<Finding> m_refusals;
     std::vector<RecordCell> m_givenCells;                           // of all assemblies, one after the other
     std::unordered_map<std::string_view, std::size_t> m_assemblies; // handle -> the first of its cells
     Record m_record;

@@ -174,6 +174,8 @@ int CellReader::piecesOf(const Record& record) const
 void CellReader::readCell(std::size_t column, const RecordCell& cell)
 {
     ++m_notes[column].numFilled;
+    if (cell.isRefused())
+        return addFinding(cell.refusal(), column);
     switch (m_columns[column].type)
     {
         case VorBomDataValue::kIntData: readWhole(column, textOf(cell)); break;
@@ -182,10 +184,10 @@ void CellReader::readCell(std::size_t column, const RecordCell& cell)
     }
 }
 
-// The text of a number lies in `m_numberText`: it is good until the next cell that is a number.
+// The text of a number lies in `m_numberText`: it is good until the next cell that is no text.
 std::string_view CellReader::textOf(const RecordCell& cell)
 {
-    if (!cell.isNumber())
+    if (cell.isText())
         return cell.text();
     m_numberText = cell.asText();
     return m_numberText;
@@ -296,9 +298,14 @@ void CellReader::addFinding(const FindingCode& code, std::size_t column, std::st
                             const std::string& expected, const std::string& remedy)
 {
     Finding finding = Finding::of(code, inQuotes(text), expected);
+    finding.remedy = remedy.empty() && &code == &MistakeCodes::kNotANumber ? "leave the cell empty" : remedy;
+    addFinding(std::move(finding), column);
+}
+
+void CellReader::addFinding(Finding finding, std::size_t column)
+{
     m_source.placeCell(column, finding);
     finding.field = m_columns[column].name;
-    finding.remedy = remedy.empty() && &code == &MistakeCodes::kNotANumber ? "leave the cell empty" : remedy;
     m_findings.add(std::move(finding));
 }
 

@@ -83,6 +83,7 @@ private:
     void refuseForWantOfUnit(std::size_t column, std::string_view text);
     void addFinding(const FindingCode& code, std::size_t column, std::string_view text, const std::string& expected,
                     const std::string& remedy = std::string());
+    void addFinding(Finding finding, std::size_t column);
     void addNumberAsHandle();
     void addHandleFindings();
     void fillOpenColumns(VorBomData& data);

@@ -173,7 +173,10 @@ void PartsList::readHeader()
     for (const RecordCell& cell : HeaderRow::read(m_source))
     {
         addColumn(cell.asText());
-        checkColumn(m_columns.back(), findings);
+        if (cell.isRefused())
+            addRefusal(cell.refusal(), findings);
+        else
+            checkColumn(m_columns.back(), findings);
     }
     if (m_columns.size() == 1)
         checkSeparator(m_columns.front(), findings);
@@ -203,6 +206,13 @@ void PartsList::checkSeparator(const InputColumn& column, FindingList& findings)
     addHeaderFinding(Finding::of(FindingCodes::kOtherSeparator, "one column " + inQuotes(column.name),
                                  "commas between columns (is the file separated by " + name + "?)"),
                      findings);
+}
+
+// `finding` is about the heading of the last column so far.
+void PartsList::addRefusal(Finding finding, FindingList& findings) const
+{
+    m_source.placeCell(m_columns.size() - 1, finding);
+    findings.add(std::move(finding));
 }
 
 void PartsList::addHeaderFinding(Finding finding, FindingList& findings) const

@@ -83,6 +83,7 @@ private:
     void readHeader();
     void checkColumn(const InputColumn& column, FindingList& findings) const;
     void checkSeparator(const InputColumn& column, FindingList& findings) const;
+    void addRefusal(Finding finding, FindingList& findings) const;
     void addHeaderFinding(Finding finding, FindingList& findings) const;
     void addColumn(const std::string& heading);
     void findWantedColumns(const std::set<std::string>& wantedTokens);

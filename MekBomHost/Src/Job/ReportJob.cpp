@@ -243,6 +243,8 @@ void ReportJob::openParts()
             refuseForSample("--row-totals");
         if (m_request.pAssemblies != nullptr)
             refuseForSample("--assemblies");
+        if (!m_request.input.sheet.empty())
+            refuseForSample("--sheet");
         return;
     }
     m_pRecords = PartsFormats::openAll(m_request.parts, m_request.input, m_findings);

@@ -433,6 +433,9 @@ TEST(ReportJobTest, RowTotalsAreDividedByThePieces)
     ReportRequest sample;
     sample.rowTotals = { "Length" };
     EXPECT_EQ("2 --row-totals: the sample data are no parts list\n", outcomeOf(std::move(sample)));
+    ReportRequest sampleWithSheet;
+    sampleWithSheet.input.sheet = "Parts";
+    EXPECT_EQ("2 --sheet: the sample data are no parts list\n", outcomeOf(std::move(sampleWithSheet)));
 }
 
 TEST(ReportJobTest, ASourceThatFailsIsAFinding)

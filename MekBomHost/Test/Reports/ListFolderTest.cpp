@@ -104,6 +104,11 @@ TEST(ListFolderTest, ColumnsOfSeveralKindsNameTheirUnits)
     expectList("columns-of-several-kinds-name-their-units");
 }
 
+TEST(ListFolderTest, WorkbooksOfSeveralProgramsAreRead)
+{
+    expectList("workbooks-of-several-programs");
+}
+
 TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 {
     expectList("frame-metric");

@@ -3,7 +3,7 @@
 //   const std::unique_ptr<RecordSource> pRecords = PartsFormats::open(source, InputChoices(), notes);
 //   PartsList parts(*pRecords);
 //
-// A new format is a folder beside Input/Csv and a line in open().
+// A new format is a folder beside Input/Csv and a line in readerFor().
 #pragma once
 
 #include "ByteSource.h"
