@@ -77,13 +77,44 @@ inline constexpr FindingCode kOtherEncoding = { "MB726", kNote, "A parts list is
 inline constexpr FindingCode kTextNotOfEncoding = { "MB727", kError,
                                                     "A file holds bytes that are no text in its encoding." };
 inline constexpr FindingCode kDecimalComma = { "MB728", kNote, "The numbers of a file have a decimal comma." };
-inline constexpr FindingCode kGroupedDigits = { "MB729", kNote, "The digits of a number are grouped by threes." };
+inline constexpr FindingCode kUnitsOfFilesDiffer = {
+    "MB729", kError, "Two parts lists of one report give a column in units that differ."
+};
+inline constexpr FindingCode kNoJsonParts = { "MB730", kError, "A parts list in JSON is no sequence of objects." };
+inline constexpr FindingCode kPartsWithinParts = { "MB731", kError, "A part in JSON has an object or a list in it." };
+inline constexpr FindingCode kAssemblyColumnMissing = {
+    "MB732", kError, "A list lacks the column that tells which part belongs to which assembly."
+};
+inline constexpr FindingCode kAssemblyTwice = { "MB733", kError, "Two assemblies have the same handle." };
+inline constexpr FindingCode kAssemblyUnknown = { "MB734", kError, "A part names an assembly that there is none of." };
+inline constexpr FindingCode kGroupedDigits = { "MB735", kNote, "The digits of a number are grouped by threes." };
 inline constexpr FindingCode kNumberUnclear = {
-    "MB730", kError, "A number is another one with a decimal point than with a comma, and nothing tells which it has."
+    "MB736", kError, "A number is another one with a decimal point than with a comma, and nothing tells which it has."
 };
 inline constexpr FindingCode kOtherDecimalSign = {
-    "MB731", kError, "A number has a decimal comma where others have a point, or a point where they have a comma."
+    "MB737", kError, "A number has a decimal comma where others have a point, or a point where they have a comma."
 };
+
+// Workbooks, which are parts lists, too.
+inline constexpr FindingCode kWorkbookDamaged = { "MB740", kError,
+                                                  "A workbook is damaged: a part of it is not as it must be." };
+inline constexpr FindingCode kWorkbookTooLarge = { "MB741", kError,
+                                                   "A part of a workbook is larger than any that is sound." };
+inline constexpr FindingCode kWorkbookOfOtherKind = { "MB742", kError,
+                                                      "A file is a workbook of a kind that is not read." };
+inline constexpr FindingCode kSheetUnknown = { "MB743", kError, "A workbook has no sheet of that name." };
+inline constexpr FindingCode kSheetChosen = { "MB744", kNote,
+                                              "One of several sheets was taken, and nobody said which." };
+inline constexpr FindingCode kRowsAboveHeader = { "MB745", kNote,
+                                                  "Rows above the header row of a sheet are not read." };
+inline constexpr FindingCode kCellWithoutHeading = { "MB746", kError, "A cell stands in a column without a heading." };
+inline constexpr FindingCode kCellShownOtherwise = {
+    "MB747", kError, "A cell shows something else than the number that it holds, such as a date."
+};
+inline constexpr FindingCode kCellWithoutValue = { "MB748", kError,
+                                                   "A cell holds an error, or a formula without its value." };
+inline constexpr FindingCode kCellsMerged = { "MB749", kError,
+                                              "Cells are merged over several rows, of which one has their value." };
 
 // Template files.
 inline constexpr FindingCode kNoJson = { "MB801", kError, "A template file is no JSON with comments." };

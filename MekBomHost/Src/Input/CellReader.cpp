@@ -11,6 +11,7 @@
 #include "CellReader.h"
 
 #include "FindingCodes.h"
+#include "HeaderRow.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
 #include "MistakeCodes.h"
@@ -27,11 +28,6 @@ namespace mekbom
 {
 namespace
 {
-std::string fieldCount(std::size_t numFields)
-{
-    return std::to_string(numFields) + (numFields == 1 ? " field" : " fields");
-}
-
 template <class Predicate>
 std::size_t indexOf(const std::vector<InputColumn>& columns, const Predicate& isMeant)
 {
@@ -172,8 +168,7 @@ bool CellReader::checkNumCells(const Record& record)
 {
     if (record.size() == m_columns.size())
         return true;
-    Finding finding = Finding::of(FindingCodes::kWrongNumberOfFields, fieldCount(record.size()),
-                                  std::to_string(m_columns.size()) + " as in the header row");
+    Finding finding = HeaderRow::wrongNumberOfFields(record.size(), m_columns.size());
     m_source.placeRecord(finding);
     m_findings.add(std::move(finding));
     return false;
@@ -194,6 +189,8 @@ int CellReader::piecesOf(const Record& record)
 void CellReader::readCell(std::size_t column, const RecordCell& cell)
 {
     ++m_notes[column].numFilled;
+    if (cell.isRefused())
+        return addFinding(cell.refusal(), column);
     switch (m_columns[column].type)
     {
         case VorBomDataValue::kIntData: readWhole(column, cell); break;
@@ -202,10 +199,10 @@ void CellReader::readCell(std::size_t column, const RecordCell& cell)
     }
 }
 
-// The text of a number lies in `m_numberText`: it is good until the next cell that is a number.
+// The text of a number lies in `m_numberText`: it is good until the next cell that is no text.
 std::string_view CellReader::textOf(const RecordCell& cell)
 {
-    if (!cell.isNumber())
+    if (cell.isText())
         return cell.text();
     m_numberText = cell.asText();
     return m_numberText;

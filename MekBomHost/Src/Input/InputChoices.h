@@ -5,6 +5,7 @@
 #include "TextEncoding.h"
 
 #include <optional>
+#include <string>
 
 namespace mekbom
 {
@@ -13,5 +14,6 @@ struct InputChoices
     std::optional<char> delimiter;                               // between the fields of CSV
     std::optional<TextEncoding::eEncoding> encoding;             // of CSV
     NumberNotation::eSign decimalSign = NumberNotation::kNoSign; // of numbers that are texts
+    std::string sheet;                                           // of a workbook
 };
 }

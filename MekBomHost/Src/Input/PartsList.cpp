@@ -14,6 +14,7 @@
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
+#include "HeaderRow.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
 #include "RowBuilder.h"
@@ -201,23 +202,16 @@ bool PartsList::assumesUnits() const
 
 void PartsList::readHeader()
 {
-    const Record* const pHeader = m_source.next();
-    if (pHeader == nullptr)
-        failWithoutHeader();
     FindingList findings;
-    for (const RecordCell& cell : *pHeader)
+    for (const RecordCell& cell : HeaderRow::read(m_source))
     {
         addColumn(cell.asText());
-        checkColumn(m_columns.back(), findings);
+        if (cell.isRefused())
+            addRefusal(cell.refusal(), findings);
+        else
+            checkColumn(m_columns.back(), findings);
     }
     findings.throwIfAnyError();
-}
-
-void PartsList::failWithoutHeader() const
-{
-    Finding finding = Finding::of(FindingCodes::kNoHeaderRow, "nothing", "a header row with column names");
-    finding.source = m_source.name();
-    throw Fault(kInvalidInput, finding);
 }
 
 // `column` is the last one so far.
@@ -231,6 +225,13 @@ void PartsList::checkColumn(const InputColumn& column, FindingList& findings) co
     else if (find(column.token) != &column)
         addHeaderFinding(Finding::of(FindingCodes::kColumnTwice, "column " + inQuotes(column.token) + " a second time"),
                          findings);
+}
+
+// `finding` is about the heading of the last column so far.
+void PartsList::addRefusal(Finding finding, FindingList& findings) const
+{
+    m_source.placeCell(m_columns.size() - 1, finding);
+    findings.add(std::move(finding));
 }
 
 void PartsList::addHeaderFinding(Finding finding, FindingList& findings) const

@@ -86,8 +86,8 @@ public:
 private:
     void buildRows(CellReader& cells, VorBomData& data, int numFormulas);
     void readHeader();
-    [[noreturn]] void failWithoutHeader() const;
     void checkColumn(const InputColumn& column, FindingList& findings) const;
+    void addRefusal(Finding finding, FindingList& findings) const;
     void addHeaderFinding(Finding finding, FindingList& findings) const;
     void addColumn(const std::string& heading);
     Finding commaNote(const NumberNotation& notation) const;

@@ -147,6 +147,13 @@ std::string_view onlyWordOf(std::string_view& text)
 }
 }
 
+NumberNotation NumberNotation::ofEither(const NumberNotation& one, const NumberNotation& other)
+{
+    if (one.m_sign == other.m_sign)
+        return one.m_certainty < other.m_certainty ? one : other;
+    return { one.isSettled() ? one.m_sign : other.m_sign, kMixed, one.isSettled() ? one.m_reason : other.m_reason };
+}
+
 NumberNotation::eReading NumberNotation::toPlain(std::string_view text, std::string& plain) const
 {
     plain.clear();

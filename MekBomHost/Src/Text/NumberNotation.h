@@ -64,6 +64,9 @@ public:
     // Whether a number that NumberReader reads is surely that number.
     bool isPlain() const { return m_sign == kPoint && (m_certainty == kAssumed || isSettled()); }
 
+    // What is known of texts that may be of either file: the less certain of the two, mixed where their signs differ.
+    static NumberNotation ofEither(const NumberNotation& one, const NumberNotation& other);
+
     // Sets `plain` to the text with its numbers as NumberReader has them: decimals behind a point, no groups. What is no
     // number in either way stays as it is. Worth nothing unless the reading is kReadable.
     eReading toPlain(std::string_view text, std::string& plain) const;

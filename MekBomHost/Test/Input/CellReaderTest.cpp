@@ -80,6 +80,28 @@ TEST_F(CellReaderTest, ACellBecomesATupleOfItsColumnsTypeAndNothingBecomesNone)
     EXPECT_EQ("[%Name:HEA200][%Quantity:4][%Weight:2.5][%Other:x]\n[%Quantity:4][%Weight:2.5][%Other:7]", rows());
 }
 
+TEST_F(CellReaderTest, ARefusedValueIsAMistakeInAColumnThatSomebodyWants)
+{
+    Finding refusal;
+    refusal.found = "a date";
+    refusal.expected = "a number";
+    const std::vector<Record> records = { { RecordCell(refusal), RecordCell(refusal), RecordCell(refusal),
+                                            RecordCell(refusal) } };
+    const auto messageOn = [](int column, const std::string& name)
+    {
+        return "3 parts.xyz:1: /" + std::to_string(column) + ": column \"" + name +
+               "\": found a date, expected a number\n";
+    };
+
+    EXPECT_EQ(messageOn(0, "Name") + messageOn(1, "Quantity") + messageOn(2, "Weight") + messageOn(3, "Other"),
+              faultOf([&] { read(records); }));
+    for (const std::size_t column : { 0, 1, 2 })
+        m_columns[column].isWanted = false;
+    EXPECT_EQ(messageOn(3, "Other"), faultOf([&] { read(records); }));
+    m_columns[3].isWanted = false;
+    EXPECT_EQ("", faultOf([&] { read(records); }));
+}
+
 TEST_F(CellReaderTest, ColumnsOfOpenTypeGetTheOneThatFitsAllCells)
 {
     read({ { RecordCell(), RecordCell(), RecordCell(), textCell("4") },

@@ -636,6 +636,16 @@ TEST(PartsListTest, RepeatedHandlesAreFoundAndStopNothing)
 }
 
 // What a format with numbers of its own hands over.
+TEST(PartsListTest, AHeadingMustNotBeRefused)
+{
+    Finding refusal;
+    refusal.found = "a date";
+    FakeSource source({ { textCell("Name"), RecordCell(refusal), RecordCell(refusal) } });
+
+    EXPECT_EQ("3 parts.xyz:1: /1: found a date\n3 parts.xyz:1: /2: found a date\n",
+              faultOf([&] { PartsList parts(source); }));
+}
+
 TEST(PartsListTest, StoredNumbersAreTakenAsTheyAreAndAsTextsWhereTheColumnHasTexts)
 {
     FakeSource source(

@@ -109,6 +109,11 @@ TEST(ListFolderTest, SpreadsheetsWriteItOtherwise)
     expectList("spreadsheets-write-it-otherwise");
 }
 
+TEST(ListFolderTest, WorkbooksOfSeveralProgramsAreRead)
+{
+    expectList("workbooks-of-several-programs");
+}
+
 TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 {
     expectList("frame-metric");

@@ -21,7 +21,6 @@ namespace mekbom
 {
 namespace
 {
-// "B02" -> "B2", "A-010" -> "A-10". The last zero of a number stays, so that "B0" and "B00" are "B0" and not "B".
 const VorString* textIn(const VorBomDataTuple* pTuple)
 {
     const bool isText = pTuple != nullptr && pTuple->value().type() == VorBomDataValue::kStringData;
@@ -39,6 +38,7 @@ bool hasLeadingZeros(const VorString& text)
     return false;
 }
 
+// "B02" -> "B2", "A-010" -> "A-10". The last zero of a number stays, so that "B0" and "B00" are "B0" and not "B".
 std::string withoutLeadingZeros(const std::string& text)
 {
     std::string bare;

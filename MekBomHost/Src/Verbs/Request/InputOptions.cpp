@@ -53,5 +53,6 @@ void InputOptions::declareOn(CLI::App& command)
     addChoice(command, "--encoding", "NAME",
               "Encoding of CSV: utf-8, utf-16le, utf-16be or windows-1252 [found in the file]", TextEncoding::all(),
               [this](TextEncoding::eEncoding encoding) { m_choices.encoding = encoding; });
+    command.add_option("--sheet", m_choices.sheet, "Sheet of a workbook [the first]")->type_name("NAME");
 }
 }
