@@ -68,6 +68,36 @@ TEST(DialectTest, OptionsWinOverWhatIsFound)
               report(parts, { "--decimal", ",", "--delimiter", ";" }).errors);
 }
 
+TEST(DialectTest, FilesOfOneReportAgreeWhereANumberMayBeTwo)
+{
+    const ScratchFolder folder;
+    const std::string german = folder.file("german.csv", "PNum;Quantity;Weight\nB1;1;12,5\n");
+    const std::string germanToo = folder.file("german-too.csv", "PNum;Quantity;Weight\nB2;1;1.234,5\n");
+    const std::string plain = folder.file("plain.csv", "PNum,Quantity,Weight\nB3,1,1.234\n");
+
+    const ProgramRun ofGerman = report(german, { "--data", germanToo });
+    const ProgramRun ofBoth = report(german, { "--data", plain });
+
+    EXPECT_NE(std::string::npos, ofGerman.output.find(" 1247\n")) << ofGerman.output << ofGerman.errors;
+    EXPECT_EQ(3, ofBoth.status);
+    EXPECT_NE(
+        std::string::npos,
+        ofBoth.errors.find("plain.csv:2: column \"Weight\": \"1.234\" is 1.234 with a decimal point and 1234 with "
+                           "a decimal comma, and nothing tells which is meant"))
+        << ofBoth.errors;
+}
+
+TEST(DialectTest, AssembliesAreReadInTheirDialect)
+{
+    const ScratchFolder folder;
+    const std::string parts = folder.file("parts.csv", "Handle;PNum;Assembly;Weight;Quantity\nP1;B1;A7;12,5;1\n");
+    const std::string assemblies = folder.file("assemblies.csv", "Handle;Length\nA7;1.234,5\n");
+
+    const ProgramRun run = report(parts, { "--assemblies", assemblies });
+
+    EXPECT_NE(std::string::npos, run.output.find("1234.5")) << run.output << run.errors;
+}
+
 TEST(DialectTest, ANewTemplateKnowsNumbersWithDecimalCommas)
 {
     const ScratchFolder folder;

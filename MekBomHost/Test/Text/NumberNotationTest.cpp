@@ -172,6 +172,17 @@ TEST(NumberNotationTest, TheReadingsOfATextAreNamed)
     EXPECT_EQ("decimal point", NumberNotation::nameOf(NumberNotation::kPoint));
 }
 
+TEST(NumberNotationTest, OfEitherFileIsNoMoreKnownThanOfBoth)
+{
+    EXPECT_TRUE(NumberNotation::ofEither(kCommaShown, kCommaShown).isSettled());
+    EXPECT_TRUE(NumberNotation::ofEither(kCommaShown, kCommaOpen).isOpen());
+    EXPECT_TRUE(NumberNotation::ofEither(kPointOpen, kPointShown).isOpen());
+    EXPECT_FALSE(NumberNotation::ofEither(kPlain, kPointShown).isSettled());
+    EXPECT_TRUE(NumberNotation::ofEither(kPlain, kCommaShown).isMixed());
+    EXPECT_EQ(NumberNotation::kComma, NumberNotation::ofEither(kPlain, kCommaShown).sign());
+    EXPECT_EQ(NumberNotation::kComma, NumberNotation::ofEither(kCommaShown, kPointOpen).sign());
+}
+
 TEST(NumberNotationTest, OnlyAPointThatIsAtLeastAssumedIsPlain)
 {
     EXPECT_TRUE(kPlain.isPlain());

@@ -113,7 +113,7 @@ const char* nameOf(char delimiter)
 
 char recognise(std::string_view head, const std::string& name)
 {
-    const std::vector<Counts> records = countsOf(head);
+    const std::vector<Counts> records = countsOf(Utf8::withoutByteOrderMark(head));
     std::size_t best = 0;
     std::size_t rival = 0; // another one that suits as well
     for (std::size_t i = 1; i < kDelimiters.size(); ++i)

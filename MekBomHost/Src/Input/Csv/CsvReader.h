@@ -51,12 +51,13 @@ private:
     void beginFile();
     void readMore();
     bool scanRecord();
+    template <char delimiter>
+    bool scanRecord();
     void beginRecord();
     const char* takeQuotedField(const char* pField, const char* pQuote);
     const char* findClosingQuote(bool& hasDoubled);
     const char* passLineEnd(const char* pStop);
     void passByte(char byte);
-    bool endsField(char byte) const { return byte == m_delimiter || byte == '\n' || byte == '\r'; }
     void requireLine(const char* pEnd) const;
     void resolveDoubledQuotes();
 

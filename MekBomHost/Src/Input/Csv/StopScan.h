@@ -42,14 +42,16 @@ public:
         m_stops = 0;
     }
 
-    // The next stop; the end, however often it is asked for, when there is none left.
+    // The next stop; the end, however often it is asked for, when there is none left. Who knows that the delimiter is a
+    // comma says so, and saves the question.
+    template <bool isComma = false>
     const char* next()
     {
         while (m_stops == 0)
         {
             if (m_pNextBlock >= m_pEnd)
                 return m_pEnd;
-            takeBlock();
+            takeBlock<isComma>();
         }
         const char* const pStop = m_pBlock + VorBits::lowestBit(m_stops);
         m_stops &= m_stops - 1;
@@ -59,6 +61,7 @@ public:
 private:
     static constexpr char kLastStop = ',';
 
+    template <bool isComma>
     void takeBlock()
     {
         m_pBlock = m_pNextBlock;
@@ -66,31 +69,16 @@ private:
         std::uint64_t stops = 0;
         for (std::size_t i = 0; i < kBlockSize; i += ByteWord::kSize)
             stops |= stopsOf(ByteWord::load<std::uint64_t>(m_pBlock + i)) << i;
-        if (m_delimiters != 0)
-            stops |= delimitersOfBlock();
+        if (!isComma && m_delimiters != 0)
+            stops |= delimitersIn(m_pBlock, m_delimiters);
         if (m_pNextBlock > m_pEnd)
             stops &= ~std::uint64_t{ 0 } >> (m_pNextBlock - m_pEnd);
         m_stops = stops;
     }
 
-    // A delimiter is zero in the difference to a word of delimiters, and zeros are stops. Apart from the other stops, so
-    // that files with commas pay one question per block for it.
-    std::uint64_t delimitersOfBlock() const
-    {
-        std::uint64_t stops = 0;
-        for (std::size_t i = 0; i < kBlockSize; i += ByteWord::kSize)
-            stops |= zerosOf(ByteWord::load<std::uint64_t>(m_pBlock + i) ^ m_delimiters) << i;
-        return stops;
-    }
-
-    // Eight bits, one for each byte of `word`. Without its highest bit, a byte plus 127 reaches that bit unless it is
-    // zero.
-    static std::uint64_t zerosOf(std::uint64_t word)
-    {
-        const std::uint64_t highBits = ByteWord::kEachByte * 0x80;
-        const std::uint64_t reached = (word & ~highBits) + ByteWord::kEachByte * 0x7F;
-        return gathered(~(reached | word) & highBits);
-    }
+    // The bits of the bytes among 64 that are the delimiter, of which `delimiters` has eight. It takes values, so
+    // that a scan may stay in registers.
+    static std::uint64_t delimitersIn(const char* pBlock, std::uint64_t delimiters);
 
     // Eight bits, one for each byte of `word`. Without its highest bit a byte plus 127 - ',' reaches that bit unless it
     // is a stop.

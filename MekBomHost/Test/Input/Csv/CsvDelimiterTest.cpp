@@ -30,6 +30,11 @@ TEST(CsvDelimiterTest, WhatDividesAllRowsAlikeIsTheDelimiter)
     EXPECT_EQ(';', recognised("\n\nLength, mm;Weight, kg\n3185;134\n3185,5;12\n"));
 }
 
+TEST(CsvDelimiterTest, AByteOrderMarkBeforeEmptyLinesIsNoHeaderRow)
+{
+    EXPECT_EQ(';', recognised("\xEF\xBB\xBF\n\na;b\n1;2\n"));
+}
+
 TEST(CsvDelimiterTest, OneColumnHasThePlainOne)
 {
     EXPECT_EQ(',', recognised(""));
