@@ -1,12 +1,19 @@
 // What a user says of how parts lists are to be read. What is left empty is found in the file.
 #pragma once
 
+#include "NumberNotation.h"
+#include "TextEncoding.h"
+
+#include <optional>
 #include <string>
 
 namespace mekbom
 {
 struct InputChoices
 {
-    std::string sheet; // of a workbook
+    std::optional<char> delimiter;                               // between the fields of CSV
+    std::optional<TextEncoding::eEncoding> encoding;             // of CSV
+    NumberNotation::eSign decimalSign = NumberNotation::kNoSign; // of numbers that are texts
+    std::string sheet;                                           // of a workbook
 };
 }

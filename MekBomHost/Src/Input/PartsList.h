@@ -20,6 +20,7 @@
 
 #include "FindingList.h"
 #include "InputColumn.h"
+#include "NumberNotation.h"
 #include "PartsFacts.h"
 #include "RecordSource.h"
 #include "ReportTemplate.h"
@@ -52,6 +53,10 @@ public:
     // The column with this token, or null.
     const InputColumn* find(const std::string& token) const;
 
+    // How numbers are written in the file, as far as its first rows tell; `units` know the kinds of the template's
+    // tokens. To be asked for before any row is read. readRows() does it, too.
+    NumberNotation notation(const VorBomTemplateUnits& units) const;
+
     // Tells `units` of what kind the columns are that nobody knows but whose unit says it: "Gap [in]" is a length. What
     // they know already stays. readRows() does it, too; whoever asks for kinds before that calls it.
     void registerKinds(VorBomTemplateUnits& units) const;
@@ -82,10 +87,10 @@ private:
     void buildRows(CellReader& cells, VorBomData& data, int numFormulas);
     void readHeader();
     void checkColumn(const InputColumn& column, FindingList& findings) const;
-    void checkSeparator(const InputColumn& column, FindingList& findings) const;
     void addRefusal(Finding finding, FindingList& findings) const;
     void addHeaderFinding(Finding finding, FindingList& findings) const;
     void addColumn(const std::string& heading);
+    Finding commaNote(const NumberNotation& notation) const;
     void findWantedColumns(const std::set<std::string>& wantedTokens);
     void resolveColumns(VorBomTemplate& reportTemplate);
     void resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const;

@@ -50,8 +50,12 @@ ExitStatus NewListVerb::run(FindingList& findings)
 // fewer cells than the header row, and what it has beyond those belongs to no column.
 std::vector<InputColumn> NewListVerb::columnsOf(RecordSource& records)
 {
-    std::vector<InputColumn> columns = PartsList(records).columns();
+    const PartsList parts(records);
+    std::vector<InputColumn> columns = parts.columns();
     std::vector<UntypedCells> cells(columns.size());
+    const NumberNotation notation = parts.notation(VorBomTemplateUnits());
+    for (UntypedCells& cellsOfColumn : cells)
+        cellsOfColumn.setNotation(notation);
     while (const Record* const pRecord = records.next())
         for (std::size_t i = 0; i < std::min(pRecord->size(), columns.size()); ++i)
             if (!(*pRecord)[i].isNothing())
