@@ -8,13 +8,13 @@
 #include "PartsList.h"
 
 #include "CellReader.h"
-#include "ColumnHeading.h"
 #include "DataTokens.h"
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
+#include "NearestWord.h"
 #include "TokenNames.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
@@ -44,6 +44,13 @@ namespace
     throw Fault(kWrongUsage, finding);
 }
 
+// What is wrong with "--map HEADING=TOKEN".
+[[noreturn]] void failInMapping(const HeadingMapping& mapping, Finding finding)
+{
+    finding.source = "--map " + mapping.heading + "=" + mapping.token;
+    throw Fault(kWrongUsage, finding);
+}
+
 // What the template traces, and others beside it. Case counts: a template that asks for "%Length" has no use for a
 // column "%length".
 std::set<std::string> wantedTokens(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
@@ -65,6 +72,19 @@ int numFormulas(VorBomTemplate& reportTemplate)
     return number;
 }
 
+bool isAmong(const std::vector<std::string>& texts, const std::string& text)
+{
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+// What is twice: a token that is written so, or one that two headings stand for.
+std::string againIn(const InputColumn& first, const InputColumn& second)
+{
+    if (first.origin == ColumnName::kWritten && second.origin == ColumnName::kWritten)
+        return "column " + inQuotes(second.token) + " a second time";
+    return "column " + inQuotes(second.token) + " twice, as " + inQuotes(first.name) + " and " + inQuotes(second.name);
+}
+
 // "%Name is a text"
 std::string statementOf(const InputColumn& column)
 {
@@ -72,9 +92,9 @@ std::string statementOf(const InputColumn& column)
 }
 }
 
-PartsList::PartsList(RecordSource& source) : m_source(source)
+PartsList::PartsList(RecordSource& source, const HeadingChoices& choices) : m_source(source)
 {
-    readHeader();
+    readHeader(choices);
 }
 
 const InputColumn* PartsList::find(const std::string& token) const
@@ -87,6 +107,25 @@ InputColumn* PartsList::findColumn(const std::string& token)
 {
     const auto found = m_indices.find(token);
     return found == m_indices.end() ? nullptr : &m_columns[found->second];
+}
+
+bool PartsList::isInDoubt(const std::string& token) const
+{
+    return std::any_of(m_columns.begin(), m_columns.end(),
+                       [&token](const InputColumn& column)
+                       { return column.doubt && isAmong(column.doubt->tokens, token); });
+}
+
+std::optional<Finding> PartsList::readingOf(const std::set<std::string>& tokens) const
+{
+    std::string text;
+    for (const InputColumn& column : m_columns)
+        if (column.origin == ColumnName::kTable && tokens.count(column.token) > 0)
+            text += (text.empty() ? "" : ", ") + inQuotes(column.name) + " -> " + column.token +
+                    (column.isRowTotal ? " of all pieces" : "");
+    if (text.empty())
+        return std::nullopt;
+    return Finding::saying(FindingCodes::kHeadingsRead, m_source.name() + ": " + text);
 }
 
 // To say again what the heading says is no mistake: a script may pass its units with files that name them and with
@@ -120,6 +159,7 @@ void PartsList::setRowTotal(const std::string& token)
 PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
 {
     const std::set<std::string> wanted = wantedTokens(reportTemplate, otherTokens);
+    refuseDoubts(wanted);
     registerKinds(*reportTemplate.getBomTemplateUnits());
     findWantedColumns(wanted);
     resolveColumns(reportTemplate);
@@ -157,15 +197,20 @@ bool PartsList::assumesUnits() const
                        });
 }
 
-void PartsList::readHeader()
+void PartsList::readHeader(const HeadingChoices& choices)
 {
     const Record* const pHeader = m_source.next();
     if (pHeader == nullptr)
         failWithoutHeader();
-    FindingList findings;
+    std::vector<std::string> headings;
     for (const RecordCell& cell : *pHeader)
+        headings.push_back(cell.asText());
+    const ColumnNames names = ColumnNames::of(headings, choices);
+    checkMappings(names);
+    FindingList findings;
+    for (std::size_t i = 0; i < headings.size(); ++i)
     {
-        addColumn(cell.asText());
+        addColumn(headings[i], names.columns[i]);
         checkColumn(m_columns.back(), findings);
     }
     if (m_columns.size() == 1)
@@ -180,6 +225,20 @@ void PartsList::failWithoutHeader() const
     throw Fault(kInvalidInput, finding);
 }
 
+void PartsList::checkMappings(const ColumnNames& names) const
+{
+    if (names.missing.empty())
+        return;
+    const HeadingMapping& mapping = names.missing.front();
+    std::vector<std::string> labels;
+    for (const ColumnName& column : names.columns)
+        labels.push_back(column.label);
+    Finding finding = Finding::stating(FindingCodes::kHeadingMissing,
+                                       m_source.name() + " has no column " + inQuotes(mapping.heading));
+    finding.remedy = NearestWord::question(mapping.heading, labels);
+    failInMapping(mapping, finding);
+}
+
 // `column` is the last one so far.
 // find() gives the first of the name: if that is another one, this one has the name a second time.
 void PartsList::checkColumn(const InputColumn& column, FindingList& findings) const
@@ -188,9 +247,8 @@ void PartsList::checkColumn(const InputColumn& column, FindingList& findings) co
         addHeaderFinding(Finding::of(FindingCodes::kColumnWithoutName,
                                      "no name in field " + std::to_string(m_columns.size()), "a column name"),
                          findings);
-    else if (find(column.token) != &column)
-        addHeaderFinding(Finding::of(FindingCodes::kColumnTwice, "column " + inQuotes(column.token) + " a second time"),
-                         findings);
+    else if (const InputColumn* const pFirst = find(column.token); pFirst != &column)
+        addHeaderFinding(Finding::of(FindingCodes::kColumnTwice, againIn(*pFirst, column)), findings);
 }
 
 // A single column that holds separators of other kinds is most likely a whole header row.
@@ -211,18 +269,40 @@ void PartsList::addHeaderFinding(Finding finding, FindingList& findings) const
     findings.add(std::move(finding));
 }
 
-void PartsList::addColumn(const std::string& heading)
+void PartsList::addColumn(const std::string& heading, const ColumnName& name)
 {
-    const ColumnHeading name = ColumnHeading::parse(heading);
     InputColumn column;
     column.name = heading;
+    column.label = name.label;
     column.token = name.token;
     column.tupleToken = Utf8::toWide(name.token);
     column.unitSymbol = name.unit;
+    column.isRowTotal = name.isRowTotal;
+    column.origin = name.origin;
+    column.doubt = name.doubt;
     column.isHandle = name.token == TokenNames::kHandle;
     column.isPieces = name.token == TokenNames::kPieces;
     m_indices.emplace(column.token, m_columns.size());
     m_columns.push_back(column);
+}
+
+// The record read last is still the header row. What several columns are in doubt for is said once.
+void PartsList::refuseDoubts(const std::set<std::string>& wantedTokens) const
+{
+    FindingList findings;
+    std::set<std::string> said;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+    {
+        const std::shared_ptr<const HeadingDoubt>& doubt = m_columns[i].doubt;
+        const auto isWanted = [&wantedTokens](const std::string& token) { return wantedTokens.count(token) > 0; };
+        if (!doubt || std::none_of(doubt->tokens.begin(), doubt->tokens.end(), isWanted) ||
+            !said.insert(messageOf(doubt->finding)).second)
+            continue;
+        Finding finding = doubt->finding;
+        m_source.placeCell(i, finding);
+        findings.add(std::move(finding));
+    }
+    findings.throwIfAnyError();
 }
 
 // The number of pieces is wanted, too, where another column is divided by it.

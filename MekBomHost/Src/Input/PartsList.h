@@ -2,7 +2,7 @@
 //
 //   FileSource file("parts.csv");
 //   CsvReader records(file);
-//   PartsList parts(records);              // reads the header row
+//   PartsList parts(records);              // reads the header row, as ColumnNames does
 //   parts.setInputUnit("%Paint", "m2");
 //   parts.setRowTotal("%Weight");
 //   const PartsFacts facts = parts.readRows(*pTemplate);    // into the template's data
@@ -41,13 +41,22 @@ struct FindingCode;
 class PartsList
 {
 public:
-    // Reads the header row. `source` is not owned and outlives the list.
-    explicit PartsList(RecordSource& source);
+    // Reads the header row. `source` is not owned and outlives the list. Throws a Fault of status kInvalidInput for one
+    // that is wrong, and of kWrongUsage when a heading that must be there is not.
+    explicit PartsList(RecordSource& source, const HeadingChoices& choices = HeadingChoices());
 
     const std::vector<InputColumn>& columns() const { return m_columns; }
 
     // The column with this token, or null.
     const InputColumn* find(const std::string& token) const;
+
+    // Whether a column may carry the token that nobody can tell for certain. readRows() throws a Fault of status
+    // kInvalidInput, which says how to settle it, when such a token is asked for.
+    bool isInDoubt(const std::string& token) const;
+
+    // Says of the columns that carry one of `tokens` which headings were not the names of these but in the table of
+    // headings; nothing when there is none.
+    std::optional<Finding> readingOf(const std::set<std::string>& tokens) const;
 
     // Tells `units` of what kind the columns are that nobody knows but whose unit says it: "Gap [in]" is a length. What
     // they know already stays. readRows() does it, too; whoever asks for kinds before that calls it.
@@ -76,12 +85,14 @@ public:
     bool assumesUnits() const;
 
 private:
-    void readHeader();
+    void readHeader(const HeadingChoices& choices);
     [[noreturn]] void failWithoutHeader() const;
+    void checkMappings(const ColumnNames& names) const;
     void checkColumn(const InputColumn& column, FindingList& findings) const;
     void checkSeparator(const InputColumn& column, FindingList& findings) const;
     void addHeaderFinding(Finding finding, FindingList& findings) const;
-    void addColumn(const std::string& heading);
+    void addColumn(const std::string& heading, const ColumnName& name);
+    void refuseDoubts(const std::set<std::string>& wantedTokens) const;
     void findWantedColumns(const std::set<std::string>& wantedTokens);
     void resolveColumns(VorBomTemplate& reportTemplate);
     void resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const;

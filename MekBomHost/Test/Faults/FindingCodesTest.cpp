@@ -43,7 +43,9 @@ TEST(FindingCodesTest, NumbersFollowEachOtherWithoutGapsWithinTheirHundred)
         const bool beginsHundred = number % 100 == 1 && number / 100 == last / 100 + 1;
         const bool comesBehindRetired = (last + 1 == noteOnMergedRows && number == last + 2) ||
                                         (number == 815 && last == 812); // MB813 and MB814 are gone, and not given again
-        EXPECT_TRUE(number == last + 1 || beginsHundred || comesBehindRetired) << name << " after " << last;
+        const bool beginsHeadings = number == 760; // which have room of their own behind the codes of files
+        EXPECT_TRUE(number == last + 1 || beginsHundred || comesBehindRetired || beginsHeadings)
+            << name << " after " << last;
         last = number;
     }
     EXPECT_EQ(9, last / 100);

@@ -104,6 +104,11 @@ TEST(ListFolderTest, ColumnsOfSeveralKindsNameTheirUnits)
     expectList("columns-of-several-kinds-name-their-units");
 }
 
+TEST(ListFolderTest, HeadingsOfTheTradeAreRead)
+{
+    expectList("headings-of-the-trade");
+}
+
 TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 {
     expectList("frame-metric");
