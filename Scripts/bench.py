@@ -4,9 +4,10 @@
                              [--sections evaluate,shapes,threads,formulas,job,curves]
                              [--rounds 3] [--json build/bench/bench.json] [--document Docs/PERFORMANCE.md]
 
-All programs get the same environment, in which freed memory stays in the process. Each is started --rounds times for
-each size, the programs taking turns; each start makes several reports and tells the times of all but the first. With
---document the tables replace those in that file, between the two comments that mark them.
+Reports are compared on two sets of rows, named in bench_tables.TEXTS. All programs get the same environment, in which
+freed memory stays in the process. Each is started --rounds times for each size, at a million rows once less, the
+programs taking turns; each start makes several reports and tells the times of all but the first. With --document the
+tables replace those in that file, between the two comments that mark them.
 """
 
 import argparse
@@ -32,7 +33,7 @@ MEMORY_STAYS = {
     "MALLOC_MMAP_THRESHOLD_": str(64 << 30),
     "MALLOC_TOP_PAD_": str(64 << 20),
 }
-ONE_THREAD = {"POLARS_MAX_THREADS": "1", "OMP_NUM_THREADS": "1", "OPENBLAS_NUM_THREADS": "1"}
+ONE_THREAD = {"OMP_NUM_THREADS": "1", "OPENBLAS_NUM_THREADS": "1"}
 ENVIRONMENT = {**os.environ, **MEMORY_STAYS, **ONE_THREAD, "PYTHONDONTWRITEBYTECODE": "1"}
 
 
@@ -72,13 +73,13 @@ def python_with_pandas():
     return next((python for python in pythons if succeeds([python, "-c", "import pandas"])), None)
 
 
-def report_programs(build):
+def report_programs(build, texts):
     """Name to command of the programs that make the compared report; those that cannot run are named on stderr."""
     folder = build / "MekBomEngine/Bench"
     programs = {
         "limit": [folder / "LimitReport"],
         bench_tables.LIMIT_AHEAD: [folder / "LimitReport", "--rows-ahead", "12"],
-        "engine": [folder / "EngineReport"],
+        "engine": [folder / "EngineReport", "--texts", texts],
     }
     if (folder / "SqliteReport").exists():
         programs["SQLite"] = [folder / "SqliteReport"]
@@ -89,6 +90,7 @@ def report_programs(build):
                                   ("Polars", "nodejs-polars", "polars_report.mjs")):
         if succeeds(["node", "-e", f"require('{peers}/node_modules/{package}')"]):
             programs[name] = ["node", COMPARISON / script, "--modules", peers]
+            programs[f"{name}, 2 threads"] = [*programs[name], "--threads", 2]
         else:
             print(f"{name} is skipped: npm has not installed {package}, or not for this machine", file=sys.stderr)
     if python_with_pandas():
@@ -98,16 +100,23 @@ def report_programs(build):
     return programs
 
 
-def generate_rows(build, size):
-    path = build / f"parts-{size}.csv"
+def generate_rows(build, lengths, size):
+    """The file of one of the sets of rows that bench_tables.TEXTS names."""
+    options = ["--full-lengths"] if lengths == bench_tables.FULL_LENGTHS else []
+    path = build / f"parts-{size}{''.join(options)}.csv"
     if not path.exists():
-        path.write_text(run([sys.executable, GENERATOR, size]), encoding="utf-8")
+        path.write_text(run([sys.executable, GENERATOR, size, *options]), encoding="utf-8")
     return path
 
 
 def runs_per_start(size):
     """Small reports are made more often; the first is discarded."""
     return {10_000: 30, 100_000: 8}.get(size, 3)
+
+
+def rounds_at(size, rounds):
+    """One less where a round takes a minute."""
+    return max(rounds - 1, 1) if size >= 1_000_000 else rounds
 
 
 def check_texts(build, programs, data):
@@ -134,22 +143,35 @@ def merged(lines):
     return result
 
 
+def compare_programs(build, programs, lengths, size, rounds):
+    """Name to merged results."""
+    data = generate_rows(build, lengths, size)
+    print(f"{lengths}, {size} rows: checking the texts", file=sys.stderr)
+    check_texts(build, programs, data)
+    lines = {name: [] for name in programs}
+    for number in range(1, rounds + 1):
+        print(f"{lengths}, {size} rows: round {number} of {rounds}", file=sys.stderr)
+        for name, command in programs.items():
+            lines[name] += run_json_lines(command + ["--data", data, "--runs", runs_per_start(size)])
+    return {name: merged(found) for name, found in lines.items()}
+
+
 def compare_reports(build, sizes, rounds):
-    programs = report_programs(build)
-    share = [build / "MekBomEngine/Bench/FormulaShare", "--runs"]
+    """For each set of rows and each size the results of all programs."""
     results = {}
-    for size in sizes:
-        data = generate_rows(build, size)
-        print(f"{size} rows: checking the texts", file=sys.stderr)
-        check_texts(build, programs, data)
-        lines = {name: [] for name in [*programs, "formula share"]}
-        for number in range(1, rounds + 1):
-            print(f"{size} rows: round {number} of {rounds}", file=sys.stderr)
-            for name, command in programs.items():
-                lines[name] += run_json_lines(command + ["--data", data, "--runs", runs_per_start(size)])
-            lines["formula share"] += run_json_lines(share + [2 * runs_per_start(size) - 2, "--data", data])
-        results[size] = {name: merged(found) for name, found in lines.items()}
+    for lengths, texts in bench_tables.TEXTS.items():
+        programs = report_programs(build, texts)
+        results[lengths] = {size: compare_programs(build, programs, lengths, size, rounds_at(size, rounds))
+                            for size in sizes}
     return results
+
+
+def formula_share(build, size, rounds):
+    """What a row pays for its formula: from round lengths alone, since computing takes no longer with full ones."""
+    data = generate_rows(build, bench_tables.ROUND_LENGTHS, size)
+    print(f"{size} rows: the formula's share", file=sys.stderr)
+    command = [build / "MekBomEngine/Bench/FormulaShare", "--data", data, "--runs", 2 * runs_per_start(size) - 2]
+    return merged([line for _ in range(rounds) for line in run_json_lines(command)])
 
 
 def compare_shapes(build, sizes):
@@ -176,10 +198,14 @@ def compare_formulas(build):
 
 
 def compare_jobs(build, size, rounds):
-    print(f"{size} rows: the whole job", file=sys.stderr)
+    """For each set of rows the lines of whole_job.py."""
     python = python_with_pandas() or sys.executable
-    return run_json_lines([python, WHOLE_JOB, "--program", build / "MekBomHost/mekbom", "--data",
-                           generate_rows(build, size), "--runs", rounds + 1])
+    results = {}
+    for lengths in bench_tables.TEXTS:
+        print(f"{lengths}, {size} rows: the whole job", file=sys.stderr)
+        results[lengths] = run_json_lines([python, WHOLE_JOB, "--program", build / "MekBomHost/mekbom", "--data",
+                                           generate_rows(build, lengths, size), "--runs", rounds_at(size, rounds) + 1])
+    return results
 
 
 def run_curves(build):
@@ -226,7 +252,10 @@ def read_arguments():
 
 def run_sections(build, sections, sizes, rounds):
     measure = {
-        "evaluate": lambda: compare_reports(build, sizes, rounds),
+        "evaluate": lambda: {
+            "reports": compare_reports(build, sizes, rounds),
+            "formula share": {size: formula_share(build, size, rounds_at(size, rounds)) for size in sizes},
+        },
         "shapes": lambda: compare_shapes(build, sizes),
         "threads": lambda: compare_threads(build),
         "formulas": lambda: compare_formulas(build),

@@ -1,5 +1,5 @@
 #!/bin/sh
-# Builds all benchmarks, runs them on the same rows and prints tables with ratios; about twenty minutes. Arguments go to
+# Builds all benchmarks, runs them on the same rows and prints tables with ratios; about half an hour. Arguments go to
 # Scripts/bench.py, such as
 #   sh Scripts/bench.sh --sizes 10000,100000        a quick run
 #   sh Scripts/bench.sh --sections evaluate         one comparison alone

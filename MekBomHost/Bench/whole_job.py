@@ -9,6 +9,7 @@ turns, and of several runs the first, which fills caches, does not count. Report
 """
 
 import argparse
+import itertools
 import json
 import os
 import pathlib
@@ -24,6 +25,7 @@ HERE = pathlib.Path(__file__).resolve().parent
 PYTHON = "/usr/bin/python3"  # the one that Debian's pandas belongs to
 NUM_DETAILS_FIELDS = 15
 MARK, LENGTH, WEIGHT, TOTAL = 1, 5, 6, 14  # fields of a details line
+NUM_KEYS = 3  # that lines are sorted by: material, mark, length
 
 
 def has_pandas():
@@ -62,7 +64,11 @@ def run(command, stdin, folder):
 
 
 def content(report):
-    """What every program must agree on: each details line's material, mark, length, weight and total, and all sums."""
+    """What every program must agree on: each details line's material, mark, length, weight and total, and all sums.
+
+    Lines of a group whose lengths read the same are put in the order of their weights: nearly equal ones keep theirs in
+    mekbom, while others put the longer one first.
+    """
     details, sums = [], []
     with open(report, encoding="utf-8") as lines:
         for line in lines:
@@ -72,7 +78,8 @@ def content(report):
                                 float(fields[TOTAL])))
             elif len(fields) == 1 and fields[0][0].isdigit():
                 sums.append(float(fields[0]))
-    return details, sums
+    tied = itertools.groupby(details, key=lambda line: line[:NUM_KEYS])
+    return [line for _, lines in tied for line in sorted(lines)], sums
 
 
 def differ(first, second):

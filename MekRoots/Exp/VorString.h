@@ -10,7 +10,8 @@
 //      and every evaluated section of a report.
 //   2. A block with more than one user is never written to. Every operation that changes a text first gives it a block
 //      of its own.
-// Copies may be used and destroyed on different threads; one VorString object is for one thread at a time.
+// Copies may be used and destroyed on different threads; one VorString object is for one thread at a time. Where there
+// is one thread alone users are counted without locks, and where a program promises as good as that.
 //
 // Texts are ordered by the numeric value of their characters; nothing here knows a locale. Positions and lengths count
 // characters of type wchar_t, whatever their width on the platform.
@@ -111,6 +112,12 @@ public:
     // Where the text lies in memory; null for the empty one. For fetching it ahead, not for reading.
     const void* memory() const { return m_pBlock; }
 
+    // Promises that no text is used on one thread while a copy of it is on another, whatever threads this process will
+    // have: users are then counted without locks all the same, which takes a twelfth off the time of a report of many
+    // rows. For the main() of a program whose other threads share no texts, before it starts them; not for a library,
+    // which does not know. Cannot be taken back.
+    static void promiseNotToShare() { s_isNotShared = true; }
+
     // -1, 0 or 1 by the characters' numeric values from the left; a prefix comes before the longer text.
     static int compare(const VorString& a, const VorString& b);
 
@@ -144,26 +151,36 @@ private:
     static void destroyBlock(Block* pBlock);
     static void addUser(Block* pBlock) noexcept;
     static void removeUser(Block* pBlock) noexcept;
+    static bool isCountedPlainly() noexcept;
 
     bool equals(const VorString& other) const;
     bool holdsCharacter(const wchar_t* pCharacter) const;
     wchar_t* makeRoomAtEnd(int numCharacters);
 
+    static inline bool s_isNotShared = false; // before there is a second thread, so that none sees it change
+
     Block* m_pBlock = nullptr;
 };
 
 // A locked increment costs twenty times a plain one; while the process has a single thread the plain one is enough.
+inline bool VorString::isCountedPlainly() noexcept
+{
+#if defined(MEK_KNOWS_SINGLE_THREADED)
+    if (__builtin_expect(__libc_single_threaded, 1)) // the locked increment is slow either way
+        return true;
+#endif
+    return s_isNotShared;
+}
+
 inline void VorString::addUser(Block* pBlock) noexcept
 {
     if (pBlock == nullptr)
         return;
-#if defined(MEK_KNOWS_SINGLE_THREADED)
-    if (__builtin_expect(__libc_single_threaded, 1)) // the locked increment is slow either way
+    if (isCountedPlainly())
     {
         pBlock->numUsers.store(pBlock->numUsers.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
         return;
     }
-#endif
     pBlock->numUsers.fetch_add(1, std::memory_order_relaxed);
 }
 
@@ -171,8 +188,7 @@ inline void VorString::removeUser(Block* pBlock) noexcept
 {
     if (pBlock == nullptr)
         return;
-#if defined(MEK_KNOWS_SINGLE_THREADED)
-    if (__libc_single_threaded)
+    if (isCountedPlainly())
     {
         const int numLeft = pBlock->numUsers.load(std::memory_order_relaxed) - 1;
         pBlock->numUsers.store(numLeft, std::memory_order_relaxed);
@@ -180,7 +196,6 @@ inline void VorString::removeUser(Block* pBlock) noexcept
             destroyBlock(pBlock);
         return;
     }
-#endif
     if (pBlock->numUsers.fetch_sub(1, std::memory_order_acq_rel) == 1)
         destroyBlock(pBlock);
 }

@@ -1,6 +1,7 @@
 // Texts whose characters are shared by several threads. Each VorString object stays with one thread at a time.
 #include "MekRoots/Test/Support/TestSupport.h"
 
+#include <cstdlib>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -107,4 +108,31 @@ TEST(VorStringThreadTest, TextsOutliveTheThreadThatMadeThem)
 
     for (std::size_t i = 0; i < made.size(); ++i)
         ASSERT_EQ(static_cast<int>(i), made[i].right(made[i].length() - 1).toInteger());
+}
+
+// In a process of its own, since the promise cannot be taken back.
+TEST(VorStringThreadTest, TextsThatAreNotSharedAreCountedRightBesideAnotherThread)
+{
+    const auto countBesideAnotherThread = []
+    {
+        VorString::promiseNotToShare();
+        const long long numBlocks = VorMemoryControllerController::liveBlocks();
+        VorString text(L"%Weight");
+        bool isOtherRight = false;
+        std::thread other(
+            [&isOtherRight]
+            {
+                VorString own(L"%Length");
+                const VorString copy(own);
+                own += L'!';
+                isOtherRight = copy == VorString(L"%Length") && own == VorString(L"%Length!");
+            });
+        const VorString copy(text);
+        text += L'!';
+        other.join();
+        const bool isRight = copy == VorString(L"%Weight") && text == VorString(L"%Weight!");
+        std::exit(isRight && isOtherRight && VorMemoryControllerController::liveBlocks() == numBlocks + 2 ? 0 : 1);
+    };
+
+    EXPECT_EXIT(countBesideAnotherThread(), testing::ExitedWithCode(0), "");
 }

@@ -55,11 +55,11 @@ void addDetails(VorBomItemBase& parent, eLastColumn lastColumn)
         pDetails->addData(VorBomDataTuple(lastColumn == kFormulaColumn ? kFormula : L"%Length", VorString()));
 }
 
-// Reads rows one after the other, remembering the texts of each column.
+// Reads rows one after the other, remembering the texts of each column where they are shared.
 class RowReader
 {
 public:
-    explicit RowReader(const std::string& path) : m_file(path)
+    RowReader(const std::string& path, eTexts texts) : m_file(path), m_nTexts(texts)
     {
         for (const wchar_t* token : kTokens)
             m_tokens.emplace_back(token);
@@ -87,7 +87,7 @@ private:
             return VorBomDataTuple(token, m_squareMetre.getVorUnitTransform().toInternalUnits(m_file.number(column)));
         if (isNumber(column))
             return VorBomDataTuple(token, m_file.number(column));
-        if (column == PartsFile::kHandle) // no two are equal
+        if (m_nTexts == kOwnTexts || column == PartsFile::kHandle) // of handles no two are equal
             return VorBomDataTuple(token, wideText(m_file.text(column)));
         return VorBomDataTuple(token, sharedText(column));
     }
@@ -101,6 +101,7 @@ private:
     }
 
     PartsFile m_file;
+    const eTexts m_nTexts;
     const MEKUnit m_squareMetre{ 3003, 3003, 2 };
     std::vector<VorString> m_tokens;
     std::unordered_map<std::string_view, VorString> m_texts[PartsFile::kNumColumns];
@@ -124,9 +125,9 @@ std::unique_ptr<VorBomTemplate> createComparisonReport(eLastColumn lastColumn)
     return pReport;
 }
 
-void loadComparisonRows(VorBomTemplate& report, const std::string& path)
+void loadComparisonRows(VorBomTemplate& report, const std::string& path, eTexts texts)
 {
-    RowReader reader(path);
+    RowReader reader(path, texts);
     while (reader.next())
         report.getBomData()->addChild(reader.row().release());
 }

@@ -15,13 +15,19 @@ enum eLastColumn
     kNoColumn
 };
 
+// What equal cells of a column have.
+enum eTexts
+{
+    kSharedTexts, // one text, as a host makes them that remembers what it has read
+    kOwnTexts     // a text each
+};
+
 // Sorted by material, mark and length; grouped by material and mark; a details line per row; sums of weights. Ready
 // to be evaluated once it has rows.
 std::unique_ptr<VorBomTemplate> createComparisonReport(eLastColumn lastColumn);
 
-// Hangs the rows of the file under the report's data, in internal units. Equal texts of a column share one text, as a
-// host that reads a file makes them.
-void loadComparisonRows(VorBomTemplate& report, const std::string& path);
+// Hangs the rows of the file under the report's data, in internal units.
+void loadComparisonRows(VorBomTemplate& report, const std::string& path, eTexts texts);
 
 // The rows as they were loaded. Takes off everything that an evaluation leaves in them, so that the next one does the
 // same work again, for the same report or another.

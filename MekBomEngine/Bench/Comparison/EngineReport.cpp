@@ -1,6 +1,6 @@
 // What does the whole report cost the engine? From evaluate() to the finished tree, the rows loaded before; and what
 // costs freeing the tree, which is timed apart.
-//   EngineReport --data parts.csv [--runs N] [--text report.txt]
+//   EngineReport --data parts.csv [--texts shared|own] [--runs N] [--text report.txt]
 // Bytes are what the process takes from the C library's allocator, pool chunks with what is unused in them included:
 // for the rows while they are loaded, for the result during the first run, its working memory included that the pool
 // keeps.
@@ -10,10 +10,23 @@
 #include "MekBomEngine/Src/VorBomEvaluator2.h"
 #include "VorBomItemWalk.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <malloc.h>
 
 namespace
 {
+eTexts textsAskedFor(const ComparisonRun& run)
+{
+    const std::string texts = run.option("--texts", "shared");
+    if (texts == "shared")
+        return kSharedTexts;
+    if (texts == "own")
+        return kOwnTexts;
+    std::fprintf(stderr, "--texts %s: expected 'shared' or 'own'\n", texts.c_str());
+    std::exit(2);
+}
+
 double allocatedBytes()
 {
     const struct mallinfo2 info = mallinfo2();
@@ -79,7 +92,7 @@ int main(int argc, char** argv)
     const ComparisonRun run(argc, argv);
     const auto pReport = createComparisonReport(kFormulaColumn);
     const double bytesBefore = allocatedBytes();
-    loadComparisonRows(*pReport, run.dataPath());
+    loadComparisonRows(*pReport, run.dataPath(), textsAskedFor(run));
     const double rowBytes = allocatedBytes() - bytesBefore;
     InputRows rows(*pReport);
 

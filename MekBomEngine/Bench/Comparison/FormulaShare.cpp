@@ -100,7 +100,7 @@ int main(int argc, char** argv)
     const auto pWithFormula = createComparisonReport(kFormulaColumn);
     const auto pWithLength = createComparisonReport(kLengthColumn);
     const auto pWithNeither = createComparisonReport(kNoColumn);
-    loadComparisonRows(*pWithFormula, run.dataPath());
+    loadComparisonRows(*pWithFormula, run.dataPath(), kSharedTexts);
     InputRows rows(*pWithFormula);
     evaluate(*pWithFormula, rows); // pays for fresh memory pages
 

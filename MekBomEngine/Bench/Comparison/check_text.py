@@ -3,7 +3,8 @@
     python3 check_text.py limit.txt other.txt
 
 Numbers may differ as programs round: they show as many decimals, and one whose next digit is exactly 5 may go either
-way; trailing zeros may be shown or not. Rows equal in all sort keys may stand in any order.
+way; trailing zeros may be shown or not. Rows of a group whose lengths read the same may stand in any order: nearly
+equal ones keep theirs in the engine, while other programs put the longer one first.
 """
 
 import sys
@@ -14,7 +15,7 @@ NUMBERS = {5, 6, 7, 12, 13, 14}
 
 
 def rows_of(path):
-    """The lines as lists of cells, rows of equal length side by side ordered by their handles."""
+    """The lines as lists of cells, neighbours of the same length ordered by their handles."""
     with open(path, encoding="utf-8") as file:
         rows = (line.rstrip("\n").split("\t") for line in file)
         for key, group in groupby(rows, key=lambda row: float(row[LENGTH]) if len(row) > LENGTH else None):

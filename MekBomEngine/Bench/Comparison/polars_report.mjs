@@ -1,9 +1,10 @@
-// What does the report cost in Polars, from the loaded frame to the whole text? On one thread: POLARS_MAX_THREADS=1.
-//   POLARS_MAX_THREADS=1 node polars_report.mjs --modules FOLDER --data parts.csv [--runs N] [--text report.txt]
+// What does the report cost in Polars, from the loaded frame to the whole text?
+//   node polars_report.mjs --modules FOLDER --data parts.csv [--threads N] [--runs N] [--text report.txt]
 // Measured as its fastest way: rows sorted by length alone, lines joined within each group by mark, then only the
 // groups sorted. Sorting the rows by all keys takes longer; casts to decimals are faster than rounding.
-import { dataPath, measure, requirePackage } from './comparison_run.mjs';
+import { dataPath, measure, requirePackage, threads } from './comparison_run.mjs';
 
+process.env.POLARS_MAX_THREADS = threads; // read when the package is loaded
 const pl = requirePackage('nodejs-polars').default;
 const column = pl.col;
 

@@ -9,6 +9,9 @@ namespace
 // Up to here insertion is faster than a merge.
 constexpr std::ptrdiff_t kSmallGroup = 40;
 
+// As the engine's doubles are compared.
+constexpr double kEqualTolerance = 1e-6;
+
 std::uint32_t markNumber(const LimitText& mark)
 {
     std::uint32_t number = 0;
@@ -19,7 +22,7 @@ std::uint32_t markNumber(const LimitText& mark)
 
 bool isLonger(const LimitOrder::Entry& a, const LimitOrder::Entry& b)
 {
-    return a.length > b.length;
+    return a.length - b.length >= kEqualTolerance;
 }
 
 void sortByInsertion(LimitOrder::Entry* pFirst, LimitOrder::Entry* pEnd)

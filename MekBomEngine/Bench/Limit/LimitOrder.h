@@ -1,5 +1,7 @@
 // The rows' indices in the order of the report: by material ascending, mark in natural order, length descending; rows
-// equal in all three keep their order.
+// equal in all three keep their order. Lengths closer than 1e-6 mm are equal. A group with a chain of those, such as
+// 2.0, 2.0000008 and 2.0000016, has no one order: the engine has a rule for it and the limit has not, as generated rows
+// have no such group.
 //
 // Every key is built once. Material and mark together choose a place by counting: a material has a number, first by
 // first appearance, then by its rank among the materials, and a mark its own number. The few rows that share a place

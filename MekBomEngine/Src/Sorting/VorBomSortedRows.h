@@ -21,7 +21,7 @@ class VorBomSortedRows
 public:
     VorBomSortedRows(VorBomData& data, const VorBomSortKeys& keys);
 
-    // All rows, in order; the data's own chain stays as it is.
+    // All rows, in order; the data's own chain stays as it is. To be called once.
     std::vector<VorBomItemBase*> sorted();
 
     // The row that was last when the rows were looked up; null without rows.
@@ -33,12 +33,12 @@ private:
     // Ranks of all columns, one for each key.
     using Ranks = std::vector<VorBomRanks>;
 
-    Ranks rankColumns() const;
+    Ranks rankColumns();
     void mergeUnordered(const Ranks& ranks, std::vector<std::uint32_t>& indices);
     void reportUnknownKeys(const Ranks& ranks, const std::vector<std::uint32_t>& indices);
     int compareRows(std::uint32_t first, std::uint32_t second, std::size_t firstKey);
 
     VorBomSortKeys m_keys;
     std::vector<VorBomItemBase*> m_rows;
-    std::vector<Column> m_columns; // one per key
+    std::vector<Column> m_columns; // one per key, empty once no comparison needs it
 };

@@ -6,8 +6,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <vector>
-
 namespace mekbom
 {
 // The parser would refuse a second file, too, but in its own words. So it takes all there are, and name() refuses.
@@ -25,10 +23,14 @@ std::string FileOption::name() const
         Finding finding = Finding::of(FindingCodes::kWrongArguments,
                                       inQuotes(given[1]) + " beside " + inQuotes(given[0]), "one file");
         finding.source = option();
-        finding.remedy = "several files are not taken yet";
         throw Fault(kWrongUsage, finding);
     }
     return given.empty() ? std::string() : given.front();
+}
+
+std::vector<std::string> FileOption::names() const
+{
+    return m_pOption->results();
 }
 
 // Of "-o,--output" the long one, as messages and help have it.

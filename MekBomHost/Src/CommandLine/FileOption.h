@@ -1,12 +1,14 @@
-// An option that names one file, or a word that stands for one:  --data parts.csv
+// An option that names a file, or a word that stands for one, and where it makes sense several:
+// --data parts.csv --data bolts.csv
 //
 //   FileOption data("--data", "FILE");
 //   data.declareOn(report, "Parts list");
-//   data.name()   ->  "parts.csv"
+//   data.names()   ->  "parts.csv" and "bolts.csv"
 #pragma once
 
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace CLI
 {
@@ -28,6 +30,9 @@ public:
 
     // What was given; empty for nothing. Throws a Fault of status kWrongUsage when there is a second one.
     std::string name() const;
+
+    // All that was given, in its order.
+    std::vector<std::string> names() const;
 
     // "--output": what findings call the option.
     std::string option() const;

@@ -52,7 +52,9 @@ std::string contentOf(const Finding& finding)
 // The built-in template has neither file nor line, and then nothing stands in front.
 std::string mistakeMessageOf(const Finding& finding)
 {
-    const std::string place = placeOf(finding);
+    std::string place = placeOf(finding);
+    if (!place.empty() && finding.begin.line == 0 && !finding.path.empty()) // a cell of a workbook is on no line
+        place += ": " + finding.path;
     return (place.empty() ? "" : place + ": ") + nameOf(finding.severity) + " " + finding.code + ": " +
            (finding.field.empty() ? "" : "column " + inQuotes(finding.field) + ": ") + contentOf(finding) +
            (finding.remedy.empty() ? "" : "; help: " + finding.remedy);

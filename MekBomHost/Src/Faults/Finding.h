@@ -48,7 +48,7 @@ struct Finding
     std::string source; // the file as the user named it, or the option: "parts.csv", "--unit length=foo"
     TextPlace begin;    // in the file
     TextPlace end;      // behind the last character that is meant
-    std::string path;   // in a template: "/columns/2/width"
+    std::string path;   // in a template: "/columns/2/width"; in a workbook: "Parts!C7"
     std::string field;  // of a record: the heading of its column, as the file has it
 
     // What, in one of three forms: found and expected, which nearly all have; a statement about the place, where there

@@ -70,6 +70,37 @@ inline constexpr FindingCode kRowTotalOfMissingColumn = {
 inline constexpr FindingCode kRowTotalOfNoNumber = { "MB723", kError,
                                                      "Row totals are announced for a column of texts or of whole "
                                                      "numbers." };
+inline constexpr FindingCode kUnitsOfFilesDiffer = {
+    "MB729", kError, "Two parts lists of one report give a column in units that differ."
+};
+inline constexpr FindingCode kNoJsonParts = { "MB730", kError, "A parts list in JSON is no sequence of objects." };
+inline constexpr FindingCode kPartsWithinParts = { "MB731", kError, "A part in JSON has an object or a list in it." };
+inline constexpr FindingCode kAssemblyColumnMissing = {
+    "MB732", kError, "A list lacks the column that tells which part belongs to which assembly."
+};
+inline constexpr FindingCode kAssemblyTwice = { "MB733", kError, "Two assemblies have the same handle." };
+inline constexpr FindingCode kAssemblyUnknown = { "MB734", kError, "A part names an assembly that there is none of." };
+
+// Workbooks, which are parts lists, too.
+inline constexpr FindingCode kWorkbookDamaged = { "MB740", kError,
+                                                  "A workbook is damaged: a part of it is not as it must be." };
+inline constexpr FindingCode kWorkbookTooLarge = { "MB741", kError,
+                                                   "A part of a workbook is larger than any that is sound." };
+inline constexpr FindingCode kWorkbookOfOtherKind = { "MB742", kError,
+                                                      "A file is a workbook of a kind that is not read." };
+inline constexpr FindingCode kSheetUnknown = { "MB743", kError, "A workbook has no sheet of that name." };
+inline constexpr FindingCode kSheetChosen = { "MB744", kNote,
+                                              "One of several sheets was taken, and nobody said which." };
+inline constexpr FindingCode kRowsAboveHeader = { "MB745", kNote,
+                                                  "Rows above the header row of a sheet are not read." };
+inline constexpr FindingCode kCellWithoutHeading = { "MB746", kError, "A cell stands in a column without a heading." };
+inline constexpr FindingCode kCellShownOtherwise = {
+    "MB747", kError, "A cell shows something else than the number that it holds, such as a date."
+};
+inline constexpr FindingCode kCellWithoutValue = { "MB748", kError,
+                                                   "A cell holds an error, or a formula without its value." };
+inline constexpr FindingCode kCellsMerged = { "MB749", kError,
+                                              "Cells are merged over several rows, of which one has their value." };
 
 // What headings of parts lists mean: MB760 and up.
 inline constexpr FindingCode kHeadingAmbiguous = { "MB760", kError, "A heading may mean one token or another." };

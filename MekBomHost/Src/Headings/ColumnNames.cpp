@@ -9,7 +9,7 @@
 //   totals                            Total length is not asked about, as there is a %Length
 //   what is left                      Unit weight is in doubt: %Weight or %WeightMeter
 //
-// What is written or mapped settles nothing for others: a file that has "%MNum" and "Assembly" does not say that the
+// What is written or mapped settles nothing for others: a file that has "%MNum" and "Baugruppe" does not say that the
 // second is the name of the assembly.
 #include "ColumnNames.h"
 

@@ -68,7 +68,7 @@ const std::vector<HeadingEntry>& all()
             "Onderdeel, Deel",
             "Pièce, Élément" } },
         { kIs, "%MNum", "", "",
-          { "Assembly, Assembly mark, Assembly no, Assembly number, Main mark, Ship mark, Shipping mark, "
+          { "Assembly mark, Assembly no, Assembly number, Main mark, Ship mark, Shipping mark, "
             "Assembly pos, MNum",
             "Baugruppe, Baugruppennummer, Baugruppen-Nr., Hauptposition, Hauptpos., Versandposition, Versandpos.",
             "Samenstelling, Samenstellingsmerk, Hoofdmerk, Merknummer, Merknr.",

@@ -11,6 +11,7 @@
 #include "CellReader.h"
 
 #include "FindingCodes.h"
+#include "HeaderRow.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
 #include "MistakeCodes.h"
@@ -27,11 +28,6 @@ namespace mekbom
 {
 namespace
 {
-std::string fieldCount(std::size_t numFields)
-{
-    return std::to_string(numFields) + (numFields == 1 ? " field" : " fields");
-}
-
 template <class Predicate>
 std::size_t indexOf(const std::vector<InputColumn>& columns, const Predicate& isMeant)
 {
@@ -57,11 +53,9 @@ const FindingCode& codeOf(std::string_view text, const FindingCode& otherwise)
 }
 }
 
-CellReader::CellReader(const std::vector<InputColumn>& columns, const RecordSource& source, VorBomData& data)
+CellReader::CellReader(const std::vector<InputColumn>& columns, RecordSource& source)
     : m_columns(columns),
       m_source(source),
-      m_data(data),
-      m_rows(data, columns.size()),
       m_untypedCells(columns.size()),
       m_notes(columns.size()),
       m_handleColumn(indexOf(columns, [](const InputColumn& column) { return column.isHandle; })),
@@ -77,6 +71,16 @@ CellReader::CellReader(const std::vector<InputColumn>& columns, const RecordSour
     }
 }
 
+bool CellReader::read(RowBatch& batch)
+{
+    batch.clear();
+    m_pBatch = &batch;
+    const Record* pRecord = nullptr;
+    while (!batch.isFull() && (pRecord = m_source.next()) != nullptr)
+        read(*pRecord);
+    return pRecord != nullptr || batch.numRows() > 0;
+}
+
 // A record with a wrong cell makes a row all the same, of the cells that are right: reading goes on, so that one run
 // tells all mistakes, and finish() throws before anybody sees such a row.
 void CellReader::read(const Record& record)
@@ -89,7 +93,7 @@ void CellReader::read(const Record& record)
         return;
     }
     ++m_numRows;
-    m_rows.beginRow();
+    m_pBatch->beginRow();
     if (m_numberToken.isEmpty() == 0)
         addNumberAsHandle();
     if (m_dividesRowTotals)
@@ -98,26 +102,23 @@ void CellReader::read(const Record& record)
         if (!record[column].isNothing())
             readCell(column, record[column]);
     if (m_piecesToken.isEmpty() == 0 && (m_piecesColumn == record.size() || record[m_piecesColumn].isNothing()))
-        m_rows.add(m_piecesToken, 1);
+        m_pBatch->add(m_piecesToken, 1);
     if (m_handleColumn != record.size())
         m_handles.add(textOf(record[m_handleColumn]));
-    if (m_rows.isFull())
-        m_rows.build();
 }
 
-PartsFacts CellReader::finish()
+PartsFacts CellReader::finish(VorBomData& data)
 {
     addHandleFindings();
     m_findings.throwIfAnyError();
-    m_rows.build();
-    fillOpenColumns();
+    fillOpenColumns(data);
     return facts();
 }
 
 // The columns whose type was open are filled in last: `takeNext` gives their cells in the order of the rows.
 // A row has a tuple of such a column exactly where a text of it was kept, so the next tuple met always belongs to the
 // next text. That holds only if no row with these tokens was in the data before the first record.
-void CellReader::fillOpenColumns()
+void CellReader::fillOpenColumns(VorBomData& data)
 {
     std::vector<std::size_t> openColumns;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
@@ -125,7 +126,7 @@ void CellReader::fillOpenColumns()
             openColumns.push_back(i);
     if (openColumns.empty())
         return;
-    for (VorBomItemBase* pRow = m_data.child(); pRow != nullptr; pRow = pRow->next())
+    for (VorBomItemBase* pRow = data.child(); pRow != nullptr; pRow = pRow->next())
         for (const std::size_t column : openColumns)
             if (VorBomDataTuple* pTuple = pRow->getTupleAt(m_columns[column].tupleToken))
                 pTuple->value() = m_untypedCells[column].takeNext();
@@ -154,8 +155,7 @@ bool CellReader::checkNumCells(const Record& record)
 {
     if (record.size() == m_columns.size())
         return true;
-    Finding finding = Finding::of(FindingCodes::kWrongNumberOfFields, fieldCount(record.size()),
-                                  std::to_string(m_columns.size()) + " as in the header row");
+    Finding finding = HeaderRow::wrongNumberOfFields(record.size(), m_columns.size());
     m_source.placeRecord(finding);
     m_findings.add(std::move(finding));
     return false;
@@ -174,6 +174,8 @@ int CellReader::piecesOf(const Record& record) const
 void CellReader::readCell(std::size_t column, const RecordCell& cell)
 {
     ++m_notes[column].numFilled;
+    if (cell.isRefused())
+        return addFinding(cell.refusal(), column);
     switch (m_columns[column].type)
     {
         case VorBomDataValue::kIntData: readWhole(column, textOf(cell)); break;
@@ -182,10 +184,10 @@ void CellReader::readCell(std::size_t column, const RecordCell& cell)
     }
 }
 
-// The text of a number lies in `m_numberText`: it is good until the next cell that is a number.
+// The text of a number lies in `m_numberText`: it is good until the next cell that is no text.
 std::string_view CellReader::textOf(const RecordCell& cell)
 {
-    if (!cell.isNumber())
+    if (cell.isText())
         return cell.text();
     m_numberText = cell.asText();
     return m_numberText;
@@ -197,7 +199,7 @@ void CellReader::readWhole(std::size_t column, std::string_view text)
 {
     int value = 0;
     if (NumberReader::read(text, value) || NumberReader::read(NumberReader::withoutZeroDecimals(text), value))
-        return m_rows.add(m_columns[column].tupleToken, value);
+        return m_pBatch->add(m_columns[column].tupleToken, value);
     const bool isWhole = NumberReader::isWhole(NumberReader::withoutZeroDecimals(text));
     addFinding(codeOf(text, FindingCodes::kCellIsNotWhole), column, text,
                isWhole ? "a whole number from -2147483648 to 2147483647" : "a whole number");
@@ -228,7 +230,7 @@ void CellReader::readNumber(std::size_t column, const RecordCell& cell)
         return addFinding(FindingCodes::kTotalOfNoPieces, column, text, "0 in a row of 0 pieces");
     int& mostDecimals = m_notes[column].numDecimals;
     mostDecimals = std::max(mostDecimals, numDecimals);
-    m_rows.add(properties.tupleToken, value);
+    m_pBatch->add(properties.tupleToken, value);
 }
 
 // False when there are no pieces to divide by.
@@ -246,7 +248,7 @@ void CellReader::readText(std::size_t column, std::string_view text)
     if (properties.isHandle)
         readHandle(column, text);
     else if (properties.type == VorBomDataValue::kStringData)
-        m_rows.addText(properties.tupleToken, column, text);
+        m_pBatch->addText(properties.tupleToken, column, text);
     else
         readUntyped(column, text);
 }
@@ -258,14 +260,14 @@ void CellReader::readUntyped(std::size_t column, std::string_view text)
     if (!properties.whyNumbers.empty() && !NumberReader::read(text, value))
         return addFinding(codeOf(text, MistakeCodes::kKindsMixed), column, text, "a number", properties.whyNumbers);
     m_untypedCells[column].add(text);
-    m_rows.add(properties.tupleToken, 0); // a place for the value that finish() sets
+    m_pBatch->add(properties.tupleToken, 0); // a place for the value that finish() sets
 }
 
 void CellReader::readHandle(std::size_t column, std::string_view text)
 {
-    m_rows.setHandle(text);
+    m_pBatch->setHandle(text);
     if (m_columns[column].isWanted)
-        m_rows.addHandle(m_columns[column].tupleToken);
+        m_pBatch->addHandle(m_columns[column].tupleToken);
 }
 
 // A cell that is more than a number.
@@ -296,17 +298,22 @@ void CellReader::addFinding(const FindingCode& code, std::size_t column, std::st
                             const std::string& expected, const std::string& remedy)
 {
     Finding finding = Finding::of(code, inQuotes(text), expected);
+    finding.remedy = remedy.empty() && &code == &MistakeCodes::kNotANumber ? "leave the cell empty" : remedy;
+    addFinding(std::move(finding), column);
+}
+
+void CellReader::addFinding(Finding finding, std::size_t column)
+{
     m_source.placeCell(column, finding);
     finding.field = m_columns[column].name;
-    finding.remedy = remedy.empty() && &code == &MistakeCodes::kNotANumber ? "leave the cell empty" : remedy;
     m_findings.add(std::move(finding));
 }
 
 // The number is that of the row in the list, from 1; empty rows have none, so that it is one less behind each of them.
 void CellReader::addNumberAsHandle()
 {
-    m_rows.setHandle(std::to_string(m_numRows));
-    m_rows.addHandle(m_numberToken);
+    m_pBatch->setHandle(std::to_string(m_numRows));
+    m_pBatch->addHandle(m_numberToken);
 }
 
 void CellReader::addHandleFindings()

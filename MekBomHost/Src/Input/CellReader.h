@@ -1,17 +1,20 @@
-// Reads the cells of a parts list's records, each as its column has it, and makes a data row of every record.
+// Reads the cells of a parts list's records, each as its column has it: every record becomes the values of a row.
 //
-//   CellReader cells(columns, source, data);
-//   while (const Record* const pRecord = source.next())
-//       cells.read(*pRecord);
-//   const PartsFacts facts = cells.finish();
+//   CellReader cells(columns, source);
+//   while (cells.read(batch))
+//       rows.build(batch);                           // a RowBuilder, which appends them to the data
+//   const PartsFacts facts = cells.finish(data);
 //
-// A cell becomes a tuple of its column's type; an empty cell becomes nothing:
+// A cell becomes a datum of its column's type; an empty cell becomes nothing:
 //
 //   columns                  %Name      %Length in ft     %Quantity
 //   record                   HEA200     7.5               (nothing)
 //   row                      [%Name:HEA200][%Length:2286]
 //
 // Cells of columns that nobody wants are not looked at: what a report does not use must not keep it from being made.
+//
+// One reader is for one thread at a time: batches may be read on one thread, and finish() be called on another one when
+// that has come to its end.
 #pragma once
 
 #include "FindingList.h"
@@ -19,7 +22,7 @@
 #include "InputColumn.h"
 #include "PartsFacts.h"
 #include "RecordSource.h"
-#include "RowBuilder.h"
+#include "RowBatch.h"
 #include "UntypedCells.h"
 
 #include "VorBomData.h"
@@ -36,11 +39,8 @@ struct FindingCode;
 class CellReader
 {
 public:
-    // `columns`, `source` and `data` are not owned and outlive the reader. The rows go to `data`, which owns them.
-    CellReader(const std::vector<InputColumn>& columns, const RecordSource& source, VorBomData& data);
-
-    // Rows get room for that many more tuples: the evaluation adds one for each formula.
-    void reserveTuples(int numTuples) { m_rows.reserveTuples(numTuples); }
+    // `columns` and `source` are not owned and outlive the reader.
+    CellReader(const std::vector<InputColumn>& columns, RecordSource& source);
 
     // Each row gets its number, from 1, as its handle: for data that bring none.
     void numberRows(const VorString& handleToken) { m_numberToken = handleToken; }
@@ -48,12 +48,13 @@ public:
     // A row that does not say how many pieces it stands for gets a 1 with this token.
     void countPieces(const VorString& piecesToken) { m_piecesToken = piecesToken; }
 
-    // Makes a row of the record that `source` has handed over last, or notes what is wrong with it.
-    void read(const Record& record);
+    // Fills `batch`, whatever it held, from the next records of the source, and notes what is wrong with them; false
+    // when none is left. Throws what the source throws.
+    bool read(RowBatch& batch);
 
-    // Completes the rows once all records are read, and tells what is known of them. Throws a Fault with what was wrong
-    // in any of them.
-    PartsFacts finish();
+    // Completes the rows in `data` once all records are read and all batches built there, and tells what is known of
+    // them. Throws a Fault with what was wrong in any of them.
+    PartsFacts finish(VorBomData& data);
 
     // What was found. Once finish() has returned, none of it is an error.
     const std::vector<Finding>& findings() const { return m_findings.all(); }
@@ -67,6 +68,7 @@ private:
         bool isRefused = false; // for want of a unit, which is said once
     };
 
+    void read(const Record& record);
     bool checkNumCells(const Record& record);
     int piecesOf(const Record& record) const;
     void readCell(std::size_t column, const RecordCell& cell);
@@ -81,16 +83,16 @@ private:
     void refuseForWantOfUnit(std::size_t column, std::string_view text);
     void addFinding(const FindingCode& code, std::size_t column, std::string_view text, const std::string& expected,
                     const std::string& remedy = std::string());
+    void addFinding(Finding finding, std::size_t column);
     void addNumberAsHandle();
     void addHandleFindings();
-    void fillOpenColumns();
+    void fillOpenColumns(VorBomData& data);
     PartsFacts facts() const;
 
     const std::vector<InputColumn>& m_columns;
-    const RecordSource& m_source;
-    VorBomData& m_data;
+    RecordSource& m_source;
     FindingList m_findings;
-    RowBuilder m_rows;                        // those that are not in the data yet
+    RowBatch* m_pBatch = nullptr;             // the one that is being filled; not owned
     std::vector<UntypedCells> m_untypedCells; // one for each column, used where the type is still open
     std::vector<Notes> m_notes;               // one for each column
     std::vector<std::size_t> m_columnsToRead; // those that are wanted, and that of the handle

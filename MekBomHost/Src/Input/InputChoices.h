@@ -3,6 +3,7 @@
 
 #include "HeadingChoices.h"
 
+#include <string>
 #include <vector>
 
 namespace mekbom
@@ -10,5 +11,6 @@ namespace mekbom
 struct InputChoices
 {
     std::vector<HeadingMapping> headings; // that the columns' tokens are known by
+    std::string sheet;                    // of a workbook
 };
 }

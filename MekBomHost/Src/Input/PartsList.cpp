@@ -7,14 +7,17 @@
 //   nothing asks for %Length              its cells are not looked at
 #include "PartsList.h"
 
+#include "BatchesAhead.h"
 #include "CellReader.h"
 #include "DataTokens.h"
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
+#include "HeaderRow.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
 #include "NearestWord.h"
+#include "RowBuilder.h"
 #include "TokenNames.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
@@ -92,7 +95,8 @@ std::string statementOf(const InputColumn& column)
 }
 }
 
-PartsList::PartsList(RecordSource& source, const HeadingChoices& choices) : m_source(source)
+PartsList::PartsList(RecordSource& source, const HeadingChoices& choices, unsigned numProcessors)
+    : m_source(source), m_numProcessors(numProcessors)
 {
     readHeader(choices);
 }
@@ -163,17 +167,24 @@ PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector
     registerKinds(*reportTemplate.getBomTemplateUnits());
     findWantedColumns(wanted);
     resolveColumns(reportTemplate);
-    CellReader cells(m_columns, m_source, *reportTemplate.getBomData());
-    cells.reserveTuples(numFormulas(reportTemplate));
+    CellReader cells(m_columns, m_source);
     if (find(TokenNames::kHandle) == nullptr && wanted.count(TokenNames::kHandle) > 0)
         cells.numberRows(Utf8::toWide(TokenNames::kHandle));
     if (wanted.count(TokenNames::kPieces) > 0)
         cells.countPieces(Utf8::toWide(TokenNames::kPieces));
-    while (const Record* const pRecord = m_source.next())
-        cells.read(*pRecord);
-    PartsFacts facts = cells.finish();
+    buildRows(cells, *reportTemplate.getBomData(), numFormulas(reportTemplate));
+    PartsFacts facts = cells.finish(*reportTemplate.getBomData());
     m_findings = cells.findings();
     return facts;
+}
+
+void PartsList::buildRows(CellReader& cells, VorBomData& data, int numFormulas)
+{
+    RowBuilder rows(data, m_columns.size());
+    rows.reserveTuples(numFormulas);
+    BatchesAhead batches(cells, m_columns.size(), m_numProcessors);
+    while (const RowBatch* const pBatch = batches.next())
+        rows.build(*pBatch);
 }
 
 // Before any row is read, so that the engine shows "Gap [in]" in the reader's units. The catalogue's tokens have their
@@ -199,11 +210,9 @@ bool PartsList::assumesUnits() const
 
 void PartsList::readHeader(const HeadingChoices& choices)
 {
-    const Record* const pHeader = m_source.next();
-    if (pHeader == nullptr)
-        failWithoutHeader();
+    const Record& header = HeaderRow::read(m_source);
     std::vector<std::string> headings;
-    for (const RecordCell& cell : *pHeader)
+    for (const RecordCell& cell : header)
         headings.push_back(cell.asText());
     const ColumnNames names = ColumnNames::of(headings, choices);
     checkMappings(names);
@@ -211,18 +220,14 @@ void PartsList::readHeader(const HeadingChoices& choices)
     for (std::size_t i = 0; i < headings.size(); ++i)
     {
         addColumn(headings[i], names.columns[i]);
-        checkColumn(m_columns.back(), findings);
+        if (header[i].isRefused())
+            addRefusal(header[i].refusal(), findings);
+        else
+            checkColumn(m_columns.back(), findings);
     }
     if (m_columns.size() == 1)
         checkSeparator(m_columns.front(), findings);
     findings.throwIfAnyError();
-}
-
-void PartsList::failWithoutHeader() const
-{
-    Finding finding = Finding::of(FindingCodes::kNoHeaderRow, "nothing", "a header row with column names");
-    finding.source = m_source.name();
-    throw Fault(kInvalidInput, finding);
 }
 
 void PartsList::checkMappings(const ColumnNames& names) const
@@ -261,6 +266,13 @@ void PartsList::checkSeparator(const InputColumn& column, FindingList& findings)
     addHeaderFinding(Finding::of(FindingCodes::kOtherSeparator, "one column " + inQuotes(column.name),
                                  "commas between columns (is the file separated by " + name + "?)"),
                      findings);
+}
+
+// `finding` is about the heading of the last column so far.
+void PartsList::addRefusal(Finding finding, FindingList& findings) const
+{
+    m_source.placeCell(m_columns.size() - 1, finding);
+    findings.add(std::move(finding));
 }
 
 void PartsList::addHeaderFinding(Finding finding, FindingList& findings) const

@@ -21,9 +21,11 @@
 //
 // The first record names the columns ("Name", "Length [ft]"); each of the others is one part, with its cells in the
 // same order. A source of a format that has numbers hands them over as they are stored; one of texts leaves it to the
-// reader of the cells which of them are numbers. What no record can be made of ends the reading with a Fault of status
+// reader of the cells which of them are numbers. A value that must not be taken for what it seems, such as a date where
+// a mark was typed, is handed over as a refused cell: whether anybody wants it is not the source's to know. What no record can be made of ends the reading with a Fault of status
 // kInvalidInput that names the place; what the cells ought to hold, and how many there ought to be, is not its concern.
-// A source is read once, from its begin to its end, by one thread at a time.
+// A source is read once, from its begin to its end, by one thread at a time, which need not be the one that made it; so
+// it uses no copies of VorStrings that others have.
 #pragma once
 
 #include "Finding.h"
@@ -52,7 +54,7 @@ public:
     virtual const Record* next() = 0;
 
     // Fill in where the record read last stands, and where its cell `index` does, from 0: the finding's source and what
-    // is known of its begin, end and path. A record in a text has a line and no column.
+    // is known of its begin, end and path. A record in a text has a line and no column, one in a workbook a path.
     virtual void placeRecord(Finding& finding) const = 0;
     virtual void placeCell(std::size_t index, Finding& finding) const = 0;
 };

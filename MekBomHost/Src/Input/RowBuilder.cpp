@@ -1,9 +1,9 @@
 // Most texts of a parts list come back, a mark such as "B417" on some twenty rows of a million. Its row gets a copy
 // that shares the characters, and making one touches three places of memory, none of which the processor's caches hold:
 // the entry of the pool, found by the text's bytes; the characters it names; the count of their users beside them. Row
-// by row, the processor would wait for one after the other. So of 64 rows all entries are asked for first, while the
-// cells are still being read (addText), then all texts are found and their counts asked for (findTexts), and only then
-// are the rows made (buildRow): the waits for 64 rows lie on top of each other.
+// by row, the processor would wait for one after the other. So of 64 rows all entries are asked for first
+// (beginLookUps), then all texts are found and their counts asked for (findTexts), and only then are the rows made
+// (buildRow): the waits for 64 rows lie on top of each other.
 #include "RowBuilder.h"
 
 #include "ByteWord.h"
@@ -13,131 +13,97 @@
 
 #include "MekRoots/Exp/VorMemoryHint.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace mekbom
 {
-// Rows, values and texts that are in no pool get as much room as 64 rows can need, and never move: look-ups point at
-// values, and values at handles and texts.
-RowBuilder::RowBuilder(VorBomData& data, std::size_t numColumns)
-    : m_data(data), m_texts(numColumns), m_rows(kMostRows), m_values(kMostRows * (numColumns + 2))
+namespace
 {
-    m_unshared.reserve(m_values.size());
-    begin();
+const std::size_t kRowsAtOnce = 64; // measured: no faster beyond
+
+VorString wideText(const RowBatch& batch, std::uint64_t text)
+{
+    char bytes[ByteWord::kSize];
+    return Utf8::toWide(RowBatch::isLong(text) ? batch.longText(text) : ByteWord::write(text, bytes));
+}
+}
+
+RowBuilder::RowBuilder(VorBomData& data, std::size_t numColumns) : m_data(data), m_texts(numColumns) {}
+
+void RowBuilder::build(const RowBatch& batch)
+{
+    for (std::size_t begin = 0; begin < batch.numRows(); begin += kRowsAtOnce)
+    {
+        const std::size_t end = std::min(begin + kRowsAtOnce, batch.numRows());
+        beginLookUps(batch, batch.dataOf(begin), batch.dataOf(end));
+        findTexts(batch);
+        for (std::size_t row = begin; row < end; ++row)
+            buildRow(batch, row, m_found.data() + (batch.dataOf(row) - batch.dataOf(begin)));
+    }
 }
 
 // A row has at most one text for each column, so no pool is asked for more texts than it is prepared for, and what it
-// gave stays where it is until the rows are built.
-void RowBuilder::begin()
+// gives stays where it is until the rows are built.
+void RowBuilder::beginLookUps(const RowBatch& batch, const RowBatch::Datum* pBegin, const RowBatch::Datum* pEnd)
 {
-    m_numRows = 0;
-    m_numValues = 0;
+    const auto numData = static_cast<std::size_t>(pEnd - pBegin);
     m_lookUps.clear();
+    m_found.resize(numData);
     m_unshared.clear();
+    m_unshared.reserve(numData);
     for (TextPool& texts : m_texts)
-        texts.prepare(kMostRows);
+        texts.prepare(kRowsAtOnce);
+    for (std::size_t i = 0; i < numData; ++i)
+        if (pBegin[i].kind == RowBatch::kText)
+            beginLookUp(batch, pBegin[i], m_found[i]);
 }
 
-void RowBuilder::beginRow()
+// Only a text of up to eight bytes is found by its number; that of a longer one tells nothing of its bytes.
+void RowBuilder::beginLookUp(const RowBatch& batch, const RowBatch::Datum& datum, const VorString*& pFound)
 {
-    Row& row = m_rows[m_numRows++];
-    row.firstDatum = m_numValues;
-    row.handle.empty();
-    row.shortHandle = 0;
-}
-
-// A short one is made with its row, so that it lies beside it.
-void RowBuilder::setHandle(std::string_view text)
-{
-    Row& row = m_rows[m_numRows - 1];
-    if (text.size() <= ByteWord::kSize)
-        row.shortHandle = ByteWord::of(text);
-    else
-        row.handle = Utf8::toWide(text);
-}
-
-RowBuilder::Datum& RowBuilder::addDatum(const VorString& token, VorBomDataValue::eBomDataValueType type)
-{
-    Datum& datum = m_values[m_numValues++];
-    datum.pToken = &token;
-    datum.type = type;
-    return datum;
-}
-
-void RowBuilder::add(const VorString& token, int value)
-{
-    addDatum(token, VorBomDataValue::kIntData).whole = value;
-}
-
-void RowBuilder::add(const VorString& token, double value)
-{
-    addDatum(token, VorBomDataValue::kDoubleData).number = value;
-}
-
-// The handle may not be made yet; buildRow() makes it before the row's tuples.
-void RowBuilder::addHandle(const VorString& token)
-{
-    addDatum(token, VorBomDataValue::kStringData).pText = &m_rows[m_numRows - 1].handle;
-}
-
-// Only a text of up to eight bytes can wait, since its key holds all of them. The bytes of a longer one belong to the
-// record, which is gone when the rows are built, so that is found at once.
-void RowBuilder::addText(const VorString& token, std::size_t column, std::string_view text)
-{
-    Datum& datum = addDatum(token, VorBomDataValue::kStringData);
-    TextPool& texts = m_texts[column];
+    TextPool& texts = m_texts[datum.column];
     if (!texts.isLooking())
     {
-        m_unshared.push_back(Utf8::toWide(text));
-        datum.pText = &m_unshared.back();
+        m_unshared.push_back(wideText(batch, datum.text));
+        pFound = &m_unshared.back();
+        return;
     }
-    else if (text.size() > ByteWord::kSize)
-        datum.pText = &texts.find(text);
-    else
-    {
-        const std::uint64_t key = ByteWord::of(text);
-        texts.willFind(key);
-        m_lookUps.push_back({ &datum, &texts, key });
-    }
-}
-
-void RowBuilder::build()
-{
-    findTexts();
-    for (std::size_t i = 0; i < m_numRows; ++i)
-        buildRow(m_rows[i], i + 1 < m_numRows ? m_rows[i + 1].firstDatum : m_numValues);
-    begin();
+    if (!RowBatch::isLong(datum.text))
+        texts.willFind(datum.text);
+    m_lookUps.push_back({ &pFound, &texts, datum.text });
 }
 
 // Copying a text counts its users, next to its characters.
-void RowBuilder::findTexts()
+void RowBuilder::findTexts(const RowBatch& batch)
 {
     for (const LookUp& lookUp : m_lookUps)
     {
-        lookUp.pDatum->pText = &lookUp.pTexts->find(lookUp.key);
-        VorMemoryHint::willRead(lookUp.pDatum->pText->getStringW());
+        const VorString& text = RowBatch::isLong(lookUp.text) ? lookUp.pTexts->find(batch.longText(lookUp.text))
+                                                              : lookUp.pTexts->find(lookUp.text);
+        VorMemoryHint::willRead(text.getStringW());
+        *lookUp.pFound = &text;
     }
 }
 
-void RowBuilder::buildRow(Row& row, std::size_t endDatum)
+// The handle is made with its row, so that it lies beside it. A row of a large model holds no more than it needs.
+void RowBuilder::buildRow(const RowBatch& batch, std::size_t row, const VorString* const* pTexts)
 {
-    char bytes[ByteWord::kSize];
     std::unique_ptr<VorBomDataRow> pRow(new VorBomDataRow); // std::make_unique would fill it with zeros beforehand
-    if (row.shortHandle != 0)
-        row.handle = Utf8::toWide(ByteWord::write(row.shortHandle, bytes));
-    pRow->setObjectHandle(row.handle);
-    const Datum* const pFirst = m_values.data() + row.firstDatum;
-    const Datum* const pEnd = m_values.data() + endDatum;
+    const VorString handle = wideText(batch, batch.handleOf(row));
+    pRow->setObjectHandle(handle);
+    const RowBatch::Datum* const pBegin = batch.dataOf(row);
+    const RowBatch::Datum* const pEnd = batch.dataOf(row + 1);
     VorBomDataTupleArray& tuples = pRow->getData();
-    // A row of a large model holds no more than it needs.
-    const auto numTuples = static_cast<int>(pEnd - pFirst);
+    const auto numTuples = static_cast<int>(pEnd - pBegin);
     tuples.setPhysicalLength(numTuples + m_numReserved);
-    for (const Datum* pDatum = pFirst; pDatum != pEnd; ++pDatum)
-        switch (pDatum->type)
+    for (const RowBatch::Datum* pDatum = pBegin; pDatum != pEnd; ++pDatum, ++pTexts)
+        switch (pDatum->kind)
         {
-            case VorBomDataValue::kIntData: tuples.emplace(*pDatum->pToken, pDatum->whole); break;
-            case VorBomDataValue::kDoubleData: tuples.emplace(*pDatum->pToken, pDatum->number); break;
-            default: tuples.emplace(*pDatum->pToken, *pDatum->pText); break;
+            case RowBatch::kWhole: tuples.emplace(*pDatum->pToken, pDatum->whole); break;
+            case RowBatch::kNumber: tuples.emplace(*pDatum->pToken, pDatum->number); break;
+            case RowBatch::kHandle: tuples.emplace(*pDatum->pToken, handle); break;
+            case RowBatch::kText: tuples.emplace(*pDatum->pToken, **pTexts); break;
         }
     m_data.addChild(pRow.release());
 }

@@ -11,6 +11,7 @@
 //   evaluation                       only now is it known how many rows were merged, and what left the totals
 #include "ReportJob.h"
 
+#include "AssemblyRecords.h"
 #include "ColumnHeading.h"
 #include "ColumnNotes.h"
 #include "ColumnsTemplate.h"
@@ -252,18 +253,25 @@ void ReportJob::takeMistakes(const std::vector<Finding>& mistakes)
 // Only the header row is read: which template suits, and what of the rows will be needed, depends on it.
 void ReportJob::openParts(const HeadingChoices& choices)
 {
-    if (m_request.pParts == nullptr)
+    if (m_request.parts.empty())
     {
         if (!m_request.inputUnits.empty())
             refuseForSample("--input-unit");
         if (!m_request.rowTotals.empty())
             refuseForSample("--row-totals");
+        if (m_request.pAssemblies != nullptr)
+            refuseForSample("--assemblies");
+        if (!m_request.input.sheet.empty())
+            refuseForSample("--sheet");
         if (!m_request.input.headings.empty())
             refuseForSample("--map");
         return;
     }
-    m_pRecords = PartsFormats::open(*m_request.pParts, m_request.input, m_findings);
-    m_pParts = std::make_unique<PartsList>(*m_pRecords, choices);
+    m_pRecords = PartsFormats::openAll(m_request.parts, m_request.input, m_findings);
+    if (m_request.pAssemblies != nullptr)
+        m_pRecords = std::make_unique<AssemblyRecords>(
+            std::move(m_pRecords), PartsFormats::open(*m_request.pAssemblies, m_request.input, m_findings));
+    m_pParts = std::make_unique<PartsList>(*m_pRecords, choices, m_request.numProcessors);
     for (const auto& [token, unit] : m_request.inputUnits)
         m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);
     for (const std::string& token : m_request.rowTotals)

@@ -2,7 +2,7 @@
 // process is looked at on its account; whoever fills it in says where bytes come from.
 //
 //   ReportRequest request;
-//   request.pParts = std::make_unique<FileSource>("parts.csv");
+//   request.parts.push_back(std::make_unique<FileSource>("parts.csv"));
 //   request.pTemplate = std::make_unique<FileSource>("list.json");
 //   request.units = "imperial";
 //   request.unitChoices = { { "weight", "kg/1" } };
@@ -29,9 +29,11 @@ struct ReportRequest
 {
     using Pairs = std::vector<std::pair<std::string, std::string>>;
 
-    std::unique_ptr<ByteSource> pParts; // a parts list; null for the sample rows
-    InputChoices input;                 // how it is to be read
-    Pairs inputUnits;                   // of columns whose heading names none: "%Paint", "m2"
+    std::vector<std::unique_ptr<ByteSource>>
+        parts;                               // parts lists, whose rows follow one another; none for the sample rows
+    std::unique_ptr<ByteSource> pAssemblies; // a list of the assemblies that parts name; may be null
+    InputChoices input;                      // how they are to be read
+    Pairs inputUnits;                        // of columns whose heading names none: "%Paint", "m2"
 
     std::unique_ptr<ByteSource> pTemplate; // null for the one of the candidates that suits the parts list best
     std::vector<std::unique_ptr<ByteSource>> candidates; // in order of preference; if none suits, the columns are
@@ -49,6 +51,8 @@ struct ReportRequest
     std::vector<std::string> rowTotals; // "%Weight": columns whose values are those of all pieces of their row
     std::vector<std::string> allowed;   // "MB105": mistakes that stop no report
     bool checksTotals = false;          // add up every total a second time, from the rows, and compare
+
+    unsigned numProcessors = 1; // with two, long parts lists are read on a thread of their own: PartsList
 
     LineContents contents; // what the writer wants of lines beside their texts
 };

@@ -1,10 +1,11 @@
-// A section is a number for its place, its texts, and its values where they are kept. Texts are of three kinds: one
-// that many lines repeat is a single byte, its number; a plain one its length in a byte and its characters; any other
-// one the byte kOther, its length as a number, and its bytes. A value is its bytes as they stand in memory.
+// A section is a byte for its place, its texts, and its values where they are kept; a place that no byte can tell is the
+// byte kOther and a number. Texts are of three kinds: one that many lines repeat is a single byte, its number; a plain
+// one its length in a byte and its characters; any other one the byte kOther, its length as a number, and its bytes. A
+// value is its bytes as they stand in memory.
 //
 //   a details line of level 2 that shows "HEA200", the first text that lines repeat under that token, and "2.5"
 //
-//     04 00 00 00   80           03 '2' '.' '5'
+//     04            80           03 '2' '.' '5'
 //     2 * level     repeated 0   plain, of 3 bytes
 //
 // The rows behind the sections stand apart, in SectionRows: a row that is merged into a line comes after the line was
@@ -124,8 +125,7 @@ bool PackedSections::take(Kept& kept, const VorBomReportSection& section, bool i
     if (!kept.hasLine)
         return false;
     kept.isTaken = true;
-    makeRoom(sizeof(Number));
-    append(numberOf({ section.level, isFooter }));
+    append(SectionPlace{ section.level, isFooter });
     const VorBomDataTuple* const pTuples = section.section.getData().begin();
     for (std::size_t i = 0; i < kept.tuples.size(); ++i)
         append(pTuples[kept.tuples[i]].value(), kept.repeatedTexts[i], kept.extents[i]);
@@ -155,6 +155,16 @@ void PackedSections::append(const VorBomDataValue& value, RepeatedTexts& repeate
         appendOther(Utf8::toBytes(text));
         extent.areAllPlain = false;
     }
+}
+
+void PackedSections::append(SectionPlace place)
+{
+    const Number number = numberOf(place);
+    if (number < kOther)
+        return appendByte(number);
+    makeRoom(1 + sizeof number);
+    *m_pNext++ = static_cast<char>(kOther);
+    append(number);
 }
 
 void PackedSections::appendByte(std::size_t byte)
@@ -229,7 +239,8 @@ bool PackedSections::Reader::nextSection(SectionPlace& place)
     if (m_pNext == m_pPageEnd)
         return false;
     ++m_numSections;
-    place = placeOf(takeNumber());
+    const Number first = takeByte();
+    place = placeOf(first != kOther ? first : takeNumber());
     const std::vector<RepeatedTexts>& repeatedTexts = m_sections.keptOf(place).repeatedTexts;
     m_pRepeatedTexts = repeatedTexts.data();
     m_numTexts = repeatedTexts.size();

@@ -98,6 +98,7 @@ private:
     void appendByte(std::size_t byte);
     bool appendPlain(const VorString& text);
     void appendOther(std::string_view text);
+    void append(SectionPlace place);
     void append(Number number);
     void append(const VorBomTypedValue& value);
     void makeRoom(std::size_t size);
@@ -138,7 +139,7 @@ public:
         if (m_pNext == m_pPageEnd)
             turnPages();
         const RepeatedTexts& repeatedTexts = *m_pRepeatedTexts++;
-        const Number first = static_cast<unsigned char>(*take(1));
+        const Number first = takeByte();
         if (first >= kFirstRepeated && first != kOther)
         {
             text = repeatedTexts.text(first - kFirstRepeated);
@@ -160,6 +161,7 @@ private:
         m_pNext += size;
         return pTaken;
     }
+    Number takeByte() { return static_cast<unsigned char>(*take(1)); }
     Number takeNumber()
     {
         Number number = 0;

@@ -14,4 +14,7 @@ inline constexpr const wchar_t* kWidePieces = L"%Quantity";
 
 // The identity of a row's object, which every object has: rows of a parts list without such a column are numbered.
 inline constexpr const char* kHandle = "%Handle";
+
+// The handle of the assembly that a part belongs to.
+inline constexpr const char* kAssembly = "%Assembly";
 }

@@ -60,10 +60,8 @@ CLI::App& CheckVerb::declareOn(CLI::App& parent)
     CLI::App& check = *parent.add_subcommand("check", "Find mistakes in a template");
     check.footer(kNotes);
     check.add_option("template", m_templateName, "Template file, a shipped list by its name, or default");
-    check
-        .add_option("--data", m_data,
-                    "Parts list, for mistakes that only data show; - reads standard input, hall takes the shipped one")
-        ->type_name("FILE");
+    m_data.declareOn(check, "Parts list, for mistakes that only data show; - reads standard input, hall takes the "
+                            "shipped one");
     m_rows.declareOn(check, "Which rows are listed");
     check.add_option("--format", m_format, "How to print what is found: text or json [text]")
         ->check(CLI::IsMember({ "text", kJson }));
@@ -95,8 +93,7 @@ ExitStatus CheckVerb::check(FindingList& findings) const
     request.allowed = m_allowed.words();
     if (m_templateName != TemplateFile::kDefault)
         request.pTemplate = TemplateFile::open(m_templateName, "template");
-    if (!m_data.empty())
-        request.pParts = DataFile::open(m_data);
+    request.parts = DataFile::openAll(m_data.names());
     ReportJob job(std::move(request));
     const ExitStatus status = job.check();
     if (m_format == kJson)

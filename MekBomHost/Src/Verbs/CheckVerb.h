@@ -8,6 +8,7 @@
 // from being read at all is a message on standard error as anywhere else, or, among the others, JSON.
 #pragma once
 
+#include "FileOption.h"
 #include "ListOption.h"
 #include "RowOptions.h"
 #include "Verb.h"
@@ -27,7 +28,7 @@ private:
     ExitStatus check(FindingList& findings) const;
 
     std::string m_templateName; // a file, a shipped list or "default"
-    std::string m_data;         // a file or "hall"; empty for none
+    FileOption m_data{ "--data", "FILE" };
     std::string m_format = "text";
     std::string m_code; // what to explain, or "all"; empty for a check
     RowOptions m_rows;

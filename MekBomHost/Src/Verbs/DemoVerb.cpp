@@ -16,8 +16,8 @@ CLI::App& DemoVerb::declareOn(CLI::App& parent)
     return demo;
 }
 
-std::string DemoVerb::dataName() const
+std::vector<std::string> DemoVerb::dataNames() const
 {
-    return DataFile::kHall;
+    return { DataFile::kHall };
 }
 }

@@ -17,6 +17,6 @@ public:
 
 private:
     // The shipped hall: there is no option that says otherwise.
-    std::string dataName() const override;
+    std::vector<std::string> dataNames() const override;
 };
 }

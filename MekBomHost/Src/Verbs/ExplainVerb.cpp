@@ -79,7 +79,7 @@ CLI::App& ExplainVerb::declareOn(CLI::App& parent)
 
 ExitStatus ExplainVerb::run(FindingList& findings)
 {
-    if (!m_data.name().empty())
+    if (!m_data.names().empty())
         return explainList(findings);
     if (m_line)
         refuseLineWithoutData();
@@ -119,7 +119,7 @@ ExitStatus ExplainVerb::explainList(FindingList& findings) const
 ReportRequest ExplainVerb::request() const
 {
     ReportRequest request;
-    request.pParts = DataFile::open(m_data.name());
+    request.parts = DataFile::openAll(m_data.names());
     if (m_templateName != TemplateFile::kDefault)
         request.pTemplate = TemplateFile::open(m_templateName, "template");
     request.environment = Environment::variables(DisplaySettings::names());

@@ -28,6 +28,7 @@
 
 #include <filesystem>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 namespace mekbom
@@ -101,7 +102,8 @@ CLI::App& ReportVerb::declareOn(CLI::App& parent)
 {
     CLI::App& report = *parent.add_subcommand("report", "Print a list from a parts list and a template");
     report.footer(kNotes);
-    m_data.declareOn(report, "Parts list; - reads standard input, hall takes the shipped one, sample built-in rows");
+    m_data.declareOn(report, "Parts list, several times for several; - reads standard input, hall takes the shipped "
+                             "one, sample built-in rows");
     declareOptionsOn(report);
     return report;
 }
@@ -146,7 +148,8 @@ ReportRequest ReportVerb::request() const
     request.settings = m_settings.pairs();
     request.allowed = m_allowed.words();
     request.checksTotals = m_checksTotals;
-    request.pParts = parts();
+    request.parts = parts();
+    request.numProcessors = std::thread::hardware_concurrency();
     addTemplates(request);
     request.environment = Environment::variables(DisplaySettings::names());
     if (const std::string settingsFile = m_settingsFile.name(); !settingsFile.empty())
@@ -155,20 +158,19 @@ ReportRequest ReportVerb::request() const
     return request;
 }
 
-std::string ReportVerb::dataName() const
+std::vector<std::string> ReportVerb::dataNames() const
 {
-    std::string name = m_data.name();
-    if (!name.empty())
-        return name;
+    std::vector<std::string> names = m_data.names();
+    if (!names.empty())
+        return names;
     Finding finding = Finding::of(FindingCodes::kWrongArguments, "no --data", "a parts list");
     finding.remedy = "mekbom report --data FILE lists its parts, mekbom demo those of the shipped hall";
     failAt("report", finding);
 }
 
-std::unique_ptr<ByteSource> ReportVerb::parts() const
+std::vector<std::unique_ptr<ByteSource>> ReportVerb::parts() const
 {
-    const std::string name = dataName();
-    return name == kSampleData ? nullptr : DataFile::open(name);
+    return isSample() ? std::vector<std::unique_ptr<ByteSource>>() : DataFile::openAll(dataNames());
 }
 
 // The sample data go with the default template, unless another one is named.
@@ -194,7 +196,9 @@ void ReportVerb::checkOutput() const
     const std::string output = m_output.name();
     const std::string option = m_output.option() + " " + output;
     std::error_code error;
-    for (const std::string& input : { dataName(), m_template.name(), m_units, m_settingsFile.name() })
+    std::vector<std::string> inputs = dataNames();
+    inputs.insert(inputs.end(), { m_template.name(), m_units, m_settingsFile.name() });
+    for (const std::string& input : inputs)
         if (std::filesystem::equivalent(input, output, error))
             failAt(option, Finding::stating(FindingCodes::kOutputIsInput, "is the same file as the input " + input));
     if (ReportFormats::promisesOtherFormat(output))
@@ -223,7 +227,7 @@ void ReportVerb::write(const ReportWriter& writer) const
 
 bool ReportVerb::isSample() const
 {
-    return dataName() == kSampleData;
+    return dataNames() == std::vector<std::string>{ kSampleData };
 }
 
 bool ReportVerb::isToStandardOutput() const

@@ -19,6 +19,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace mekbom
 {
@@ -38,10 +39,10 @@ protected:
 private:
     // What the rows come from: a file, a word as DataFile takes it, or "sample". Throws a Fault of status kWrongUsage
     // when nothing is given.
-    virtual std::string dataName() const;
+    virtual std::vector<std::string> dataNames() const;
 
     ReportRequest request() const;
-    std::unique_ptr<ByteSource> parts() const; // null for the sample rows
+    std::vector<std::unique_ptr<ByteSource>> parts() const; // none for the sample rows
     void addTemplates(ReportRequest& request) const;
     void checkOutput() const;
     void write(const ReportWriter& writer) const;

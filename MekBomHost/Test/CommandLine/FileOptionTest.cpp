@@ -35,8 +35,16 @@ TEST_F(FileOptionTest, ASecondFileIsRefused)
 {
     m_app.parse("-o a.txt --output b.txt");
 
-    EXPECT_EQ("2 --output: found \"b.txt\" beside \"a.txt\", expected one file: several files are not taken yet\n",
+    EXPECT_EQ("2 --output: found \"b.txt\" beside \"a.txt\", expected one file\n",
               faultOf([this] { m_output.name(); }));
+}
+
+TEST_F(FileOptionTest, SeveralFilesAreNamedInTheirOrder)
+{
+    EXPECT_TRUE(m_output.names().empty());
+    m_app.parse("-o b.txt --output a.txt -o b.txt");
+
+    EXPECT_EQ(std::vector<std::string>({ "b.txt", "a.txt", "b.txt" }), m_output.names());
 }
 
 TEST_F(FileOptionTest, AFurtherWordIsNone)

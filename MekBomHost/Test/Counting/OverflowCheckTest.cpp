@@ -29,7 +29,7 @@ std::string toldOf(const std::string& rows, const std::string& weightUnit = "kg"
 {
     const std::string parts = kHeadings + rows; // which the request views
     ReportRequest request;
-    request.pParts = std::make_unique<MemorySource>("parts.csv", parts);
+    request.parts.push_back(std::make_unique<MemorySource>("parts.csv", parts));
     request.pTemplate = std::make_unique<MemorySource>("list.json", kByMaterial);
     request.checksTotals = true;
     request.unitChoices = { { "weight", weightUnit } };

@@ -91,6 +91,17 @@ TEST(FindingTest, CodeAndSeverityAreThoseOfTheCode)
     EXPECT_EQ(Finding::kError, Finding::of(FindingCodes::kNoJson, "no valid JSON").severity);
 }
 
+TEST(FindingTest, AMistakeInACellOfAWorkbookNamesTheCell)
+{
+    Finding finding = Finding::of(MistakeCodes::kKindsMixed, "\"M16\"", "a number");
+    finding.source = "parts.xlsx";
+    finding.path = "Parts!C7";
+    finding.field = "Price";
+
+    EXPECT_EQ("parts.xlsx: Parts!C7: error MB601: column \"Price\": found \"M16\", expected a number",
+              messageOf(finding));
+}
+
 TEST(FindingTest, AMistakeIsPrintedAsCompilersPrintTheirs)
 {
     Finding finding = Finding::stating(MistakeCodes::kDetailsEmpty, "the details show nothing");

@@ -94,7 +94,7 @@ const HeaderCase kHeaders[] = {
     { "Gewicht;Poids", "%Gewicht?; %Poids?" },
     { "%Name;Profile", "%Name; %Profile" },
     { "%Weight;Weight total", "%Weight; %Weight total" },
-    { "%MNum;Assembly", "%MNum; %Assembly" },
+    { "%MNum;Baugruppe", "%MNum; %Baugruppe" },
     { "%PNum;Mark", "%PNum; %Mark" }, // does not say that the mark is that of an assembly
 };
 }

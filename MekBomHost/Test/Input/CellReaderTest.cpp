@@ -1,5 +1,6 @@
 #include "CellReader.h"
 
+#include "RowBuilder.h"
 #include "Utf8.h"
 
 #include "Support/FakeSource.h"
@@ -40,15 +41,16 @@ protected:
     void read(std::vector<Record> records)
     {
         FakeSource source(std::move(records));
-        CellReader cells(m_columns, source, m_data);
-        cells.reserveTuples(m_numReserved);
+        CellReader cells(m_columns, source);
+        RowBatch batch(m_columns.size());
+        RowBuilder rows(m_data, m_columns.size());
         if (m_numbersRows)
             cells.numberRows(L"%Handle");
         if (m_countsPieces)
             cells.countPieces(L"%Quantity");
-        while (const Record* const pRecord = source.next())
-            cells.read(*pRecord);
-        m_facts = cells.finish();
+        while (cells.read(batch))
+            rows.build(batch);
+        m_facts = cells.finish(m_data);
         m_findings = cells.findings();
     }
 
@@ -61,7 +63,6 @@ protected:
 
     std::vector<InputColumn> m_columns;
     VorBomData m_data;
-    int m_numReserved = 0;
     bool m_numbersRows = false;
     bool m_countsPieces = false;
     PartsFacts m_facts;
@@ -75,6 +76,28 @@ TEST_F(CellReaderTest, ACellBecomesATupleOfItsColumnsTypeAndNothingBecomesNone)
            { RecordCell(), RecordCell(4.0), RecordCell(2.5), RecordCell(7.0) } });
 
     EXPECT_EQ("[%Name:HEA200][%Quantity:4][%Weight:2.5][%Other:x]\n[%Quantity:4][%Weight:2.5][%Other:7]", rows());
+}
+
+TEST_F(CellReaderTest, ARefusedValueIsAMistakeInAColumnThatSomebodyWants)
+{
+    Finding refusal;
+    refusal.found = "a date";
+    refusal.expected = "a number";
+    const std::vector<Record> records = { { RecordCell(refusal), RecordCell(refusal), RecordCell(refusal),
+                                            RecordCell(refusal) } };
+    const auto messageOn = [](int column, const std::string& name)
+    {
+        return "3 parts.xyz:1: /" + std::to_string(column) + ": column \"" + name +
+               "\": found a date, expected a number\n";
+    };
+
+    EXPECT_EQ(messageOn(0, "Name") + messageOn(1, "Quantity") + messageOn(2, "Weight") + messageOn(3, "Other"),
+              faultOf([&] { read(records); }));
+    for (const std::size_t column : { 0, 1, 2 })
+        m_columns[column].isWanted = false;
+    EXPECT_EQ(messageOn(3, "Other"), faultOf([&] { read(records); }));
+    m_columns[3].isWanted = false;
+    EXPECT_EQ("", faultOf([&] { read(records); }));
 }
 
 TEST_F(CellReaderTest, ColumnsOfOpenTypeGetTheOneThatFitsAllCells)
@@ -265,15 +288,6 @@ TEST_F(CellReaderTest, RowsAreNumberedOnRequest)
     EXPECT_EQ("[%Handle:1][%Name:a]\n[%Handle:2][%Name:b]", rows());
 }
 
-TEST_F(CellReaderTest, RowsGetRoomForWhatTheEvaluationAdds)
-{
-    m_numReserved = 3;
-
-    read({ { textCell("a"), RecordCell(), RecordCell(), RecordCell() } });
-
-    EXPECT_EQ(4, m_data.child()->getData().physicalLength());
-}
-
 TEST_F(CellReaderTest, EverythingThatIsWrongIsNoted)
 {
     EXPECT_EQ("3 parts.xyz:1: found 1 field, expected 4 as in the header row\n"
@@ -283,6 +297,5 @@ TEST_F(CellReaderTest, EverythingThatIsWrongIsNoted)
                   [this] {
                       read({ { textCell("a") }, { RecordCell(), textCell("2.5"), textCell("y"), RecordCell() } });
                   }));
-    EXPECT_EQ(nullptr, m_data.child());
 }
 }

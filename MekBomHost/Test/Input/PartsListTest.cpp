@@ -71,6 +71,21 @@ std::string rowsOf(const std::string& text)
     return rowsOf(parts);
 }
 
+// The same, or what is wrong with it, on so many processors.
+std::string rowsOrFaultOf(const std::string& text, unsigned numProcessors)
+{
+    std::string rows;
+    const std::string fault = faultOf(
+        [&]
+        {
+            MemorySource source("parts.csv", text);
+            CsvReader records(source);
+            PartsList parts(records, HeadingChoices(), numProcessors);
+            rows = rowsOf(parts);
+        });
+    return rows + fault;
+}
+
 std::string faultIn(const std::string& text)
 {
     return faultOf([&text] { rowsOf(text); });
@@ -572,6 +587,16 @@ TEST(PartsListTest, RepeatedHandlesAreFoundAndStopNothing)
 }
 
 // What a format with numbers of its own hands over.
+TEST(PartsListTest, AHeadingMustNotBeRefused)
+{
+    Finding refusal;
+    refusal.found = "a date";
+    FakeSource source({ { textCell("Name"), RecordCell(refusal), RecordCell(refusal) } });
+
+    EXPECT_EQ("3 parts.xyz:1: /1: found a date\n3 parts.xyz:1: /2: found a date\n",
+              faultOf([&] { PartsList parts(source); }));
+}
+
 TEST(PartsListTest, StoredNumbersAreTakenAsTheyAreAndAsTextsWhereTheColumnHasTexts)
 {
     FakeSource source(
@@ -636,5 +661,44 @@ TEST(PartsListTest, NothingIsLeakedByARefusedList)
     const LeakCheck leakCheck;
 
     EXPECT_NE("", faultIn("%Name,%Weight\nx,1\ny,2\nz,abc\n"));
+}
+
+TEST(PartsListTest, LongListsAreTheSameWithOneThreadAndWithTwo)
+{
+    std::string text = "Handle,%Name,%Length,%Quantity,%Other,Note\n";
+    for (int i = 0; i < 15'000; ++i)
+    {
+        const std::string number = std::to_string(i);
+        text += number + ",B" + std::to_string(i % 1000) + (i % 7 == 0 ? ",7.5 ft," : "," + number + ".5,") +
+                (i % 3 == 0 ? "" : "4") + "," + number + ",\"a \"\"note\"\" on row " + number + "\"\n";
+    }
+
+    const std::string rows = rowsOrFaultOf(text, 1);
+
+    EXPECT_EQ(0u, rows.find("0: [%Handle t 0] [%Name t B0] [%Length d 2286]"));
+    EXPECT_EQ(rows, rowsOrFaultOf(text, 2));
+    EXPECT_EQ(rows, rowsOrFaultOf(text, 8));
+}
+
+// Row 8192 is the last that is read before a thread is started; a batch has 512.
+TEST(PartsListTest, LongListsHaveTheSameMistakesWithOneThreadAndWithTwo)
+{
+    const std::vector<std::string> lines(15'001, "B1,12.5");
+    for (const std::size_t row : { 1, 512, 513, 8192, 8193, 8704, 8705, 15'000 })
+        for (const char* const pMistake : { "B1,x", "B1", "B1,12.5,", "B1,\"12.5", "B1,12\"5", "B1,\xFF" })
+        {
+            std::vector<std::string> wrong = lines;
+            wrong[0] = "%Name,%Length";
+            wrong[row] = pMistake;
+            wrong[14'000] = "B1,y";
+            std::string text;
+            for (const std::string& line : wrong)
+                text += line + "\n";
+
+            const std::string fault = rowsOrFaultOf(text, 1);
+
+            EXPECT_NE(std::string::npos, fault.find("3 parts.csv:" + std::to_string(row + 1))) << fault;
+            EXPECT_EQ(fault, rowsOrFaultOf(text, 2));
+        }
 }
 }

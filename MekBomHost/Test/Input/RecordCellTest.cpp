@@ -25,6 +25,20 @@ TEST(RecordCellTest, AnEmptyTextIsNothingAndZeroIsANumber)
     EXPECT_FALSE(RecordCell(0.0).isNothing());
 }
 
+TEST(RecordCellTest, ARefusedValueIsNeitherNothingNorANumberNorAText)
+{
+    Finding refusal;
+    refusal.found = "a date";
+    const RecordCell cell(refusal);
+
+    EXPECT_TRUE(cell.isRefused());
+    EXPECT_FALSE(cell.isNothing() || cell.isNumber() || cell.isText());
+    EXPECT_EQ(&refusal, &cell.refusal());
+    EXPECT_EQ("a date", cell.asText());
+    EXPECT_TRUE(RecordCell().isText() && RecordCell(std::string_view("a")).isText());
+    EXPECT_FALSE(RecordCell(0.0).isText());
+}
+
 TEST(RecordCellTest, AnyCellHasAText)
 {
     EXPECT_EQ("", RecordCell().asText());

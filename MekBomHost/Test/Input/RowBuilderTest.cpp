@@ -25,7 +25,7 @@ VorString nameOf(const VorBomItemBase& row)
 class RowBuilderTest : public testing::Test
 {
 protected:
-    RowBuilderTest() : m_batch(m_data, 4) {}
+    RowBuilderTest() : m_batch(4), m_builder(m_data, 4) {}
     ~RowBuilderTest() override { m_data.empty(); }
 
     void addRow(const std::string& handle, const std::string& name, double length, int quantity)
@@ -37,7 +37,13 @@ protected:
         m_batch.add(kLength, length);
         m_batch.add(kQuantity, quantity);
         if (m_batch.isFull())
-            m_batch.build();
+            build();
+    }
+
+    void build()
+    {
+        m_builder.build(m_batch);
+        m_batch.clear();
     }
 
     std::string rows()
@@ -49,7 +55,8 @@ protected:
     }
 
     VorBomData m_data;
-    RowBuilder m_batch;
+    RowBatch m_batch;
+    RowBuilder m_builder;
 };
 }
 
@@ -59,7 +66,7 @@ TEST_F(RowBuilderTest, RowsHaveTheirDataInTheOrderInWhichTheyWereAdded)
     addRow("a long handle", "a long name", 1, -2);
     EXPECT_EQ("", rows());
 
-    m_batch.build();
+    build();
 
     EXPECT_EQ("[%Handle:1A7][%Name:HEA200][%Length:2286.5][%Quantity:3]\n"
               "[%Handle:a long handle][%Name:a long name][%Length:1][%Quantity:-2]",
@@ -72,7 +79,7 @@ TEST_F(RowBuilderTest, RowsMayBeWithoutHandleAndWithoutData)
     addRow("1A7", "HEA200", 1, 1);
     m_batch.beginRow();
 
-    m_batch.build();
+    build();
 
     const auto* pRow = static_cast<const VorBomDataRow*>(m_data.child()->next());
     EXPECT_EQ(VorString(), pRow->objectHandle());
@@ -81,10 +88,10 @@ TEST_F(RowBuilderTest, RowsMayBeWithoutHandleAndWithoutData)
 
 TEST_F(RowBuilderTest, RowsHoldRoomForWhatTheyHaveAndWhatIsReserved)
 {
-    m_batch.reserveTuples(2);
+    m_builder.reserveTuples(2);
     addRow("1A7", "HEA200", 1, 1);
 
-    m_batch.build();
+    build();
 
     EXPECT_EQ(6, m_data.child()->getData().physicalLength());
 }
@@ -101,7 +108,7 @@ TEST_F(RowBuilderTest, RowsOfAllBatchesFollowEachOtherAndShareTheirTexts)
         expected += "[%Handle:" + number + "][%Name:" + name + "][%Length:" + number + ".5][%Quantity:" + number + "]";
     }
 
-    m_batch.build();
+    build();
 
     EXPECT_EQ(expected, rows());
     const VorBomItemBase* pRow = m_data.child();
@@ -115,7 +122,7 @@ TEST_F(RowBuilderTest, TextsThatDoNotComeBackAreKeptAsWell)
 {
     for (int i = 0; i < 20'000; ++i)
         addRow("1A7", (i % 2 == 0 ? "B" : "a part by itself, number ") + std::to_string(i), 1, 1);
-    m_batch.build();
+    build();
 
     int i = 0;
     for (const VorBomItemBase* pRow = m_data.child(); pRow != nullptr; pRow = pRow->next(), ++i)

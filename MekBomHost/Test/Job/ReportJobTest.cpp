@@ -39,7 +39,7 @@ std::unique_ptr<ByteSource> text(const std::string& name, std::string_view conte
 ReportRequest requestFor(std::string_view parts, std::string_view templateText)
 {
     ReportRequest request;
-    request.pParts = text("parts.csv", parts);
+    request.parts.push_back(text("parts.csv", parts));
     request.pTemplate = text("list.json", templateText);
     request.checksTotals = true;
     return request;
@@ -325,7 +325,7 @@ TEST(ReportJobTest, RowsThatNoTotalMissesAreMergedWithoutAWord)
 TEST(ReportJobTest, TheBuiltInTemplateMergesAsEver)
 {
     ReportRequest request;
-    request.pParts = text("parts.csv", "%PosNum,%Weight\nA,2.5\nA,2.5\n");
+    request.parts.push_back(text("parts.csv", "%PosNum,%Weight\nA,2.5\nA,2.5\n"));
 
     ReportJob job(std::move(request));
 
@@ -340,7 +340,7 @@ TEST(ReportJobTest, OfTheCandidatesTheOneIsTakenThatSuitsTheParts)
     const auto request = [&lists]
     {
         ReportRequest choice;
-        choice.pParts = text("parts.csv", "%BoltName\nM16\n");
+        choice.parts.push_back(text("parts.csv", "%BoltName\nM16\n"));
         for (const std::string& list : lists)
             choice.candidates.push_back(text("list.json", list));
         return choice;
@@ -348,7 +348,7 @@ TEST(ReportJobTest, OfTheCandidatesTheOneIsTakenThatSuitsTheParts)
 
     EXPECT_EQ("BoltName\n--------\nM16\n", outcomeOf(request()));
     ReportRequest unsuitable = request();
-    unsuitable.pParts = text("parts.csv", "Note,%Weight\nx,2\n");
+    unsuitable.parts.front() = text("parts.csv", "Note,%Weight\nx,2\n");
     EXPECT_EQ("Note   Weight [kg]\n-----  -----------\nx                2\n-----  -----------\nTotal            2\n",
               outcomeOf(std::move(unsuitable)));
 }
@@ -433,6 +433,9 @@ TEST(ReportJobTest, RowTotalsAreDividedByThePieces)
     ReportRequest sample;
     sample.rowTotals = { "Length" };
     EXPECT_EQ("2 --row-totals: the sample data are no parts list\n", outcomeOf(std::move(sample)));
+    ReportRequest sampleWithSheet;
+    sampleWithSheet.input.sheet = "Parts";
+    EXPECT_EQ("2 --sheet: the sample data are no parts list\n", outcomeOf(std::move(sampleWithSheet)));
 }
 
 TEST(ReportJobTest, HeadingsOfTheTradeAreReadAndNoted)
@@ -489,7 +492,7 @@ TEST(ReportJobTest, ASourceThatFailsIsAFinding)
         std::size_t read(char*, std::size_t) override { throw std::runtime_error("torn"); }
     };
     ReportRequest request = requestFor(kParts, kDetails);
-    request.pParts = std::make_unique<BrokenSource>();
+    request.parts.push_back(std::make_unique<BrokenSource>());
 
     EXPECT_EQ("70 internal fault: torn\n", outcomeOf(std::move(request)));
 }

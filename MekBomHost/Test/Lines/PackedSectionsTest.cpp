@@ -73,6 +73,25 @@ TEST(PackedSectionsTest, SectionsComeAsTheyWereTakenWithTheTextsTheyShow)
               describe(sections));
 }
 
+// A byte tells the places of 127 levels.
+TEST(PackedSectionsTest, SectionsOfAnyLevelComeAsTheyWereTaken)
+{
+    std::string levels = R"({ "type": "kDetails", "tuples": [ { "token": "%Name" } ] })";
+    for (int level = 199; level >= 0; --level)
+        levels = R"({ "type": "kGroupHeader", "tuples": [ { "token": "%Name" } ], "children": [ )" + levels +
+                 R"( ] }, { "type": "kGroupFooter", "tuples": [ { "token": "%Name" } ] })";
+    PackedSections sections(TemplateReader::read("list.json", R"({ "sections": [ )" + levels + " ] }"));
+    std::string expected;
+    for (const int level : { 0, 126, 127, 128, 199, 1 })
+    {
+        sections.takeHeader({ section({ "HEA200" }), level });
+        sections.takeFooter({ section({ "IPE360" }), level });
+        expected += std::to_string(level) + " header: HEA200\n" + std::to_string(level) + " footer: IPE360\n";
+    }
+
+    EXPECT_EQ(expected, describe(sections));
+}
+
 TEST(PackedSectionsTest, TextsAreTakenAsTheyAre)
 {
     PackedSections sections(TemplateReader::read("list.json", kTotals));

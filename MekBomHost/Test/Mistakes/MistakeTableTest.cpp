@@ -26,7 +26,7 @@ std::vector<Finding> findingsIn(const std::string& templateText, const std::stri
     ReportRequest request;
     request.pTemplate = std::make_unique<MemorySource>("list.json", templateText);
     if (!rows.empty())
-        request.pParts = std::make_unique<MemorySource>("parts.csv", rows);
+        request.parts.push_back(std::make_unique<MemorySource>("parts.csv", rows));
     ReportJob job(std::move(request));
     job.check();
     return job.findings().all();

@@ -388,6 +388,23 @@ TEST(ProgramTest, AFullDeviceIsStatusFour)
     EXPECT_EQ("mekbom: standard output: cannot be written: No space left on device\n", readFile(errors));
 }
 
+// The program counts users of texts without locks, whatever threads it has.
+TEST(ProgramTest, ALongPartsListIsReadAheadAndListedInFull)
+{
+    std::string parts = "%Name,%Weight\n";
+    for (int i = 0; i < 20'000; ++i)
+        parts += "a mark beyond a word " + std::to_string(100'000 + i / 2) + "," + std::to_string(i) + "\n";
+    const Job job(parts, kTemplate);
+
+    const ProgramRun run =
+        runProgram("report --data \"" + job.parts() + "\" --template \"" + job.templateFile() + "\"");
+
+    EXPECT_EQ(0, run.status) << run.errors;
+    EXPECT_NE(std::string::npos, run.output.find("a mark beyond a word 100000")) << run.output.substr(0, 1000);
+    EXPECT_NE(std::string::npos, run.output.find("a mark beyond a word 109999"));
+    EXPECT_NE(std::string::npos, run.output.find("20000 rows read"));
+}
+
 TEST(ProgramTest, RunningOutOfMemoryIsStatusSeventy)
 {
 #if defined(_WIN32) || defined(MEK_TEST_IS_SANITIZED)

@@ -109,6 +109,11 @@ TEST(ListFolderTest, HeadingsOfTheTradeAreRead)
     expectList("headings-of-the-trade");
 }
 
+TEST(ListFolderTest, WorkbooksOfSeveralProgramsAreRead)
+{
+    expectList("workbooks-of-several-programs");
+}
+
 TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 {
     expectList("frame-metric");

@@ -48,7 +48,7 @@ private:
                                    const std::string& units, const std::vector<std::string>& allowed)
     {
         ReportRequest request;
-        request.pParts = std::make_unique<MemorySource>("parts.csv", partsText);
+        request.parts.push_back(std::make_unique<MemorySource>("parts.csv", partsText));
         request.pTemplate = std::make_unique<MemorySource>("list.json", templateText);
         request.units = units;
         request.allowed = allowed;

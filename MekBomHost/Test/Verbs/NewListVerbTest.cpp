@@ -19,7 +19,7 @@ std::string printedAsItIs(const std::string& path)
 {
     const std::string parts = readFile(path);
     ReportRequest request;
-    request.pParts = std::make_unique<MemorySource>(path, parts);
+    request.parts.push_back(std::make_unique<MemorySource>(path, parts));
     if (parts.find("%Paint,") != std::string::npos)
         request.inputUnits = { { "%Paint", "m2" } };
     request.candidates.push_back(std::make_unique<MemorySource>(

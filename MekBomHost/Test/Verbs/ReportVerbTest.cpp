@@ -102,18 +102,31 @@ TEST_F(ReportVerbTest, WrongUsageIsStatusTwo)
     for (const std::vector<std::string>& arguments : { std::vector<std::string>{ "report", "--dta", "x" },
                                                        { "report", "parts.csv" },
                                                        { "report", "--data" },
-                                                       { "report", "--data", "a", "--data", "b" },
                                                        { "report", "--input-unit", "%Paint=m2", "b" } })
         EXPECT_EQ(kWrongUsage, runHere(arguments).status);
 }
 
-TEST_F(ReportVerbTest, SeveralFilesAreNotTakenYet)
+TEST_F(ReportVerbTest, PartsOfSeveralFilesAreListedInTheirOrder)
 {
-    EXPECT_EQ("mekbom: --data: found \"b.csv\" beside \"a.csv\", expected one file: several files are not taken yet\n",
-              runHere({ "report", "--data", "a.csv", "--data", "b.csv" }).errors);
-    EXPECT_EQ("mekbom: --template: found \"b.json\" beside \"" + m_template +
-                  "\", expected one file: several files are not taken yet\n",
+    const std::string more = m_folder.file("more.json", R"([ { "Length": 1000, "%Weight": 5 }, { "Weight": 2.5 } ])");
+
+    EXPECT_EQ("Weight [kg]  Length [mm]\n-----------  -----------\n         10         2286\n          5         1000\n"
+              "        2.5\n",
+              withoutFoot(report({ "--data", more }).output));
+}
+
+TEST_F(ReportVerbTest, OneTemplateIsTaken)
+{
+    EXPECT_EQ("mekbom: --template: found \"b.json\" beside \"" + m_template + "\", expected one file\n",
               report({ "--template", "b.json" }).errors);
+}
+
+TEST_F(ReportVerbTest, NoneOfSeveralPartsListsIsOverwritten)
+{
+    const std::string more = m_folder.file("more.csv", "Weight\n5\n");
+
+    EXPECT_EQ(kWrongUsage, report({ "--data", more, "-o", more }).status);
+    EXPECT_EQ("Weight\n5\n", readFile(more));
 }
 
 TEST_F(ReportVerbTest, NamesThatPromiseAnotherFormatAreRefused)

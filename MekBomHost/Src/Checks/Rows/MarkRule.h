@@ -4,16 +4,13 @@
 //   rows with the marks "B2" and "B02", sorted by %PNum     ->   told, with both
 //   rows with the marks "B2", "B20" and "C02"               ->   nothing to tell
 //
-// Keeps each mark once: its memory grows with the marks, not with the rows.
+// Rows whose marks have no leading zeros, as most have none, are looked at once and nothing of them is kept.
 #pragma once
 
 #include "DatumFinder.h"
 #include "RowRule.h"
 
-#include "MekRoots/Exp/VorString.h"
-
 #include <string>
-#include <unordered_map>
 
 namespace mekbom
 {
@@ -27,10 +24,11 @@ public:
     void tell(MistakeList& mistakes) const override;
 
 private:
+    std::string firstPair() const;
+
     const CheckedTuple& m_request;
     DatumFinder m_marked;
-    VorString m_last;                                     // of the row before: most marks follow themselves
-    std::unordered_map<std::string, std::string> m_marks; // "B2" -> "B02": by what they are without leading zeros
-    std::string m_pair; // the first two that are alike, in quotes; empty as long as there are none
+    const VorBomDataRow* m_pFirstRow = nullptr;
+    bool m_hasLeadingZeros = false;
 };
 }

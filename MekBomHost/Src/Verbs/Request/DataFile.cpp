@@ -14,4 +14,12 @@ std::unique_ptr<ByteSource> open(const std::string& name)
         return std::make_unique<FileSource>();
     return std::make_unique<FileSource>(name == kHall ? ShippedFiles::find(ShippedFiles::kPartsList) : name);
 }
+
+std::vector<std::unique_ptr<ByteSource>> openAll(const std::vector<std::string>& names)
+{
+    std::vector<std::unique_ptr<ByteSource>> sources;
+    for (const std::string& name : names)
+        sources.push_back(open(name));
+    return sources;
+}
 }

@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace mekbom::DataFile
 {
@@ -19,4 +20,7 @@ extern const char* const kStandardInput; // the word for standard input
 
 // A source that has not been opened yet: a file that is missing is told by whoever reads. Never null.
 std::unique_ptr<ByteSource> open(const std::string& name);
+
+// One source for each name, in their order.
+std::vector<std::unique_ptr<ByteSource>> openAll(const std::vector<std::string>& names);
 }

@@ -29,6 +29,7 @@ HeadingMapping mappingOf(const std::string& heading, const std::string& name)
 void InputOptions::declareOn(CLI::App& command)
 {
     m_headings.declareOn(command, "Token of a column that no table of headings knows");
+    command.add_option("--sheet", m_sheet, "Sheet of a workbook [the first]")->type_name("NAME");
 }
 
 InputChoices InputOptions::choices() const
@@ -36,6 +37,7 @@ InputChoices InputOptions::choices() const
     InputChoices choices;
     for (const auto& [heading, token] : m_headings.pairs())
         choices.headings.push_back(mappingOf(heading, token));
+    choices.sheet = m_sheet;
     return choices;
 }
 }

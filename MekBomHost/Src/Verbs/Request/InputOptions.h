@@ -9,6 +9,8 @@
 #include "InputChoices.h"
 #include "PairOption.h"
 
+#include <string>
+
 namespace CLI
 {
 class App;
@@ -27,5 +29,6 @@ public:
 
 private:
     PairOption m_headings{ "--map", "HEADING=TOKEN", "\"Cost code=%UserAttr1\"" };
+    std::string m_sheet;
 };
 }

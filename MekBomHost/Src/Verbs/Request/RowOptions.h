@@ -8,6 +8,7 @@
 // All verbs that make a list have them, and a list that is checked or explained must be given those it is printed with.
 #pragma once
 
+#include "FileOption.h"
 #include "InputOptions.h"
 #include "ListOption.h"
 #include "PairOption.h"
@@ -20,7 +21,7 @@ namespace mekbom
 class RowOptions
 {
 public:
-    // Adds those of InputOptions, --input-unit, --where and --row-totals to `command`; `whereHelp` is what help says of the second. Parsing
+    // Adds those of InputOptions, --assemblies, --input-unit, --where and --row-totals to `command`; `whereHelp` is what help says of the second. Parsing
     // fills this object, which outlives it.
     void declareOn(CLI::App& command, const std::string& whereHelp);
 
@@ -30,6 +31,7 @@ public:
 
 private:
     InputOptions m_input;
+    FileOption m_assemblies{ "--assemblies", "FILE" };
     PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
     std::string m_where;
     ListOption m_rowTotals{ "--row-totals", "TOKEN,..." };

@@ -1,0 +1,145 @@
+#include "AssemblyRecords.h"
+
+#include "ColumnHeading.h"
+#include "Fault.h"
+#include "FindingCodes.h"
+#include "HeaderRow.h"
+#include "InQuotes.h"
+#include "TokenNames.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace mekbom
+{
+namespace
+{
+std::string tokenOf(const RecordCell& heading)
+{
+    return ColumnHeading::parse(heading.asText()).token;
+}
+
+// Of the first column with this token, which the list must have.
+std::size_t columnOf(const std::string& token, const Record& headings, const RecordSource& source)
+{
+    const auto found = std::find_if(headings.begin(), headings.end(),
+                                    [&token](const RecordCell& heading) { return tokenOf(heading) == token; });
+    if (found != headings.end())
+        return static_cast<std::size_t>(found - headings.begin());
+    Finding finding = Finding::of(FindingCodes::kAssemblyColumnMissing, "no column " + inQuotes(token.substr(1)),
+                                  "one that tells which part belongs to which assembly");
+    source.placeRecord(finding);
+    throw Fault(kInvalidInput, finding);
+}
+}
+
+AssemblyRecords::AssemblyRecords(std::unique_ptr<RecordSource> pParts, std::unique_ptr<RecordSource> pAssemblies)
+    : m_pParts(std::move(pParts)), m_pAssemblies(std::move(pAssemblies))
+{
+}
+
+const Record* AssemblyRecords::next()
+{
+    if (!std::exchange(m_isBegun, true))
+        return header();
+    const Record* const pRecord = m_pParts->next();
+    if (pRecord == nullptr)
+        return nullptr;
+    m_record = *pRecord;
+    if (pRecord->size() == m_numPartColumns) // else it is refused, whatever else stands there
+        append((*pRecord)[m_assemblyColumn]);
+    return &m_record;
+}
+
+const Record* AssemblyRecords::header()
+{
+    const Record& partHeadings = HeaderRow::read(*m_pParts);
+    chooseColumns(HeaderRow::read(*m_pAssemblies), partHeadings);
+    readAssemblies();
+    return &m_record;
+}
+
+void AssemblyRecords::chooseColumns(const Record& assemblyHeadings, const Record& partHeadings)
+{
+    m_numPartColumns = partHeadings.size();
+    m_numAssemblyColumns = assemblyHeadings.size();
+    m_assemblyColumn = columnOf(TokenNames::kAssembly, partHeadings, *m_pParts);
+    m_handleColumn = columnOf(TokenNames::kHandle, assemblyHeadings, *m_pAssemblies);
+    std::set<std::string> partTokens;
+    for (const RecordCell& heading : partHeadings)
+        partTokens.insert(tokenOf(heading));
+    m_record = partHeadings;
+    for (std::size_t i = 0; i < assemblyHeadings.size(); ++i)
+        if (i != m_handleColumn && partTokens.count(tokenOf(assemblyHeadings[i])) == 0)
+        {
+            m_givenColumns.push_back(i);
+            m_record.push_back(keep(assemblyHeadings[i]));
+        }
+}
+
+void AssemblyRecords::readAssemblies()
+{
+    while (const Record* const pRecord = m_pAssemblies->next())
+    {
+        if (pRecord->size() != m_numAssemblyColumns)
+            failInAssembly(HeaderRow::wrongNumberOfFields(pRecord->size(), m_numAssemblyColumns));
+        const RecordCell handle = keep((*pRecord)[m_handleColumn]);
+        if (handle.isRefused())
+            failInAssembly(handle.refusal());
+        if (handle.isNothing())
+            continue; // nobody can name it
+        if (!m_assemblies.emplace(handle.text(), m_givenCells.size()).second)
+            failInAssembly(
+                Finding::of(FindingCodes::kAssemblyTwice, "handle " + inQuotes(handle.text()) + " a second time"));
+        for (const std::size_t column : m_givenColumns)
+            m_givenCells.push_back(keep((*pRecord)[column]));
+    }
+}
+
+void AssemblyRecords::failInAssembly(Finding finding) const
+{
+    m_pAssemblies->placeRecord(finding);
+    throw Fault(kInvalidInput, finding);
+}
+
+// The same cell for as long as this object lives. Handles are compared as texts, however their file stores them.
+RecordCell AssemblyRecords::keep(const RecordCell& cell)
+{
+    if (cell.isNothing())
+        return cell;
+    if (cell.isRefused())
+        return RecordCell(m_refusals.emplace_back(cell.refusal()));
+    m_texts.push_back(cell.asText());
+    return RecordCell(std::string_view(m_texts.back()));
+}
+
+void AssemblyRecords::append(const RecordCell& handle)
+{
+    m_record.resize(m_numPartColumns + m_givenColumns.size());
+    if (handle.isNothing())
+        return;
+    const std::string text = handle.asText();
+    const auto found = m_assemblies.find(text);
+    if (found == m_assemblies.end())
+        failForUnknown(text);
+    std::copy_n(m_givenCells.begin() + static_cast<std::ptrdiff_t>(found->second), m_givenColumns.size(),
+                m_record.begin() + static_cast<std::ptrdiff_t>(m_numPartColumns));
+}
+
+void AssemblyRecords::failForUnknown(std::string_view handle) const
+{
+    Finding finding = Finding::of(FindingCodes::kAssemblyUnknown, inQuotes(handle),
+                                  "the handle of an assembly of " + m_pAssemblies->name());
+    m_pParts->placeCell(m_assemblyColumn, finding);
+    throw Fault(kInvalidInput, finding);
+}
+
+void AssemblyRecords::placeCell(std::size_t index, Finding& finding) const
+{
+    if (index < m_numPartColumns)
+        m_pParts->placeCell(index, finding);
+    else
+        m_pParts->placeRecord(finding);
+}
+}
