@@ -99,15 +99,11 @@ void XmlElements::begin()
     requireUtf8();
 }
 
-// Half of the first two bytes of UTF-16 are beyond ASCII or zero.
 void XmlElements::requireUtf8() const
 {
-    const std::string_view text = std::string_view(m_text).substr(m_next);
-    const bool isWide = startsWith(text, "\xFF\xFE") || startsWith(text, "\xFE\xFF") ||
-                        text.substr(0, 2).find('\0') != std::string_view::npos;
-    const std::string encoding = encodingIn(text);
-    if (isWide || !(encoding.empty() || encoding == "utf-8" || encoding == "us-ascii"))
-        WorkbookFault::inPart(m_part, isWide ? "UTF-16" : "text in " + harmless(encoding), "text in UTF-8");
+    const std::string encoding = encodingIn(std::string_view(m_text).substr(m_next));
+    if (!encoding.empty() && encoding != "utf-8" && encoding != "us-ascii")
+        WorkbookFault::inPart(m_part, "text in " + harmless(encoding), "text in UTF-8");
 }
 
 XmlElements::Tag XmlElements::nextTag()
@@ -188,7 +184,8 @@ std::size_t XmlElements::endBehind(std::string_view mark) const
     return found == kNone ? kNone : found + mark.size();
 }
 
-// False at the end of the part. What lies before the wanted element, or before m_next, is given up.
+// False at the end of the part. What lies before the wanted element, or before m_next, is given up. Text without zero bytes
+// is not UTF-16 either.
 bool XmlElements::readMore()
 {
     const std::size_t kept = std::min(m_element, m_next);
@@ -201,6 +198,8 @@ bool XmlElements::readMore()
     m_text.resize(length + std::max(kBlockSize, length));
     const std::size_t numRead = m_source.read(&m_text[length], m_text.size() - length);
     m_text.resize(length + numRead);
+    if (m_text.find('\0', length) != kNone)
+        WorkbookFault::inPart(m_part, "a zero byte", "text in UTF-8");
     return numRead > 0;
 }
 
