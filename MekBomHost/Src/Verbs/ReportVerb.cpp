@@ -53,7 +53,6 @@ const char* const ReportVerb::kNotes = R"(Data
   7'-6 1/2", 7.5 ft. Empty cells are no data. Handle is the identity of the object,
   Quantity how many of them a row stands for (1 where it does not say). Other values are
   those of one piece, or of all in the columns that --row-totals names.
-  A workbook (.xlsx) has the same in the cells of a sheet, the first or that of --sheet.
 
 Template
   The shipped lists go by name: cutting-list, assembly-list, bolt-list, parts-list.
