@@ -116,6 +116,15 @@ inline constexpr FindingCode kCellWithoutValue = { "MB748", kError,
 inline constexpr FindingCode kCellsMerged = { "MB749", kError,
                                               "Cells are merged over several rows, of which one has their value." };
 
+// What headings of parts lists mean: MB760 and up.
+inline constexpr FindingCode kHeadingAmbiguous = { "MB760", kError, "A heading may mean one token or another." };
+inline constexpr FindingCode kHeadingsOfOneToken = { "MB761", kError, "Two headings mean the same token." };
+inline constexpr FindingCode kTotalWithoutPieces = { "MB762", kError,
+                                                     "A column has values of all pieces, and none has the pieces." };
+inline constexpr FindingCode kHeadingMissing = { "MB763", kError, "A heading is mapped that the parts list has not." };
+inline constexpr FindingCode kMappedToNoToken = { "MB764", kError, "A heading is mapped to what is no token." };
+inline constexpr FindingCode kHeadingsRead = { "MB765", kNote, "Headings were read as tokens that they do not name." };
+
 // Template files.
 inline constexpr FindingCode kNoJson = { "MB801", kError, "A template file is no JSON with comments." };
 inline constexpr FindingCode kKeyTwice = { "MB802", kError, "An object has the same key twice." };
@@ -137,6 +146,8 @@ inline constexpr FindingCode kColumnHasNoSuch = { "MB816", kError,
 
 inline constexpr FindingCode kMistakeUnknown = { "MB817", kError,
                                                  "What is to be excused is no code of an author's mistake." };
+
+inline constexpr FindingCode kHeadingOfNoToken = { "MB818", kError, "A heading stands for what is no token of a row." };
 
 // Options, settings, units, and files as such.
 inline constexpr FindingCode kFileUnreadable = { "MB901", kError, "A file cannot be read." };

@@ -103,13 +103,18 @@ std::string joined(const std::vector<std::string>& elements)
     return text;
 }
 
-// "%Length" is headed "Length"; its unit follows of itself.
+// A column is headed as the file has it, "Profil", and "%Length" as "Length"; its unit follows of itself. What was of
+// all pieces in the file is of one here.
+std::string labelOf(const InputColumn& column)
+{
+    return column.origin == ColumnName::kWritten || column.isRowTotal ? column.token.substr(1) : column.label;
+}
+
 std::vector<std::string> columnElements(const Columns& columns, const InputColumn* pSort)
 {
     std::vector<std::string> elements;
     for (const InputColumn& column : columns)
-        elements.push_back("{ \"token\": " + jsonText(column.token) +
-                           ", \"label\": " + jsonText(column.token.substr(1)) +
+        elements.push_back("{ \"token\": " + jsonText(column.token) + ", \"label\": " + jsonText(labelOf(column)) +
                            (&column == pSort && !isNaturalByCatalogue(column) ? ", \"order\": \"natural\" }" : " }"));
     if (has(columns, kWeight) && has(columns, TokenNames::kPieces))
         elements.push_back("{ \"token\": " + jsonText(kTotalWeight) + ", \"label\": \"Total weight\" }");
@@ -146,6 +151,16 @@ std::vector<std::string> tokenUnits(const Columns& columns)
         members.push_back(jsonText(column.token) + ": " +
                           jsonText(UnitKinds::typeNames()[static_cast<std::size_t>(type)]));
     }
+    return members;
+}
+
+// What the user had to say of the file's headings, so that the list needs no more options than its data.
+std::vector<std::string> headings(const Columns& columns)
+{
+    std::vector<std::string> members;
+    for (const InputColumn& column : columns)
+        if (column.origin == ColumnName::kMapped)
+            members.push_back(jsonText(column.label) + ": " + jsonText(column.token));
     return members;
 }
 
@@ -242,7 +257,8 @@ std::string textOf(const Columns& allColumns)
            "  \"$schema\": \"mekbom-template.schema.json\", // beside this file it makes editors check it\n"
            "  // \"title\": \"My list\",\n"
            "  \"equalLines\": \"keep\", // or \"count\": one line for all rows that read alike\n" +
-           object("tokens", ownTokens(columns)) + object("tokenUnits", tokenUnits(columns)) +
-           columnsMember(columns, pSort) + sectionsMember(columns, pSort) + "}\n";
+           object("headings", headings(columns)) + object("tokens", ownTokens(columns)) +
+           object("tokenUnits", tokenUnits(columns)) + columnsMember(columns, pSort) + sectionsMember(columns, pSort) +
+           "}\n";
 }
 }

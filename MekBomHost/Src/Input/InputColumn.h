@@ -6,12 +6,15 @@
 // A value, which PartsList fills in and CellReader reads by.
 #pragma once
 
+#include "ColumnNames.h"
+
 #include "VorBomDataValue.h"
 
 #include "MekRoots/Exp/MEKUnit.h"
 #include "MekRoots/Exp/VorString.h"
 #include "MekUnits/Src/VorQuantityReader.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -20,11 +23,14 @@ namespace mekbom
 struct InputColumn
 {
     std::string name;       // as the header row has it, for messages
+    std::string label;      // the same without its unit, for readers of a list
     std::string token;      // "%Length"
     VorString tupleToken;   // the same; every tuple of the column copies this one, so that all share its characters
     std::string unitSymbol; // "ft", empty for numbers in internal units
-    bool unitIsFromUser = false; // by --input-unit, not by the header row
-    bool isRowTotal = false;     // the values are those of all pieces of their row
+    bool unitIsFromUser = false;                       // by --input-unit, not by the header row
+    bool isRowTotal = false;                           // the values are those of all pieces of their row
+    ColumnName::eOrigin origin = ColumnName::kWritten; // who says which token it is
+    std::shared_ptr<const HeadingDoubt> doubt;         // that it is that; a list that needs such a token is refused
 
     // The rest follows from the token and the template. kUnknownData until the content has been seen, for a column that
     // the catalogue of tokens does not know and that has no unit.

@@ -9,7 +9,6 @@
 
 #include "BatchesAhead.h"
 #include "CellReader.h"
-#include "ColumnHeading.h"
 #include "DataTokens.h"
 #include "Fault.h"
 #include "FindingCodes.h"
@@ -17,6 +16,7 @@
 #include "HeaderRow.h"
 #include "InQuotes.h"
 #include "InputUnits.h"
+#include "NearestWord.h"
 #include "RowBuilder.h"
 #include "TokenNames.h"
 #include "UnitKinds.h"
@@ -47,6 +47,13 @@ namespace
     throw Fault(kWrongUsage, finding);
 }
 
+// What is wrong with "--map HEADING=TOKEN".
+[[noreturn]] void failInMapping(const HeadingMapping& mapping, Finding finding)
+{
+    finding.source = "--map " + mapping.heading + "=" + mapping.token;
+    throw Fault(kWrongUsage, finding);
+}
+
 // What the template traces, and others beside it. Case counts: a template that asks for "%Length" has no use for a
 // column "%length".
 std::set<std::string> wantedTokens(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
@@ -68,6 +75,19 @@ int numFormulas(VorBomTemplate& reportTemplate)
     return number;
 }
 
+bool isAmong(const std::vector<std::string>& texts, const std::string& text)
+{
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+// What is twice: a token that is written so, or one that two headings stand for.
+std::string againIn(const InputColumn& first, const InputColumn& second)
+{
+    if (first.origin == ColumnName::kWritten && second.origin == ColumnName::kWritten)
+        return "column " + inQuotes(second.token) + " a second time";
+    return "column " + inQuotes(second.token) + " twice, as " + inQuotes(first.name) + " and " + inQuotes(second.name);
+}
+
 // "%Name is a text"
 std::string statementOf(const InputColumn& column)
 {
@@ -75,9 +95,10 @@ std::string statementOf(const InputColumn& column)
 }
 }
 
-PartsList::PartsList(RecordSource& source, unsigned numProcessors) : m_source(source), m_numProcessors(numProcessors)
+PartsList::PartsList(RecordSource& source, const HeadingChoices& choices, unsigned numProcessors)
+    : m_source(source), m_numProcessors(numProcessors)
 {
-    readHeader();
+    readHeader(choices);
 }
 
 const InputColumn* PartsList::find(const std::string& token) const
@@ -90,6 +111,25 @@ InputColumn* PartsList::findColumn(const std::string& token)
 {
     const auto found = m_indices.find(token);
     return found == m_indices.end() ? nullptr : &m_columns[found->second];
+}
+
+bool PartsList::isInDoubt(const std::string& token) const
+{
+    return std::any_of(m_columns.begin(), m_columns.end(),
+                       [&token](const InputColumn& column)
+                       { return column.doubt && isAmong(column.doubt->tokens, token); });
+}
+
+std::optional<Finding> PartsList::readingOf(const std::set<std::string>& tokens) const
+{
+    std::string text;
+    for (const InputColumn& column : m_columns)
+        if (column.origin == ColumnName::kTable && tokens.count(column.token) > 0)
+            text += (text.empty() ? "" : ", ") + inQuotes(column.name) + " -> " + column.token +
+                    (column.isRowTotal ? " of all pieces" : "");
+    if (text.empty())
+        return std::nullopt;
+    return Finding::saying(FindingCodes::kHeadingsRead, m_source.name() + ": " + text);
 }
 
 // To say again what the heading says is no mistake: a script may pass its units with files that name them and with
@@ -123,6 +163,7 @@ void PartsList::setRowTotal(const std::string& token)
 PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector<VorString>& otherTokens)
 {
     const std::set<std::string> wanted = wantedTokens(reportTemplate, otherTokens);
+    refuseDoubts(wanted);
     registerKinds(*reportTemplate.getBomTemplateUnits());
     findWantedColumns(wanted);
     resolveColumns(reportTemplate);
@@ -200,18 +241,38 @@ bool PartsList::assumesUnits() const
                        });
 }
 
-void PartsList::readHeader()
+void PartsList::readHeader(const HeadingChoices& choices)
 {
+    const Record& header = HeaderRow::read(m_source);
+    std::vector<std::string> headings;
+    for (const RecordCell& cell : header)
+        headings.push_back(cell.asText());
+    const ColumnNames names = ColumnNames::of(headings, choices);
+    checkMappings(names);
     FindingList findings;
-    for (const RecordCell& cell : HeaderRow::read(m_source))
+    for (std::size_t i = 0; i < headings.size(); ++i)
     {
-        addColumn(cell.asText());
-        if (cell.isRefused())
-            addRefusal(cell.refusal(), findings);
+        addColumn(headings[i], names.columns[i]);
+        if (header[i].isRefused())
+            addRefusal(header[i].refusal(), findings);
         else
             checkColumn(m_columns.back(), findings);
     }
     findings.throwIfAnyError();
+}
+
+void PartsList::checkMappings(const ColumnNames& names) const
+{
+    if (names.missing.empty())
+        return;
+    const HeadingMapping& mapping = names.missing.front();
+    std::vector<std::string> labels;
+    for (const ColumnName& column : names.columns)
+        labels.push_back(column.label);
+    Finding finding = Finding::stating(FindingCodes::kHeadingMissing,
+                                       m_source.name() + " has no column " + inQuotes(mapping.heading));
+    finding.remedy = NearestWord::question(mapping.heading, labels);
+    failInMapping(mapping, finding);
 }
 
 // `column` is the last one so far.
@@ -222,9 +283,8 @@ void PartsList::checkColumn(const InputColumn& column, FindingList& findings) co
         addHeaderFinding(Finding::of(FindingCodes::kColumnWithoutName,
                                      "no name in field " + std::to_string(m_columns.size()), "a column name"),
                          findings);
-    else if (find(column.token) != &column)
-        addHeaderFinding(Finding::of(FindingCodes::kColumnTwice, "column " + inQuotes(column.token) + " a second time"),
-                         findings);
+    else if (const InputColumn* const pFirst = find(column.token); pFirst != &column)
+        addHeaderFinding(Finding::of(FindingCodes::kColumnTwice, againIn(*pFirst, column)), findings);
 }
 
 // `finding` is about the heading of the last column so far.
@@ -240,18 +300,40 @@ void PartsList::addHeaderFinding(Finding finding, FindingList& findings) const
     findings.add(std::move(finding));
 }
 
-void PartsList::addColumn(const std::string& heading)
+void PartsList::addColumn(const std::string& heading, const ColumnName& name)
 {
-    const ColumnHeading name = ColumnHeading::parse(heading);
     InputColumn column;
     column.name = heading;
+    column.label = name.label;
     column.token = name.token;
     column.tupleToken = Utf8::toWide(name.token);
     column.unitSymbol = name.unit;
+    column.isRowTotal = name.isRowTotal;
+    column.origin = name.origin;
+    column.doubt = name.doubt;
     column.isHandle = name.token == TokenNames::kHandle;
     column.isPieces = name.token == TokenNames::kPieces;
     m_indices.emplace(column.token, m_columns.size());
     m_columns.push_back(column);
+}
+
+// The record read last is still the header row. What several columns are in doubt for is said once.
+void PartsList::refuseDoubts(const std::set<std::string>& wantedTokens) const
+{
+    FindingList findings;
+    std::set<std::string> said;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+    {
+        const std::shared_ptr<const HeadingDoubt>& doubt = m_columns[i].doubt;
+        const auto isWanted = [&wantedTokens](const std::string& token) { return wantedTokens.count(token) > 0; };
+        if (!doubt || std::none_of(doubt->tokens.begin(), doubt->tokens.end(), isWanted) ||
+            !said.insert(messageOf(doubt->finding)).second)
+            continue;
+        Finding finding = doubt->finding;
+        m_source.placeCell(i, finding);
+        findings.add(std::move(finding));
+    }
+    findings.throwIfAnyError();
 }
 
 // The number of pieces is wanted, too, where another column is divided by it.

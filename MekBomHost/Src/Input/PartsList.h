@@ -2,7 +2,7 @@
 //
 //   FileSource file("parts.csv");
 //   CsvReader records(file);
-//   PartsList parts(records);              // reads the header row
+//   PartsList parts(records);              // reads the header row, as ColumnNames does
 //   parts.setInputUnit("%Paint", "m2");
 //   parts.setRowTotal("%Weight");
 //   const PartsFacts facts = parts.readRows(*pTemplate);    // into the template's data
@@ -45,8 +45,10 @@ class PartsList
 public:
     // Reads the header row. `source` is not owned and outlives the list. With two processors or more the records of a
     // long list are read on a thread of their own, which changes nothing but the time: less where users of texts are
-    // counted without locks (VorString::promiseNotToShare), else rather more.
-    explicit PartsList(RecordSource& source, unsigned numProcessors = 1);
+    // counted without locks (VorString::promiseNotToShare), else rather more. Throws a Fault of status kInvalidInput for
+    // a header row that is wrong, and of kWrongUsage when a heading that must be there is not.
+    explicit PartsList(RecordSource& source, const HeadingChoices& choices = HeadingChoices(),
+                       unsigned numProcessors = 1);
 
     const std::vector<InputColumn>& columns() const { return m_columns; }
 
@@ -56,6 +58,14 @@ public:
     // How numbers are written in the file, as far as its first rows tell; `units` know the kinds of the template's
     // tokens. To be asked for before any row is read. readRows() does it, too.
     NumberNotation notation(const VorBomTemplateUnits& units) const;
+
+    // Whether a column may carry the token that nobody can tell for certain. readRows() throws a Fault of status
+    // kInvalidInput, which says how to settle it, when such a token is asked for.
+    bool isInDoubt(const std::string& token) const;
+
+    // Says of the columns that carry one of `tokens` which headings were not the names of these but in the table of
+    // headings; nothing when there is none.
+    std::optional<Finding> readingOf(const std::set<std::string>& tokens) const;
 
     // Tells `units` of what kind the columns are that nobody knows but whose unit says it: "Gap [in]" is a length. What
     // they know already stays. readRows() does it, too; whoever asks for kinds before that calls it.
@@ -85,11 +95,13 @@ public:
 
 private:
     void buildRows(CellReader& cells, VorBomData& data, int numFormulas);
-    void readHeader();
+    void readHeader(const HeadingChoices& choices);
+    void checkMappings(const ColumnNames& names) const;
     void checkColumn(const InputColumn& column, FindingList& findings) const;
     void addRefusal(Finding finding, FindingList& findings) const;
     void addHeaderFinding(Finding finding, FindingList& findings) const;
-    void addColumn(const std::string& heading);
+    void addColumn(const std::string& heading, const ColumnName& name);
+    void refuseDoubts(const std::set<std::string>& wantedTokens) const;
     Finding commaNote(const NumberNotation& notation) const;
     void findWantedColumns(const std::set<std::string>& wantedTokens);
     void resolveColumns(VorBomTemplate& reportTemplate);

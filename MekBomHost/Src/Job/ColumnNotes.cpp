@@ -7,6 +7,7 @@
 #include "ColumnNotes.h"
 
 #include "FindingCodes.h"
+#include "HeadingTable.h"
 #include "InQuotes.h"
 #include "NearestWord.h"
 #include "TokenNames.h"
@@ -42,6 +43,13 @@ std::string joined(const std::vector<std::string>& texts, const std::string& sep
     return text;
 }
 
+// "Profiile" is nearest to "Profile", a word for %Name. Empty when no heading is near.
+std::string tokenOfNearestHeading(const std::string& label)
+{
+    const HeadingEntry* const pEntry = HeadingTable::find(NearestWord::of(label, HeadingTable::certain()));
+    return pEntry == nullptr ? std::string() : pEntry->tokens;
+}
+
 // The columns that may have been meant to be one of the tokens, each with that token; the first few, since a note that
 // asks of ten columns is not read. A column that the catalogue knows can only have been meant for a token of the
 // author's own, which no catalogue has.
@@ -58,7 +66,9 @@ std::vector<std::pair<const InputColumn*, std::string>> meant(const PartsList& p
     std::vector<std::pair<const InputColumn*, std::string>> columns;
     for (const InputColumn& column : parts.columns())
     {
-        const std::string token = NearestWord::of(column.token, isKnown(column.tupleToken) ? ownTokens : allNames);
+        std::string token = NearestWord::of(column.token, isKnown(column.tupleToken) ? ownTokens : allNames);
+        if (token.empty() && !isKnown(column.tupleToken))
+            token = tokenOfNearestHeading(column.label);
         if (columns.size() < kMostNamed && std::find(tokens.begin(), tokens.end(), token) != tokens.end())
             columns.emplace_back(&column, token);
     }
@@ -82,6 +92,14 @@ Finding missing(const PartsList& parts, const std::string& source, const std::ve
         finding.remedy = (headings.size() == 1 ? "did you mean its column " : "did you mean its columns ") +
                          joined(headings, ", ") + "?";
     return finding;
+}
+
+Finding inDoubt(const InputColumn& column, const std::string& source)
+{
+    Finding note = column.doubt->finding;
+    note.severity = Finding::kNote;
+    note.source = source;
+    return note;
 }
 
 Finding chosen(const std::string& name, const std::string& title)

@@ -18,6 +18,9 @@ namespace mekbom::ColumnNotes
 // Says that the list asks for `tokens`, at least one, for which the parts list called `source` has no columns.
 Finding missing(const PartsList& parts, const std::string& source, const std::vector<std::string>& tokens);
 
+// Says why nobody can tell what a column is, of which that is known, to those who need not know it for certain.
+Finding inDoubt(const InputColumn& column, const std::string& source);
+
 // Says that a list was chosen, of that name and title, because it suits the columns. The title may be empty.
 Finding chosen(const std::string& name, const std::string& title);
 

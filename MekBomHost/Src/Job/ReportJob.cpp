@@ -1,8 +1,9 @@
 // The order of the steps decides which mistake a user is told of first, and most need what an earlier one has found:
 //
+//   template that is named           may say what columns are called
 //   header row of the parts list     says which columns there are
-//   template                         without one named, the candidate that suits these columns best; if none does, one
-//                                    that shows the columns as they are
+//   template, if none is named       the candidate that suits these columns best; if none does, one that shows the
+//                                    columns as they are
 //   settings, units, Report          the template's tokens get their kinds of quantity
 //   mistakes of the template         what it uses may be known from the catalogue, from itself or from the data
 //   records                          are read in these kinds, and only the data that the template asks for
@@ -39,6 +40,8 @@
 #include "VorBomTokenCatalogue.h"
 
 #include <algorithm>
+#include <iterator>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -108,6 +111,20 @@ Finding inDetails(const Finding& finding, const ReportTemplate& reportTemplate)
     Finding placed = finding.in(reportTemplate.fileName, place.span);
     placed.path = place.path;
     return placed;
+}
+
+// The tokens that a template asks for, or says something of, and the catalogue does not know.
+std::set<std::string> ownTokensOf(const ReportTemplate& reportTemplate)
+{
+    std::vector<std::string> tokens = DataTokens::of(*reportTemplate.pTemplate);
+    for (const VorString& token : reportTemplate.queryFilter.tokens())
+        tokens.push_back(Utf8::toBytes(token));
+    for (const auto& [token, kind] : reportTemplate.ownTokens)
+        tokens.push_back(token);
+    std::set<std::string> ownTokens;
+    std::copy_if(tokens.begin(), tokens.end(), std::inserter(ownTokens, ownTokens.end()),
+                 [](const std::string& token) { return VorBomTokenCatalogue::find(Utf8::toWide(token)) == nullptr; });
+    return ownTokens;
 }
 
 // The sample rows have no columns that an option could be about.
@@ -182,8 +199,9 @@ ExitStatus ReportJob::statusOfErrors() const
 
 void ReportJob::prepareReport()
 {
-    openParts();
-    ReportTemplate reportTemplate = readTemplate();
+    std::optional<ReportTemplate> named = readNamedTemplate();
+    openParts(headingChoices(named));
+    ReportTemplate reportTemplate = named ? std::move(*named) : readOtherTemplate();
     const DisplaySettings settings = settingsOf(m_request, m_findings);
     m_pReport = std::make_unique<Report>(std::move(reportTemplate), unitsOf(m_request), settings, m_request.contents);
     if (m_pParts != nullptr)
@@ -233,7 +251,7 @@ void ReportJob::takeMistakes(const std::vector<Finding>& mistakes)
 }
 
 // Only the header row is read: which template suits, and what of the rows will be needed, depends on it.
-void ReportJob::openParts()
+void ReportJob::openParts(const HeadingChoices& choices)
 {
     if (m_request.parts.empty())
     {
@@ -245,25 +263,46 @@ void ReportJob::openParts()
             refuseForSample("--assemblies");
         if (!m_request.input.sheet.empty())
             refuseForSample("--sheet");
+        if (!m_request.input.headings.empty())
+            refuseForSample("--map");
         return;
     }
     m_pRecords = PartsFormats::openAll(m_request.parts, m_request.input, m_findings);
     if (m_request.pAssemblies != nullptr)
         m_pRecords = std::make_unique<AssemblyRecords>(
             std::move(m_pRecords), PartsFormats::open(*m_request.pAssemblies, m_request.input, m_findings));
-    m_pParts = std::make_unique<PartsList>(*m_pRecords, m_request.numProcessors);
+    m_pParts = std::make_unique<PartsList>(*m_pRecords, choices, m_request.numProcessors);
     for (const auto& [token, unit] : m_request.inputUnits)
         m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);
     for (const std::string& token : m_request.rowTotals)
         m_pParts->setRowTotal(ColumnHeading::tokenOf(token));
 }
 
-// A template that was named wins; without one the candidates are asked, and the built-in template is for the sample
-// rows and for whoever offers no candidates.
-ReportTemplate ReportJob::readTemplate()
+std::optional<ReportTemplate> ReportJob::readNamedTemplate()
 {
-    if (m_request.pTemplate != nullptr)
-        return TemplateReader::read(m_request.pTemplate->name(), m_request.pTemplate->readAll());
+    if (m_request.pTemplate == nullptr)
+        return std::nullopt;
+    return TemplateReader::read(m_request.pTemplate->name(), m_request.pTemplate->readAll());
+}
+
+// The user's mappings come behind those of the template, and so over them.
+HeadingChoices ReportJob::headingChoices(const std::optional<ReportTemplate>& named) const
+{
+    HeadingChoices choices;
+    if (named)
+    {
+        choices.ownTokens = ownTokensOf(*named);
+        for (const auto& [heading, token] : named->headings)
+            choices.mappings.push_back({ heading, token });
+    }
+    choices.mappings.insert(choices.mappings.end(), m_request.input.headings.begin(), m_request.input.headings.end());
+    return choices;
+}
+
+// Without a template that is named the candidates are asked, and the built-in one is for the sample rows and for whoever
+// offers no candidates.
+ReportTemplate ReportJob::readOtherTemplate()
+{
     if (m_pParts != nullptr && !m_request.candidates.empty())
         return readSuitableTemplate();
     ReportTemplate reportTemplate;
@@ -291,6 +330,9 @@ ReportTemplate ReportJob::readSuitableTemplate()
 ReportTemplate ReportJob::readColumnsTemplate()
 {
     m_findings.add(ColumnNotes::printedAsTheyAre(*m_pParts, m_pRecords->name()));
+    for (const InputColumn& column : m_pParts->columns())
+        if (column.doubt)
+            m_findings.add(ColumnNotes::inDoubt(column, m_pRecords->name()));
     return TemplateReader::read("list of " + m_pRecords->name(), ColumnsTemplate::textOf(m_pParts->columns()));
 }
 
@@ -299,7 +341,7 @@ void ReportJob::readRows()
 {
     if (m_pParts == nullptr)
         return takeSampleRows();
-    noteMissingColumns();
+    noteColumns();
     checkFilterTokens();
     m_pParts->setOwnTokens(m_pReport->reportTemplate().ownTokens);
     std::vector<VorString> otherTokens = m_pReport->filterTokens();
@@ -351,12 +393,16 @@ void ReportJob::takeSampleRows()
             pRow->addData(VorBomDataTuple(piecesToken, 1));
 }
 
-// A column that is missing is no error, since a list may do without it, but "Wieght" in a file should be noticed.
-void ReportJob::noteMissingColumns()
+// A column that is missing is no error, since a list may do without it, but "Wieght" in a file should be noticed. What
+// is in doubt is refused soon.
+void ReportJob::noteColumns()
 {
+    const std::vector<std::string> tokens = DataTokens::of(m_pReport->engineTemplate());
+    if (const auto reading = m_pParts->readingOf({ tokens.begin(), tokens.end() }))
+        m_findings.add(*reading);
     std::vector<std::string> missing;
-    for (const std::string& token : DataTokens::of(m_pReport->engineTemplate()))
-        if (m_pParts->find(token) == nullptr)
+    for (const std::string& token : tokens)
+        if (m_pParts->find(token) == nullptr && !m_pParts->isInDoubt(token))
             missing.push_back(token);
     if (!missing.empty())
         m_findings.add(ColumnNotes::missing(*m_pParts, m_pRecords->name(), missing));

@@ -22,6 +22,7 @@
 #include "ReportTemplate.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -72,15 +73,17 @@ private:
     void checkTemplate();
     void checkRows();
     void takeMistakes(const std::vector<Finding>& mistakes);
-    void openParts();
-    ReportTemplate readTemplate();
+    void openParts(const HeadingChoices& choices);
+    std::optional<ReportTemplate> readNamedTemplate();
+    ReportTemplate readOtherTemplate();
     ReportTemplate readSuitableTemplate();
+    HeadingChoices headingChoices(const std::optional<ReportTemplate>& named) const;
     ReportTemplate readColumnsTemplate();
     void addFilter();
     void readRows();
     void checkFilterTokens() const;
     void takeSampleRows();
-    void noteMissingColumns();
+    void noteColumns();
     void evaluate();
     void checkLostTotals();
 

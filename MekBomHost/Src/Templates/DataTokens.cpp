@@ -4,6 +4,7 @@
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
+#include "VorBomTokenCatalogue.h"
 
 #include <set>
 
@@ -29,6 +30,11 @@ bool isDatum(const VorString& token)
 {
     return VorBomDataToken::isToken(token) == 1 && VorBomDataToken::isInvisibleToken(token) == 0 &&
            VorBomDataToken::isFormula(token) == 0 && token.find(VorBomDataToken::kSumPrefix, 0) != 0;
+}
+
+bool canBeColumn(const VorString& token)
+{
+    return isDatum(token) || VorBomTokenCatalogue::find(token) != nullptr;
 }
 
 // sum := "%SumBy:" ( token | formula )

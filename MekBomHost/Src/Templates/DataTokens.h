@@ -24,6 +24,10 @@ std::vector<std::string> of(VorBomTemplate& reportTemplate);
 //   DataTokens::isDatum(L"%SumBy:%Weight")  ->  false
 bool isDatum(const VorString& token);
 
+// Whether a parts list may have a column for it: one of these, or "%%PaintMeter", which the catalogue has under a name
+// that is spelled like no other.
+bool canBeColumn(const VorString& token);
+
 // Those of them that it sums or computes with, so that their values have to be numbers: above these are "%Weight" and
 // "%Length".
 std::set<std::string> computedWith(VorBomTemplate& reportTemplate);

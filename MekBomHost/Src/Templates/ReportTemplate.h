@@ -20,6 +20,7 @@
 #include <memory>
 #include <string>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace mekbom
@@ -102,6 +103,7 @@ struct ReportTemplate
     std::vector<ColumnStyle> columns; // in the order of the table; columns not named here follow. See addColumn()
     eEqualLines equalLines = kEqualLinesOpen;
     std::map<std::string, std::string> allowed; // mistakes that the template excuses, by code, with the reason
+    std::vector<std::pair<std::string, std::string>> headings; // of columns in parts lists, with their tokens
     std::map<std::string, eOwnToken> ownTokens; // what the template says of tokens that the catalogue does not know
     std::map<std::string, TemplatePlace> tokenUnitPlaces; // of the entries of "tokenUnits"
     std::unordered_map<const VorBomItemBase*, SectionStyle> sectionStyles;

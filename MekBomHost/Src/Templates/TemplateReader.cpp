@@ -4,6 +4,7 @@
 // when all else is right: the section that shows a column may be the one that could not be read.
 #include "TemplateReader.h"
 
+#include "DataTokens.h"
 #include "FindingCodes.h"
 #include "InQuotes.h"
 #include "JsonReader.h"
@@ -91,7 +92,7 @@ ReportTemplate TemplateReader::build(const JsonNode& root)
     m_template.pTemplate = std::make_unique<VorBomTemplate>();
     const JsonItem item{ root, std::string() };
     if (m_json.isObjectOf(item, { "$schema", "title", "queryFilter", "presentationOptions", "tokenUnits", "tokens",
-                                  "equalLines", "allow", "columns", "sections" }))
+                                  "headings", "equalLines", "allow", "columns", "sections" }))
     {
         m_json.textOf(item, "$schema"); // of use to editors only
         m_template.title = m_json.textOf(item, "title");
@@ -100,6 +101,7 @@ ReportTemplate TemplateReader::build(const JsonNode& root)
         readQueryFilter(item);
         readTokenUnits(item);
         readOwnTokens(item);
+        readHeadings(item);
         readChoice(m_json, item, "equalLines", kEqualLines, m_template.equalLines);
         readAllowed(item);
         readColumns(item);
@@ -155,6 +157,22 @@ void TemplateReader::readOwnTokens(const JsonItem& root)
     {
         const int choice = m_json.choiceOf({ member, "/tokens/" + member.key }, names);
         m_template.ownTokens[member.key] = choice < 0 ? kOwnNumber : kOwnTokens[choice].value;
+    }
+}
+
+// { "Cost code": "%UserAttr1" }: what columns of parts lists are called that the list is made for.
+void TemplateReader::readHeadings(const JsonItem& root)
+{
+    const JsonNode* const pHeadings = root.node.find("headings");
+    if (pHeadings == nullptr || !m_json.isOfKind({ *pHeadings, "/headings" }, JsonNode::kObject))
+        return;
+    for (const JsonNode& member : pHeadings->children)
+    {
+        const std::string token = m_json.requiredTextOf({ *pHeadings, "/headings" }, member.key);
+        if (!token.empty() && !DataTokens::canBeColumn(Utf8::toWide(token)))
+            m_json.add({ member, "/headings/" + member.key },
+                       Finding::of(FindingCodes::kHeadingOfNoToken, inQuotes(token), "a token such as \"%UserAttr1\""));
+        m_template.headings.push_back({ member.key, token });
     }
 }
 

@@ -38,6 +38,7 @@ private:
     void readQueryFilter(const JsonItem& root);
     void readTokenUnits(const JsonItem& root);
     void readOwnTokens(const JsonItem& root);
+    void readHeadings(const JsonItem& root);
     void readAllowed(const JsonItem& root);
     void readColumns(const JsonItem& root);
     void readColumn(const JsonItem& column);

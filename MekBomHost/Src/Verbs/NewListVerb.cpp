@@ -9,6 +9,7 @@
 // So the whole file is read, although the template has nothing of its rows.
 #include "NewListVerb.h"
 
+#include "ColumnNotes.h"
 #include "ColumnsTemplate.h"
 #include "DataFile.h"
 #include "FindingList.h"
@@ -41,16 +42,21 @@ CLI::App& NewListVerb::declareOn(CLI::App& parent)
 ExitStatus NewListVerb::run(FindingList& findings)
 {
     const std::unique_ptr<ByteSource> pFile = DataFile::open(m_data);
-    const std::unique_ptr<RecordSource> pRecords = PartsFormats::open(*pFile, m_input.choices(), findings);
-    StandardOutput::print(ColumnsTemplate::textOf(columnsOf(*pRecords)));
+    const InputChoices input = m_input.choices();
+    const std::unique_ptr<RecordSource> pRecords = PartsFormats::open(*pFile, input, findings);
+    const std::vector<InputColumn> columns = columnsOf(*pRecords, { input.headings, {} });
+    StandardOutput::print(ColumnsTemplate::textOf(columns));
+    for (const InputColumn& column : columns)
+        if (column.doubt)
+            findings.add(ColumnNotes::inDoubt(column, pRecords->name()));
     return kDone;
 }
 
 // Columns with a unit are numbers whatever their cells hold; a report tells those that are none. A record may have
 // fewer cells than the header row, and what it has beyond those belongs to no column.
-std::vector<InputColumn> NewListVerb::columnsOf(RecordSource& records)
+std::vector<InputColumn> NewListVerb::columnsOf(RecordSource& records, const HeadingChoices& choices)
 {
-    const PartsList parts(records);
+    const PartsList parts(records, choices);
     std::vector<InputColumn> columns = parts.columns();
     std::vector<UntypedCells> cells(columns.size());
     const NumberNotation notation = parts.notation(VorBomTemplateUnits());

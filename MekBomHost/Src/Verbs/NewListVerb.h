@@ -23,7 +23,7 @@ public:
 
 private:
     // The columns of the header row, each with the type that its cells have, all records read.
-    static std::vector<InputColumn> columnsOf(RecordSource& records);
+    static std::vector<InputColumn> columnsOf(RecordSource& records, const HeadingChoices& choices);
 
     InputOptions m_input;
     std::string m_data; // a file, or a word as DataFile takes it

@@ -2,6 +2,7 @@
 //
 //   mekbom tokens            all
 //   mekbom tokens weight     %Weight, %WeightInAssembly ...
+//   mekbom tokens --headings      what columns may be called that carry them: Mark, Werkstoff, Aantal ...
 #pragma once
 
 #include "Verb.h"
@@ -18,5 +19,6 @@ public:
 
 private:
     std::string m_word;
+    bool m_listsHeadings = false;
 };
 }

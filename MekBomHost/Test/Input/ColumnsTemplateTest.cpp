@@ -127,6 +127,27 @@ TEST(ColumnsTemplateTest, WhatColumnsHoldIsSaidWhereItIsKnown)
     EXPECT_NE(std::string::npos, text.find("\"tokens\": {\n    \"%Mark\": \"text\",\n    \"%Grip\": \"number\"\n  }"));
 }
 
+TEST(ColumnsTemplateTest, ColumnsAreHeadedAsTheFileHasThem)
+{
+    EXPECT_EQ("Mark   Profil  Anzahl  Weight [kg]  Total weight [kg]\n"
+              "-----  ------  ------  -----------  -----------------\n"
+              "B1     HEA200       2          2.5                  5\n"
+              "-----  ------  ------  -----------  -----------------\n"
+              "Total               2                               5\n",
+              printed("Mark,Profil,Anzahl,Gesamtgewicht [kg]\nB1,HEA200,2,5\n"));
+}
+
+TEST(ColumnsTemplateTest, HeadingsThatWereMappedStandInTheTemplate)
+{
+    MemorySource source("parts.csv", "Cost code,Qty\n");
+    CsvReader records(source);
+    HeadingChoices choices;
+    choices.mappings = { { "cost code", "%UserAttr1" } };
+    const std::string text = ColumnsTemplate::textOf(PartsList(records, choices).columns());
+
+    EXPECT_NE(std::string::npos, text.find("\"headings\": {\n    \"Cost code\": \"%UserAttr1\"\n  },\n")) << text;
+}
+
 TEST(ColumnsTemplateTest, ColumnsThatAskForSomethingAreLeftOut)
 {
     EXPECT_EQ("Name    %PaintMeter [m²/m]\n"

@@ -82,7 +82,7 @@ std::string rowsOrFaultOf(const std::string& text, unsigned numProcessors)
         {
             MemorySource source("parts.csv", text);
             CsvReader records(source);
-            PartsList parts(records, numProcessors);
+            PartsList parts(records, HeadingChoices(), numProcessors);
             rows = rowsOf(parts);
         });
     return rows + fault;
@@ -434,7 +434,7 @@ TEST(PartsListTest, CellsOfAColumnWithUnitAreNumbers)
 
 TEST(PartsListTest, ColumnsThatNobodyWantsMayHoldAnything)
 {
-    MemorySource source("parts.csv", "%Name,%Weight,Cut [fot],%Paint,length\nx,abc,y,2,z\n");
+    MemorySource source("parts.csv", "%Name,%Weight,Cut [fot],%Paint,%length\nx,abc,y,2,z\n");
     CsvReader records(source);
     PartsList parts(records);
     const ReportTemplate shown = templateShowing({ "%Name", "%Formula:%Length/2" });
@@ -600,6 +600,80 @@ TEST(PartsListTest, RowTotalsAreDividedInTheUnitOfTheirColumn)
     EXPECT_EQ(VorString(L"11.3398"), pFirst->getTupleAt(L"%Weight")->value().asString());
     EXPECT_EQ(VorString(L"1.25"), pFirst->getTupleAt(L"%Price")->value().asString());
     EXPECT_EQ(VorString(L"4.53592"), pFirst->next()->getTupleAt(L"%Weight")->value().asString());
+}
+
+TEST(PartsListTest, HeadingsOfTheTradeAreTokens)
+{
+    EXPECT_EQ(": [%PNum t B1] [%Name t HEA200] [%Material t S355] [%Quantity i 2] [%Length d 6000]\n",
+              rowsOf("Mark,Profil,Werkstoff,Anzahl,Length m\nB1,HEA200,S355,2,6\n"));
+    EXPECT_EQ(": [%Quantity i 4] [%Weight d 2.5]\n", rowsOf("Qty,Gesamtgewicht\n4,10\n"));
+    EXPECT_EQ(": [%Quantity i 4] [%Weight d 10]\n", rowsOf("Qty,Gewicht\n4,10\n"));
+}
+
+TEST(PartsListTest, WhatIsInDoubtIsRefusedWhereItIsAskedFor)
+{
+    const auto faultFor = [](const char* pHeader, const char* pToken)
+    {
+        MemorySource source("parts.csv", pHeader);
+        CsvReader records(source);
+        PartsList parts(records);
+        return faultOf([&] { parts.readRows(*templateShowing({ pToken }).pTemplate); });
+    };
+
+    EXPECT_EQ("3 parts.csv:1: column \"Position\": may be %PNum or %Num: say which, as in --map \"Position=%PNum\"\n",
+              faultFor("Name,Position\n", "%PNum"));
+    EXPECT_EQ("", faultFor("Name,Position\n", "%Name"));
+    EXPECT_EQ("", faultFor("Name,Position\n", "%Position"));
+    EXPECT_EQ(
+        "3 parts.csv:1:1: columns \"Name\" and \"Profile\" may both be %Name: say what one of them is instead, as "
+        "in --map \"Profile=%Other\"\n",
+        faultFor("Name,Profile\n", "%Name"));
+    EXPECT_NE("", faultFor("Name,Total weight\n", "%Weight"));
+    EXPECT_NE("", faultFor("Qty,Weight,Unit weight\n", "%Weight"));
+}
+
+TEST(PartsListTest, MappingsNameColumns)
+{
+    MemorySource source("parts.csv", "Cost code,Profile,Brutto (lb)\nX,HEA200,100\n");
+    CsvReader records(source);
+    HeadingChoices choices;
+    choices.mappings = { { "Cost code", "%UserAttr1" }, { "Brutto", "%Weight" } };
+    PartsList parts(records, choices);
+
+    EXPECT_EQ(": [%UserAttr1 t X] [%Name t HEA200] [%Weight d 45.3592]\n", rowsOf(parts));
+}
+
+TEST(PartsListTest, MappingsThatCannotBeFollowedAreRefused)
+{
+    const auto faultWith = [](const HeadingMapping& mapping)
+    {
+        return faultOf(
+            [&]
+            {
+                MemorySource source("parts.csv", "Cost code,%Weight,Wt,Colour\n");
+                CsvReader records(source);
+                HeadingChoices choices;
+                choices.mappings = { mapping };
+                const PartsList parts(records, choices);
+            });
+    };
+
+    EXPECT_EQ("2 --map Cost cod=%UserAttr1: parts.csv has no column \"Cost cod\": did you mean \"Cost code\"?\n",
+              faultWith({ "Cost cod", "%UserAttr1", true }));
+    EXPECT_EQ("", faultWith({ "Cost cod", "%UserAttr1", false }));
+    EXPECT_EQ("3 parts.csv:1: found column \"%Weight\" twice, as \"%Weight\" and \"Wt\"\n",
+              faultWith({ "Wt", "%Weight", true }));
+}
+
+TEST(PartsListTest, TheReadingOfHeadingsIsToldWhereItIsOfUse)
+{
+    MemorySource source("parts.csv", "Mark,Name,Qty,Total weight,Colour\n");
+    CsvReader records(source);
+    const PartsList parts(records);
+
+    EXPECT_EQ("parts.csv: \"Mark\" -> %PNum, \"Total weight\" -> %Weight of all pieces",
+              messageOf(*parts.readingOf({ "%PNum", "%Name", "%Weight", "%Colour" })));
+    EXPECT_FALSE(parts.readingOf({ "%Name", "%Colour" }));
 }
 
 TEST(PartsListTest, RowTotalsAreOfColumnsWithNumbers)

@@ -37,11 +37,18 @@ TEST(ColumnNotesTest, MissingColumnsAreNamed)
 TEST(ColumnNotesTest, ColumnsThatMayHaveBeenMeantAreNamedAsTheFileHasThem)
 {
     EXPECT_EQ(
-        "parts.csv has no column for %Length, which the template asks for: did you mean its column \"length [m]\"?",
-        missing("%Name,length [m]\n", { "%Length" }));
+        "parts.csv has no column for %Length, which the template asks for: did you mean its column \"lenght [m]\"?",
+        missing("%Name,lenght [m]\n", { "%Length" }));
     EXPECT_EQ("parts.csv has no column for %Length, %Weight, which the template asks for: "
-              "did you mean its columns \"Wieght\", \"LENGTH\"?",
-              missing("Wieght,%Name,LENGTH\n", { "%Length", "%Weight" }));
+              "did you mean its columns \"Wieght\", \"LENGHT\"?",
+              missing("Wieght,%Name,LENGHT\n", { "%Length", "%Weight" }));
+}
+
+TEST(ColumnNotesTest, MisspelledWordsOfTheTradeAreGuessed)
+{
+    EXPECT_EQ("parts.csv has no column for %Material, %Name, which the template asks for: "
+              "did you mean its columns \"Proflie\", \"Werkstof\"?",
+              missing("Proflie,Werkstof,%PNum\n", { "%Material", "%Name" }));
 }
 
 TEST(ColumnNotesTest, TwoNamesOfTheCatalogueAreTwoData)
@@ -63,10 +70,21 @@ TEST(ColumnNotesTest, AColumnThatIsNearerToAnotherNameIsNotMeant)
 
 TEST(ColumnNotesTest, FewColumnsAreNamed)
 {
-    const std::string note = missing("length,LENGTH,Lenght,Lengh,Lengt,Legth,Lngth\n", { "%Length" });
+    const std::string note = missing("lenght,LENGHT,Lenght,Lengh,Lengt,Legth,Lngth\n", { "%Length" });
 
     EXPECT_NE(std::string::npos, note.find("\"Lengt\"?"));
     EXPECT_EQ(std::string::npos, note.find("Legth"));
+}
+
+TEST(ColumnNotesTest, ADoubtThatStopsNothingIsANote)
+{
+    MemorySource source("parts.csv", "Position\n");
+    CsvReader records(source);
+    const Finding note = ColumnNotes::inDoubt(PartsList(records).columns().front(), "parts.csv");
+
+    EXPECT_EQ(Finding::kNote, note.severity);
+    EXPECT_EQ("parts.csv: column \"Position\": may be %PNum or %Num: say which, as in --map \"Position=%PNum\"",
+              messageOf(note));
 }
 
 TEST(ColumnNotesTest, TheChosenListIsNamed)
@@ -83,6 +101,6 @@ TEST(ColumnNotesTest, WhoseColumnsAreOwnOnesLearnsHowToBeginAList)
                              "mekbom new-list DATA > list.json";
 
     EXPECT_EQ(note, asTheyAre("designation,family\n"));
-    EXPECT_EQ(note + ": did you mean \"%Name\" by \"nmae\", \"%Length\" by \"length\"?", asTheyAre("nmae,length\n"));
+    EXPECT_EQ(note + ": did you mean \"%Name\" by \"nmae\", \"%Length\" by \"lenght\"?", asTheyAre("nmae,lenght\n"));
 }
 }

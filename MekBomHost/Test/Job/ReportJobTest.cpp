@@ -377,7 +377,7 @@ TEST(ReportJobTest, RowsWithoutPiecesAreOneAndAFileWithoutThemIsNoted)
     const char* const list = R"({ "sections": [ { "type": "kReportHeader", "children": [
         { "type": "kDetails", "tuples": [ { "token": "%Name" }, { "token": "%Quantity" } ] } ] },
         { "type": "kReportFooter", "tuples": [ { "token": "%SumBy:%Quantity", "value": 0 } ] } ] })";
-    ReportJob job(requestFor("Name,Qty\nA,4\nB,2\n", list));
+    ReportJob job(requestFor("Name,Q\nA,4\nB,2\n", list));
 
     ASSERT_EQ(kDone, job.run());
 
@@ -403,8 +403,8 @@ TEST(ReportJobTest, MisspelledColumnsAreGuessed)
 
     EXPECT_EQ(
         "parts.csv has no column for %Length, %Name, %Role, %Weight, which the template asks for: did you mean its "
-        "columns \"length\", \"Wieght [kg]\"?",
-        noteFor("MName,length,Wieght [kg],Remark\nA,1,2,x\n"));
+        "columns \"lenght\", \"Wieght [kg]\"?",
+        noteFor("MName,lenght,Wieght [kg],Remark\nA,1,2,x\n"));
     // Nearer to a column that is there, or to another token.
     EXPECT_EQ("parts.csv has no column for %Weight, which the template asks for",
               noteFor("Name,Length,Lenght,Role,Widht\nA,1,2,x,3\n"));
@@ -436,6 +436,51 @@ TEST(ReportJobTest, RowTotalsAreDividedByThePieces)
     ReportRequest sampleWithSheet;
     sampleWithSheet.input.sheet = "Parts";
     EXPECT_EQ("2 --sheet: the sample data are no parts list\n", outcomeOf(std::move(sampleWithSheet)));
+}
+
+TEST(ReportJobTest, HeadingsOfTheTradeAreReadAndNoted)
+{
+    ReportJob job(requestFor("Profil,L\u00E4nge (m),Colour\nHEA200,2.286,red\n", kDetails));
+
+    ASSERT_EQ(kDone, job.run());
+
+    EXPECT_EQ("Name    Length [mm]\n------  -----------\nHEA200         2286\n", withoutFoot(tableOf(job)));
+    ASSERT_EQ(1u, job.findings().all().size());
+    EXPECT_EQ("parts.csv: \"Profil\" -> %Name, \"L\u00E4nge (m)\" -> %Length", messageOf(job.findings().all()[0]));
+}
+
+TEST(ReportJobTest, TheTemplateMayNameHeadings)
+{
+    const std::string list = R"({ "headings": { "Stange": "%Name", "Nicht da": "%Role" }, "sections": [
+        { "type": "kDetails", "tuples": [ { "token": "%Name" } ] } ] })";
+    EXPECT_EQ("Name\n------\nHEA200\n", outcomeOf(requestFor("Stange\nHEA200\n", list)));
+
+    ReportRequest request = requestFor("Stange,Profilname\nHEA200,IPE360\n", list);
+    request.input.headings = { { "Profilname", "%Name", true }, { "Stange", "%Bar", true } };
+    EXPECT_EQ("Name\n------\nIPE360\n", outcomeOf(std::move(request)));
+}
+
+TEST(ReportJobTest, ATokenOfTheTemplatesOwnStaysWhatItWas)
+{
+    const char* const list = R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%Mark" } ] } ] })";
+
+    EXPECT_EQ("Mark\n----\nB1\n", outcomeOf(requestFor("Mark\nB1\n", list)));
+}
+
+TEST(ReportJobTest, HeadingsInDoubtAreRefusedWithoutANoteThatTheyAreMissing)
+{
+    const char* const list = R"({ "sections": [ { "type": "kDetails", "tuples": [ { "token": "%PNum" } ] } ] })";
+
+    EXPECT_EQ("3 parts.csv:1: column \"Position\": may be %PNum or %Num: say which, as in --map \"Position=%PNum\"\n",
+              outcomeOf(requestFor("Position\n1\n", list)));
+}
+
+TEST(ReportJobTest, HeadingsAreNothingToTheSampleData)
+{
+    ReportRequest sample;
+    sample.input.headings = { { "Cost code", "%UserAttr1", true } };
+
+    EXPECT_EQ("2 --map: the sample data are no parts list\n", outcomeOf(std::move(sample)));
 }
 
 TEST(ReportJobTest, ASourceThatFailsIsAFinding)

@@ -179,12 +179,12 @@ TEST(ProgramTest, EveryShippedTemplatePrintsTheHall)
 TEST(ProgramTest, DataThatSuitNoListArePrintedAsTheyAre)
 {
     const ScratchFolder folder;
-    const std::string parts = folder.file("parts.csv", "Item,Note\nB10,x\nB2,y\n");
+    const std::string parts = folder.file("parts.csv", "Unit,Note\nB10,x\nB2,y\n");
 
     const ProgramRun run = runProgram("report --data \"" + parts + "\"");
 
     EXPECT_EQ(0, run.status);
-    EXPECT_EQ(0u, run.output.find("Item  Note\n----  ----\n")) << run.output;
+    EXPECT_EQ(0u, run.output.find("Unit  Note\n----  ----\n")) << run.output;
     EXPECT_NE(std::string::npos, run.output.find("\nB10   x\n"));
     EXPECT_EQ("mekbom: note: " + parts +
                   " suits no shipped list and is printed as it is; begin a list of your own with "

@@ -109,6 +109,11 @@ TEST(ListFolderTest, SpreadsheetsWriteItOtherwise)
     expectList("spreadsheets-write-it-otherwise");
 }
 
+TEST(ListFolderTest, HeadingsOfTheTradeAreRead)
+{
+    expectList("headings-of-the-trade");
+}
+
 TEST(ListFolderTest, WorkbooksOfSeveralProgramsAreRead)
 {
     expectList("workbooks-of-several-programs");

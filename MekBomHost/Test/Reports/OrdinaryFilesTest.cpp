@@ -98,9 +98,9 @@ TEST(OrdinaryFilesTest, AListWithTotalsSaysThatRowsCountAsPieces)
     const char* const total = R"({ "token": "%SumBy:%Weight", "value": 0.0 })";
     const std::string words = "\nEach row counts as one piece: there is no column %Quantity\n";
 
-    EXPECT_TRUE(holds(report("PNum,Qty,Weight\nP1,4,10\n", weights, total).output, words));
+    EXPECT_TRUE(holds(report("PNum,Sets,Weight\nP1,4,10\n", weights, total).output, words));
     EXPECT_FALSE(holds(report("PNum,Quantity,Weight\nP1,1,10\n", weights, total).output, words));
-    EXPECT_FALSE(holds(report("PNum,Qty,Weight\nP1,4,10\n", weights).output, words));
+    EXPECT_FALSE(holds(report("PNum,Sets,Weight\nP1,4,10\n", weights).output, words));
 }
 
 // Every row would be filtered out for want of a profile.

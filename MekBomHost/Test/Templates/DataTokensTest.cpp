@@ -1,5 +1,7 @@
 #include "DataTokens.h"
 
+#include "Utf8.h"
+
 #include <gtest/gtest.h>
 
 #include <set>
@@ -20,6 +22,14 @@ TEST(DataTokensTest, WhatSteersSumsAndComputesIsNoDatum)
 
     EXPECT_EQ((std::vector<std::string>{ "%Class", "%Length", "%Material", "%Name", "%Paint", "%Weight" }),
               DataTokens::of(reportTemplate));
+}
+
+TEST(DataTokensTest, AColumnMayBeForWhateverRowsHave)
+{
+    for (const wchar_t* const token : { L"%Weight", L"%Bay", L"%Handle", L"%%PaintMeter" })
+        EXPECT_TRUE(DataTokens::canBeColumn(token)) << Utf8::toBytes(token);
+    for (const wchar_t* const token : { L"Weight", L"%SumBy:%Weight", L"%Formula:%Weight", L"%GroupBy:%Name", L"" })
+        EXPECT_FALSE(DataTokens::canBeColumn(token)) << Utf8::toBytes(token);
 }
 
 TEST(DataTokensTest, WhatIsSummedOrStandsInAFormulaIsComputedWith)

@@ -151,10 +151,11 @@ TEST(TemplateReaderTest, EverySectionAndUnitTypeHasItsName)
 
 TEST(TemplateReaderTest, UnknownKeysAreNamedWithTheKnownOnes)
 {
-    EXPECT_EQ("3 list.json:1:3: found unknown key \"titel\", expected \"$schema\", \"title\", \"queryFilter\", "
-              "\"presentationOptions\", \"tokenUnits\", \"tokens\", \"equalLines\", \"allow\", \"columns\" or "
-              "\"sections\": did you mean \"title\"?\n",
-              faultInRoot("\"titel\": \"x\""));
+    EXPECT_EQ(
+        "3 list.json:1:3: found unknown key \"titel\", expected \"$schema\", \"title\", \"queryFilter\", "
+        "\"presentationOptions\", \"tokenUnits\", \"tokens\", \"headings\", \"equalLines\", \"allow\", \"columns\" "
+        "or \"sections\": did you mean \"title\"?\n",
+        faultInRoot("\"titel\": \"x\""));
     EXPECT_EQ("3 list.json:1:19: /sections/0: found unknown key \"Type\", expected \"type\", \"print\", \"label\", "
               "\"summary\", \"tuples\" or \"children\": did you mean \"type\"?\n"
               "3 list.json:1:17: /sections/0: found no key \"type\", expected one\n",
@@ -236,6 +237,24 @@ TEST(TemplateReaderTest, OnlyMistakesOfAuthorsCanBeExcused)
     EXPECT_EQ("two are one", templateOf(R"({ "allow": { "MB105": "two are one" })" + sections).allowed.at("MB105"));
     EXPECT_EQ("3 list.json:1:23: /allow/MB805: found \"MB805\", expected the code of a mistake, such as \"MB105\"\n",
               faultIn(R"({ "allow": { "MB805": "reason" })" + sections));
+}
+
+TEST(TemplateReaderTest, HeadingsStandForTokensOfRows)
+{
+    const std::string sections = R"(, "sections": [ { "type": "kDetails" } ] })";
+    using Pairs = std::vector<std::pair<std::string, std::string>>;
+
+    EXPECT_EQ((Pairs{ { "Cost code", "%UserAttr1" }, { "Surface/m", "%%PaintMeter" }, { "Bay", "%Bay" } }),
+              templateOf(R"({ "headings": { "Cost code": "%UserAttr1", "Surface/m": "%%PaintMeter", "Bay": "%Bay" })" +
+                         sections)
+                  .headings);
+    for (const char* const token : { "UserAttr1", "%SumBy:%Weight", "%Formula:%Weight*2", "%GroupBy:%Name" })
+        EXPECT_EQ("3 list.json:1:22: /headings/A: found \"" + std::string(token) +
+                      "\", expected a token such as \"%UserAttr1\"\n",
+                  faultIn(R"({ "headings": { "A": ")" + std::string(token) + "\" }" + sections))
+            << token;
+    EXPECT_NE("", faultIn(R"({ "headings": { "A": 5 })" + sections));
+    EXPECT_NE("", faultIn(R"({ "headings": [])" + sections));
 }
 
 TEST(TemplateReaderTest, NothingIsLeakedByARefusedTemplate)

@@ -75,15 +75,31 @@ TEST(NewListVerbTest, WhatColumnsOfOnesOwnHoldIsSeenInAllCells)
 {
     const ScratchFolder folder;
     const std::string parts =
-        folder.file("parts.csv", "%Name,Mark,Grip,Thread [mm],Remark\nA,7,4,1.5,\nB,0012,12.5,,\nC,9,,2,\n");
+        folder.file("parts.csv", "%Name,Order,Grip,Thread [mm],Bay\nA,7,4,1.5,\nB,0012,12.5,,\nC,9,,2,\n");
 
     EXPECT_NE(std::string::npos, runHere({ "new-list", parts })
                                      .output.find("\"tokens\": {\n"
-                                                  "    \"%Mark\": \"text\",\n"
+                                                  "    \"%Order\": \"text\",\n"
                                                   "    \"%Grip\": \"number\",\n"
                                                   "    \"%Thread\": \"number\",\n"
-                                                  "    \"%Remark\": \"text\"\n"
+                                                  "    \"%Bay\": \"text\"\n"
                                                   "  },\n"));
+}
+
+TEST(NewListVerbTest, TheListOfMappedHeadingsNeedsNoMappings)
+{
+    const ScratchFolder folder;
+    const std::string parts = folder.file("parts.csv", "Mark,Cost code,Position\nB1,X,7\n");
+
+    const ProgramRun newList = runHere({ "new-list", parts, "--map", "Cost code=UserAttr1" });
+    const ProgramRun run =
+        runHere({ "report", "--data", parts, "--template", folder.file("list.json", newList.output) });
+
+    EXPECT_EQ("Mark  Cost code  Position\n----  ---------  --------\nB1    X                 7\n",
+              withoutFoot(run.output));
+    EXPECT_NE(std::string::npos, newList.errors.find("note: " + parts + ": column \"Position\": may be"))
+        << newList.errors;
+    EXPECT_EQ(kWrongUsage, runHere({ "new-list", parts, "--map", "Cots code=%UserAttr1" }).status);
 }
 
 TEST(NewListVerbTest, DataThatCannotBeReadAreRefused)

@@ -1,3 +1,4 @@
+#include "HeadingTable.h"
 #include "TokenTable.h"
 
 #include "Support/ProgramRun.h"
@@ -17,6 +18,15 @@ TEST(TokensVerbTest, AWordChoosesAmongTheTokens)
 
     EXPECT_EQ(kDone, run.status);
     EXPECT_EQ(TokenTable::textOf("paint"), run.output);
+}
+
+TEST(TokensVerbTest, HeadingsAreListedWholeOrByAWord)
+{
+    EXPECT_EQ(HeadingTable::textOf(""), runHere({ "tokens", "--headings" }).output);
+    EXPECT_EQ(HeadingTable::textOf("WERKSTOFF"), runHere({ "tokens", "--headings", "werkstoff" }).output);
+    EXPECT_EQ("mekbom: tokens: found \"Werkstofff\", expected a part of a heading or a token's name: did you mean "
+              "\"Werkstoff\"?\n",
+              runHere({ "tokens", "--headings", "Werkstofff" }).errors);
 }
 
 TEST(TokensVerbTest, AWordThatNoTokenHoldsIsWrongUsage)

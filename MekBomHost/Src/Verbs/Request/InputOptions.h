@@ -7,6 +7,7 @@
 #pragma once
 
 #include "InputChoices.h"
+#include "PairOption.h"
 
 namespace CLI
 {
@@ -21,9 +22,11 @@ public:
     // Adds the options to `command`. Parsing fills this object, which outlives it.
     void declareOn(CLI::App& command);
 
-    const InputChoices& choices() const { return m_choices; }
+    // Throws a Fault of status kWrongUsage for what cannot be understood.
+    InputChoices choices() const;
 
 private:
-    InputChoices m_choices;
+    PairOption m_headings{ "--map", "HEADING=TOKEN", "\"Cost code=%UserAttr1\"" };
+    InputChoices m_choices; // but the headings
 };
 }
