@@ -1,6 +1,6 @@
 // Records of CSV: whatever bytes come, they are read as the same records when the reader's buffer ends amid them; what
-// is read, written with every field in quotes, is read again as it was; and all else is refused with a fault. Input: a
-// CSV file. Seeds: Fuzz/Seeds/CsvReaderFuzz.
+// is read, written with every field in quotes, is read again as it was; another delimiter divides a text as commas do
+// where both are exchanged; and all else is refused with a fault. Input: a CSV file. Seeds: Fuzz/Seeds/CsvReaderFuzz.
 #include "CsvReader.h"
 #include "Fault.h"
 #include "MemorySource.h"
@@ -27,10 +27,10 @@ void require(bool holds)
 }
 
 // Nothing when they are refused.
-std::optional<Records> recordsOf(const std::string& bytes)
+std::optional<Records> recordsOf(const std::string& bytes, char delimiter = ',')
 {
     mekbom::MemorySource source("fuzz.csv", bytes);
-    mekbom::CsvReader reader(source);
+    mekbom::CsvReader reader(source, delimiter);
     Records records;
     try
     {
@@ -65,6 +65,24 @@ std::optional<Records> recordsBehindALongOne(const std::string& bytes)
     return records;
 }
 
+// The text with commas for delimiters and delimiters for commas.
+std::string exchanged(std::string text, char delimiter)
+{
+    for (char& byte : text)
+        byte = byte == ',' ? delimiter : byte == delimiter ? ',' : byte;
+    return text;
+}
+
+std::optional<Records> recordsExchanged(const std::string& bytes, char delimiter)
+{
+    std::optional<Records> records = recordsOf(exchanged(bytes, delimiter), delimiter);
+    if (records)
+        for (std::vector<std::string>& record : *records)
+            for (std::string& field : record)
+                field = exchanged(field, delimiter);
+    return records;
+}
+
 std::string inQuotes(const Records& records)
 {
     std::string text;
@@ -89,6 +107,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t siz
     const std::optional<Records> records = recordsOf(bytes);
     if (size < mekbom::SourceBytes::kFirstSize && mekbom::Utf8::withoutByteOrderMark(bytes) == bytes)
         require(records == recordsBehindALongOne(bytes));
+    for (const auto& [pName, delimiter] : mekbom::CsvDelimiter::all())
+        require(records == recordsExchanged(bytes, delimiter));
     require(!records || records == recordsOf(inQuotes(*records)));
     return 0;
 }

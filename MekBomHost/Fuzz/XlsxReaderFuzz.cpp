@@ -71,14 +71,14 @@ void readSheet(std::string_view sheet)
     }
 }
 
-// Gives one byte at a time.
+// Gives a few bytes at a time.
 class SlowSource : public mekbom::MemorySource
 {
 public:
     using MemorySource::MemorySource;
     std::size_t read(char* pBytes, std::size_t size) override
     {
-        return MemorySource::read(pBytes, std::min<std::size_t>(size, 1));
+        return MemorySource::read(pBytes, std::min<std::size_t>(size, 7));
     }
 };
 

@@ -32,8 +32,7 @@ constexpr auto kNote = Finding::kNote;
 inline constexpr FindingCode kNoHeaderRow = { "MB701", kError, "A parts list is empty: it lacks even a header row." };
 inline constexpr FindingCode kColumnWithoutName = { "MB702", kError, "A field of the header row names no column." };
 inline constexpr FindingCode kColumnTwice = { "MB703", kError, "Two fields of the header row name the same column." };
-inline constexpr FindingCode kOtherSeparator = { "MB704", kError,
-                                                 "The header row is one field, which holds another separator." };
+// MB704 is gone: what separates the fields is found in the file.
 inline constexpr FindingCode kQuoteWithinField = { "MB705", kError, "A quote stands within a field without quotes." };
 inline constexpr FindingCode kTextBehindQuote = { "MB706", kError, "Text follows the quote that closes a field." };
 inline constexpr FindingCode kQuoteNotClosed = { "MB707", kError, "The file ends within a field in quotes." };
@@ -70,6 +69,14 @@ inline constexpr FindingCode kRowTotalOfMissingColumn = {
 inline constexpr FindingCode kRowTotalOfNoNumber = { "MB723", kError,
                                                      "Row totals are announced for a column of texts or of whole "
                                                      "numbers." };
+inline constexpr FindingCode kOtherDelimiter = { "MB724", kNote,
+                                                 "The fields of a file are separated by another sign than commas." };
+inline constexpr FindingCode kDelimiterUnclear = { "MB725", kError,
+                                                   "The fields of a file may be separated by one sign or another." };
+inline constexpr FindingCode kOtherEncoding = { "MB726", kNote, "A parts list is in another encoding than UTF-8." };
+inline constexpr FindingCode kTextNotOfEncoding = { "MB727", kError,
+                                                    "A file holds bytes that are no text in its encoding." };
+inline constexpr FindingCode kDecimalComma = { "MB728", kNote, "The numbers of a file have a decimal comma." };
 inline constexpr FindingCode kUnitsOfFilesDiffer = {
     "MB729", kError, "Two parts lists of one report give a column in units that differ."
 };
@@ -80,6 +87,13 @@ inline constexpr FindingCode kAssemblyColumnMissing = {
 };
 inline constexpr FindingCode kAssemblyTwice = { "MB733", kError, "Two assemblies have the same handle." };
 inline constexpr FindingCode kAssemblyUnknown = { "MB734", kError, "A part names an assembly that there is none of." };
+inline constexpr FindingCode kGroupedDigits = { "MB735", kNote, "The digits of a number are grouped by threes." };
+inline constexpr FindingCode kNumberUnclear = {
+    "MB736", kError, "A number is another one with a decimal point than with a comma, and nothing tells which it has."
+};
+inline constexpr FindingCode kOtherDecimalSign = {
+    "MB737", kError, "A number has a decimal comma where others have a point, or a point where they have a comma."
+};
 
 // Workbooks, which are parts lists, too.
 inline constexpr FindingCode kWorkbookDamaged = { "MB740", kError,

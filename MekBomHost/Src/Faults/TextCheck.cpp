@@ -37,7 +37,7 @@ TextPlace placeOf(std::string_view text, std::size_t offset, int line)
 }
 }
 
-void requireText(std::string_view bytes, const std::string& source, int firstLine)
+void requireText(std::string_view bytes, const std::string& source, int firstLine, const std::string& remedy)
 {
     const std::size_t invalid = Utf8::findInvalid(bytes);
     const std::size_t zero = bytes.substr(0, invalid).find('\0');
@@ -48,6 +48,7 @@ void requireText(std::string_view bytes, const std::string& source, int firstLin
         isZero ? Finding::of(FindingCodes::kTextHasZeroByte, "a zero byte", "text")
                : Finding::of(FindingCodes::kTextIsNotUtf8, "byte " + byteName(bytes[invalid]), "text in UTF-8");
     finding.source = source;
+    finding.remedy = remedy;
     finding.begin = placeOf(bytes, isZero ? zero : invalid, firstLine);
     finding.end = { finding.begin.line, finding.begin.column + 1 };
     throw Fault(kInvalidInput, finding);

@@ -10,5 +10,6 @@ namespace mekbom
 {
 // Throws a Fault of status kInvalidInput that names the first byte that is none. `source` is what messages call the
 // origin of the bytes, `firstLine` the number of their first line; lines end with LF, CRLF or CR.
-void requireText(std::string_view bytes, const std::string& source, int firstLine = 1);
+// `remedy` is what may be done about it.
+void requireText(std::string_view bytes, const std::string& source, int firstLine = 1, const std::string& remedy = "");
 }

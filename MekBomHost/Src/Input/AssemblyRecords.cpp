@@ -142,4 +142,17 @@ void AssemblyRecords::placeCell(std::size_t index, Finding& finding) const
     else
         m_pParts->placeRecord(finding);
 }
+NumberNotation AssemblyRecords::notationOf(const std::vector<std::size_t>& columns) const
+{
+    std::vector<std::size_t> ofParts;
+    std::vector<std::size_t> ofAssemblies;
+    for (const std::size_t column : columns)
+        if (column < m_numPartColumns)
+            ofParts.push_back(column);
+        else
+            ofAssemblies.push_back(m_givenColumns[column - m_numPartColumns]);
+    const NumberNotation notation = m_pParts->notationOf(ofParts);
+    return ofAssemblies.empty() ? notation
+                                : NumberNotation::ofEither(notation, m_pAssemblies->notationOf(ofAssemblies));
+}
 }

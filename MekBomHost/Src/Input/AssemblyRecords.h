@@ -40,6 +40,9 @@ public:
     void placeRecord(Finding& finding) const override { m_pParts->placeRecord(finding); }
     void placeCell(std::size_t index, Finding& finding) const override;
 
+    // That of both lists: settled where it is the same in both and settled in each.
+    NumberNotation notationOf(const std::vector<std::size_t>& columns) const override;
+
 private:
     const Record* header();
     void chooseColumns(const Record& assemblyHeadings, const Record& partHeadings);

@@ -47,6 +47,11 @@ bool isEmpty(const Record& record)
     return std::all_of(record.begin(), record.end(), [](const RecordCell& cell) { return cell.isNothing(); });
 }
 
+bool readWholeNumber(std::string_view text, int& value)
+{
+    return NumberReader::read(text, value) || NumberReader::read(NumberReader::withoutZeroDecimals(text), value);
+}
+
 const FindingCode& codeOf(std::string_view text, const FindingCode& otherwise)
 {
     return isNotANumber(text) ? MistakeCodes::kNotANumber : otherwise;
@@ -69,6 +74,14 @@ CellReader::CellReader(const std::vector<InputColumn>& columns, RecordSource& so
             m_untypedCells[i].takeNumbersAlone();
         m_dividesRowTotals = m_dividesRowTotals || (columns[i].isWanted && columns[i].isRowTotal);
     }
+}
+
+void CellReader::setNotation(const NumberNotation& notation)
+{
+    m_notation = notation;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        if (m_columns[i].whyNumbers.empty())
+            m_untypedCells[i].setNotation(notation);
 }
 
 bool CellReader::read(RowBatch& batch)
@@ -162,11 +175,13 @@ bool CellReader::checkNumCells(const Record& record)
 }
 
 // 1 as well for a cell that is no whole number: readWhole() says so.
-int CellReader::piecesOf(const Record& record) const
+int CellReader::piecesOf(const Record& record)
 {
     int numPieces = 1;
+    bool isRead = false;
+    const auto read = [&numPieces](std::string_view plain) { return readWholeNumber(plain, numPieces); };
     if (m_piecesColumn != record.size() && !record[m_piecesColumn].isNothing())
-        NumberReader::read(NumberReader::withoutZeroDecimals(record[m_piecesColumn].asText()), numPieces);
+        readWithNotation(m_piecesColumn, record[m_piecesColumn], record[m_piecesColumn].asText(), read, isRead);
     return numPieces;
 }
 
@@ -178,9 +193,9 @@ void CellReader::readCell(std::size_t column, const RecordCell& cell)
         return addFinding(cell.refusal(), column);
     switch (m_columns[column].type)
     {
-        case VorBomDataValue::kIntData: readWhole(column, textOf(cell)); break;
+        case VorBomDataValue::kIntData: readWhole(column, cell); break;
         case VorBomDataValue::kDoubleData: readNumber(column, cell); break;
-        default: readText(column, textOf(cell)); break;
+        default: readText(column, cell); break;
     }
 }
 
@@ -193,13 +208,35 @@ std::string_view CellReader::textOf(const RecordCell& cell)
     return m_numberText;
 }
 
+// Nearly all numbers are written the plain way, and then nothing else is tried. Gives what the notation makes of the
+// text; `isRead` says whether `read` took it, as it stands or as the notation reads it.
+template <class Read>
+NumberNotation::eReading CellReader::readWithNotation(std::size_t column, const RecordCell& cell, std::string_view text,
+                                                      const Read& read, bool& isRead)
+{
+    isRead = (m_notation.isPlain() || cell.isNumber()) && read(text);
+    if (isRead || cell.isNumber())
+        return NumberNotation::kReadable;
+    const NumberNotation::eReading reading = m_notation.toPlain(text, m_plainText);
+    isRead = reading == NumberNotation::kReadable && read(std::string_view(m_plainText));
+    if (isRead && m_plainText.size() < text.size())
+        noteGroups(column, text);
+    return reading;
+}
+
 // Spreadsheets write 4 as "4.0" once another cell of the column had decimals.
 // Two mistakes, two expectations: "4.5" is not whole, "3000000000" is, but has no room in 32 bits.
-void CellReader::readWhole(std::size_t column, std::string_view text)
+void CellReader::readWhole(std::size_t column, const RecordCell& cell)
 {
+    const std::string_view text = textOf(cell);
     int value = 0;
-    if (NumberReader::read(text, value) || NumberReader::read(NumberReader::withoutZeroDecimals(text), value))
+    bool isRead = false;
+    const auto read = [&value](std::string_view plain) { return readWholeNumber(plain, value); };
+    const NumberNotation::eReading reading = readWithNotation(column, cell, text, read, isRead);
+    if (isRead)
         return m_pBatch->add(m_columns[column].tupleToken, value);
+    if (refuseNotation(column, text, reading))
+        return;
     const bool isWhole = NumberReader::isWhole(NumberReader::withoutZeroDecimals(text));
     addFinding(codeOf(text, FindingCodes::kCellIsNotWhole), column, text,
                isWhole ? "a whole number from -2147483648 to 2147483647" : "a whole number");
@@ -215,14 +252,23 @@ void CellReader::readNumber(std::size_t column, const RecordCell& cell)
     const std::string_view text = textOf(cell);
     double value = 0;
     int numDecimals = 0;
-    if (!properties.takesPlainNumbers || !NumberReader::read(text, value, numDecimals))
+    bool isNumber = false; // rather than a quantity
+    bool isRead = false;
+    const auto read = [&](std::string_view plain)
     {
-        if (!readQuantity(column, text, value))
-            return;
+        isNumber = properties.takesPlainNumbers && NumberReader::read(plain, value, numDecimals);
+        return isNumber || readQuantity(column, plain, value);
+    };
+    const NumberNotation::eReading reading = readWithNotation(column, cell, text, read, isRead);
+    if (!isRead)
+    {
+        if (!refuseNotation(column, text, reading))
+            refuseNumber(column, text);
+        return;
     }
-    else if (!properties.lackingUnit.empty())
+    if (isNumber && !properties.lackingUnit.empty())
         return refuseForWantOfUnit(column, text);
-    else if (!properties.isInModelUnit)
+    if (isNumber && !properties.isInModelUnit)
         value = properties.unit->getVorUnitTransform().toInternalUnits(value);
     if (!std::isfinite(value))
         return addFinding(FindingCodes::kCellIsTooLarge, column, text, "a smaller number");
@@ -242,24 +288,34 @@ bool CellReader::divideByPieces(double& value) const
     return true;
 }
 
-void CellReader::readText(std::size_t column, std::string_view text)
+void CellReader::readText(std::size_t column, const RecordCell& cell)
 {
     const InputColumn& properties = m_columns[column];
     if (properties.isHandle)
-        readHandle(column, text);
+        readHandle(column, textOf(cell));
     else if (properties.type == VorBomDataValue::kStringData)
-        m_pBatch->addText(properties.tupleToken, column, text);
+        m_pBatch->addText(properties.tupleToken, column, textOf(cell));
     else
-        readUntyped(column, text);
+        readUntyped(column, cell);
 }
 
-void CellReader::readUntyped(std::size_t column, std::string_view text)
+void CellReader::readUntyped(std::size_t column, const RecordCell& cell)
 {
     const InputColumn& properties = m_columns[column];
-    double value = 0;
-    if (!properties.whyNumbers.empty() && !NumberReader::read(text, value))
-        return addFinding(codeOf(text, MistakeCodes::kKindsMixed), column, text, "a number", properties.whyNumbers);
-    m_untypedCells[column].add(text);
+    const std::string_view text = textOf(cell);
+    std::string_view kept = text;
+    if (!properties.whyNumbers.empty())
+    {
+        bool isRead = false;
+        double value = 0;
+        const auto read = [&](std::string_view plain) { return NumberReader::read(kept = plain, value); };
+        const NumberNotation::eReading reading = readWithNotation(column, cell, text, read, isRead);
+        if (!isRead && refuseNotation(column, text, reading))
+            return;
+        if (!isRead)
+            return addFinding(codeOf(text, MistakeCodes::kKindsMixed), column, text, "a number", properties.whyNumbers);
+    }
+    m_untypedCells[column].add(kept);
     m_pBatch->add(properties.tupleToken, 0); // a place for the value that finish() sets
 }
 
@@ -271,16 +327,67 @@ void CellReader::readHandle(std::size_t column, std::string_view text)
 }
 
 // A cell that is more than a number.
-bool CellReader::readQuantity(std::size_t column, std::string_view text, double& value)
+bool CellReader::readQuantity(std::size_t column, std::string_view text, double& value) const
 {
     const InputColumn& properties = m_columns[column];
-    const VorString wideText = Utf8::toWide(text);
-    if (properties.quantities && properties.quantities->read(wideText, value) == 1)
-        return true;
-    const std::string hint = properties.quantities ? Utf8::toBytes(properties.quantities->explain(wideText)) : "";
+    return properties.quantities && properties.quantities->read(Utf8::toWide(text), value) == 1;
+}
+
+void CellReader::refuseNumber(std::size_t column, std::string_view text)
+{
+    const InputColumn& properties = m_columns[column];
+    const std::string hint =
+        properties.quantities ? Utf8::toBytes(properties.quantities->explain(Utf8::toWide(text))) : "";
     addFinding(codeOf(text, FindingCodes::kCellIsNoNumber), column, text,
                properties.unit ? InputUnits::cellExpectation(*properties.unit) : "a number", hint);
-    return false;
+}
+
+// Refuses what is a number, but not surely this one; false for anything else.
+bool CellReader::refuseNotation(std::size_t column, std::string_view text, NumberNotation::eReading reading)
+{
+    const bool isUnclear = reading == NumberNotation::kUnclear;
+    const bool hasOtherSign = reading == NumberNotation::kOtherSign &&
+                              NumberNotation::shownBy(text) == NumberNotation::otherThan(m_notation.sign());
+    if (isUnclear)
+        refuseUnclear(column, text);
+    else if (hasOtherSign)
+        refuseOtherSign(column, text);
+    return isUnclear || hasOtherSign;
+}
+
+// One option mends all cells, so only the first of a column is named.
+void CellReader::refuseUnclear(std::size_t column, std::string_view text)
+{
+    if (std::exchange(m_notes[column].isUnclear, true))
+        return;
+    Finding finding = Finding::stating(
+        FindingCodes::kNumberUnclear,
+        inQuotes(text) + " is " + harmless(NumberNotation::readWith(NumberNotation::kPoint, text)) +
+            " with a decimal point and " + harmless(NumberNotation::readWith(NumberNotation::kComma, text)) +
+            " with a decimal comma, and nothing tells which is meant");
+    finding.remedy = "give --decimal . or --decimal ,";
+    addFinding(std::move(finding), column);
+}
+
+void CellReader::refuseOtherSign(std::size_t column, std::string_view text)
+{
+    const NumberNotation::eSign other = NumberNotation::otherThan(m_notation.sign());
+    Finding finding = Finding::of(FindingCodes::kOtherDecimalSign,
+                                  inQuotes(text) + ", which is " + harmless(NumberNotation::readWith(other, text)) +
+                                      " with a " + NumberNotation::nameOf(other) + " and no number with a " +
+                                      NumberNotation::nameOf(m_notation.sign()),
+                                  "a " + NumberNotation::nameOf(m_notation.sign()) +
+                                      (m_notation.reason().empty() ? "" : ", " + m_notation.reason()));
+    finding.remedy = std::string("mend the cell, or give --decimal ") + (other == NumberNotation::kComma ? "," : ".") +
+                     " if all numbers are written so";
+    addFinding(std::move(finding), column);
+}
+
+void CellReader::noteGroups(std::size_t column, std::string_view text)
+{
+    if (!std::exchange(m_hasGroups, true))
+        addFinding(Finding::stating(FindingCodes::kGroupedDigits, inQuotes(text) + " is read as " + m_plainText),
+                   column);
 }
 
 // One heading mends all cells, so only the first is named.

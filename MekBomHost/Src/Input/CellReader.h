@@ -20,6 +20,7 @@
 #include "FindingList.h"
 #include "HandleCheck.h"
 #include "InputColumn.h"
+#include "NumberNotation.h"
 #include "PartsFacts.h"
 #include "RecordSource.h"
 #include "RowBatch.h"
@@ -41,6 +42,10 @@ class CellReader
 public:
     // `columns` and `source` are not owned and outlive the reader.
     CellReader(const std::vector<InputColumn>& columns, RecordSource& source);
+
+    // How numbers are written in cells that are texts; the plain way where nobody says it. To be called before the first
+    // read().
+    void setNotation(const NumberNotation& notation);
 
     // Each row gets its number, from 1, as its handle: for data that bring none.
     void numberRows(const VorString& handleToken) { m_numberToken = handleToken; }
@@ -66,20 +71,29 @@ private:
         int numFilled = 0;
         int numDecimals = 0;
         bool isRefused = false; // for want of a unit, which is said once
+        bool isUnclear = false; // a number may be two, which is said once, too
     };
 
     void read(const Record& record);
     bool checkNumCells(const Record& record);
-    int piecesOf(const Record& record) const;
+    int piecesOf(const Record& record);
+    template <class Read>
+    NumberNotation::eReading readWithNotation(std::size_t column, const RecordCell& cell, std::string_view text,
+                                              const Read& read, bool& isRead);
     void readCell(std::size_t column, const RecordCell& cell);
     std::string_view textOf(const RecordCell& cell);
-    void readWhole(std::size_t column, std::string_view text);
+    void readWhole(std::size_t column, const RecordCell& cell);
     void readNumber(std::size_t column, const RecordCell& cell);
     bool divideByPieces(double& value) const;
-    void readText(std::size_t column, std::string_view text);
-    void readUntyped(std::size_t column, std::string_view text);
+    void readText(std::size_t column, const RecordCell& cell);
+    void readUntyped(std::size_t column, const RecordCell& cell);
     void readHandle(std::size_t column, std::string_view text);
-    bool readQuantity(std::size_t column, std::string_view text, double& value);
+    bool readQuantity(std::size_t column, std::string_view text, double& value) const;
+    void refuseNumber(std::size_t column, std::string_view text);
+    bool refuseNotation(std::size_t column, std::string_view text, NumberNotation::eReading reading);
+    void refuseUnclear(std::size_t column, std::string_view text);
+    void refuseOtherSign(std::size_t column, std::string_view text);
+    void noteGroups(std::size_t column, std::string_view text);
     void refuseForWantOfUnit(std::size_t column, std::string_view text);
     void addFinding(const FindingCode& code, std::size_t column, std::string_view text, const std::string& expected,
                     const std::string& remedy = std::string());
@@ -106,5 +120,8 @@ private:
     int m_numEmptyRows = 0;   // passed over
     int m_numPieces = 1;      // of the row that is being read; looked at only where row totals are divided
     std::string m_numberText; // of the cell that is being read, if it is a number
+    NumberNotation m_notation;
+    std::string m_plainText;  // of the cell that is being read, where its number is written in another way
+    bool m_hasGroups = false; // digits in groups, which is said of the first number
 };
 }

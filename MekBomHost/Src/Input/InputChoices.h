@@ -2,7 +2,10 @@
 #pragma once
 
 #include "HeadingChoices.h"
+#include "NumberNotation.h"
+#include "TextEncoding.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,7 +13,10 @@ namespace mekbom
 {
 struct InputChoices
 {
-    std::vector<HeadingMapping> headings; // that the columns' tokens are known by
-    std::string sheet;                    // of a workbook
+    std::optional<char> delimiter;                               // between the fields of CSV
+    std::optional<TextEncoding::eEncoding> encoding;             // of CSV
+    NumberNotation::eSign decimalSign = NumberNotation::kNoSign; // of numbers that are texts
+    std::vector<HeadingMapping> headings;                        // that the columns' tokens are known by
+    std::string sheet;                                           // of a workbook
 };
 }

@@ -107,4 +107,20 @@ void JoinedRecords::placeCell(std::size_t index, Finding& finding) const
     else
         source.pRecords->placeCell(static_cast<std::size_t>(own - source.columns.begin()), finding);
 }
+NumberNotation JoinedRecords::notationOf(const std::vector<std::size_t>& columns) const
+{
+    NumberNotation notation = notationOf(m_sources.front(), columns);
+    for (std::size_t i = 1; i < m_sources.size(); ++i)
+        notation = NumberNotation::ofEither(notation, notationOf(m_sources[i], columns));
+    return notation;
+}
+
+NumberNotation JoinedRecords::notationOf(const Source& source, const std::vector<std::size_t>& columns)
+{
+    std::vector<std::size_t> own;
+    for (std::size_t i = 0; i < source.columns.size(); ++i)
+        if (std::find(columns.begin(), columns.end(), source.columns[i]) != columns.end())
+            own.push_back(i);
+    return source.pRecords->notationOf(own);
+}
 }

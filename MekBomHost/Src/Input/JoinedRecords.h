@@ -39,6 +39,9 @@ public:
     void placeRecord(Finding& finding) const override;
     void placeCell(std::size_t index, Finding& finding) const override;
 
+    // That of all sources: settled where it is the same in all and settled in each.
+    NumberNotation notationOf(const std::vector<std::size_t>& columns) const override;
+
 private:
     // A file, and which of the joined columns each of its own is.
     struct Source
@@ -58,6 +61,7 @@ private:
     void addColumns(std::size_t source, const Record& headings);
     void requireOneUnit(const Column& column, std::size_t source, const std::string& heading) const;
     const Record* joined(const Record& record);
+    static NumberNotation notationOf(const Source& source, const std::vector<std::size_t>& columns);
     [[noreturn]] void failInNumCells(std::size_t numCells) const;
 
     std::string m_name;

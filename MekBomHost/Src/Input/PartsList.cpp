@@ -167,15 +167,41 @@ PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector
     registerKinds(*reportTemplate.getBomTemplateUnits());
     findWantedColumns(wanted);
     resolveColumns(reportTemplate);
+    const NumberNotation notation = this->notation(*reportTemplate.getBomTemplateUnits());
     CellReader cells(m_columns, m_source);
+    cells.setNotation(notation);
     if (find(TokenNames::kHandle) == nullptr && wanted.count(TokenNames::kHandle) > 0)
         cells.numberRows(Utf8::toWide(TokenNames::kHandle));
     if (wanted.count(TokenNames::kPieces) > 0)
         cells.countPieces(Utf8::toWide(TokenNames::kPieces));
     buildRows(cells, *reportTemplate.getBomData(), numFormulas(reportTemplate));
     PartsFacts facts = cells.finish(*reportTemplate.getBomData());
-    m_findings = cells.findings();
+    if (notation.sign() == NumberNotation::kComma && !notation.isChosen())
+        m_findings.push_back(commaNote(notation));
+    m_findings.insert(m_findings.end(), cells.findings().begin(), cells.findings().end());
     return facts;
+}
+
+// What is surely a number tells how numbers are written. Where none of these does, "12,50" in a column that nobody knows
+// makes numbers of that column, and no more: what stands there may be texts, such as the 8.8 of a bolt, so that a
+// weight of "1.234" is still refused.
+NumberNotation PartsList::notation(const VorBomTemplateUnits& units) const
+{
+    std::vector<std::size_t> ofNumbers;
+    std::vector<std::size_t> ofAnything;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+    {
+        const VorBomDataValue::eBomDataValueType type = typeOf(m_columns[i], units);
+        if (type == VorBomDataValue::kUnknownData && m_columns[i].whyNumbers.empty())
+            ofAnything.push_back(i);
+        else if (type != VorBomDataValue::kStringData)
+            ofNumbers.push_back(i);
+    }
+    const NumberNotation notation = m_source.notationOf(ofNumbers);
+    if (!notation.isOpen())
+        return notation;
+    const NumberNotation shown = m_source.notationOf(ofAnything);
+    return shown.isSettled() ? NumberNotation(shown.sign(), NumberNotation::kOpen, shown.reason()) : notation;
 }
 
 void PartsList::buildRows(CellReader& cells, VorBomData& data, int numFormulas)
@@ -197,6 +223,13 @@ void PartsList::registerKinds(VorBomTemplateUnits& units) const
         if (unit && VorBomTokenCatalogue::find(column.tupleToken) == nullptr)
             units.AddTokenType(column.tupleToken, InputUnits::kindOf(*unit));
     }
+}
+
+Finding PartsList::commaNote(const NumberNotation& notation) const
+{
+    Finding note = Finding::stating(FindingCodes::kDecimalComma, "numbers have a decimal comma, " + notation.reason());
+    note.source = m_source.name();
+    return note;
 }
 
 bool PartsList::assumesUnits() const
@@ -225,8 +258,6 @@ void PartsList::readHeader(const HeadingChoices& choices)
         else
             checkColumn(m_columns.back(), findings);
     }
-    if (m_columns.size() == 1)
-        checkSeparator(m_columns.front(), findings);
     findings.throwIfAnyError();
 }
 
@@ -254,18 +285,6 @@ void PartsList::checkColumn(const InputColumn& column, FindingList& findings) co
                          findings);
     else if (const InputColumn* const pFirst = find(column.token); pFirst != &column)
         addHeaderFinding(Finding::of(FindingCodes::kColumnTwice, againIn(*pFirst, column)), findings);
-}
-
-// A single column that holds separators of other kinds is most likely a whole header row.
-void PartsList::checkSeparator(const InputColumn& column, FindingList& findings) const
-{
-    const std::size_t separator = column.name.find_first_of(";\t|");
-    if (separator == std::string::npos)
-        return;
-    const std::string name = column.name[separator] == '\t' ? "tabs" : column.name.substr(separator, 1);
-    addHeaderFinding(Finding::of(FindingCodes::kOtherSeparator, "one column " + inQuotes(column.name),
-                                 "commas between columns (is the file separated by " + name + "?)"),
-                     findings);
 }
 
 // `finding` is about the heading of the last column so far.

@@ -20,6 +20,7 @@
 
 #include "FindingList.h"
 #include "InputColumn.h"
+#include "NumberNotation.h"
 #include "PartsFacts.h"
 #include "RecordSource.h"
 #include "ReportTemplate.h"
@@ -53,6 +54,10 @@ public:
 
     // The column with this token, or null.
     const InputColumn* find(const std::string& token) const;
+
+    // How numbers are written in the file, as far as its first rows tell; `units` know the kinds of the template's
+    // tokens. To be asked for before any row is read. readRows() does it, too.
+    NumberNotation notation(const VorBomTemplateUnits& units) const;
 
     // Whether a column may carry the token that nobody can tell for certain. readRows() throws a Fault of status
     // kInvalidInput, which says how to settle it, when such a token is asked for.
@@ -93,11 +98,11 @@ private:
     void readHeader(const HeadingChoices& choices);
     void checkMappings(const ColumnNames& names) const;
     void checkColumn(const InputColumn& column, FindingList& findings) const;
-    void checkSeparator(const InputColumn& column, FindingList& findings) const;
     void addRefusal(Finding finding, FindingList& findings) const;
     void addHeaderFinding(Finding finding, FindingList& findings) const;
     void addColumn(const std::string& heading, const ColumnName& name);
     void refuseDoubts(const std::set<std::string>& wantedTokens) const;
+    Finding commaNote(const NumberNotation& notation) const;
     void findWantedColumns(const std::set<std::string>& wantedTokens);
     void resolveColumns(VorBomTemplate& reportTemplate);
     void resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const;

@@ -29,6 +29,7 @@
 #pragma once
 
 #include "Finding.h"
+#include "NumberNotation.h"
 #include "RecordCell.h"
 
 #include <cstddef>
@@ -57,5 +58,9 @@ public:
     // is known of its begin, end and path. A record in a text has a line and no column, one in a workbook a path.
     virtual void placeRecord(Finding& finding) const = 0;
     virtual void placeCell(std::size_t index, Finding& finding) const = 0;
+
+    // How numbers are written where cells are texts, as far as these columns show it, all of whose cells are numbers.
+    // To be asked for once the header row is read. A format of programs has the plain notation, in all columns.
+    virtual NumberNotation notationOf(const std::vector<std::size_t>& /*columns*/) const { return NumberNotation(); }
 };
 }

@@ -20,14 +20,15 @@ void UntypedCells::add(std::string_view cell)
     m_ends.push_back(m_bytes.size());
     if (!m_allAreNumbers)
         return;
-    m_allAreNumbers = m_mustBeNumbers || NumberReader::isPlain(cell);
+    const std::string_view plain = numberIn(cell);
+    m_allAreNumbers = m_mustBeNumbers || NumberReader::isPlain(plain);
     int whole = 0;
-    if (m_allAreInts && NumberReader::read(cell, whole))
+    if (m_allAreInts && NumberReader::read(plain, whole))
         return;
     m_allAreInts = false;
     double number = 0;
     int numDecimals = 0;
-    NumberReader::read(cell, number, numDecimals);
+    NumberReader::read(plain, number, numDecimals);
     m_numDecimals = std::max(m_numDecimals, numDecimals);
 }
 
@@ -47,9 +48,17 @@ VorBomDataValue UntypedCells::takeNext()
     double number = 0;
     switch (type())
     {
-        case VorBomDataValue::kIntData: NumberReader::read(cell, whole); return VorBomDataValue(whole);
-        case VorBomDataValue::kDoubleData: NumberReader::read(cell, number); return VorBomDataValue(number);
+        case VorBomDataValue::kIntData: NumberReader::read(numberIn(cell), whole); return VorBomDataValue(whole);
+        case VorBomDataValue::kDoubleData: NumberReader::read(numberIn(cell), number); return VorBomDataValue(number);
         default: return VorBomDataValue(m_texts.textOf(cell));
     }
+}
+// The cell as NumberReader has numbers; empty for what is none as it stands. Where groups are gone the text is shorter.
+std::string_view UntypedCells::numberIn(std::string_view cell)
+{
+    if (m_notation.isPlain())
+        return cell;
+    const bool isReadable = m_notation.toPlain(cell, m_plain) == NumberNotation::kReadable;
+    return isReadable && m_plain.size() == cell.size() ? std::string_view(m_plain) : std::string_view();
 }
 }

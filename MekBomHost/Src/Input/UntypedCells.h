@@ -10,6 +10,7 @@
 // Of a column that must be numbers the cells have been checked by whoever adds them; then "0417" is a number, too.
 #pragma once
 
+#include "NumberNotation.h"
 #include "TextPool.h"
 
 #include "VorBomDataValue.h"
@@ -27,6 +28,10 @@ public:
     // From here on all cells are numbers, in whatever form NumberReader reads. To be called before the first add().
     void takeNumbersAlone() { m_mustBeNumbers = true; }
 
+    // How their numbers are written, else the plain way: with a decimal comma "12,5" is one. Digits in groups stay texts,
+    // since their number would not be shown as it is written. To be called before the first add().
+    void setNotation(const NumberNotation& notation) { m_notation = notation; }
+
     // `cell` is not empty.
     void add(std::string_view cell);
 
@@ -40,6 +45,10 @@ public:
     VorBomDataValue takeNext();
 
 private:
+    std::string_view numberIn(std::string_view cell);
+
+    NumberNotation m_notation;
+    std::string m_plain; // what numberIn() gave last, where the notation is not the plain one
     std::string m_bytes; // the cells one after the other
     std::vector<std::size_t> m_ends;
     std::size_t m_next = 0; // the cell to be taken next

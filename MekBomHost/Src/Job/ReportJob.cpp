@@ -241,12 +241,12 @@ void ReportJob::checkRows()
     takeMistakes(RowsCheck::run(m_pReport->reportTemplate(), knownTokens(), *m_pReport->engineTemplate().getBomData()));
 }
 
-// Excused mistakes are as good as none, and a report keeps notes to itself: check() tells them.
+// Excused mistakes are as good as none, and a report keeps an author's notes to itself: check() tells them.
 void ReportJob::takeMistakes(const std::vector<Finding>& mistakes)
 {
     const Excuses excuses(m_pReport->reportTemplate().allowed, m_request.allowed);
     for (const Finding& mistake : excuses.without(mistakes))
-        if (m_isCheckOnly || mistake.severity != Finding::kNote)
+        if (m_isCheckOnly || mistake.severity != Finding::kNote || !MistakeCodes::has(mistake.code))
             m_findings.add(mistake);
 }
 

@@ -56,8 +56,12 @@ ExitStatus NewListVerb::run(FindingList& findings)
 // fewer cells than the header row, and what it has beyond those belongs to no column.
 std::vector<InputColumn> NewListVerb::columnsOf(RecordSource& records, const HeadingChoices& choices)
 {
-    std::vector<InputColumn> columns = PartsList(records, choices).columns();
+    const PartsList parts(records, choices);
+    std::vector<InputColumn> columns = parts.columns();
     std::vector<UntypedCells> cells(columns.size());
+    const NumberNotation notation = parts.notation(VorBomTemplateUnits());
+    for (UntypedCells& cellsOfColumn : cells)
+        cellsOfColumn.setNotation(notation);
     while (const Record* const pRecord = records.next())
         for (std::size_t i = 0; i < std::min(pRecord->size(), columns.size()); ++i)
             if (!(*pRecord)[i].isNothing())

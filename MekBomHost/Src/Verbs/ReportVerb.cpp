@@ -47,15 +47,17 @@ const char* const kSampleData = "sample";
 }
 
 const char* const ReportVerb::kNotes = R"(Data
-  A parts list is comma-separated text in UTF-8. Its header row names tokens, with or
-  without the leading %, or what the trade calls them: Mark, Werkstoff, Aantal (mekbom
-  tokens --headings); --map "Cost code=%UserAttr1" says what else a heading means. It may
-  give a unit: Length [ft], Length mm. Lengths, weights
-  and angles without a unit are in mm, kg and rad; areas, densities and values per length
-  need one: Paint [m2], or --input-unit %Paint=m2. A cell may carry a unit of its own:
-  7'-6 1/2", 7.5 ft. Empty cells are no data. Handle is the identity of the object,
-  Quantity how many of them a row stands for (1 where it does not say). Other values are
-  those of one piece, or of all in the columns that --row-totals names.
+  A parts list is CSV, a workbook (.xlsx) or JSON. What divides the columns of CSV, its
+  decimal sign and its encoding are found in the file, and said where they are not commas,
+  points and UTF-8. The header row names tokens, with or without the leading %, or what
+  the trade calls them: Mark, Werkstoff, Aantal (mekbom tokens --headings); --map
+  "Cost code=%UserAttr1" says what else a heading means. It may give a unit: Length [ft],
+  Length mm. Lengths, weights and angles without a unit are in mm, kg and rad; areas,
+  densities and values per length need one: Paint [m2], or --input-unit %Paint=m2. A cell
+  may carry a unit of its own: 7'-6 1/2", 7.5 ft. Empty cells are no data. Handle is the
+  identity of the object, Quantity how many of them a row stands for (1 where it does not
+  say). Other values are those of one piece, or of all in the columns that --row-totals
+  names.
 
 Template
   The shipped lists go by name: cutting-list, assembly-list, bolt-list, parts-list.

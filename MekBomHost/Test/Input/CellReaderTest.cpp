@@ -44,6 +44,7 @@ protected:
         CellReader cells(m_columns, source);
         RowBatch batch(m_columns.size());
         RowBuilder rows(m_data, m_columns.size());
+        cells.setNotation(m_notation);
         if (m_numbersRows)
             cells.numberRows(L"%Handle");
         if (m_countsPieces)
@@ -65,6 +66,7 @@ protected:
     VorBomData m_data;
     bool m_numbersRows = false;
     bool m_countsPieces = false;
+    NumberNotation m_notation;
     PartsFacts m_facts;
     std::vector<Finding> m_findings;
 };
@@ -137,6 +139,21 @@ TEST_F(CellReaderTest, WholeNumbersMayHaveZerosBehindTheirPoint)
             }));
 }
 
+TEST_F(CellReaderTest, NumbersAreReadInTheNotationOfTheirTexts)
+{
+    m_columns[3].whyNumbers = "the list computes with it";
+    m_notation = NumberNotation(NumberNotation::kComma, NumberNotation::kShown, "");
+
+    read({ { textCell("1,5"), textCell("1.200"), textCell("1.234,5"), textCell("2.000,5") },
+           { textCell("1.234"), RecordCell(4.0), RecordCell(1.234), RecordCell() } });
+
+    EXPECT_EQ("[%Name:1,5][%Quantity:1200][%Weight:1234.5][%Other:2000.5]\n"
+              "[%Name:1.234][%Quantity:4][%Weight:1.234]",
+              rows());
+    ASSERT_EQ(1U, m_findings.size());
+    EXPECT_EQ("parts.xyz:1: /1: column \"Quantity\": \"1.200\" is read as 1200", messageOf(m_findings[0]));
+}
+
 TEST_F(CellReaderTest, RowsThatDoNotSayHowManyPiecesTheyAreAreOne)
 {
     m_countsPieces = true;
@@ -207,7 +224,7 @@ TEST_F(CellReaderTest, AColumnThatMustBeNumbersRefusesOtherCells)
     EXPECT_EQ("[%Other:12]\n[%Name:A]\n[%Other:100]", rows());
     EXPECT_EQ(VorBomDataValue::kDoubleData, m_facts.find("%Other")->type);
 
-    for (const char* const text : { "n/a", "100,5", "NaN", "inf", "1e999", "-" })
+    for (const char* const text : { "n/a", "100,5,5", "NaN", "inf", "1e999", "-" })
         EXPECT_EQ("3 parts.xyz:1: error " + std::string(text == std::string("NaN") ? "MB604" : "MB601") +
                       ": column \"Other\": found \"" + text +
                       "\", expected a number; help: the list computes with %Other\n",

@@ -70,6 +70,31 @@ TEST(UntypedCellsTest, ColumnsThatMustBeNumbersAreNumbersHoweverWritten)
     }
 }
 
+TEST(UntypedCellsTest, NumbersAreWrittenAsTheNotationSaysAndTextsStayAsTheyAre)
+{
+    const NumberNotation comma(NumberNotation::kComma, NumberNotation::kShown, "");
+    const TypeCase cases[] = {
+        { { "4", "12,50" }, VorBomDataValue::kDoubleData },
+        { { "4", "12.5" }, VorBomDataValue::kStringData },     // the class of a bolt, say
+        { { "4", "1.234" }, VorBomDataValue::kStringData },    // would be shown without its point
+        { { "4", "1.234,50" }, VorBomDataValue::kStringData }, // the same
+        { { "4", "0417" }, VorBomDataValue::kStringData },
+        { { "4", "1,5E3" }, VorBomDataValue::kStringData },
+    };
+    for (const TypeCase& test : cases)
+    {
+        UntypedCells column;
+        column.setNotation(comma);
+        for (const std::string& cell : test.cells)
+            column.add(cell);
+        EXPECT_EQ(test.type, column.type()) << test.cells.back();
+        column.takeNext();
+        const VorBomDataValue last = column.takeNext();
+        const bool isNumber = test.type == VorBomDataValue::kDoubleData;
+        EXPECT_EQ(isNumber ? "12.5" : test.cells.back(), toUtf8(last.asString()));
+    }
+}
+
 TEST(UntypedCellsTest, DecimalsAreTheMostOfAnyCell)
 {
     UntypedCells column;

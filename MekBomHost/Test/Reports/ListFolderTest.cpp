@@ -104,6 +104,11 @@ TEST(ListFolderTest, ColumnsOfSeveralKindsNameTheirUnits)
     expectList("columns-of-several-kinds-name-their-units");
 }
 
+TEST(ListFolderTest, SpreadsheetsWriteItOtherwise)
+{
+    expectList("spreadsheets-write-it-otherwise");
+}
+
 TEST(ListFolderTest, HeadingsOfTheTradeAreRead)
 {
     expectList("headings-of-the-trade");

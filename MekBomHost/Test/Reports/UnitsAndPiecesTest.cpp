@@ -72,7 +72,7 @@ TEST(UnitsAndPiecesTest, AnAreaWithoutAUnitIsRefusedWithTwoRemediesThatWork)
 
 TEST(UnitsAndPiecesTest, ACellThatIsNoNumberIsNamedInsteadOfEndingUpAsTheTotal)
 {
-    for (const char* const cell : { "n/a", "\"100,5\"", "NaN", "inf", "1e999" })
+    for (const char* const cell : { "n/a", "\"1,2,3\"", "NaN", "inf", "1e999" })
     {
         const ProgramRun run =
             listOf("PNum,Quantity,Weight,Paint [m2],Price\nP1,1,2,3,4\nP2,1,2,3," + std::string(cell) + "\n");

@@ -1,4 +1,4 @@
-// A record is read in one go over its stops, the bytes that may be a comma, a quote or a line end (StopScan). Of
+// A record is read in one go over its stops, the bytes that may be a delimiter, a quote or a line end (StopScan). Of
 //
 //   HEA200,"7'-6""",12\n
 //
@@ -24,11 +24,6 @@ namespace
 bool endsLine(char byte)
 {
     return byte == '\n' || byte == '\r';
-}
-
-bool endsField(char byte)
-{
-    return byte == ',' || endsLine(byte);
 }
 
 bool isAsciiText(char byte)
@@ -100,7 +95,7 @@ void CsvReader::readMore()
     m_scan.begin(m_pNext, m_bytes.end());
 }
 
-// record := field { ',' field } line-end
+// record := field { delimiter field } line-end
 // field  := bytes | '"' { bytes | '""' } '"'
 //
 // Gives false when more bytes are needed; nothing of the record has been used up then.
@@ -125,7 +120,7 @@ bool CsvReader::scanRecord()
         else
             m_cells.emplace_back(textBetween(pField, pStop));
         pField = pStop;
-        if (*pStop == ',')
+        if (*pStop == m_delimiter)
             continue;
         m_scan = scan;
         const char* const pEnd = passLineEnd(pStop);
@@ -200,7 +195,7 @@ const char* CsvReader::passLineEnd(const char* pStop)
     if (!m_bytes.areLast() && (pStop == pEnd || (*pStop == '\r' && pStop + 1 == pEnd)))
         return nullptr;
     if (!m_isPlain)
-        requireText(textBetween(m_lineBegins.back(), pStop), name(), lineOf(pStop));
+        requireLine(pStop);
     if (pStop == pEnd)
         return pEnd;
     if (*pStop == '\r' && pStop[1] == '\n' && pStop + 1 != pEnd)
@@ -208,6 +203,13 @@ const char* CsvReader::passLineEnd(const char* pStop)
     m_lineBegins.push_back(pStop + 1);
     m_isPlain = true;
     return pStop + 1;
+}
+
+// Throws unless the last line of the record, up to `pEnd`, is text.
+void CsvReader::requireLine(const char* pEnd) const
+{
+    requireText(textBetween(m_lineBegins.back(), pEnd), name(), lineOf(pEnd),
+                "give --encoding if it is in another one");
 }
 
 // Only stops come here, and every byte that may make a line something else than text is a stop: zeros and all beyond
@@ -262,7 +264,7 @@ const char* CsvReader::failBehindQuote(const char* pField, const char* pByte) co
     const int fieldLine = lineOf(pField);
     std::string_view rest = textBetween(pByte, m_bytes.end());
     Utf8::takeCodePoint(rest);
-    std::string expected = "a comma or the line's end";
+    std::string expected = CsvDelimiter::nameOf(m_delimiter) + std::string(" or the line's end");
     if (fieldLine != lineOf(pByte))
         expected += " (the field starts on line " + std::to_string(fieldLine) + ")";
     return failAt(pByte, Finding::of(FindingCodes::kTextBehindQuote,
@@ -276,7 +278,7 @@ const char* CsvReader::failAt(const char* pByte, Finding finding) const
     const char* const pLineEnd = std::find_if(pByte, m_bytes.end(), endsLine);
     if (pLineEnd == m_bytes.end() && !m_bytes.areLast())
         return nullptr;
-    requireText(textBetween(m_lineBegins.back(), pLineEnd), name(), lineOf(pByte));
+    requireLine(pLineEnd);
     finding.source = name();
     finding.begin = placeOf(pByte);
     finding.end = { finding.begin.line, finding.begin.column + 1 };
@@ -285,7 +287,7 @@ const char* CsvReader::failAt(const char* pByte, Finding finding) const
 
 void CsvReader::failUnclosed(const char* pField) const
 {
-    requireText(textBetween(m_lineBegins.back(), m_bytes.end()), name(), lineOf(m_bytes.end()));
+    requireLine(m_bytes.end());
     Finding finding = Finding::of(FindingCodes::kQuoteNotClosed,
                                   "the end of the file within the quoted field that starts here", "a closing quote");
     finding.source = name();

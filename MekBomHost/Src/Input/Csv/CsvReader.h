@@ -1,4 +1,4 @@
-// The records of a comma-separated file, as RFC 4180 has them: quoted fields may hold commas, doubled quotes and line
+// The records of a comma-separated file in UTF-8, as RFC 4180 has them, or of one with another delimiter: quoted fields may hold commas, doubled quotes and line
 // breaks; blanks belong to the field; lines end with LF, CRLF or CR. Empty lines between records are skipped, a byte
 // order mark in front is dropped.
 //
@@ -10,6 +10,7 @@
 #pragma once
 
 #include "ByteSource.h"
+#include "CsvDelimiter.h"
 #include "RecordSource.h"
 #include "SourceBytes.h"
 #include "StopScan.h"
@@ -26,8 +27,11 @@ struct FindingCode;
 class CsvReader : public RecordSource
 {
 public:
-    // `source` is not owned and outlives the reader.
-    explicit CsvReader(ByteSource& source) : m_source(source), m_bytes(source) {}
+    // `source` is not owned and outlives the reader. `delimiter` is one of CsvDelimiter.
+    explicit CsvReader(ByteSource& source, char delimiter = CsvDelimiter::kPlain)
+        : m_source(source), m_delimiter(delimiter), m_bytes(source), m_scan(delimiter)
+    {
+    }
 
     const std::string& name() const override { return m_source.name(); }
     const Record* next() override;
@@ -52,6 +56,8 @@ private:
     const char* findClosingQuote(bool& hasDoubled);
     const char* passLineEnd(const char* pStop);
     void passByte(char byte);
+    bool endsField(char byte) const { return byte == m_delimiter || byte == '\n' || byte == '\r'; }
+    void requireLine(const char* pEnd) const;
     void resolveDoubledQuotes();
 
     int lineOf(const char* pByte) const;
@@ -62,6 +68,7 @@ private:
     [[noreturn]] void failUnclosed(const char* pField) const;
 
     ByteSource& m_source;
+    const char m_delimiter;
     SourceBytes m_bytes;
     StopScan m_scan;
     const char* m_pNext = nullptr; // where the next record begins, among m_bytes

@@ -1,6 +1,6 @@
 #include "PartsFormats.h"
 
-#include "CsvReader.h"
+#include "CsvFile.h"
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "JoinedRecords.h"
@@ -44,7 +44,7 @@ std::unique_ptr<RecordSource> readerFor(PeekedSource& source, const InputChoices
         failWithSheet(source);
     if (JsonRecords::isBeginOf(source.head()))
         return std::make_unique<JsonRecords>(source);
-    return std::make_unique<CsvReader>(source);
+    return std::make_unique<CsvFile>(source, choices, notes);
 }
 
 // Records with the source that was looked into for them.
@@ -60,6 +60,10 @@ public:
     const Record* next() override { return m_pRecords->next(); }
     void placeRecord(Finding& finding) const override { m_pRecords->placeRecord(finding); }
     void placeCell(std::size_t index, Finding& finding) const override { m_pRecords->placeCell(index, finding); }
+    NumberNotation notationOf(const std::vector<std::size_t>& columns) const override
+    {
+        return m_pRecords->notationOf(columns);
+    }
 
 private:
     PeekedSource m_source;

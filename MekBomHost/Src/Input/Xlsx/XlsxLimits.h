@@ -4,7 +4,8 @@
 //   a million columns         are beyond kMostColumns
 //   a sheet of a terabyte     is beyond kMostSheetBytes, which bounds the time; rows are read one by one
 //
-// So a workbook takes its own size in memory, its texts, and some ten times kMostElementBytes for a row.
+// So a workbook takes its own size in memory, up to twice that of its texts, since they grow, and some ten times
+// kMostElementBytes for a row.
 #pragma once
 
 #include <cstddef>

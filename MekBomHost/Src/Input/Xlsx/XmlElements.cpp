@@ -71,9 +71,10 @@ pugi::xml_node XmlElements::next()
     for (Tag tag = nextTag(); tag.kind != kNoMore; tag = nextTag())
     {
         m_hasRoot = true;
+        const std::string_view name = nameOf(tag);
         if (tag.kind == kCloses)
-            leave(tag.name);
-        else if (isWanted(tag.name))
+            leave(name);
+        else if (isWanted(name))
         {
             m_element = tag.begin;
             if (tag.kind == kOpens)
@@ -81,7 +82,7 @@ pugi::xml_node XmlElements::next()
             return parse();
         }
         else if (tag.kind == kOpens)
-            enter(tag.name);
+            enter(name);
     }
     if (!m_open.empty() || !m_hasRoot)
         WorkbookFault::inPart(m_part, m_hasRoot ? "its end within <" + harmless(m_open.back()) + ">" : "nothing",
@@ -99,15 +100,11 @@ void XmlElements::begin()
     requireUtf8();
 }
 
-// Half of the first two bytes of UTF-16 are beyond ASCII or zero.
 void XmlElements::requireUtf8() const
 {
-    const std::string_view text = std::string_view(m_text).substr(m_next);
-    const bool isWide = startsWith(text, "\xFF\xFE") || startsWith(text, "\xFE\xFF") ||
-                        text.substr(0, 2).find('\0') != std::string_view::npos;
-    const std::string encoding = encodingIn(text);
-    if (isWide || !(encoding.empty() || encoding == "utf-8" || encoding == "us-ascii"))
-        WorkbookFault::inPart(m_part, isWide ? "UTF-16" : "text in " + harmless(encoding), "text in UTF-8");
+    const std::string encoding = encodingIn(std::string_view(m_text).substr(m_next));
+    if (!encoding.empty() && encoding != "utf-8" && encoding != "us-ascii")
+        WorkbookFault::inPart(m_part, "text in " + harmless(encoding), "text in UTF-8");
 }
 
 XmlElements::Tag XmlElements::nextTag()
@@ -125,13 +122,15 @@ XmlElements::Tag XmlElements::nextTag()
         const char kind = m_text[begin + 1];
         if (kind == '?' || kind == '!')
             continue;
-        const bool closes = kind == '/';
-        const std::size_t nameAt = begin + (closes ? 2 : 1);
-        const std::string_view name =
-            XmlNames::withoutPrefix(nameIn(std::string_view(m_text).substr(nameAt, end - nameAt)));
-        return { closes ? kCloses : (m_text[end - 2] == '/' ? kIsEmpty : kOpens), begin, name };
+        return { kind == '/' ? kCloses : (m_text[end - 2] == '/' ? kIsEmpty : kOpens), begin, end };
     }
-    return { kNoMore, 0, std::string_view() };
+    return { kNoMore, 0, 0 };
+}
+
+std::string_view XmlElements::nameOf(const Tag& tag) const
+{
+    const std::size_t begin = tag.begin + (tag.kind == kCloses ? 2 : 1);
+    return XmlNames::withoutPrefix(nameIn(std::string_view(m_text).substr(begin, tag.end - begin)));
 }
 
 // Goes on to the next '<'. False at the end.
@@ -151,11 +150,12 @@ bool XmlElements::findMarkup()
 // Behind the '>' of the tag, comment or the like at m_next; kNone when it has not been read yet.
 std::size_t XmlElements::endOfMarkup() const
 {
-    const std::string_view rest = std::string_view(m_text).substr(m_next);
-    if (startsWith(rest, "<?"))
-        return endBehind("?>");
-    if (!startsWith(rest, "<!"))
+    const char kind = m_next + 1 < m_text.size() ? m_text[m_next + 1] : '\0';
+    if (kind != '?' && kind != '!')
         return endOfTag();
+    const std::string_view rest = std::string_view(m_text).substr(m_next);
+    if (kind == '?')
+        return endBehind("?>");
     if (startsWith(rest, "<!--"))
         return endBehind("-->");
     if (startsWith(rest, kCdata))
@@ -188,7 +188,8 @@ std::size_t XmlElements::endBehind(std::string_view mark) const
     return found == kNone ? kNone : found + mark.size();
 }
 
-// False at the end of the part. What lies before the wanted element, or before m_next, is given up.
+// False at the end of the part. What lies before the wanted element, or before m_next, is given up. Text without zero bytes
+// is not UTF-16 either.
 bool XmlElements::readMore()
 {
     const std::size_t kept = std::min(m_element, m_next);
@@ -201,6 +202,8 @@ bool XmlElements::readMore()
     m_text.resize(length + std::max(kBlockSize, length));
     const std::size_t numRead = m_source.read(&m_text[length], m_text.size() - length);
     m_text.resize(length + numRead);
+    if (m_text.find('\0', length) != kNone)
+        WorkbookFault::inPart(m_part, "a zero byte", "text in UTF-8");
     return numRead > 0;
 }
 

@@ -44,13 +44,14 @@ private:
     struct Tag
     {
         eTag kind;
-        std::size_t begin;     // in m_text
-        std::string_view name; // without its prefix; good until the next tag
+        std::size_t begin; // in m_text, until the next tag
+        std::size_t end;
     };
 
     static constexpr std::size_t kNone = std::string::npos;
 
     Tag nextTag();
+    std::string_view nameOf(const Tag& tag) const;
     bool findMarkup();
     std::size_t endOfMarkup() const;
     std::size_t endOfTag() const;

@@ -9,8 +9,6 @@
 #include "InputChoices.h"
 #include "PairOption.h"
 
-#include <string>
-
 namespace CLI
 {
 class App;
@@ -29,6 +27,6 @@ public:
 
 private:
     PairOption m_headings{ "--map", "HEADING=TOKEN", "\"Cost code=%UserAttr1\"" };
-    std::string m_sheet;
+    InputChoices m_choices; // but the headings
 };
 }

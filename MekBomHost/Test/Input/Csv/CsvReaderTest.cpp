@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>
@@ -148,10 +149,10 @@ private:
     std::mt19937 m_random;
 };
 
-std::vector<Texts> textsOf(const std::string& text, std::size_t blockSize)
+std::vector<Texts> textsOf(const std::string& text, std::size_t blockSize, char delimiter = ',')
 {
     BlockSource source(text, blockSize);
-    CsvReader reader(source);
+    CsvReader reader(source, delimiter);
     std::vector<Texts> records;
     while (const Record* const pRecord = reader.next())
     {
@@ -229,6 +230,21 @@ TEST(CsvReaderTest, RecordsAreTheSameWhereverTheBufferEnds)
     }
 }
 
+TEST(CsvReaderTest, FieldsEndAtTheDelimiterAlone)
+{
+    for (const char delimiter : { ';', '\t', '|' })
+    {
+        std::string text = "a;\"b;\"\";c\";\r\n1,5;x,\xC3\xA4;\"\"\n";
+        std::replace(text.begin(), text.end(), ';', delimiter);
+        for (const std::size_t blockSize : { 1U, 3U, 1000U })
+            EXPECT_EQ((std::vector<Texts>{ { "a", std::string("b") + delimiter + "\"" + delimiter + "c", "" },
+                                           { "1,5", "x,\xC3\xA4", "" } }),
+                      textsOf(text, blockSize, delimiter));
+    }
+    EXPECT_EQ("3 parts.csv:1:4: found \",\" after a closing quote, expected a semicolon or the line's end\n",
+              faultOf([] { textsOf("\"a\",b\n", 1000, ';'); }));
+}
+
 TEST(CsvReaderTest, CellsKnowTheirPlaceFromBeginToEnd)
 {
     MemorySource source("parts.csv", "h\n\"T\"\"r\xC3\xA4\r\ner\",c,\"\"\n");
@@ -291,21 +307,27 @@ TEST(CsvReaderTest, BytesThatAreNoTextAreNamedWithTheirPlace)
 {
     for (const std::size_t blockSize : { 1u, 1000u })
     {
-        EXPECT_EQ("3 parts.csv:2:4: found byte 0xE9, expected text in UTF-8\n",
+        EXPECT_EQ("3 parts.csv:2:4: found byte 0xE9, expected text in UTF-8: give --encoding if it is in another one\n",
                   faultIn("a,b\nTr\xC3\xA4\xE9,2\n", blockSize));
-        EXPECT_EQ("3 parts.csv:1:1: found byte 0xFF, expected text in UTF-8\n", faultIn("\xFF\xFE"
-                                                                                        "a",
-                                                                                        blockSize));
-        EXPECT_EQ("3 parts.csv:3:2: found a zero byte, expected text\n", faultIn(std::string("a\nb\nc\0d\n", 8)));
-        EXPECT_EQ("3 parts.csv:3:2: found byte 0xFF, expected text in UTF-8\n", faultIn("a\n\"b\nc\xFF\nd\"\n"));
+        EXPECT_EQ("3 parts.csv:1:1: found byte 0xFF, expected text in UTF-8: give --encoding if it is in another one\n",
+                  faultIn("\xFF\xFE"
+                          "a",
+                          blockSize));
+        EXPECT_EQ("3 parts.csv:3:2: found a zero byte, expected text: give --encoding if it is in another one\n",
+                  faultIn(std::string("a\nb\nc\0d\n", 8)));
+        EXPECT_EQ("3 parts.csv:3:2: found byte 0xFF, expected text in UTF-8: give --encoding if it is in another one\n",
+                  faultIn("a\n\"b\nc\xFF\nd\"\n"));
     }
 }
 
 TEST(CsvReaderTest, ALineMustBeTextBeforeAnythingElseIsSaidOfIt)
 {
-    EXPECT_EQ("3 parts.csv:1:4: found byte 0xFF, expected text in UTF-8\n", faultIn("a\"b\xFF\n"));
-    EXPECT_EQ("3 parts.csv:1:5: found byte 0xFF, expected text in UTF-8\n", faultIn("\"a\"b\xFF"));
-    EXPECT_EQ("3 parts.csv:2:2: found byte 0xFF, expected text in UTF-8\n", faultIn("\"a\nb\xFF"));
+    EXPECT_EQ("3 parts.csv:1:4: found byte 0xFF, expected text in UTF-8: give --encoding if it is in another one\n",
+              faultIn("a\"b\xFF\n"));
+    EXPECT_EQ("3 parts.csv:1:5: found byte 0xFF, expected text in UTF-8: give --encoding if it is in another one\n",
+              faultIn("\"a\"b\xFF"));
+    EXPECT_EQ("3 parts.csv:2:2: found byte 0xFF, expected text in UTF-8: give --encoding if it is in another one\n",
+              faultIn("\"a\nb\xFF"));
     EXPECT_EQ("3 parts.csv:1:2: found a quote within a field, expected the whole field in quotes and the quote "
               "doubled\n",
               faultIn("a\"b\n\xFF\n"));

@@ -13,11 +13,11 @@ namespace
 using Offsets = std::vector<std::size_t>;
 
 // Of the stops among the first `length` bytes. Behind those it would find nothing but stops.
-Offsets stopsOf(const std::string& text, std::size_t length)
+Offsets stopsOf(const std::string& text, std::size_t length, char delimiter = ',')
 {
     const std::string bytes = text.substr(0, length) + std::string(StopScan::kBlockSize, '\n');
     const char* const pEnd = bytes.data() + length;
-    StopScan scan;
+    StopScan scan(delimiter);
     scan.begin(bytes.data(), pEnd);
     Offsets stops;
     for (const char* pStop = scan.next(); pStop != pEnd; pStop = scan.next())
@@ -26,11 +26,11 @@ Offsets stopsOf(const std::string& text, std::size_t length)
     return stops;
 }
 
-Offsets stopsByteByByte(const std::string& text, std::size_t length)
+Offsets stopsByteByByte(const std::string& text, std::size_t length, char delimiter = ',')
 {
     Offsets stops;
     for (std::size_t i = 0; i < length; ++i)
-        if (const auto byte = static_cast<unsigned char>(text[i]); byte <= ',' || byte >= 0x80)
+        if (const auto byte = static_cast<unsigned char>(text[i]); byte <= ',' || byte >= 0x80 || text[i] == delimiter)
             stops.push_back(i);
     return stops;
 }
@@ -48,7 +48,9 @@ TEST(StopScanTest, EveryByteIsAStopOrNotWhereverItStands)
         {
             std::string text(20, 'x');
             text[pos] = static_cast<char>(byte);
-            ASSERT_EQ(stopsByteByByte(text, text.size()), stopsOf(text, text.size())) << byte << " at " << pos;
+            for (const char delimiter : { ',', ';', '|', '\t' })
+                ASSERT_EQ(stopsByteByByte(text, text.size(), delimiter), stopsOf(text, text.size(), delimiter))
+                    << byte << " at " << pos;
         }
 }
 
@@ -59,6 +61,7 @@ TEST(StopScanTest, StopsAreTheSameWhereverTheTextEnds)
     for (char& byte : text)
         byte = static_cast<char>(random() % (random() % 2 == 0 ? 256 : 64));
     for (std::size_t length = 0; length <= text.size(); ++length)
-        ASSERT_EQ(stopsByteByByte(text, length), stopsOf(text, length)) << length << " bytes";
+        for (const char delimiter : { ',', ';' })
+            ASSERT_EQ(stopsByteByByte(text, length, delimiter), stopsOf(text, length, delimiter)) << length << " bytes";
 }
 }

@@ -115,8 +115,8 @@ TEST(XmlElementsTest, OtherEncodingsAreRefused)
 {
     EXPECT_EQ("text in iso-8859-1, expected text in UTF-8",
               faultIn("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><list/>"));
-    EXPECT_EQ("UTF-16, expected text in UTF-8", faultIn(std::string("\xFF\xFE<\0l\0", 6)));
-    EXPECT_EQ("UTF-16, expected text in UTF-8", faultIn(std::string("\0<\0l", 4)));
+    EXPECT_EQ("a zero byte, expected text in UTF-8", faultIn(std::string("\xFF\xFE<\0l\0", 6)));
+    EXPECT_EQ("a zero byte, expected text in UTF-8", faultIn(std::string("\0<\0l", 4)));
 }
 
 TEST(XmlElementsTest, WhatIsNoXmlIsRefused)
@@ -144,6 +144,16 @@ TEST(XmlElementsTest, WhatIsNoXmlIsRefused)
     };
     for (const auto& testCase : cases)
         EXPECT_EQ(testCase.expected, faultIn(testCase.text)) << testCase.text;
+}
+
+TEST(XmlElementsTest, AZeroByteEndsNoText)
+{
+    for (const char* const pText : { "<row>4|0</row>", "<row a='4|0'/>", "<row><v>4|</v></row>", "<row|/>", "|" })
+    {
+        std::string text = std::string("<list>") + pText + "</list>";
+        text[text.find('|')] = '\0';
+        EXPECT_EQ("a zero byte, expected text in UTF-8", faultIn(text)) << pText;
+    }
 }
 
 TEST(XmlElementsTest, ElementsAThousandDeepAreRefused)
