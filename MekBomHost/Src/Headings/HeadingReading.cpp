@@ -114,16 +114,6 @@ bool read(const Parts& way, const TokenKinds& kinds, HeadingReading& reading)
 }
 }
 
-TokenKinds::TokenKinds()
-{
-    m_template.setUnitsForTokens(nullptr);
-}
-
-VorBomTemplateUnits::eTokenUnitType TokenKinds::of(const std::string& token) const
-{
-    return m_template.getBomTemplateUnits()->getUnitType(Utf8::toWide(token));
-}
-
 HeadingReading HeadingReading::of(std::string_view field, const TokenKinds& kinds)
 {
     field = VorCharacters::trimmed(field, kBlanks);

@@ -12,8 +12,7 @@
 
 #include "ColumnHeading.h"
 #include "HeadingTable.h"
-
-#include "VorBomTemplate.h"
+#include "TokenKinds.h"
 
 #include <string>
 #include <string_view>
@@ -21,17 +20,6 @@
 
 namespace mekbom
 {
-// Which kind of quantity the tokens of the catalogue are.
-class TokenKinds
-{
-public:
-    TokenKinds();
-    VorBomTemplateUnits::eTokenUnitType of(const std::string& token) const;
-
-private:
-    mutable VorBomTemplate m_template; // without a section; it gives kinds to tokens once it is told its units
-};
-
 struct HeadingReading
 {
     static HeadingReading of(std::string_view field, const TokenKinds& kinds);
