@@ -101,12 +101,12 @@ TEST(DialectTest, AssembliesAreReadInTheirDialect)
 TEST(DialectTest, ANewTemplateKnowsNumbersWithDecimalCommas)
 {
     const ScratchFolder folder;
-    const std::string parts = folder.file("parts.csv", "PNum;Price;Weight;Hardness\nB1;2,10;134,4;8.8\n");
+    const std::string parts = folder.file("parts.csv", "PNum;Price;Weight;Strength\nB1;2,10;134,4;8.8\n");
 
     const ProgramRun run = runHere({ "new-list", parts });
 
     EXPECT_EQ(0, run.status) << run.errors;
     EXPECT_NE(std::string::npos, run.output.find("\"%Price\": \"number\"")) << run.output;
-    EXPECT_NE(std::string::npos, run.output.find("\"%Hardness\": \"text\"")) << run.output;
+    EXPECT_NE(std::string::npos, run.output.find("\"%Strength\": \"text\"")) << run.output;
 }
 }
