@@ -205,7 +205,7 @@ private:
     // Makes a value without a text an empty one or a number, as `other` is.
     void takeNumber(const VorBomDataValue& other) noexcept
     {
-        std::memcpy(static_cast<void*>(&m_payload), &other.m_payload, sizeof m_payload);
+        std::memcpy(&m_payload.number, &other.m_payload.number, sizeof(double)); // as bytes: it may be an int's
         m_nType = other.m_nType;
     }
     void endText()

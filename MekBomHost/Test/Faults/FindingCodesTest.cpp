@@ -43,9 +43,10 @@ TEST(FindingCodesTest, NumbersFollowEachOtherWithoutGapsWithinTheirHundred)
         ASSERT_EQ(5U, name.size());
         const int number = std::stoi(name.substr(2));
         const bool beginsHundred = number % 100 == 1 && number / 100 == last / 100 + 1;
-        const bool comesBehindRetired = (number == 705 && last == 703) || // MB704 is gone, as what it said is no error now
-                                        (last + 1 == noteOnMergedRows && number == last + 2) ||
-                                        (number == 815 && last == 812); // MB813 and MB814 are gone, and not given again
+        const bool comesBehindRetired =
+            (number == 705 && last == 703) || // MB704 is gone, as what it said is no error now
+            (last + 1 == noteOnMergedRows && number == last + 2) ||
+            (number == 815 && last == 812); // MB813 and MB814 are gone, and not given again
         const bool beginsFormat = number == firstOfWorkbooks || number == firstOfHeadings;
         EXPECT_TRUE(number == last + 1 || beginsHundred || beginsFormat || comesBehindRetired)
             << name << " after " << last;
