@@ -20,6 +20,7 @@
 #include "VorBomTokenCatalogue.h"
 
 #include <algorithm>
+#include <iterator>
 #include <list>
 #include <unordered_map>
 
@@ -27,233 +28,230 @@ namespace mekbom::HeadingTable
 {
 const char* const kLanguages[4] = { "English", "German", "Dutch", "French" };
 
-const std::vector<HeadingEntry>& all()
-{
-    constexpr auto kIs = HeadingEntry::kIs;
-    constexpr auto kUsually = HeadingEntry::kUsually;
-    constexpr auto kMayBe = HeadingEntry::kMayBe;
-    constexpr auto kEither = HeadingEntry::kEither;
-    constexpr auto kIsOfAllPieces = HeadingEntry::kIsOfAllPieces;
-    constexpr auto kMayBeOfAllPieces = HeadingEntry::kMayBeOfAllPieces;
-    // A line for each language.
-    // clang-format off
-    static const std::vector<HeadingEntry> entries = {
-        // Marks and names.
-        { kIs, "%PNum", "", "",
-          { "Part mark, Piece mark, Part no, Part no., Part number, Part #, Part nr, Piece no, Piece number, PNum",
-            "Teilenummer, Teile-Nr., Teil-Nr., Teilnummer, Einzelteilnummer, Einzelteil-Nr., Bauteilnummer, "
-            "Bauteil-Nr.",
-            "Onderdeelnummer, Onderdeelnr., Onderdeelmerk, Deelmerk, Stuknummer, Stuknr., Partnummer",
-            "Numéro de pièce, N° de pièce, N° pièce, Repère pièce, Repère de pièce" } },
-        { kUsually, "%PNum, %MNum", "", "", { "Mark", "", "Merk", "Repère, Rep., Marque" } },
-        { kUsually, "%PNum, %Num", "", "",
-          { "Pos., Pos no, Pos nr",
-            "Pos.-Nr., Pos. Nr.",
-            "Pos., Posnr., Posnummer",
-            "Pos." } },
-        { kMayBe, "%PNum, %Num", "", "",
-          { "Position, Position no, Position number",
-            "Position, Positionsnummer",
-            "Positie, Positienummer",
-            "Position, Numéro de position" } },
-        { kMayBe, "%Num, %PNum", "", "", { "Item, Item no, Item number", "", "", "" } },
-        { kMayBe, "%Num, %PNum, %Quantity", "", "",
-          { "No, No., Number",
-            "Nr., Nummer",
-            "Nr., Nummer",
-            "N°, Numéro" } },
-        { kMayBe, "%PNum, %Role", "", "",
-          { "Part, Member",
-            "Teil, Einzelteil, Bauteil",
-            "Onderdeel, Deel",
-            "Pièce, Élément" } },
-        { kIs, "%MNum", "", "",
-          { "Assembly mark, Assembly no, Assembly number, Main mark, Ship mark, Shipping mark, "
-            "Assembly pos, MNum",
-            "Baugruppe, Baugruppennummer, Baugruppen-Nr., Hauptposition, Hauptpos., Versandposition, Versandpos.",
-            "Samenstelling, Samenstellingsmerk, Hoofdmerk, Merknummer, Merknr.",
-            "Assemblage, Repère assemblage, Repère d'assemblage, Ensemble" } },
-        { kIs, "%MName", "", "",
-          { "Assembly name",
-            "Baugruppenname, Baugruppenbezeichnung",
-            "Naam samenstelling, Merknaam",
-            "Nom assemblage, Nom de l'assemblage" } },
-        { kIs, "%Role", "", "",
-          { "Part name, Member type",
-            "Bauteilname, Benennung, Teilebezeichnung, Teilename",
-            "Onderdeelnaam",
-            "Nom de pièce, Nom de la pièce" } },
-        { kIs, "%Name", "", "",
-          { "Profile, Profile name, Section, Section name, Section size, Shape",
-            "Profil, Profilname, Profilbezeichnung, Halbzeug",
-            "Profiel, Profielnaam",
-            "Profil, Profilé, Section" } },
-        { kMayBe, "%Name, %Role", "", "",
-          { "Description, Designation",
-            "Bezeichnung, Beschreibung",
-            "Omschrijving, Benaming, Naam",
-            "Désignation, Description, Nom" } },
-        { kIs, "%Material", "", "",
-          { "Grade, Steel grade, Material grade, Steel, Material, Quality, Mat.",
-            "Werkstoff, Material, Stahlgüte, Stahlsorte, Güte, Materialgüte, Qualität",
-            "Materiaal, Kwaliteit, Staalkwaliteit, Staalsoort, Materiaalkwaliteit",
-            "Matière, Matériau, Nuance, Qualité, Acier, Nuance d'acier" } },
-        { kIs, "%Coating", "", "",
-          { "Coating, Finish, Surface treatment, Surface finish",
-            "Beschichtung, Oberflächenbehandlung, Korrosionsschutz, Oberflächenschutz",
-            "Oppervlaktebehandeling, Conservering, Afwerking",
-            "Revêtement, Traitement de surface, Finition" } },
-        { kIs, "%Phase", "", "", { "Phase", "Phase, Bauabschnitt, Bauphase", "Fase, Bouwfase", "Phase" } },
-        { kIs, "%Class", "", "", { "Class", "Klasse", "Klasse", "Classe" } },
-        { kIs, "%FreeRemark", "", "",
-          { "Remark, Remarks, Comment, Comments",
-            "Bemerkung, Bemerkungen, Anmerkung, Kommentar",
-            "Opmerking, Opmerkingen",
-            "Remarque, Remarques, Observation, Observations, Commentaire" } },
-        { kIs, "%Handle", "", "", { "Handle, GUID, Global ID", "", "", "" } },
-
-        // Bolts.
-        { kIs, "%BoltName", "", "",
-          { "Bolt, Bolt name, Bolt type",
-            "Schraube, Schraubenbezeichnung",
-            "Bout, Boutnaam",
-            "Boulon, Boulonnerie" } },
-        { kIs, "%Standard", "", "", { "Standard", "Norm", "Norm", "Norme" } },
-
-        // Numbers of pieces.
-        { kIs, "%Quantity", "", "",
-          { "Quantity, Qty, Qty., Quant., Count, Pieces, Pcs, Pcs., Number of pieces, No. of pieces, No. off, "
-            "No off, Total quantity, Total qty, Qty total",
-            "Anzahl, Anz., Stück, Stk., Stck., Stückzahl, Menge, Gesamtanzahl, Anzahl gesamt, Gesamtstückzahl",
-            "Aantal, Aant., Stuks, Hoeveelheid, Totaal aantal, Aantal totaal",
-            "Quantité, Qté, Qte., Nombre, Nbre, Nb, Nb., Nombre de pièces, Quantité totale, Qté totale" } },
-        { kIs, "%MQuantity", "", "",
-          { "Assembly quantity, Assembly qty",
-            "Anzahl Baugruppen, Baugruppenanzahl",
-            "Aantal samenstellingen, Aantal merken",
-            "Nombre d'assemblages, Quantité assemblage" } },
-
-        // Weights.
-        { kIs, "%Weight", "%WeightMeter", "",
-          { "Weight, Wt, Wt., Mass",
-            "Gewicht, Gew., Masse",
-            "Gewicht, Massa",
-            "Poids, Masse" } },
-        { kIs, "%Weight", "", "",
-          { "Weight/pc, Weight per pc, Weight per piece, Weight/piece, Weight each, Weight ea, Weight/ea, "
-            "Each weight, Piece weight, Single weight, Weight of one, Wt/pc, Wt each, Wt ea",
-            "Einzelgewicht, Einzelgew., Stückgewicht, Stückgew., Gewicht/Stück, Gewicht/Stk., Gewicht/St., "
-            "Gewicht je Stück, Gewicht pro Stück, Gewicht einzeln",
-            "Stuksgewicht, Stukgewicht, Gewicht/stuk, Gewicht per stuk, Gewicht/st., Gewicht p/st",
-            "Poids/pièce, Poids par pièce, Poids pièce, Poids d'une pièce" } },
-        { kIs, "%Weight", "", "kg",
-          { "kg, kg/pc, kg/piece, kg each, kg/ea",
-            "kg/Stk., kg/St., kg/Stück",
-            "kg/stuk",
-            "kg/pièce" } },
-        { kIs, "%Weight", "", "lb", { "lb, lbs, lb/pc, lbs/pc, lb each, lbs each", "", "", "" } },
-        { kEither, "%Weight, %WeightMeter", "", "",
-          { "Unit weight, Unit wt, Unit mass",
-            "Einheitsgewicht",
-            "Eenheidsgewicht",
-            "Poids unitaire, Masse unitaire" } },
-        { kIsOfAllPieces, "%Weight", "", "",
-          { "Total weight, Weight total, Total wt, Wt total, Total mass, Tot. weight, Weight all, Extended weight",
-            "Gesamtgewicht, Gewicht gesamt, Gewicht ges., Ges. Gewicht, Ges.-Gew., Gesamtgew., Gesamtmasse, "
-            "Summe Gewicht, Gewichtssumme, Gewicht Summe",
-            "Totaal gewicht, Totaalgewicht, Gewicht totaal, Tot. gewicht, Gewicht tot.",
-            "Poids total, Poids tot., Masse totale" } },
-        { kIsOfAllPieces, "%Weight", "", "kg",
-          { "Total kg, kg total",
-            "Gesamt kg, kg gesamt, kg ges.",
-            "Totaal kg, kg totaal",
-            "" } },
-        { kIsOfAllPieces, "%Weight", "", "lb", { "Total lb, Total lbs, lb total, lbs total", "", "", "" } },
-        { kIs, "%WeightMeter", "", "",
-          { "Weight/m, Weight per m, Weight per metre, Weight per meter, Mass per metre, Weight/ft, "
-            "Weight per foot, Linear weight",
-            "Metergewicht, Gewicht/m, Gewicht je m, Gewicht je Meter, Gewicht pro m, Gewicht pro Meter",
-            "Metergewicht, Gewicht/m, Gewicht per m, Gewicht per meter",
-            "Poids/m, Poids au mètre, Poids par mètre, Poids linéique, Masse linéique, Masse au mètre" } },
-        { kIs, "%WeightMeter", "", "kg/m", { "kg/m", "kg/lfm", "kg/m1", "kg/ml" } },
-        { kIs, "%WeightMeter", "", "lb/ft", { "lb/ft, lbs/ft, plf", "", "", "" } },
-        { kIs, "%AssemblyWeight", "", "",
-          { "Assembly weight",
-            "Baugruppengewicht",
-            "Gewicht samenstelling, Merkgewicht",
-            "Poids assemblage, Poids de l'assemblage" } },
-        { kIs, "%Density", "", "", { "Density", "Dichte", "Dichtheid", "Densité, Masse volumique" } },
-
-        // Lengths.
-        { kIs, "%Length", "", "", { "Length, Len., Lgth", "Länge, Lg.", "Lengte", "Longueur, Long." } },
-        { kMayBe, "%Length, %SawLength", "", "",
-          { "Cut length, Cutting length",
-            "Zuschnittlänge, Zuschnittslänge, Schnittlänge",
-            "Snijlengte",
-            "Longueur de coupe, Longueur débit" } },
-        { kIs, "%SawLength", "", "", { "Saw length", "Sägelänge", "Zaaglengte", "Longueur de sciage" } },
-        { kIs, "%SysLength", "", "", { "System length", "Systemlänge", "Systeemlengte", "Longueur système" } },
-        { kMayBeOfAllPieces, "%Length", "", "",
-          { "Total length, Length total, Overall length",
-            "Gesamtlänge, Länge gesamt, Länge ges.",
-            "Totale lengte, Totaallengte, Totaal lengte, Lengte totaal",
-            "Longueur totale, Longueur tot." } },
-        { kIs, "%Width", "", "", { "Width", "Breite, Blechbreite", "Breedte", "Largeur" } },
-        { kIs, "%Thick", "", "",
-          { "Thickness, Thick, Thk, Thk.",
-            "Dicke, Blechdicke, Stärke, Materialstärke",
-            "Dikte, Plaatdikte",
-            "Épaisseur, Ép." } },
-        { kIs, "%Diameter", "", "",
-          { "Diameter, Dia., Diam.",
-            "Durchmesser, Durchm.",
-            "Diameter, Diam.",
-            "Diamètre, Diam." } },
-
-        // Areas.
-        { kIs, "%Paint", "%%PaintMeter", "",
-          { "Paint, Paint area, Painting area, Surface area, Coating area",
-            "Anstrichfläche, Beschichtungsfläche",
-            "Verfoppervlak, Verfoppervlakte, Conserveringsoppervlak",
-            "Surface à peindre, Surface de peinture, Surface peinture" } },
-        { kMayBe, "%Paint, %Area", "%%PaintMeter", "", { "Surface", "Fläche", "Oppervlak, Oppervlakte", "Surface" } },
-        { kMayBe, "%Paint, %Coating", "%%PaintMeter", "", { "", "Oberfläche, Anstrich", "", "Peinture" } },
-        { kIsOfAllPieces, "%Paint", "", "",
-          { "Total paint area, Total painting area, Total surface area, Total paint",
-            "Gesamtanstrichfläche, Anstrichfläche gesamt, Gesamtoberfläche, Oberfläche gesamt",
-            "Totaal verfoppervlak, Verfoppervlak totaal, Totaal oppervlak, Oppervlak totaal",
-            "Surface à peindre totale" } },
-        { kIs, "%%PaintMeter", "", "",
-          { "Paint/m, Paint area/m, Surface area/m, Surface area per metre, Surface area per meter",
-            "Anstrichfläche/m, Oberfläche/m, Anstrichfläche je m",
-            "Verfoppervlak/m",
-            "Surface/m" } },
-        { kIs, "%%PaintMeter", "", "m2/m", { "m2/m", "m2/lfm", "m2/m1", "m2/ml" } },
-
-        // Purchase and transport.
-        { kIs, "%Supplier", "", "", { "Supplier, Vendor", "Lieferant", "Leverancier", "Fournisseur" } },
-        { kIs, "%PONumber", "", "",
-          { "PO number, PO no, PO no., PO #, Purchase order",
-            "Bestellnummer, Bestell-Nr.",
-            "Bestelnummer, Bestelnr.",
-            "N° de commande, Numéro de commande" } },
-        { kIs, "%HeatNumber", "", "",
-          { "Heat number, Heat no, Heat no., Heat",
-            "Schmelze, Schmelznummer, Schmelzen-Nr., Chargennummer, Chargen-Nr.",
-            "Chargenummer, Smeltnummer",
-            "N° de coulée, Numéro de coulée" } },
-        { kIs, "%DeliveryDate", "", "",
-          { "Delivery date",
-            "Lieferdatum, Liefertermin",
-            "Leverdatum",
-            "Date de livraison" } },
-    };
-    // clang-format on
-    return entries;
-}
-
 namespace
 {
+constexpr auto kIs = HeadingEntry::kIs;
+constexpr auto kUsually = HeadingEntry::kUsually;
+constexpr auto kMayBe = HeadingEntry::kMayBe;
+constexpr auto kEither = HeadingEntry::kEither;
+constexpr auto kIsOfAllPieces = HeadingEntry::kIsOfAllPieces;
+constexpr auto kMayBeOfAllPieces = HeadingEntry::kMayBeOfAllPieces;
+
+// A line for each language.
+// clang-format off
+const HeadingEntry kEntries[] = {
+    // Marks and names.
+    { kIs, "%PNum", "", "",
+      { "Part mark, Piece mark, Part no, Part no., Part number, Part #, Part nr, Piece no, Piece number, PNum",
+        "Teilenummer, Teile-Nr., Teil-Nr., Teilnummer, Einzelteilnummer, Einzelteil-Nr., Bauteilnummer, "
+        "Bauteil-Nr.",
+        "Onderdeelnummer, Onderdeelnr., Onderdeelmerk, Deelmerk, Stuknummer, Stuknr., Partnummer",
+        "Numéro de pièce, N° de pièce, N° pièce, Repère pièce, Repère de pièce" } },
+    { kUsually, "%PNum, %MNum", "", "", { "Mark", "", "Merk", "Repère, Rep., Marque" } },
+    { kUsually, "%PNum, %Num", "", "",
+      { "Pos., Pos no, Pos nr",
+        "Pos.-Nr., Pos. Nr.",
+        "Pos., Posnr., Posnummer",
+        "Pos." } },
+    { kMayBe, "%PNum, %Num", "", "",
+      { "Position, Position no, Position number",
+        "Position, Positionsnummer",
+        "Positie, Positienummer",
+        "Position, Numéro de position" } },
+    { kMayBe, "%Num, %PNum", "", "", { "Item, Item no, Item number", "", "", "" } },
+    { kMayBe, "%Num, %PNum, %Quantity", "", "",
+      { "No, No., Number",
+        "Nr., Nummer",
+        "Nr., Nummer",
+        "N°, Numéro" } },
+    { kMayBe, "%PNum, %Role", "", "",
+      { "Part, Member",
+        "Teil, Einzelteil, Bauteil",
+        "Onderdeel, Deel",
+        "Pièce, Élément" } },
+    { kIs, "%MNum", "", "",
+      { "Assembly mark, Assembly no, Assembly number, Main mark, Ship mark, Shipping mark, "
+        "Assembly pos, MNum",
+        "Baugruppe, Baugruppennummer, Baugruppen-Nr., Hauptposition, Hauptpos., Versandposition, Versandpos.",
+        "Samenstelling, Samenstellingsmerk, Hoofdmerk, Merknummer, Merknr.",
+        "Assemblage, Repère assemblage, Repère d'assemblage, Ensemble" } },
+    { kIs, "%MName", "", "",
+      { "Assembly name",
+        "Baugruppenname, Baugruppenbezeichnung",
+        "Naam samenstelling, Merknaam",
+        "Nom assemblage, Nom de l'assemblage" } },
+    { kIs, "%Role", "", "",
+      { "Part name, Member type",
+        "Bauteilname, Benennung, Teilebezeichnung, Teilename",
+        "Onderdeelnaam",
+        "Nom de pièce, Nom de la pièce" } },
+    { kIs, "%Name", "", "",
+      { "Profile, Profile name, Section, Section name, Section size, Shape",
+        "Profil, Profilname, Profilbezeichnung, Halbzeug",
+        "Profiel, Profielnaam",
+        "Profil, Profilé, Section" } },
+    { kMayBe, "%Name, %Role", "", "",
+      { "Description, Designation",
+        "Bezeichnung, Beschreibung",
+        "Omschrijving, Benaming, Naam",
+        "Désignation, Description, Nom" } },
+    { kIs, "%Material", "", "",
+      { "Grade, Steel grade, Material grade, Steel, Material, Quality, Mat.",
+        "Werkstoff, Material, Stahlgüte, Stahlsorte, Güte, Materialgüte, Qualität",
+        "Materiaal, Kwaliteit, Staalkwaliteit, Staalsoort, Materiaalkwaliteit",
+        "Matière, Matériau, Nuance, Qualité, Acier, Nuance d'acier" } },
+    { kIs, "%Coating", "", "",
+      { "Coating, Finish, Surface treatment, Surface finish",
+        "Beschichtung, Oberflächenbehandlung, Korrosionsschutz, Oberflächenschutz",
+        "Oppervlaktebehandeling, Conservering, Afwerking",
+        "Revêtement, Traitement de surface, Finition" } },
+    { kIs, "%Phase", "", "", { "Phase", "Phase, Bauabschnitt, Bauphase", "Fase, Bouwfase", "Phase" } },
+    { kIs, "%Class", "", "", { "Class", "Klasse", "Klasse", "Classe" } },
+    { kIs, "%FreeRemark", "", "",
+      { "Remark, Remarks, Comment, Comments",
+        "Bemerkung, Bemerkungen, Anmerkung, Kommentar",
+        "Opmerking, Opmerkingen",
+        "Remarque, Remarques, Observation, Observations, Commentaire" } },
+    { kIs, "%Handle", "", "", { "Handle, GUID, Global ID", "", "", "" } },
+
+    // Bolts.
+    { kIs, "%BoltName", "", "",
+      { "Bolt, Bolt name, Bolt type",
+        "Schraube, Schraubenbezeichnung",
+        "Bout, Boutnaam",
+        "Boulon, Boulonnerie" } },
+    { kIs, "%Standard", "", "", { "Standard", "Norm", "Norm", "Norme" } },
+
+    // Numbers of pieces.
+    { kIs, "%Quantity", "", "",
+      { "Quantity, Qty, Qty., Quant., Count, Pieces, Pcs, Pcs., Number of pieces, No. of pieces, No. off, "
+        "No off, Total quantity, Total qty, Qty total",
+        "Anzahl, Anz., Stück, Stk., Stck., Stückzahl, Menge, Gesamtanzahl, Anzahl gesamt, Gesamtstückzahl",
+        "Aantal, Aant., Stuks, Hoeveelheid, Totaal aantal, Aantal totaal",
+        "Quantité, Qté, Qte., Nombre, Nbre, Nb, Nb., Nombre de pièces, Quantité totale, Qté totale" } },
+    { kIs, "%MQuantity", "", "",
+      { "Assembly quantity, Assembly qty",
+        "Anzahl Baugruppen, Baugruppenanzahl",
+        "Aantal samenstellingen, Aantal merken",
+        "Nombre d'assemblages, Quantité assemblage" } },
+
+    // Weights.
+    { kIs, "%Weight", "%WeightMeter", "",
+      { "Weight, Wt, Wt., Mass",
+        "Gewicht, Gew., Masse",
+        "Gewicht, Massa",
+        "Poids, Masse" } },
+    { kIs, "%Weight", "", "",
+      { "Weight/pc, Weight per pc, Weight per piece, Weight/piece, Weight each, Weight ea, Weight/ea, "
+        "Each weight, Piece weight, Single weight, Weight of one, Wt/pc, Wt each, Wt ea",
+        "Einzelgewicht, Einzelgew., Stückgewicht, Stückgew., Gewicht/Stück, Gewicht/Stk., Gewicht/St., "
+        "Gewicht je Stück, Gewicht pro Stück, Gewicht einzeln",
+        "Stuksgewicht, Stukgewicht, Gewicht/stuk, Gewicht per stuk, Gewicht/st., Gewicht p/st",
+        "Poids/pièce, Poids par pièce, Poids pièce, Poids d'une pièce" } },
+    { kIs, "%Weight", "", "kg",
+      { "kg, kg/pc, kg/piece, kg each, kg/ea",
+        "kg/Stk., kg/St., kg/Stück",
+        "kg/stuk",
+        "kg/pièce" } },
+    { kIs, "%Weight", "", "lb", { "lb, lbs, lb/pc, lbs/pc, lb each, lbs each", "", "", "" } },
+    { kEither, "%Weight, %WeightMeter", "", "",
+      { "Unit weight, Unit wt, Unit mass",
+        "Einheitsgewicht",
+        "Eenheidsgewicht",
+        "Poids unitaire, Masse unitaire" } },
+    { kIsOfAllPieces, "%Weight", "", "",
+      { "Total weight, Weight total, Total wt, Wt total, Total mass, Tot. weight, Weight all, Extended weight",
+        "Gesamtgewicht, Gewicht gesamt, Gewicht ges., Ges. Gewicht, Ges.-Gew., Gesamtgew., Gesamtmasse, "
+        "Summe Gewicht, Gewichtssumme, Gewicht Summe",
+        "Totaal gewicht, Totaalgewicht, Gewicht totaal, Tot. gewicht, Gewicht tot.",
+        "Poids total, Poids tot., Masse totale" } },
+    { kIsOfAllPieces, "%Weight", "", "kg",
+      { "Total kg, kg total",
+        "Gesamt kg, kg gesamt, kg ges.",
+        "Totaal kg, kg totaal",
+        "" } },
+    { kIsOfAllPieces, "%Weight", "", "lb", { "Total lb, Total lbs, lb total, lbs total", "", "", "" } },
+    { kIs, "%WeightMeter", "", "",
+      { "Weight/m, Weight per m, Weight per metre, Weight per meter, Mass per metre, Weight/ft, "
+        "Weight per foot, Linear weight",
+        "Metergewicht, Gewicht/m, Gewicht je m, Gewicht je Meter, Gewicht pro m, Gewicht pro Meter",
+        "Metergewicht, Gewicht/m, Gewicht per m, Gewicht per meter",
+        "Poids/m, Poids au mètre, Poids par mètre, Poids linéique, Masse linéique, Masse au mètre" } },
+    { kIs, "%WeightMeter", "", "kg/m", { "kg/m", "kg/lfm", "kg/m1", "kg/ml" } },
+    { kIs, "%WeightMeter", "", "lb/ft", { "lb/ft, lbs/ft, plf", "", "", "" } },
+    { kIs, "%AssemblyWeight", "", "",
+      { "Assembly weight",
+        "Baugruppengewicht",
+        "Gewicht samenstelling, Merkgewicht",
+        "Poids assemblage, Poids de l'assemblage" } },
+    { kIs, "%Density", "", "", { "Density", "Dichte", "Dichtheid", "Densité, Masse volumique" } },
+
+    // Lengths.
+    { kIs, "%Length", "", "", { "Length, Len., Lgth", "Länge, Lg.", "Lengte", "Longueur, Long." } },
+    { kMayBe, "%Length, %SawLength", "", "",
+      { "Cut length, Cutting length",
+        "Zuschnittlänge, Zuschnittslänge, Schnittlänge",
+        "Snijlengte",
+        "Longueur de coupe, Longueur débit" } },
+    { kIs, "%SawLength", "", "", { "Saw length", "Sägelänge", "Zaaglengte", "Longueur de sciage" } },
+    { kIs, "%SysLength", "", "", { "System length", "Systemlänge", "Systeemlengte", "Longueur système" } },
+    { kMayBeOfAllPieces, "%Length", "", "",
+      { "Total length, Length total, Overall length",
+        "Gesamtlänge, Länge gesamt, Länge ges.",
+        "Totale lengte, Totaallengte, Totaal lengte, Lengte totaal",
+        "Longueur totale, Longueur tot." } },
+    { kIs, "%Width", "", "", { "Width", "Breite, Blechbreite", "Breedte", "Largeur" } },
+    { kIs, "%Thick", "", "",
+      { "Thickness, Thick, Thk, Thk.",
+        "Dicke, Blechdicke, Stärke, Materialstärke",
+        "Dikte, Plaatdikte",
+        "Épaisseur, Ép." } },
+    { kIs, "%Diameter", "", "",
+      { "Diameter, Dia., Diam.",
+        "Durchmesser, Durchm.",
+        "Diameter, Diam.",
+        "Diamètre, Diam." } },
+
+    // Areas.
+    { kIs, "%Paint", "%%PaintMeter", "",
+      { "Paint, Paint area, Painting area, Surface area, Coating area",
+        "Anstrichfläche, Beschichtungsfläche",
+        "Verfoppervlak, Verfoppervlakte, Conserveringsoppervlak",
+        "Surface à peindre, Surface de peinture, Surface peinture" } },
+    { kMayBe, "%Paint, %Area", "%%PaintMeter", "", { "Surface", "Fläche", "Oppervlak, Oppervlakte", "Surface" } },
+    { kMayBe, "%Paint, %Coating", "%%PaintMeter", "", { "", "Oberfläche, Anstrich", "", "Peinture" } },
+    { kIsOfAllPieces, "%Paint", "", "",
+      { "Total paint area, Total painting area, Total surface area, Total paint",
+        "Gesamtanstrichfläche, Anstrichfläche gesamt, Gesamtoberfläche, Oberfläche gesamt",
+        "Totaal verfoppervlak, Verfoppervlak totaal, Totaal oppervlak, Oppervlak totaal",
+        "Surface à peindre totale" } },
+    { kIs, "%%PaintMeter", "", "",
+      { "Paint/m, Paint area/m, Surface area/m, Surface area per metre, Surface area per meter",
+        "Anstrichfläche/m, Oberfläche/m, Anstrichfläche je m",
+        "Verfoppervlak/m",
+        "Surface/m" } },
+    { kIs, "%%PaintMeter", "", "m2/m", { "m2/m", "m2/lfm", "m2/m1", "m2/ml" } },
+
+    // Purchase and transport.
+    { kIs, "%Supplier", "", "", { "Supplier, Vendor", "Lieferant", "Leverancier", "Fournisseur" } },
+    { kIs, "%PONumber", "", "",
+      { "PO number, PO no, PO no., PO #, Purchase order",
+        "Bestellnummer, Bestell-Nr.",
+        "Bestelnummer, Bestelnr.",
+        "N° de commande, Numéro de commande" } },
+    { kIs, "%HeatNumber", "", "",
+      { "Heat number, Heat no, Heat no., Heat",
+        "Schmelze, Schmelznummer, Schmelzen-Nr., Chargennummer, Chargen-Nr.",
+        "Chargenummer, Smeltnummer",
+        "N° de coulée, Numéro de coulée" } },
+    { kIs, "%DeliveryDate", "", "",
+      { "Delivery date",
+        "Lieferdatum, Liefertermin",
+        "Leverdatum",
+        "Date de livraison" } },
+};
+// clang-format on
+
 const char* const kNotes =
     "Case, blanks, dots, hyphens and accents do not count; a unit may follow, as in Gewicht [kg] or Length mm. The "
     "names\n"
@@ -304,7 +302,7 @@ std::string replaced(std::string text, const std::string& word, const std::strin
 // "%PNum, or %MNum"
 std::string meaningOf(const HeadingEntry& entry)
 {
-    const std::string tokens = entry.tokens;
+    std::string tokens = entry.tokens;
     switch (entry.meaning)
     {
         case HeadingEntry::kUsually: return replaced(tokens, ", ", ", or ");
@@ -320,6 +318,12 @@ bool holds(std::string_view text, const std::string& key)
 {
     return headingKey(text).find(key) != std::string::npos;
 }
+}
+
+const std::vector<HeadingEntry>& all()
+{
+    static const std::vector<HeadingEntry> entries(std::begin(kEntries), std::end(kEntries));
+    return entries;
 }
 
 std::vector<std::string> split(std::string_view list)

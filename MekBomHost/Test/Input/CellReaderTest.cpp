@@ -95,7 +95,7 @@ TEST_F(CellReaderTest, ARefusedValueIsAMistakeInAColumnThatSomebodyWants)
 
     EXPECT_EQ(messageOn(0, "Name") + messageOn(1, "Quantity") + messageOn(2, "Weight") + messageOn(3, "Other"),
               faultOf([&] { read(records); }));
-    for (const std::size_t column : { 0, 1, 2 })
+    for (const std::size_t column : { 0u, 1u, 2u })
         m_columns[column].isWanted = false;
     EXPECT_EQ(messageOn(3, "Other"), faultOf([&] { read(records); }));
     m_columns[3].isWanted = false;
