@@ -797,7 +797,7 @@ TEST(PartsListTest, LongListsAreTheSameWithOneThreadAndWithTwo)
 TEST(PartsListTest, LongListsHaveTheSameMistakesWithOneThreadAndWithTwo)
 {
     const std::vector<std::string> lines(15'001, "B1,12.5");
-    for (const std::size_t row : { 1, 512, 513, 8192, 8193, 8704, 8705, 15'000 })
+    for (const std::size_t row : { 1u, 512u, 513u, 8192u, 8193u, 8704u, 8705u, 15'000u })
         for (const char* const pMistake : { "B1,x", "B1", "B1,12.5,", "B1,\"12.5", "B1,12\"5", "B1,\xFF" })
         {
             std::vector<std::string> wrong = lines;
