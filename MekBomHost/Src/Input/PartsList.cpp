@@ -197,7 +197,7 @@ NumberNotation PartsList::notation(const VorBomTemplateUnits& units) const
         else if (type != VorBomDataValue::kStringData)
             ofNumbers.push_back(i);
     }
-    const NumberNotation notation = m_source.notationOf(ofNumbers);
+    NumberNotation notation = m_source.notationOf(ofNumbers);
     if (!notation.isOpen())
         return notation;
     const NumberNotation shown = m_source.notationOf(ofAnything);

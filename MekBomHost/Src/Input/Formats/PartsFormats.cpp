@@ -80,6 +80,7 @@ std::unique_ptr<RecordSource> openAll(const std::vector<std::unique_ptr<ByteSour
                                       const InputChoices& choices, FindingList& notes)
 {
     std::vector<std::unique_ptr<RecordSource>> records;
+    records.reserve(sources.size());
     for (const std::unique_ptr<ByteSource>& pSource : sources)
         records.push_back(open(*pSource, choices, notes));
     if (records.size() == 1)

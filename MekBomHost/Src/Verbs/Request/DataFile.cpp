@@ -18,6 +18,7 @@ std::unique_ptr<ByteSource> open(const std::string& name)
 std::vector<std::unique_ptr<ByteSource>> openAll(const std::vector<std::string>& names)
 {
     std::vector<std::unique_ptr<ByteSource>> sources;
+    sources.reserve(names.size());
     for (const std::string& name : names)
         sources.push_back(open(name));
     return sources;

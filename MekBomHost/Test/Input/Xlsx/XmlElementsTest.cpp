@@ -93,7 +93,7 @@ TEST(XmlElementsTest, ItDoesNotMatterWhereTheBytesEnd)
     const std::string atOnce = elementsOf(text);
 
     EXPECT_EQ(2000U * 20 + 18 + 7, atOnce.size());
-    for (const std::size_t blockSize : { 1, 2, 3, 7, 4096 })
+    for (const std::size_t blockSize : { 1u, 2u, 3u, 7u, 4096u })
         EXPECT_EQ(atOnce, elementsOf(text, blockSize)) << blockSize;
 }
 
