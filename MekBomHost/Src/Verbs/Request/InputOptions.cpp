@@ -50,7 +50,7 @@ void addChoice(CLI::App& command, const std::string& name, const std::string& fo
 // The percent sign of the token may be left out, as in other options.
 HeadingMapping mappingOf(const std::string& heading, const std::string& name)
 {
-    const HeadingMapping mapping = { heading, ColumnHeading::tokenOf(name), true };
+    HeadingMapping mapping = { heading, ColumnHeading::tokenOf(name), true };
     if (DataTokens::canBeColumn(Utf8::toWide(mapping.token)))
         return mapping;
     Finding finding =
