@@ -46,9 +46,14 @@ const Record* AssemblyRecords::next()
     const Record* const pRecord = m_pParts->next();
     if (pRecord == nullptr)
         return nullptr;
+    if (pRecord->size() != m_numPartColumns) // too many cells would pass for what an assembly gives
+    {
+        Finding finding = HeaderRow::wrongNumberOfFields(pRecord->size(), m_numPartColumns);
+        m_pParts->placeRecord(finding);
+        throw Fault(kInvalidInput, finding);
+    }
     m_record = *pRecord;
-    if (pRecord->size() == m_numPartColumns) // else it is refused, whatever else stands there
-        append((*pRecord)[m_assemblyColumn]);
+    append((*pRecord)[m_assemblyColumn]);
     return &m_record;
 }
 
@@ -142,6 +147,7 @@ void AssemblyRecords::placeCell(std::size_t index, Finding& finding) const
     else
         m_pParts->placeRecord(finding);
 }
+
 NumberNotation AssemblyRecords::notationOf(const std::vector<std::size_t>& columns) const
 {
     std::vector<std::size_t> ofParts;

@@ -33,7 +33,8 @@ public:
     const std::string& name() const override { return m_pParts->name(); }
 
     // Throws a Fault of status kInvalidInput for a list without header row or without the column that one names the other
-    // by, for two assemblies of one handle, and for a part of an assembly that there is none of.
+    // by, for two assemblies of one handle, for a part of an assembly that there is none of, and for a record with more or
+    // fewer cells than its own header row.
     const Record* next() override;
 
     // What an assembly gave has the place of the part.

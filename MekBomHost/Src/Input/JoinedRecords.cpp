@@ -107,6 +107,7 @@ void JoinedRecords::placeCell(std::size_t index, Finding& finding) const
     else
         source.pRecords->placeCell(static_cast<std::size_t>(own - source.columns.begin()), finding);
 }
+
 NumberNotation JoinedRecords::notationOf(const std::vector<std::size_t>& columns) const
 {
     NumberNotation notation = notationOf(m_sources.front(), columns);

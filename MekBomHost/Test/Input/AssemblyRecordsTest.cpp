@@ -79,7 +79,10 @@ TEST(AssemblyRecordsTest, RecordsOfOtherLengthsAreRefused)
 {
     EXPECT_EQ("3 assemblies.csv:2: found 3 fields, expected 2 as in the header row\n",
               faultFor("Assembly\nA7\n", "Handle,MNum\nA7,L10,\n"));
-    EXPECT_EQ(Texts({ "Name|Assembly|MNum", "a" }), recordsOf("Name,Assembly\na\n", "Handle,MNum\n"))
-        << "of parts the reader of the cells tells it";
+    EXPECT_EQ("3 parts.csv:2: found 1 field, expected 2 as in the header row\n",
+              faultFor("Name,Assembly\na\n", "Handle,MNum\n"));
+    EXPECT_EQ("3 parts.csv:3: found 3 fields, expected 2 as in the header row\n",
+              faultFor("Name,Assembly\na,A7\nb,A7,L99\n", "Handle,MNum\nA7,L10\n"))
+        << "as many as with the assembly's";
 }
 }
