@@ -107,6 +107,13 @@ const FindingCode kCodes[] = {
     kListUnknown,
     kOutputOfOtherFormat,
     kNoSuchLine,
+    kOutputTwice,
+    kFormatContradicted,
+    kFormatUnknown,
+    kChoiceWithoutUse,
+    kFootOfList,
+    kNothingToSummarise,
+    kWidthTooSmall,
 };
 }
 

@@ -194,6 +194,21 @@ inline constexpr FindingCode kOutputOfOtherFormat = {
     "MB919", kError, "The name of the output promises a format that no list is written in."
 };
 inline constexpr FindingCode kNoSuchLine = { "MB920", kError, "A list has no line of that number." };
+inline constexpr FindingCode kOutputTwice = { "MB921", kError, "Two outputs of one run would go to the same place." };
+inline constexpr FindingCode kFormatContradicted = {
+    "MB922", kError, "A format is asked for, and the names of all outputs ask for others."
+};
+inline constexpr FindingCode kFormatUnknown = { "MB923", kError, "A word names no format that lists are written in." };
+inline constexpr FindingCode kChoiceWithoutUse = {
+    "MB924", kError, "An option is about formats that no output of the run is written in."
+};
+inline constexpr FindingCode kFootOfList = {
+    "MB925", kNote, "What a list is made of is told beside it, as its format has no place for that."
+};
+inline constexpr FindingCode kNothingToSummarise = {
+    "MB926", kError, "A list has neither groups nor totals that a summary could show."
+};
+inline constexpr FindingCode kWidthTooSmall = { "MB927", kError, "A list is wider than the width that it is given." };
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();

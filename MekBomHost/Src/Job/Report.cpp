@@ -13,11 +13,13 @@
 #include "ColumnCheck.h"
 #include "EqualLines.h"
 #include "Fault.h"
+#include "FindingCodes.h"
 #include "FormulaResults.h"
 #include "OverflowCheck.h"
 #include "RowTally.h"
 #include "RowTree.h"
 #include "TokenNames.h"
+#include "SummaryTemplate.h"
 #include "TokenQuantities.h"
 #include "TotalsCheck.h"
 
@@ -67,6 +69,18 @@ std::vector<Finding> Report::columnErrors() const
     for (Finding& finding : findings)
         finding.source = m_template.fileName;
     return findings;
+}
+
+// What is kept of the evaluation depends on what is printed.
+void Report::summarize()
+{
+    if (!SummaryTemplate::reduce(m_template))
+    {
+        Finding finding = Finding::stating(FindingCodes::kNothingToSummarise, "the list has no groups and no totals");
+        finding.source = "--summary";
+        throw Fault(kWrongUsage, finding);
+    }
+    m_sections = PackedSections(m_template, m_sections.contents());
 }
 
 // Filters come before the evaluation: no total may count a row that they leave out. What rows hold decides how numbers

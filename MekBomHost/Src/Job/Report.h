@@ -74,6 +74,12 @@ public:
     // cannot be compared with. To be called once; evaluate() does it where nobody has.
     void filter();
 
+    // Has the report print groups and totals without the lines below them, and without the columns that these alone
+    // fill. Totals stay what they are, and so does what becomes of equal lines. To be called before evaluate(), which
+    // is behind everything that looks for mistakes in the template. Throws a Fault of status kWrongUsage when nothing
+    // would be left.
+    void summarize();
+
     // Has evaluate() add up every total a second time, from the rows, and see where each row has gone. To be called
     // before it.
     void checkTotals() { m_checksTotals = true; }

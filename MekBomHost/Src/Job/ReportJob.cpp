@@ -182,6 +182,8 @@ ExitStatus ReportJob::makeReport()
         return statusOfErrors();
     if (m_request.checksTotals)
         m_pReport->checkTotals();
+    if (m_request.isSummary)
+        m_pReport->summarize();
     evaluate();
     m_pReport->facts().numWarnings = m_findings.numWarnings();
     return m_findings.numErrors() > 0 ? kMistakes : kDone;

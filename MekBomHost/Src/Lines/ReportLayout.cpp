@@ -59,8 +59,14 @@ void describeContent(ReportColumn& column, const TokenQuantities& quantities, co
                      const VorUnitsManager& units)
 {
     column.isNumeric = !column.shownTokens.empty() && quantities.isNumeric(column.shownTokens.front());
+    column.hasNumbers = std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
+                                    [&quantities](const VorString& token) { return quantities.isNumeric(token); });
     const Measure measure = quantities.commonMeasureOf(column.shownTokens);
     column.pUnitKind = measure.pKind;
+    column.numbers = ColumnNumbers(pStyle, units, measure.pKind);
+    column.hasMixedUnits = !measure.isNamed() && std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
+                                                             [&quantities](const VorString& token)
+                                                             { return quantities.measureOf(token).isNamed(); });
     column.unitSymbol =
         measure.pKind == nullptr ? measure.label : ColumnUnit::symbolOf(ColumnUnit::of(pStyle, *measure.pKind, units));
 }
@@ -127,6 +133,7 @@ SectionLayout ReportLayout::layOut(const ReportTemplate& reportTemplate, const V
         taken.insert(column);
         m_columns[static_cast<std::size_t>(column)].shownTokens.push_back(token);
         section.columns.push_back(column);
+        section.tokens.push_back(token);
     }
     return section;
 }

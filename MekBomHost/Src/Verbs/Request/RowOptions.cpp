@@ -25,8 +25,8 @@ void RowOptions::declareOn(CLI::App& command, const std::string& whereHelp)
 void RowOptions::fillIn(ReportRequest& request) const
 {
     request.input = m_input.choices();
-    if (const std::string assemblies = m_assemblies.name(); !assemblies.empty())
-        request.pAssemblies = DataFile::open(assemblies);
+    if (!assemblies().empty())
+        request.pAssemblies = DataFile::open(assemblies());
     request.inputUnits = m_inputUnits.pairs();
     request.pieces = m_pieces;
     request.where = m_where;

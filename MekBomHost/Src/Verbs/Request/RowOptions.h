@@ -29,6 +29,9 @@ public:
     // units, conditions and columns are worth is for the job to say.
     void fillIn(ReportRequest& request) const;
 
+    // The list of assemblies as it was named; empty where there is none.
+    std::string assemblies() const { return m_assemblies.name(); }
+
 private:
     InputOptions m_input;
     FileOption m_assemblies{ "--assemblies", "FILE" };
