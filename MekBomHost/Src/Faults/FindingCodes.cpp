@@ -114,6 +114,7 @@ const FindingCode kCodes[] = {
     kFootOfList,
     kNothingToSummarise,
     kWidthTooSmall,
+    kListsUnlike,
 };
 }
 

@@ -209,6 +209,8 @@ inline constexpr FindingCode kNothingToSummarise = {
     "MB926", kError, "A list has neither groups nor totals that a summary could show."
 };
 inline constexpr FindingCode kWidthTooSmall = { "MB927", kError, "A list is wider than the width that it is given." };
+inline constexpr FindingCode kListsUnlike = { "MB928", kError,
+                                              "Two lists show a column in two units and cannot be compared." };
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();
