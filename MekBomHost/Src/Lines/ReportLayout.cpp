@@ -66,8 +66,14 @@ void describeContent(ReportColumn& column, const TokenQuantities& quantities, co
                      const VorUnitsManager& units)
 {
     column.isNumeric = !column.shownTokens.empty() && quantities.isNumeric(column.shownTokens.front());
+    column.hasNumbers = std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
+                                    [&quantities](const VorString& token) { return quantities.isNumeric(token); });
     const Measure measure = quantities.commonMeasureOf(column.shownTokens);
     column.pUnitKind = measure.pKind;
+    column.numbers = ColumnNumbers(pStyle, units, measure.pKind);
+    column.hasMixedUnits = !measure.isNamed() && std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
+                                                             [&quantities](const VorString& token)
+                                                             { return quantities.measureOf(token).isNamed(); });
     column.unitSymbol =
         measure.pKind == nullptr ? measure.label : ColumnUnit::symbolOf(ColumnUnit::of(pStyle, *measure.pKind, units));
 }
