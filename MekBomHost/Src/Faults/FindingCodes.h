@@ -125,6 +125,25 @@ inline constexpr FindingCode kHeadingMissing = { "MB763", kError, "A heading is 
 inline constexpr FindingCode kMappedToNoToken = { "MB764", kError, "A heading is mapped to what is no token." };
 inline constexpr FindingCode kHeadingsRead = { "MB765", kNote, "Headings were read as tokens that they do not name." };
 
+// Rows that are parts of other rows: MB770 and up.
+inline constexpr FindingCode kRowsWithinRows = {
+    "MB770", kError, "Rows are parts of other rows, and nobody says that their pieces are to be multiplied."
+};
+inline constexpr FindingCode kParentUnknown = { "MB771", kError, "A row names a parent that there is none of." };
+inline constexpr FindingCode kParentTwice = { "MB772", kError, "A row names a parent that several rows are." };
+inline constexpr FindingCode kParentsInCircle = { "MB773", kError, "A row is a part of itself." };
+inline constexpr FindingCode kTooFewPieces = { "MB774", kError,
+                                               "There are less than no pieces of a row that has parts." };
+inline constexpr FindingCode kTooManyPieces = { "MB775", kError,
+                                                "The pieces of a row are more than a whole number holds." };
+inline constexpr FindingCode kParentWeighsElse = { "MB776", kWarning, "A row does not weigh what its parts weigh." };
+inline constexpr FindingCode kFactorsOfSeveralRows = {
+    "MB777", kError, "A line stands for several rows and shows how often one of them was multiplied."
+};
+inline constexpr FindingCode kParentColumnMissing = {
+    "MB778", kError, "A list lacks the column that tells which row is a part of which."
+};
+
 // Template files.
 inline constexpr FindingCode kNoJson = { "MB801", kError, "A template file is no JSON with comments." };
 inline constexpr FindingCode kKeyTwice = { "MB802", kError, "An object has the same key twice." };

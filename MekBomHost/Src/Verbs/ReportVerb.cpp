@@ -52,7 +52,8 @@ const char* const ReportVerb::kNotes = R"(Data
   may carry a unit of its own: 7'-6 1/2", 7.5 ft. Empty cells are no data. Handle is the
   identity of the object, Quantity how many of them a row stands for (1 where it does not
   say). Other values are those of one piece, or of all in the columns that --row-totals
-  names.
+  names. Rows that name others as their Parent are parts of these: --flatten multiplies
+  their pieces, --sets 10 those of all rows.
 
 Template
   The shipped lists go by name: cutting-list, assembly-list, bolt-list, parts-list.
@@ -84,6 +85,7 @@ Examples
   mekbom report --data hall --unit length=ft-in/32 --setting C40_SuppressZeroFeet=0
   mekbom report --data frame.csv --input-unit %Paint=m2
   mekbom report --data export.csv --map "Cost code=%UserAttr1"
+  mekbom report --data nested.csv --flatten --sets 2
   sed 1d export.csv | mekbom report --data -
   mekbom report --data sample --template default
   mekbom units convert 2286 mm ft-in/16

@@ -21,8 +21,8 @@ namespace mekbom
 class RowOptions
 {
 public:
-    // Adds those of InputOptions, --assemblies, --input-unit, --where and --row-totals to `command`; `whereHelp` is
-    // what help says of --where. Parsing fills this object, which outlives it.
+    // Adds those of InputOptions, --assemblies, --flatten, --sets, --input-unit, --where and --row-totals to `command`;
+    // `whereHelp` is what help says of --where. Parsing fills this object, which outlives it.
     void declareOn(CLI::App& command, const std::string& whereHelp);
 
     // Sets what was given in `request`. Throws a Fault of status kWrongUsage for an --input-unit that is no pair; what
@@ -37,6 +37,7 @@ private:
     FileOption m_assemblies{ "--assemblies", "FILE" };
     PairOption m_inputUnits{ "--input-unit", "TOKEN=UNIT", "%Paint=m2" };
     std::string m_where;
+    PieceChoices m_pieces;
     ListOption m_rowTotals{ "--row-totals", "TOKEN,..." };
 };
 }
