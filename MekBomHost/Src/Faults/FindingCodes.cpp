@@ -46,6 +46,7 @@ const FindingCode kCodes[] = {
     kGroupedDigits,
     kNumberUnclear,
     kOtherDecimalSign,
+    kRecordTooLarge,
     kWorkbookDamaged,
     kWorkbookTooLarge,
     kWorkbookOfOtherKind,

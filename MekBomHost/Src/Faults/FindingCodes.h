@@ -94,6 +94,8 @@ inline constexpr FindingCode kNumberUnclear = {
 inline constexpr FindingCode kOtherDecimalSign = {
     "MB737", kError, "A number has a decimal comma where others have a point, or a point where they have a comma."
 };
+inline constexpr FindingCode kRecordTooLarge = { "MB738", kError,
+                                                 "A record of a parts list is larger than any that is sound." };
 
 // Workbooks, which are parts lists, too.
 inline constexpr FindingCode kWorkbookDamaged = { "MB740", kError,
