@@ -124,6 +124,11 @@ TEST(ListFolderTest, WorkbooksOfSeveralProgramsAreRead)
     expectList("workbooks-of-several-programs");
 }
 
+TEST(ListFolderTest, OneListIsWrittenInAllFormats)
+{
+    expectList("formats-of-one-list");
+}
+
 TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 {
     expectList("frame-metric");
@@ -132,5 +137,10 @@ TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 TEST_F(RealListFolderTest, TheFramePrintsInImperialUnits)
 {
     expectList("frame-imperial");
+}
+
+TEST_F(RealListFolderTest, TheFrameIsWrittenInAllFormats)
+{
+    expectList("frame-formats");
 }
 }
