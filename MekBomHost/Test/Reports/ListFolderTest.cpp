@@ -129,6 +129,11 @@ TEST(ListFolderTest, ExportsOfSeveralProgramsAreRead)
     expectList("exports-of-several-programs");
 }
 
+TEST(ListFolderTest, OneListIsWrittenInAllFormats)
+{
+    expectList("formats-of-one-list");
+}
+
 TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 {
     expectList("frame-metric");
@@ -137,5 +142,10 @@ TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 TEST_F(RealListFolderTest, TheFramePrintsInImperialUnits)
 {
     expectList("frame-imperial");
+}
+
+TEST_F(RealListFolderTest, TheFrameIsWrittenInAllFormats)
+{
+    expectList("frame-formats");
 }
 }

@@ -37,7 +37,8 @@ std::unique_ptr<ReportWriter> create([[maybe_unused]] const OutputChoices& choic
         return std::make_unique<Writer>();
 }
 
-const unsigned kChoicesOfRecords = OutputChoices::kValues | OutputChoices::kFoot | OutputChoices::kDecimalSign;
+const unsigned kChoicesOfRecords =
+    OutputChoices::kValues | OutputChoices::kFoot | OutputChoices::kDecimalSign | OutputChoices::kEncoding;
 
 // A new format is a line here.
 const Format kFormats[] = {
