@@ -13,7 +13,7 @@ for argument in "$@"; do
         --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy valgrind libbenchmark-dev" ;;
         --bench)
             packages="$packages libbenchmark-dev sqlite3 libsqlite3-dev python3-pandas libfparser-dev libmuparser-dev"
-            packages="$packages liblua5.4-dev miller time"
+            packages="$packages liblua5.4-dev miller time valgrind"
             ;;
         *) echo "setup.sh: unknown argument '$argument'; expected --checks or --bench" >&2; exit 2 ;;
     esac
