@@ -60,8 +60,10 @@ std::string rowsText(int number)
 
 // That rows count as pieces matters only to somebody who reads totals, so it is not told of a list without any.
 ListFoot::ListFoot(const ListFacts& facts, const ReportTemplate& reportTemplate, const ReportLayout& layout)
-    : isKnown(true),
+    : isKnown(facts.statements.empty()),
       numRead(facts.numRowsRead),
+      numParents(facts.numParents),
+      numSets(facts.numSets),
       filtered(facts.filtered),
       numMerged(facts.rows.numMerged),
       numLosing(facts.rows.numLosing),
@@ -70,7 +72,8 @@ ListFoot::ListFoot(const ListFacts& facts, const ReportTemplate& reportTemplate,
       numEmptyRows(facts.numEmptyRows),
       countsRowsAsPieces(facts.countsRowsAsPieces && !facts.rows.totals.empty()),
       areUnitsAssumed(facts.areUnitsAssumed),
-      numWarnings(facts.numWarnings)
+      numWarnings(facts.numWarnings),
+      statements(facts.statements)
 {
     for (const TotalCount& total : facts.rows.totals)
     {
@@ -86,10 +89,12 @@ ListFoot::ListFoot(const ListFacts& facts, const ReportTemplate& reportTemplate,
 // a number to what might.
 std::vector<std::string> ListFoot::lines() const
 {
-    std::vector<std::string> all;
+    std::vector<std::string> all = statements;
     if (!isKnown)
         return all;
     all.push_back(rowsLine());
+    if (numSets > 1)
+        all.push_back("Pieces are those of " + std::to_string(numSets) + " sets");
     if (!losses.empty())
         all.push_back("Merged rows are in no total: " + lossText());
     for (const Total& total : totals)
@@ -118,6 +123,8 @@ std::string ListFoot::lossText() const
 std::string ListFoot::rowsLine() const
 {
     std::string line = rowsText(numRead) + " read";
+    if (numParents > 0)
+        line += ", " + std::to_string(numParents) + " replaced by their parts";
     for (const FilteredRows& filter : filtered)
         if (filter.numRows > 0)
             line += ", " + std::to_string(filter.numRows) + " filtered out by " + inQuotes(filter.condition);

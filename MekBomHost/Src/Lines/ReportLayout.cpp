@@ -15,6 +15,7 @@
 
 #include "VorBomDataToken.h"
 #include "VorBomDataTuple.h"
+#include "VorBomTemplateItem.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -30,6 +31,12 @@ std::string labelOf(const VorString& token)
     if (VorBomDataToken::removeFormulaPrefix(label) == 0 && label.find(VorBomDataToken::kTokenPrefix, 0) == 0)
         label = label.right(label.length() - 1);
     return Utf8::toBytes(label);
+}
+
+bool isOfPage(const VorBomItemBase& section)
+{
+    const auto type = static_cast<const VorBomTemplateItem&>(section).type(); // children of sections are sections
+    return type == VorBomTemplateItem::kPageHeader || type == VorBomTemplateItem::kPageFooter;
 }
 
 // A header "HEA200" and its total "4" read as one line; two numbers in one column, or two labels, would not fit.
@@ -59,8 +66,14 @@ void describeContent(ReportColumn& column, const TokenQuantities& quantities, co
                      const VorUnitsManager& units)
 {
     column.isNumeric = !column.shownTokens.empty() && quantities.isNumeric(column.shownTokens.front());
+    column.hasNumbers = std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
+                                    [&quantities](const VorString& token) { return quantities.isNumeric(token); });
     const Measure measure = quantities.commonMeasureOf(column.shownTokens);
     column.pUnitKind = measure.pKind;
+    column.numbers = ColumnNumbers(pStyle, units, measure.pKind);
+    column.hasMixedUnits = !measure.isNamed() && std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
+                                                             [&quantities](const VorString& token)
+                                                             { return quantities.measureOf(token).isNamed(); });
     column.unitSymbol =
         measure.pKind == nullptr ? measure.label : ColumnUnit::symbolOf(ColumnUnit::of(pStyle, *measure.pKind, units));
 }
@@ -119,6 +132,7 @@ SectionLayout ReportLayout::layOut(const ReportTemplate& reportTemplate, const V
     if (pSection == nullptr || !reportTemplate.styleOf(pSection).isPrinted)
         return section;
     section.label = reportTemplate.styleOf(pSection).label;
+    section.isOfPage = isOfPage(*pSection);
     std::set<int> taken;
     for (const int tupleIndex : reportTemplate.shownTuplesOf(*pSection))
     {
@@ -127,6 +141,7 @@ SectionLayout ReportLayout::layOut(const ReportTemplate& reportTemplate, const V
         taken.insert(column);
         m_columns[static_cast<std::size_t>(column)].shownTokens.push_back(token);
         section.columns.push_back(column);
+        section.tokens.push_back(token);
     }
     return section;
 }
