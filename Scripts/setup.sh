@@ -15,7 +15,7 @@ for argument in "$@"; do
         --browser) packages="$packages chromium poppler-utils" ;;
         --bench)
             packages="$packages libbenchmark-dev sqlite3 libsqlite3-dev python3-pandas libfparser-dev libmuparser-dev"
-            packages="$packages liblua5.4-dev miller time"
+            packages="$packages liblua5.4-dev miller time valgrind"
             ;;
         *) echo "setup.sh: unknown argument '$argument'; expected --checks, --browser or --bench" >&2; exit 2 ;;
     esac
