@@ -138,6 +138,17 @@ def job_table(job, lengths):
     return table([f"file of {job['rows']} rows to report, {lengths}", "seconds", "peak MiB", "to mekbom"], rows)
 
 
+def outputs_of(outputs):
+    return {line["name"]: line for line in outputs["formats"]}
+
+
+def outputs_table(outputs):
+    found = outputs_of(outputs)
+    rows = [[name, number(line["seconds"]), number(line["peak_mib"]), number(line["file_mib"]),
+             number(line["seconds"] / found["text"]["seconds"])] for name, line in found.items()]
+    return table([f"file of {outputs['rows']} rows to list", "seconds", "peak MiB", "MiB written", "to text"], rows)
+
+
 def curves_of(results):
     """Benchmark to {size: ns per iteration}; the last argument is the size."""
     curves = {}
@@ -226,6 +237,17 @@ def job_bounds(job, lengths):
     return bounds_found
 
 
+def outputs_bounds(outputs):
+    found = outputs_of(outputs)
+    pandas = found.pop("pandas, xlsx", None)
+    workbook = found.pop("xlsx")
+    text = found.pop("text")
+    bounds_found = [at_most(f"{name} to text", line["seconds"] / text["seconds"], 3) for name, line in found.items()]
+    if pandas:
+        bounds_found.append(at_least("workbook: pandas' writer to mekbom", pandas["seconds"] / workbook["seconds"], 5))
+    return bounds_found
+
+
 def bounds(results):
     found = []
     if "evaluate" in results:
@@ -244,6 +266,8 @@ def bounds(results):
     if "job" in results:
         for lengths in TEXTS:
             found += job_bounds(results["job"], lengths)
+    if "outputs" in results:
+        found += outputs_bounds(results["outputs"])
     if "curves" in results:
         growths = {family: worst_growth(curve) for family, curve in curves_of(results).items()}
         worst = max(growths, key=growths.get)
@@ -272,6 +296,8 @@ def all_tables(results):
         parts.append(formulas_table(results))
     if "job" in results:
         parts += [job_table(results["job"], lengths) for lengths in TEXTS]
+    if "outputs" in results:
+        parts.append(outputs_table(results["outputs"]))
     if "curves" in results:
         parts.append(curves_table(results))
     return "\n\n".join([*parts, bounds_table(results)])

@@ -7,8 +7,10 @@
 #include "LabelUnit.h"
 #include "UnitKinds.h"
 
+#include "MekRoots/Exp/MEKUnit.h"
 #include "MekRoots/Exp/VorString.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,6 +33,7 @@ struct ReportColumn
 
     std::string label;                   // UTF-8: the template's, else the token's name or formula
     const UnitKind* pUnitKind = nullptr; // of its numbers; null where they have no unit or not all the same
+    std::optional<MEKUnit> unit;         // that they are shown in, with its precision; none without a kind
     std::string unitSymbol;              // UTF-8: the unit that they are shown in, or what the template calls that of
                                          // numbers without a kind; empty where the heading can name none
     bool isNumeric = false;              // it shows numbers: half of one would be another number

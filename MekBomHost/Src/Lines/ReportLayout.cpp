@@ -61,8 +61,9 @@ void describeContent(ReportColumn& column, const TokenQuantities& quantities, co
     column.isNumeric = !column.shownTokens.empty() && quantities.isNumeric(column.shownTokens.front());
     const Measure measure = quantities.commonMeasureOf(column.shownTokens);
     column.pUnitKind = measure.pKind;
-    column.unitSymbol =
-        measure.pKind == nullptr ? measure.label : ColumnUnit::symbolOf(ColumnUnit::of(pStyle, *measure.pKind, units));
+    if (measure.pKind != nullptr)
+        column.unit = ColumnUnit::of(pStyle, *measure.pKind, units);
+    column.unitSymbol = column.unit ? ColumnUnit::symbolOf(*column.unit) : measure.label;
 }
 
 void describeLook(ReportColumn& column, const ColumnStyle* pStyle)
