@@ -3,7 +3,8 @@
 
     python3 Examples/check_totals.py build/MekBomHost/mekbom [FOLDER]
 
-Lists are printed of the shipped hall, of a few rows with pieces and without, and, if FOLDER holds them, of a fabricator's
+Lists are printed of the shipped hall, of a few rows with pieces and without, of parts within
+parts, and, if FOLDER holds them, of a fabricator's
 frame, its assemblies and a table of profiles. A total of weights is the sum of weight times pieces over the rows of the
 list, read from the file by Python's own csv: 4 pieces of 134.4 kg are 537.6 kg. Prints every difference and ends with
 status 1 if there is one.
@@ -210,7 +211,7 @@ def check(program, case):
         if set(printed.mistakes) != mistakes:
             print(f"{name}: tells {printed.mistakes}, expected {sorted(mistakes)}", file=sys.stderr)
             wrong += 1
-        counts = [f"{len(everything)} rows read", f"{len(rows)} listed"]
+        counts = [f"{len(read_rows(case.data))} rows read", f"{len(rows)} listed"]
         if not all(count in printed.foot[0] for count in counts):
             print(f"{name}: printed {printed.foot[0]!r}, expected {counts}", file=sys.stderr)
             wrong += 1
@@ -241,6 +242,50 @@ def as_row_totals(text):
     return "\n".join([",".join(rows[0]), *(",".join(row.values()) for row in rows), ""])
 
 
+# Assemblies within assemblies, five deep, in no order; b1 stands in two of them, and b3 in none.
+NESTED_ROWS = """Handle,Parent,PNum,Name,Material,Quantity,Length [mm],Weight [kg]
+7,3,b1,IPE300,S355,2,3185,134.4
+1,,T1,,,3,,
+3,2,A1,,,4,,288.82
+8,3,p1,PL10*120,S235,9,240,2.26
+4,3,S1,,,5,,0.0
+2,1,M1,,,1,,
+9,2,b1,IPE300,S355,6,3185,134.4
+5,4,S2,,,7,,
+10,5,p2,PL8*100,S235,11,150,
+11,,b3,IPE300,S355,2,6000,253.2
+"""
+
+
+def flattened(text, sets):
+    """The rows without parts, each with its pieces: added up from the top down, one call for each piece of the tree."""
+    rows = list(csv.DictReader(text.splitlines()))
+    pieces_of = defaultdict(int)
+
+    def add(row, times):
+        parts = [part for part in rows if part["Parent"] == row["Handle"]]
+        for part in parts:
+            add(part, times * int(part["Quantity"]))
+        if not parts:
+            pieces_of[row["Handle"]] += times
+
+    for row in rows:
+        if not row["Parent"]:
+            add(row, sets * int(row["Quantity"]))
+    leaves = [{**row, "Quantity": str(pieces_of[row["Handle"]])} for row in rows if row["Handle"] in pieces_of]
+    return "\n".join([",".join(rows[0]), *(",".join(row.values()) for row in leaves), ""])
+
+
+def nested_lists(folder):
+    """Lists whose pieces are multiplied along parents, for one set and for twelve."""
+    nested = folder / "nested.csv"
+    nested.write_text(NESTED_ROWS, encoding="utf-8")
+    for sets in (1, 12):
+        flat = folder / f"flat-{sets}.csv"
+        flat.write_text(flattened(NESTED_ROWS, sets), encoding="utf-8")
+        yield from shipped_lists(nested, "--flatten", "--sets", str(sets), facts=flat, mistakes=NO_WEIGHT)[:2]
+
+
 def cases(program, folder, real_data):
     """All lists whose totals are checked."""
     by_piece = folder / "pieces.csv"
@@ -256,6 +301,7 @@ def cases(program, folder, real_data):
         list_as_is(program, folder, by_piece, mistakes=NO_WEIGHT),
         *shipped_lists(by_row, *row_totals, facts=by_piece, mistakes=NO_WEIGHT)[:2],
         list_as_is(program, folder, by_row, *row_totals, facts=by_piece, mistakes=NO_WEIGHT),
+        *nested_lists(folder),
     ]
     if real_data is not None:
         frame, assemblies, profiles = (real_data / name for name in REAL_FILES)

@@ -125,6 +125,25 @@ inline constexpr FindingCode kHeadingMissing = { "MB763", kError, "A heading is 
 inline constexpr FindingCode kMappedToNoToken = { "MB764", kError, "A heading is mapped to what is no token." };
 inline constexpr FindingCode kHeadingsRead = { "MB765", kNote, "Headings were read as tokens that they do not name." };
 
+// Rows that are parts of other rows: MB770 and up.
+inline constexpr FindingCode kRowsWithinRows = {
+    "MB770", kError, "Rows are parts of other rows, and nobody says that their pieces are to be multiplied."
+};
+inline constexpr FindingCode kParentUnknown = { "MB771", kError, "A row names a parent that there is none of." };
+inline constexpr FindingCode kParentTwice = { "MB772", kError, "A row names a parent that several rows are." };
+inline constexpr FindingCode kParentsInCircle = { "MB773", kError, "A row is a part of itself." };
+inline constexpr FindingCode kTooFewPieces = { "MB774", kError,
+                                               "There are less than no pieces of a row that has parts." };
+inline constexpr FindingCode kTooManyPieces = { "MB775", kError,
+                                                "The pieces of a row are more than a whole number holds." };
+inline constexpr FindingCode kParentWeighsElse = { "MB776", kWarning, "A row does not weigh what its parts weigh." };
+inline constexpr FindingCode kFactorsOfSeveralRows = {
+    "MB777", kError, "A line stands for several rows and shows how often one of them was multiplied."
+};
+inline constexpr FindingCode kParentColumnMissing = {
+    "MB778", kError, "A list lacks the column that tells which row is a part of which."
+};
+
 // Template files.
 inline constexpr FindingCode kNoJson = { "MB801", kError, "A template file is no JSON with comments." };
 inline constexpr FindingCode kKeyTwice = { "MB802", kError, "An object has the same key twice." };
@@ -175,6 +194,21 @@ inline constexpr FindingCode kOutputOfOtherFormat = {
     "MB919", kError, "The name of the output promises a format that no list is written in."
 };
 inline constexpr FindingCode kNoSuchLine = { "MB920", kError, "A list has no line of that number." };
+inline constexpr FindingCode kOutputTwice = { "MB921", kError, "Two outputs of one run would go to the same place." };
+inline constexpr FindingCode kFormatContradicted = {
+    "MB922", kError, "A format is asked for, and the names of all outputs ask for others."
+};
+inline constexpr FindingCode kFormatUnknown = { "MB923", kError, "A word names no format that lists are written in." };
+inline constexpr FindingCode kChoiceWithoutUse = {
+    "MB924", kError, "An option is about formats that no output of the run is written in."
+};
+inline constexpr FindingCode kFootOfList = {
+    "MB925", kNote, "What a list is made of is told beside it, as its format has no place for that."
+};
+inline constexpr FindingCode kNothingToSummarise = {
+    "MB926", kError, "A list has neither groups nor totals that a summary could show."
+};
+inline constexpr FindingCode kWidthTooSmall = { "MB927", kError, "A list is wider than the width that it is given." };
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();

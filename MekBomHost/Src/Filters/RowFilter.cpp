@@ -11,6 +11,7 @@
 #include "InQuotes.h"
 #include "InputUnits.h"
 #include "NumberReader.h"
+#include "RowRemoval.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 
@@ -95,12 +96,6 @@ std::optional<Finding> refuseNumberAmongTexts(const RowCondition& condition)
                      inQuotes(Utf8::toBytes(condition.token)) + ": \"number\" } to be told of them";
     return finding;
 }
-
-void destroy(VorBomItemBase* pRow)
-{
-    pRow->empty();
-    delete pRow;
-}
 }
 
 // `filter` is set at the end, so that a text with a mistake leaves it as it was.
@@ -164,24 +159,8 @@ int RowFilter::apply(VorBomData& data) const
 {
     if (m_conditions.empty())
         return 0;
-    int numRemoved = 0;
     std::vector<bool> answers;
-    VorBomItemBase* pRow = data.child();
-    data.setChild(nullptr);
-    while (pRow != nullptr)
-    {
-        VorBomItemBase* const pNext = pRow->next();
-        pRow->setNext(nullptr);
-        if (accepts(*static_cast<VorBomDataRow*>(pRow), answers))
-            data.addChild(pRow);
-        else
-        {
-            destroy(pRow);
-            ++numRemoved;
-        }
-        pRow = pNext;
-    }
-    return numRemoved;
+    return RowRemoval::keepOnly(data, [&](const VorBomDataRow& row) { return accepts(row, answers); });
 }
 
 // `answers` is a stack, which is the same one for all rows so that none of them takes memory.

@@ -113,6 +113,11 @@ const HeadingEntry kEntries[] = {
         "Opmerking, Opmerkingen",
         "Remarque, Remarques, Observation, Observations, Commentaire" } },
     { kIs, "%Handle", "", "", { "Handle, GUID, Global ID", "", "", "" } },
+    { kIs, "%Parent", "", "",
+      { "Parent, Parent handle, Parent ID, Parent GUID, Part of",
+        "Teil von, Übergeordnet, Übergeordnetes Teil",
+        "Deel van, Bovenliggend",
+        "Parent, Fait partie de, Élément parent" } },
 
     // Bolts.
     { kIs, "%BoltName", "", "",

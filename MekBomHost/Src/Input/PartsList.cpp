@@ -381,7 +381,7 @@ void PartsList::resolveColumn(InputColumn& column, const VorBomTemplateUnits& un
 // of quantity.
 VorBomDataValue::eBomDataValueType PartsList::typeOf(const InputColumn& column, const VorBomTemplateUnits& units) const
 {
-    if (column.isHandle)
+    if (column.isHandle || column.token == TokenNames::kParent) // the identity of a row: its own, or another one's
         return VorBomDataValue::kStringData;
     if (const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(column.tupleToken))
         return pEntry->type;

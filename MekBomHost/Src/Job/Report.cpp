@@ -13,9 +13,13 @@
 #include "ColumnCheck.h"
 #include "EqualLines.h"
 #include "Fault.h"
+#include "FindingCodes.h"
 #include "FormulaResults.h"
 #include "OverflowCheck.h"
 #include "RowTally.h"
+#include "RowTree.h"
+#include "TokenNames.h"
+#include "SummaryTemplate.h"
 #include "TokenQuantities.h"
 #include "TotalsCheck.h"
 
@@ -67,6 +71,18 @@ std::vector<Finding> Report::columnErrors() const
     return findings;
 }
 
+// What is kept of the evaluation depends on what is printed.
+void Report::summarize()
+{
+    if (!SummaryTemplate::reduce(m_template))
+    {
+        Finding finding = Finding::stating(FindingCodes::kNothingToSummarise, "the list has no groups and no totals");
+        finding.source = "--summary";
+        throw Fault(kWrongUsage, finding);
+    }
+    m_sections = PackedSections(m_template, m_sections.contents());
+}
+
 // Filters come before the evaluation: no total may count a row that they leave out. What rows hold decides how numbers
 // are written and texts are sorted, so that this waits for them, too.
 void Report::evaluate()
@@ -115,11 +131,12 @@ void Report::evaluateRows()
         m_mistakes.insert(m_mistakes.end(), equalLines->findings().begin(), equalLines->findings().end());
 }
 
-// Each row is filtered out, merged into the line of another one, or listed; of 7 rows 2 + 1 + 4 are all. A difference
+// Each row is replaced by its parts, filtered out, merged into the line of another one, or listed; of 8 rows
+// 1 + 2 + 1 + 4 are all. A difference
 // is a fault of the program and not of its user, so that it ends the run as one.
 void Report::checkRows() const
 {
-    int numKnown = m_facts.rows.numListed + m_facts.rows.numMerged;
+    int numKnown = m_facts.rows.numListed + m_facts.rows.numMerged + m_facts.numParents;
     for (const FilteredRows& filtered : m_facts.filtered)
         numKnown += filtered.numRows;
     if (numKnown != m_facts.numRowsRead)
@@ -147,15 +164,40 @@ void Report::failInFilter(Finding finding, bool isFromTemplate) const
     throw Fault(kInvalidInput, finding);
 }
 
-// Rows get their numbers before any of them is left out: a user counts the lines of the file.
+std::optional<Finding> Report::multiplyPieces(const PieceChoices& choices)
+{
+    countRows();
+    RowTree tree(*engineTemplate().getBomData());
+    if (!choices.isFlattened)
+        if (auto nesting = tree.nesting())
+            return nesting;
+    if (!choices.changePieces())
+        return std::nullopt;
+    if (auto mistake = tree.multiply(choices, engineTemplate().isTokenRequired(TokenNames::kWideFactors) != 0))
+        return mistake;
+    auto warning = tree.weighingElse();
+    m_facts.numParents = tree.removeParents();
+    m_facts.numSets = choices.numSets;
+    return warning;
+}
+
 void Report::filter()
 {
-    if (m_sections.contents().rows)
-        m_rowNumbers = RowNumbers(*engineTemplate().getBomData());
-    m_facts.numRowsRead = numRowsOf(*engineTemplate().getBomData());
+    countRows();
     apply(m_template.queryFilter, true);
     apply(m_where, false);
     m_isFiltered = true;
+}
+
+// Rows get their numbers before any of them is left out: a user counts the lines of the file.
+void Report::countRows()
+{
+    if (m_isCounted)
+        return;
+    if (m_sections.contents().rows)
+        m_rowNumbers = RowNumbers(*engineTemplate().getBomData());
+    m_facts.numRowsRead = numRowsOf(*engineTemplate().getBomData());
+    m_isCounted = true;
 }
 
 // A filter learns here what it compares: only with rows is it known whether "%Mark > 5" is about numbers or texts.

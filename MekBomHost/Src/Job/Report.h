@@ -15,6 +15,7 @@
 #include "ListFacts.h"
 #include "NumberFormats.h"
 #include "PackedSections.h"
+#include "PieceChoices.h"
 #include "ReportTemplate.h"
 #include "RowFilter.h"
 #include "RowNumbers.h"
@@ -25,6 +26,7 @@
 #include "MekRoots/Exp/VorUnitsManager.h"
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace mekbom
@@ -63,9 +65,20 @@ public:
     // for the one added, of status kWrongUsage.
     [[noreturn]] void failInFilter(Finding finding, bool isFromTemplate) const;
 
+    // Multiplies the pieces of the rows, and has the parts of rows stand in their place, as `choices` say: behind the
+    // reading of the rows, which must have been read with piecesTokens(), and before they are filtered. Gives what is
+    // wrong, without a place: an error, which leaves nothing to go on with, or a warning.
+    std::optional<Finding> multiplyPieces(const PieceChoices& choices);
+
     // Leaves out the rows that the list is not about. Throws a Fault for a filter that compares a datum with what it
     // cannot be compared with. To be called once; evaluate() does it where nobody has.
     void filter();
+
+    // Has the report print groups and totals without the lines below them, and without the columns that these alone
+    // fill. Totals stay what they are, and so does what becomes of equal lines. To be called before evaluate(), which
+    // is behind everything that looks for mistakes in the template. Throws a Fault of status kWrongUsage when nothing
+    // would be left.
+    void summarize();
 
     // Has evaluate() add up every total a second time, from the rows, and see where each row has gone. To be called
     // before it.
@@ -85,6 +98,7 @@ public:
     EvaluatedReport evaluated() const { return EvaluatedReport(m_template, m_units, m_sections, m_facts); }
 
 private:
+    void countRows();
     void apply(RowFilter& filter, bool isFromTemplate);
     void prepareNumbers();
     void setOrders(const TokenQuantities& quantities);
@@ -95,6 +109,7 @@ private:
     DisplaySettings m_settings;
     ReportTemplate m_template;
     std::unique_ptr<NumberFormats> m_pFormats; // what the template writes its numbers with from evaluate() on
+    bool m_isCounted = false;
     bool m_isFiltered = false;
     RowFilter m_where;
     RowNumbers m_rowNumbers;

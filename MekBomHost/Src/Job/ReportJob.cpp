@@ -91,16 +91,27 @@ std::string lostPiecesIn(const ListFoot& foot)
                                                   "which do not show their pieces";
 }
 
-// Whether a line has a cell that is wrong as soon as it stands for more rows than one: "%Quantity", or what grows with
-// it.
-bool linesShowPieces(const ReportTemplate& reportTemplate)
+// Whether lines have a cell with such a token.
+template <class Predicate>
+bool linesShow(const ReportTemplate& reportTemplate, const Predicate& isMeant)
 {
     const TemplateLevels levels(*reportTemplate.pTemplate);
     const VorBomTemplateItem& details = levels.details();
     const std::vector<int> shown = reportTemplate.shownTuplesOf(details);
     return std::any_of(shown.begin(), shown.end(),
-                       [&details](int tuple)
-                       { return PieceTokens::growWithPieces(details.getData()[tuple].token().token()); });
+                       [&](int tuple) { return isMeant(details.getData()[tuple].token().token()); });
+}
+
+// Whether a line has a cell that is wrong as soon as it stands for more rows than one: "%Quantity", or what grows with
+// it.
+bool linesShowPieces(const ReportTemplate& reportTemplate)
+{
+    return linesShow(reportTemplate, PieceTokens::growWithPieces);
+}
+
+bool linesShowFactors(const ReportTemplate& reportTemplate)
+{
+    return linesShow(reportTemplate, [](const VorString& token) { return token == TokenNames::kWideFactors; });
 }
 
 // The finding with the place of the details, whose lines are the ones that merge.
@@ -125,6 +136,16 @@ std::set<std::string> ownTokensOf(const ReportTemplate& reportTemplate)
     std::copy_if(tokens.begin(), tokens.end(), std::inserter(ownTokens, ownTokens.end()),
                  [](const std::string& token) { return VorBomTokenCatalogue::find(Utf8::toWide(token)) == nullptr; });
     return ownTokens;
+}
+
+[[noreturn]] void failForMissing(const std::string& token, const std::string& source)
+{
+    Finding finding =
+        Finding::stating(FindingCodes::kParentColumnMissing, source + " has no column " + inQuotes(token) +
+                                                                 ", and so nothing tells which row is a part of which");
+    finding.remedy = "give --map \"HEADING=" + token + "\" for the column that does";
+    finding.source = "--flatten";
+    throw Fault(kWrongUsage, finding);
 }
 
 // The sample rows have no columns that an option could be about.
@@ -161,6 +182,8 @@ ExitStatus ReportJob::makeReport()
         return statusOfErrors();
     if (m_request.checksTotals)
         m_pReport->checkTotals();
+    if (m_request.isSummary)
+        m_pReport->summarize();
     evaluate();
     m_pReport->facts().numWarnings = m_findings.numWarnings();
     return m_findings.numErrors() > 0 ? kMistakes : kDone;
@@ -186,6 +209,7 @@ void ReportJob::evaluate()
     m_pReport->evaluate();
     takeMistakes(m_pReport->mistakes());
     checkLostTotals();
+    checkFactors();
 }
 
 // What only the author of the list can mend is another thing than a file that cannot be read.
@@ -224,6 +248,8 @@ KnownTokens ReportJob::knownTokens() const
     if (m_pParts != nullptr)
         for (const InputColumn& column : m_pParts->columns())
             dataTokens.push_back(column.token);
+    if (m_request.pieces.changePieces())
+        dataTokens.insert(dataTokens.end(), { TokenNames::kPieces, TokenNames::kFactors });
     return { m_pReport->reportTemplate(), dataTokens };
 }
 
@@ -261,6 +287,10 @@ void ReportJob::openParts(const HeadingChoices& choices)
             refuseForSample("--row-totals");
         if (m_request.pAssemblies != nullptr)
             refuseForSample("--assemblies");
+        if (m_request.pieces.isFlattened)
+            refuseForSample("--flatten");
+        if (m_request.pieces.numSets > 1)
+            refuseForSample("--sets");
         if (!m_request.input.sheet.empty())
             refuseForSample("--sheet");
         if (!m_request.input.headings.empty())
@@ -347,11 +377,35 @@ void ReportJob::readRows()
     std::vector<VorString> otherTokens = m_pReport->filterTokens();
     for (const VorString& token : RowsCheck::neededTokens(m_pReport->reportTemplate(), knownTokens()))
         otherTokens.push_back(token);
+    if (m_pParts->find(TokenNames::kParent) != nullptr)
+        otherTokens.emplace_back(TokenNames::kWideParent);
+    if (m_request.pieces.changePieces())
+        otherTokens.emplace_back(TokenNames::kWidePieces);
     m_partsFacts = m_pParts->readRows(m_pReport->engineTemplate(), otherTokens);
     m_pReport->facts().areUnitsAssumed = m_pParts->assumesUnits();
     m_pReport->facts().numEmptyRows = m_partsFacts.numEmptyRows;
     m_pReport->facts().countsRowsAsPieces = m_pParts->find(TokenNames::kPieces) == nullptr;
     takeMistakes(m_pParts->findings());
+    multiplyPieces();
+}
+
+// Parts within parts are found by the one column and the other, so that a list to be flattened must have both.
+void ReportJob::multiplyPieces()
+{
+    for (const char* const pToken : { TokenNames::kHandle, TokenNames::kParent })
+        if (m_request.pieces.isFlattened && m_pParts->find(pToken) == nullptr)
+            failForMissing(pToken, m_pRecords->name());
+    const InputColumn* const pParent = m_pParts->find(TokenNames::kParent);
+    if (pParent == nullptr && !m_request.pieces.changePieces())
+        return;
+    auto finding = m_pReport->multiplyPieces(m_request.pieces);
+    if (!finding)
+        return;
+    finding->source = m_pRecords->name();
+    finding->field = pParent == nullptr ? "" : pParent->name;
+    if (finding->severity == Finding::kError)
+        throw Fault(kInvalidInput, *finding);
+    m_findings.add(*finding);
 }
 
 void ReportJob::addFilter()
@@ -402,10 +456,30 @@ void ReportJob::noteColumns()
         m_findings.add(*reading);
     std::vector<std::string> missing;
     for (const std::string& token : tokens)
-        if (m_pParts->find(token) == nullptr && !m_pParts->isInDoubt(token))
+        if (m_pParts->find(token) == nullptr && !m_pParts->isInDoubt(token) && !isMadeHere(token))
             missing.push_back(token);
     if (!missing.empty())
         m_findings.add(ColumnNotes::missing(*m_pParts, m_pRecords->name(), missing));
+}
+
+// What rows get once their pieces are multiplied.
+bool ReportJob::isMadeHere(const std::string& token) const
+{
+    return m_request.pieces.changePieces() && token == TokenNames::kFactors;
+}
+
+// A line of two rows with "4 × 3" shows 24 pieces beside it, or merges one of them away.
+void ReportJob::checkFactors()
+{
+    const ListFoot foot = m_pReport->evaluated().foot();
+    const ReportTemplate& reportTemplate = m_pReport->reportTemplate();
+    if (!linesShowFactors(reportTemplate) || (foot.numLines == foot.numListed && foot.numMerged == 0))
+        return;
+    Finding finding =
+        Finding::stating(FindingCodes::kFactorsOfSeveralRows,
+                         std::string("lines stand for several rows and show the ") + TokenNames::kFactors + " of one");
+    finding.remedy = "say \"equalLines\": \"keep\" for a line each, or leave the column out";
+    m_findings.add(inDetails(finding, reportTemplate));
 }
 
 // MB307 trips on two rows of HEA200 with 10 kg each, details of %Name and %Weight, and a total of 10 kg; it does not on

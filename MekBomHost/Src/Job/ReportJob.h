@@ -81,11 +81,14 @@ private:
     ReportTemplate readColumnsTemplate();
     void addFilter();
     void readRows();
+    void multiplyPieces();
     void checkFilterTokens() const;
     void takeSampleRows();
     void noteColumns();
+    bool isMadeHere(const std::string& token) const;
     void evaluate();
     void checkLostTotals();
+    void checkFactors();
 
     ReportRequest m_request;
     FindingList m_findings;

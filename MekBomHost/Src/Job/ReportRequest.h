@@ -17,6 +17,7 @@
 #include "ByteSource.h"
 #include "InputChoices.h"
 #include "LineContents.h"
+#include "PieceChoices.h"
 
 #include <memory>
 #include <string>
@@ -50,6 +51,8 @@ struct ReportRequest
     std::string where;                  // which rows the list is about, beside what the template says; empty for all
     std::vector<std::string> rowTotals; // "%Weight": columns whose values are those of all pieces of their row
     std::vector<std::string> allowed;   // "MB105": mistakes that stop no report
+    PieceChoices pieces;                // whether rows are parts of rows, and how many sets of them there are
+    bool isSummary = false;             // print groups and totals without the lines below them
     bool checksTotals = false;          // add up every total a second time, from the rows, and compare
 
     unsigned numProcessors = 1; // with two, long parts lists are read on a thread of their own: PartsList

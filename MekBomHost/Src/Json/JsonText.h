@@ -10,4 +10,7 @@ namespace mekbom
 {
 // `text`, UTF-8, in double quotes, with all that JSON wants escaped: on one line whatever it holds.
 std::string jsonText(std::string_view text);
+
+// The same at the end of what `json` holds.
+void appendJsonText(std::string& json, std::string_view text);
 }

@@ -34,7 +34,10 @@ public:
     // `sections` took the evaluation of `reportTemplate`, whose numbers were shown in `units`. The report owns none of
     // the three; template and sections must outlive it.
     EvaluatedReport(const ReportTemplate& reportTemplate, const VorUnitsManager& units, const PackedSections& sections)
-        : m_title(reportTemplate.title), m_layout(reportTemplate, units), m_sections(sections)
+        : m_title(reportTemplate.title),
+          m_countsEqualLines(reportTemplate.equalLines == kCountEqualLines),
+          m_layout(reportTemplate, units),
+          m_sections(sections)
     {
     }
 
@@ -61,6 +64,10 @@ public:
     // The lines, from the first one on whenever this is called. They are valid as long as the report.
     ReportLines lines() const { return ReportLines(m_layout, m_sections); }
 
+    // Whether the rows behind a line of details all count in totals; else the first of them does, and the others are
+    // merged away.
+    bool countsEqualLines() const { return m_countsEqualLines; }
+
     // What the list is made of, to be told below its lines; without any lines where nobody has counted.
     const ListFoot& foot() const { return m_foot; }
 
@@ -73,6 +80,7 @@ public:
 
 private:
     const std::string& m_title;
+    bool m_countsEqualLines;
     ReportLayout m_layout;
     const PackedSections& m_sections;
     ListFoot m_foot;

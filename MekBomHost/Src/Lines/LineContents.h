@@ -11,5 +11,12 @@ struct LineContents
 {
     bool values = false; // what each cell held before it was shown: 16 bytes for each cell
     bool rows = false;   // the rows behind each line: 8 bytes for each row and each of its sections
+
+    // Adds what another writer of the same report wants.
+    void add(LineContents other)
+    {
+        values = values || other.values;
+        rows = rows || other.rows;
+    }
 };
 }

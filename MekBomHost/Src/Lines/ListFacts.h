@@ -17,6 +17,8 @@ namespace mekbom
 struct ListFacts
 {
     int numRowsRead = 0;
+    int numParents = 0; // of these, rows whose parts stand in their place
+    int numSets = 1;    // that the pieces are for
     std::vector<FilteredRows> filtered;
     RowCounts rows;                  // of those that no filter took
     int numRowsInOtherLines = 0;     // listed ones that were counted into the line of another

@@ -62,6 +62,8 @@ std::string rowsText(int number)
 ListFoot::ListFoot(const ListFacts& facts, const ReportTemplate& reportTemplate, const ReportLayout& layout)
     : isKnown(true),
       numRead(facts.numRowsRead),
+      numParents(facts.numParents),
+      numSets(facts.numSets),
       filtered(facts.filtered),
       numMerged(facts.rows.numMerged),
       numLosing(facts.rows.numLosing),
@@ -90,6 +92,8 @@ std::vector<std::string> ListFoot::lines() const
     if (!isKnown)
         return all;
     all.push_back(rowsLine());
+    if (numSets > 1)
+        all.push_back("Pieces are those of " + std::to_string(numSets) + " sets");
     if (!losses.empty())
         all.push_back("Merged rows are in no total: " + lossText());
     for (const Total& total : totals)
@@ -118,6 +122,8 @@ std::string ListFoot::lossText() const
 std::string ListFoot::rowsLine() const
 {
     std::string line = rowsText(numRead) + " read";
+    if (numParents > 0)
+        line += ", " + std::to_string(numParents) + " replaced by their parts";
     for (const FilteredRows& filter : filtered)
         if (filter.numRows > 0)
             line += ", " + std::to_string(filter.numRows) + " filtered out by " + inQuotes(filter.condition);

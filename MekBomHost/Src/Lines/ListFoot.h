@@ -53,6 +53,8 @@ struct ListFoot
 
     bool isKnown = false; // somebody has counted
     int numRead = 0;
+    int numParents = 0;                 // rows whose parts are listed in their place
+    int numSets = 1;                    // that the pieces are for
     std::vector<FilteredRows> filtered; // by each filter
     int numMerged = 0;                  // rows whose line was merged into one that reads alike, and count in no total
     int numLosing = 0;                  // of these the ones with a value that a printed total would have counted

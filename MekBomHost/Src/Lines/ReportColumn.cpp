@@ -8,14 +8,19 @@
 
 namespace mekbom
 {
-std::string ReportColumn::heading() const
+std::string ReportColumn::headingIn(const std::string& symbol) const
 {
-    if (unitSymbol.empty() || label == unitSymbol)
+    if (symbol.empty() || label == symbol)
         return label;
     const LabelUnit named = LabelUnit::of(label);
     if (!isOfNumbers(named))
-        return label + " [" + unitSymbol + "]";
-    return label.substr(0, named.begin + 1) + unitSymbol + label.back();
+        return label + " [" + symbol + "]";
+    return label.substr(0, named.begin + 1) + symbol + label.back();
+}
+
+const std::string& ReportColumn::unitOfNumbers() const
+{
+    return pUnitKind == nullptr ? unitSymbol : numbers.unitOf(VorBomTemplateUnits::unitTypeOf(pUnitKind->system));
 }
 
 // Words in parentheses are a remark.

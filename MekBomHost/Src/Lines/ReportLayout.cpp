@@ -59,11 +59,20 @@ void describeContent(ReportColumn& column, const TokenQuantities& quantities, co
                      const VorUnitsManager& units)
 {
     column.isNumeric = !column.shownTokens.empty() && quantities.isNumeric(column.shownTokens.front());
+    column.hasNumbers = std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
+                                    [&quantities](const VorString& token) { return quantities.isNumeric(token); });
     const Measure measure = quantities.commonMeasureOf(column.shownTokens);
     column.pUnitKind = measure.pKind;
-    if (measure.pKind != nullptr)
-        column.unit = ColumnUnit::of(pStyle, *measure.pKind, units);
-    column.unitSymbol = column.unit ? ColumnUnit::symbolOf(*column.unit) : measure.label;
+    column.numbers = ColumnNumbers(pStyle, units, measure.pKind);
+    column.hasMixedUnits = !measure.isNamed() && std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
+                                                             [&quantities](const VorString& token)
+                                                             { return quantities.measureOf(token).isNamed(); });
+    column.unitSymbol = measure.label;
+    if (measure.pKind == nullptr)
+        return;
+    const MEKUnit unit = ColumnUnit::of(pStyle, *measure.pKind, units);
+    column.unitSymbol = ColumnUnit::symbolOf(unit);
+    column.hasDecimals = ColumnUnit::hasDecimals(unit);
 }
 
 void describeLook(ReportColumn& column, const ColumnStyle* pStyle)
@@ -128,6 +137,7 @@ SectionLayout ReportLayout::layOut(const ReportTemplate& reportTemplate, const V
         taken.insert(column);
         m_columns[static_cast<std::size_t>(column)].shownTokens.push_back(token);
         section.columns.push_back(column);
+        section.tokens.push_back(token);
     }
     return section;
 }

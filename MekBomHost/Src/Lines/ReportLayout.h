@@ -28,9 +28,10 @@ namespace mekbom
 // What the lines of one section of the template show.
 struct SectionLayout
 {
-    std::string label;        // UTF-8; empty without one
-    int labelColumn = -1;     // the first that shows no tuple; -1 when there is none
-    std::vector<int> columns; // of the tuples that are shown, in their order
+    std::string label;             // UTF-8; empty without one
+    int labelColumn = -1;          // the first that shows no tuple; -1 when there is none
+    std::vector<int> columns;      // of the tuples that are shown, in their order
+    std::vector<VorString> tokens; // of the same tuples
 };
 
 // A header section and the footer after it.

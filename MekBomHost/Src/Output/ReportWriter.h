@@ -1,6 +1,7 @@
 // Writes evaluated reports in one format: the interface that a new output format implements. A format is a
 // class of its own in a folder of its own beside Output/Text, and a line in the table of
-// Output/Formats/ReportFormats.cpp; nothing else knows of it.
+// Output/Formats/ReportFormats.cpp; nothing else knows of it. A class whose lists may be written in one way or another
+// is constructed with OutputChoices.
 //
 //   class MarkdownWriter : public ReportWriter
 //   {
@@ -36,6 +37,9 @@ public:
 
     // What lines must hold beside their texts. Asked before the report is evaluated: it is kept from then on.
     virtual LineContents contents() const { return LineContents(); }
+
+    // Whether what it writes tells what the list is made of. Where it does not, somebody else has to.
+    virtual bool tellsFoot() const { return true; }
 
     // Writes the whole report, reading its lines as often as need be, and finishes the sink. `report` was evaluated
     // with contents() at least, and neither of the two is kept. Throws what the sink throws, which is then not

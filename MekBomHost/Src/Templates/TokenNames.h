@@ -17,4 +17,12 @@ inline constexpr const char* kHandle = "%Handle";
 
 // The handle of the assembly that a part belongs to.
 inline constexpr const char* kAssembly = "%Assembly";
+
+// The handle of the row that a row is a part of.
+inline constexpr const char* kParent = "%Parent";
+inline constexpr const wchar_t* kWideParent = L"%Parent";
+
+// What was multiplied to the pieces of a row that is a part of others: "2 × 4 × 3". No parts list has it.
+inline constexpr const char* kFactors = "%QuantityFactors";
+inline constexpr const wchar_t* kWideFactors = L"%QuantityFactors";
 }

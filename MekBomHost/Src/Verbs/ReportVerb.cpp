@@ -17,17 +17,13 @@
 #include "FileSource.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
-#include "OutputFile.h"
-#include "ReportFormats.h"
+#include "ReportOutputs.h"
 #include "ShippedFiles.h"
-#include "StandardOutput.h"
 #include "TemplateFile.h"
 #include "UnitsFile.h"
 
 #include <CLI/CLI.hpp>
 
-#include <filesystem>
-#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -35,7 +31,6 @@ namespace mekbom
 {
 namespace
 {
-const char* const kStandardOutput = "-";
 const char* const kSampleData = "sample";
 
 // Ends the run with a finding about an option, which stands in front of it in the message.
@@ -57,7 +52,8 @@ const char* const ReportVerb::kNotes = R"(Data
   may carry a unit of its own: 7'-6 1/2", 7.5 ft. Empty cells are no data. Handle is the
   identity of the object, Quantity how many of them a row stands for (1 where it does not
   say). Other values are those of one piece, or of all in the columns that --row-totals
-  names.
+  names. Rows that name others as their Parent are parts of these: --flatten multiplies
+  their pieces, --sets 10 those of all rows.
 
 Template
   The shipped lists go by name: cutting-list, assembly-list, bolt-list, parts-list.
@@ -85,9 +81,11 @@ Examples
   mekbom report --data parts.csv
   mekbom report --data parts.csv --template cutting-list
   mekbom report --data parts.csv --template list.json --units imperial -o list.txt
+  mekbom report --data parts.csv -o list.txt -o list.csv
   mekbom report --data hall --unit length=ft-in/32 --setting C40_SuppressZeroFeet=0
   mekbom report --data frame.csv --input-unit %Paint=m2
   mekbom report --data export.csv --map "Cost code=%UserAttr1"
+  mekbom report --data nested.csv --flatten --sets 2
   sed 1d export.csv | mekbom report --data -
   mekbom report --data sample --template default
   mekbom units convert 2286 mm ft-in/16
@@ -119,27 +117,31 @@ void ReportVerb::declareOptionsOn(CLI::App& command)
     m_unitChoices.declareOn(command, "Unit and precision of one kind, such as length=ft-in/16");
     m_settingsFile.declareOn(command, "INI file that says how numbers are shown");
     m_settings.declareOn(command, "How numbers are laid out, such as C40_SuppressZeroFeet=0");
-    m_output.declareOn(command, "File to write, - for standard output [-]");
+    m_outputs.declareOn(command);
+    command.add_flag("--summary", m_isSummary, "Print groups and totals without the lines below them");
     m_rows.declareOn(command, "Which rows to list, such as \"%Material = 'S355' and %Length > 6 m\"");
     m_allowed.declareOn(command, "Mistakes that stop no report, such as MB105");
     command.add_flag("--check-totals", m_checksTotals, "Add up every total a second time, from the rows");
 }
 
-// The output is opened only once there is a report: a run that fails leaves the list of the run before as it was. That
-// it may be written is asked before, since a user should not wait a minute for a report to be told of a slip in its
-// name.
+// The outputs are opened only once there is a report: a run that fails leaves the lists of the run before as they were.
+// That they may be written is asked before, since a user should not wait a minute for a report to be told of a slip in
+// a name.
 ExitStatus ReportVerb::run(FindingList& findings)
 {
-    const std::unique_ptr<ReportWriter> pWriter = ReportFormats::createWriter(ReportFormats::kText);
     ReportRequest wanted = request();
-    wanted.contents = pWriter->contents();
+    const ReportOutputs outputs(m_outputs.wanted(), m_outputs.choices());
+    m_outputs.refuseInputs(inputNames());
+    wanted.contents = outputs.contents();
     m_pJob = std::make_unique<ReportJob>(std::move(wanted));
-    checkOutput();
     const ExitStatus status = m_pJob->run();
     findings.addAll(m_pJob->findings().all(), m_pJob->findings().numErrors());
-    if (status == kDone)
-        write(*pWriter);
-    return status;
+    if (status != kDone)
+        return status;
+    outputs.write(m_pJob->report());
+    for (const Finding& note : outputs.footNotes(m_pJob->report()))
+        findings.add(note);
+    return kDone;
 }
 
 ReportRequest ReportVerb::request() const
@@ -149,6 +151,7 @@ ReportRequest ReportVerb::request() const
     request.unitChoices = m_unitChoices.pairs();
     request.settings = m_settings.pairs();
     request.allowed = m_allowed.words();
+    request.isSummary = m_isSummary;
     request.checksTotals = m_checksTotals;
     request.parts = parts();
     request.numProcessors = std::thread::hardware_concurrency();
@@ -188,53 +191,16 @@ void ReportVerb::addTemplates(ReportRequest& request) const
             request.candidates.push_back(TemplateFile::open(shipped, m_template.option()));
 }
 
-// A slip such as `-o parts.csv` must not cost the parts list, and who asks for list.xlsx is not to get a text in it.
-// Files are compared as the file system knows them, so that "./parts.csv" and a link to it are the same; a word such as
-// "hall", and a file that is not there yet, are none of them.
-void ReportVerb::checkOutput() const
+// All that is read, as the command line names it.
+std::vector<std::string> ReportVerb::inputNames() const
 {
-    if (isToStandardOutput())
-        return;
-    const std::string output = m_output.name();
-    const std::string option = m_output.option() + " " + output;
-    std::error_code error;
     std::vector<std::string> inputs = dataNames();
-    inputs.insert(inputs.end(), { m_template.name(), m_units, m_settingsFile.name() });
-    for (const std::string& input : inputs)
-        if (std::filesystem::equivalent(input, output, error))
-            failAt(option, Finding::stating(FindingCodes::kOutputIsInput, "is the same file as the input " + input));
-    if (ReportFormats::promisesOtherFormat(output))
-    {
-        Finding finding = Finding::stating(FindingCodes::kOutputOfOtherFormat,
-                                           "promises another format than text, which is all that lists are written in");
-        finding.remedy = "take a name such as list.txt";
-        failAt(option, finding);
-    }
-}
-
-// OutputFile puts the list in place of the old file when the writer finishes it, and not before.
-void ReportVerb::write(const ReportWriter& writer) const
-{
-    if (isToStandardOutput())
-    {
-        StandardOutput sink;
-        writer.write(m_pJob->report(), sink);
-    }
-    else
-    {
-        OutputFile sink(m_output.name());
-        writer.write(m_pJob->report(), sink);
-    }
+    inputs.insert(inputs.end(), { m_template.name(), m_units, m_settingsFile.name(), m_rows.assemblies() });
+    return inputs;
 }
 
 bool ReportVerb::isSample() const
 {
     return dataNames() == std::vector<std::string>{ kSampleData };
-}
-
-bool ReportVerb::isToStandardOutput() const
-{
-    const std::string output = m_output.name();
-    return output.empty() || output == kStandardOutput;
 }
 }

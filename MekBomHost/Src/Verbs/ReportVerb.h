@@ -4,16 +4,17 @@
 //   mekbom report --data parts.csv --template list.json -o list.txt
 //
 // The verb is where files come in: it turns options into the sources of a ReportRequest, lets a ReportJob make the
-// report and hands it to a writer. A report that cannot be made leaves nothing written, and the file of `-o` as it was.
+// report and hands it to the writers of all outputs. A report that cannot be made leaves nothing written, and the files
+// of `-o` as they were.
 // DemoVerb is the same for the shipped hall.
 #pragma once
 
 #include "FileOption.h"
 #include "ListOption.h"
+#include "OutputOptions.h"
 #include "PairOption.h"
 #include "ReportJob.h"
 #include "ReportRequest.h"
-#include "ReportWriter.h"
 #include "RowOptions.h"
 #include "Verb.h"
 
@@ -44,10 +45,8 @@ private:
     ReportRequest request() const;
     std::vector<std::unique_ptr<ByteSource>> parts() const; // none for the sample rows
     void addTemplates(ReportRequest& request) const;
-    void checkOutput() const;
-    void write(const ReportWriter& writer) const;
+    std::vector<std::string> inputNames() const;
     bool isSample() const;
-    bool isToStandardOutput() const;
 
     // What the options were given as. None of these files is opened before the job reads it.
     FileOption m_data{ "--data", "FILE" };
@@ -56,9 +55,10 @@ private:
     PairOption m_unitChoices{ "--unit", "KIND=UNIT", "length=ft-in/16" };
     FileOption m_settingsFile{ "--settings", "FILE" };
     PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
-    FileOption m_output{ "-o,--output", "FILE" };
+    OutputOptions m_outputs;
     RowOptions m_rows;
     ListOption m_allowed{ "--allow", "CODE,..." };
+    bool m_isSummary = false;
     bool m_checksTotals = false;
 
     std::unique_ptr<ReportJob> m_pJob; // keeps what the last report was made of

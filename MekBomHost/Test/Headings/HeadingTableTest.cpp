@@ -28,7 +28,8 @@ std::string meaningOf(const char* pHeading)
 
 bool isKnown(const std::string& token)
 {
-    return token == TokenNames::kHandle || VorBomTokenCatalogue::find(Utf8::toWide(token)) != nullptr;
+    return token == TokenNames::kHandle || token == TokenNames::kParent ||
+           VorBomTokenCatalogue::find(Utf8::toWide(token)) != nullptr;
 }
 }
 

@@ -69,6 +69,11 @@ TEST(ListFolderTest, EqualLinesBecomeWhatTheTemplateSays)
     expectList("equal-lines");
 }
 
+TEST(ListFolderTest, PartsStandInPlaceOfTheirParents)
+{
+    expectList("parts-within-parts");
+}
+
 TEST(ListFolderTest, TheHallPrintsInMetricUnits)
 {
     expectList("hall-metric");

@@ -18,9 +18,11 @@
 namespace mekbom
 {
 inline std::unique_ptr<Report> reportOf(const std::string& templateText, const std::string& partsText,
-                                        const VorUnitsManager& units = VorUnitsManager::metric())
+                                        const VorUnitsManager& units = VorUnitsManager::metric(),
+                                        LineContents contents = LineContents())
 {
-    auto pReport = std::make_unique<Report>(TemplateReader::read("list.json", templateText), units);
+    auto pReport =
+        std::make_unique<Report>(TemplateReader::read("list.json", templateText), units, DisplaySettings(), contents);
     MemorySource source("parts.csv", partsText);
     CsvReader records(source);
     PartsList(records).readRows(pReport->engineTemplate(), pReport->filterTokens());
@@ -51,6 +53,18 @@ inline std::string tableOf(Report& report)
     StringSink sink;
     TextTableWriter().write(report.evaluated(), sink);
     return sink.text;
+}
+
+// What a writer makes of a list.
+inline std::string writtenBy(const ReportWriter& writer, const std::string& templateText, const std::string& partsText,
+                             const VorUnitsManager& units = VorUnitsManager::metric())
+{
+    const std::unique_ptr<Report> pReport = reportOf(templateText, partsText, units, writer.contents());
+    pReport->checkTotals();
+    pReport->evaluate();
+    StringSink sink;
+    writer.write(pReport->evaluated(), sink);
+    return sink.isFinished ? sink.text : "the sink was not finished";
 }
 
 // The table alone: what it is made of stands below it in the other one.

@@ -5,10 +5,14 @@
 //   %Name, width 4; texts "HEA200", "L50"                           ->   width 4, the text goes on below: "HEA2", "00"
 //   %Weight in kg, width 2; texts "1234.56", "12"                   ->   width 7, since numbers are never cut
 //
+// A table that has to fit into a width loses it where columns are widest: headings are wrapped, texts wrapped or cut.
+//
 // Widths are columns of a terminal, which wide characters take two of.
 #pragma once
 
+#include "CellText.h"
 #include "EvaluatedReport.h"
+#include "OutputChoices.h"
 #include "ShownText.h"
 
 #include <cstdint>
@@ -28,13 +32,17 @@ struct TextColumn
     std::string heading;
     bool isAlignedRight = false;
     int width = 1;
+    int least = 1;      // that it can be narrowed to: numbers, and the words of its heading, stay whole
     int labelLimit = 0; // what the heading and labels of lines are wrapped to; 0 for no limit
     int textLimit = 0;  // the same for other texts
 };
 
 namespace TextColumns
 {
-// One for each column of the report, in their order. Values: the report may go.
-std::vector<TextColumn> of(const EvaluatedReport& report);
+inline constexpr int kNumBlanksBetween = 2;
+
+// One for each column of the report, in their order. Values: the report may go. Throws a Fault of status kWrongUsage
+// when they cannot be made as narrow as the choices want the table.
+std::vector<TextColumn> of(const EvaluatedReport& report, const OutputChoices& choices = OutputChoices());
 }
 }

@@ -10,7 +10,6 @@
 #include "TextTable.h"
 
 #include "Utf8.h"
-#include "WordWrap.h"
 
 #include <algorithm>
 
@@ -18,7 +17,7 @@ namespace mekbom
 {
 namespace
 {
-const std::size_t kNumBlanksBetween = 2;
+const std::size_t kNumBlanksBetween = TextColumns::kNumBlanksBetween;
 const std::size_t kBlockSize = 1 << 16; // arbitrary: large against a call of the system
 
 bool isFooterAlone(const LinePlace& place)
@@ -27,8 +26,13 @@ bool isFooterAlone(const LinePlace& place)
 }
 }
 
-TextTable::TextTable(const EvaluatedReport& report, TextSink& sink)
-    : m_report(report), m_sink(sink), m_columns(TextColumns::of(report)), m_wrapped(m_columns.size())
+TextTable::TextTable(const EvaluatedReport& report, const OutputChoices& choices, TextSink& sink)
+    : m_report(report),
+      m_cellText(choices),
+      m_width(choices.width),
+      m_sink(sink),
+      m_columns(TextColumns::of(report, choices)),
+      m_wrapped(m_columns.size())
 {
     for (const TextColumn& column : m_columns)
         m_lineWidth += static_cast<std::size_t>(column.width) + kNumBlanksBetween;
@@ -59,19 +63,23 @@ void TextTable::writeTitle()
         head += (head.empty() ? "" : "\n") + ("Rows where " + filtered.condition);
     if (head.empty())
         return;
-    for (const std::string& line : WordWrap::wrap(head + "\n", 0))
+    writeOutside(head + "\n");
+}
+
+// What stands outside the table knows no columns, but the width that all of it has to fit into.
+void TextTable::writeOutside(const std::string& text)
+{
+    for (const std::string& line : m_cellText.wrapped(text, m_width))
         m_text += line + "\n";
 }
 
-// Its lines are not wrapped: they are no part of the table.
 void TextTable::writeFoot()
 {
     const std::vector<std::string> lines = m_report.foot().lines();
     if (!lines.empty())
         m_text += '\n';
     for (const std::string& line : lines)
-        for (const std::string& part : WordWrap::wrap(line, 0))
-            m_text += part + "\n";
+        writeOutside(line);
 }
 
 void TextTable::writeHeading()
@@ -79,7 +87,7 @@ void TextTable::writeHeading()
     if (m_columns.empty())
         return;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
-        m_wrapped[i] = WordWrap::wrap(m_columns[i].heading, m_columns[i].labelLimit);
+        m_wrapped[i] = m_cellText.wrapped(m_columns[i].heading, m_columns[i].labelLimit);
     writeWrapped();
     writeRule();
 }
@@ -109,7 +117,7 @@ void TextTable::writeSeparation(const LinePlace& place, const LinePlace& previou
 void TextTable::writeLine(const ReportLine& line)
 {
     if (!line.label.empty() && line.labelColumn < 0)
-        m_text += WordWrap::wrap(line.label, 0).front() + "\n";
+        m_text += m_cellText.wrapped(line.label, 0).front() + "\n";
     if (isPlain(line))
         return writePlain(line.texts);
     wrap(line);
@@ -152,8 +160,8 @@ void TextTable::wrap(const ReportLine& line)
 {
     for (std::size_t i = 0; i < m_columns.size(); ++i)
         m_wrapped[i] = line.labelColumn == static_cast<int>(i)
-                           ? WordWrap::wrap(line.label, m_columns[i].labelLimit)
-                           : WordWrap::wrap(line.texts[i].view(), m_columns[i].textLimit);
+                           ? m_cellText.wrapped(line.label, m_columns[i].labelLimit)
+                           : m_cellText.fitted(line.texts[i].view(), m_columns[i].textLimit);
 }
 
 void TextTable::writeWrapped()

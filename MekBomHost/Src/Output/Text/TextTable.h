@@ -17,7 +17,9 @@
 // UTF-8, whatever the locale.
 #pragma once
 
+#include "CellText.h"
 #include "EvaluatedReport.h"
+#include "OutputChoices.h"
 #include "TextColumns.h"
 #include "TextSink.h"
 
@@ -30,14 +32,16 @@ namespace mekbom
 class TextTable
 {
 public:
-    // Neither `report` nor `sink` is owned; both must outlive the table.
-    TextTable(const EvaluatedReport& report, TextSink& sink);
+    // Neither `report` nor `sink` is owned; both must outlive the table. Throws a Fault of status kWrongUsage when the
+    // table cannot be made as narrow as the choices want it.
+    TextTable(const EvaluatedReport& report, const OutputChoices& choices, TextSink& sink);
 
     // Writes the whole table into the sink and finishes that. To be called once.
     void write();
 
 private:
     void writeTitle();
+    void writeOutside(const std::string& text);
     void writeFoot();
     void writeHeading();
     void writeRule();
@@ -52,6 +56,8 @@ private:
     void passOn(std::size_t least);
 
     const EvaluatedReport& m_report;
+    const CellText m_cellText;
+    const int m_width; // that everything has to fit into; 0 for as wide as need be
     TextSink& m_sink;
     const std::vector<TextColumn> m_columns;
     std::size_t m_lineWidth = 0;                     // of all columns, each with the blanks after it

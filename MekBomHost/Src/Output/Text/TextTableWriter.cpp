@@ -6,6 +6,6 @@ namespace mekbom
 {
 void TextTableWriter::write(const EvaluatedReport& report, TextSink& sink) const
 {
-    TextTable(report, sink).write();
+    TextTable(report, m_choices, sink).write();
 }
 }

@@ -9,6 +9,7 @@
 
 #include "Utf8.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace mekbom::WordWrap
@@ -82,6 +83,16 @@ private:
     std::size_t m_breakLength = 0; // of the line up to its last blank; 0 without one
     int m_breakWidth = 0;
 };
+
+// How many bytes of the text hold the characters that end within the width.
+std::size_t lengthWithin(std::string_view text, int width)
+{
+    std::string_view rest = text;
+    std::size_t length = 0;
+    while (!rest.empty() && (width -= Utf8::displayWidth(Utf8::takeCodePoint(rest))) >= 0)
+        length = text.size() - rest.size();
+    return length;
+}
 }
 
 // The CR of a CRLF is dropped; the LF then ends the line.
@@ -100,5 +111,21 @@ std::vector<std::string> wrap(std::string_view text, int width)
             filler.add(codePoint == '\t' ? ' ' : isControl(codePoint) ? kReplacement : codePoint);
     }
     return filler.takeLines();
+}
+
+// What is to stay is found before the ellipsis is added: all characters that end within the width it leaves.
+std::string cut(const std::vector<std::string>& lines, int width, std::string_view ellipsis)
+{
+    std::string line = lines.front();
+    const bool isTooWide = width > 0 && Utf8::displayWidth(line) > width;
+    if (lines.size() == 1 && !isTooWide)
+        return line;
+    if (width > 0)
+    {
+        const int ellipsisWidth = std::min(Utf8::displayWidth(ellipsis), width);
+        line.resize(lengthWithin(line, width - ellipsisWidth));
+        ellipsis = ellipsis.substr(0, lengthWithin(ellipsis, ellipsisWidth));
+    }
+    return line.append(ellipsis);
 }
 }

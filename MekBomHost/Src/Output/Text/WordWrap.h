@@ -17,4 +17,10 @@ namespace mekbom::WordWrap
 // The lines of `text`, of which there is at least one. Line breaks end a line, tabs become blanks, and other
 // control characters U+FFFD. A character that is wider than the column stands in a line of its own.
 std::vector<std::string> wrap(std::string_view text, int width);
+
+// One line of what wrap() gave without a limit, of which there is at least one, with `ellipsis` at the end of what
+// something is missing from. A column that is narrower than that has as much of it as there is room for.
+//   WordWrap::cut({ "Base plate, corner" }, 10, "...")   ->   "Base pl..."
+//   WordWrap::cut({ "one", "two" }, 0, "...")            ->   "one..."
+std::string cut(const std::vector<std::string>& lines, int width, std::string_view ellipsis);
 }

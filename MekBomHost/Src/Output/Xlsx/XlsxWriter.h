@@ -13,6 +13,7 @@
 // a further one. The same list gives the same bytes.
 #pragma once
 
+#include "OutputChoices.h"
 #include "ReportWriter.h"
 #include "XlsxSettings.h"
 
@@ -23,6 +24,9 @@ class XlsxWriter : public ReportWriter
 public:
     XlsxWriter() = default;
     explicit XlsxWriter(const XlsxSettings& settings) : m_settings(settings) {}
+
+    // Plain values are given beside texts, where the list shows quantities in a way that no number does.
+    explicit XlsxWriter(const OutputChoices& choices) : XlsxWriter(XlsxSettings{ choices.hasPlainValues }) {}
 
     LineContents contents() const override;
 

@@ -178,10 +178,10 @@ TEST(XlsxWriterTest, FeetAndInchesAreTexts)
                          "0 A5=\"P3\" B5=\"1'\"\n"));
     settings.hasNumbersBeside = true;
     EXPECT_TRUE(contains(rowsOf(sheetOf(workbookOf(report.evaluated(), settings), 1)),
-                         "A2=\"MNum\" B2=\"Length [ft-in]\" C2=\"Length [in]\"\n"
-                         "0 A3=\"P1\" B3=\"7' 6\"\" C3=90\n"
-                         "0 A4=\"P2\" B4=\"7' 6 1/16\"\" C4=90.0625\n"
-                         "0 A5=\"P3\" B5=\"1'\" C5=12\n"));
+                         "A2=\"MNum\" B2=\"Length [ft-in]\" C2=\"Length [ft]\"\n"
+                         "0 A3=\"P1\" B3=\"7' 6\"\" C3=7.5\n"
+                         "0 A4=\"P2\" B4=\"7' 6 1/16\"\" C4=7.505208333333333\n"
+                         "0 A5=\"P3\" B5=\"1'\" C5=1\n"));
 }
 
 // Seven inches beside seven and a half would be the only number among texts, and all that a sum adds up.

@@ -1,0 +1,20 @@
+#include "CellText.h"
+
+#include "AsciiText.h"
+#include "WordWrap.h"
+
+namespace mekbom
+{
+std::vector<std::string> CellText::wrapped(std::string_view text, int width) const
+{
+    return m_isAscii ? WordWrap::wrap(AsciiText::of(text), width) : WordWrap::wrap(text, width);
+}
+
+std::vector<std::string> CellText::fitted(std::string_view text, int width) const
+{
+    if (!m_cuts)
+        return wrapped(text, width);
+    const std::vector<std::string> lines = wrapped(text, 0);
+    return { WordWrap::cut(lines, width, m_isAscii ? "..." : "…") };
+}
+}

@@ -1,0 +1,35 @@
+// How texts come into the cells of a text table, as a user chose it: wrapped, or cut to one line, and in ASCII where only
+// that is wanted.
+//
+//   OutputChoices choices;
+//   choices.cutsTexts = true;
+//   CellText(choices).fitted("Base plate, corner", 10)    ->  "Base plat…"
+//   CellText(choices).wrapped("Base plate, corner", 10)   ->  "Base" | "plate," | "corner"
+//
+// Widths are columns of a terminal; 0 is no limit.
+#pragma once
+
+#include "OutputChoices.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace mekbom
+{
+class CellText
+{
+public:
+    explicit CellText(const OutputChoices& choices) : m_isAscii(choices.isAscii), m_cuts(choices.cutsTexts) {}
+
+    // Headings, labels and whatever stands outside the table, of which nothing is to be lost.
+    std::vector<std::string> wrapped(std::string_view text, int width) const;
+
+    // Texts of the parts list: one line where they are to be cut.
+    std::vector<std::string> fitted(std::string_view text, int width) const;
+
+private:
+    bool m_isAscii;
+    bool m_cuts;
+};
+}
