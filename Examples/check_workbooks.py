@@ -91,7 +91,7 @@ def look_differences(sheet):
         found.append(f"levels {sorted(levels)} of the outline")
     for column in sheet.iter_cols(min_row=row):
         width = sheet.column_dimensions[column[0].column_letter].width
-        widest = max(len(shown(cell)) for cell in column if not isinstance(cell.value, str))
+        widest = max((len(shown(cell)) for cell in column if not isinstance(cell.value, str)), default=0)
         if width < widest:
             found.append(f"column {column[0].value} is {width} wide, its numbers {widest}")
     return found

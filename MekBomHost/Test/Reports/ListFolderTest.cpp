@@ -124,6 +124,11 @@ TEST(ListFolderTest, WorkbooksOfSeveralProgramsAreRead)
     expectList("workbooks-of-several-programs");
 }
 
+TEST(ListFolderTest, ExportsOfSeveralProgramsAreRead)
+{
+    expectList("exports-of-several-programs");
+}
+
 TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 {
     expectList("frame-metric");

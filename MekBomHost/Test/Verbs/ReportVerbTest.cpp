@@ -157,13 +157,31 @@ TEST_F(ReportVerbTest, SeveralOutputsComeFromOneRun)
 
 TEST_F(ReportVerbTest, WhatAListIsMadeOfIsToldBesideCsv)
 {
-    const ProgramRun run = report({ "--to", "csv" });
+    const ProgramRun beside = report({ "--to", "csv" });
+    const ProgramRun within = report({ "--to", "csv", "--foot" });
 
-    EXPECT_EQ("Weight [kg],Length [mm]\r\n10,2286\r\n", run.output);
-    EXPECT_EQ("mekbom: note: 1 row read, 1 listed\n", run.errors);
-    const ProgramRun withFoot = report({ "--to", "csv", "--foot" });
-    EXPECT_EQ("Weight [kg],Length [mm]\r\n10,2286\r\n,\r\n\"1 row read, 1 listed\",\r\n", withFoot.output);
-    EXPECT_EQ("", withFoot.errors);
+    EXPECT_EQ("Weight [kg],Length [mm]\r\n10,2286\r\n", beside.output);
+    EXPECT_EQ("mekbom: note: 1 row read, 1 listed\n"
+              "mekbom: note: Lengths and weights without a unit were read as mm and kg\n",
+              beside.errors);
+    EXPECT_EQ(beside.output + ",\r\n\"1 row read, 1 listed\",\r\n"
+                              "Lengths and weights without a unit were read as mm and kg,\r\n",
+              within.output);
+    EXPECT_EQ("", within.errors);
+}
+
+TEST_F(ReportVerbTest, ASummaryIsPrintedInEveryFormat)
+{
+    const std::string list = m_folder.file("totals.json", R"({ "equalLines": "keep", "sections": [
+        { "type": "kReportHeader", "children": [ { "type": "kDetails", "tuples": [ { "token": "%Length" } ] } ] },
+        { "type": "kReportFooter", "tuples": [ { "token": "%SumBy:%Weight" } ] } ] })");
+    const std::vector<std::string> summary = { "--template", list, "--summary" };
+    std::vector<std::string> arguments = { "report", "--data", m_parts };
+    arguments.insert(arguments.end(), summary.begin(), summary.end());
+
+    EXPECT_EQ("Weight [kg]\n-----------\n         10\n", withoutFoot(runHere(arguments).output));
+    arguments.insert(arguments.end(), { "--to", "csv" });
+    EXPECT_EQ("Weight [kg]\r\n10\r\n", runHere(arguments).output);
 }
 
 TEST_F(ReportVerbTest, TheListOfAssembliesIsNotOverwritten)

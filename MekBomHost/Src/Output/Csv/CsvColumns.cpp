@@ -68,9 +68,10 @@ CsvColumns CsvColumns::of(const EvaluatedReport& report, bool hasNumbers)
         const std::string heading = hasNumbers ? column.headingOfNumbers() : column.heading();
         for (const Filling& filling : fillings[index])
         {
-            const bool isInnermost = &filling == &fillings[index].back();
+            const bool isRepeatedNumber = column.isNumeric && filling.place.level < fields.last.level;
+            const bool isOfGroup = isRepeatedNumber || &filling != &fillings[index].back();
             fields.columns.push_back(
-                { isInnermost ? heading : headingOfGroup(heading, filling.place.level), index, filling.place });
+                { isOfGroup ? headingOfGroup(heading, filling.place.level) : heading, index, filling.place });
         }
     }
     return fields;

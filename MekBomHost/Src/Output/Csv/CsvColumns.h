@@ -29,6 +29,8 @@ struct CsvColumns
 {
     // Columns stand in the order of the list. Those that nothing but totals above the records would fill are left out.
     // What an outer group and a line of it show in one column has a column each, the group's first: "Profile (group 1)".
+    // So are numbers of groups called, since every line repeats them, and who adds them up gets nothing that means
+    // anything: "Number (group 1)".
     // `hasNumbers` asks for headings of ReportColumn::numbers.
     static CsvColumns of(const EvaluatedReport& report, bool hasNumbers);
 

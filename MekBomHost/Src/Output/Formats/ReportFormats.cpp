@@ -4,6 +4,7 @@
 #include "ReportFormats.h"
 
 #include "CsvWriter.h"
+#include "HtmlWriter.h"
 #include "JsonListWriter.h"
 #include "TextTableWriter.h"
 #include "XlsxWriter.h"
@@ -44,12 +45,13 @@ const Format kFormats[] = {
     { kText, "txt", OutputChoices::kWidth | OutputChoices::kCut | OutputChoices::kAscii, create<TextTableWriter> },
     { "csv", "csv", kChoicesOfRecords | OutputChoices::kDelimiter, create<CsvWriter> },
     { "tsv", "tsv", kChoicesOfRecords, create<TsvWriter> },
+    { "html", "html htm", 0, create<HtmlWriter> },
     { "json", "json", 0, create<JsonListWriter> },
     { "xlsx", "xlsx", OutputChoices::kValues, create<XlsxWriter> },
 };
 
 // Endings that stand for a format which has no line above.
-const std::string_view kOtherEndings = "htm html jsonl xml yaml xls ods doc docx odt rtf pdf";
+const std::string_view kOtherEndings = "jsonl xml yaml xls ods doc docx odt rtf pdf";
 
 // "Parts.XLSX" -> "xlsx"; empty for "list" and for "lists.d/list".
 std::string endingOf(std::string_view fileName)

@@ -111,6 +111,9 @@ void write(const EvaluatedReport& report, WorkbookFile& file, CellFormats& forma
         addRows(report.foot(), pen);
         addTotals(report.foot(), pen);
     }
+    pen.addHeading("In words", "");
+    for (const std::string& line : report.foot().lines())
+        pen.addRemark(line);
     addColumns(report, pen);
     pen.addHeading("Numbers", "");
     pen.addRemark("Cells show what the list prints and hold more decimals where there are more.");

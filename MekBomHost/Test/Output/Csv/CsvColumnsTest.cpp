@@ -61,6 +61,13 @@ TEST(CsvColumnsTest, TwoDataInOneColumnAreTwoFields)
               fieldsOf(groupsOf(kMaterial, R"({ "token": "%Name", "column": "%Material" })")));
 }
 
+// A line of a group of two pieces would add two pieces to whoever sums the column.
+TEST(CsvColumnsTest, NumbersOfGroupsAreCalledSo)
+{
+    EXPECT_EQ("Material, Quantity (group 1), Name | 2",
+              fieldsOf(groupsOf(R"(, { "token": "%Material" }, { "token": "%Quantity" })", R"({ "token": "%Name" })")));
+}
+
 TEST(CsvColumnsTest, TotalsAreFieldsWhereGroupsAreTheRecords)
 {
     EXPECT_EQ("Material, Weight [kg] | 1 footer",
