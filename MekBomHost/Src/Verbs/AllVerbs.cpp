@@ -2,6 +2,7 @@
 
 #include "CheckVerb.h"
 #include "DemoVerb.h"
+#include "DescribeVerb.h"
 #include "ExplainVerb.h"
 #include "FormulaVerb.h"
 #include "HelpVerb.h"
@@ -20,6 +21,7 @@ VerbList allVerbs()
     verbs.add(std::make_unique<ReportVerb>());
     verbs.add(std::make_unique<DemoVerb>());
     verbs.add(std::make_unique<CheckVerb>());
+    verbs.add(std::make_unique<DescribeVerb>());
     verbs.add(std::make_unique<NewListVerb>());
     verbs.add(std::make_unique<ExplainVerb>());
     verbs.add(std::make_unique<FormulaVerb>());

@@ -57,7 +57,7 @@ const char* const ReportVerb::kNotes = R"(Data
   may carry a unit of its own: 7'-6 1/2", 7.5 ft. Empty cells are no data. Handle is the
   identity of the object, Quantity how many of them a row stands for (1 where it does not
   say). Other values are those of one piece, or of all in the columns that --row-totals
-  names.
+  names. mekbom describe prints what stands in the columns of a file, and what is odd.
 
 Template
   The shipped lists go by name: cutting-list, assembly-list, bolt-list, parts-list.
