@@ -24,7 +24,7 @@ public:
     {
         if (m_pen.numRows() > 0)
             m_pen.beginRow();
-        addTexts(what, value, { CellLook::kHeading, false, false });
+        addTexts(what, value, { CellLook::kHeading });
     }
 
     void add(const std::string& what, const std::string& text) { addTexts(what, text, CellLook()); }
@@ -35,7 +35,7 @@ public:
         m_pen.writeText(0, what, CellLook());
         const std::string text = std::to_string(number);
         const CellNumber cell = { static_cast<double>(number), 0, 1 };
-        m_pen.writeNumber(1, cell, static_cast<int>(text.size()), { CellLook::kLine, false, false });
+        m_pen.writeNumber(1, cell, static_cast<int>(text.size()), CellLook());
     }
 
     void addIfAny(const std::string& what, int number)

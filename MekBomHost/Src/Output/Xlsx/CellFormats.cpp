@@ -51,22 +51,24 @@ lxw_format* CellFormats::ofLongText(const CellLook& look)
 // A number has at most kMostDigits decimals and zeros, fewer than 64 together, and at most 13 groups.
 lxw_format* CellFormats::find(const CellLook& look, eContent content, const CellNumber& number)
 {
-    const auto key =
-        static_cast<std::uint32_t>(number.numDecimals | number.numGroups << 6 | content << 10 |
-                                   (look.isRight ? 1 : 0) << 12 | (look.wraps ? 1 : 0) << 13 | look.role << 14);
+    const auto key = static_cast<std::uint32_t>(number.numDecimals | number.numGroups << 6 | content << 10 |
+                                                (look.isRight ? 1 : 0) << 12 | (look.wraps ? 1 : 0) << 13 |
+                                                (look.isIndented ? 1 : 0) << 14 | look.role << 15);
     const auto [place, isNew] = m_formats.try_emplace(key, nullptr);
     if (isNew)
         place->second = create(look, content, number);
     return place->second;
 }
 
-// The text of a cell with several lines begins at its top, and so do those beside it.
+// Texts beside one of several lines stand at its middle.
 lxw_format* CellFormats::create(const CellLook& look, eContent content, const CellNumber& number)
 {
     lxw_format* const pFormat = workbook_add_format(&m_workbook);
     setRole(pFormat, look.role);
     format_set_align(pFormat, look.isRight ? LXW_ALIGN_RIGHT : LXW_ALIGN_LEFT);
-    format_set_align(pFormat, look.role == CellLook::kHeading ? LXW_ALIGN_VERTICAL_BOTTOM : LXW_ALIGN_VERTICAL_TOP);
+    format_set_align(pFormat, LXW_ALIGN_VERTICAL_CENTER);
+    if (look.isIndented)
+        format_set_indent(pFormat, 1);
     if (look.wraps)
         format_set_text_wrap(pFormat);
     if (content == kNumber)

@@ -1,7 +1,7 @@
 // The formats of the cells of one workbook, each made when a cell first asks for it.
 //
 //   CellFormats formats(workbook);
-//   formats.of({ CellLook::kTotal, true, false }, *CellNumber::of("8.50", 8.5));   bold, right, "0.00", a rule above it
+//   formats.of({ CellLook::kTotal, true }, *CellNumber::of("8.50", 8.5));   bold, right, "0.00", a rule above it
 //
 // A workbook has as many as its cells look different, some dozens.
 #pragma once
@@ -30,7 +30,8 @@ struct CellLook
 
     eRole role = kLine;
     bool isRight = false;
-    bool wraps = false; // the text goes on in further lines of its cell
+    bool wraps = false;      // the text goes on in further lines of its cell
+    bool isIndented = false; // the text keeps off numbers that end where its cell begins
 };
 
 class CellFormats

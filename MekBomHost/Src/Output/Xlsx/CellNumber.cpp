@@ -18,9 +18,11 @@ namespace
 const std::size_t kGroupSize = 3;
 const std::size_t kLongest = 40; // characters, more than any text of a number that is printed without an exponent
 
-// A number is only kept where it is safely nearer to what is printed than to its neighbours: programs differ in how
-// they round what lies between two.
+// A number that is safely nearer to what is printed than to its neighbours is shown so by whatever program.
 const double kSafelyWithinHalf = 0.499999;
+
+// Up to there a half more or less of a number of the last decimal is exact, and has no more digits than are shown.
+const double kMostSteps = 1e14;
 
 // The parts of a text that is a number.
 class PrintedNumber
@@ -107,12 +109,22 @@ private:
     int m_numZerosAtEnd = 0;
 };
 
-// Whether whoever rounds `value` to that many decimals gets `printed`. A number that is printed without a sign must not
-// have one: some programs would show "-0".
+// Whether `value` is the number in the middle between `printed` and the one before it, as 15.965 is before 15.97: the
+// decimal number, to which the double is the nearest there is. Lists and spreadsheets round that away from zero.
+bool isMiddleBefore(double value, double printed, double stepsPerOne)
+{
+    const double steps = std::round(std::fabs(printed) * stepsPerOne);
+    return steps < kMostSteps && std::fabs(value) == (steps - 0.5) / stepsPerOne;
+}
+
+// Whether programs that round `value` to that many decimals show `printed`. A number that is printed without a sign must
+// not have one: some programs would show "-0".
 bool isShownAs(double value, double printed, int numDecimals)
 {
-    const bool hasSameSign = std::signbit(value) == std::signbit(printed);
-    return hasSameSign && std::fabs(value - printed) < kSafelyWithinHalf * std::pow(10.0, -numDecimals);
+    const double stepsPerOne = std::pow(10.0, numDecimals);
+    return std::signbit(value) == std::signbit(printed) &&
+           (std::fabs(value - printed) * stepsPerOne < kSafelyWithinHalf ||
+            isMiddleBefore(value, printed, stepsPerOne));
 }
 }
 

@@ -13,13 +13,13 @@
 #include "SheetText.h"
 #include "WorkbookLimits.h"
 
-#include <utility>
+#include <optional>
 
 namespace mekbom
 {
 namespace
 {
-const double kMostPortraitWidth = 95;    // characters beside each other on the shorter side of a page
+const double kMostPortraitWidth = 105;   // characters beside each other on the shorter side of a page
 const std::size_t kLongestInPrint = 100; // arbitrary: leaves room for the page number in the 255 that there are
 const int kBesideWidth = 10;             // 99999.999 and a sign
 }
@@ -35,9 +35,11 @@ void ListSheets::placeColumns()
 {
     for (const ReportColumn& column : m_report.columns())
     {
-        SheetColumn sheetColumn(column);
+        const SheetColumn sheetColumn(column);
         const bool hasBeside = m_settings.hasNumbersBeside && sheetColumn.hasNumbersBeside();
-        m_places.push_back({ std::move(sheetColumn), m_numColumns, hasBeside });
+        const bool isIndented = !column.isAlignedRight && !m_places.empty() &&
+                                (m_places.back().column.isAlignedRight() || m_places.back().hasBeside);
+        m_places.push_back({ sheetColumn, m_numColumns, hasBeside, isIndented });
         m_numColumns += hasBeside ? 2 : 1;
     }
     if (m_numColumns > WorkbookLimits::kMostColumns)
@@ -85,10 +87,10 @@ void ListSheets::writeHeadings()
     m_pPen->beginRow();
     for (const Place& place : m_places)
     {
-        const CellLook look = { CellLook::kHeading, place.column.isAlignedRight(), false };
+        const CellLook look = { CellLook::kHeading, place.column.isAlignedRight(), false, place.isIndented };
         m_pPen->writeText(place.index, place.column.heading(), look, place.column.textLimit());
         if (place.hasBeside)
-            m_pPen->writeText(place.index + 1, place.column.besideHeading(), { CellLook::kHeading, true, false });
+            m_pPen->writeText(place.index + 1, place.column.besideHeading(), { CellLook::kHeading, true });
     }
 }
 
@@ -109,6 +111,7 @@ void ListSheets::writeLine(const ReportLine& line)
     for (std::size_t i = 0; i < m_places.size(); ++i)
     {
         m_look.isRight = m_places[i].column.isAlignedRight();
+        m_look.isIndented = m_places[i].isIndented;
         if (line.labelColumn == static_cast<int>(i))
             m_pPen->writeText(m_places[i].index, line.label, m_look, m_places[i].column.textLimit());
         else
@@ -134,10 +137,11 @@ void ListSheets::writeCell(const Place& place, const ShownText& text, const VorB
 
 void ListSheets::writeBeside(const Place& place, const VorBomTypedValue& value)
 {
+    const CellLook look = { m_look.role, true };
     if (const std::optional<CellNumber> number = place.column.numberBeside(value))
-        m_pPen->writeNumber(place.index + 1, *number, kBesideWidth, m_look);
-    else if (m_look.role == CellLook::kTotal)
-        m_pPen->writeEmpty(place.index + 1, m_look);
+        m_pPen->writeNumber(place.index + 1, *number, kBesideWidth, look);
+    else if (look.role == CellLook::kTotal)
+        m_pPen->writeEmpty(place.index + 1, look);
 }
 
 CellLook ListSheets::lookOf(const LinePlace& place) const
@@ -170,8 +174,10 @@ void ListSheets::setUpPage(double width)
     if (width > kMostPortraitWidth)
         worksheet_set_landscape(pSheet);
     WorkbookFile::require(worksheet_repeat_rows(pSheet, m_headingRow, m_headingRow));
-    const std::string title = SheetText::inPrint(m_report.title(), kLongestInPrint);
-    WorkbookFile::require(worksheet_set_footer(pSheet, ("&L" + title + "&RPage &P of &N").c_str()));
+    std::string footer = "&RPage &P of &N";
+    if (!m_report.title().empty())
+        footer = "&L" + SheetText::inPrint(m_report.title(), kLongestInPrint) + footer;
+    WorkbookFile::require(worksheet_set_footer(pSheet, footer.c_str()));
 }
 
 std::string ListSheets::nameOf(int sheet) const

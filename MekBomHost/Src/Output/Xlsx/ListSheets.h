@@ -35,6 +35,7 @@ private:
         SheetColumn column;
         std::size_t index; // on the sheet
         bool hasBeside;    // its numbers stand in the sheet's next column
+        bool isIndented;   // it has texts, and the column before it numbers
     };
 
     void placeColumns();

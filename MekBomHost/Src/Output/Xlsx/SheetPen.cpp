@@ -16,6 +16,7 @@ namespace
 // Widths are counted in digits, than which the letters of most texts, and all bold ones, are a little wider.
 const double kRoomPerCharacter = 1.1;
 const double kRoomAtEnds = 1;
+const int kIndent = 2; // characters, about as wide as an indent
 const std::size_t kLongestCellName = 16;
 
 const std::uint8_t kA4 = 9;
@@ -71,7 +72,7 @@ void SheetPen::writeText(std::size_t column, std::string_view text, CellLook loo
     requireLength(column, text);
     const int width = widthOf(text);
     look.wraps = width > limit || hasLines(m_text);
-    makeRoom(column, std::min(width, limit));
+    makeRoom(column, std::min(width, limit) + (look.isIndented ? kIndent : 0));
     putText(column, m_text.size() > CellFormats::kLongestTyped ? m_formats.ofLongText(look) : m_formats.ofText(look));
 }
 
@@ -96,7 +97,7 @@ void SheetPen::writeAcross(std::string_view text, CellLook::eRole role)
         SheetText::inCell(line, m_text);
         requireLength(0, line);
         if (!line.empty())
-            putText(0, m_formats.ofText({ role, false, false }));
+            putText(0, m_formats.ofText({ role }));
     }
 }
 

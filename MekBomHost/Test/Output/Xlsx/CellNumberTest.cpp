@@ -40,12 +40,29 @@ TEST(CellNumberTest, ACellHoldsMoreThanItShows)
     EXPECT_EQ("0.001 as 0", cellOf("0", 0.001));
 }
 
-// 2.675 is a little less in binary: who rounds the digits shows 2.68, who rounds the double 2.67.
-TEST(CellNumberTest, WhatProgramsRoundDifferentlyIsStoredAsPrinted)
+// Spreadsheets round as lists do: away from zero, and the digits, not the double, which is a little below 2.675.
+TEST(CellNumberTest, TheMiddleBetweenTwoNumbersIsStored)
 {
-    EXPECT_EQ("2.68 as 0.00", cellOf("2.68", 2.675));
-    EXPECT_EQ("1. as 0", cellOf("1", 0.5));
-    EXPECT_EQ("-1. as 0", cellOf("-1", -0.5));
+    EXPECT_EQ("2.675 as 0.00", cellOf("2.68", 2.675));
+    EXPECT_EQ("15.965 as 0.00", cellOf("15.97", 15.965));
+    EXPECT_EQ("-15.965 as 0.00", cellOf("-15.97", -15.965));
+    EXPECT_EQ("0.5 as 0", cellOf("1", 0.5));
+    EXPECT_EQ("-0.5 as 0", cellOf("-1", -0.5));
+}
+
+TEST(CellNumberTest, TheMiddleIsStoredOnlyWhereItIsShownAsPrinted)
+{
+    EXPECT_EQ("2.67 as 0.00", cellOf("2.67", 2.675));
+    EXPECT_EQ("0. as 0", cellOf("0", 0.5));
+    EXPECT_EQ(0.0, CellNumber::of("0", -0.5)->number);
+}
+
+// Programs that keep fifteen digits take it for the middle, and lists do not.
+TEST(CellNumberTest, WhatIsNextToTheMiddleIsStoredAsPrinted)
+{
+    EXPECT_EQ(1.0, CellNumber::of("1.00", std::nextafter(1.005, 1))->number);
+    EXPECT_EQ(1.01, CellNumber::of("1.01", std::nextafter(1.005, 2))->number);
+    EXPECT_EQ(12345678901234.5, CellNumber::of("12345678901234.5", 12345678901234.45)->number);
 }
 
 TEST(CellNumberTest, AValueThatWouldShowAnotherTextIsNotStored)
