@@ -2,6 +2,7 @@
 # Installs what the build needs from Debian's packages, when it may; says exactly what is missing otherwise.
 #   sh Scripts/setup.sh            compiler, cmake, ninja, python, and the host program's libraries
 #   sh Scripts/setup.sh --checks   also clang, its sanitizer runtime, clang-format and -tidy, valgrind, Google Benchmark
+#   sh Scripts/setup.sh --browser  also Chromium and pdftotext, for the test that opens pages of lists
 #   sh Scripts/setup.sh --bench    also Google Benchmark, and the tools and libraries that the benchmarks compare with
 # Also makes the locale de_DE.UTF-8 where it may: tests hold numbers against its decimal comma, and skip without it.
 set -eu
@@ -11,11 +12,12 @@ packages="$packages libzip-dev libpugixml-dev python3-jsonschema"
 for argument in "$@"; do
     case "$argument" in
         --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy valgrind libbenchmark-dev" ;;
+        --browser) packages="$packages chromium poppler-utils" ;;
         --bench)
             packages="$packages libbenchmark-dev sqlite3 libsqlite3-dev python3-pandas libfparser-dev libmuparser-dev"
             packages="$packages liblua5.4-dev miller time"
             ;;
-        *) echo "setup.sh: unknown argument '$argument'; expected --checks or --bench" >&2; exit 2 ;;
+        *) echo "setup.sh: unknown argument '$argument'; expected --checks, --browser or --bench" >&2; exit 2 ;;
     esac
 done
 

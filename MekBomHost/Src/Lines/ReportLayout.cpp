@@ -15,6 +15,7 @@
 
 #include "VorBomDataToken.h"
 #include "VorBomDataTuple.h"
+#include "VorBomTemplateItem.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -30,6 +31,12 @@ std::string labelOf(const VorString& token)
     if (VorBomDataToken::removeFormulaPrefix(label) == 0 && label.find(VorBomDataToken::kTokenPrefix, 0) == 0)
         label = label.right(label.length() - 1);
     return Utf8::toBytes(label);
+}
+
+bool isOfPage(const VorBomItemBase& section)
+{
+    const auto type = static_cast<const VorBomTemplateItem&>(section).type(); // children of sections are sections
+    return type == VorBomTemplateItem::kPageHeader || type == VorBomTemplateItem::kPageFooter;
 }
 
 // A header "HEA200" and its total "4" read as one line; two numbers in one column, or two labels, would not fit.
@@ -125,6 +132,7 @@ SectionLayout ReportLayout::layOut(const ReportTemplate& reportTemplate, const V
     if (pSection == nullptr || !reportTemplate.styleOf(pSection).isPrinted)
         return section;
     section.label = reportTemplate.styleOf(pSection).label;
+    section.isOfPage = isOfPage(*pSection);
     std::set<int> taken;
     for (const int tupleIndex : reportTemplate.shownTuplesOf(*pSection))
     {

@@ -32,6 +32,7 @@ struct SectionLayout
     int labelColumn = -1;          // the first that shows no tuple; -1 when there is none
     std::vector<int> columns;      // of the tuples that are shown, in their order
     std::vector<VorString> tokens; // of the same tuples
+    bool isOfPage = false;         // the template calls it a page header or a page footer
 };
 
 // A header section and the footer after it.

@@ -129,6 +129,11 @@ TEST(ListFolderTest, OneListIsWrittenInAllFormats)
     expectList("formats-of-one-list");
 }
 
+TEST(ListFolderTest, ExportsOfSeveralProgramsAreRead)
+{
+    expectList("exports-of-several-programs");
+}
+
 TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 {
     expectList("frame-metric");

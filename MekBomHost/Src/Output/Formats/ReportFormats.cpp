@@ -4,6 +4,7 @@
 #include "ReportFormats.h"
 
 #include "CsvWriter.h"
+#include "HtmlWriter.h"
 #include "JsonListWriter.h"
 #include "TextTableWriter.h"
 
@@ -44,11 +45,12 @@ const Format kFormats[] = {
     { kText, "txt", OutputChoices::kWidth | OutputChoices::kCut | OutputChoices::kAscii, create<TextTableWriter> },
     { "csv", "csv", kChoicesOfRecords | OutputChoices::kDelimiter, create<CsvWriter> },
     { "tsv", "tsv", kChoicesOfRecords, create<TsvWriter> },
+    { "html", "html htm", 0, create<HtmlWriter> },
     { "json", "json", 0, create<JsonListWriter> },
 };
 
 // Endings that stand for a format which has no line above.
-const std::string_view kOtherEndings = "htm html jsonl xml yaml xls xlsx ods doc docx odt rtf pdf";
+const std::string_view kOtherEndings = "jsonl xml yaml xls xlsx ods doc docx odt rtf pdf";
 
 // "Parts.XLSX" -> "xlsx"; empty for "list" and for "lists.d/list".
 std::string endingOf(std::string_view fileName)

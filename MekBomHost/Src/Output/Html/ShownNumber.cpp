@@ -1,0 +1,42 @@
+#include "ShownNumber.h"
+
+#include "MekRoots/Exp/VorCharacters.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace mekbom::ShownNumber
+{
+namespace
+{
+bool areDigits(std::string_view text)
+{
+    return !text.empty() && std::all_of(text.begin(), text.end(), VorCharacters::isDigit<char>);
+}
+
+bool areDigitsOrBlanks(std::string_view text)
+{
+    const auto isEither = [](char c) { return c == ' ' || VorCharacters::isDigit(c); };
+    return !text.empty() && VorCharacters::isDigit(text.front()) && VorCharacters::isDigit(text.back()) &&
+           std::all_of(text.begin(), text.end(), isEither);
+}
+}
+
+int numDecimals(std::string_view text)
+{
+    if (!text.empty() && text.front() == '-')
+        text.remove_prefix(1);
+    const std::size_t point = text.find('.');
+    if (!areDigitsOrBlanks(text.substr(0, point)))
+        return kNoDecimal;
+    if (point == std::string_view::npos)
+        return 0;
+    const std::string_view decimals = text.substr(point + 1);
+    return areDigits(decimals) ? static_cast<int>(decimals.size()) : kNoDecimal;
+}
+
+bool isPlain(std::string_view text)
+{
+    return numDecimals(text) != kNoDecimal && text.find(' ') == std::string_view::npos;
+}
+}
