@@ -53,7 +53,8 @@ const char* const ReportVerb::kNotes = R"(Data
   identity of the object, Quantity how many of them a row stands for (1 where it does not
   say). Other values are those of one piece, or of all in the columns that --row-totals
   names. Rows that name others as their Parent are parts of these: --flatten multiplies
-  their pieces, --sets 10 those of all rows.
+  their pieces, --sets 10 those of all rows. mekbom describe prints what stands in the
+  columns of a file, and what is odd.
 
 Template
   The shipped lists go by name: cutting-list, assembly-list, bolt-list, parts-list.
