@@ -71,8 +71,8 @@ Units
 
 Output
   -o names a file, several times for several, all of them from one evaluation. Its ending
-  tells the format: .txt, .csv, .tsv or .json; --to is that of outputs whose names tell
-  none, and of standard output. Files are replaced when all outputs are complete. CSV has
+  tells the format, such as .txt, .csv, .html or .json; --to is that of outputs whose names
+  tell none, and of standard output. Files are replaced when all outputs are complete. CSV has
   a record for each line, with what its groups show and without totals, so that a column
   adds up to its total; --values plain gives numbers in full, in feet where the list shows
   feet and inches. A text that a spreadsheet would run gets an apostrophe in front. What
