@@ -1,7 +1,7 @@
 """Runs the benchmarks of a build on the same rows, prints tables with medians and ratios, and writes them as JSON.
 
     python3 Scripts/bench.py --build build/bench [--sizes 10000,100000,1000000]
-                             [--sections evaluate,shapes,threads,formulas,job,inputs,curves]
+                             [--sections evaluate,shapes,threads,formulas,job,inputs,outputs,curves]
                              [--rounds 3] [--json build/bench/bench.json] [--document Docs/PERFORMANCE.md]
 
 Reports are compared on two sets of rows, named in bench_tables.TEXTS. All programs get the same environment, in which
@@ -27,7 +27,8 @@ COMPARISON = ROOT / "MekBomEngine/Bench/Comparison"
 GENERATOR = ROOT / "MekBomHost/Bench/generate_parts.py"
 WHOLE_JOB = ROOT / "MekBomHost/Bench/whole_job.py"
 INPUT_FORMATS = ROOT / "MekBomHost/Bench/input_formats.py"
-SECTIONS = ["evaluate", "shapes", "threads", "formulas", "job", "inputs", "curves"]
+OUTPUTS = ROOT / "MekBomHost/Bench/outputs.py"
+SECTIONS = ["evaluate", "shapes", "threads", "formulas", "job", "inputs", "outputs", "curves"]
 
 # Fresh pages are dear on virtual machines: nothing is given back to the system, and what is asked for comes in plenty.
 MEMORY_STAYS = {
@@ -245,6 +246,13 @@ def recognition(build):
             for name in bench_tables.DIALECTS for rows in (1_000, 20_000)]
 
 
+def compare_outputs(build, size, rounds):
+    """The lines of outputs.py."""
+    print(f"{size} rows: outputs", file=sys.stderr)
+    return run_json_lines([sys.executable, OUTPUTS, "--program", build / "MekBomHost/mekbom", "--data",
+                           generate_rows(build, bench_tables.ROUND_LENGTHS, size), "--runs", rounds_at(size, rounds) + 1])
+
+
 def run_curves(build):
     """Benchmarks of single operations, each with a series of sizes."""
     results = []
@@ -299,6 +307,7 @@ def run_sections(build, sections, sizes, rounds):
         "job": lambda: {"rows": max(sizes), "programs": compare_jobs(build, max(sizes), rounds)},
         "inputs": lambda: {"rows": max(sizes), "formats": compare_formats(build, max(sizes), rounds),
                            "recognition": recognition(build)},
+        "outputs": lambda: {"rows": max(sizes), "formats": compare_outputs(build, max(sizes), rounds)},
         "curves": lambda: run_curves(build),
     }
     return {section: measure[section]() for section in SECTIONS if section in sections}

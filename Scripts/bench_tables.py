@@ -168,6 +168,17 @@ def recognition_table(recognition):
                   "per cent to recognise it"], rows)
 
 
+def outputs_of(outputs):
+    return {line["name"]: line for line in outputs["formats"]}
+
+
+def outputs_table(outputs):
+    found = outputs_of(outputs)
+    rows = [[name, number(line["seconds"]), number(line["peak_mib"]), number(line["file_mib"]),
+             number(line["seconds"] / found["text"]["seconds"])] for name, line in found.items()]
+    return table([f"file of {outputs['rows']} rows to list", "seconds", "peak MiB", "MiB written", "to text"], rows)
+
+
 def curves_of(results):
     """Benchmark to {size: ns per iteration}; the last argument is the size."""
     curves = {}
@@ -264,6 +275,17 @@ def inputs_bounds(recognition):
                     + DIALECTS[worst["name"]], percent_to_recognise(worst), MOST_TO_RECOGNISE)]
 
 
+def outputs_bounds(outputs):
+    found = outputs_of(outputs)
+    pandas = found.pop("pandas, xlsx", None)
+    workbook = found.pop("xlsx")
+    text = found.pop("text")
+    bounds_found = [at_most(f"{name} to text", line["seconds"] / text["seconds"], 3) for name, line in found.items()]
+    if pandas:
+        bounds_found.append(at_least("workbook: pandas' writer to mekbom", pandas["seconds"] / workbook["seconds"], 5))
+    return bounds_found
+
+
 def bounds(results):
     found = []
     if "evaluate" in results:
@@ -284,6 +306,8 @@ def bounds(results):
             found += job_bounds(results["job"], lengths)
     if results.get("inputs", {}).get("recognition"):
         found += inputs_bounds(results["inputs"]["recognition"])
+    if "outputs" in results:
+        found += outputs_bounds(results["outputs"])
     if "curves" in results:
         growths = {family: worst_growth(curve) for family, curve in curves_of(results).items()}
         worst = max(growths, key=growths.get)
@@ -316,6 +340,8 @@ def all_tables(results):
         parts.append(formats_table(results["inputs"]))
         if results["inputs"]["recognition"]:
             parts.append(recognition_table(results["inputs"]["recognition"]))
+    if "outputs" in results:
+        parts.append(outputs_table(results["outputs"]))
     if "curves" in results:
         parts.append(curves_table(results))
     return "\n\n".join([*parts, bounds_table(results)])

@@ -8,7 +8,7 @@
 set -eu
 
 packages="g++ cmake ninja-build python3 locales libgtest-dev libcli11-dev nlohmann-json3-dev libutf8proc-dev"
-packages="$packages libzip-dev libpugixml-dev python3-jsonschema"
+packages="$packages libzip-dev libpugixml-dev libxlsxwriter-dev python3-jsonschema python3-openpyxl"
 for argument in "$@"; do
     case "$argument" in
         --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy valgrind libbenchmark-dev" ;;

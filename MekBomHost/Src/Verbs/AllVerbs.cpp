@@ -2,6 +2,7 @@
 
 #include "CheckVerb.h"
 #include "DemoVerb.h"
+#include "DescribeVerb.h"
 #include "DiffVerb.h"
 #include "ExplainVerb.h"
 #include "FormulaVerb.h"
@@ -22,6 +23,7 @@ VerbList allVerbs()
     verbs.add(std::make_unique<DemoVerb>());
     verbs.add(std::make_unique<DiffVerb>());
     verbs.add(std::make_unique<CheckVerb>());
+    verbs.add(std::make_unique<DescribeVerb>());
     verbs.add(std::make_unique<NewListVerb>());
     verbs.add(std::make_unique<ExplainVerb>());
     verbs.add(std::make_unique<FormulaVerb>());

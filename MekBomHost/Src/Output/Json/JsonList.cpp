@@ -150,7 +150,7 @@ void JsonList::writeFooter(const ReportLine& line)
     closeDownTo(line.place.level + 1);
     openUpTo(line.place.level);
     closeInside();
-    m_text += ", \"footer\": {";
+    m_text += ",\n\"footer\": {";
     writeSection(line, { line.place.level, true });
     if (line.place.level == m_handleLevel && !isDeepest(m_handleLevel))
         writeHandles("handles", line.footerRows);
