@@ -2,7 +2,7 @@
 
     python3 convert_parts.py parts.csv "JSON Lines" parts.jsonl
 
-Every format has one text beyond ASCII in each row, CSV as it is, too. Numbers are stored as numbers where the format has
+Every format has one text beyond ASCII in each row, plain CSV too. Numbers are stored as numbers where the format has
 them.
 """
 

@@ -1,11 +1,12 @@
-"""Times one whole job on the same rows in each format of parts lists: from the file to a sorted, grouped and summed list
-in a text file, by mekbom.
+"""Times one whole job on the same rows in each format of parts lists: from the file to a sorted, grouped and summed
+list in a text file, by mekbom.
 
     python3 input_formats.py --program mekbom --data parts.csv --folder inputs --runs 3
 
-`--data` is what generate_parts.py wrote; `--folder` keeps the files made of it for the next time. Prints one JSON object
-per format: the median wall time in seconds, peak memory in MiB and the file's size in MB. The formats take turns, and of
-several runs the first, which fills caches, does not count. A format that gives another report ends it with status 1.
+`--data` is what generate_parts.py wrote; `--folder` keeps the files made of it for the next time. Prints one JSON
+object per format: the medians of wall time and processor time in seconds and of peak memory in MiB, and the file's size
+in MB. The formats take turns, and of several runs the first, which fills caches, does not count. A format that gives
+another report ends it with status 1.
 """
 
 import argparse
@@ -17,12 +18,12 @@ import subprocess
 import sys
 
 from convert_parts import FORMATS
-from whole_job import HERE, run
+from whole_job import HERE, Run, run
 
 
 def converted(parts, name, folder):
-    """The file of that format. It is made by a process of its own: what this one held would count as peak memory of those
-    it starts."""
+    """The file of that format. A process of its own makes it: what this one held would count as peak memory of those
+    that it starts."""
     path = folder / (parts.stem + FORMATS[name][1])
     if not path.exists():
         print(f"writing {path.name}", file=sys.stderr)
@@ -67,8 +68,10 @@ def main():
     folder.mkdir(exist_ok=True)
     files = {name: converted(arguments.data.resolve(), name, folder) for name in FORMATS}
     for name, results in measure(os.path.abspath(arguments.program), files, arguments.runs, folder).items():
-        print(json.dumps({"name": name, "seconds": round(statistics.median(seconds for seconds, _ in results), 3),
-                          "peak_mib": round(statistics.median(peak for _, peak in results)),
+        medians = Run(*map(statistics.median, zip(*results)))
+        print(json.dumps({"name": name, "seconds": round(medians.seconds, 3),
+                          "processor_seconds": round(medians.processor_seconds, 3),
+                          "peak_mib": round(medians.peak_mib),
                           "megabytes": round(files[name].stat().st_size / 1e6, 1)}))
 
 
