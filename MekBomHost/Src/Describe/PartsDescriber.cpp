@@ -3,7 +3,9 @@
 #include "ColumnTypes.h"
 #include "HeaderColumns.h"
 #include "HeaderRow.h"
+#include "InQuotes.h"
 #include "TokenKinds.h"
+#include "TokenNames.h"
 
 #include <algorithm>
 #include <map>
@@ -15,6 +17,7 @@ namespace mekbom
 namespace
 {
 const char* const kNumCells = "cells";
+const char* const kParents = "parents";
 
 template <class Predicate>
 std::size_t indexOf(const std::vector<InputColumn>& columns, const Predicate& isMeant)
@@ -60,6 +63,7 @@ void PartsDescriber::addColumns(std::vector<InputColumn> columns)
         m_notes.push_back(*note);
     m_handleColumn = indexOf(columns, [](const InputColumn& column) { return column.isHandle; });
     m_piecesColumn = indexOf(columns, [](const InputColumn& column) { return column.isPieces; });
+    m_parentColumn = indexOf(columns, [](const InputColumn& column) { return column.token == TokenNames::kParent; });
     m_columns.reserve(columns.size());
     for (std::size_t i = 0; i < columns.size(); ++i)
     {
@@ -139,6 +143,7 @@ void PartsDescriber::add(const Record& record)
         return;
     }
     ++m_description.numRows;
+    noteParent(record);
     const int numPieces = piecesOf(record);
     for (std::size_t i = 0; i < record.size(); ++i)
         if (!record[i].isNothing())
@@ -156,5 +161,23 @@ int PartsDescriber::piecesOf(const Record& record)
     const RecordCell& cell = record[m_piecesColumn];
     m_arePiecesKnown = m_arePiecesKnown && !cell.isRefused() && m_parser.readWhole(cell, numPieces);
     return numPieces;
+}
+
+// Of four rafters of two plates each the plates' row says two, and eight are needed.
+void PartsDescriber::noteParent(const Record& record)
+{
+    if (m_parentColumn == m_columns.size() || record[m_parentColumn].isNothing())
+        return;
+    m_hasParents = true;
+    m_oddRows.note(kParents,
+                   [&]
+                   {
+                       Finding finding;
+                       finding.statement = "names the parent " + inQuotes(m_parser.textOf(record[m_parentColumn])) +
+                                           ": --flatten multiplies pieces along parents, so there are no sums of "
+                                           "pieces, and sums of rows count parents beside their parts";
+                       m_source.placeCell(m_parentColumn, finding);
+                       return finding;
+                   });
 }
 }

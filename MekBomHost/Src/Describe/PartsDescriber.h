@@ -49,7 +49,8 @@ private:
     void tell(Finding finding, std::size_t column);
     void add(const Record& record);
     int piecesOf(const Record& record);
-    bool hasPieces() const { return m_piecesColumn < m_columns.size() && m_arePiecesKnown; }
+    void noteParent(const Record& record);
+    bool hasPieces() const { return m_piecesColumn < m_columns.size() && m_arePiecesKnown && !m_hasParents; }
 
     RecordSource& m_source;
     CellParser m_parser;
@@ -59,8 +60,10 @@ private:
     OddityLimit m_limit;
     OddCells m_oddRows{ m_limit };
     HandleCheck m_handles;
-    std::size_t m_handleColumn = 0; // that of the pieces as well: the number of columns where there is none
+    std::size_t m_handleColumn = 0; // of the handle, as of the next two: the number of columns where there is none
     std::size_t m_piecesColumn = 0;
+    std::size_t m_parentColumn = 0;
     bool m_arePiecesKnown = true;
+    bool m_hasParents = false; // rows are parts of others
 };
 }

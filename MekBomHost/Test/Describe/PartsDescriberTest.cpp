@@ -1,5 +1,6 @@
 #include "PartsDescriber.h"
 
+#include "InputLimits.h"
 #include "MemorySource.h"
 #include "PartsFormats.h"
 
@@ -115,6 +116,20 @@ TEST(PartsDescriberTest, OnlyWhatOnePieceHasIsMultipliedByThem)
                       "%AssemblyWeight [kg]: weight, kg, 1, 1 different, 9 to 9, sum 9",
                       "%Length [mm]: length, mm, 1, 1 different, 6000 to 6000, sum 6000, of pieces 24000" }),
               columnsOf(descriptionOf("Quantity,%Width [mm],%AssemblyWeight [kg],%Length [mm]\n4,80,9,6000\n")));
+}
+
+// Two plates of each of four rafters are eight, and the rafters weigh what their plates do.
+TEST(PartsDescriberTest, PartsWithinPartsHaveNoSumsOfPieces)
+{
+    const PartsDescription description =
+        descriptionOf("Handle,Parent,Quantity,Weight [kg]\nR,,4,20\nP,R,2,5\nQ,R,1,10\n");
+
+    EXPECT_FALSE(description.hasPieces);
+    EXPECT_EQ("Weight [kg]: weight, kg, 3, 3 different, 5 to 20, sum 35", columnsOf(description).back());
+    ASSERT_EQ(1u, description.oddities.size());
+    EXPECT_EQ(0u, description.oddities.front().find("a.csv:3:3: names the parent \"R\": --flatten multiplies pieces"))
+        << description.oddities.front();
+    EXPECT_TRUE(descriptionOf("Handle,Parent,Quantity\nR,,4\n").hasPieces);
 }
 
 TEST(PartsDescriberTest, NobodyAddsUpDensitiesNorWeightsPerLength)
@@ -338,7 +353,7 @@ TEST(PartsDescriberTest, AHeadingThatMustBeThereAndIsNotIsWrongUsage)
 
 TEST(PartsDescriberTest, ManyColumnsAreDescribed)
 {
-    const int numColumns = 100000;
+    const int numColumns = static_cast<int>(InputLimits::kMostColumns);
     std::string header;
     std::string row;
     for (int i = 0; i < numColumns; ++i)
@@ -350,14 +365,23 @@ TEST(PartsDescriberTest, ManyColumnsAreDescribed)
     const PartsDescription description = descriptionOf(header + "\n" + row + "\n" + row + "\n");
 
     ASSERT_EQ(static_cast<std::size_t>(numColumns), description.columns.size());
-    EXPECT_EQ("C99999: whole number, 2, 1 different, 99999 to 99999, sum 199998", columnsOf(description).back());
+    EXPECT_EQ("C16383: whole number, 2, 1 different, 16383 to 16383, sum 32766", columnsOf(description).back());
     EXPECT_EQ(Texts{}, description.oddities);
+}
+
+TEST(PartsDescriberTest, MoreColumnsThanAnyListHasAreRefused)
+{
+    std::string header = "C";
+    for (int i = 1; i < 100000; ++i)
+        header += ",C" + std::to_string(i);
+
+    EXPECT_EQ("3 a.csv:1: found 100000 columns, expected 16384 at most\n", faultOf([&] { descriptionOf(header); }));
 }
 
 // To find the place of one of them takes a look at the whole record.
 TEST(PartsDescriberTest, OfManyOddColumnsTheFirstFewAreTold)
 {
-    const int numColumns = 50000;
+    const int numColumns = static_cast<int>(InputLimits::kMostColumns);
     std::string header = "C";
     std::string row = "01";
     for (int i = 1; i < numColumns; ++i)
