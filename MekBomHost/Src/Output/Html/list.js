@@ -23,21 +23,27 @@ const searchedColumn = document.querySelector('.tools select');
 const foldAll = document.querySelector('.tools button');
 const status = document.querySelector('.status');
 
-const root = { head: [], foot: [], kids: [], isFound: true };
+const root = newNode(0);
 const groups = []; // the nodes that can be closed
 let numLines = 0;  // nodes without others in them
+let bodies = [...table.tBodies];
+const hasTotals = table.querySelector('tr[class^=f]') !== null;
 let sorted = { column: -1, sign: 1 };
+
+function newNode(index) {
+  return { head: [], foot: [], kids: [], index, isFound: true, isClosed: false, isShown: true };
+}
 
 // path[level + 1] is the node that is open on that level.
 function readTree() {
   const path = [root];
   const enter = () => {
     const siblings = path.at(-1).kids;
-    const node = { head: [], foot: [], kids: [], index: siblings.length, isFound: true, isClosed: false };
+    const node = newNode(siblings.length);
     siblings.push(node);
     path.push(node);
   };
-  for (const row of [...table.tBodies].flatMap(body => [...body.rows])) {
+  for (const row of bodies.flatMap(body => [...body.rows])) {
     const kind = row.className[0] ?? 'h';
     const level = row.className ? Number(row.className.slice(1)) : deepest;
     const keep = level + (kind === 'f' ? 2 : 1);
@@ -143,8 +149,17 @@ function sortBy(column) {
   headings.forEach(heading => heading.removeAttribute('aria-sort'));
   headings[sorted.column]?.setAttribute('aria-sort', sorted.sign > 0 ? 'ascending' : 'descending');
   visit(root, node => sorted.column < 0 ? unsortKids(node) : sortKids(node, sorted.column, sorted.sign));
-  arrange();
-  show();
+  changeRows(() => { arrange(); show(); });
+}
+
+// Rows that are nowhere change faster, and of those that come back a browser lays out no more than stand near its window.
+// What has the focus must not be among them.
+function changeRows(change) {
+  bodies.forEach(body => body.remove());
+  change();
+  const fragment = document.createDocumentFragment();
+  bodies.forEach(body => fragment.append(body));
+  table.tHead.after(fragment);
 }
 
 // Bodies begin where the file has them begin: at a group, or after so many rows that a browser had better not lay out
@@ -153,15 +168,14 @@ const leastRows = isLong ? 100 : 1;
 const mostRows = 200;
 
 function arrange() {
-  for (const body of [...table.tBodies]) // rows that are nowhere are moved faster
-    body.remove();
-  const bodies = document.createDocumentFragment();
   let body, numRows, last;
+  bodies = [];
   const append = row => {
     const kind = row.className[0];
     const isSeam = (kind === 'h' && last !== 'h') || (last === 'f' && kind !== 'f');
     if (!body || numRows >= mostRows || (isSeam && numRows >= leastRows)) {
-      body = bodies.appendChild(document.createElement('tbody'));
+      body = document.createElement('tbody');
+      bodies.push(body);
       numRows = 0;
     }
     body.append(row);
@@ -174,53 +188,52 @@ function arrange() {
     node.foot.forEach(append);
   };
   appendNode(root);
-  table.tHead.after(bodies);
 }
 
-// What a node can be found by: its texts in each column, and in all of them. The totals of a group are no part of its
-// lines.
-function readTexts(node) {
-  const rows = node.kids.length > 0 ? node.head : [...node.head, ...node.foot];
-  node.texts = headings.map((heading, column) =>
-    rows.map(row => row.cells[column]?.textContent.toLowerCase() ?? '').join('\n'));
-  node.text = node.texts.join('\n');
+// What a node can be found by in a column, or without one in all of them. The totals of a group are no part of its lines.
+function textOf(node, column) {
+  if (!node.texts) {
+    const rows = node.kids.length > 0 ? node.head : [...node.head, ...node.foot];
+    node.texts = headings.map((heading, index) =>
+      rows.map(row => row.cells[index]?.textContent.toLowerCase() ?? '').join('\n'));
+    node.text = node.texts.join('\n');
+  }
+  return column < 0 ? node.text : node.texts[column];
 }
 
-// A line is found by its own texts and those of the groups it stands in: every word, each in any place.
+// A line is found by its own texts and those of the groups it stands in: every word, each in any place. `words` are those
+// that no group around the node has.
+function find(node, words, column) {
+  const missing = words.length === 0 ? words : words.filter(word => !textOf(node, column).includes(word));
+  node.isFound = missing.length === 0;
+  if (node.kids.length > 0)
+    node.isFound = node.kids.filter(kid => find(kid, missing, column)).length > 0;
+  return node.isFound;
+}
+
 function search() {
   const words = searchedText.value.toLowerCase().split(/\s+/).filter(word => word !== '');
-  const column = Number(searchedColumn.value);
-  const find = (node, outerText) => {
-    if (node.text === undefined)
-      readTexts(node);
-    const text = outerText + '\n' + (column < 0 ? node.text : node.texts[column]);
-    if (node.kids.length === 0)
-      node.isFound = words.every(word => text.includes(word));
-    else
-      node.isFound = node.kids.filter(kid => find(kid, text)).length > 0;
-    return node.isFound;
-  };
-  find(root, '');
+  find(root, words, Number(searchedColumn.value));
   groups.forEach(group => fold(group, false)); // what is found is to be seen
-  show();
+  changeRows(show);
 }
 
 function show() {
-  const hide = (row, isHidden) => { if (row.hidden !== isHidden) row.hidden = isHidden; };
   let numShown = 0;
   const showNode = (node, isOpen) => {
     const isShown = isOpen && node.isFound;
-    for (const row of [...node.head, ...node.foot])
-      hide(row, !isShown);
-    if (isShown && node.kids.length === 0 && node !== root)
-      ++numShown;
-    for (const kid of node.kids)
-      showNode(kid, isShown && !node.isClosed);
+    if (node.isShown !== isShown) {
+      node.isShown = isShown;
+      node.head.forEach(row => { row.hidden = !isShown; });
+      node.foot.forEach(row => { row.hidden = !isShown; });
+    }
+    numShown += isShown && node.kids.length === 0 && node !== root ? 1 : 0;
+    node.kids.forEach(kid => showNode(kid, isShown && !node.isClosed));
   };
   showNode(root, true);
-  for (const body of table.tBodies) {
-    const numRows = [...body.rows].filter(row => !row.hidden).length;
-    hide(body, numRows === 0);
+  for (const body of bodies) {
+    const numRows = body.querySelectorAll('tr:not([hidden])').length;
+    body.hidden = numRows === 0;
     body.style.setProperty('--lines', numRows);
   }
   tell(numShown);
@@ -235,7 +248,7 @@ function tell(numShown) {
     parts.push(`${numClosed} of ${groups.length} groups closed`);
   if (sorted.column >= 0)
     parts.push(`sorted by ${headings[sorted.column].textContent.trim()}` + (sorted.sign < 0 ? ', descending' : ''));
-  if (isPartial && table.querySelector('tr[class^=f]'))
+  if (isPartial && hasTotals)
     parts.push('totals are of all lines');
   status.textContent = parts.join('; ') + '.';
   status.classList.toggle('partial', isPartial || sorted.column >= 0);
@@ -256,7 +269,7 @@ table.addEventListener('click', event => {
 foldAll.addEventListener('click', () => {
   const isClosed = !groups.some(group => group.isClosed);
   groups.forEach(group => fold(group, isClosed));
-  show();
+  changeRows(show);
 });
 let waiting;
 for (const control of [searchedText, searchedColumn])

@@ -149,7 +149,7 @@ class ReadingTest(PageTest):
         roles = self.roles(self.lists.of_lines(2500), 1200)
         self.assertEqual(1, roles.count("table"))
         self.assertEqual(8, roles.count("columnheader"))
-        self.assertGreater(roles.count("row"), 2500)
+        self.assertGreater(roles.count("row"), 100)  # at least those of the body that is laid out
 
 
 class SearchTest(PageTest):
