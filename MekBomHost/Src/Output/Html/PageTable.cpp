@@ -207,7 +207,7 @@ std::string PageTable::numberAttributes(const ReportLine& line, std::size_t colu
     return attributes;
 }
 
-// On a phone texts stand left, below headings of their own.
+// On a phone texts stand left, below headings of their own, and so they do on paper that is too narrow for the list.
 std::string PageTable::style() const
 {
     std::string aligned;
@@ -219,8 +219,10 @@ std::string PageTable::style() const
         if (column.isAlignedRight)
             aligned += cellsOf("tr>", i) + "{text-align:right}\n" + cellsOf("td", i) + "{white-space:nowrap}\n";
     }
-    return "@media print,(min-width:40.01rem){\n" + aligned + "}\n@media screen and (max-width:40rem){\n" + named +
-           "}\n" + widths();
+    const char* const besideTables = isWide() ? "" : "print,";
+    const char* const besideCards = isWide() ? "print," : "";
+    return std::string("@media ") + besideTables + "screen and (min-width:40.01rem){\n" + aligned + "}\n@media " +
+           besideCards + "screen and (max-width:40rem){\n" + named + "}\n" + widths();
 }
 
 // Of a long list the widths of its columns, and of a wide one how its sheets are held.

@@ -29,8 +29,9 @@ namespace mekbom
 class PageTable
 {
 public:
-    // Lists of more lines have columns of fixed widths, so that a browser lays out only what is near its window:
-    // measured, it takes a second to lay out so many.
+    // Lists of more lines have columns of fixed widths, so that a browser lays out only what is near its window. Measured
+    // in Chromium: to load 2,000 lines took it 0.6 s of processor time all at once and 0.2 s in pieces, 20,000 lines
+    // 4.7 s and 0.5 s.
     static constexpr std::size_t kMostLinesAtOnce = 2000;
 
     // Rows of one body; the script has the same numbers.
