@@ -1,7 +1,7 @@
 """Runs the benchmarks of a build on the same rows, prints tables with medians and ratios, and writes them as JSON.
 
     python3 Scripts/bench.py --build build/bench [--sizes 10000,100000,1000000]
-                             [--sections evaluate,shapes,threads,formulas,job,curves]
+                             [--sections evaluate,shapes,threads,formulas,job,inputs,outputs,curves]
                              [--rounds 3] [--json build/bench/bench.json] [--document Docs/PERFORMANCE.md]
 
 Reports are compared on two sets of rows, named in bench_tables.TEXTS. All programs get the same environment, in which
@@ -14,6 +14,7 @@ import argparse
 import json
 import os
 import platform
+import re
 import subprocess
 import sys
 from pathlib import Path
@@ -25,7 +26,9 @@ ROOT = Path(__file__).resolve().parent.parent
 COMPARISON = ROOT / "MekBomEngine/Bench/Comparison"
 GENERATOR = ROOT / "MekBomHost/Bench/generate_parts.py"
 WHOLE_JOB = ROOT / "MekBomHost/Bench/whole_job.py"
-SECTIONS = ["evaluate", "shapes", "threads", "formulas", "job", "curves"]
+INPUT_FORMATS = ROOT / "MekBomHost/Bench/input_formats.py"
+OUTPUTS = ROOT / "MekBomHost/Bench/outputs.py"
+SECTIONS = ["evaluate", "shapes", "threads", "formulas", "job", "inputs", "outputs", "curves"]
 
 # Fresh pages are dear on virtual machines: nothing is given back to the system, and what is asked for comes in plenty.
 MEMORY_STAYS = {
@@ -208,6 +211,48 @@ def compare_jobs(build, size, rounds):
     return results
 
 
+def compare_formats(build, size, rounds):
+    """The lines of input_formats.py."""
+    print(f"{size} rows: formats of parts lists", file=sys.stderr)
+    return run_json_lines([sys.executable, INPUT_FORMATS, "--program", build / "MekBomHost/mekbom", "--data",
+                           generate_rows(build, bench_tables.ROUND_LENGTHS, size), "--folder", build / "inputs",
+                           "--runs", rounds_at(size, rounds) + 1])
+
+
+def instructions_of_reading(build, benchmark):
+    """How many instructions a benchmark of InputsBench.cpp takes to read its list once."""
+    output = build / "callgrind.out"
+    result = subprocess.run(["valgrind", "--tool=callgrind", f"--callgrind-out-file={output}", "--collect-atstart=no",
+                             "--toggle-collect=*readParts*", build / "MekBomHost/MekBomHostBench",
+                             f"--benchmark_filter=^{benchmark}$", "--benchmark_min_time=0.000001"],
+                            env=ENVIRONMENT, capture_output=True, text=True, check=True)
+    output.unlink(missing_ok=True)
+    collected = int(re.search(r"Collected : (\d+)", result.stderr)[1])
+    if collected == 0:
+        sys.exit(f"bench.py: {benchmark} counted nothing; has readParts() another name?")
+    return collected
+
+
+def recognition(build):
+    """Instructions of reading a list whose dialect is recognised, and of one whose dialect is said; None where nothing
+    counts them."""
+    if not succeeds(["valgrind", "--version"]):
+        print("what recognising takes is skipped: valgrind is not installed", file=sys.stderr)
+        return None
+    print("recognising how a list is written", file=sys.stderr)
+    return [{"name": name, "rows": rows,
+             "recognised": instructions_of_reading(build, f"BM_{name}Recognised/{rows}"),
+             "forced": instructions_of_reading(build, f"BM_{name}Forced/{rows}")}
+            for name in bench_tables.DIALECTS for rows in (1_000, 20_000)]
+
+
+def compare_outputs(build, size, rounds):
+    """The lines of outputs.py."""
+    print(f"{size} rows: outputs", file=sys.stderr)
+    return run_json_lines([sys.executable, OUTPUTS, "--program", build / "MekBomHost/mekbom", "--data",
+                           generate_rows(build, bench_tables.ROUND_LENGTHS, size), "--runs", rounds_at(size, rounds) + 1])
+
+
 def run_curves(build):
     """Benchmarks of single operations, each with a series of sizes."""
     results = []
@@ -260,6 +305,9 @@ def run_sections(build, sections, sizes, rounds):
         "threads": lambda: compare_threads(build),
         "formulas": lambda: compare_formulas(build),
         "job": lambda: {"rows": max(sizes), "programs": compare_jobs(build, max(sizes), rounds)},
+        "inputs": lambda: {"rows": max(sizes), "formats": compare_formats(build, max(sizes), rounds),
+                           "recognition": recognition(build)},
+        "outputs": lambda: {"rows": max(sizes), "formats": compare_outputs(build, max(sizes), rounds)},
         "curves": lambda: run_curves(build),
     }
     return {section: measure[section]() for section in SECTIONS if section in sections}

@@ -11,6 +11,16 @@ FULL_LENGTHS = "full lengths"
 TEXTS = {ROUND_LENGTHS: "shared", FULL_LENGTHS: "own"}
 MOST_TIMES_LIMIT = {"shared": 4, "own": 5}
 
+# The lists of InputsBench.cpp.
+DIALECTS = {
+    "Plain": "commas and decimal points",
+    "German": "semicolons, decimal commas, Windows-1252",
+    "Unsettled": "commas, whole numbers alone",
+}
+ORDINARY_DIALECTS = ("Plain", "German")  # in the other one the search for a sign goes through all of the head in vain
+RECOGNISED_ROWS = 20_000  # the length of list that is held to the bound below: shorter ones take no time anyway
+MOST_TO_RECOGNISE = 2  # per cent of reading a list of which all is said
+
 NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 SLOWEST_GROWTH = 4  # times n log n from a size to the next: data that leave the caches cost 3, a square 6 and more
 
@@ -138,6 +148,37 @@ def job_table(job, lengths):
     return table([f"file of {job['rows']} rows to report, {lengths}", "seconds", "peak MiB", "to mekbom"], rows)
 
 
+def formats_table(inputs):
+    plain = inputs["formats"][0]
+    measures = ("seconds", "processor_seconds", "peak_mib")
+    rows = [[line["name"], number(line["megabytes"]), *(number(line[measure]) for measure in measures),
+             " / ".join(number(line[measure] / plain[measure]) for measure in measures)] for line in inputs["formats"]]
+    return table([f"file of {inputs['rows']} rows to report", "MB of the file", "seconds", "processor seconds",
+                  "peak MiB", "all three to plain CSV"], rows)
+
+
+def percent_to_recognise(line):
+    return 100 * (line["recognised"] / line["forced"] - 1)
+
+
+def recognition_table(recognition):
+    rows = [[DIALECTS[line["name"]], str(line["rows"]), number(line["recognised"] / line["rows"]),
+             number(line["forced"] / line["rows"]), f"{percent_to_recognise(line):.2f}"] for line in recognition]
+    return table(["instructions to read a row", "rows", "how it is written is recognised", "said by options",
+                  "per cent to recognise it"], rows)
+
+
+def outputs_of(outputs):
+    return {line["name"]: line for line in outputs["formats"]}
+
+
+def outputs_table(outputs):
+    found = outputs_of(outputs)
+    rows = [[name, number(line["seconds"]), number(line["peak_mib"]), number(line["file_mib"]),
+             number(line["seconds"] / found["text"]["seconds"])] for name, line in found.items()]
+    return table([f"file of {outputs['rows']} rows to list", "seconds", "peak MiB", "MiB written", "to text"], rows)
+
+
 def curves_of(results):
     """Benchmark to {size: ns per iteration}; the last argument is the size."""
     curves = {}
@@ -226,6 +267,25 @@ def job_bounds(job, lengths):
     return bounds_found
 
 
+def inputs_bounds(recognition):
+    bounded = (line for line in recognition
+               if line["rows"] == RECOGNISED_ROWS and line["name"] in ORDINARY_DIALECTS)
+    worst = max(bounded, key=percent_to_recognise)
+    return [at_most(f"recognise how {RECOGNISED_ROWS} rows are written, per cent of reading them, at worst "
+                    + DIALECTS[worst["name"]], percent_to_recognise(worst), MOST_TO_RECOGNISE)]
+
+
+def outputs_bounds(outputs):
+    found = outputs_of(outputs)
+    pandas = found.pop("pandas, xlsx", None)
+    workbook = found.pop("xlsx")
+    text = found.pop("text")
+    bounds_found = [at_most(f"{name} to text", line["seconds"] / text["seconds"], 3) for name, line in found.items()]
+    if pandas:
+        bounds_found.append(at_least("workbook: pandas' writer to mekbom", pandas["seconds"] / workbook["seconds"], 5))
+    return bounds_found
+
+
 def bounds(results):
     found = []
     if "evaluate" in results:
@@ -244,6 +304,10 @@ def bounds(results):
     if "job" in results:
         for lengths in TEXTS:
             found += job_bounds(results["job"], lengths)
+    if results.get("inputs", {}).get("recognition"):
+        found += inputs_bounds(results["inputs"]["recognition"])
+    if "outputs" in results:
+        found += outputs_bounds(results["outputs"])
     if "curves" in results:
         growths = {family: worst_growth(curve) for family, curve in curves_of(results).items()}
         worst = max(growths, key=growths.get)
@@ -272,6 +336,12 @@ def all_tables(results):
         parts.append(formulas_table(results))
     if "job" in results:
         parts += [job_table(results["job"], lengths) for lengths in TEXTS]
+    if "inputs" in results:
+        parts.append(formats_table(results["inputs"]))
+        if results["inputs"]["recognition"]:
+            parts.append(recognition_table(results["inputs"]["recognition"]))
+    if "outputs" in results:
+        parts.append(outputs_table(results["outputs"]))
     if "curves" in results:
         parts.append(curves_table(results))
     return "\n\n".join([*parts, bounds_table(results)])

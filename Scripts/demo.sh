@@ -1,5 +1,5 @@
 #!/bin/sh
-# Builds the program and prints the cutting list of the shipped hall.
+# Builds the program and prints the list that README.md begins with.
 set -eu
 cd "$(dirname "$0")/.."
 sh Scripts/setup.sh
@@ -9,4 +9,4 @@ trap 'rm -f "$log"' EXIT
 echo "Building mekbom (a minute or two) ..." >&2
 { cmake --preset program && cmake --build --preset program --target mekbom; } >"$log" 2>&1 || { cat "$log" >&2; exit 1; }
 
-build/program/MekBomHost/mekbom demo
+build/program/MekBomHost/mekbom report --data Examples/export.csv

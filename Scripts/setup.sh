@@ -8,14 +8,14 @@
 set -eu
 
 packages="g++ cmake ninja-build python3 locales libgtest-dev libcli11-dev nlohmann-json3-dev libutf8proc-dev"
-packages="$packages libzip-dev libpugixml-dev python3-jsonschema"
+packages="$packages libzip-dev libpugixml-dev libxlsxwriter-dev python3-jsonschema python3-openpyxl"
 for argument in "$@"; do
     case "$argument" in
         --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy valgrind libbenchmark-dev" ;;
         --browser) packages="$packages chromium poppler-utils" ;;
         --bench)
             packages="$packages libbenchmark-dev sqlite3 libsqlite3-dev python3-pandas libfparser-dev libmuparser-dev"
-            packages="$packages liblua5.4-dev miller time"
+            packages="$packages liblua5.4-dev miller time valgrind"
             ;;
         *) echo "setup.sh: unknown argument '$argument'; expected --checks, --browser or --bench" >&2; exit 2 ;;
     esac

@@ -19,6 +19,7 @@ import subprocess
 import sys
 import tempfile
 import time
+from typing import NamedTuple
 
 SLOW_SECONDS = 60
 HERE = pathlib.Path(__file__).resolve().parent
@@ -26,6 +27,12 @@ PYTHON = "/usr/bin/python3"  # the one that Debian's pandas belongs to
 NUM_DETAILS_FIELDS = 15
 MARK, LENGTH, WEIGHT, TOTAL = 1, 5, 6, 14  # fields of a details line
 NUM_KEYS = 3  # that lines are sorted by: material, mark, length
+
+
+class Run(NamedTuple):
+    seconds: float              # on the wall
+    processor_seconds: float    # of all threads
+    peak_mib: float
 
 
 def has_pandas():
@@ -48,7 +55,7 @@ def peers(program):
 
 
 def run(command, stdin, folder):
-    """Seconds and peak MiB of one run in a folder that holds parts.csv; it leaves report.txt there."""
+    """What one run takes in a folder that holds the parts list; it leaves report.txt there."""
     report = folder / "report.txt"
     report.unlink(missing_ok=True)
     prints_report = command[0] == "mlr"
@@ -60,7 +67,7 @@ def run(command, stdin, folder):
     process.returncode = os.waitstatus_to_exitcode(status)
     if process.returncode != 0:
         sys.exit(f"whole_job.py: {command[0]} ended with status {process.returncode}")
-    return seconds, usage.ru_maxrss / 1024
+    return Run(seconds, usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024)
 
 
 def content(report):
@@ -99,10 +106,10 @@ def measure(programs, runs, folder):
     measured = {name: [] for name, _, _ in programs}
     for index in range(runs):
         for name, command, stdin in programs:
-            if measured[name] and measured[name][0][0] > SLOW_SECONDS:
+            if measured[name] and measured[name][0].seconds > SLOW_SECONDS:
                 continue
             result = run(command, stdin, folder)
-            if index > 0 or runs == 1 or result[0] > SLOW_SECONDS:
+            if index > 0 or runs == 1 or result.seconds > SLOW_SECONDS:
                 measured[name].append(result)
             (folder / "report.txt").replace(folder / (name + ".txt"))
     return measured
@@ -134,8 +141,8 @@ def main():
         measured = measure(programs, arguments.runs, pathlib.Path(folder))
         check(list(measured), pathlib.Path(folder))
     for name, results in measured.items():
-        print(json.dumps({"name": name, "seconds": round(statistics.median(seconds for seconds, _ in results), 3),
-                          "peak_mib": round(statistics.median(peak for _, peak in results))}))
+        medians = Run(*map(statistics.median, zip(*results)))
+        print(json.dumps({"name": name, "seconds": round(medians.seconds, 3), "peak_mib": round(medians.peak_mib)}))
 
 
 if __name__ == "__main__":

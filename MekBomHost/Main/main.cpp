@@ -1,4 +1,5 @@
 #include "Program.h"
+#include "UnfinishedFiles.h"
 
 #include "MekRoots/Exp/VorString.h"
 
@@ -10,6 +11,7 @@
 int main(int numArguments, char** arguments)
 {
     VorString::promiseNotToShare();
+    mekbom::UnfinishedFiles::removeAtSignals();
     static auto* const pProgram = new mekbom::Program;
     return pProgram->run(numArguments, arguments);
 }

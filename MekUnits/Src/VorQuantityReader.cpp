@@ -111,6 +111,9 @@ public:
     // What stands behind the number; the unit, where that is at fault.
     const std::wstring& symbol() const { return m_symbol; }
 
+    // Whether a unit or marks stood in the text that was parsed.
+    bool namesUnit() const { return m_hasMarks || !m_symbol.empty(); }
+
 private:
     // A comma may divide thousands or begin the decimals. As nobody can tell which, it is refused.
     eFault parseSize(double& size)
@@ -150,6 +153,7 @@ private:
     // What is carried stays within 64 bits: 15 digits of degrees, the most that isWhole() takes, are 3.6e18 seconds.
     eFault parseMarked(VorQuantityNumber number, double& size)
     {
+        m_hasMarks = true;
         int mark = findMark(0);
         std::uint64_t carried = 0; // what the larger marks were, in units of this one
         ++m_p;
@@ -214,6 +218,7 @@ private:
     const wchar_t* m_p; // what is not read yet, up to a zero character
     const wchar_t* m_pEnd;
     std::wstring m_symbol;
+    bool m_hasMarks = false;
 };
 
 const VorUnitDefinition& unitOrMillimetre(int unit)
@@ -248,7 +253,17 @@ VorQuantityReader::VorQuantityReader(int unit) : m_pUnit(&unitOrMillimetre(unit)
 
 int VorQuantityReader::read(const VorString& text, double& value) const
 {
-    return Parser(*m_pUnit, text).parse(value) == kNoFault ? 1 : 0;
+    int namesUnit = 0;
+    return read(text, value, namesUnit);
+}
+
+int VorQuantityReader::read(const VorString& text, double& value, int& namesUnit) const
+{
+    Parser parser(*m_pUnit, text);
+    if (parser.parse(value) != kNoFault)
+        return 0;
+    namesUnit = parser.namesUnit() ? 1 : 0;
+    return 1;
 }
 
 // Reads the text a second time, so that read() need not keep what only a message wants.

@@ -37,6 +37,10 @@ public:
     // Sets `value` to the quantity in the model's unit; 0 with `value` untouched for a text that is none.
     int read(const VorString& text, double& value) const;
 
+    // The same, and sets `namesUnit` to 1 where the quantity has a unit or marks of its own, and to 0 where it takes the
+    // reader's: "6 1/2" does as "6.5" does. Untouched for a text that is no quantity.
+    int read(const VorString& text, double& value, int& namesUnit) const;
+
     // What is wrong with a text that read() refuses, for the end of a message. Empty for a text that it takes, and for
     // one that has nothing of a quantity.
     VorString explain(const VorString& text) const;

@@ -123,6 +123,29 @@ TEST(VorQuantityReaderTest, AUnitBehindTheNumberComesFirst)
     EXPECT_DOUBLE_EQ(92903.04, readIn(kSquareMetre, L"1 ft2"));
 }
 
+TEST(VorQuantityReaderTest, WhetherAUnitWasNamedIsTold)
+{
+    struct UnitCase
+    {
+        const wchar_t* text;
+        int namesUnit;
+    };
+    const UnitCase cases[] = { { L"2286", 0 },     { L" -6 1/2 ", 0 }, { L"2286 mm", 1 },
+                               { L"6 1/2 in", 1 }, { L"7'", 1 },       { L"7'-6 1/2\"", 1 } };
+    for (const UnitCase& test : cases)
+    {
+        double value = 0;
+        int namesUnit = 7;
+        EXPECT_EQ(1, VorQuantityReader(kMillimetre).read(test.text, value, namesUnit));
+        EXPECT_EQ(test.namesUnit, namesUnit);
+    }
+    double value = 7;
+    int namesUnit = 7;
+    EXPECT_EQ(0, VorQuantityReader(kMillimetre).read(L"7 stone", value, namesUnit));
+    EXPECT_EQ(7, namesUnit);
+    EXPECT_EQ(7, value);
+}
+
 TEST(VorQuantityReaderTest, AnglesAreReadByTheirMarks)
 {
     const ReadCase kCases[] = {

@@ -8,6 +8,7 @@
 // Sums are long doubles with the rest that each addition leaves carried along, so that their own error does not show.
 #include "TotalsCheck.h"
 
+#include "ExactSum.h"
 #include "InQuotes.h"
 #include "NumberInValue.h"
 #include "NumberText.h"
@@ -22,31 +23,6 @@ namespace mekbom
 {
 namespace
 {
-// The sum of many numbers, as exact as a long double is, in whatever order they come: the compensated sum of Kahan, as
-// Neumaier improved it. What an addition rounds away is found by taking the larger number off the sum again.
-class ExactSum
-{
-public:
-    explicit ExactSum(long double start) : m_sum(start), m_size(std::fabs(start)) {}
-
-    void add(double number)
-    {
-        const long double before = m_sum;
-        m_sum += number;
-        m_rest += std::fabs(before) >= std::fabs(number) ? (before - m_sum) + number : (number - m_sum) + before;
-        m_size += std::fabs(number);
-    }
-
-    // What is left of an infinite sum is no number.
-    long double value() const { return std::isfinite(m_sum) ? m_sum + m_rest : m_sum; }
-    long double size() const { return m_size; } // of all that was added, signs left out
-
-private:
-    long double m_sum;
-    long double m_rest = 0; // what rounding has taken from the sum
-    long double m_size;
-};
-
 // The sum of two infinities of unlike sign is no number, on either side. A sum of doubles may pass the greatest of them
 // where a long double does not: that is for OverflowCheck to tell.
 bool agree(long double printed, const ExactSum& sum)

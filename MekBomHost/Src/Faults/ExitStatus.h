@@ -8,6 +8,7 @@ enum ExitStatus : int
 {
     kDone = 0,
     kMistakes = 1,         // the template, or data under it, would make a wrong list
+    kDifferent = 1,        // mekbom diff: what it compared has changed
     kWrongUsage = 2,       // the command line
     kInvalidInput = 3,     // parts list or template unreadable or wrong
     kOutputNotWritten = 4, // the report could not be written; what stood there before still does

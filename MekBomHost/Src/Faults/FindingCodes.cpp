@@ -46,6 +46,7 @@ const FindingCode kCodes[] = {
     kGroupedDigits,
     kNumberUnclear,
     kOtherDecimalSign,
+    kRecordTooLarge,
     kWorkbookDamaged,
     kWorkbookTooLarge,
     kWorkbookOfOtherKind,
@@ -114,6 +115,7 @@ const FindingCode kCodes[] = {
     kFootOfList,
     kNothingToSummarise,
     kWidthTooSmall,
+    kListsUnlike,
 };
 }
 

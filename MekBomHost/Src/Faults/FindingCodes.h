@@ -94,6 +94,8 @@ inline constexpr FindingCode kNumberUnclear = {
 inline constexpr FindingCode kOtherDecimalSign = {
     "MB737", kError, "A number has a decimal comma where others have a point, or a point where they have a comma."
 };
+inline constexpr FindingCode kRecordTooLarge = { "MB738", kError,
+                                                 "A record of a parts list is larger than any that is sound." };
 
 // Workbooks, which are parts lists, too.
 inline constexpr FindingCode kWorkbookDamaged = { "MB740", kError,
@@ -209,6 +211,8 @@ inline constexpr FindingCode kNothingToSummarise = {
     "MB926", kError, "A list has neither groups nor totals that a summary could show."
 };
 inline constexpr FindingCode kWidthTooSmall = { "MB927", kError, "A list is wider than the width that it is given." };
+inline constexpr FindingCode kListsUnlike = { "MB928", kError,
+                                              "Two lists show a column in two units and cannot be compared." };
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();

@@ -40,13 +40,6 @@ int synchronize(std::FILE* pFile)
 }
 }
 
-OutputFile::Temporary::~Temporary()
-{
-    std::error_code error;
-    if (!path.empty())
-        fs::remove(path, error);
-}
-
 // A path that is wrong is told before the report is made, and not after a million rows. What can be replaced is a
 // regular file; nothing at all needs no rights to be kept; anything else, a pipe or "/dev/null", is written to as it
 // is.
@@ -80,7 +73,7 @@ void OutputFile::finish()
     if (std::fflush(m_pFile.get()) != 0 || (m_isReplacement && synchronize(m_pFile.get()) != 0))
         failWithSystemReason();
     close();
-    if (!m_temporary.path.empty())
+    if (!m_temporary.path().empty())
         replaceTarget();
 }
 
@@ -111,7 +104,6 @@ void OutputFile::checkIsWritable()
         failWithSystemReason();
 }
 
-// "x" makes sure that the file is a new one.
 // It stands beside the target, so that the renaming stays within one file system, where it is done at once or not at
 // all.
 void OutputFile::openTemporary()
@@ -120,10 +112,8 @@ void OutputFile::openTemporary()
     {
         fs::path candidate = m_target;
         candidate += ".mekbom" + std::to_string(attempt) + ".tmp";
-        m_pFile.reset(std::fopen(candidate.string().c_str(), "wbx"));
-        if (m_pFile != nullptr)
-            m_temporary.path = candidate;
-        else if (errno != EEXIST)
+        m_pFile.reset(m_temporary.create(candidate.string()));
+        if (m_pFile == nullptr && errno != EEXIST)
             failWithSystemReason();
     }
     if (m_pFile == nullptr)
@@ -135,7 +125,7 @@ void OutputFile::keepAccessRights()
     std::error_code error;
     const fs::perms rights = fs::status(m_target, error).permissions();
     if (!error)
-        fs::permissions(m_temporary.path, rights, error);
+        fs::permissions(m_temporary.path(), rights, error);
     if (error)
         fail(error.message());
 }
@@ -149,10 +139,10 @@ void OutputFile::close()
 void OutputFile::replaceTarget()
 {
     std::error_code error;
-    fs::rename(m_temporary.path, m_target, error);
+    fs::rename(m_temporary.path(), m_target, error);
     if (error)
         fail(error.message());
-    m_temporary.path.clear();
+    m_temporary.keep();
 }
 
 void OutputFile::fail(const std::string& reason) const

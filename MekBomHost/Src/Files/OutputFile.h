@@ -10,6 +10,7 @@
 #pragma once
 
 #include "TextSink.h"
+#include "UnfinishedFiles.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -37,13 +38,6 @@ private:
     };
     using FilePointer = std::unique_ptr<std::FILE, Closer>;
 
-    // Removes the file when it goes, unless its path has been cleared.
-    struct Temporary
-    {
-        ~Temporary();
-        std::filesystem::path path;
-    };
-
     void openDirectly();
     void openReplacement();
     void checkIsWritable();
@@ -56,7 +50,7 @@ private:
 
     std::string m_name; // as the user wrote it
     std::filesystem::path m_target;
-    Temporary m_temporary;        // without path when writing directly
+    UnfinishedFile m_temporary;   // none when writing directly
     bool m_isReplacement = false; // of a file that stays as it was when anything goes wrong
     FilePointer m_pFile;
 };

@@ -13,15 +13,10 @@
 #include "FindingCodes.h"
 #include "HeaderRow.h"
 #include "InQuotes.h"
-#include "InputUnits.h"
-#include "MistakeCodes.h"
-#include "NumberReader.h"
-#include "Utf8.h"
 
 #include "VorBomDataTuple.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace mekbom
@@ -32,29 +27,6 @@ template <class Predicate>
 std::size_t indexOf(const std::vector<InputColumn>& columns, const Predicate& isMeant)
 {
     return static_cast<std::size_t>(std::find_if(columns.begin(), columns.end(), isMeant) - columns.begin());
-}
-
-// Programs write "NaN", "nan" and "-NAN" for what is not a number.
-bool isNotANumber(std::string_view text)
-{
-    if (!text.empty() && (text.front() == '-' || text.front() == '+'))
-        text.remove_prefix(1);
-    return text.size() == 3 && (text[0] | 0x20) == 'n' && (text[1] | 0x20) == 'a' && (text[2] | 0x20) == 'n';
-}
-
-bool isEmpty(const Record& record)
-{
-    return std::all_of(record.begin(), record.end(), [](const RecordCell& cell) { return cell.isNothing(); });
-}
-
-bool readWholeNumber(std::string_view text, int& value)
-{
-    return NumberReader::read(text, value) || NumberReader::read(NumberReader::withoutZeroDecimals(text), value);
-}
-
-const FindingCode& codeOf(std::string_view text, const FindingCode& otherwise)
-{
-    return isNotANumber(text) ? MistakeCodes::kNotANumber : otherwise;
 }
 }
 
@@ -78,7 +50,7 @@ CellReader::CellReader(const std::vector<InputColumn>& columns, RecordSource& so
 
 void CellReader::setNotation(const NumberNotation& notation)
 {
-    m_notation = notation;
+    m_parser.setNotation(notation);
     for (std::size_t i = 0; i < m_columns.size(); ++i)
         if (m_columns[i].whyNumbers.empty())
             m_untypedCells[i].setNotation(notation);
@@ -100,7 +72,7 @@ void CellReader::read(const Record& record)
 {
     if (!checkNumCells(record))
         return;
-    if (isEmpty(record)) // spreadsheets leave such rows behind their last one
+    if (isEmpty(record))
     {
         ++m_numEmptyRows;
         return;
@@ -117,7 +89,7 @@ void CellReader::read(const Record& record)
     if (m_piecesToken.isEmpty() == 0 && (m_piecesColumn == record.size() || record[m_piecesColumn].isNothing()))
         m_pBatch->add(m_piecesToken, 1);
     if (m_handleColumn != record.size())
-        m_handles.add(textOf(record[m_handleColumn]));
+        m_handles.add(m_parser.textOf(record[m_handleColumn]));
 }
 
 PartsFacts CellReader::finish(VorBomData& data)
@@ -178,11 +150,8 @@ bool CellReader::checkNumCells(const Record& record)
 int CellReader::piecesOf(const Record& record)
 {
     int numPieces = 1;
-    bool isRead = false;
-    const auto read = [&numPieces](std::string_view plain) { return readWholeNumber(plain, numPieces); };
-    if (m_piecesColumn != record.size() && !record[m_piecesColumn].isNothing())
-        readWithNotation(m_piecesColumn, record[m_piecesColumn], record[m_piecesColumn].asText(), read, isRead);
-    return numPieces;
+    const bool isGiven = m_piecesColumn != record.size() && !record[m_piecesColumn].isNothing();
+    return isGiven && m_parser.readWhole(record[m_piecesColumn], numPieces) ? numPieces : 1;
 }
 
 // A column whose type is still open is read as one of texts.
@@ -199,84 +168,27 @@ void CellReader::readCell(std::size_t column, const RecordCell& cell)
     }
 }
 
-// The text of a number lies in `m_numberText`: it is good until the next cell that is no text.
-std::string_view CellReader::textOf(const RecordCell& cell)
-{
-    if (cell.isText())
-        return cell.text();
-    m_numberText = cell.asText();
-    return m_numberText;
-}
-
-// Nearly all numbers are written the plain way, and then nothing else is tried. Gives what the notation makes of the
-// text; `isRead` says whether `read` took it, as it stands or as the notation reads it.
-template <class Read>
-NumberNotation::eReading CellReader::readWithNotation(std::size_t column, const RecordCell& cell, std::string_view text,
-                                                      const Read& read, bool& isRead)
-{
-    isRead = (m_notation.isPlain() || cell.isNumber()) && read(text);
-    if (isRead || cell.isNumber())
-        return NumberNotation::kReadable;
-    const NumberNotation::eReading reading = m_notation.toPlain(text, m_plainText);
-    isRead = reading == NumberNotation::kReadable && read(std::string_view(m_plainText));
-    if (isRead && m_plainText.size() < text.size())
-        noteGroups(column, text);
-    return reading;
-}
-
-// Spreadsheets write 4 as "4.0" once another cell of the column had decimals.
-// Two mistakes, two expectations: "4.5" is not whole, "3000000000" is, but has no room in 32 bits.
 void CellReader::readWhole(std::size_t column, const RecordCell& cell)
 {
-    const std::string_view text = textOf(cell);
     int value = 0;
-    bool isRead = false;
-    const auto read = [&value](std::string_view plain) { return readWholeNumber(plain, value); };
-    const NumberNotation::eReading reading = readWithNotation(column, cell, text, read, isRead);
-    if (isRead)
-        return m_pBatch->add(m_columns[column].tupleToken, value);
-    if (refuseNotation(column, text, reading))
-        return;
-    const bool isWhole = NumberReader::isWhole(NumberReader::withoutZeroDecimals(text));
-    addFinding(codeOf(text, FindingCodes::kCellIsNotWhole), column, text,
-               isWhole ? "a whole number from -2147483648 to 2147483647" : "a whole number");
+    if (!m_parser.readWhole(cell, value))
+        return addRefusal(column);
+    noteGroups(column);
+    m_pBatch->add(m_columns[column].tupleToken, value);
 }
 
-// A quantity comes from its reader in the model's unit; a plain number is still in the column's, 7.5 ft say, and
-// becomes 2286 mm here. Whether the value is finite is asked after that: 1e308 is a number, but as feet it is none in
-// mm. A column that is not in the model's unit always has a unit (PartsList::resolveUnit). In a column of feet and
-// inches "7" is no plain number: it goes to the reader of quantities, which knows what the layout takes.
 void CellReader::readNumber(std::size_t column, const RecordCell& cell)
 {
     const InputColumn& properties = m_columns[column];
-    const std::string_view text = textOf(cell);
-    double value = 0;
-    int numDecimals = 0;
-    bool isNumber = false; // rather than a quantity
-    bool isRead = false;
-    const auto read = [&](std::string_view plain)
-    {
-        isNumber = properties.takesPlainNumbers && NumberReader::read(plain, value, numDecimals);
-        return isNumber || readQuantity(column, plain, value);
-    };
-    const NumberNotation::eReading reading = readWithNotation(column, cell, text, read, isRead);
-    if (!isRead)
-    {
-        if (!refuseNotation(column, text, reading))
-            refuseNumber(column, text);
-        return;
-    }
-    if (isNumber && !properties.lackingUnit.empty())
-        return refuseForWantOfUnit(column, text);
-    if (isNumber && !properties.isInModelUnit)
-        value = properties.unit->getVorUnitTransform().toInternalUnits(value);
-    if (!std::isfinite(value))
-        return addFinding(FindingCodes::kCellIsTooLarge, column, text, "a smaller number");
-    if (properties.isRowTotal && !divideByPieces(value))
-        return addFinding(FindingCodes::kTotalOfNoPieces, column, text, "0 in a row of 0 pieces");
+    CellNumber number;
+    if (!m_parser.readNumber(properties, cell, number))
+        return addRefusal(column);
+    noteGroups(column);
+    if (properties.isRowTotal && !divideByPieces(number.value))
+        return addTotalOfNoPieces(column, cell);
     int& mostDecimals = m_notes[column].numDecimals;
-    mostDecimals = std::max(mostDecimals, numDecimals);
-    m_pBatch->add(properties.tupleToken, value);
+    mostDecimals = std::max(mostDecimals, number.numDecimals);
+    m_pBatch->add(properties.tupleToken, number.value);
 }
 
 // False when there are no pieces to divide by.
@@ -288,13 +200,19 @@ bool CellReader::divideByPieces(double& value) const
     return true;
 }
 
+void CellReader::addTotalOfNoPieces(std::size_t column, const RecordCell& cell)
+{
+    addFinding(Finding::of(FindingCodes::kTotalOfNoPieces, inQuotes(m_parser.textOf(cell)), "0 in a row of 0 pieces"),
+               column);
+}
+
 void CellReader::readText(std::size_t column, const RecordCell& cell)
 {
     const InputColumn& properties = m_columns[column];
     if (properties.isHandle)
-        readHandle(column, textOf(cell));
+        readHandle(column, m_parser.textOf(cell));
     else if (properties.type == VorBomDataValue::kStringData)
-        m_pBatch->addText(properties.tupleToken, column, textOf(cell));
+        m_pBatch->addText(properties.tupleToken, column, m_parser.textOf(cell));
     else
         readUntyped(column, cell);
 }
@@ -302,20 +220,14 @@ void CellReader::readText(std::size_t column, const RecordCell& cell)
 void CellReader::readUntyped(std::size_t column, const RecordCell& cell)
 {
     const InputColumn& properties = m_columns[column];
-    const std::string_view text = textOf(cell);
-    std::string_view kept = text;
+    std::string_view text = m_parser.textOf(cell);
     if (!properties.whyNumbers.empty())
     {
-        bool isRead = false;
-        double value = 0;
-        const auto read = [&](std::string_view plain) { return NumberReader::read(kept = plain, value); };
-        const NumberNotation::eReading reading = readWithNotation(column, cell, text, read, isRead);
-        if (!isRead && refuseNotation(column, text, reading))
-            return;
-        if (!isRead)
-            return addFinding(codeOf(text, MistakeCodes::kKindsMixed), column, text, "a number", properties.whyNumbers);
+        if (!m_parser.readPlainText(properties, cell, text))
+            return addRefusal(column);
+        noteGroups(column);
     }
-    m_untypedCells[column].add(kept);
+    m_untypedCells[column].add(text);
     m_pBatch->add(properties.tupleToken, 0); // a place for the value that finish() sets
 }
 
@@ -326,87 +238,23 @@ void CellReader::readHandle(std::size_t column, std::string_view text)
         m_pBatch->addHandle(m_columns[column].tupleToken);
 }
 
-// A cell that is more than a number.
-bool CellReader::readQuantity(std::size_t column, std::string_view text, double& value) const
+// One option mends all numbers that are unclear, and one heading all that lack a unit, so only the first of a column is
+// named.
+void CellReader::addRefusal(std::size_t column)
 {
-    const InputColumn& properties = m_columns[column];
-    return properties.quantities && properties.quantities->read(Utf8::toWide(text), value) == 1;
-}
-
-void CellReader::refuseNumber(std::size_t column, std::string_view text)
-{
-    const InputColumn& properties = m_columns[column];
-    const std::string hint =
-        properties.quantities ? Utf8::toBytes(properties.quantities->explain(Utf8::toWide(text))) : "";
-    addFinding(codeOf(text, FindingCodes::kCellIsNoNumber), column, text,
-               properties.unit ? InputUnits::cellExpectation(*properties.unit) : "a number", hint);
-}
-
-// Refuses what is a number, but not surely this one; false for anything else.
-bool CellReader::refuseNotation(std::size_t column, std::string_view text, NumberNotation::eReading reading)
-{
-    const bool isUnclear = reading == NumberNotation::kUnclear;
-    const bool hasOtherSign = reading == NumberNotation::kOtherSign &&
-                              NumberNotation::shownBy(text) == NumberNotation::otherThan(m_notation.sign());
-    if (isUnclear)
-        refuseUnclear(column, text);
-    else if (hasOtherSign)
-        refuseOtherSign(column, text);
-    return isUnclear || hasOtherSign;
-}
-
-// One option mends all cells, so only the first of a column is named.
-void CellReader::refuseUnclear(std::size_t column, std::string_view text)
-{
-    if (std::exchange(m_notes[column].isUnclear, true))
+    const Finding& refusal = m_parser.refusal();
+    Notes& notes = m_notes[column];
+    if (refusal.code == FindingCodes::kNumberUnclear.name && std::exchange(notes.isUnclear, true))
         return;
-    Finding finding = Finding::stating(
-        FindingCodes::kNumberUnclear,
-        inQuotes(text) + " is " + harmless(NumberNotation::readWith(NumberNotation::kPoint, text)) +
-            " with a decimal point and " + harmless(NumberNotation::readWith(NumberNotation::kComma, text)) +
-            " with a decimal comma, and nothing tells which is meant");
-    finding.remedy = "give --decimal . or --decimal ,";
-    addFinding(std::move(finding), column);
-}
-
-void CellReader::refuseOtherSign(std::size_t column, std::string_view text)
-{
-    const NumberNotation::eSign other = NumberNotation::otherThan(m_notation.sign());
-    Finding finding = Finding::of(FindingCodes::kOtherDecimalSign,
-                                  inQuotes(text) + ", which is " + harmless(NumberNotation::readWith(other, text)) +
-                                      " with a " + NumberNotation::nameOf(other) + " and no number with a " +
-                                      NumberNotation::nameOf(m_notation.sign()),
-                                  "a " + NumberNotation::nameOf(m_notation.sign()) +
-                                      (m_notation.reason().empty() ? "" : ", " + m_notation.reason()));
-    finding.remedy = std::string("mend the cell, or give --decimal ") + (other == NumberNotation::kComma ? "," : ".") +
-                     " if all numbers are written so";
-    addFinding(std::move(finding), column);
-}
-
-void CellReader::noteGroups(std::size_t column, std::string_view text)
-{
-    if (!std::exchange(m_hasGroups, true))
-        addFinding(Finding::stating(FindingCodes::kGroupedDigits, inQuotes(text) + " is read as " + m_plainText),
-                   column);
-}
-
-// One heading mends all cells, so only the first is named.
-void CellReader::refuseForWantOfUnit(std::size_t column, std::string_view text)
-{
-    const InputColumn& properties = m_columns[column];
-    if (std::exchange(m_notes[column].isRefused, true))
+    if (refusal.code == FindingCodes::kUnitLacking.name && std::exchange(notes.isWithoutUnit, true))
         return;
-    addFinding(FindingCodes::kUnitLacking, column, text, "a number with its unit",
-               "write the heading " + inQuotes(properties.name + " [" + properties.lackingUnit + "]") +
-                   ", or give --input-unit " + properties.token + "=" + properties.lackingUnit);
+    addFinding(refusal, column);
 }
 
-void CellReader::addFinding(const FindingCode& code, std::size_t column, std::string_view text,
-                            const std::string& expected, const std::string& remedy)
+void CellReader::noteGroups(std::size_t column)
 {
-    Finding finding = Finding::of(code, inQuotes(text), expected);
-    finding.remedy = remedy.empty() && &code == &MistakeCodes::kNotANumber ? "leave the cell empty" : remedy;
-    addFinding(std::move(finding), column);
+    if (m_parser.hadGroups() && !std::exchange(m_hasGroups, true))
+        addFinding(m_parser.noteOfGroups(), column);
 }
 
 void CellReader::addFinding(Finding finding, std::size_t column)

@@ -17,6 +17,7 @@
 // that has come to its end.
 #pragma once
 
+#include "CellParser.h"
 #include "FindingList.h"
 #include "HandleCheck.h"
 #include "InputColumn.h"
@@ -35,8 +36,6 @@
 
 namespace mekbom
 {
-struct FindingCode;
-
 class CellReader
 {
 public:
@@ -70,33 +69,23 @@ private:
     {
         int numFilled = 0;
         int numDecimals = 0;
-        bool isRefused = false; // for want of a unit, which is said once
-        bool isUnclear = false; // a number may be two, which is said once, too
+        bool isWithoutUnit = false; // a number has no unit, which is said once
+        bool isUnclear = false;     // a number may be two, which is said once, too
     };
 
     void read(const Record& record);
     bool checkNumCells(const Record& record);
     int piecesOf(const Record& record);
-    template <class Read>
-    NumberNotation::eReading readWithNotation(std::size_t column, const RecordCell& cell, std::string_view text,
-                                              const Read& read, bool& isRead);
     void readCell(std::size_t column, const RecordCell& cell);
-    std::string_view textOf(const RecordCell& cell);
     void readWhole(std::size_t column, const RecordCell& cell);
     void readNumber(std::size_t column, const RecordCell& cell);
     bool divideByPieces(double& value) const;
     void readText(std::size_t column, const RecordCell& cell);
     void readUntyped(std::size_t column, const RecordCell& cell);
     void readHandle(std::size_t column, std::string_view text);
-    bool readQuantity(std::size_t column, std::string_view text, double& value) const;
-    void refuseNumber(std::size_t column, std::string_view text);
-    bool refuseNotation(std::size_t column, std::string_view text, NumberNotation::eReading reading);
-    void refuseUnclear(std::size_t column, std::string_view text);
-    void refuseOtherSign(std::size_t column, std::string_view text);
-    void noteGroups(std::size_t column, std::string_view text);
-    void refuseForWantOfUnit(std::size_t column, std::string_view text);
-    void addFinding(const FindingCode& code, std::size_t column, std::string_view text, const std::string& expected,
-                    const std::string& remedy = std::string());
+    void addRefusal(std::size_t column);
+    void addTotalOfNoPieces(std::size_t column, const RecordCell& cell);
+    void noteGroups(std::size_t column);
     void addFinding(Finding finding, std::size_t column);
     void addNumberAsHandle();
     void addHandleFindings();
@@ -105,6 +94,7 @@ private:
 
     const std::vector<InputColumn>& m_columns;
     RecordSource& m_source;
+    CellParser m_parser;
     FindingList m_findings;
     RowBatch* m_pBatch = nullptr;             // the one that is being filled; not owned
     std::vector<UntypedCells> m_untypedCells; // one for each column, used where the type is still open
@@ -119,9 +109,6 @@ private:
     int m_numRows = 0;
     int m_numEmptyRows = 0;   // passed over
     int m_numPieces = 1;      // of the row that is being read; looked at only where row totals are divided
-    std::string m_numberText; // of the cell that is being read, if it is a number
-    NumberNotation m_notation;
-    std::string m_plainText;  // of the cell that is being read, where its number is written in another way
     bool m_hasGroups = false; // digits in groups, which is said of the first number
 };
 }

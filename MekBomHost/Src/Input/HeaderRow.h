@@ -2,6 +2,7 @@
 //
 //   const Record& headings = HeaderRow::read(source);
 //   HeaderRow::wrongNumberOfFields(3, 4)      ->  found 3 fields, expected 4 as in the header row
+//   HeaderRow::tooManyColumns(1000000)        ->  found 1000000 columns, expected 16384 at most
 #pragma once
 
 #include "Finding.h"
@@ -11,9 +12,11 @@
 
 namespace mekbom::HeaderRow
 {
-// Good until the next record is read. Throws a Fault of status kInvalidInput when there is none.
+// Good until the next record is read. Throws a Fault of status kInvalidInput when there is none, and when it has more
+// columns than InputLimits allow.
 const Record& read(RecordSource& source);
 
-// A finding without its place.
+// Findings without their place.
 Finding wrongNumberOfFields(std::size_t numFields, std::size_t numColumns);
+Finding tooManyColumns(std::size_t numColumns);
 }

@@ -9,21 +9,18 @@
 
 #include "BatchesAhead.h"
 #include "CellReader.h"
+#include "ColumnTypes.h"
 #include "DataTokens.h"
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
-#include "HeaderRow.h"
+#include "HeaderColumns.h"
 #include "InQuotes.h"
-#include "InputUnits.h"
-#include "NearestWord.h"
 #include "RowBuilder.h"
 #include "TokenNames.h"
-#include "UnitKinds.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
-#include "VorBomTokenCatalogue.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -44,13 +41,6 @@ namespace
 [[noreturn]] void failInRowTotal(const std::string& token, Finding finding)
 {
     finding.source = "--row-totals " + token;
-    throw Fault(kWrongUsage, finding);
-}
-
-// What is wrong with "--map HEADING=TOKEN".
-[[noreturn]] void failInMapping(const HeadingMapping& mapping, Finding finding)
-{
-    finding.source = "--map " + mapping.heading + "=" + mapping.token;
     throw Fault(kWrongUsage, finding);
 }
 
@@ -79,26 +69,16 @@ bool isAmong(const std::vector<std::string>& texts, const std::string& text)
 {
     return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
-
-// What is twice: a token that is written so, or one that two headings stand for.
-std::string againIn(const InputColumn& first, const InputColumn& second)
-{
-    if (first.origin == ColumnName::kWritten && second.origin == ColumnName::kWritten)
-        return "column " + inQuotes(second.token) + " a second time";
-    return "column " + inQuotes(second.token) + " twice, as " + inQuotes(first.name) + " and " + inQuotes(second.name);
-}
-
-// "%Name is a text"
-std::string statementOf(const InputColumn& column)
-{
-    return column.token + (column.type == VorBomDataValue::kIntData ? " is a whole number" : " is a text");
-}
 }
 
 PartsList::PartsList(RecordSource& source, const HeadingChoices& choices, unsigned numProcessors)
     : m_source(source), m_numProcessors(numProcessors)
 {
-    readHeader(choices);
+    HeaderColumns header = HeaderColumns::read(source, choices);
+    header.mistakes.throwIfAnyError();
+    m_columns = std::move(header.columns);
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        m_indices.emplace(m_columns[i].token, i);
 }
 
 const InputColumn* PartsList::find(const std::string& token) const
@@ -176,32 +156,15 @@ PartsFacts PartsList::readRows(VorBomTemplate& reportTemplate, const std::vector
         cells.countPieces(Utf8::toWide(TokenNames::kPieces));
     buildRows(cells, *reportTemplate.getBomData(), numFormulas(reportTemplate));
     PartsFacts facts = cells.finish(*reportTemplate.getBomData());
-    if (notation.sign() == NumberNotation::kComma && !notation.isChosen())
-        m_findings.push_back(commaNote(notation));
+    if (const auto note = ColumnTypes::noteOfComma(notation, m_source))
+        m_findings.push_back(*note);
     m_findings.insert(m_findings.end(), cells.findings().begin(), cells.findings().end());
     return facts;
 }
 
-// What is surely a number tells how numbers are written. Where none of these does, "12,50" in a column that nobody knows
-// makes numbers of that column, and no more: what stands there may be texts, such as the 8.8 of a bolt, so that a
-// weight of "1.234" is still refused.
 NumberNotation PartsList::notation(const VorBomTemplateUnits& units) const
 {
-    std::vector<std::size_t> ofNumbers;
-    std::vector<std::size_t> ofAnything;
-    for (std::size_t i = 0; i < m_columns.size(); ++i)
-    {
-        const VorBomDataValue::eBomDataValueType type = typeOf(m_columns[i], units);
-        if (type == VorBomDataValue::kUnknownData && m_columns[i].whyNumbers.empty())
-            ofAnything.push_back(i);
-        else if (type != VorBomDataValue::kStringData)
-            ofNumbers.push_back(i);
-    }
-    NumberNotation notation = m_source.notationOf(ofNumbers);
-    if (!notation.isOpen())
-        return notation;
-    const NumberNotation shown = m_source.notationOf(ofAnything);
-    return shown.isSettled() ? NumberNotation(shown.sign(), NumberNotation::kOpen, shown.reason()) : notation;
+    return ColumnTypes(units, m_ownTokens).notationOf(m_columns, m_source);
 }
 
 void PartsList::buildRows(CellReader& cells, VorBomData& data, int numFormulas)
@@ -213,23 +176,10 @@ void PartsList::buildRows(CellReader& cells, VorBomData& data, int numFormulas)
         rows.build(*pBatch);
 }
 
-// Before any row is read, so that the engine shows "Gap [in]" in the reader's units. The catalogue's tokens have their
-// kinds, whatever the unit of the column.
+// Before any row is read, so that the engine shows "Gap [in]" in the reader's units.
 void PartsList::registerKinds(VorBomTemplateUnits& units) const
 {
-    for (const InputColumn& column : m_columns)
-    {
-        const auto unit = InputUnits::find(column.unitSymbol, VorBomTemplateUnits::kNoUnit);
-        if (unit && VorBomTokenCatalogue::find(column.tupleToken) == nullptr)
-            units.AddTokenType(column.tupleToken, InputUnits::kindOf(*unit));
-    }
-}
-
-Finding PartsList::commaNote(const NumberNotation& notation) const
-{
-    Finding note = Finding::stating(FindingCodes::kDecimalComma, "numbers have a decimal comma, " + notation.reason());
-    note.source = m_source.name();
-    return note;
+    ColumnTypes::registerKinds(m_columns, units);
 }
 
 bool PartsList::assumesUnits() const
@@ -239,82 +189,6 @@ bool PartsList::assumesUnits() const
                            return column.isWanted && column.quantities && column.unitSymbol.empty() &&
                                   column.lackingUnit.empty();
                        });
-}
-
-void PartsList::readHeader(const HeadingChoices& choices)
-{
-    const Record& header = HeaderRow::read(m_source);
-    std::vector<std::string> headings;
-    for (const RecordCell& cell : header)
-        headings.push_back(cell.asText());
-    const ColumnNames names = ColumnNames::of(headings, choices);
-    checkMappings(names);
-    FindingList findings;
-    for (std::size_t i = 0; i < headings.size(); ++i)
-    {
-        addColumn(headings[i], names.columns[i]);
-        if (header[i].isRefused())
-            addRefusal(header[i].refusal(), findings);
-        else
-            checkColumn(m_columns.back(), findings);
-    }
-    findings.throwIfAnyError();
-}
-
-void PartsList::checkMappings(const ColumnNames& names) const
-{
-    if (names.missing.empty())
-        return;
-    const HeadingMapping& mapping = names.missing.front();
-    std::vector<std::string> labels;
-    for (const ColumnName& column : names.columns)
-        labels.push_back(column.label);
-    Finding finding = Finding::stating(FindingCodes::kHeadingMissing,
-                                       m_source.name() + " has no column " + inQuotes(mapping.heading));
-    finding.remedy = NearestWord::question(mapping.heading, labels);
-    failInMapping(mapping, finding);
-}
-
-// `column` is the last one so far.
-// find() gives the first of the name: if that is another one, this one has the name a second time.
-void PartsList::checkColumn(const InputColumn& column, FindingList& findings) const
-{
-    if (column.token == "%")
-        addHeaderFinding(Finding::of(FindingCodes::kColumnWithoutName,
-                                     "no name in field " + std::to_string(m_columns.size()), "a column name"),
-                         findings);
-    else if (const InputColumn* const pFirst = find(column.token); pFirst != &column)
-        addHeaderFinding(Finding::of(FindingCodes::kColumnTwice, againIn(*pFirst, column)), findings);
-}
-
-// `finding` is about the heading of the last column so far.
-void PartsList::addRefusal(Finding finding, FindingList& findings) const
-{
-    m_source.placeCell(m_columns.size() - 1, finding);
-    findings.add(std::move(finding));
-}
-
-void PartsList::addHeaderFinding(Finding finding, FindingList& findings) const
-{
-    m_source.placeRecord(finding);
-    findings.add(std::move(finding));
-}
-
-void PartsList::addColumn(const std::string& heading, const ColumnName& name)
-{
-    InputColumn column;
-    column.name = heading;
-    column.label = name.label;
-    column.token = name.token;
-    column.tupleToken = Utf8::toWide(name.token);
-    column.unitSymbol = name.unit;
-    column.isRowTotal = name.isRowTotal;
-    column.origin = name.origin;
-    column.doubt = name.doubt;
-    column.isHandle = name.token == TokenNames::kHandle;
-    column.isPieces = name.token == TokenNames::kPieces;
-    m_indices.emplace(column.token, m_columns.size());
-    m_columns.push_back(column);
 }
 
 // The record read last is still the header row. What several columns are in doubt for is said once.
@@ -354,43 +228,23 @@ void PartsList::findWantedColumns(const std::set<std::string>& wantedTokens)
 void PartsList::resolveColumns(VorBomTemplate& reportTemplate)
 {
     const std::set<std::string> computed = DataTokens::computedWith(reportTemplate);
+    const ColumnTypes types(*reportTemplate.getBomTemplateUnits(), m_ownTokens);
     for (InputColumn& column : m_columns)
         if (column.isWanted || column.unitIsFromUser || column.isRowTotal)
         {
-            resolveColumn(column, *reportTemplate.getBomTemplateUnits());
+            resolveColumn(column, types);
             column.whyNumbers = whyNumbers(column, computed);
         }
 }
 
-// Without a unit, numbers are in the model's unit of the kind that the template, or the catalogue, says they are: but
-// nobody gives areas in mm2, though lengths in mm.
-void PartsList::resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const
+void PartsList::resolveColumn(InputColumn& column, const ColumnTypes& types) const
 {
-    column.type = typeOf(column, units);
+    column.type = types.typeOf(column);
     if (column.isRowTotal && column.type != VorBomDataValue::kDoubleData)
-        failInRowTotal(column.token, Finding::stating(FindingCodes::kRowTotalOfNoNumber, statementOf(column)));
-    const VorBomTemplateUnits::eTokenUnitType kind = units.getUnitType(column.tupleToken);
-    if (!column.unitSymbol.empty())
-        return resolveUnit(column, kind);
-    resolveQuantities(column, InputUnits::ofModel(kind));
-    if (column.quantities)
-        column.lackingUnit = UnitKinds::find(kind)->usualUnit;
-}
-
-// A unit makes numbers of a column that the catalogue does not know, since nobody gives texts in feet; so does a kind
-// of quantity.
-VorBomDataValue::eBomDataValueType PartsList::typeOf(const InputColumn& column, const VorBomTemplateUnits& units) const
-{
-    if (column.isHandle || column.token == TokenNames::kParent) // the identity of a row: its own, or another one's
-        return VorBomDataValue::kStringData;
-    if (const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(column.tupleToken))
-        return pEntry->type;
-    const auto own = m_ownTokens.find(column.token);
-    if (own != m_ownTokens.end() && own->second == kOwnText)
-        return VorBomDataValue::kStringData;
-    const bool hasKind = UnitKinds::find(units.getUnitType(column.tupleToken)) != nullptr;
-    const bool hasNumbers = hasKind || column.isRowTotal || !column.unitSymbol.empty();
-    return hasNumbers ? VorBomDataValue::kDoubleData : VorBomDataValue::kUnknownData;
+        failInRowTotal(column.token,
+                       Finding::stating(FindingCodes::kRowTotalOfNoNumber, ColumnTypes::statementOf(column)));
+    if (const auto finding = types.resolve(column))
+        failInUnit(column, *finding);
 }
 
 // Only of columns whose content would else decide what they hold.
@@ -403,36 +257,9 @@ std::string PartsList::whyNumbers(const InputColumn& column, const std::set<std:
     return computed.count(column.token) > 0 ? "the list computes with " + column.token : std::string();
 }
 
-// All kinds have been registered, so a unit whose token has none is one that the template denies. The list would show
-// its numbers as they are in the model, 2286 for 7.5 ft, and name no unit.
-void PartsList::resolveUnit(InputColumn& column, VorBomTemplateUnits::eTokenUnitType kind) const
-{
-    if (column.type != VorBomDataValue::kDoubleData)
-        failInUnit(column, FindingCodes::kUnitOfNoQuantity, "none", statementOf(column));
-    column.unit = InputUnits::find(column.unitSymbol, kind);
-    if (!column.unit)
-        failInUnit(column, FindingCodes::kColumnUnitUnknown, InputUnits::expectation(kind));
-    if (kind == VorBomTemplateUnits::kNoUnit)
-        failInUnit(column, FindingCodes::kColumnUnitUnknown, "none",
-                   "the template says that " + column.token + " has no unit");
-    column.takesPlainNumbers = InputUnits::takesPlainNumbers(*column.unit);
-    column.isInModelUnit = InputUnits::isOfModel(*column.unit);
-    resolveQuantities(column, column.unit);
-}
-
-// A cell may name another unit than its column, as long as it is of the same kind.
-void PartsList::resolveQuantities(InputColumn& column, const std::optional<MEKUnit>& unit)
-{
-    if (unit && column.type == VorBomDataValue::kDoubleData)
-        column.quantities.emplace(unit->unit());
-}
-
 // The record read last is still the header row.
-void PartsList::failInUnit(const InputColumn& column, const FindingCode& code, const std::string& expected,
-                           const std::string& remedy) const
+void PartsList::failInUnit(const InputColumn& column, Finding finding) const
 {
-    Finding finding = Finding::of(code, "unit " + inQuotes(column.unitSymbol), expected);
-    finding.remedy = remedy;
     if (column.unitIsFromUser)
         failInOption(column.token, column.unitSymbol, finding);
     m_source.placeCell(static_cast<std::size_t>(&column - m_columns.data()), finding);

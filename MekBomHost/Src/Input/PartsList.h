@@ -7,8 +7,8 @@
 //   parts.setRowTotal("%Weight");
 //   const PartsFacts facts = parts.readRows(*pTemplate);    // into the template's data
 //
-// The catalogue of tokens decides what type a column has. A column it does not know has numbers if its heading names a
-// unit, the template says so, or the list computes with it; else it has the type of its content (UntypedCells).
+// What a column holds follows from its token, its unit and the template (ColumnTypes), and where these leave it open
+// from its content. A column that the list computes with must hold numbers.
 //
 // A cell of lengths, weights and other quantities may carry a unit of its own, as in "7'-6 1/2\"" and "7.5 ft". Numbers
 // without one are in the unit of their column; where nobody names any, lengths are in mm, weights in kg and angles in
@@ -18,7 +18,7 @@
 // Everything that is wrong is thrown as one Fault.
 #pragma once
 
-#include "FindingList.h"
+#include "Finding.h"
 #include "InputColumn.h"
 #include "NumberNotation.h"
 #include "PartsFacts.h"
@@ -38,7 +38,7 @@
 namespace mekbom
 {
 class CellReader;
-struct FindingCode;
+class ColumnTypes;
 
 class PartsList
 {
@@ -95,24 +95,13 @@ public:
 
 private:
     void buildRows(CellReader& cells, VorBomData& data, int numFormulas);
-    void readHeader(const HeadingChoices& choices);
-    void checkMappings(const ColumnNames& names) const;
-    void checkColumn(const InputColumn& column, FindingList& findings) const;
-    void addRefusal(Finding finding, FindingList& findings) const;
-    void addHeaderFinding(Finding finding, FindingList& findings) const;
-    void addColumn(const std::string& heading, const ColumnName& name);
     void refuseDoubts(const std::set<std::string>& wantedTokens) const;
-    Finding commaNote(const NumberNotation& notation) const;
     void findWantedColumns(const std::set<std::string>& wantedTokens);
     void resolveColumns(VorBomTemplate& reportTemplate);
-    void resolveColumn(InputColumn& column, const VorBomTemplateUnits& units) const;
-    VorBomDataValue::eBomDataValueType typeOf(const InputColumn& column, const VorBomTemplateUnits& units) const;
+    void resolveColumn(InputColumn& column, const ColumnTypes& types) const;
     std::string whyNumbers(const InputColumn& column, const std::set<std::string>& computed) const;
-    void resolveUnit(InputColumn& column, VorBomTemplateUnits::eTokenUnitType kind) const;
-    static void resolveQuantities(InputColumn& column, const std::optional<MEKUnit>& unit);
     InputColumn* findColumn(const std::string& token);
-    [[noreturn]] void failInUnit(const InputColumn& column, const FindingCode& code, const std::string& expected,
-                                 const std::string& remedy = std::string()) const;
+    [[noreturn]] void failInUnit(const InputColumn& column, Finding finding) const;
 
     RecordSource& m_source;
     unsigned m_numProcessors;

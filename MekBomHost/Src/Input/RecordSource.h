@@ -32,6 +32,7 @@
 #include "NumberNotation.h"
 #include "RecordCell.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -39,6 +40,12 @@
 namespace mekbom
 {
 using Record = std::vector<RecordCell>;
+
+// Whether no cell holds anything: spreadsheets leave such rows behind their last one.
+inline bool isEmpty(const Record& record)
+{
+    return std::all_of(record.begin(), record.end(), [](const RecordCell& cell) { return cell.isNothing(); });
+}
 
 class RecordSource
 {

@@ -1,17 +1,14 @@
 // The cells of a column that the catalogue of tokens does not know, kept as texts until all have been seen and their
-// one type is clear:
+// one type is clear (TypeOfCells):
 //
-//   "4", "12"               ->  whole numbers
-//   "4", "12.5"             ->  numbers, as are whole numbers beyond 32 bits
-//   "4", "12.5", "M16"      ->  texts
-//   "0417", "12"            ->  texts, as is whatever else would not be shown as it is written (NumberReader::isPlain):
-//                               articles and orders are numbered so
-//
-// Of a column that must be numbers the cells have been checked by whoever adds them; then "0417" is a number, too.
+//   UntypedCells cells;
+//   cells.add("4");
+//   cells.add("M16");
+//   cells.takeNext()   ->  the text "4", and not the number
 #pragma once
 
-#include "NumberNotation.h"
 #include "TextPool.h"
+#include "TypeOfCells.h"
 
 #include "VorBomDataValue.h"
 
@@ -25,37 +22,25 @@ namespace mekbom
 class UntypedCells
 {
 public:
-    // From here on all cells are numbers, in whatever form NumberReader reads. To be called before the first add().
-    void takeNumbersAlone() { m_mustBeNumbers = true; }
-
-    // How their numbers are written, else the plain way: with a decimal comma "12,5" is one. Digits in groups stay texts,
-    // since their number would not be shown as it is written. To be called before the first add().
-    void setNotation(const NumberNotation& notation) { m_notation = notation; }
+    // As of TypeOfCells. To be called before the first add().
+    void takeNumbersAlone() { m_type.takeNumbersAlone(); }
+    void setNotation(const NumberNotation& notation) { m_type.setNotation(notation); }
 
     // `cell` is not empty.
     void add(std::string_view cell);
 
-    // The one type that all cells added have: kIntData, kDoubleData or kStringData; kStringData when there are none.
-    VorBomDataValue::eBomDataValueType type() const;
-
-    // The most decimals that a cell is written with, 0 to 15. Only where the cells are numbers.
-    int numDecimals() const { return m_numDecimals; }
+    // What is known of all cells added.
+    VorBomDataValue::eBomDataValueType type() const { return m_type.type(); }
+    int numDecimals() const { return m_type.numDecimals(); }
 
     // The value of the first cell that has not been taken yet. To be called once for each cell, after the last add().
     VorBomDataValue takeNext();
 
 private:
-    std::string_view numberIn(std::string_view cell);
-
-    NumberNotation m_notation;
-    std::string m_plain; // what numberIn() gave last, where the notation is not the plain one
+    TypeOfCells m_type;
     std::string m_bytes; // the cells one after the other
     std::vector<std::size_t> m_ends;
     std::size_t m_next = 0; // the cell to be taken next
-    bool m_mustBeNumbers = false;
-    bool m_allAreInts = true;
-    bool m_allAreNumbers = true;
-    int m_numDecimals = 0;
     TextPool m_texts;
 };
 }

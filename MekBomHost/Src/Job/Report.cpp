@@ -18,8 +18,8 @@
 #include "OverflowCheck.h"
 #include "RowTally.h"
 #include "RowTree.h"
-#include "TokenNames.h"
 #include "SummaryTemplate.h"
+#include "TokenNames.h"
 #include "TokenQuantities.h"
 #include "TotalsCheck.h"
 

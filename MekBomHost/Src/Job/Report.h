@@ -48,6 +48,7 @@ public:
 
     // The units that numbers are shown in.
     const VorUnitsManager& units() const { return m_units; }
+    const DisplaySettings& settings() const { return m_settings; }
 
     // The numbers of all rows that were read, once they were filtered; of none unless lines keep their rows.
     const RowNumbers& rowNumbers() const { return m_rowNumbers; }

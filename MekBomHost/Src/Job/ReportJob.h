@@ -20,6 +20,7 @@
 #include "Report.h"
 #include "ReportRequest.h"
 #include "ReportTemplate.h"
+#include "TokenNames.h"
 
 #include <memory>
 #include <optional>
@@ -50,13 +51,18 @@ public:
     // What is known of the rows that were read; of the sample rows, nothing. Only once run() has returned kDone.
     const PartsFacts& partsFacts() const { return m_partsFacts; }
 
+    // Whether the parts list says which objects its rows are. Rows that are merely numbered have no handles to rely on.
+    bool hasHandles() const { return m_pParts != nullptr && m_pParts->find(TokenNames::kHandle) != nullptr; }
+
     // The evaluated report, good for as long as the job is. Only once run() has returned kDone.
     EvaluatedReport report() const { return m_pReport->evaluated(); }
 
-    // The template, the units and the numbers of the rows that the report was made with, under the same conditions.
+    // The template, the units, the settings and the numbers of the rows that the report was made with, under the same
+    // conditions.
     // Rows have numbers only where the request asks for the rows of lines.
     const ReportTemplate& reportTemplate() const { return m_pReport->reportTemplate(); }
     const VorUnitsManager& units() const { return m_pReport->units(); }
+    const DisplaySettings& settings() const { return m_pReport->settings(); }
     const RowNumbers& rowNumbers() const { return m_pReport->rowNumbers(); }
 
 private:

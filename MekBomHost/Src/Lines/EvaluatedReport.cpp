@@ -1,6 +1,5 @@
 #include "EvaluatedReport.h"
 
-#include <algorithm>
 #include <cstddef>
 
 namespace mekbom
@@ -25,12 +24,7 @@ std::vector<TextExtent> EvaluatedReport::textExtents() const
     {
         const std::vector<int>& shown = m_layout.section(place).columns;
         for (std::size_t i = 0; i < shown.size(); ++i)
-        {
-            const TextExtent extent = m_sections.extentOf(place, i);
-            TextExtent& ofColumn = extents[static_cast<std::size_t>(shown[i])];
-            ofColumn.longest = std::max(ofColumn.longest, extent.longest);
-            ofColumn.areAllPlain = ofColumn.areAllPlain && extent.areAllPlain;
-        }
+            extents[static_cast<std::size_t>(shown[i])].add(m_sections.extentOf(place, i));
     }
     return extents;
 }

@@ -10,6 +10,7 @@
 #include "RowTally.h"
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 namespace mekbom
@@ -26,5 +27,8 @@ struct ListFacts
     bool countsRowsAsPieces = false; // the data say of no row how many pieces it stands for
     bool areUnitsAssumed = false;    // some length or weight came without a unit, and was read as mm or kg
     std::size_t numWarnings = 0;
+
+    // What is told below the list in place of all this, where lines are not made of a parts list's rows.
+    std::vector<std::string> statements;
 };
 }

@@ -60,7 +60,7 @@ std::string rowsText(int number)
 
 // That rows count as pieces matters only to somebody who reads totals, so it is not told of a list without any.
 ListFoot::ListFoot(const ListFacts& facts, const ReportTemplate& reportTemplate, const ReportLayout& layout)
-    : isKnown(true),
+    : isKnown(facts.statements.empty()),
       numRead(facts.numRowsRead),
       numParents(facts.numParents),
       numSets(facts.numSets),
@@ -72,7 +72,8 @@ ListFoot::ListFoot(const ListFacts& facts, const ReportTemplate& reportTemplate,
       numEmptyRows(facts.numEmptyRows),
       countsRowsAsPieces(facts.countsRowsAsPieces && !facts.rows.totals.empty()),
       areUnitsAssumed(facts.areUnitsAssumed),
-      numWarnings(facts.numWarnings)
+      numWarnings(facts.numWarnings),
+      statements(facts.statements)
 {
     for (const TotalCount& total : facts.rows.totals)
     {
@@ -88,7 +89,7 @@ ListFoot::ListFoot(const ListFacts& facts, const ReportTemplate& reportTemplate,
 // a number to what might.
 std::vector<std::string> ListFoot::lines() const
 {
-    std::vector<std::string> all;
+    std::vector<std::string> all = statements;
     if (!isKnown)
         return all;
     all.push_back(rowsLine());

@@ -66,6 +66,7 @@ struct ListFoot
     bool countsRowsAsPieces = false; // the data say of no row how many pieces it stands for, and totals are printed
     bool areUnitsAssumed = false;
     std::size_t numWarnings = 0;
+    std::vector<std::string> statements; // whole sentences, in place of all this
 
 private:
     std::string rowsLine() const;

@@ -16,6 +16,7 @@
 // passed over. Beside the texts, values and rows are kept when the constructor is told so.
 #pragma once
 
+#include "DecimalPlaces.h"
 #include "LineContents.h"
 #include "RepeatedTexts.h"
 #include "ReportTemplate.h"
@@ -25,6 +26,7 @@
 
 #include "VorBomSectionSink.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -37,7 +39,34 @@ namespace mekbom
 // What is known of many texts without a look at each.
 struct TextExtent
 {
-    std::uint32_t longest = 0; // in bytes; says nothing unless all are plain
+    // Makes room for a plain text of that length, and for a plain number.
+    void addText(std::uint32_t length)
+    {
+        longest = std::max(longest, length);
+        longestWhole = std::max(longestWhole, length);
+    }
+    void addNumber(std::string_view number)
+    {
+        const auto length = static_cast<std::uint32_t>(number.size());
+        const std::uint32_t decimals = DecimalPlaces::lengthIn(number);
+        longest = std::max(longest, length);
+        longestWhole = std::max(longestWhole, length - decimals);
+        longestDecimals = std::max(longestDecimals, decimals);
+    }
+
+    // Makes room for all that the other one is about.
+    void add(const TextExtent& other)
+    {
+        longest = std::max(longest, other.longest);
+        longestWhole = std::max(longestWhole, other.longestWhole);
+        longestDecimals = std::max(longestDecimals, other.longestDecimals);
+        areAllPlain = areAllPlain && other.areAllPlain;
+    }
+
+    // In bytes; they say nothing unless all are plain.
+    std::uint32_t longest = 0;
+    std::uint32_t longestWhole = 0;    // up to the decimal point, of what is no number all of it
+    std::uint32_t longestDecimals = 0; // from the point on
     bool areAllPlain = true;
 };
 
@@ -78,6 +107,7 @@ private:
         bool hasLine = false;
         bool isTaken = false;
         std::vector<int> tuples;                  // the indices of those that are shown
+        std::vector<bool> areNumbers;             // for each of them; of a token that nobody knows, that it may be one
         std::vector<RepeatedTexts> repeatedTexts; // one for each of these tuples
         std::vector<TextExtent> extents;          // one for each of them, of its texts that are not repeated
     };
@@ -94,7 +124,7 @@ private:
     const Kept& keptOf(SectionPlace place) const;
 
     bool take(Kept& kept, const VorBomReportSection& section, bool isFooter);
-    void append(const VorBomDataValue& value, RepeatedTexts& repeatedTexts, TextExtent& extent);
+    void append(const VorBomDataValue& value, Kept& kept, std::size_t index);
     void appendByte(std::size_t byte);
     bool appendPlain(const VorString& text);
     void appendOther(std::string_view text);

@@ -44,6 +44,7 @@ struct ReportColumn
     std::string unitSymbol;              // UTF-8: the unit that they are shown in, or what the template calls that of
                                          // numbers without a kind; empty where the heading can name none
     bool hasMixedUnits = false;          // its numbers have several units, each behind its number
+    bool hasDecimals = true;             // else quantities are shown in feet and inches, fractions or minutes
     ColumnNumbers numbers;               // what its numbers are in these units
     bool hasNumbers = false;             // it shows some, be it a total below texts
     bool isNumeric = false;              // it shows numbers: half of one would be another number

@@ -74,8 +74,12 @@ void describeContent(ReportColumn& column, const TokenQuantities& quantities, co
     column.hasMixedUnits = !measure.isNamed() && std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
                                                              [&quantities](const VorString& token)
                                                              { return quantities.measureOf(token).isNamed(); });
-    column.unitSymbol =
-        measure.pKind == nullptr ? measure.label : ColumnUnit::symbolOf(ColumnUnit::of(pStyle, *measure.pKind, units));
+    column.unitSymbol = measure.label;
+    if (measure.pKind == nullptr)
+        return;
+    const MEKUnit unit = ColumnUnit::of(pStyle, *measure.pKind, units);
+    column.unitSymbol = ColumnUnit::symbolOf(unit);
+    column.hasDecimals = ColumnUnit::hasDecimals(unit);
 }
 
 void describeLook(ReportColumn& column, const ColumnStyle* pStyle)

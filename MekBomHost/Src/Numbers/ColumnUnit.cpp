@@ -23,9 +23,7 @@ const VorUnitDefinition& definitionOf(const MEKUnit& unit)
 // decimals.
 MEKUnit withDecimals(const MEKUnit& unit, int decimals)
 {
-    const bool hasDecimals =
-        definitionOf(unit).layout == VorUnitDefinition::kPlainNumber && unit.format() < kFirstFraction;
-    if (decimals < 0 || !hasDecimals)
+    if (decimals < 0 || !hasDecimals(unit))
         return unit;
     return MEKUnit(unit.unit(), unit.inputUnit(), std::min(decimals, kMostDecimals));
 }
@@ -47,6 +45,11 @@ std::optional<MEKUnit> ownOf(const ColumnStyle& style, const UnitKind& kind)
     if (style.unit.empty() || units.setUnit(kind.system, Utf8::toWide(style.unit)) == 0)
         return std::nullopt;
     return units.getUnit(kind.system);
+}
+
+bool hasDecimals(const MEKUnit& unit)
+{
+    return definitionOf(unit).layout == VorUnitDefinition::kPlainNumber && unit.format() < kFirstFraction;
 }
 
 std::string symbolOf(const MEKUnit& unit)

@@ -25,6 +25,9 @@ MEKUnit of(const ColumnStyle* pStyle, const UnitKind& kind, const VorUnitsManage
 // The column's own unit; nothing when it has none, or none of that kind.
 std::optional<MEKUnit> ownOf(const ColumnStyle& style, const UnitKind& kind);
 
+// Whether numbers in the unit are shown as decimals, and not in feet and inches, in fractions, or in degrees and minutes.
+bool hasDecimals(const MEKUnit& unit);
+
 // The symbol of a unit of the catalogue, in UTF-8.
 std::string symbolOf(const MEKUnit& unit);
 }

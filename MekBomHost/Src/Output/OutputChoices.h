@@ -8,10 +8,19 @@
 // Not every format can do what is asked: ReportFormats says which takes which choice.
 #pragma once
 
+#include "TextEncoding.h"
+
 #include <optional>
 
 namespace mekbom
 {
+// How the characters of a file are written.
+struct OutputEncoding
+{
+    TextEncoding::eEncoding encoding = TextEncoding::kUtf8;
+    bool hasMark = false; // a byte order mark in front, by which programs know the encoding
+};
+
 struct OutputChoices
 {
     // What can be chosen; bits of a set.
@@ -23,7 +32,8 @@ struct OutputChoices
         kDecimalSign = 1U << 3U,
         kWidth = 1U << 4U,
         kCut = 1U << 5U,
-        kAscii = 1U << 6U
+        kAscii = 1U << 6U,
+        kEncoding = 1U << 7U
     };
 
     void give(eChoice choice) { given |= choice; }
@@ -34,7 +44,8 @@ struct OutputChoices
     bool hasPlainValues = false;   // numbers in full, in one unit, instead of the texts that a list on paper shows
     bool hasFoot = false;          // what the list is made of among its records
     std::optional<char> delimiter; // between fields; none for that of the format
-    char decimalSign = '.';        // of numbers that programs are to read
+    char decimalSign = '.';        // of numbers
+    OutputEncoding encoding;       // of records
 
     int width = 0;          // that a table has to fit into, in columns of a terminal; 0 for as wide as need be
     bool cutsTexts = false; // those that are wider than their column, instead of going on in the next line

@@ -6,9 +6,12 @@
 //
 //   if (const NamedText* const pFile = TemplateChoice::choose(files, hasColumn))
 //       list = TemplateReader::read(pFile->name, pFile->text);
+//
+// What each of them would find, and what it would lack, is TemplateCover.
 #pragma once
 
 #include "NamedText.h"
+#include "TemplateCover.h"
 
 #include <functional>
 #include <string>
@@ -21,4 +24,9 @@ namespace mekbom::TemplateChoice
 // does, when one is malformed.
 const NamedText* choose(const std::vector<NamedText>& candidates,
                         const std::function<bool(const std::string&)>& hasColumn);
+
+// What each of the candidates would find, those first that suit better, equals in their order. Where one suits, the
+// first is the one that choose() answers. Throws as choose() does.
+std::vector<TemplateCover> coversOf(const std::vector<NamedText>& candidates,
+                                    const std::function<bool(const std::string&)>& hasColumn);
 }

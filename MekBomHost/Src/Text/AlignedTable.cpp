@@ -24,12 +24,14 @@ std::string AlignedTable::text() const
         int numBlanks = 0;
         for (std::size_t column = 0; column < row.size(); ++column)
         {
+            const int numFree = columnWidths[column] - Utf8::displayWidth(row[column]);
+            numBlanks += m_isRight[column] ? numFree : 0;
             if (!row[column].empty())
             {
                 text.append(static_cast<std::size_t>(numBlanks), ' ').append(row[column]);
                 numBlanks = 0;
             }
-            numBlanks += columnWidths[column] - Utf8::displayWidth(row[column]) + kGap;
+            numBlanks += (m_isRight[column] ? 0 : numFree) + kGap;
         }
         text += '\n';
     }

@@ -191,7 +191,7 @@ NumberNotation::eReading NumberNotation::addWord(std::string_view word, bool may
 
 NumberNotation::eSign NumberNotation::shownBy(std::string_view text)
 {
-    if (text.find_first_of(".,") == std::string_view::npos)
+    if (std::none_of(text.begin(), text.end(), [](char c) { return c == '.' || c == ','; }))
         return kNoSign;
     const std::string_view word = onlyWordOf(text);
     const bool mayBeGrouped = !isExponent(text);

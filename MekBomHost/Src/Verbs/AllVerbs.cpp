@@ -2,6 +2,8 @@
 
 #include "CheckVerb.h"
 #include "DemoVerb.h"
+#include "DescribeVerb.h"
+#include "DiffVerb.h"
 #include "ExplainVerb.h"
 #include "FormulaVerb.h"
 #include "HelpVerb.h"
@@ -19,7 +21,9 @@ VerbList allVerbs()
     VerbList verbs;
     verbs.add(std::make_unique<ReportVerb>());
     verbs.add(std::make_unique<DemoVerb>());
+    verbs.add(std::make_unique<DiffVerb>());
     verbs.add(std::make_unique<CheckVerb>());
+    verbs.add(std::make_unique<DescribeVerb>());
     verbs.add(std::make_unique<NewListVerb>());
     verbs.add(std::make_unique<ExplainVerb>());
     verbs.add(std::make_unique<FormulaVerb>());

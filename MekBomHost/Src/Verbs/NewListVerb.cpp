@@ -16,7 +16,7 @@
 #include "PartsFormats.h"
 #include "PartsList.h"
 #include "StandardOutput.h"
-#include "UntypedCells.h"
+#include "TypeOfCells.h"
 
 #include <CLI/CLI.hpp>
 
@@ -58,9 +58,9 @@ std::vector<InputColumn> NewListVerb::columnsOf(RecordSource& records, const Hea
 {
     const PartsList parts(records, choices);
     std::vector<InputColumn> columns = parts.columns();
-    std::vector<UntypedCells> cells(columns.size());
+    std::vector<TypeOfCells> cells(columns.size());
     const NumberNotation notation = parts.notation(VorBomTemplateUnits());
-    for (UntypedCells& cellsOfColumn : cells)
+    for (TypeOfCells& cellsOfColumn : cells)
         cellsOfColumn.setNotation(notation);
     while (const Record* const pRecord = records.next())
         for (std::size_t i = 0; i < std::min(pRecord->size(), columns.size()); ++i)

@@ -53,7 +53,8 @@ const char* const ReportVerb::kNotes = R"(Data
   identity of the object, Quantity how many of them a row stands for (1 where it does not
   say). Other values are those of one piece, or of all in the columns that --row-totals
   names. Rows that name others as their Parent are parts of these: --flatten multiplies
-  their pieces, --sets 10 those of all rows.
+  their pieces, --sets 10 those of all rows. mekbom describe prints what stands in the
+  columns of a file, and what is odd.
 
 Template
   The shipped lists go by name: cutting-list, assembly-list, bolt-list, parts-list.
@@ -68,6 +69,15 @@ Units
   fractions. A file of units has lines such as length = ft-in/16, and base = imperial or
   metric for what it does not name. mekbom units lists the catalogue.
 
+Output
+  -o names a file, several times for several, all of them from one evaluation. Its ending
+  tells the format, such as .txt, .csv, .html or .json; --to is that of outputs whose names
+  tell none, and of standard output. Files are replaced when all outputs are complete. CSV has
+  a record for each line, with what its groups show and without totals, so that a column
+  adds up to its total; --values plain gives numbers in full, in feet where the list shows
+  feet and inches. A text that a spreadsheet would run gets an apostrophe in front. What
+  the list is made of is told on standard error then, or with --foot behind the records.
+
 Settings
   C0_BOMSuppressLastZeros          0 keeps trailing zeros: 2.50
   C40_SuppressZeroFeet             0 shows 0' 6" instead of 6"
@@ -81,7 +91,7 @@ Examples
   mekbom report --data parts.csv
   mekbom report --data parts.csv --template cutting-list
   mekbom report --data parts.csv --template list.json --units imperial -o list.txt
-  mekbom report --data parts.csv -o list.txt -o list.csv
+  mekbom report --data parts.csv -o list.txt -o list.csv --values plain
   mekbom report --data hall --unit length=ft-in/32 --setting C40_SuppressZeroFeet=0
   mekbom report --data frame.csv --input-unit %Paint=m2
   mekbom report --data export.csv --map "Cost code=%UserAttr1"

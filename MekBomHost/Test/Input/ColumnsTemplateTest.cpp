@@ -81,7 +81,7 @@ TEST(ColumnsTemplateTest, WeightsAreAddedUpOverThePieces)
     EXPECT_EQ("Name    Quantity  Weight [kg]  Total weight [kg]\n"
               "------  --------  -----------  -----------------\n"
               "HEA200         4        134.4              537.6\n"
-              "IPE360         1          100                100\n"
+              "IPE360         1        100                  100\n"
               "------  --------  -----------  -----------------\n"
               "Total          5                           637.6\n",
               printed("%Name,%Quantity,%Weight\nHEA200,4,134.4\nIPE360,1,100\n"));
@@ -92,7 +92,7 @@ TEST(ColumnsTemplateTest, WithoutPiecesARowIsOne)
     EXPECT_EQ("Name    Weight [kg]\n"
               "------  -----------\n"
               "HEA200        134.4\n"
-              "IPE360          100\n"
+              "IPE360        100\n"
               "------  -----------\n"
               "Total         234.4\n",
               printed("%Name,%Weight\nHEA200,134.4\nIPE360,100\n"));

@@ -94,7 +94,7 @@ std::string outcomeOf(ReportRequest request)
 
 TEST(ReportJobTest, TextsBecomeATable)
 {
-    EXPECT_EQ("Name    Length [mm]\n------  -----------\nHEA200         2286\nIPE360        152.4\n",
+    EXPECT_EQ("Name    Length [mm]\n------  -----------\nHEA200       2286\nIPE360        152.4\n",
               outcomeOf(requestFor(kParts, kDetails)));
 }
 
@@ -105,7 +105,7 @@ TEST(ReportJobTest, AFormulaWhoseResultNobodySaysIsAnErrorUnlessItIsAllowed)
     const std::string allowing = R"({ "allow": { "MB421": "bars" }, )" + rest;
     const std::string details = "{ " + rest;
     const char* const kTable =
-        "Name    %Length/1000\n------  ------------\nHEA200         2.286\nIPE360        0.1524\n";
+        "Name    %Length/1000\n------  ------------\nHEA200        2.286\nIPE360        0.1524\n";
     ReportRequest request = requestFor(kParts, details);
     request.allowed = { "MB421" };
 

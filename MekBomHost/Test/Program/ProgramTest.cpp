@@ -36,7 +36,7 @@ const char* const kTemplate = R"({ "equalLines": "merge", "sections": [
 const char* const kTable = "Name    Weight [kg]\n"
                            "------  -----------\n"
                            "HEA200          2.5\n"
-                           "IPE360            4\n"
+                           "IPE360          4\n"
                            "------  -----------\n"
                            "                6.5\n"
                            "\n"

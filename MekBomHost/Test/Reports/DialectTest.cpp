@@ -41,6 +41,18 @@ TEST(DialectTest, OneListComesOfAllDialects)
         EXPECT_EQ(expected, report(kFolder + pName).output) << pName;
 }
 
+TEST(DialectTest, OneListComesOfTheExportsOfAllPrograms)
+{
+    const std::string folder = MEK_TEST_DIR "/Reports/Lists/exports-of-several-programs/";
+    const std::string expected = runHere({ "report", "--data", folder + "pandas.csv" }).output;
+
+    EXPECT_NE(std::string::npos, expected.find("16730.45")) << expected;
+    for (const char* const pName :
+         { "libreoffice.csv", "libreoffice-german.csv", "libreoffice-german.xlsx", "openpyxl.csv", "openpyxl.xlsx",
+           "pandas-german.csv", "pandas.json", "pandas.jsonl", "pandas.xlsx" })
+        EXPECT_EQ(expected, runHere({ "report", "--data", folder + pName }).output) << pName;
+}
+
 TEST(DialectTest, WhatIsNotPlainIsSaid)
 {
     EXPECT_EQ("", notesOn("plain.csv"));

@@ -27,6 +27,18 @@ std::string replaced(std::string text, const std::string& word, const std::strin
     return text;
 }
 
+// The text with the words in place of the folders that they stand for, or the other way round.
+std::string withFolders(std::string text, const fs::path& here, bool byWords)
+{
+    const std::string folders[][2] = { { kHere, here.string() },
+                                       { kExamples, MEK_EXAMPLES_DIR },
+                                       { kRealData, MEK_REAL_DATA_DIR } };
+    for (const auto& [word, folder] : folders)
+        if (!folder.empty())
+            text = replaced(text, byWords ? folder : word, byWords ? word : folder);
+    return text;
+}
+
 // What the command lines of a folder print, each led by itself.
 std::string printedBy(const fs::path& folder)
 {
@@ -34,11 +46,9 @@ std::string printedBy(const fs::path& folder)
     std::string text;
     for (std::string command; std::getline(commands, command);)
     {
-        const std::string here = replaced(command, kHere, folder.string());
-        const ProgramRun run =
-            runProgram(replaced(replaced(here, kExamples, MEK_EXAMPLES_DIR), kRealData, MEK_REAL_DATA_DIR));
+        const ProgramRun run = runProgram(withFolders(command, folder, false));
         EXPECT_EQ(0, run.status) << run.errors;
-        text += "$ mekbom " + command + "\n" + run.output + "\n";
+        text += "$ mekbom " + command + "\n" + withFolders(run.output, folder, true) + "\n";
     }
     return text;
 }
@@ -124,6 +134,26 @@ TEST(ListFolderTest, WorkbooksOfSeveralProgramsAreRead)
     expectList("workbooks-of-several-programs");
 }
 
+TEST(ListFolderTest, ExportsOfSeveralProgramsAreRead)
+{
+    expectList("exports-of-several-programs");
+}
+
+TEST(ListFolderTest, OneListIsWrittenInAllFormats)
+{
+    expectList("formats-of-one-list");
+}
+
+TEST(ListFolderTest, FilesAreDescribed)
+{
+    expectList("files-are-described");
+}
+
+TEST_F(RealListFolderTest, TheFrameIsDescribed)
+{
+    expectList("frame-described");
+}
+
 TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 {
     expectList("frame-metric");
@@ -132,5 +162,10 @@ TEST_F(RealListFolderTest, TheFramePrintsInMetricUnits)
 TEST_F(RealListFolderTest, TheFramePrintsInImperialUnits)
 {
     expectList("frame-imperial");
+}
+
+TEST_F(RealListFolderTest, TheFrameIsWrittenInAllFormats)
+{
+    expectList("frame-formats");
 }
 }

@@ -86,6 +86,21 @@ TEST(TemplateChoiceTest, AListAboutRowsThatCannotBeThereSuitsNothing)
     EXPECT_EQ("parts-list", choiceFor({ "%PNum", "%Profile", "%Material", "%Quantity", "%Length", "%Weight" }));
 }
 
+TEST(TemplateChoiceTest, CoversComeInTheOrderInWhichTheySuitAndTheFirstIsChosen)
+{
+    const std::set<std::string> columns = { "%A", "%B", "%C" };
+    const std::vector<NamedText> files = { fileOf("none", { "%D" }), fileOf("half", { "%A", "%D" }),
+                                           fileOf("all", { "%A", "%B" }), fileOf("same", { "%C" }) };
+
+    std::string names;
+    for (const TemplateCover& cover :
+         TemplateChoice::coversOf(files, [&columns](const std::string& token) { return columns.count(token) > 0; }))
+        names += cover.name + " ";
+
+    EXPECT_EQ("all same half none ", names);
+    EXPECT_EQ("all", choiceFor(columns, files));
+}
+
 TEST(TemplateChoiceTest, AMalformedTemplateIsNamed)
 {
     EXPECT_EQ(0U, faultOf(

@@ -34,6 +34,19 @@ TEST(AlignedTableTest, NoLineEndsInBlanks)
     EXPECT_EQ("A  B  C\na\n      c\n\n", table.text());
 }
 
+TEST(AlignedTableTest, ColumnsOfNumbersStandToTheRight)
+{
+    AlignedTable table({ "File", "Rows", "Note" });
+    table.alignRight(1);
+    table.add({ "a", "7", "" });
+    table.add({ "b.csv", "", "empty" });
+
+    EXPECT_EQ("File   Rows  Note\n"
+              "a         7\n"
+              "b.csv        empty\n",
+              table.text());
+}
+
 TEST(AlignedTableTest, HeadingsAloneAreNoRows)
 {
     AlignedTable table({ "A" });

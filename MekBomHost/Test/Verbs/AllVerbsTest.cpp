@@ -23,7 +23,7 @@ TEST(AllVerbsTest, EveryVerbOfTheProgramHasItsHelp)
         EXPECT_NE("", pSubcommand->get_description()) << pSubcommand->get_name();
         EXPECT_NE("", pSubcommand->get_footer()) << pSubcommand->get_name();
     }
-    for (const char* const name : { "report", "demo", "new-list", "tokens", "formula", "units", "help" })
+    for (const char* const name : { "report", "demo", "describe", "new-list", "tokens", "formula", "units", "help" })
         EXPECT_EQ(1u, names.count(name)) << name;
 }
 }

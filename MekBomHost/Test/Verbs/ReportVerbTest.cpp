@@ -110,7 +110,7 @@ TEST_F(ReportVerbTest, PartsOfSeveralFilesAreListedInTheirOrder)
 {
     const std::string more = m_folder.file("more.json", R"([ { "%Length": 1000, "%Weight": 5 }, { "%Weight": 2.5 } ])");
 
-    EXPECT_EQ("Weight [kg]  Length [mm]\n-----------  -----------\n         10         2286\n          5         1000\n"
+    EXPECT_EQ("Weight [kg]  Length [mm]\n-----------  -----------\n       10           2286\n        5           1000\n"
               "        2.5\n",
               withoutFoot(report({ "--data", more }).output));
 }

@@ -37,18 +37,20 @@ void addNote(const FindingCode& code, const std::string& source, const std::stri
     notes.add(std::move(note));
 }
 
-void addRecord(const Record& record, const std::vector<std::size_t>& columns, int line, NotationEvidence& evidence)
-{
-    for (const std::size_t column : columns)
-        if (column < record.size())
-            evidence.add(record[column].text(), line);
-}
-
 int lineOf(const CsvReader& reader)
 {
     Finding finding;
     reader.placeRecord(finding);
     return finding.begin.line;
+}
+
+// Most cells show nothing, and the line of the record takes longer to ask for than to see that.
+void addRecord(const Record& record, const std::vector<std::size_t>& columns, const CsvReader& reader,
+               NotationEvidence& evidence)
+{
+    for (const std::size_t column : columns)
+        if (column < record.size() && NumberNotation::shownBy(record[column].text()) != NumberNotation::kNoSign)
+            evidence.add(record[column].text(), lineOf(reader));
 }
 }
 
@@ -81,7 +83,7 @@ NumberNotation CsvFile::notationOf(const std::vector<std::size_t>& columns) cons
     try
     {
         for (const Record* pRecord = reader.next(); pRecord != nullptr && !evidence.isEnough(); pRecord = reader.next())
-            addRecord(*pRecord, columns, lineOf(reader), evidence);
+            addRecord(*pRecord, columns, reader, evidence);
     }
     catch (const Fault&) // NOLINT(bugprone-empty-catch): see above
     {

@@ -12,6 +12,7 @@
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "InQuotes.h"
+#include "InputLimits.h"
 #include "TextCheck.h"
 #include "Utf8.h"
 
@@ -91,9 +92,11 @@ void CsvReader::beginFile()
 }
 
 // Bytes move, so whatever points at them is worth nothing afterwards: one more reason to begin a record that was not
-// complete anew rather than to go on with it.
+// complete anew rather than to go on with it. All that has been read and not been used up is of one record.
 void CsvReader::readMore()
 {
+    if (static_cast<std::size_t>(m_bytes.end() - m_pNext) > InputLimits::kMostRecordBytes)
+        failTooLarge();
     m_bytes.dropTo(m_pNext);
     m_bytes.readMore();
     m_pNext = m_bytes.begin();
@@ -312,6 +315,17 @@ void CsvReader::failUnclosed(const char* pField) const
                                   "the end of the file within the quoted field that starts here", "a closing quote");
     finding.source = name();
     finding.begin.line = lineOf(pField);
+    throw Fault(kInvalidInput, finding);
+}
+
+void CsvReader::failTooLarge() const
+{
+    Finding finding =
+        Finding::of(FindingCodes::kRecordTooLarge,
+                    "a row of more than " + std::to_string(InputLimits::kMostRecordBytes >> 20) + " MB", "less");
+    finding.remedy = "a field without its closing quote takes in all that follows";
+    finding.source = name();
+    finding.begin.line = m_nextLine;
     throw Fault(kInvalidInput, finding);
 }
 }

@@ -4,8 +4,8 @@
 //
 //   HEA200,"7'-6""",12       ->   HEA200 | 7'-6" | 12
 //
-// A quote where none may stand, a quoted field without its end, bytes that are not UTF-8 and zero bytes end the reading
-// with a Fault that names the place. How many fields a record has is left to the caller. Cells are views of bytes that
+// A quote where none may stand, a quoted field without its end, a record larger than InputLimits allow, bytes that are
+// not UTF-8 and zero bytes end the reading with a Fault that names the place. How many fields a record has is left to the caller. Cells are views of bytes that
 // the reader holds, and good until the next record is asked for.
 #pragma once
 
@@ -67,6 +67,7 @@ private:
     const char* failBehindQuote(const char* pField, const char* pByte) const;
     const char* failAt(const char* pByte, Finding finding) const;
     [[noreturn]] void failUnclosed(const char* pField) const;
+    [[noreturn]] void failTooLarge() const;
 
     ByteSource& m_source;
     const char m_delimiter;

@@ -5,6 +5,7 @@
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "InQuotes.h"
+#include "InputLimits.h"
 #include "Utf8.h"
 
 #include <algorithm>
@@ -42,6 +43,8 @@ std::string_view JsonObjects::next()
         fail("an object for each part: { \"Name\": \"HEA200\", ... }");
     m_begin = m_offset;
     m_offset = endOfObject();
+    if (m_offset - m_begin > InputLimits::kMostRecordBytes)
+        failTooLarge();
     m_isFirst = false;
     return m_text.substr(m_begin, m_offset - m_begin);
 }
@@ -125,5 +128,16 @@ void JsonObjects::failUnclosed() const
     const Finding finding =
         Finding::of(FindingCodes::kNoJsonParts, "the end of the file within the object that starts here", "its end");
     throw Fault(kInvalidInput, finding.in(m_name, { places.placeOf(m_offset), places.placeOf(m_offset + 1) }));
+}
+
+// Such as { "parts": [ ... ] } around all of them.
+void JsonObjects::failTooLarge()
+{
+    Finding finding =
+        Finding::of(FindingCodes::kRecordTooLarge,
+                    "an object of more than " + std::to_string(InputLimits::kMostRecordBytes >> 20) + " MB", "less");
+    finding.remedy = "give each part an object of its own";
+    const TextPlace begin = place();
+    throw Fault(kInvalidInput, finding.in(m_name, { begin, { begin.line, begin.column + 1 } }));
 }
 }

@@ -6,8 +6,8 @@
 //   objects.next()     ->  { "Name": "IPE360" }
 //   objects.next()     ->  empty: there are no more
 //
-// Only braces and quotes are looked at: whether an object is valid is for its parser to say. Anything else than objects
-// ends it with a Fault of status kInvalidInput that names the place.
+// Only braces and quotes are looked at: whether an object is valid is for its parser to say. Anything else than objects,
+// and an object larger than InputLimits allow, ends it with a Fault of status kInvalidInput that names the place.
 #pragma once
 
 #include "Finding.h"
@@ -42,6 +42,7 @@ private:
     std::size_t endOfText(std::size_t offset) const;
     [[noreturn]] void fail(const std::string& expected);
     [[noreturn]] void failUnclosed() const;
+    [[noreturn]] void failTooLarge();
 
     const std::string& m_name;
     std::string_view m_text;

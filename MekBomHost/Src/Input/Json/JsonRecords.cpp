@@ -9,7 +9,9 @@
 
 #include "Fault.h"
 #include "FindingCodes.h"
+#include "HeaderRow.h"
 #include "InQuotes.h"
+#include "InputLimits.h"
 #include "JsonReader.h"
 #include "Utf8.h"
 
@@ -61,6 +63,7 @@ public:
     }
 
     const std::string& key(std::size_t column) const { return m_keys[column]; }
+    std::size_t numColumns() const { return m_keys.size(); }
 
     bool null() override { return true; }
     bool boolean(bool value) override { return setText(value ? "true" : "false"); }
@@ -186,6 +189,7 @@ const Record* JsonRecords::header()
     {
         isEmpty = false;
         parse();
+        requireColumns();
     }
     m_objects->rewind();
     return isEmpty ? nullptr : &m_pCells->header();
@@ -195,6 +199,17 @@ void JsonRecords::parse()
 {
     if (!m_pCells->read(m_object))
         failInObject();
+}
+
+// Looked after with each object: all columns are gone through for each, and those of a million objects with keys of their
+// own would take hours.
+void JsonRecords::requireColumns() const
+{
+    if (m_pCells->numColumns() <= InputLimits::kMostColumns)
+        return;
+    Finding finding = HeaderRow::tooManyColumns(m_pCells->numColumns());
+    placeRecord(finding);
+    throw Fault(kInvalidInput, finding);
 }
 
 void JsonRecords::placeRecord(Finding& finding) const

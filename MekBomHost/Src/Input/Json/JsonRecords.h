@@ -43,6 +43,7 @@ private:
 
     const Record* header();
     void parse();
+    void requireColumns() const;
     [[noreturn]] void failInObject() const;
     [[noreturn]] void failAt(const TextSpan& span, const Finding& finding) const;
 

@@ -8,6 +8,8 @@
 // kMostElementBytes for a row.
 #pragma once
 
+#include "InputLimits.h"
+
 #include <cstddef>
 
 namespace mekbom::XlsxLimits
@@ -16,8 +18,8 @@ namespace mekbom::XlsxLimits
 constexpr int kMostRows = 1 << 20;
 constexpr int kMostColumns = 1 << 14;
 
-// A row, a text, or a tag. Arbitrary: a row of all columns with numbers takes one megabyte.
-constexpr std::size_t kMostElementBytes = std::size_t{ 8 } << 20;
+// A row, a text, or a tag. A row of all columns with numbers takes one megabyte.
+constexpr std::size_t kMostElementBytes = InputLimits::kMostRecordBytes;
 
 // The texts of a workbook, which are kept. Arbitrary: a million rows with ten texts of their own take half of it.
 constexpr std::size_t kMostTextBytes = std::size_t{ 512 } << 20;

@@ -4,7 +4,7 @@
 //   IPE360,S355J2,2400,12,68.52,822.24
 //   HEA200,S355J2,6161,4,260.61,1042.44
 //
-// CsvColumns says which fields there are. Totals are no records. UTF-8, without a byte order mark.
+// CsvColumns says which fields there are. Totals are no records. The sink is given whole records in UTF-8.
 #pragma once
 
 #include "CsvColumns.h"

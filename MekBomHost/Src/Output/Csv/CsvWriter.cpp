@@ -1,11 +1,13 @@
 #include "CsvWriter.h"
 
 #include "CsvTable.h"
+#include "EncodedSink.h"
 
 namespace mekbom
 {
 void CsvWriter::write(const EvaluatedReport& report, TextSink& sink) const
 {
-    CsvTable(report, m_choices, m_delimiter, sink).write();
+    EncodedSink encoded(sink, m_choices.encoding);
+    CsvTable(report, m_choices, m_delimiter, encoded).write();
 }
 }

@@ -7,6 +7,7 @@
 #include "HtmlWriter.h"
 #include "JsonListWriter.h"
 #include "TextTableWriter.h"
+#include "XlsxWriter.h"
 
 #include "MekRoots/Exp/VorCharacters.h"
 
@@ -37,7 +38,8 @@ std::unique_ptr<ReportWriter> create([[maybe_unused]] const OutputChoices& choic
         return std::make_unique<Writer>();
 }
 
-const unsigned kChoicesOfRecords = OutputChoices::kValues | OutputChoices::kFoot | OutputChoices::kDecimalSign;
+const unsigned kChoicesOfRecords =
+    OutputChoices::kValues | OutputChoices::kFoot | OutputChoices::kDecimalSign | OutputChoices::kEncoding;
 
 // A new format is a line here.
 const Format kFormats[] = {
@@ -46,10 +48,11 @@ const Format kFormats[] = {
     { "tsv", "tsv", kChoicesOfRecords, create<TsvWriter> },
     { "html", "html htm", 0, create<HtmlWriter> },
     { "json", "json", 0, create<JsonListWriter> },
+    { "xlsx", "xlsx", OutputChoices::kValues, create<XlsxWriter> },
 };
 
 // Endings that stand for a format which has no line above.
-const std::string_view kOtherEndings = "jsonl xml yaml xls xlsx ods doc docx odt rtf pdf";
+const std::string_view kOtherEndings = "jsonl xml yaml xls ods doc docx odt rtf pdf";
 
 // "Parts.XLSX" -> "xlsx"; empty for "list" and for "lists.d/list".
 std::string endingOf(std::string_view fileName)

@@ -150,7 +150,7 @@ void JsonList::writeFooter(const ReportLine& line)
     closeDownTo(line.place.level + 1);
     openUpTo(line.place.level);
     closeInside();
-    m_text += ", \"footer\": {";
+    m_text += ",\n\"footer\": {";
     writeSection(line, { line.place.level, true });
     if (line.place.level == m_handleLevel && !isDeepest(m_handleLevel))
         writeHandles("handles", line.footerRows);
@@ -281,14 +281,18 @@ void JsonList::writeHandles(const char* name, const RowList& rows)
 void JsonList::writeFoot()
 {
     const ListFoot& foot = m_report.foot();
+    const std::string text =
+        "\"text\": " + arrayOf(foot.lines(), [](const std::string& line) { return jsonText(line); });
     m_text += ",\n\"foot\": ";
     if (!foot.isKnown)
     {
-        m_text += "null";
+        m_text += foot.statements.empty() ? "null" : "{" + text + "}";
         return;
     }
     const auto describe = [](const auto& element) { return textOf(element); };
-    m_text += "{\"rowsRead\": " + std::to_string(foot.numRead) + ", \"filtered\": " + arrayOf(foot.filtered, describe) +
+    m_text += "{\"rowsRead\": " + std::to_string(foot.numRead) +
+              ", \"rowsReplacedByParts\": " + std::to_string(foot.numParents) +
+              ", \"sets\": " + std::to_string(foot.numSets) + ", \"filtered\": " + arrayOf(foot.filtered, describe) +
               ", \"rowsMerged\": " + std::to_string(foot.numMerged) + ", \"lost\": " + arrayOf(foot.losses, describe) +
               ", \"rowsListed\": " + std::to_string(foot.numListed) + ", \"lines\": " + std::to_string(foot.numLines) +
               ",\n\"totals\": " + arrayOf(foot.totals, describe) +
@@ -296,7 +300,7 @@ void JsonList::writeFoot()
               ", \"rowsAreSinglePieces\": " + boolText(foot.countsRowsAsPieces) +
               ", \"unitsAssumed\": " + boolText(foot.areUnitsAssumed) +
               ", \"warnings\": " + std::to_string(foot.numWarnings) +
-              ",\n\"text\": " + arrayOf(foot.lines(), [](const std::string& line) { return jsonText(line); }) + "}";
+              ",\n" + text + "}";
 }
 
 void JsonList::writeTextOrNull(std::string_view text)

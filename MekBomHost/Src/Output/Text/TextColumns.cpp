@@ -56,7 +56,7 @@ class ColumnWidths
 {
 public:
     ColumnWidths(const EvaluatedReport& report, const OutputChoices& choices)
-        : m_report(report), m_cellText(choices), m_textWidths(report.columns().size())
+        : m_report(report), m_tableText(choices), m_wholeWidths(report.columns().size())
     {
         for (const ReportColumn& column : report.columns())
             m_columns.push_back(describe(column));
@@ -71,14 +71,17 @@ private:
     TextColumn describe(const ReportColumn& described) const;
     void makeRoomForText(std::size_t index, const ShownText& text);
     bool makeRoomForLongest(std::size_t index, TextExtent extent);
+    void makeRoom(std::size_t index, int whole, std::uint32_t decimals);
+    int textWidth(std::size_t index) const;
+    bool isAligned(std::size_t index) const;
     int totalWidth() const;
     void findLeastWidths();
     [[noreturn]] static void failToFit(int width, int least);
 
     const EvaluatedReport& m_report;
-    CellText m_cellText;
+    TableText m_tableText;
     std::vector<TextColumn> m_columns;
-    std::vector<int> m_textWidths; // by column: of its widest text, without heading and labels
+    std::vector<int> m_wholeWidths; // by column: of its widest text up to the decimal point, without heading and labels
 };
 
 // The column as wide as its heading needs. A template's width limits the heading and labels in every column, other
@@ -90,7 +93,7 @@ TextColumn ColumnWidths::describe(const ReportColumn& described) const
     column.isAlignedRight = described.isAlignedRight;
     column.labelLimit = limitOf(described);
     column.textLimit = described.isNumeric ? 0 : column.labelLimit;
-    column.width = std::max({ column.labelLimit, 1, widthOf(m_cellText.wrapped(column.heading, column.labelLimit)) });
+    column.width = std::max({ column.labelLimit, 1, widthOf(m_tableText.wrapped(column.heading, column.labelLimit)) });
     return column;
 }
 
@@ -102,7 +105,7 @@ void ColumnWidths::makeRoomForLabels()
         if (section.label.empty() || section.labelColumn < 0)
             continue;
         TextColumn& column = m_columns[static_cast<std::size_t>(section.labelColumn)];
-        column.width = std::max(column.width, widthOf(m_cellText.wrapped(section.label, column.labelLimit)));
+        column.width = std::max(column.width, widthOf(m_tableText.wrapped(section.label, column.labelLimit)));
     }
 }
 
@@ -110,9 +113,30 @@ void ColumnWidths::makeRoomForText(std::size_t index, const ShownText& text)
 {
     TextColumn& column = m_columns[index];
     const int width = column.takesAsIs(text) ? static_cast<int>(text.length)
-                                             : widthOf(m_cellText.fitted(text.view(), column.textLimit));
-    m_textWidths[index] = std::max(m_textWidths[index], width);
-    column.width = std::max(column.width, width);
+                                             : widthOf(m_tableText.fitted(text.view(), column.textLimit));
+    const std::uint32_t decimals = isAligned(index) ? DecimalPlaces::lengthIn(text.view()) : 0;
+    makeRoom(index, width - static_cast<int>(decimals), decimals);
+}
+
+// The part of a number up to its point may be the longest of one text, and its decimals those of another.
+void ColumnWidths::makeRoom(std::size_t index, int whole, std::uint32_t decimals)
+{
+    TextColumn& column = m_columns[index];
+    column.decimals = std::max(column.decimals, decimals);
+    m_wholeWidths[index] = std::max(m_wholeWidths[index], whole);
+    column.width = std::max(column.width, textWidth(index));
+}
+
+int ColumnWidths::textWidth(std::size_t index) const
+{
+    return m_wholeWidths[index] + static_cast<int>(m_columns[index].decimals);
+}
+
+// Where each number has a unit behind it, the ends of the units stand below each other.
+bool ColumnWidths::isAligned(std::size_t index) const
+{
+    const ReportColumn& column = m_report.columns()[index];
+    return column.isNumeric && column.isAlignedRight && !column.hasMixedUnits;
 }
 
 // Makes room by what is known of all texts together; false where each one has to be looked at.
@@ -121,7 +145,10 @@ bool ColumnWidths::makeRoomForLongest(std::size_t index, TextExtent extent)
     const ShownText longest = { nullptr, extent.longest, extent.areAllPlain };
     if (!m_columns[index].takesAsIs(longest))
         return false;
-    makeRoomForText(index, longest);
+    if (isAligned(index))
+        makeRoom(index, static_cast<int>(extent.longestWhole), extent.longestDecimals);
+    else
+        makeRoom(index, static_cast<int>(extent.longest), 0);
     return true;
 }
 
@@ -169,8 +196,8 @@ void ColumnWidths::findLeastWidths()
     {
         TextColumn& column = m_columns[i];
         const bool hasNumbers = m_report.columns()[i].hasNumbers;
-        const int texts = hasNumbers ? m_textWidths[i] : std::min(m_textWidths[i], kLeastForTexts);
-        const int heading = wordWidthOf(m_cellText.wrapped(column.heading, 0).front());
+        const int texts = hasNumbers ? textWidth(i) : std::min(textWidth(i), kLeastForTexts);
+        const int heading = wordWidthOf(m_tableText.wrapped(column.heading, 0).front());
         column.least = std::min(column.width, std::max(texts, heading));
     }
 }

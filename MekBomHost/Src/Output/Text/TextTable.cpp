@@ -1,7 +1,7 @@
 // Nearly all lines are plain: printable ASCII that fits its columns. Such a line is made of blanks as wide as the
 // table, each text is copied straight into its place among them, and what follows the last text is cut off:
 //
-//   widths 6, 8, 5; texts "L50", "", "2.5", the last aligned right
+//   widths 6, 8, 5; texts "L50", "", "2.5", the last aligned right, with one decimal
 //     "                         "     each column and the two blanks after it
 //     "L50                 2.5  "     3 bytes at 0, nothing at 8, 3 bytes at 18 + (5 - 3)
 //     "L50                 2.5"       then a line feed
@@ -28,7 +28,7 @@ bool isFooterAlone(const LinePlace& place)
 
 TextTable::TextTable(const EvaluatedReport& report, const OutputChoices& choices, TextSink& sink)
     : m_report(report),
-      m_cellText(choices),
+      m_tableText(choices),
       m_width(choices.width),
       m_sink(sink),
       m_columns(TextColumns::of(report, choices)),
@@ -69,7 +69,7 @@ void TextTable::writeTitle()
 // What stands outside the table knows no columns, but the width that all of it has to fit into.
 void TextTable::writeOutside(const std::string& text)
 {
-    for (const std::string& line : m_cellText.wrapped(text, m_width))
+    for (const std::string& line : m_tableText.wrapped(text, m_width))
         m_text += line + "\n";
 }
 
@@ -87,7 +87,7 @@ void TextTable::writeHeading()
     if (m_columns.empty())
         return;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
-        m_wrapped[i] = m_cellText.wrapped(m_columns[i].heading, m_columns[i].labelLimit);
+        m_wrapped[i] = m_tableText.wrapped(m_columns[i].heading, m_columns[i].labelLimit);
     writeWrapped();
     writeRule();
 }
@@ -117,7 +117,7 @@ void TextTable::writeSeparation(const LinePlace& place, const LinePlace& previou
 void TextTable::writeLine(const ReportLine& line)
 {
     if (!line.label.empty() && line.labelColumn < 0)
-        m_text += m_cellText.wrapped(line.label, 0).front() + "\n";
+        writeOutside(std::string(line.label));
     if (isPlain(line))
         return writePlain(line.texts);
     wrap(line);
@@ -147,7 +147,8 @@ void TextTable::writePlain(const std::vector<ShownText>& texts)
     {
         const ShownText& text = texts[i];
         const auto width = static_cast<std::size_t>(m_columns[i].width);
-        const std::size_t numBlanksBefore = m_columns[i].isAlignedRight ? width - text.length : 0;
+        const std::size_t numBlanksBefore =
+            m_columns[i].isAlignedRight ? width - text.length - m_columns[i].blanksBehind(text.view()) : 0;
         if (text.length > 0)
             pEnd = std::copy_n(text.pBytes, text.length, pPlace + numBlanksBefore);
         pPlace += width + kNumBlanksBetween;
@@ -160,8 +161,17 @@ void TextTable::wrap(const ReportLine& line)
 {
     for (std::size_t i = 0; i < m_columns.size(); ++i)
         m_wrapped[i] = line.labelColumn == static_cast<int>(i)
-                           ? m_cellText.wrapped(line.label, m_columns[i].labelLimit)
-                           : m_cellText.fitted(line.texts[i].view(), m_columns[i].textLimit);
+                           ? m_tableText.wrapped(line.label, m_columns[i].labelLimit)
+                           : textLines(m_columns[i], line.texts[i].view());
+}
+
+// A number takes the blanks behind it with it, so that it stands at the right end of its column as all lines do.
+std::vector<std::string> TextTable::textLines(const TextColumn& column, std::string_view text) const
+{
+    std::vector<std::string> lines = m_tableText.fitted(text, column.textLimit);
+    if (!text.empty())
+        lines.back().append(column.blanksBehind(text), ' ');
+    return lines;
 }
 
 void TextTable::writeWrapped()
@@ -173,7 +183,7 @@ void TextTable::writeWrapped()
         writeWrappedLine(index);
 }
 
-// Blanks that no text follows are never written.
+// Blanks that no text follows are never written, and those behind a number go.
 void TextTable::writeWrappedLine(std::size_t index)
 {
     std::size_t numBlanks = 0; // that stand before the next text, if there is one
@@ -185,6 +195,7 @@ void TextTable::writeWrappedLine(std::size_t index)
             numBlanks += static_cast<std::size_t>(m_columns[i].width);
         numBlanks += kNumBlanksBetween;
     }
+    m_text.resize(m_text.find_last_not_of(' ') + 1);
     m_text += '\n';
 }
 

@@ -12,19 +12,20 @@
 //   20 rows read, 20 listed
 //
 // A blank line sets off groups of several lines, a rule the report's own footer. A column is as wide as its widest
-// text, or as the template says: texts that are wider go on in the next line, numbers widen the column. Lines have no
-// blanks at their end. What the list is made of stands below a blank line, where it is known. The whole table is in
-// UTF-8, whatever the locale.
+// text, or as the template says: texts that are wider go on in the next line, numbers widen the column and have their
+// decimal points below each other. Lines have no blanks at their end. What the list is made of stands below a blank
+// line, where it is known. The whole table is in UTF-8, whatever the locale.
 #pragma once
 
-#include "CellText.h"
 #include "EvaluatedReport.h"
 #include "OutputChoices.h"
+#include "TableText.h"
 #include "TextColumns.h"
 #include "TextSink.h"
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace mekbom
@@ -50,13 +51,14 @@ private:
     bool isPlain(const ReportLine& line) const;
     void writePlain(const std::vector<ShownText>& texts);
     void wrap(const ReportLine& line);
+    std::vector<std::string> textLines(const TextColumn& column, std::string_view text) const;
     void writeWrapped();
     void writeWrappedLine(std::size_t index);
     std::size_t writeText(const TextColumn& column, const std::string& text, std::size_t numBlanksBefore);
     void passOn(std::size_t least);
 
     const EvaluatedReport& m_report;
-    const CellText m_cellText;
+    const TableText m_tableText;
     const int m_width; // that everything has to fit into; 0 for as wide as need be
     TextSink& m_sink;
     const std::vector<TextColumn> m_columns;

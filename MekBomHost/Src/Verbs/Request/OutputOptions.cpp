@@ -28,6 +28,7 @@ namespace
 namespace fs = std::filesystem;
 
 const char* const kStandardOutput = "-";
+const char* const kStandardInput = "-";
 const int kMostColumns = 100'000; // arbitrary: wider than anything that is printed
 
 struct ChoiceOption
@@ -42,13 +43,35 @@ const ChoiceOption kChoiceOptions[] = {
     { OutputChoices::kFoot, "--foot" },
     { OutputChoices::kDelimiter, "--output-delimiter" },
     { OutputChoices::kDecimalSign, "--output-decimal" },
+    { OutputChoices::kEncoding, "--output-encoding" },
     { OutputChoices::kWidth, "--width" },
     { OutputChoices::kCut, "--cut" },
     { OutputChoices::kAscii, "--ascii" },
 };
 
-const WordOption::Choices<bool> kValues = { { "shown", false }, { "plain", true } };
-const WordOption::Choices<char> kDecimalSigns = { { ".", '.' }, { ",", ',' } };
+// What the words of options stand for: whether values are plain, and the rest as it is.
+const WordOption::Choices<bool>& values()
+{
+    static const WordOption::Choices<bool> values = { { "shown", false }, { "plain", true } };
+    return values;
+}
+
+const WordOption::Choices<char>& decimalSigns()
+{
+    static const WordOption::Choices<char> signs = { { ".", '.' }, { ",", ',' } };
+    return signs;
+}
+
+const WordOption::Choices<OutputEncoding>& encodings()
+{
+    static const WordOption::Choices<OutputEncoding> encodings = {
+        { "utf-8", { TextEncoding::kUtf8, false } },
+        { "utf-8-bom", { TextEncoding::kUtf8, true } },
+        { "utf-16le", { TextEncoding::kUtf16LittleEndian, true } },
+        { "windows-1252", { TextEncoding::kWindows1252, false } }
+    };
+    return encodings;
+}
 
 // "text, csv, json"
 std::string listed(const std::vector<std::string>& words)
@@ -71,7 +94,9 @@ fs::path placeOf(const std::string& fileName)
 bool areSame(const std::string& fileName, const std::string& other)
 {
     std::error_code error;
-    return fileName == other || placeOf(fileName) == placeOf(other) || fs::equivalent(fileName, other, error);
+    if (fileName == kStandardOutput || other == kStandardOutput)
+        return fileName == other;
+    return placeOf(fileName) == placeOf(other) || fs::equivalent(fileName, other, error);
 }
 
 [[noreturn]] void failAtOption(const std::string& option, Finding finding)
@@ -113,7 +138,7 @@ void OutputOptions::declareTextOptionsOn(CLI::App& command)
 void OutputOptions::declareCsvOptionsOn(CLI::App& command)
 {
     WordOption::declare(command, "--values", "WORD",
-                        "Numbers of csv as they are shown, or plain: in full, for programs [shown]", kValues,
+                        "Numbers of csv as they are shown, or plain: in full, for programs [shown]", values(),
                         [this](bool arePlain)
                         {
                             m_choices.give(OutputChoices::kValues);
@@ -126,11 +151,18 @@ void OutputOptions::declareCsvOptionsOn(CLI::App& command)
                             m_choices.give(OutputChoices::kDelimiter);
                             m_choices.delimiter = delimiter;
                         });
-    WordOption::declare(command, "--output-decimal", "SIGN", "Decimal sign of csv: . or , [.]", kDecimalSigns,
+    WordOption::declare(command, "--output-decimal", "SIGN", "Decimal sign of csv: . or , [.]", decimalSigns(),
                         [this](char sign)
                         {
                             m_choices.give(OutputChoices::kDecimalSign);
                             m_choices.decimalSign = sign;
+                        });
+    WordOption::declare(command, "--output-encoding", "NAME",
+                        "Encoding of csv: utf-8, utf-8-bom, utf-16le or windows-1252 [utf-8]", encodings(),
+                        [this](OutputEncoding encoding)
+                        {
+                            m_choices.give(OutputChoices::kEncoding);
+                            m_choices.encoding = encoding;
                         });
     addFlag(command, "--foot", "Add to csv what the list is made of, behind its records [told on standard error]",
             OutputChoices::kFoot, m_choices.hasFoot);
@@ -168,7 +200,7 @@ void OutputOptions::refuseInputs(const std::vector<std::string>& inputs) const
     std::error_code error;
     for (const std::string& fileName : fileNames())
         for (const std::string& input : inputs)
-            if (fileName != kStandardOutput && fs::equivalent(input, fileName, error))
+            if (fileName != kStandardOutput && input != kStandardInput && fs::equivalent(input, fileName, error))
                 failAt(fileName,
                        Finding::stating(FindingCodes::kOutputIsInput, "is the same file as the input " + input));
 }

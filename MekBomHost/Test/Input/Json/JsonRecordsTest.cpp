@@ -127,6 +127,17 @@ TEST(JsonRecordsTest, WhatIsNoJsonIsToldWithItsPlaceInTheFile)
     EXPECT_NE("no fault", messageFor("{\"a\":" + std::string(100'000, '[') + "}"));
 }
 
+// Each object looks at all columns: a million of them with keys of their own would be read for hours.
+TEST(JsonRecordsTest, KeysWithoutEndAreRefused)
+{
+    std::string text;
+    for (int i = 0; i < 16'384; ++i)
+        text += (i % 1024 == 0 ? "{\"k" : ",\"k") + std::to_string(i) + (i % 1024 == 1023 ? "\":1}\n" : "\":1");
+
+    EXPECT_EQ("no fault", messageFor(text));
+    EXPECT_EQ("parts.json:17: found 16385 columns, expected 16384 at most", messageFor(text + "{\"one\":1}\n"));
+}
+
 TEST(JsonRecordsTest, PlacesAreThoseOfTheFile)
 {
     const std::string text = "[ {\"a\":1,\"b\":2},\n  {\"a\": \"x\ty\",\n \"c\": 12.5 } ]";

@@ -4,6 +4,7 @@
 #include "XmlNames.h"
 
 #include "Support/HostTestSupport.h"
+#include "Support/RepeatingSource.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,6 @@
 #include <cstddef>
 #include <sstream>
 #include <string>
-#include <utility>
 
 namespace mekbom
 {
@@ -47,29 +47,6 @@ std::string repeated(const std::string& text, int times)
         all += text;
     return all;
 }
-
-// Gives a start and then the same byte again and again, more of it than memory should hold.
-class EndlessSource : public ByteSource
-{
-public:
-    explicit EndlessSource(std::string start) : m_start(std::move(start)) {}
-
-    const std::string& name() const override { return m_name; }
-    std::size_t read(char* pBytes, std::size_t size) override
-    {
-        const std::size_t numStart = m_start.copy(pBytes, size);
-        m_start.erase(0, numStart);
-        std::fill(pBytes + numStart, pBytes + size, 'x');
-        numGiven += size;
-        return numGiven > (std::size_t{ 1 } << 30) ? 0 : size;
-    }
-
-    std::size_t numGiven = 0;
-
-private:
-    std::string m_name = "sheet.xml";
-    std::string m_start;
-};
 }
 
 TEST(XmlElementsTest, WantedElementsAreFoundByTheirNameAndTheOneAround)
@@ -172,7 +149,7 @@ TEST(XmlElementsTest, WhatDoesNotEndIsGivenUpEarly)
     for (const char* const pStart :
          { "<list><row><c>", "<list><row a=\"", "<list><!--", "<?", "<list><![CDATA[", "<list a=\"" })
     {
-        EndlessSource source(pStart);
+        RepeatingSource source("sheet.xml", pStart, std::string(1000, 'x'), 1'000'000);
         EXPECT_EQ(
             "3 parts.xlsx: sheet.xml: found a row, a text or a tag of more than 8 MB, expected less: a file of parts "
             "this large is damaged, or made to do harm\n",

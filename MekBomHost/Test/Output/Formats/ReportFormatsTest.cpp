@@ -3,6 +3,7 @@
 #include "CsvWriter.h"
 #include "JsonListWriter.h"
 #include "TextTableWriter.h"
+#include "XlsxWriter.h"
 
 #include <gtest/gtest.h>
 
@@ -26,6 +27,7 @@ TEST(ReportFormatsTest, AFormatIsFoundByItsName)
     EXPECT_TRUE(isOf<CsvWriter>("csv"));
     EXPECT_TRUE(isOf<TsvWriter>("tsv"));
     EXPECT_TRUE(isOf<JsonListWriter>("json"));
+    EXPECT_TRUE(isOf<XlsxWriter>("xlsx"));
 }
 
 TEST(ReportFormatsTest, EachFormatHasAWriterAndAnEnding)
@@ -36,6 +38,7 @@ TEST(ReportFormatsTest, EachFormatHasAWriterAndAnEnding)
     EXPECT_EQ("csv", ReportFormats::formatOf("lists.d/LIST.CSV"));
     EXPECT_EQ("tsv", ReportFormats::formatOf("list.tsv"));
     EXPECT_EQ("json", ReportFormats::formatOf("list.txt.json"));
+    EXPECT_EQ("xlsx", ReportFormats::formatOf("LIST.XLSX"));
 }
 
 TEST(ReportFormatsTest, AnyOtherNameIsNone)

@@ -1,6 +1,7 @@
 #include "TextColumns.h"
 
 #include "Support/EvaluatedParts.h"
+#include "Support/HostTestSupport.h"
 
 #include <gtest/gtest.h>
 
@@ -60,5 +61,48 @@ TEST(TextColumnsTest, OnlyPlainTextsWithinTheLimitAreTakenAsTheyAre)
     EXPECT_FALSE(column.takesAsIs({ "\t", 1, false }));
     column.textLimit = 0;
     EXPECT_TRUE(column.takesAsIs({ "abcde", 5, true }));
+}
+
+namespace
+{
+// The widths of a list of names and weights that has to fit into `width`.
+Widths fitted(const std::string& columns, const std::vector<Part>& parts, int width)
+{
+    OutputChoices choices;
+    choices.width = width;
+    Widths widths;
+    const EvaluatedParts evaluated(details(columns), parts);
+    for (const TextColumn& column : TextColumns::of(evaluated.report(), choices))
+        widths.push_back(column.width);
+    return widths;
+}
+}
+
+TEST(TextColumnsTest, WhereDecimalPointsStandBelowEachOtherBothSidesHaveRoom)
+{
+    EXPECT_EQ((Widths{ 4, 8 }), widthsOf(R"({ "token": "%Name" }, { "token": "%Weight", "label": "W", "width": 1 })",
+                                         { { L"A", L"", 12345 }, { L"B", L"", 0.25 } }));
+}
+
+TEST(TextColumnsTest, ATableThatFitsStaysAsItIs)
+{
+    EXPECT_EQ((Widths{ 16, 11 }), fitted("", { { L"Base plate, long", L"", 1 } }, 29));
+}
+
+TEST(TextColumnsTest, TheWidestColumnsGiveWayFirst)
+{
+    EXPECT_EQ((Widths{ 11, 11 }), fitted("", { { L"Base plate, long", L"", 1 } }, 24));
+    EXPECT_EQ((Widths{ 10, 10 }), fitted("", { { L"Base plate, long", L"", 1 } }, 22)) << "Weight / [kg]";
+    EXPECT_EQ((Widths{ 8, 6 }), fitted("", { { L"Base plate, long", L"", 1 } }, 16));
+}
+
+TEST(TextColumnsTest, NumbersAreNotNarrowed)
+{
+    EXPECT_EQ((Widths{ 8, 10 }), fitted("", { { L"Base plate, long", L"", 1234567.89 } }, 20));
+    EXPECT_EQ("2 --width: found 19, expected 20 or more, which numbers and the words of headings need\n",
+              faultOf(
+                  [] {
+                      fitted("", { { L"Base plate, long", L"", 1234567.89 } }, 19);
+                  }));
 }
 }

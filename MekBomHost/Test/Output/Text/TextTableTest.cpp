@@ -64,12 +64,12 @@ TEST(TextTableTest, GroupsOfSeveralLinesAreSetApart)
               "Material  Name    Weight [kg]\n"
               "--------  ------  -----------\n"
               "S235\n"
-              "          IPE360            2\n"
-              "                            2\n"
+              "          IPE360          2\n"
+              "                          2\n"
               "\n"
               "S355\n"
               "          HEA200         10.5\n"
-              "          IPE450          100\n"
+              "          IPE450        100\n"
               "                        110.5\n"
               "--------  ------  -----------\n"
               "Total                   112.5\n",
@@ -80,7 +80,7 @@ TEST(TextTableTest, HeaderAndFooterShareALineWhenNothingStandsBetween)
 {
     EXPECT_EQ("Material  Weight [kg]\n"
               "--------  -----------\n"
-              "S235                2\n"
+              "S235              2\n"
               "S355            110.5\n"
               "--------  -----------\n"
               "                112.5\n",
@@ -95,8 +95,8 @@ TEST(TextTableTest, HeaderAndFooterThatWantTheSameColumnDoNotShareALine)
 
     EXPECT_EQ("Material  Weight [kg]\n"
               "--------  -----------\n"
-              "S235                2\n"
-              "                    2\n"
+              "S235              2\n"
+              "                  2\n"
               "\n"
               "S355             10.5\n"
               "                110.5\n"
@@ -191,10 +191,22 @@ TEST(TextTableTest, NumbersAreNeverCut)
     EXPECT_EQ("     kg\n"
               "-------\n"
               "1234.56\n"
-              "     12\n",
+              "  12\n",
               tableOf(details(R"({ "token": "%Weight" })",
                               R"("columns": [ { "token": "%Weight", "label": "kg", "width": 3 } ])"),
                       "%Weight\n1234.56\n12\n"));
+}
+
+TEST(TextTableTest, DecimalPointsStandBelowEachOther)
+{
+    EXPECT_EQ("Name    Weight [kg]  Length [mm]\n"
+              "------  -----------  -----------\n"
+              "HEA200        12.25      12345.5\n"
+              "IPE360         2.5           1\n"
+              "Träger       100             0.2\n"
+              "L50                          7\n",
+              tableOf(details(R"({ "token": "%Name" }, { "token": "%Weight" }, { "token": "%Length" })"),
+                      "%Name,%Weight,%Length\nHEA200,12.25,12345.5\nIPE360,2.5,1\nTräger,100,0.2\nL50,,7\n"));
 }
 
 TEST(TextTableTest, UnitsInHeadingsAreNeverCut)
@@ -368,5 +380,48 @@ TEST(TextTableTest, DeepTemplatesAreWrittenWithoutRecursion)
         text = R"({ "type": "kGroupHeader", "children": [ )" + text + " ] }";
 
     EXPECT_EQ("Name\n----\nA\nB\n", tableOf("{ \"sections\": [ " + text + " ] }", "%Name\nA\nB\n"));
+}
+
+namespace
+{
+std::string tableOf(const OutputChoices& choices, const std::string& templateText, const std::string& parts)
+{
+    return writtenBy(TextTableWriter(choices), templateText, parts);
+}
+}
+
+TEST(TextTableTest, EverythingFitsIntoTheWidth)
+{
+    OutputChoices choices;
+    choices.width = 20;
+    const std::string list = details(kNameAndWeight, R"("title": "A title that is wider")");
+    const std::string parts = "%Name,%Weight\n\"Base plate, corner\",1\nPL20*300*400,2\n";
+
+    EXPECT_EQ("A title that is\n"
+              "wider\n"
+              "\n"
+              "Name       Weight\n"
+              "             [kg]\n"
+              "---------  ---------\n"
+              "Base               1\n"
+              "plate,\n"
+              "corner\n"
+              "PL20*300*          2\n"
+              "400\n",
+              withoutFoot(tableOf(choices, list, parts)));
+    choices.cutsTexts = true;
+    EXPECT_NE(std::string::npos, tableOf(choices, list, parts).find("\nBase pla…          1\nPL20*300…          2\n"));
+}
+
+TEST(TextTableTest, AsciiAloneIsWrittenWhereThatIsWanted)
+{
+    OutputChoices choices;
+    choices.isAscii = true;
+
+    EXPECT_EQ("Name     Paint [m2]\n"
+              "-------  ----------\n"
+              "Traeger           1\n",
+              withoutFoot(tableOf(choices, details(R"({ "token": "%Name" }, { "token": "%Paint" })"),
+                                  "%Name,Paint [m2]\nTräger,1\n")));
 }
 }

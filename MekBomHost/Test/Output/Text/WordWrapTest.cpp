@@ -55,4 +55,33 @@ TEST(WordWrapTest, TextsAreBrokenToTheWidth)
     for (const WrapCase& test : kWraps)
         EXPECT_EQ(test.lines, wrapped(test.text, test.width)) << test.text << " in " << test.width;
 }
+
+struct CutCase
+{
+    std::vector<std::string> lines;
+    int width;
+    const char* ellipsis;
+    const char* text;
+};
+
+TEST(WordWrapTest, WhatIsCutEndsInAnEllipsisWithinTheWidth)
+{
+    const CutCase cases[] = {
+        { { "HEA200" }, 0, "...", "HEA200" },
+        { { "HEA200" }, 6, "...", "HEA200" },
+        { { "HEA200" }, 5, "...", "HE..." },
+        { { "HEA200" }, 5, "…", "HEA2…" },
+        { { "HEA200" }, 2, "...", ".." },
+        { { "HEA200" }, 1, "…", "…" },
+        { { "柱脚板" }, 6, "…", "柱脚板" },
+        { { "柱脚板" }, 5, "…", "柱脚…" },
+        { { "柱脚板" }, 4, "…", "柱…" },
+        { { "one", "two" }, 0, "...", "one..." },
+        { { "one", "two" }, 5, "...", "on..." },
+        { { "", "two" }, 5, "...", "..." },
+        { { "" }, 5, "...", "" },
+    };
+    for (const CutCase& cut : cases)
+        EXPECT_EQ(cut.text, WordWrap::cut(cut.lines, cut.width, cut.ellipsis)) << cut.lines.front() << cut.width;
+}
 }

@@ -98,6 +98,7 @@ TEST(OutputOptionsTest, TwoOutputsAreNotOneFile)
               refusalOf({ "-o", "list.txt", "-o", "list.csv", "-o", "list.txt" }));
     EXPECT_NE("", refusalOf({ "-o", "-", "-o", "-" }));
     EXPECT_NE("", refusalOf({ "-o", "./list.txt", "-o", "list.txt" }));
+    EXPECT_EQ("", refusalOf({ "-o", "-", "-o", "./-" })) << "a file of that name";
     EXPECT_NE("", refusalOf({ "-o", list, "-o", same })) << "not even where there is no such file yet";
 }
 
@@ -145,6 +146,8 @@ TEST(OutputOptionsTest, WordsChooseHowCsvIsWritten)
     EXPECT_EQ('\t', choices.delimiter);
     EXPECT_EQ(',', choices.decimalSign);
     EXPECT_TRUE(choices.hasFoot);
+    EXPECT_EQ(TextEncoding::kUtf8, choices.encoding.encoding);
+    EXPECT_TRUE(choices.encoding.hasMark);
 }
 
 TEST(OutputOptionsTest, AChoiceThatNoOutputUnderstandsIsRefused)

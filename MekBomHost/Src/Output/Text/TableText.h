@@ -1,10 +1,10 @@
-// How texts come into the cells of a text table, as a user chose it: wrapped, or cut to one line, and in ASCII where only
+// How texts come into a text table, as a user chose it: wrapped, or cut to one line, and in ASCII where only
 // that is wanted.
 //
 //   OutputChoices choices;
 //   choices.cutsTexts = true;
-//   CellText(choices).fitted("Base plate, corner", 10)    ->  "Base plat…"
-//   CellText(choices).wrapped("Base plate, corner", 10)   ->  "Base" | "plate," | "corner"
+//   TableText(choices).fitted("Base plate, corner", 10)    ->  "Base plat…"
+//   TableText(choices).wrapped("Base plate, corner", 10)   ->  "Base" | "plate," | "corner"
 //
 // Widths are columns of a terminal; 0 is no limit.
 #pragma once
@@ -17,10 +17,10 @@
 
 namespace mekbom
 {
-class CellText
+class TableText
 {
 public:
-    explicit CellText(const OutputChoices& choices) : m_isAscii(choices.isAscii), m_cuts(choices.cutsTexts) {}
+    explicit TableText(const OutputChoices& choices) : m_isAscii(choices.isAscii), m_cuts(choices.cutsTexts) {}
 
     // Headings, labels and whatever stands outside the table, of which nothing is to be lost.
     std::vector<std::string> wrapped(std::string_view text, int width) const;

@@ -1,16 +1,16 @@
-#include "CellText.h"
+#include "TableText.h"
 
 #include "AsciiText.h"
 #include "WordWrap.h"
 
 namespace mekbom
 {
-std::vector<std::string> CellText::wrapped(std::string_view text, int width) const
+std::vector<std::string> TableText::wrapped(std::string_view text, int width) const
 {
     return m_isAscii ? WordWrap::wrap(AsciiText::of(text), width) : WordWrap::wrap(text, width);
 }
 
-std::vector<std::string> CellText::fitted(std::string_view text, int width) const
+std::vector<std::string> TableText::fitted(std::string_view text, int width) const
 {
     if (!m_cuts)
         return wrapped(text, width);

@@ -1,0 +1,18 @@
+// How a list is written as a workbook, where there is a choice.
+#pragma once
+
+#include "WorkbookLimits.h"
+
+#include <cstdint>
+
+namespace mekbom
+{
+struct XlsxSettings
+{
+    bool hasNumbersBeside = false; // feet and inches, fractions, degrees and minutes also in decimals
+
+    // Rows of a sheet before the list goes on in a further one; there must be some for more than what stands above the
+    // list.
+    std::uint32_t mostRows = WorkbookLimits::kMostRows;
+};
+}
