@@ -138,7 +138,8 @@ void OutputOptions::declareTextOptionsOn(CLI::App& command)
 void OutputOptions::declareCsvOptionsOn(CLI::App& command)
 {
     WordOption::declare(command, "--values", "WORD",
-                        "Numbers of csv as they are shown, or plain: in full, for programs [shown]", values(),
+                        "Numbers of csv as they are shown, or plain: in full, for programs; of xlsx both [shown]",
+                        values(),
                         [this](bool arePlain)
                         {
                             m_choices.give(OutputChoices::kValues);

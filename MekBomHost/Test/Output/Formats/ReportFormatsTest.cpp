@@ -74,6 +74,6 @@ TEST(ReportFormatsTest, FormatsTellWhatTheyTake)
     EXPECT_FALSE(ReportFormats::takes("tsv", OutputChoices::kDelimiter));
     EXPECT_FALSE(ReportFormats::takes("text", OutputChoices::kValues));
     EXPECT_FALSE(ReportFormats::takes("none", OutputChoices::kValues));
-    EXPECT_EQ((std::vector<std::string>{ "csv", "tsv" }), ReportFormats::namesTaking(OutputChoices::kValues));
+    EXPECT_EQ((std::vector<std::string>{ "csv", "tsv" }), ReportFormats::namesTaking(OutputChoices::kFoot));
 }
 }

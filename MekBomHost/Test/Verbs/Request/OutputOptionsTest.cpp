@@ -152,11 +152,11 @@ TEST(OutputOptionsTest, WordsChooseHowCsvIsWritten)
 
 TEST(OutputOptionsTest, AChoiceThatNoOutputUnderstandsIsRefused)
 {
-    EXPECT_EQ("2 --values: is for csv, tsv, and no output is written so: leave it out, or say --to csv\n",
-              refusalOf({ "--values", "plain" }));
+    EXPECT_EQ("2 --foot: is for csv, tsv, and no output is written so: leave it out, or say --to csv\n",
+              refusalOf({ "--foot" }));
     EXPECT_EQ("2 --output-delimiter: is for csv, and no output is written so: leave it out, or say --to csv\n",
               refusalOf({ "--output-delimiter", ";", "-o", "list.tsv" }));
-    EXPECT_NE("", refusalOf({ "--foot" }));
+    EXPECT_NE("", refusalOf({ "--values", "plain" }));
     EXPECT_NE("", refusalOf({ "--output-decimal", "." })) << "the usual sign is asked for in vain, too";
     EXPECT_EQ("", refusalOf({ "--values", "plain", "-o", "-", "-o", "list.csv" }));
 }
