@@ -34,7 +34,7 @@ public:
         m_pen.beginRow();
         m_pen.writeText(0, what, CellLook());
         const std::string text = std::to_string(number);
-        const CellNumber cell = { static_cast<double>(number), 0, 1 };
+        const SheetNumber cell = { static_cast<double>(number), 0, 1 };
         m_pen.writeNumber(1, cell, static_cast<int>(text.size()), CellLook());
     }
 

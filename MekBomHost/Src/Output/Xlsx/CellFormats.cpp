@@ -33,23 +33,23 @@ void setRole(lxw_format* pFormat, CellLook::eRole role)
 }
 }
 
-lxw_format* CellFormats::of(const CellLook& look, const CellNumber& number)
+lxw_format* CellFormats::of(const CellLook& look, const SheetNumber& number)
 {
     return find(look, kNumber, number);
 }
 
 lxw_format* CellFormats::ofText(const CellLook& look)
 {
-    return find(look, kText, CellNumber());
+    return find(look, kText, SheetNumber());
 }
 
 lxw_format* CellFormats::ofLongText(const CellLook& look)
 {
-    return find(look, kLongText, CellNumber());
+    return find(look, kLongText, SheetNumber());
 }
 
 // A number has at most kMostDigits decimals and zeros, fewer than 64 together, and at most 13 groups.
-lxw_format* CellFormats::find(const CellLook& look, eContent content, const CellNumber& number)
+lxw_format* CellFormats::find(const CellLook& look, eContent content, const SheetNumber& number)
 {
     const auto key = static_cast<std::uint32_t>(number.numDecimals | number.numGroups << 6 | content << 10 |
                                                 (look.isRight ? 1 : 0) << 12 | (look.wraps ? 1 : 0) << 13 |
@@ -61,7 +61,7 @@ lxw_format* CellFormats::find(const CellLook& look, eContent content, const Cell
 }
 
 // Texts beside one of several lines stand at its middle.
-lxw_format* CellFormats::create(const CellLook& look, eContent content, const CellNumber& number)
+lxw_format* CellFormats::create(const CellLook& look, eContent content, const SheetNumber& number)
 {
     lxw_format* const pFormat = workbook_add_format(&m_workbook);
     setRole(pFormat, look.role);

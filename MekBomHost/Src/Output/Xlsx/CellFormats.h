@@ -1,12 +1,12 @@
 // The formats of the cells of one workbook, each made when a cell first asks for it.
 //
 //   CellFormats formats(workbook);
-//   formats.of({ CellLook::kTotal, true }, *CellNumber::of("8.50", 8.5));   bold, right, "0.00", a rule above it
+//   formats.of({ CellLook::kTotal, true }, *SheetNumber::of("8.50", 8.5));   bold, right, "0.00", a rule above it
 //
 // A workbook has as many as its cells look different, some dozens.
 #pragma once
 
-#include "CellNumber.h"
+#include "SheetNumber.h"
 
 #include <xlsxwriter.h>
 
@@ -41,7 +41,7 @@ public:
     explicit CellFormats(lxw_workbook& workbook) : m_workbook(workbook) {}
 
     // The format of a number, of a text, and of a text that is longer than kLongestTyped. The workbook owns all of them.
-    lxw_format* of(const CellLook& look, const CellNumber& number);
+    lxw_format* of(const CellLook& look, const SheetNumber& number);
     lxw_format* ofText(const CellLook& look);
     lxw_format* ofLongText(const CellLook& look);
 
@@ -56,8 +56,8 @@ private:
         kLongText
     };
 
-    lxw_format* find(const CellLook& look, eContent content, const CellNumber& number);
-    lxw_format* create(const CellLook& look, eContent content, const CellNumber& number);
+    lxw_format* find(const CellLook& look, eContent content, const SheetNumber& number);
+    lxw_format* create(const CellLook& look, eContent content, const SheetNumber& number);
 
     lxw_workbook& m_workbook;
     std::unordered_map<std::uint32_t, lxw_format*> m_formats;

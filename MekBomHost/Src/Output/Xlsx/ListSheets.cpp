@@ -124,7 +124,7 @@ void ListSheets::writeCell(const Place& place, const ShownText& text, const VorB
 {
     if (text.length > 0)
     {
-        if (const std::optional<CellNumber> number = place.column.numberIn(text, value))
+        if (const std::optional<SheetNumber> number = place.column.numberIn(text, value))
             m_pPen->writeNumber(place.index, *number, static_cast<int>(text.length), m_look);
         else
             m_pPen->writeText(place.index, text.view(), m_look, place.column.textLimit());
@@ -138,7 +138,7 @@ void ListSheets::writeCell(const Place& place, const ShownText& text, const VorB
 void ListSheets::writeBeside(const Place& place, const VorBomTypedValue& value)
 {
     const CellLook look = { m_look.role, true };
-    if (const std::optional<CellNumber> number = place.column.numberBeside(value))
+    if (const std::optional<SheetNumber> number = place.column.numberBeside(value))
         m_pPen->writeNumber(place.index + 1, *number, kBesideWidth, look);
     else if (look.role == CellLook::kTotal)
         m_pPen->writeEmpty(place.index + 1, look);

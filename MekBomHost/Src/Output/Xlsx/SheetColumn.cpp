@@ -19,12 +19,12 @@ SheetColumn::SheetColumn(const ReportColumn& column)
 {
 }
 
-// Whatever the unit, CellNumber holds the value against the text: one in another unit than is printed is not taken.
-std::optional<CellNumber> SheetColumn::numberIn(const ShownText& text, const VorBomTypedValue& value) const
+// Whatever the unit, SheetNumber holds the value against the text: one in another unit than is printed is not taken.
+std::optional<SheetNumber> SheetColumn::numberIn(const ShownText& text, const VorBomTypedValue& value) const
 {
     if (!holdsNumber(value.type) || hasNumbersBeside() || m_column.hasMixedUnits)
         return std::nullopt;
-    return CellNumber::of(text.view(), m_column.numbers.of(value));
+    return SheetNumber::of(text.view(), m_column.numbers.of(value));
 }
 
 std::string SheetColumn::besideHeading() const
@@ -33,11 +33,11 @@ std::string SheetColumn::besideHeading() const
     return beside == m_heading ? beside + " (decimal)" : beside;
 }
 
-std::optional<CellNumber> SheetColumn::numberBeside(const VorBomTypedValue& value) const
+std::optional<SheetNumber> SheetColumn::numberBeside(const VorBomTypedValue& value) const
 {
     if (!holdsNumber(value.type))
         return std::nullopt;
     const double number = m_column.numbers.of(value);
-    return std::isfinite(number) ? std::optional(CellNumber{ number, kDecimalsBeside, 1 }) : std::nullopt;
+    return std::isfinite(number) ? std::optional(SheetNumber{ number, kDecimalsBeside, 1 }) : std::nullopt;
 }
 }

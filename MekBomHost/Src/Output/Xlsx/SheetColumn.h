@@ -8,7 +8,7 @@
 // in fractions, 7 in is a text like 7 1/2.
 #pragma once
 
-#include "CellNumber.h"
+#include "SheetNumber.h"
 #include "ReportColumn.h"
 #include "ShownText.h"
 
@@ -32,7 +32,7 @@ public:
     int textLimit() const { return m_textLimit; }
 
     // The number that a cell holds which prints `text` for `value`; none where it holds the text.
-    std::optional<CellNumber> numberIn(const ShownText& text, const VorBomTypedValue& value) const;
+    std::optional<SheetNumber> numberIn(const ShownText& text, const VorBomTypedValue& value) const;
 
     // Whether the list prints quantities here in a way that no number shows, so that a second column can have them in
     // decimals.
@@ -41,7 +41,7 @@ public:
     // Of a column that has them: the heading of the second column, and the number in it.
     //   "Length [ft-in]"  ->  "Length [ft]"      "Length [in]", in fractions  ->  "Length [in] (decimal)"
     std::string besideHeading() const;
-    std::optional<CellNumber> numberBeside(const VorBomTypedValue& value) const;
+    std::optional<SheetNumber> numberBeside(const VorBomTypedValue& value) const;
 
 private:
     const ReportColumn& m_column;

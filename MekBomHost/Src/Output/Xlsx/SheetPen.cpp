@@ -76,7 +76,7 @@ void SheetPen::writeText(std::size_t column, std::string_view text, CellLook loo
     putText(column, m_text.size() > CellFormats::kLongestTyped ? m_formats.ofLongText(look) : m_formats.ofText(look));
 }
 
-void SheetPen::writeNumber(std::size_t column, const CellNumber& number, int width, const CellLook& look)
+void SheetPen::writeNumber(std::size_t column, const SheetNumber& number, int width, const CellLook& look)
 {
     makeRoom(column, width);
     WorkbookFile::require(worksheet_write_number(&m_sheet, row(), static_cast<lxw_col_t>(column), number.number,

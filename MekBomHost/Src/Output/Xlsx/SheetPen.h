@@ -3,12 +3,12 @@
 //   SheetPen pen(file, formats, "List", 2);
 //   pen.beginRow();
 //   pen.writeText(0, "HEA200", CellLook());
-//   pen.writeNumber(1, *CellNumber::of("8.57", 8.5744), 4, CellLook());
+//   pen.writeNumber(1, *SheetNumber::of("8.57", 8.5744), 4, CellLook());
 //   pen.fitColumns();
 #pragma once
 
 #include "CellFormats.h"
-#include "CellNumber.h"
+#include "SheetNumber.h"
 #include "WorkbookFile.h"
 
 #include <xlsxwriter.h>
@@ -41,7 +41,7 @@ public:
     void writeText(std::size_t column, std::string_view text, CellLook look, int limit = kUsualLimit);
 
     // The same for a number; its text takes `width` characters.
-    void writeNumber(std::size_t column, const CellNumber& number, int width, const CellLook& look);
+    void writeNumber(std::size_t column, const SheetNumber& number, int width, const CellLook& look);
 
     void writeEmpty(std::size_t column, const CellLook& look);
 

@@ -1,4 +1,4 @@
-#include "CellNumber.h"
+#include "SheetNumber.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ namespace
 // "8.5744 as 0.00", or "text".
 std::string cellOf(const std::string& text, double value)
 {
-    const std::optional<CellNumber> cell = CellNumber::of(text, value);
+    const std::optional<SheetNumber> cell = SheetNumber::of(text, value);
     if (!cell)
         return "text";
     std::string number = std::to_string(cell->number);
@@ -22,7 +22,7 @@ std::string cellOf(const std::string& text, double value)
 }
 }
 
-TEST(CellNumberTest, TheFormatShowsAsManyDecimalsAsTheList)
+TEST(SheetNumberTest, TheFormatShowsAsManyDecimalsAsTheList)
 {
     EXPECT_EQ("2.5 as 0.0", cellOf("2.5", 2.5));
     EXPECT_EQ("2.5 as 0.00", cellOf("2.50", 2.5));
@@ -33,7 +33,7 @@ TEST(CellNumberTest, TheFormatShowsAsManyDecimalsAsTheList)
     EXPECT_EQ("0. as 0", cellOf("0", 0));
 }
 
-TEST(CellNumberTest, ACellHoldsMoreThanItShows)
+TEST(SheetNumberTest, ACellHoldsMoreThanItShows)
 {
     EXPECT_EQ("8.5744 as 0.00", cellOf("8.57", 8.5744));
     EXPECT_EQ("1199.6 as 0", cellOf("1200", 1199.6));
@@ -41,7 +41,7 @@ TEST(CellNumberTest, ACellHoldsMoreThanItShows)
 }
 
 // Spreadsheets round as lists do: away from zero, and the digits, not the double, which is a little below 2.675.
-TEST(CellNumberTest, TheMiddleBetweenTwoNumbersIsStored)
+TEST(SheetNumberTest, TheMiddleBetweenTwoNumbersIsStored)
 {
     EXPECT_EQ("2.675 as 0.00", cellOf("2.68", 2.675));
     EXPECT_EQ("15.965 as 0.00", cellOf("15.97", 15.965));
@@ -50,22 +50,22 @@ TEST(CellNumberTest, TheMiddleBetweenTwoNumbersIsStored)
     EXPECT_EQ("-0.5 as 0", cellOf("-1", -0.5));
 }
 
-TEST(CellNumberTest, TheMiddleIsStoredOnlyWhereItIsShownAsPrinted)
+TEST(SheetNumberTest, TheMiddleIsStoredOnlyWhereItIsShownAsPrinted)
 {
     EXPECT_EQ("2.67 as 0.00", cellOf("2.67", 2.675));
     EXPECT_EQ("0. as 0", cellOf("0", 0.5));
-    EXPECT_EQ(0.0, CellNumber::of("0", -0.5)->number);
+    EXPECT_EQ(0.0, SheetNumber::of("0", -0.5)->number);
 }
 
 // Programs that keep fifteen digits take it for the middle, and lists do not.
-TEST(CellNumberTest, WhatIsNextToTheMiddleIsStoredAsPrinted)
+TEST(SheetNumberTest, WhatIsNextToTheMiddleIsStoredAsPrinted)
 {
-    EXPECT_EQ(1.0, CellNumber::of("1.00", std::nextafter(1.005, 1))->number);
-    EXPECT_EQ(1.01, CellNumber::of("1.01", std::nextafter(1.005, 2))->number);
-    EXPECT_EQ(12345678901234.5, CellNumber::of("12345678901234.5", 12345678901234.45)->number);
+    EXPECT_EQ(1.0, SheetNumber::of("1.00", std::nextafter(1.005, 1))->number);
+    EXPECT_EQ(1.01, SheetNumber::of("1.01", std::nextafter(1.005, 2))->number);
+    EXPECT_EQ(12345678901234.5, SheetNumber::of("12345678901234.5", 12345678901234.45)->number);
 }
 
-TEST(CellNumberTest, AValueThatWouldShowAnotherTextIsNotStored)
+TEST(SheetNumberTest, AValueThatWouldShowAnotherTextIsNotStored)
 {
     EXPECT_EQ("2.5 as 0.0", cellOf("2.5", 2500));
     EXPECT_EQ("2.5 as 0.0", cellOf("2.5", -2.5));
@@ -73,9 +73,9 @@ TEST(CellNumberTest, AValueThatWouldShowAnotherTextIsNotStored)
     EXPECT_EQ("2.5 as 0.0", cellOf("2.5", std::numeric_limits<double>::infinity()));
 }
 
-TEST(CellNumberTest, WhatRoundsToZeroHasNoSign)
+TEST(SheetNumberTest, WhatRoundsToZeroHasNoSign)
 {
-    const std::optional<CellNumber> cell = CellNumber::of("0", -0.001);
+    const std::optional<SheetNumber> cell = SheetNumber::of("0", -0.001);
 
     ASSERT_TRUE(cell.has_value());
     EXPECT_EQ(0, cell->number);
@@ -84,7 +84,7 @@ TEST(CellNumberTest, WhatRoundsToZeroHasNoSign)
     EXPECT_EQ("text", cellOf("-0.00", -0.001));
 }
 
-TEST(CellNumberTest, BlanksBetweenThousandsAreShown)
+TEST(SheetNumberTest, BlanksBetweenThousandsAreShown)
 {
     EXPECT_EQ("1234.5 as #\\ ##0.0", cellOf("1 234.5", 1234.5));
     EXPECT_EQ("-1234. as #\\ ##0", cellOf("-1 234", -1234));
@@ -92,7 +92,7 @@ TEST(CellNumberTest, BlanksBetweenThousandsAreShown)
     EXPECT_EQ("999. as 0", cellOf("999", 999));
 }
 
-TEST(CellNumberTest, MoreDigitsThanSpreadsheetsShowAreText)
+TEST(SheetNumberTest, MoreDigitsThanSpreadsheetsShowAreText)
 {
     EXPECT_EQ("123456789012345. as 0", cellOf("123456789012345", 123456789012345.0));
     EXPECT_EQ("text", cellOf("1234567890123456", 1234567890123456.0));
@@ -100,14 +100,14 @@ TEST(CellNumberTest, MoreDigitsThanSpreadsheetsShowAreText)
     EXPECT_EQ("text", cellOf("0.1234567890123456", 0.1234567890123456));
 }
 
-TEST(CellNumberTest, ZerosAtEitherEndAreNoDigits)
+TEST(SheetNumberTest, ZerosAtEitherEndAreNoDigits)
 {
     EXPECT_EQ("123456789012345. as 0.000", cellOf("123456789012345.000", 123456789012345.0));
     EXPECT_EQ("1200000000000000. as 0", cellOf("1200000000000000", 1.2e15));
-    EXPECT_TRUE(CellNumber::of("0.00000123456789012345", 0.00000123456789012345).has_value());
+    EXPECT_TRUE(SheetNumber::of("0.00000123456789012345", 0.00000123456789012345).has_value());
 }
 
-TEST(CellNumberTest, AnythingElseIsText)
+TEST(SheetNumberTest, AnythingElseIsText)
 {
     for (const char* const text : { "",
                                     "-",

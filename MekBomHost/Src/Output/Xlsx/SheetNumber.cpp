@@ -3,7 +3,7 @@
 //   8.5744    is less than half a hundredth away from it: in that format it is shown as "8.57", whoever rounds it, and
 //             may stand in the cell
 //   "1 1/2"   is a number in no format that shows just that for every fraction: it stays a text
-#include "CellNumber.h"
+#include "SheetNumber.h"
 
 #include "MekRoots/Exp/VorCharacters.h"
 
@@ -129,19 +129,19 @@ bool isShownAs(double value, double printed, int numDecimals)
 }
 
 // No number is shown as "-0".
-std::optional<CellNumber> CellNumber::of(std::string_view text, double value)
+std::optional<SheetNumber> SheetNumber::of(std::string_view text, double value)
 {
     PrintedNumber printed;
     if (!printed.take(text) || printed.numDigits() > kMostDigits || (printed.isNegative && printed.numDigits() == 0))
         return std::nullopt;
     const double number = printed.value();
-    return CellNumber{ isShownAs(value, number, printed.numDecimals) ? value : number, printed.numDecimals,
+    return SheetNumber{ isShownAs(value, number, printed.numDecimals) ? value : number, printed.numDecimals,
                        printed.numGroups };
 }
 
 // The blanks are characters of the format, each behind a backslash: in a format, what divides thousands is a comma, and
 // is shown as whatever the reader's country has.
-std::string CellNumber::format() const
+std::string SheetNumber::format() const
 {
     std::string format = numGroups > 1 ? "#" : "0";
     for (int group = 1; group < numGroups; ++group)
