@@ -297,7 +297,7 @@ void ReportJob::openParts(const HeadingChoices& choices)
             refuseForSample("--map");
         return;
     }
-    m_pRecords = PartsFormats::openAll(m_request.parts, m_request.input, m_findings);
+    m_pRecords = PartsFormats::openAll(m_request.parts, m_request.input, choices, m_findings);
     if (m_request.pAssemblies != nullptr)
         m_pRecords = std::make_unique<AssemblyRecords>(
             std::move(m_pRecords), PartsFormats::open(*m_request.pAssemblies, m_request.input, m_findings));

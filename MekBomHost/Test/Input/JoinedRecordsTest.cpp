@@ -27,7 +27,7 @@ public:
             m_sources.push_back(std::make_unique<MemorySource>(name, text));
             readers.push_back(std::make_unique<CsvReader>(*m_sources.back()));
         }
-        m_pRecords = std::make_unique<JoinedRecords>(std::move(readers));
+        m_pRecords = std::make_unique<JoinedRecords>(std::move(readers), HeadingChoices());
     }
 
     JoinedRecords& records() { return *m_pRecords; }
@@ -59,6 +59,30 @@ TEST(JoinedRecordsTest, RowsFollowOneAnotherUnderTheColumnsOfTheirTokens)
 {
     EXPECT_EQ(Texts({ "Name|Length|Phase", "HEA200|6000|", "IPE360|5500|2", "|1|" }),
               Files({ "Name,Length\nHEA200,6000\n", "Length,%Name,Phase\n5500,IPE360,2\n", "Length\n1\n" }).all());
+}
+
+TEST(JoinedRecordsTest, HeadingsOfOneTokenAreOneColumn)
+{
+    EXPECT_EQ(Texts({ "Name|Werkstoff [-]", "HEA200|S235JR", "IPE360|S355J2" }),
+              Files({ "Name,Werkstoff [-]\nHEA200,S235JR\n", "Grade [-],Profile\nS355J2,IPE360\n" }).all());
+}
+
+// The part mark of the first file was once an assembly's, since the second one has a heading for each.
+TEST(JoinedRecordsTest, HeadingsMeanWhatTheyMeanInTheirOwnFile)
+{
+    EXPECT_EQ(Texts({ "%PNum|Profile|%MNum", "B1|HEA200|", "p7|IPE360|A1" }),
+              Files({ "Mark,Profile\nB1,HEA200\n", "Part mark,Mark,Name\np7,A1,IPE360\n" }).all());
+}
+
+TEST(JoinedRecordsTest, WhatTheOthersWouldMakeSomethingElseIsRefused)
+{
+    EXPECT_EQ(
+        "3 b.csv:1: column \"Total weight [kg]\" means something else beside the columns of the other files: give "
+        "all files the same headings\n",
+        faultOf(
+            [] {
+                Files({ "Qty,Weight [kg]\n", "Qty,Total weight [kg]\n" }).all();
+            }));
 }
 
 TEST(JoinedRecordsTest, AFileWithoutRowsAddsItsColumns)

@@ -77,7 +77,7 @@ std::unique_ptr<RecordSource> open(ByteSource& source, const InputChoices& choic
 }
 
 std::unique_ptr<RecordSource> openAll(const std::vector<std::unique_ptr<ByteSource>>& sources,
-                                      const InputChoices& choices, FindingList& notes)
+                                      const InputChoices& choices, const HeadingChoices& headings, FindingList& notes)
 {
     std::vector<std::unique_ptr<RecordSource>> records;
     records.reserve(sources.size());
@@ -85,6 +85,6 @@ std::unique_ptr<RecordSource> openAll(const std::vector<std::unique_ptr<ByteSour
         records.push_back(open(*pSource, choices, notes));
     if (records.size() == 1)
         return std::move(records.front());
-    return std::make_unique<JoinedRecords>(std::move(records));
+    return std::make_unique<JoinedRecords>(std::move(records), headings);
 }
 }

@@ -20,7 +20,8 @@ namespace mekbom::PartsFormats
 // Fault where the bytes are of no known format or not as `choices` say.
 std::unique_ptr<RecordSource> open(ByteSource& source, const InputChoices& choices, FindingList& notes);
 
-// The records of all sources, at least one, as those of one list (JoinedRecords). Otherwise as open().
+// The records of all sources, at least one, as those of one list (JoinedRecords), whose header row will be read by
+// `headings`. Otherwise as open().
 std::unique_ptr<RecordSource> openAll(const std::vector<std::unique_ptr<ByteSource>>& sources,
-                                      const InputChoices& choices, FindingList& notes);
+                                      const InputChoices& choices, const HeadingChoices& headings, FindingList& notes);
 }
