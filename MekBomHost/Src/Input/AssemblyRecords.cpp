@@ -1,11 +1,13 @@
 #include "AssemblyRecords.h"
 
-#include "ColumnHeading.h"
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "HeaderRow.h"
 #include "InQuotes.h"
 #include "TokenNames.h"
+#include "Utf8.h"
+
+#include "VorBomTokenCatalogue.h"
 
 #include <algorithm>
 #include <set>
@@ -15,27 +17,77 @@ namespace mekbom
 {
 namespace
 {
-std::string tokenOf(const RecordCell& heading)
+std::vector<ColumnName> namesOf(const Record& headings, const HeadingChoices& choices)
 {
-    return ColumnHeading::parse(heading.asText()).token;
+    std::vector<std::string> texts;
+    for (const RecordCell& heading : headings)
+        texts.push_back(heading.asText());
+    return ColumnNames::of(texts, choices).columns;
 }
 
 // Of the first column with this token, which the list must have.
-std::size_t columnOf(const std::string& token, const Record& headings, const RecordSource& source)
+std::size_t columnOf(const std::string& token, const std::vector<ColumnName>& names, const RecordSource& source)
 {
-    const auto found = std::find_if(headings.begin(), headings.end(),
-                                    [&token](const RecordCell& heading) { return tokenOf(heading) == token; });
-    if (found != headings.end())
-        return static_cast<std::size_t>(found - headings.begin());
+    const auto found =
+        std::find_if(names.begin(), names.end(), [&token](const ColumnName& name) { return name.token == token; });
+    if (found != names.end())
+        return static_cast<std::size_t>(found - names.begin());
     Finding finding = Finding::of(FindingCodes::kAssemblyColumnMissing, "no column " + inQuotes(token.substr(1)),
                                   "one that tells which part belongs to which assembly");
     source.placeRecord(finding);
     throw Fault(kInvalidInput, finding);
 }
+
+struct TokenOfAssembly
+{
+    const char* ofPart;
+    const char* ofAssembly;
+};
+
+// What a list of assemblies calls as a list of parts would.
+const TokenOfAssembly kTokensOfAssemblies[] = {
+    { "%PNum", "%MNum" },
+    { "%Name", "%MName" },
+    { TokenNames::kPieces, "%MQuantity" },
+    { "%Weight", "%AssemblyWeight" },
+    { "%ExactWeight", "%AssemblyExactWeight" },
+};
+
+// Whether a number of the catalogue is one of an assembly or of a place, which nobody adds up over parts.
+bool isOfAssembly(const std::string& token)
+{
+    for (const char* const part : { "Assembly", "Level" })
+        if (token.find(part) != std::string::npos)
+            return true;
+    return token == "%MQuantity";
 }
 
-AssemblyRecords::AssemblyRecords(std::unique_ptr<RecordSource> pParts, std::unique_ptr<RecordSource> pAssemblies)
-    : m_pParts(std::move(pParts)), m_pAssemblies(std::move(pAssemblies))
+// What a part gets a column of its assembly as; empty for one that it does not get.
+std::string givenToken(const ColumnName& name)
+{
+    if (name.isRowTotal)
+        return std::string();
+    for (const TokenOfAssembly& known : kTokensOfAssemblies)
+        if (name.token == known.ofPart)
+            return known.ofAssembly;
+    const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(Utf8::toWide(name.token));
+    const bool isText = pEntry == nullptr || pEntry->type == VorBomDataValue::kStringData;
+    return isText || isOfAssembly(name.token) ? name.token : std::string();
+}
+
+// One that means the token whatever stands beside it. A heading that the user has mapped to it stays, since the mapping
+// has to find it.
+std::string givenHeading(const RecordCell& heading, const ColumnName& name, const std::string& token)
+{
+    if (name.origin == ColumnName::kMapped && name.token == token)
+        return heading.asText();
+    return token + (name.unit.empty() ? "" : " [" + name.unit + "]");
+}
+}
+
+AssemblyRecords::AssemblyRecords(std::unique_ptr<RecordSource> pParts, std::unique_ptr<RecordSource> pAssemblies,
+                                 HeadingChoices choices)
+    : m_pParts(std::move(pParts)), m_pAssemblies(std::move(pAssemblies)), m_choices(std::move(choices))
 {
 }
 
@@ -67,20 +119,25 @@ const Record* AssemblyRecords::header()
 
 void AssemblyRecords::chooseColumns(const Record& assemblyHeadings, const Record& partHeadings)
 {
+    const std::vector<ColumnName> partNames = namesOf(partHeadings, m_choices);
+    const std::vector<ColumnName> assemblyNames = namesOf(assemblyHeadings, m_choices);
     m_numPartColumns = partHeadings.size();
     m_numAssemblyColumns = assemblyHeadings.size();
-    m_assemblyColumn = columnOf(TokenNames::kAssembly, partHeadings, *m_pParts);
-    m_handleColumn = columnOf(TokenNames::kHandle, assemblyHeadings, *m_pAssemblies);
+    m_assemblyColumn = columnOf(TokenNames::kAssembly, partNames, *m_pParts);
+    m_handleColumn = columnOf(TokenNames::kHandle, assemblyNames, *m_pAssemblies);
     std::set<std::string> partTokens;
-    for (const RecordCell& heading : partHeadings)
-        partTokens.insert(tokenOf(heading));
+    for (const ColumnName& name : partNames)
+        partTokens.insert(name.token);
     m_record = partHeadings;
-    for (std::size_t i = 0; i < assemblyHeadings.size(); ++i)
-        if (i != m_handleColumn && partTokens.count(tokenOf(assemblyHeadings[i])) == 0)
-        {
-            m_givenColumns.push_back(i);
-            m_record.push_back(keep(assemblyHeadings[i]));
-        }
+    for (std::size_t i = 0; i < assemblyNames.size(); ++i)
+    {
+        const std::string token = givenToken(assemblyNames[i]);
+        if (i == m_handleColumn || token.empty() || partTokens.count(token) > 0)
+            continue;
+        m_givenColumns.push_back(i);
+        m_texts.push_back(givenHeading(assemblyHeadings[i], assemblyNames[i], token));
+        m_record.emplace_back(std::string_view(m_texts.back()));
+    }
 }
 
 void AssemblyRecords::readAssemblies()

@@ -1,17 +1,19 @@
 // A parts list whose parts have what is known of their assemblies, from a list of its own:
 //
 //   parts.csv          Handle,Name,Assembly        P1,HEA200,A7     P2,IPE360,
-//   assemblies.csv     Handle,MNum,Name            A7,L10,LIGGER
+//   assemblies.csv     Handle,Mark,Weight [t]      A7,L10,1.2
 //
-//   AssemblyRecords records(std::move(parts), std::move(assemblies));
-//   records.next()   ->  Handle, Name, Assembly, MNum
-//   records.next()   ->  P1, HEA200, A7, L10
-//   records.next()   ->  P2, IPE360, nothing, nothing
+//   AssemblyRecords records(std::move(parts), std::move(assemblies), HeadingChoices());
+//   records.next()   ->  Handle, Name, Assembly, %MNum, %AssemblyWeight [t]
+//   records.next()   ->  P1, HEA200, A7, L10, 1.2
+//   records.next()   ->  P2, IPE360, nothing, nothing, nothing
 //
 // A part names its assembly by the handle of that, in its column "Assembly". It gets the columns that the parts list does
-// not have: what a part says itself is not changed.
+// not have, as what they are of an assembly: its weight would else pass for that of each of its parts, and be counted as
+// often. What has no such name, such as a length, is not given, nor is what all pieces of an assembly have together.
 #pragma once
 
+#include "ColumnNames.h"
 #include "RecordSource.h"
 
 #include <cstddef>
@@ -27,8 +29,10 @@ namespace mekbom
 class AssemblyRecords : public RecordSource
 {
 public:
-    // Neither source has been read from. The assemblies are read when the first record is asked for, and kept.
-    AssemblyRecords(std::unique_ptr<RecordSource> pParts, std::unique_ptr<RecordSource> pAssemblies);
+    // Neither source has been read from. The assemblies are read when the first record is asked for, and kept. `choices`
+    // are those by which the header row will be read.
+    AssemblyRecords(std::unique_ptr<RecordSource> pParts, std::unique_ptr<RecordSource> pAssemblies,
+                    HeadingChoices choices);
 
     const std::string& name() const override { return m_pParts->name(); }
 
@@ -55,6 +59,7 @@ private:
 
     std::unique_ptr<RecordSource> m_pParts;
     std::unique_ptr<RecordSource> m_pAssemblies;
+    HeadingChoices m_choices;
     bool m_isBegun = false;
     std::size_t m_numPartColumns = 0;
     std::size_t m_numAssemblyColumns = 0;

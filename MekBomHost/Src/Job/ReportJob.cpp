@@ -300,7 +300,7 @@ void ReportJob::openParts(const HeadingChoices& choices)
     m_pRecords = PartsFormats::openAll(m_request.parts, m_request.input, choices, m_findings);
     if (m_request.pAssemblies != nullptr)
         m_pRecords = std::make_unique<AssemblyRecords>(
-            std::move(m_pRecords), PartsFormats::open(*m_request.pAssemblies, m_request.input, m_findings));
+            std::move(m_pRecords), PartsFormats::open(*m_request.pAssemblies, m_request.input, m_findings), choices);
     m_pParts = std::make_unique<PartsList>(*m_pRecords, choices, m_request.numProcessors);
     for (const auto& [token, unit] : m_request.inputUnits)
         m_pParts->setInputUnit(ColumnHeading::tokenOf(token), unit);

@@ -14,11 +14,13 @@ namespace mekbom
 namespace
 {
 // All records of the parts with their assemblies, cells with a | between.
-std::vector<std::string> recordsOf(const std::string& parts, const std::string& assemblies)
+std::vector<std::string> recordsOf(const std::string& parts, const std::string& assemblies,
+                                   const HeadingChoices& choices = HeadingChoices())
 {
     MemorySource partsFile("parts.csv", parts);
     MemorySource assembliesFile("assemblies.csv", assemblies);
-    AssemblyRecords records(std::make_unique<CsvReader>(partsFile), std::make_unique<CsvReader>(assembliesFile));
+    AssemblyRecords records(std::make_unique<CsvReader>(partsFile), std::make_unique<CsvReader>(assembliesFile),
+                            choices);
     std::vector<std::string> all;
     while (const Record* const pRecord = records.next())
     {
@@ -40,16 +42,37 @@ using Texts = std::vector<std::string>;
 
 TEST(AssemblyRecordsTest, PartsGetTheColumnsThatTheyDoNotHave)
 {
-    EXPECT_EQ(Texts({ "Handle|Name|Assembly|MNum|AssemblyWeight [kg]", "P1|HEA200|A7|L10|17.5", "P2|IPE360|||",
-                      "P3||A8||0" }),
+    EXPECT_EQ(Texts({ "Handle|Name|Assembly|%MNum|%MName|%AssemblyWeight [kg]", "P1|HEA200|A7|L10|LIGGER|17.5",
+                      "P2|IPE360||||", "P3||A8||KOLOM|0" }),
               recordsOf("Handle,Name,Assembly\nP1,HEA200,A7\nP2,IPE360,\nP3,,A8\n",
                         "MNum,%Handle,Name,AssemblyWeight [kg]\nL10,A7,LIGGER,17.5\n,A8,KOLOM,0\nL11,A9,KOLOM,1\n"));
 }
 
+// The weight of a whole assembly, taken for that of each of its parts, would be counted as often as it has parts.
+TEST(AssemblyRecordsTest, WhatAnAssemblyHasIsNotThatOfItsParts)
+{
+    EXPECT_EQ(Texts({ "Assembly|%MNum|%MName|%MQuantity|%AssemblyWeight [t]|%Bay", "A7|L10|LIGGER|2|1.5|C" }),
+              recordsOf("Assembly\nA7\n", "GUID,Mark,Name,Qty,Weight [t],Length,Paint [m2],Bay\n"
+                                          "A7,L10,LIGGER,2,1.5,6000,12,C\n"));
+}
+
+TEST(AssemblyRecordsTest, AMappedHeadingStaysWhereTheMappingFindsIt)
+{
+    HeadingChoices choices;
+    choices.mappings = { { "Code", "%UserAttr1", true } };
+    EXPECT_EQ(Texts({ "Assembly|Code", "A7|x" }), recordsOf("Assembly\nA7\n", "Handle,Code\nA7,x\n", choices));
+}
+
+TEST(AssemblyRecordsTest, WhatAllPiecesOfAnAssemblyHaveIsNotGiven)
+{
+    EXPECT_EQ(Texts({ "Assembly|%MQuantity", "A7|2" }),
+              recordsOf("Assembly\nA7\n", "Handle,Qty,Total weight\nA7,2,1500\n"));
+}
+
 TEST(AssemblyRecordsTest, WithoutAssembliesThereIsNothingToGet)
 {
-    EXPECT_EQ(Texts({ "Assembly|MNum", "|" }), recordsOf("Assembly\n\"\"\n", "Handle,MNum\n"));
-    EXPECT_EQ(Texts({ "Assembly|MNum", "|" }), recordsOf("Assembly\n\"\"\n", "Handle,MNum\n,L10\n,L11\n"));
+    EXPECT_EQ(Texts({ "Assembly|%MNum", "|" }), recordsOf("Assembly\n\"\"\n", "Handle,MNum\n"));
+    EXPECT_EQ(Texts({ "Assembly|%MNum", "|" }), recordsOf("Assembly\n\"\"\n", "Handle,MNum\n,L10\n,L11\n"));
 }
 
 TEST(AssemblyRecordsTest, AListWithoutTheColumnIsRefused)
