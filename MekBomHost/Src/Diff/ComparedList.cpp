@@ -87,14 +87,21 @@ void ComparedList::findKeys(const ReportJob& job, const EvaluatedReport& report)
             tokens.push_back(withoutDirection(request));
     }
     for (const VorString& token : tokens)
-        if (const int column = columnOf(report, token);
-            column < 0 || !m_columns[static_cast<std::size_t>(column)].isCounted)
-            m_keys.push_back({ token, column });
+        addKey(token, columnOf(report, token));
     if (!m_keys.empty())
         return;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
         if (!m_columns[i].isCounted)
             m_keys.push_back({ report.columns()[i].token, static_cast<int>(i) });
+}
+
+// What groups by a token mostly sorts by it, too.
+void ComparedList::addKey(const VorString& token, int column)
+{
+    const bool isKnown =
+        std::any_of(m_keys.begin(), m_keys.end(), [&token](const KeyToken& known) { return known.token == token; });
+    if (!isKnown && (column < 0 || !m_columns[static_cast<std::size_t>(column)].isCounted))
+        m_keys.push_back({ token, column });
 }
 
 void ComparedList::takeLines(const EvaluatedReport& report)

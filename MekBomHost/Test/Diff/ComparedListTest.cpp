@@ -78,7 +78,7 @@ TEST(ComparedListTest, AKeyThatIsNotShownIsThatOfTheRow)
 TEST(ComparedListTest, GroupsAreTheLinesOfAListThatPrintsThemAlone)
 {
     const ListOfParts parts(groupedList(kDetails, R"("summary": true, )"), kParts);
-    EXPECT_EQ("S235||1|{h3 }\nS355||6|{h1 h2 }\n", linesOf(parts.list));
+    EXPECT_EQ("S235|1|{h3 }\nS355|6|{h1 h2 }\n", linesOf(parts.list));
 }
 
 TEST(ComparedListTest, NumberedRowsHaveNoHandles)

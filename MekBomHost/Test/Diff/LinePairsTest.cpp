@@ -31,7 +31,7 @@ std::string pairsOf(const std::string& oldRows, const std::string& newRows)
 
 TEST(LinePairsTest, ObjectsTellAPartThatWasRenamed)
 {
-    EXPECT_EQ("P1>P7 P2>P2", pairsOf("Handle,PNum,Name\nh1,P1,A\nh2,P2,B\n", "Handle,PNum,Name\nh1,P7,A\nh2,P2,B\n"));
+    EXPECT_EQ("P2>P2 P1>P7", pairsOf("Handle,PNum,Name\nh1,P1,A\nh2,P2,B\n", "Handle,PNum,Name\nh1,P7,A\nh2,P2,B\n"));
 }
 
 TEST(LinePairsTest, AMarkThatWasGivenToAnotherPartIsNoReasonToPairThem)

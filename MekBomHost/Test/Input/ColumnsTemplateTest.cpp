@@ -81,7 +81,7 @@ TEST(ColumnsTemplateTest, WeightsAreAddedUpOverThePieces)
     EXPECT_EQ("Name    Quantity  Weight [kg]  Total weight [kg]\n"
               "------  --------  -----------  -----------------\n"
               "HEA200         4        134.4              537.6\n"
-              "IPE360         1        100                  100\n"
+              "IPE360         1        100                100\n"
               "------  --------  -----------  -----------------\n"
               "Total          5                           637.6\n",
               printed("%Name,%Quantity,%Weight\nHEA200,4,134.4\nIPE360,1,100\n"));

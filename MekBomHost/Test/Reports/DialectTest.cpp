@@ -103,9 +103,12 @@ TEST(DialectTest, AssembliesAreReadInTheirDialect)
 {
     const ScratchFolder folder;
     const std::string parts = folder.file("parts.csv", "Handle;PNum;Assembly;Weight;Quantity\nP1;B1;A7;12,5;1\n");
-    const std::string assemblies = folder.file("assemblies.csv", "Handle;Length\nA7;1.234,5\n");
+    const std::string assemblies = folder.file("assemblies.csv", "Handle;Weight\nA7;1.234,5\n");
+    const std::string list = folder.file("list.json", R"({ "equalLines": "keep", "sections": [
+      { "type": "kReportHeader", "children": [
+        { "type": "kDetails", "tuples": [ { "token": "%PNum" }, { "token": "%AssemblyWeight" } ] } ] } ] })");
 
-    const ProgramRun run = report(parts, { "--assemblies", assemblies });
+    const ProgramRun run = runHere({ "report", "--data", parts, "--assemblies", assemblies, "--template", list });
 
     EXPECT_NE(std::string::npos, run.output.find("1234.5")) << run.output << run.errors;
 }

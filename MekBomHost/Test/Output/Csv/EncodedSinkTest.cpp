@@ -31,7 +31,7 @@ TEST(EncodedSinkTest, Utf16HasTwoBytesAndFourBeyondTheFirstPlane)
     EXPECT_EQ(std::string("\xFF\xFE"
                           "A\0"
                           "\xE4\0"
-                          "\xB1\x67"
+                          "\xF1\x67"
                           "\x3D\xD8\x00\xDE",
                           12),
               encoded("Aä柱\xF0\x9F\x98\x80", { TextEncoding::kUtf16LittleEndian, true }));

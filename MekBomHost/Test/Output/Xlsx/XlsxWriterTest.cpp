@@ -263,7 +263,7 @@ TEST(XlsxWriterTest, ALongTextIsRefusedAndNotCut)
     const EvaluatedParts parts(kPartsByMaterial, { { tooLong.c_str(), L"S355", 1 } }, XlsxWriter().contents());
     StringSink sink;
     EXPECT_EQ(
-        "4 Weights!B4: found a text of 32768 characters, expected at most 32767, which a cell of a workbook holds; "
+        "4 Weights!B4: found a text of 32768 characters, expected at most 32767, which a cell of a workbook holds: "
         "shorten it, or write the list in another format\n",
         faultOf([&] { XlsxWriter().write(parts.report(), sink); }));
     EXPECT_FALSE(sink.isFinished);

@@ -138,9 +138,9 @@ TEST(OutputOptionsTest, InputsAreNoOutputs)
 
 TEST(OutputOptionsTest, WordsChooseHowCsvIsWritten)
 {
-    const OutputChoices choices =
-        with({ "--to", "csv", "--values", "plain", "--output-delimiter", "tab", "--output-decimal", ",", "--foot" },
-             [](const OutputOptions& options) { return options.choices(); });
+    const OutputChoices choices = with({ "--to", "csv", "--values", "plain", "--output-delimiter", "tab",
+                                         "--output-decimal", ",", "--foot", "--output-encoding", "utf-8-bom" },
+                                       [](const OutputOptions& options) { return options.choices(); });
 
     EXPECT_TRUE(choices.hasPlainValues);
     EXPECT_EQ('\t', choices.delimiter);
