@@ -67,7 +67,7 @@ public:
     [[noreturn]] void failInFilter(Finding finding, bool isFromTemplate) const;
 
     // Multiplies the pieces of the rows, and has the parts of rows stand in their place, as `choices` say: behind the
-    // reading of the rows, which must have been read with piecesTokens(), and before they are filtered. Gives what is
+    // reading of the rows, which must have their "%Parent" and "%Quantity", and before they are filtered. Gives what is
     // wrong, without a place: an error, which leaves nothing to go on with, or a warning.
     std::optional<Finding> multiplyPieces(const PieceChoices& choices);
 

@@ -8,8 +8,6 @@
 #include "ExplainVerb.h"
 
 #include "DataFile.h"
-#include "DisplaySettings.h"
-#include "Environment.h"
 #include "ExplainedReport.h"
 #include "Fault.h"
 #include "FindingCodes.h"
@@ -20,7 +18,6 @@
 #include "TemplateFile.h"
 #include "TemplateInWords.h"
 #include "TemplateReader.h"
-#include "UnitsFile.h"
 
 #include <CLI/CLI.hpp>
 
@@ -68,12 +65,7 @@ CLI::App& ExplainVerb::declareOn(CLI::App& parent)
     explain.add_option("template", m_templateName, "Template file, a shipped list by its name, or default")->required();
     m_data.declareOn(explain, "Parts list; - reads standard input, hall takes the shipped one");
     explain.add_option("--line", m_line, "Line of the list to tell of, from 1")->type_name("NUMBER");
-    explain.add_option("--units", m_units, "Units of the list: metric, imperial or a file of units [metric]")
-        ->type_name("UNITS");
-    m_unitChoices.declareOn(explain, "Unit and precision of one kind, such as length=ft-in/16");
-    m_settings.declareOn(explain, "How numbers are laid out, such as C40_SuppressZeroFeet=0");
-    m_rows.declareOn(explain, "Which rows are listed");
-    m_allowed.declareOn(explain, "Mistakes that stop no report, such as MB105");
+    m_list.declareOn(explain);
     return explain;
 }
 
@@ -122,12 +114,7 @@ ReportRequest ExplainVerb::request() const
     request.parts = DataFile::openAll(m_data.names());
     if (m_templateName != TemplateFile::kDefault)
         request.pTemplate = TemplateFile::open(m_templateName, "template");
-    request.environment = Environment::variables(DisplaySettings::names());
-    request.settings = m_settings.pairs();
-    UnitsFile::setIn(request, m_units);
-    request.unitChoices = m_unitChoices.pairs();
-    m_rows.fillIn(request);
-    request.allowed = m_allowed.words();
+    m_list.fillIn(request);
     request.contents.values = true;
     request.contents.rows = true;
     return request;

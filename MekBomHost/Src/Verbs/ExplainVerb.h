@@ -6,10 +6,8 @@
 #pragma once
 
 #include "FileOption.h"
-#include "ListOption.h"
-#include "PairOption.h"
+#include "ListOptions.h"
 #include "ReportRequest.h"
-#include "RowOptions.h"
 #include "Verb.h"
 
 #include <optional>
@@ -30,11 +28,7 @@ private:
 
     std::string m_templateName; // a file, a shipped list or "default"
     FileOption m_data{ "--data", "FILE" };
-    std::optional<int> m_line;      // from 1; nothing for all lines
-    std::string m_units = "metric"; // as UnitsFile takes them
-    PairOption m_unitChoices{ "--unit", "KIND=UNIT", "length=ft-in/16" };
-    PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
-    RowOptions m_rows;
-    ListOption m_allowed{ "--allow", "CODE,..." };
+    std::optional<int> m_line; // from 1; nothing for all lines
+    ListOptions m_list;
 };
 }

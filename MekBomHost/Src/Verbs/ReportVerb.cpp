@@ -11,16 +11,12 @@
 #include "ReportVerb.h"
 
 #include "DataFile.h"
-#include "DisplaySettings.h"
-#include "Environment.h"
 #include "Fault.h"
-#include "FileSource.h"
 #include "FindingCodes.h"
 #include "FindingList.h"
 #include "ReportOutputs.h"
 #include "ShippedFiles.h"
 #include "TemplateFile.h"
-#include "UnitsFile.h"
 
 #include <CLI/CLI.hpp>
 
@@ -122,15 +118,9 @@ void ReportVerb::declareOptionsOn(CLI::App& command)
 {
     m_template.declareOn(command,
                          "Template file, a shipped list by its name, or default [the list that suits the data]");
-    command.add_option("--units", m_units, "Units to print in: metric, imperial or a file of units [metric]")
-        ->type_name("UNITS");
-    m_unitChoices.declareOn(command, "Unit and precision of one kind, such as length=ft-in/16");
-    m_settingsFile.declareOn(command, "INI file that says how numbers are shown");
-    m_settings.declareOn(command, "How numbers are laid out, such as C40_SuppressZeroFeet=0");
+    m_list.declareOn(command);
     m_outputs.declareOn(command);
     command.add_flag("--summary", m_isSummary, "Print groups and totals without the lines below them");
-    m_rows.declareOn(command, "Which rows to list, such as \"%Material = 'S355' and %Length > 6 m\"");
-    m_allowed.declareOn(command, "Mistakes that stop no report, such as MB105");
     command.add_flag("--check-totals", m_checksTotals, "Add up every total a second time, from the rows");
 }
 
@@ -157,19 +147,12 @@ ExitStatus ReportVerb::run(FindingList& findings)
 ReportRequest ReportVerb::request() const
 {
     ReportRequest request;
-    m_rows.fillIn(request);
-    request.unitChoices = m_unitChoices.pairs();
-    request.settings = m_settings.pairs();
-    request.allowed = m_allowed.words();
+    m_list.fillIn(request);
     request.isSummary = m_isSummary;
     request.checksTotals = m_checksTotals;
     request.parts = parts();
     request.numProcessors = std::thread::hardware_concurrency();
     addTemplates(request);
-    request.environment = Environment::variables(DisplaySettings::names());
-    if (const std::string settingsFile = m_settingsFile.name(); !settingsFile.empty())
-        request.pSettings = std::make_unique<FileSource>(settingsFile);
-    UnitsFile::setIn(request, m_units);
     return request;
 }
 
@@ -204,8 +187,10 @@ void ReportVerb::addTemplates(ReportRequest& request) const
 // All that is read, as the command line names it.
 std::vector<std::string> ReportVerb::inputNames() const
 {
-    std::vector<std::string> inputs = dataNames();
-    inputs.insert(inputs.end(), { m_template.name(), m_units, m_settingsFile.name(), m_rows.assemblies() });
+    std::vector<std::string> inputs = m_list.inputNames();
+    for (const std::string& name : dataNames())
+        inputs.push_back(name);
+    inputs.push_back(m_template.name());
     return inputs;
 }
 

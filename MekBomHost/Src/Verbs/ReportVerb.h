@@ -10,12 +10,10 @@
 #pragma once
 
 #include "FileOption.h"
-#include "ListOption.h"
+#include "ListOptions.h"
 #include "OutputOptions.h"
-#include "PairOption.h"
 #include "ReportJob.h"
 #include "ReportRequest.h"
-#include "RowOptions.h"
 #include "Verb.h"
 
 #include <memory>
@@ -51,13 +49,8 @@ private:
     // What the options were given as. None of these files is opened before the job reads it.
     FileOption m_data{ "--data", "FILE" };
     FileOption m_template{ "--template", "FILE" }; // or a list's name; without one a list that suits the data
-    std::string m_units = "metric";                // to print in, as UnitsFile takes them
-    PairOption m_unitChoices{ "--unit", "KIND=UNIT", "length=ft-in/16" };
-    FileOption m_settingsFile{ "--settings", "FILE" };
-    PairOption m_settings{ "--setting", "NAME=NUMBER", "C40_SuppressZeroFeet=0" };
+    ListOptions m_list;
     OutputOptions m_outputs;
-    RowOptions m_rows;
-    ListOption m_allowed{ "--allow", "CODE,..." };
     bool m_isSummary = false;
     bool m_checksTotals = false;
 
