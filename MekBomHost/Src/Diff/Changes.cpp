@@ -124,8 +124,7 @@ const ReportColumn& columnOfChange(const EvaluatedReport& changes, std::size_t c
 
 Changes::Changes(const ComparedList& oldList, const ComparedList& newList, const ReportJob& newJob,
                  LineContents contents)
-    : m_newJob(newJob),
-      m_newReport(newJob.report()),
+    : m_newReport(newJob.report()),
       m_columns(newList.columns()),
       m_report(templateOf(m_newReport, newJob, m_columns), newJob.units(), newJob.settings(), contents),
       m_balances(m_columns.size())

@@ -61,7 +61,6 @@ private:
     std::string balanceText(double Balance::*side) const;
     std::vector<std::string> statements() const;
 
-    const ReportJob& m_newJob;
     EvaluatedReport m_newReport;
     const std::vector<ComparedColumn> m_columns;
     Report m_report;

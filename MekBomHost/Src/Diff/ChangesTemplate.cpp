@@ -39,8 +39,13 @@ public:
            const std::vector<ComparedColumn>& columns)
         : m_report(report), m_template(reportTemplate), m_columns(columns)
     {
-        for (const ComparedColumn& column : columns)
-            m_numLevels = std::max(m_numLevels, column.groupLevel + 1);
+        for (std::size_t i = 0; i < columns.size(); ++i)
+            if (columns[i].groupLevel >= 0)
+            {
+                const auto level = static_cast<std::size_t>(columns[i].groupLevel);
+                m_groupTokens.resize(std::max(m_groupTokens.size(), level + 1));
+                m_groupTokens[level].push_back(shownToken(i));
+            }
     }
 
     std::string text() const
@@ -121,26 +126,23 @@ private:
         return members;
     }
 
+    // Sections open from the outside in and close the other way, as they may be nested a hundred thousand deep.
     std::string sections() const
     {
-        std::string inner = "{ " + member("type", "\"kDetails\"") + ", " + tuples(detailsTokens()) + " }";
-        for (int level = m_numLevels - 1; level >= 0; --level)
-            if (const Texts tokens = groupTokens(level); !tokens.empty())
-                inner = "{ " +
-                        joined({ member("type", "\"kGroupHeader\""), tuples(groupRequests(tokens)),
-                                 member("children", "[ " + inner + " ]") }) +
-                        " }" + footer("kGroupFooter");
-        return "{ " + joined({ member("type", "\"kReportHeader\""), member("children", "[ " + inner + " ]") }) + " }" +
-               footer("kReportFooter");
+        std::string text = openedSection("kReportHeader", {});
+        for (const Texts& tokens : m_groupTokens)
+            if (!tokens.empty())
+                text += openedSection("kGroupHeader", groupRequests(tokens));
+        text += "{ " + member("type", "\"kDetails\"") + ", " + tuples(detailsTokens()) + " }";
+        for (const Texts& tokens : m_groupTokens)
+            if (!tokens.empty())
+                text += " ] }" + footer("kGroupFooter");
+        return text + " ] }" + footer("kReportFooter");
     }
 
-    Texts groupTokens(int level) const
+    static std::string openedSection(const std::string& type, const Texts& tokens)
     {
-        Texts tokens;
-        for (std::size_t i = 0; i < m_columns.size(); ++i)
-            if (m_columns[i].groupLevel == level)
-                tokens.push_back(shownToken(i));
-        return tokens;
+        return "{ " + joined({ member("type", jsonText(type)), tuples(tokens) }) + ", \"children\": [ ";
     }
 
     static Texts groupRequests(const Texts& tokens)
@@ -180,7 +182,7 @@ private:
     const EvaluatedReport& m_report;
     const ReportTemplate& m_template;
     const std::vector<ComparedColumn>& m_columns;
-    int m_numLevels = 0;
+    std::vector<Texts> m_groupTokens; // of each level, of the columns that its header shows
 };
 }
 

@@ -11,7 +11,8 @@
 #include "VorBomDataToken.h"
 
 #include <algorithm>
-#include <utility>
+#include <unordered_map>
+#include <unordered_set>
 
 namespace mekbom
 {
@@ -30,14 +31,6 @@ VorString withoutDirection(const VorString& request)
 {
     const int colon = request.find(L"By:", 0);
     return colon < 0 ? request : request.right(request.length() - colon - 3);
-}
-
-int columnOf(const EvaluatedReport& report, const VorString& token)
-{
-    const std::vector<ReportColumn>& columns = report.columns();
-    const auto found = std::find_if(columns.begin(), columns.end(),
-                                    [&token](const ReportColumn& column) { return column.token == token; });
-    return found == columns.end() ? -1 : static_cast<int>(found - columns.begin());
 }
 
 void append(std::string& text, std::string_view more)
@@ -86,22 +79,24 @@ void ComparedList::findKeys(const ReportJob& job, const EvaluatedReport& report)
         for (const VorString& request : levels.sortRequests(level))
             tokens.push_back(withoutDirection(request));
     }
+    std::unordered_map<std::string, int> columns;
+    for (std::size_t i = 0; i < m_columns.size(); ++i)
+        columns.emplace(Utf8::toBytes(report.columns()[i].token), static_cast<int>(i));
+    std::unordered_set<std::string> known; // what groups by a token mostly sorts by it, too
     for (const VorString& token : tokens)
-        addKey(token, columnOf(report, token));
+    {
+        const std::string name = Utf8::toBytes(token);
+        const auto found = columns.find(name);
+        const int column = found == columns.end() ? -1 : found->second;
+        const bool isCounted = column >= 0 && m_columns[static_cast<std::size_t>(column)].isCounted;
+        if (known.insert(name).second && !isCounted)
+            m_keys.push_back({ token, column });
+    }
     if (!m_keys.empty())
         return;
     for (std::size_t i = 0; i < m_columns.size(); ++i)
         if (!m_columns[i].isCounted)
             m_keys.push_back({ report.columns()[i].token, static_cast<int>(i) });
-}
-
-// What groups by a token mostly sorts by it, too.
-void ComparedList::addKey(const VorString& token, int column)
-{
-    const bool isKnown =
-        std::any_of(m_keys.begin(), m_keys.end(), [&token](const KeyToken& known) { return known.token == token; });
-    if (!isKnown && (column < 0 || !m_columns[static_cast<std::size_t>(column)].isCounted))
-        m_keys.push_back({ token, column });
 }
 
 void ComparedList::takeLines(const EvaluatedReport& report)

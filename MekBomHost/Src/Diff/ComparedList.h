@@ -60,7 +60,6 @@ private:
 
     void findColumns(const EvaluatedReport& report);
     void findKeys(const ReportJob& job, const EvaluatedReport& report);
-    void addKey(const VorString& token, int column);
     void takeLines(const EvaluatedReport& report);
     void openGroup(const ReportLine& line);
     void take(const ReportLine& line);

@@ -39,8 +39,8 @@ void joinGroups(ReportTemplate& reportTemplate, const TemplateLevels& levels)
     const VorBomTemplateItem& footer = *levels.section({ level, true });
     const std::unordered_set<std::string> inHeader = columnsOf(reportTemplate, header);
     const std::unordered_set<std::string> inFooter = columnsOf(reportTemplate, footer);
-    const bool areApart = std::none_of(inHeader.begin(), inHeader.end(), [&inFooter](const std::string& column)
-                                       { return inFooter.count(column) > 0; });
+    const bool areApart = std::none_of(inHeader.begin(), inHeader.end(),
+                                       [&inFooter](const std::string& column) { return inFooter.count(column) > 0; });
     if (areApart && !inHeader.empty() && !inFooter.empty() && reportTemplate.styleOf(&header).label.empty())
         reportTemplate.sectionStyles[&footer].label.clear();
 }

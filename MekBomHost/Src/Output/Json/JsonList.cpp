@@ -299,8 +299,7 @@ void JsonList::writeFoot()
               ", \"emptyRows\": " + std::to_string(foot.numEmptyRows) +
               ", \"rowsAreSinglePieces\": " + boolText(foot.countsRowsAsPieces) +
               ", \"unitsAssumed\": " + boolText(foot.areUnitsAssumed) +
-              ", \"warnings\": " + std::to_string(foot.numWarnings) +
-              ",\n" + text + "}";
+              ", \"warnings\": " + std::to_string(foot.numWarnings) + ",\n" + text + "}";
 }
 
 void JsonList::writeTextOrNull(std::string_view text)

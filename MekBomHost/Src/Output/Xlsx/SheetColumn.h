@@ -8,8 +8,8 @@
 // in fractions, 7 in is a text like 7 1/2.
 #pragma once
 
-#include "SheetNumber.h"
 #include "ReportColumn.h"
+#include "SheetNumber.h"
 #include "ShownText.h"
 
 #include "VorBomTypedValue.h"

@@ -136,7 +136,7 @@ std::optional<SheetNumber> SheetNumber::of(std::string_view text, double value)
         return std::nullopt;
     const double number = printed.value();
     return SheetNumber{ isShownAs(value, number, printed.numDecimals) ? value : number, printed.numDecimals,
-                       printed.numGroups };
+                        printed.numGroups };
 }
 
 // The blanks are characters of the format, each behind a backslash: in a format, what divides thousands is a comma, and
