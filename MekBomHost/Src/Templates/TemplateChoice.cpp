@@ -12,6 +12,7 @@ std::vector<TemplateCover> coversOf(const std::vector<NamedText>& candidates,
                                     const std::function<bool(const std::string&)>& hasColumn)
 {
     std::vector<TemplateCover> covers;
+    covers.reserve(candidates.size());
     for (const NamedText& candidate : candidates)
         covers.push_back(TemplateCover::of(candidate, hasColumn));
     std::stable_sort(covers.begin(), covers.end(),

@@ -123,7 +123,7 @@ void DiffVerb::setTemplate(ReportRequest& request, const std::string& name) cons
 // Data that suit no shipped list are printed as they are, by a list that is in no file.
 std::string DiffVerb::templateFor(const ReportJob& newJob) const
 {
-    if (const std::string name = m_template.name(); !name.empty())
+    if (std::string name = m_template.name(); !name.empty())
         return name;
     const std::vector<std::string> shipped = ShippedFiles::templateNames();
     const std::string& chosen = newJob.reportTemplate().fileName;
