@@ -120,9 +120,10 @@ private:
         return found->second;
     }
 
+    // A zero with a minus, which tiny negative numbers become too, is 0.
     bool setNumber(double value)
     {
-        m_cells[m_column] = RecordCell(value);
+        m_cells[m_column] = RecordCell(value == 0 ? 0.0 : value);
         return true;
     }
 

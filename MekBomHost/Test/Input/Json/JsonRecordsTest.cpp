@@ -159,4 +159,11 @@ TEST(JsonRecordsTest, FilesAreKnownByHowTheyBegin)
     for (const char* const head : { "", " ", "Name,Length", "[mm],Name", "{mm},Name", "[", "[5]", "{", "\"a\"" })
         EXPECT_FALSE(JsonRecords::isBeginOf(head)) << head;
 }
+
+TEST(JsonRecordsTest, AZeroWithAMinusIsZero)
+{
+    const std::vector<std::string> records = recordsOf("{\"a\":-0.0,\"b\":-1e-592547409}");
+    ASSERT_EQ(2U, records.size());
+    EXPECT_EQ(std::string::npos, records[1].find('-')) << records[1];
+}
 }
