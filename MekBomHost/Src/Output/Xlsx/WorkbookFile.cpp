@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <ctime>
 #include <iterator>
+#include <mutex>
 #include <system_error>
 
 namespace mekbom
@@ -24,6 +25,14 @@ const int kDiskErrors[] = { ENOSPC, EFBIG, EIO, EDQUOT };
 {
     Finding finding = Finding::saying(FindingCodes::kOutputNotWritten, "a workbook cannot be written: " + reason);
     throw Fault(kOutputNotWritten, finding);
+}
+
+// One thread at a time: the library takes the date of the document apart by std::gmtime(), whose answer all threads share.
+lxw_error closeAlone(lxw_workbook* pWorkbook)
+{
+    static std::mutex s_mutex;
+    const std::lock_guard<std::mutex> lock(s_mutex);
+    return workbook_close(pWorkbook);
 }
 
 [[noreturn]] void failForLackOfRoom(int error)
@@ -66,7 +75,7 @@ void WorkbookFile::writeTo(TextSink& sink)
 {
     requireRows();
     errno = 0;
-    const lxw_error error = workbook_close(m_pWorkbook.release());
+    const lxw_error error = closeAlone(m_pWorkbook.release());
     const int systemError = errno;
     if (std::find(std::begin(kDiskErrors), std::end(kDiskErrors), systemError) != std::end(kDiskErrors))
         failForLackOfRoom(systemError);
