@@ -8,6 +8,7 @@
 #include "CheckedTemplate.h"
 
 #include "TemplateLevels.h"
+#include "TotalTokens.h"
 #include "Utf8.h"
 
 #include <algorithm>
@@ -48,6 +49,19 @@ void CheckedTemplate::addGroupTokens(std::size_t level)
             for (const TokenRequest::Element& element : pTuple->request.elements)
                 tokens.push_back(element.token);
     m_groupTokens.push_back(tokens);
+}
+
+bool CheckedTemplate::usesSum(const CheckedTuple& tuple) const
+{
+    const VorString sum = Utf8::toWide(tuple.token);
+    const auto isOperand = [&sum](const ColumnTotal::Operand& operand) { return operand.sum == sum; };
+    return TotalTokens::isSum(m_template.shownTokenOf(*tuple.pSection, tuple.index)) ||
+           std::any_of(m_template.columns.begin(), m_template.columns.end(),
+                       [&isOperand](const ColumnStyle& style)
+                       {
+                           const auto& operands = style.total.operands;
+                           return std::any_of(operands.begin(), operands.end(), isOperand);
+                       });
 }
 
 bool CheckedTemplate::isSummary() const

@@ -4,7 +4,6 @@
 //   group footer   %SumBy:%Formula:2*3+(4+5)*6    nothing more
 #include "FormulaMistakes.h"
 
-#include "FormulaResults.h"
 #include "FormulaRules.h"
 #include "Utf8.h"
 
@@ -26,7 +25,24 @@ void FormulaMistakes::run()
         if (VorBomDataToken::removeFormulaPrefix(formula) == 1 && formulas.insert(Utf8::toBytes(formula)).second)
             findIn(tuple, formula, results.declaredFor(Utf8::toBytes(formula)));
     }
+    for (const ColumnStyle& style : m_list.file().columns)
+        if (style.total.kind == ColumnTotal::kCalculated)
+            findInTotal(style, results);
     m_mistakes.addPlaced(results.undeclared());
+}
+
+void FormulaMistakes::findInTotal(const ColumnStyle& style, const FormulaResults& results)
+{
+    const FormulaOperands operands = [&](const VorString& name)
+    { return results.operandOfTotal(m_list.file(), style.total, name); };
+    for (Finding finding : FormulaRules::check(style.total.formula, operands, style.result))
+        if (finding.code != MistakeCodes::kResultUndeclared.name)
+        {
+            finding.begin = style.place.span.begin;
+            finding.end = style.place.span.end;
+            finding.path = style.place.path + "/total";
+            m_mistakes.addPlaced({ finding });
+        }
 }
 
 // FormulaRules, too, tells that nobody says what the result measures, as it must where there is no template. Here that

@@ -5,6 +5,7 @@
 // only in a footer (MB403) is told by SumRules, and that rows lack one of its data (MB413) by OperandRule.
 #pragma once
 
+#include "FormulaResults.h"
 #include "TemplateRules.h"
 
 namespace mekbom
@@ -17,6 +18,7 @@ public:
     void run();
 
 private:
+    void findInTotal(const ColumnStyle& style, const FormulaResults& results);
     void findIn(const CheckedTuple& tuple, const VorString& formula, const std::string& declared);
 };
 }

@@ -189,7 +189,8 @@ void SumRules::findSumOfShared(const CheckedTuple& tuple)
 {
     const std::vector<std::string> summed = dataTokensOf(tuple.request);
     const auto isShared = [this](const std::string& token) { return m_tokens.isSharedByRows(token); };
-    if (!tuple.isFooter || summed.empty() || !std::all_of(summed.begin(), summed.end(), isShared))
+    if (!tuple.isFooter || !m_list.usesSum(tuple) || summed.empty() ||
+        !std::all_of(summed.begin(), summed.end(), isShared))
         return;
     const std::string own = ownOfRow(summed.front());
     m_mistakes.add(MistakeCodes::kPiecesNotCounted, tuple,

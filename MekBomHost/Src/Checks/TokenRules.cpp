@@ -8,7 +8,7 @@
 #include "TokenRules.h"
 
 #include "TokenNames.h"
-#include "TokenQuantities.h"
+#include "TotalTokens.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 
@@ -122,7 +122,7 @@ void TokenRules::findUnknownUnits()
 {
     for (const auto& [key, place] : m_list.file().tokenUnitPlaces)
     {
-        const VorString datum = TokenQuantities::datumOf(Utf8::toWide(key));
+        const VorString datum = TotalTokens::datumOf(Utf8::toWide(key));
         const std::string token = Utf8::toBytes(datum);
         if (VorString formula = datum; VorBomDataToken::removeFormulaPrefix(formula) == 1)
         {
@@ -149,7 +149,7 @@ void TokenRules::findOtherKinds()
     ofCatalogue.setUnitsForTokens(nullptr);
     for (const auto& [key, place] : m_list.file().tokenUnitPlaces)
     {
-        const VorString token = TokenQuantities::datumOf(Utf8::toWide(key));
+        const VorString token = TotalTokens::datumOf(Utf8::toWide(key));
         const auto type = ofCatalogue.getBomTemplateUnits()->getUnitType(token);
         const UnitKind* const pKind = UnitKinds::find(type);
         if (pKind != nullptr && m_list.file().pTemplate->getBomTemplateUnits()->getUnitType(Utf8::toWide(key)) != type)

@@ -14,6 +14,8 @@
 #include "NumberInValue.h"
 #include "NumberText.h"
 #include "PieceTokens.h"
+#include "TextOfNumber.h"
+#include "TotalTokens.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 
@@ -24,7 +26,6 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
-#include <limits>
 #include <string>
 #include <string_view>
 
@@ -32,17 +33,18 @@ namespace mekbom
 {
 namespace
 {
-// Whether a footer sums what stands under the token, be it printed or not.
-bool isSummed(const VorBomTemplate& reportTemplate, const VorString& token)
+// Whether a footer shows the sum of what stands under the token, be it printed or not. Where it shows the greatest one, or
+// a mean, the value of a line stays that of one piece.
+bool isSummed(const ReportTemplate& reportTemplate, const VorString& token)
 {
-    for (const VorBomItemBase* pHeader = reportTemplate.child(); pHeader != nullptr; pHeader = pHeader->child())
-        if (pHeader->next() != nullptr)
-            for (const VorBomDataTuple& tuple : pHeader->next()->getData())
-            {
-                VorString summed;
-                if (tuple.token().getSummingRequest(summed) == 1 && summed == token)
-                    return true;
-            }
+    for (const VorBomItemBase* pHeader = reportTemplate.pTemplate->child(); pHeader != nullptr;
+         pHeader = pHeader->child())
+        for (int i = 0; pHeader->next() != nullptr && i < pHeader->next()->getData().length(); ++i)
+        {
+            const VorString shown = reportTemplate.shownTokenOf(*pHeader->next(), i);
+            if (TotalTokens::isSum(shown) && TotalTokens::datumOf(shown) == token)
+                return true;
+        }
     return false;
 }
 
@@ -91,7 +93,7 @@ EqualLines::EqualLines(const ReportTemplate& reportTemplate, VorBomSectionSink& 
     {
         const VorString& token = tuple.token().token();
         const bool growsInStep = PieceTokens::growWithPieces(token);
-        m_columns.push_back({ growsInStep || isSummed(*reportTemplate.pTemplate, token), !growsInStep,
+        m_columns.push_back({ growsInStep || isSummed(reportTemplate, token), !growsInStep,
                               reportTemplate.pTemplate->numberFormat(*pDetails, static_cast<int>(m_columns.size())),
                               reportTemplate.placeOfTuple(*pDetails, static_cast<int>(m_columns.size())) });
     }
@@ -200,26 +202,12 @@ void EqualLines::handOn(std::size_t line)
     VorBomDataTuple* pTuple = m_pShown->getData().begin();
     for (std::size_t i = first; i < first + m_columns.size(); ++i, ++pTuple)
         if (isSum && m_columns[i - first].isAdded && holdsNumber(m_values[i].type))
-            pTuple->value().set(shownText(m_values[i], m_columns[i - first].pFormat));
+            pTuple->value().set(textOfNumber(m_values[i], m_columns[i - first].pFormat, m_units));
         else
             pTuple->value().set(m_texts[i]);
     SectionRelay::takeHeader({ *m_pShown, m_level, m_lines[line].pRow, {}, m_values.data() + first });
     for (const VorBomDataRow* const pRow : m_lines[line].otherRows)
         SectionRelay::takeMergedRow(*pRow);
-}
-
-// A sum of whole numbers is one, however large: beyond 32 bits a format is given the double, and without a format the
-// digits are written here. Doubles without a format are quantities, or plain numbers as the engine shows them.
-VorString EqualLines::shownText(const VorBomTypedValue& value, const VorBomNumberFormat* pFormat) const
-{
-    constexpr double kMostInt = std::numeric_limits<int>::max();
-    if (pFormat != nullptr && value.type == VorBomDataValue::kIntData && std::fabs(value.number) <= kMostInt)
-        return pFormat->textOf(static_cast<int>(value.number));
-    if (pFormat != nullptr)
-        return pFormat->textOf(value.number);
-    if (value.type == VorBomDataValue::kIntData)
-        return VorString(std::to_wstring(static_cast<long long>(value.number)).c_str());
-    return m_units.getDisplayString(value.unitType, value.number);
 }
 
 // Of the same columns that readAlike() compares. That one column has a number and the other none is left to

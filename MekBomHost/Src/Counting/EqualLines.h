@@ -98,7 +98,6 @@ private:
     void addLastTo(std::size_t line);
     void handOn();
     void handOn(std::size_t line);
-    VorString shownText(const VorBomTypedValue& value, const VorBomNumberFormat* pFormat) const;
     std::size_t hashOf(std::size_t line) const;
     bool readAlike(std::size_t first, std::size_t second) const;
     bool tellsApart(std::size_t column, const VorBomTypedValue& value) const;

@@ -6,9 +6,8 @@
 #include "ComparedList.h"
 
 #include "TemplateLevels.h"
+#include "TotalTokens.h"
 #include "Utf8.h"
-
-#include "VorBomDataToken.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -19,12 +18,6 @@ namespace mekbom
 namespace
 {
 const char kBetweenKeys = '\x1F'; // made for that, and so in no text of a parts list
-
-bool isTotal(const VorString& token)
-{
-    VorString summed;
-    return VorBomDataToken(token).getSummingRequest(summed) == 1;
-}
 
 // "%SortDescBy:%Length" -> "%Length"
 VorString withoutDirection(const VorString& request)
@@ -59,7 +52,7 @@ void ComparedList::findColumns(const EvaluatedReport& report)
         const ReportColumn& column = report.columns()[i];
         m_columns[i].heading = column.heading();
         m_columns[i].isCounted =
-            column.isNumeric && std::any_of(column.shownTokens.begin(), column.shownTokens.end(), isTotal);
+            column.isNumeric && std::any_of(column.shownTokens.begin(), column.shownTokens.end(), TotalTokens::isSum);
     }
     for (int level = 0; level < m_level; ++level)
         for (const int column : report.layout().section({ level, false }).columns)

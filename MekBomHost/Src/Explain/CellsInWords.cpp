@@ -9,6 +9,8 @@
 #include "InQuotes.h"
 #include "ListNumbers.h"
 #include "NumberInValue.h"
+#include "TotalInWords.h"
+#include "TotalTokens.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
@@ -104,9 +106,22 @@ std::string CellsInWords::computed(const Cell& cell, const VorBomDataRow& row) c
     return what + with + " is " + numbers.withUnit(cell.text) + "\n";
 }
 
+// "Length: the largest %Length of 12 rows is 6000 mm"
+std::string CellsInWords::otherTotal(const Cell& cell, const RowList& rows, const VorString& shown) const
+{
+    const ColumnStyle& style = *m_report.reportTemplate.styleOfTuple(cell.section, cell.tuple);
+    const ListNumbers numbers(m_report, cell.section, cell.tuple, cell.value, cell.column);
+    const std::string value = cell.text.empty() ? "not to be had" : numbers.withUnit(cell.text);
+    return cell.column.label + ": " + totalInWords(style.total, TotalTokens::datumOf(shown)) + ", over " +
+           std::to_string(rows.size()) + (rows.size() == 1 ? " row, is " : " rows, is ") + value + "\n";
+}
+
 // Only numbers are added up. A footer that shows a datum, or sums a text, has that of the last row counted.
 std::string CellsInWords::inFooter(const Cell& cell, const RowList& rows) const
 {
+    const VorString shown = m_report.reportTemplate.shownTokenOf(cell.section, cell.tuple);
+    if (TotalTokens::kindOf(shown) != ColumnTotal::kSum)
+        return otherTotal(cell, rows, shown);
     VorString token = cell.tupleInTemplate().token().token();
     const bool isSum = cell.tupleInTemplate().token().getSummingRequest(token) == 1;
     if (isSum && holdsNumber(cell.value.type))

@@ -50,6 +50,7 @@ private:
     std::string inHeader(const Cell& cell, const RowList& rows) const;
     std::string addedUp(const Cell& cell, const RowList& rows, const VorString& token, double start) const;
     std::string computed(const Cell& cell, const VorBomDataRow& row) const;
+    std::string otherTotal(const Cell& cell, const RowList& rows, const VorString& shown) const;
     std::string inFooter(const Cell& cell, const RowList& rows) const;
 
     const ExplainedReport& m_report;

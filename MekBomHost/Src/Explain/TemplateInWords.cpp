@@ -7,6 +7,8 @@
 #include "TemplateInWords.h"
 
 #include "InQuotes.h"
+#include "TotalInWords.h"
+#include "TotalTokens.h"
 #include "Utf8.h"
 #include "WordList.h"
 
@@ -107,7 +109,7 @@ std::string TemplateInWords::head() const
 
 std::string TemplateInWords::level(int level) const
 {
-    return "Level " + std::to_string(level) + ", " + whatItIs(level) + sorting(level) + "\n" +
+    return "Level " + std::to_string(level) + ", " + whatItIs(level) + sorting(level) + groupOrder(level) + "\n" +
            section({ level, false }) + section({ level, true });
 }
 
@@ -167,6 +169,15 @@ std::string TemplateInWords::order(const VorString& token) const
     }
 }
 
+// ", its groups in the order of %SumBy:%Weight, descending": as they are printed, once all rows have come.
+std::string TemplateInWords::groupOrder(int level) const
+{
+    const GroupOrderStyle& order = m_template.styleOf(m_levels.section({ level, false })).groupOrder;
+    if (order.by.isEmpty() == 1)
+        return std::string();
+    return ", its groups in the order of " + Utf8::toBytes(order.by) + ", " + kDirections[order.isDescending ? 0 : 1];
+}
+
 // Rows that agree in what this level and those around it group by stand together if the first sort keys are just these,
 // in whatever order: with groups by %Material and %Name, the keys %Name, %Material, %Length do, and %Length, %Material,
 // %Name do not.
@@ -222,6 +233,7 @@ std::vector<std::string> TemplateInWords::tuples(const VorBomTemplateItem& secti
     std::vector<std::string> shown;
     std::vector<std::string> computed;
     std::vector<std::string> summed;
+    std::vector<std::string> others;
     for (int i = 0; i < section.getData().length(); ++i)
     {
         const VorBomDataTuple& tuple = section.getData()[i];
@@ -231,7 +243,10 @@ std::vector<std::string> TemplateInWords::tuples(const VorBomTemplateItem& secti
         VorString sum;
         if (VorBomDataToken::isInvisibleToken(token) == 1)
             continue;
-        if (tuple.token().getSummingRequest(sum) == 1)
+        const VorString total = m_template.shownTokenOf(section, i);
+        if (place.isFooter && TotalTokens::kindOf(total) != ColumnTotal::kSum)
+            others.push_back(totalInWords(pStyle->total, TotalTokens::datumOf(total)) + hidden);
+        else if (tuple.token().getSummingRequest(sum) == 1)
         {
             const std::string start = Utf8::toBytes(tuple.value().asString());
             summed.push_back(readable(sum) + hidden + (start.empty() ? "" : ", from " + start));
@@ -249,6 +264,8 @@ std::vector<std::string> TemplateInWords::tuples(const VorBomTemplateItem& secti
     addUnlessEmpty(parts, place.isFooter ? "leaves " : "computes ", computed, place.isFooter ? " uncomputed" : "");
     for (const std::string& sum : summed)
         parts.push_back((place.isFooter ? "adds up " : "adds nothing to ") + sum);
+    for (const std::string& other : others)
+        parts.push_back("has " + other);
     return parts;
 }
 }

@@ -43,6 +43,7 @@ private:
     std::string level(int level) const;
     std::string whatItIs(int level) const;
     std::string sorting(int level) const;
+    std::string groupOrder(int level) const;
     std::string section(SectionPlace place) const;
     std::vector<std::string> tuples(const VorBomTemplateItem& section, SectionPlace place) const;
     std::string order(const VorString& token) const;

@@ -88,6 +88,8 @@ const FindingCode kCodes[] = {
     kColumnHasNoSuch,
     kMistakeUnknown,
     kHeadingOfNoToken,
+    kTotalOfNoSums,
+    kOrderOfNoTotal,
     kFileUnreadable,
     kTextIsNotUtf8,
     kTextHasZeroByte,

@@ -169,6 +169,11 @@ inline constexpr FindingCode kMistakeUnknown = { "MB817", kError,
                                                  "What is to be excused is no code of an author's mistake." };
 
 inline constexpr FindingCode kHeadingOfNoToken = { "MB818", kError, "A heading stands for what is no token of a row." };
+inline constexpr FindingCode kTotalOfNoSums = {
+    "MB819", kError, "A total is to be calculated from what is no total of its footer, or by what is no formula."
+};
+inline constexpr FindingCode kOrderOfNoTotal = { "MB820", kError,
+                                                 "Groups are to be in the order of what their footer does not total." };
 
 // Options, settings, units, and files as such.
 inline constexpr FindingCode kFileUnreadable = { "MB901", kError, "A file cannot be read." };

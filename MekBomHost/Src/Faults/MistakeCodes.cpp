@@ -41,6 +41,7 @@ const std::vector<FindingCode>& all()
         kTotalsLoseRows,
         kPiecesNotCounted,
         kSumOfRequest,
+        kTotalNotCalculated,
         kFormulaTooShort,
         kFormulaWithoutOperator,
         kFormulaOnlyInFooter,

@@ -89,6 +89,9 @@ inline constexpr FindingCode kPiecesNotCounted = {
     "MB308", Finding::kWarning, "A total adds once per row what is of one piece, or of a whole assembly."
 };
 inline constexpr FindingCode kSumOfRequest = { "MB309", Finding::kWarning, "A total sums what is a request itself." };
+inline constexpr FindingCode kTotalNotCalculated = {
+    "MB310", Finding::kWarning, "A total cannot be calculated from others: they are of unlike rows, or one is 0."
+};
 inline constexpr FindingCode kFormulaTooShort = { "MB401", Finding::kError,
                                                   "A formula of three characters or fewer is never computed." };
 inline constexpr FindingCode kFormulaWithoutOperator = { "MB402", Finding::kError,

@@ -2,8 +2,10 @@
 //
 //   RowTally      counts rows: those that are listed and those that are merged
 //   TotalsCheck   adds up every total a second time, if that is wanted
+//   OtherTotals   puts means and the like into footers, if a column wants them
 //   EqualLines    makes one line of those that read alike, if the template says "count"
 //   OverflowCheck looks for numbers that have become none
+//   GroupOrder    has groups printed in the order of a total, if a level wants that
 //   PackedSections, which keeps what is printed
 //
 // The chain is made from its end, as each sink is given the one that it hands on to. RowTally stands in front, because
@@ -15,6 +17,8 @@
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "FormulaResults.h"
+#include "GroupOrder.h"
+#include "OtherTotals.h"
 #include "OverflowCheck.h"
 #include "RowTally.h"
 #include "RowTree.h"
@@ -110,12 +114,19 @@ void Report::prepareNumbers()
 
 void Report::evaluateRows()
 {
+    std::optional<GroupOrder> order;
     std::optional<EqualLines> equalLines;
+    std::optional<OtherTotals> otherTotals;
     std::optional<TotalsCheck> check;
-    OverflowCheck overflows(m_template, m_sections);
-    VorBomSectionSink* pSink = &overflows;
+    VorBomSectionSink* pSink = &m_sections;
+    if (GroupOrder::isIn(m_template))
+        pSink = &order.emplace(m_template, m_sections);
+    OverflowCheck overflows(m_template, *pSink);
+    pSink = &overflows;
     if (m_template.equalLines == kCountEqualLines)
         pSink = &equalLines.emplace(m_template, *pSink);
+    if (OtherTotals::areIn(m_template))
+        pSink = &otherTotals.emplace(m_template, *pSink);
     if (m_checksTotals)
         pSink = &check.emplace(m_template, *pSink);
     RowTally tally(m_template, *pSink);
@@ -125,10 +136,19 @@ void Report::evaluateRows()
         equalLines->finish();
         m_facts.numRowsInOtherLines = equalLines->numRowsAdded();
     }
+    if (order)
+        order->finish();
     m_facts.rows = tally.counts();
     m_mistakes = overflows.findings();
     if (equalLines)
-        m_mistakes.insert(m_mistakes.end(), equalLines->findings().begin(), equalLines->findings().end());
+        addMistakes(equalLines->findings());
+    if (otherTotals)
+        addMistakes(otherTotals->findings());
+}
+
+void Report::addMistakes(const std::vector<Finding>& mistakes)
+{
+    m_mistakes.insert(m_mistakes.end(), mistakes.begin(), mistakes.end());
 }
 
 // Each row is replaced by its parts, filtered out, merged into the line of another one, or listed; of 8 rows

@@ -104,6 +104,7 @@ private:
     void prepareNumbers();
     void setOrders(const TokenQuantities& quantities);
     void evaluateRows();
+    void addMistakes(const std::vector<Finding>& mistakes);
     void checkRows() const;
 
     VorUnitsManager m_units;

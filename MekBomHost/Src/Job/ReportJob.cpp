@@ -24,6 +24,7 @@
 #include "InQuotes.h"
 #include "MistakeCodes.h"
 #include "NamedText.h"
+#include "OtherTotals.h"
 #include "PartsFormats.h"
 #include "PieceTokens.h"
 #include "RowsCheck.h"
@@ -381,6 +382,8 @@ void ReportJob::readRows()
         otherTokens.emplace_back(TokenNames::kWideParent);
     if (m_request.pieces.changePieces())
         otherTokens.emplace_back(TokenNames::kWidePieces);
+    if (OtherTotals::areIn(m_pReport->reportTemplate()))
+        otherTokens.emplace_back(TokenNames::kWidePieces); // means are those of pieces
     m_partsFacts = m_pParts->readRows(m_pReport->engineTemplate(), otherTokens);
     m_pReport->facts().areUnitsAssumed = m_pParts->assumesUnits();
     m_pReport->facts().numEmptyRows = m_partsFacts.numEmptyRows;

@@ -10,6 +10,7 @@
 #include "FindingCodes.h"
 #include "InQuotes.h"
 #include "MistakeCodes.h"
+#include "TotalTokens.h"
 #include "UnitChoice.h"
 #include "Utf8.h"
 
@@ -46,11 +47,20 @@ std::optional<Finding> errorOfUnit(const ReportColumn& column, const ColumnStyle
     return hasNone("unit", style.unit, "quantities");
 }
 
+bool showsOtherTotal(const ReportColumn& column)
+{
+    return std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
+                       [](const VorString& token) { return TotalTokens::kindOf(token) != ColumnTotal::kSum; });
+}
+
 bool showsFormula(const ReportColumn& column)
 {
     return std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
                        [](const VorString& token)
-                       { return VorBomDataToken::isFormula(TokenQuantities::datumOf(token)) == 1; });
+                       {
+                           return TotalTokens::kindOf(token) == ColumnTotal::kCalculated ||
+                                  VorBomDataToken::isFormula(TotalTokens::datumOf(token)) == 1;
+                       });
 }
 
 // The heading would name two units: "Cost [EUR] [kg]", or "Cost [EUR] [USD]". Numbers of the data may have words such as "[net]" in brackets;
@@ -99,6 +109,9 @@ std::vector<Finding> errorsOf(const ReportTemplate& reportTemplate, const Report
             add(findings, *labelError, *pStyle, "label");
         if (!pStyle->result.empty() && !showsFormula(column))
             add(findings, hasNone("result", pStyle->result, "formulas"), *pStyle, "result");
+        if (pStyle->total.kind != ColumnTotal::kSum && !showsOtherTotal(column))
+            add(findings, hasNone("total", ColumnTotal::nameOf(pStyle->total.kind), "columns with a total in a footer"),
+                *pStyle, "total");
     }
     return findings;
 }

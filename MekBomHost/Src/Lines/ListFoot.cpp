@@ -7,11 +7,17 @@
 
 #include "InQuotes.h"
 #include "NumberText.h"
+#include "TemplateLevels.h"
+#include "TotalInWords.h"
+#include "TotalTokens.h"
 #include "Utf8.h"
 
 #include "VorBomNumberFormat.h"
 
 #include "MekRoots/Exp/VorCharacters.h"
+
+#include <set>
+#include <utility>
 
 namespace mekbom
 {
@@ -83,6 +89,32 @@ ListFoot::ListFoot(const ListFacts& facts, const ReportTemplate& reportTemplate,
         if (total.isOutermost)
             totals.push_back({ column.label, total.numRows });
     }
+    addOtherTotals(reportTemplate, layout);
+}
+
+// Whoever sees a number in the line of totals takes it for a sum. What several levels show is told once.
+void ListFoot::addOtherTotals(const ReportTemplate& reportTemplate, const ReportLayout& layout)
+{
+    std::set<std::pair<std::string, std::string>> told;
+    const TemplateLevels levels(*reportTemplate.pTemplate);
+    for (int level = 0; level < levels.count(); ++level)
+    {
+        const VorBomTemplateItem* const pFooter = levels.section({ level, true });
+        const std::vector<int> tuples =
+            pFooter == nullptr ? std::vector<int>() : reportTemplate.shownTuplesOf(*pFooter);
+        for (std::size_t i = 0; i < tuples.size(); ++i)
+        {
+            const VorString shown = reportTemplate.shownTokenOf(*pFooter, tuples[i]);
+            if (TotalTokens::kindOf(shown) == ColumnTotal::kSum)
+                continue;
+            const int column = layout.section({ level, true }).columns[i];
+            const std::string& label = layout.columns()[static_cast<std::size_t>(column)].label;
+            const ColumnTotal& total = reportTemplate.styleOfTuple(*pFooter, tuples[i])->total;
+            const std::string what = totalInWords(total, TotalTokens::datumOf(shown));
+            if (told.emplace(label, what).second)
+                otherTotals.push_back({ label, what });
+        }
+    }
 }
 
 // What rows became comes first, then what is missing from totals, then what was assumed of the file: from what changes
@@ -100,6 +132,8 @@ std::vector<std::string> ListFoot::lines() const
     for (const Total& total : totals)
         if (total.numRows < numListed)
             all.push_back(total.label + ": " + std::to_string(total.numRows) + " of " + rowsText(numListed));
+    for (const Other& total : otherTotals)
+        all.push_back(total.label + ": totals show " + total.what);
     if (numEmptyRows > 0)
         all.push_back(rowsText(numEmptyRows) + " without any cell passed over");
     if (countsRowsAsPieces)

@@ -6,6 +6,7 @@
 //   417 rows read, 12 filtered out by "%Material = 'S355'", 5 merged into equal lines, 400 listed
 //   Merged rows are in no total: Weight 37.5 kg
 //   Weight: 120 of 400 rows
+//   Length: totals show the largest %Length
 //   Lengths and weights without a unit were read as mm and kg
 //   2 warnings
 //
@@ -40,6 +41,13 @@ struct ListFoot
         int numRows = 0;   // that have the value
     };
 
+    // What totals show that are no sums.
+    struct Other
+    {
+        std::string label; // as above
+        std::string what;  // "the mean %Length of all pieces"
+    };
+
     // An empty foot, of which there are no lines: nobody has counted.
     ListFoot() = default;
 
@@ -62,6 +70,7 @@ struct ListFoot
     int numListed = 0;               // rows that have a line, their own or one that counts them
     int numLines = 0;                // these lines, whether they are printed or not
     std::vector<Total> totals;       // of the outermost footer that prints any
+    std::vector<Other> otherTotals;  // columns whose totals are no sums
     int numEmptyRows = 0;            // passed over, and not among those read
     bool countsRowsAsPieces = false; // the data say of no row how many pieces it stands for, and totals are printed
     bool areUnitsAssumed = false;
@@ -69,6 +78,7 @@ struct ListFoot
     std::vector<std::string> statements; // whole sentences, in place of all this
 
 private:
+    void addOtherTotals(const ReportTemplate& reportTemplate, const ReportLayout& layout);
     std::string rowsLine() const;
 };
 }

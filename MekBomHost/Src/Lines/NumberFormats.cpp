@@ -8,6 +8,7 @@
 #include "NumberText.h"
 #include "PlainNumber.h"
 #include "QuantityNumber.h"
+#include "TotalTokens.h"
 
 #include "VorBomDataToken.h"
 
@@ -31,10 +32,12 @@ struct ShownTuple
     bool hasHeading;           // it is in the table, and the heading of its column names the unit
 };
 
-bool isSum(const VorString& token)
+// Whether it has more decimals than what it is made of.
+bool isComputed(const VorString& token)
 {
-    VorString summed;
-    return VorBomDataToken(token).getSummingRequest(summed) == 1;
+    const ColumnTotal::eKind total = TotalTokens::kindOf(token);
+    return total == ColumnTotal::kMean || total == ColumnTotal::kCalculated ||
+           VorBomDataToken::isFormula(TotalTokens::datumOf(token)) == 1;
 }
 
 // Goes over all rows: once for each token whose plain numbers are totalled, not for each line.
@@ -95,7 +98,7 @@ private:
     {
         const VorBomDataValue::eBomDataValueType type = m_quantities.typeOf(tuple.token);
         const bool isStyled = tuple.pStyle != nullptr && (tuple.pStyle->decimals >= 0 || tuple.pStyle->hasThousands);
-        const bool isWhole = type == VorBomDataValue::kIntData && !isSum(tuple.token);
+        const bool isWhole = type == VorBomDataValue::kIntData && !TotalTokens::isSum(tuple.token);
         if (type == VorBomDataValue::kStringData || (isWhole && !isStyled))
             return nullptr;
         return std::make_unique<PlainNumber>(styleOf(tuple), tuple.hasHeading ? std::string() : label);
@@ -106,16 +109,15 @@ private:
     {
         NumberStyle style;
         style.hasThousands = tuple.pStyle != nullptr && tuple.pStyle->hasThousands;
-        const VorString datum = TokenQuantities::datumOf(tuple.token);
         if (tuple.pStyle != nullptr && tuple.pStyle->decimals >= 0)
         {
             style.decimals = tuple.pStyle->decimals;
             style.keepsZeros = true;
         }
-        else if (VorBomDataToken::isFormula(datum) == 1)
+        else if (isComputed(tuple.token))
             style.decimals = kDecimalsOfFormulas;
-        else if (isSum(tuple.token))
-            style.decimals = decimalsOf(datum);
+        else if (TotalTokens::isSum(tuple.token))
+            style.decimals = decimalsOf(TotalTokens::datumOf(tuple.token));
         return style;
     }
 
@@ -163,7 +165,7 @@ std::vector<ShownTuple> tuplesOf(const ReportTemplate& reportTemplate, const Vor
     {
         const auto index = static_cast<int>(i);
         const ReportColumn* const pColumn = columns[i];
-        tuples.push_back({ section.getData()[index].token().token(),
+        tuples.push_back({ reportTemplate.shownTokenOf(section, index),
                            pColumn == nullptr ? reportTemplate.styleOfTuple(section, index)
                                               : reportTemplate.columnStyleOf(pColumn->token),
                            pColumn == nullptr || !pColumn->unitSymbol.empty() });

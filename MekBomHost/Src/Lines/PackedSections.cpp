@@ -136,6 +136,7 @@ bool PackedSections::take(Kept& kept, const VorBomReportSection& section, bool i
     if (!kept.hasLine)
         return false;
     kept.isTaken = true;
+    ++m_numSections;
     append(SectionPlace{ section.level, isFooter });
     const VorBomDataTuple* const pTuples = section.section.getData().begin();
     for (std::size_t i = 0; i < kept.tuples.size(); ++i)
@@ -249,12 +250,18 @@ const char* PackedSections::endOf(std::size_t page) const
     return page + 1 == m_pages.size() ? m_pNext : m_pages[page].pEnd;
 }
 
+PackedSections::Position PackedSections::end() const
+{
+    return { m_numSections, m_pages.empty() ? 0 : m_pages.size() - 1, m_pNext };
+}
+
 // Sections say nothing of their length: the next one is found because all of the one before has been read.
 bool PackedSections::Reader::nextSection(SectionPlace& place)
 {
+    while (m_numSections == m_rangeEnd)
+        if (!turnToNextRange())
+            return false;
     turnPages();
-    if (m_pNext == m_pPageEnd)
-        return false;
     ++m_numSections;
     const Number first = takeByte();
     place = placeOf(first != kOther ? first : takeNumber());
@@ -267,6 +274,22 @@ bool PackedSections::Reader::nextSection(SectionPlace& place)
 RowList PackedSections::Reader::rows() const
 {
     return m_sections.m_contents.rows ? m_sections.m_rows.list(m_numSections - 1) : RowList();
+}
+
+bool PackedSections::Reader::turnToNextRange()
+{
+    if (m_numRanges == m_sections.m_order.size())
+        return false;
+    const Range& range = m_sections.m_order[m_numRanges++];
+    m_numSections = range.begin.numSections;
+    m_rangeEnd = range.end;
+    m_numPagesTurned = range.begin.page;
+    m_pNext = m_pPageEnd = nullptr; // so that the page is turned to
+    if (range.begin.pNext == nullptr)
+        return true;
+    m_pNext = range.begin.pNext;
+    m_pPageEnd = m_sections.endOf(m_numPagesTurned++);
+    return true;
 }
 
 // A value begins wherever the text before it ends, so it is copied and not pointed at: its address need not be aligned.

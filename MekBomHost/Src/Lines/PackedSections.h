@@ -32,6 +32,7 @@
 #include <cstring>
 #include <memory>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace mekbom
@@ -81,6 +82,28 @@ public:
     void takeHeader(const VorBomReportSection& header) override;
     void takeFooter(const VorBomReportSection& footer) override;
     void takeMergedRow(const VorBomDataRow& row) override;
+
+    // A place between two sections.
+    struct Position
+    {
+        std::size_t numSections = 0; // before it
+        std::size_t page = 0;        // that holds the section behind it, or a later one does
+        const char* pNext = nullptr; // in that page; null for its begin
+    };
+
+    // Sections that follow each other, up to the one that `end` are before.
+    struct Range
+    {
+        Position begin;
+        std::size_t end;
+    };
+
+    // The place behind all sections taken until now.
+    Position end() const;
+
+    // Has the sections read in another order than they were taken in. Together the ranges have each section once. To be
+    // called when the last section has been taken.
+    void setOrder(std::vector<Range> ranges) { m_order = std::move(ranges); }
 
     // What is kept beside the texts.
     LineContents contents() const { return m_contents; }
@@ -138,8 +161,10 @@ private:
     LineContents m_contents;
     std::vector<Kept> m_headers; // by level
     std::vector<Kept> m_footers;
-    bool m_isLastPacked = false; // the section handed over last has a line
-    SectionRows m_rows;          // of each section packed, when they are asked for
+    bool m_isLastPacked = false;   // the section handed over last has a line
+    std::size_t m_numSections = 0; // that have one
+    std::vector<Range> m_order;    // in which they are read; without any, in that in which they came
+    SectionRows m_rows;            // of each section packed, when they are asked for
     std::vector<Page> m_pages;
     char* m_pNext = nullptr; // the rest of the last page
     char* m_pPageEnd = nullptr;
@@ -150,7 +175,10 @@ private:
 class PackedSections::Reader
 {
 public:
-    explicit Reader(const PackedSections& sections) : m_sections(sections) {}
+    explicit Reader(const PackedSections& sections)
+        : m_sections(sections), m_rangeEnd(sections.m_order.empty() ? sections.m_numSections : 0)
+    {
+    }
 
     // The next section with a line; false at the end. All texts of the one before must have been read, and its values
     // where there are any.
@@ -185,6 +213,7 @@ public:
 
 private:
     void turnPages();
+    bool turnToNextRange();
     const char* take(std::size_t size)
     {
         const char* const pTaken = m_pNext;
@@ -202,7 +231,9 @@ private:
     const PackedSections& m_sections;
     const RepeatedTexts* m_pRepeatedTexts = nullptr; // of the text to be read next
     std::size_t m_numTexts = 0;
-    std::size_t m_numSections = 0; // read so far, with the one that is being read
+    std::size_t m_numSections = 0; // that were taken before the next one to be read
+    std::size_t m_rangeEnd;        // how many were taken before the range being read ends
+    std::size_t m_numRanges = 0;   // read so far, with the one that is being read
     const char* m_pNext = nullptr; // the rest of the page being read
     const char* m_pPageEnd = nullptr;
     std::size_t m_numPagesTurned = 0;

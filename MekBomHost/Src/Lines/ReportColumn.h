@@ -5,6 +5,7 @@
 #pragma once
 
 #include "ColumnNumbers.h"
+#include "ColumnTotal.h"
 #include "LabelUnit.h"
 #include "UnitKinds.h"
 
@@ -38,6 +39,8 @@ struct ReportColumn
 
     VorString token;                    // the column's name: no other column has it unless a section shows it twice
     std::vector<VorString> shownTokens; // of the tuples that are shown in it, as the sections come
+
+    ColumnTotal::eKind total = ColumnTotal::kSum; // what its totals are, other than sums
 
     std::string label;                   // UTF-8: the template's, else the token's name or formula
     const UnitKind* pUnitKind = nullptr; // of its numbers; null where they have no unit or not all the same

@@ -11,6 +11,7 @@
 
 #include "ColumnUnit.h"
 #include "FormulaResults.h"
+#include "TotalTokens.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
@@ -27,10 +28,19 @@ namespace
 // "%Weight" -> "Weight", "%Formula:%Length/1000" -> "%Length/1000"
 std::string labelOf(const VorString& token)
 {
-    VorString label = TokenQuantities::datumOf(token);
+    VorString label = TotalTokens::datumOf(token);
     if (VorBomDataToken::removeFormulaPrefix(label) == 0 && label.find(VorBomDataToken::kTokenPrefix, 0) == 0)
         label = label.right(label.length() - 1);
     return Utf8::toBytes(label);
+}
+
+// " (max)" for a column of the greatest lengths alone: "Length" would be taken for one of sums.
+std::string kindOfTotals(const ReportColumn& column)
+{
+    if (column.shownTokens.empty())
+        return std::string();
+    const ColumnTotal::eKind kind = TotalTokens::kindOf(column.shownTokens.front()); // of a header, where any shows it
+    return kind == ColumnTotal::kSum ? std::string() : std::string(" (") + ColumnTotal::nameOf(kind) + ")";
 }
 
 bool isOfPage(const VorBomItemBase& section)
@@ -68,6 +78,9 @@ void describeContent(ReportColumn& column, const TokenQuantities& quantities, co
     column.isNumeric = !column.shownTokens.empty() && quantities.isNumeric(column.shownTokens.front());
     column.hasNumbers = std::any_of(column.shownTokens.begin(), column.shownTokens.end(),
                                     [&quantities](const VorString& token) { return quantities.isNumeric(token); });
+    for (const VorString& token : column.shownTokens)
+        if (TotalTokens::kindOf(token) != ColumnTotal::kSum)
+            column.total = TotalTokens::kindOf(token);
     const Measure measure = quantities.commonMeasureOf(column.shownTokens);
     column.pUnitKind = measure.pKind;
     column.numbers = ColumnNumbers(pStyle, units, measure.pKind);
@@ -84,7 +97,7 @@ void describeContent(ReportColumn& column, const TokenQuantities& quantities, co
 
 void describeLook(ReportColumn& column, const ColumnStyle* pStyle)
 {
-    column.label = labelOf(column.token);
+    column.label = labelOf(column.token) + kindOfTotals(column);
     column.isAlignedRight = column.isNumeric;
     if (pStyle == nullptr)
         return;
@@ -140,7 +153,7 @@ SectionLayout ReportLayout::layOut(const ReportTemplate& reportTemplate, const V
     std::set<int> taken;
     for (const int tupleIndex : reportTemplate.shownTuplesOf(*pSection))
     {
-        const VorString& token = pSection->getData()[tupleIndex].token().token();
+        const VorString token = reportTemplate.shownTokenOf(*pSection, tupleIndex);
         const int column = columnFor(reportTemplate.columnTokenOf(*pSection, tupleIndex), token, taken);
         taken.insert(column);
         m_columns[static_cast<std::size_t>(column)].shownTokens.push_back(token);

@@ -13,6 +13,9 @@ std::string summing(const Tuples& footer)
 
 const char* const kFormula = "%Formula:%Weight*%Quantity";
 const char* const kPieces = "%PNum,%Material,%Weight [kg],%Quantity\n";
+const char* const kPrices = "%PNum,%Material,%Weight [kg],%Price\nP1,S235,5,10\n";
+const char* const kRate = R"("tokens": { "%Price": "number" }, "allow": { "MB504": "EUR" }, "columns": [ { "token": "%SumBy:%Price", "label": "Rate",
+    "result": "EUR/kg", "total": { "formula": "%C/%W", "of": { "%C": "%SumBy:%Price", "%W": "%SumBy:%Weight" } } } ])";
 const char* const kAlike = "%Name,%Material,%Weight [kg]\nHEA200,S235,10\n";
 }
 
@@ -65,6 +68,14 @@ std::vector<Mistake> ofSums()
           kPieces + std::string("P1,S235,10,4\n") },
         { &MistakeCodes::kSumOfRequest, "%SumBy:%SumBy:..., %SumBy:%GroupBy:...", "No row has such a token.",
           "Write one %SumBy: and one token.", summing({ "%SumBy:%SumBy:%Weight" }), summing(kWeights) },
+        { &MistakeCodes::kTotalNotCalculated,
+          "\"total\": { \"formula\": \"%C/%W\" ... } over costs of fewer rows than weights",
+          "Costs of ten rows by the weights of twelve are no price: such a total is left empty, and so is one that "
+          "divides by 0.",
+          "Fill the gaps in the data, or leave out the rows that have them.",
+          groupedList(kByMaterial, { "%PNum" }, { "%SumBy:%Price", "%SumBy:%Weight" }, kRate),
+          groupedList(kByMaterial, { "%PNum" }, { "%SumBy:%Price", "%SumBy:%Weight" }, kRate),
+          kPrices + std::string("P2,S235,10,\n"), kPrices + std::string("P2,S235,10,30\n") },
     };
 }
 }

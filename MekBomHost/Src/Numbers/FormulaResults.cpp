@@ -10,7 +10,7 @@
 #include "InQuotes.h"
 #include "LabelUnit.h"
 #include "MistakeCodes.h"
-#include "TokenQuantities.h"
+#include "TotalTokens.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 
@@ -26,7 +26,7 @@ namespace
 // The text of a formula or of the formula that is summed; empty for any other token.
 VorString formulaOf(const VorString& token)
 {
-    VorString formula = TokenQuantities::datumOf(token);
+    VorString formula = TotalTokens::datumOf(token);
     return VorBomDataToken::removeFormulaPrefix(formula) == 1 ? formula : VorString();
 }
 
@@ -70,6 +70,9 @@ FormulaResults::FormulaResults(const ReportTemplate& reportTemplate)
             if (formula.isEmpty() == 0)
                 add(reportTemplate, formula, reportTemplate.placeOfTuple(*pSection, i));
         }
+    for (const ColumnStyle& style : reportTemplate.columns)
+        if (style.total.kind == ColumnTotal::kCalculated)
+            addTotal(reportTemplate, style);
 }
 
 // A column that shows a formula on several levels says it once.
@@ -122,7 +125,35 @@ void FormulaResults::add(const ReportTemplate& reportTemplate, const VorString& 
         return;
     declareByUnits(reportTemplate, formula);
     const auto operands = [&reportTemplate](const VorString& operand) { return operandOf(reportTemplate, operand); };
-    m_entries.push_back({ formula, FormulaResult::of(formula, operands, declaredFor(Utf8::toBytes(formula))), place });
+    m_entries.push_back(
+        { formula, formula, FormulaResult::of(formula, operands, declaredFor(Utf8::toBytes(formula))), place });
+}
+
+// Comes behind all formulas of rows, which it may be about.
+void FormulaResults::addTotal(const ReportTemplate& reportTemplate, const ColumnStyle& style)
+{
+    bool isNew = false;
+    const VorString token = TotalTokens::of(style.total, style.token, style.token);
+    m_indices.findOrInsert(token, static_cast<int>(m_entries.size()), isNew);
+    const auto operands = [&](const VorString& name) { return operandOfTotal(reportTemplate, style.total, name); };
+    const VorString& formula = style.total.formula;
+    m_entries.push_back({ token, formula, FormulaResult::of(formula, operands, resultOf(style)), style.place });
+}
+
+// A total measures what it sums. Of a formula that is no quantity nobody knows in which unit it is: only its author.
+FormulaOperand FormulaResults::operandOfTotal(const ReportTemplate& reportTemplate, const ColumnTotal& total,
+                                              const VorString& name) const
+{
+    for (const ColumnTotal::Operand& operand : total.operands)
+        if (operand.name == name)
+        {
+            const FormulaResult* const pResult = find(operand.sum);
+            if (pResult == nullptr)
+                return operandOf(reportTemplate, TotalTokens::datumOf(operand.sum));
+            return pResult->measure == FormulaResult::kKind ? FormulaOperand::ofType(pResult->kind)
+                                                            : FormulaOperand{ FormulaOperand::kOwnUnit };
+        }
+    return FormulaOperand();
 }
 
 // The catalogue comes first. What it does not know is a number of the user's own, unless the template says that it is a
@@ -140,7 +171,7 @@ FormulaOperand FormulaResults::operandOf(const ReportTemplate& reportTemplate, c
 
 const FormulaResult* FormulaResults::find(const VorString& token) const
 {
-    const VorString formula = formulaOf(token);
+    const VorString formula = TotalTokens::kindOf(token) == ColumnTotal::kCalculated ? token : formulaOf(token);
     const auto* const pNode = formula.isEmpty() == 1 ? nullptr : m_indices.find(formula);
     return pNode == nullptr ? nullptr : &m_entries[static_cast<std::size_t>(pNode->value)].result;
 }
@@ -154,7 +185,7 @@ std::string FormulaResults::declaredFor(const std::string& formula) const
 void FormulaResults::registerWith(VorBomTemplateUnits& units) const
 {
     for (const Entry& entry : m_entries)
-        units.AddTokenType(entry.formula, entry.result.kind);
+        units.AddTokenType(entry.token, entry.result.kind);
 }
 
 std::vector<Finding> FormulaResults::undeclared() const

@@ -36,7 +36,12 @@ public:
     // when it says nothing.
     static FormulaOperand operandOf(const ReportTemplate& reportTemplate, const VorString& name);
 
-    // Of "%Formula:..." or its total; null for any other token and for a formula that the template has not.
+    // What a name in a formula over totals stands for: what the sum of that name measures.
+    FormulaOperand operandOfTotal(const ReportTemplate& reportTemplate, const ColumnTotal& total,
+                                  const VorString& name) const;
+
+    // Of "%Formula:..." or its total, and of a total that is calculated, "%TotalIn:..."; null for any other token and for
+    // a formula that the template has not.
     const FormulaResult* find(const VorString& token) const;
 
     // What a column or "tokenUnits" says that the formula gives, by the text without prefixes; empty where none does.
@@ -53,6 +58,7 @@ public:
 private:
     struct Entry
     {
+        VorString token;   // that its kind is registered for: the formula's text, or that of a calculated total
         VorString formula; // without prefixes
         FormulaResult result;
         TemplatePlace place; // of the first tuple that shows it
@@ -69,9 +75,10 @@ private:
     void declareByUnits(const ReportTemplate& reportTemplate, const VorString& formula);
     void declare(const std::string& formula, const Declaration& declaration, const TemplatePlace& place);
     void add(const ReportTemplate& reportTemplate, const VorString& formula, const TemplatePlace& place);
+    void addTotal(const ReportTemplate& reportTemplate, const ColumnStyle& style);
 
     std::vector<Entry> m_entries;                  // as the sections name them
-    VorStringHashMap<int> m_indices;               // by formula
+    VorStringHashMap<int> m_indices;               // by formula, or by the token of a calculated total
     std::map<std::string, Declaration> m_declared; // by formula; of several the first
     std::vector<Finding> m_conflicts;              // of those that say something else
 };

@@ -6,6 +6,8 @@
 //     kind        the one that the template registers for it; none for texts and whole numbers
 #include "TokenQuantities.h"
 
+#include "TotalTokens.h"
+
 #include "VorBomDataToken.h"
 #include "VorBomDataTuple.h"
 #include "VorBomTokenCatalogue.h"
@@ -25,16 +27,13 @@ TokenQuantities::TokenQuantities(const VorBomData& data, const VorBomTemplateUni
         m_typesInFirstRow.findOrInsert(tuple.token().token(), tuple.value().type(), isFirst);
 }
 
-VorString TokenQuantities::datumOf(const VorString& token)
-{
-    VorString summed;
-    return VorBomDataToken(token).getSummingRequest(summed) == 1 ? summed : token;
-}
-
 VorBomDataValue::eBomDataValueType TokenQuantities::typeOf(const VorString& token) const
 {
-    const VorString datum = datumOf(token);
-    if (VorBomDataToken::isFormula(datum) == 1)
+    const ColumnTotal::eKind total = TotalTokens::kindOf(token);
+    if (total == ColumnTotal::kCount)
+        return VorBomDataValue::kIntData;
+    const VorString datum = TotalTokens::datumOf(token);
+    if (total == ColumnTotal::kMean || total == ColumnTotal::kCalculated || VorBomDataToken::isFormula(datum) == 1)
         return VorBomDataValue::kDoubleData;
     const VorBomTokenCatalogue::Entry* const pEntry = VorBomTokenCatalogue::find(datum);
     return pEntry != nullptr ? pEntry->type : typeOfDatum(datum);
@@ -55,8 +54,10 @@ bool TokenQuantities::isNumeric(const VorString& token) const
 
 Units::eTokenUnitType TokenQuantities::unitTypeOf(const VorString& token) const
 {
+    if (TotalTokens::kindOf(token) == ColumnTotal::kCount)
+        return Units::kNoUnit;
     const FormulaResult* const pResult = m_formulas.find(token);
-    return pResult != nullptr ? pResult->kind : m_tokenUnits.getUnitType(datumOf(token));
+    return pResult != nullptr ? pResult->kind : m_tokenUnits.getUnitType(TotalTokens::datumOf(token));
 }
 
 // A token that no row has may have a unit all the same.
@@ -69,7 +70,8 @@ const UnitKind* TokenQuantities::kindOf(const VorString& token) const
 
 Measure TokenQuantities::measureOf(const VorString& token) const
 {
-    const FormulaResult* const pResult = m_formulas.find(token);
+    const FormulaResult* const pResult =
+        TotalTokens::kindOf(token) == ColumnTotal::kCount ? nullptr : m_formulas.find(token);
     return { kindOf(token), pResult != nullptr ? pResult->label : std::string() };
 }
 

@@ -5,6 +5,7 @@
 //   quantities.kindOf(L"%Weight")->name;                          // "weight"
 //   quantities.kindOf(L"%Formula:%Weight/%Length")->name;         // "weight-per-length"
 //   quantities.measureOf(L"%Formula:%Weight*%Price").label;       // "EUR", when the formula's column says so
+//   quantities.typeOf(L"%CountBy:%Weight");                       // kIntData: totals that are no sums count, too
 #pragma once
 
 #include "FormulaResults.h"
@@ -36,10 +37,6 @@ class TokenQuantities
 public:
     // None of the three is owned; all must outlive this object, and the rows stay as they are meanwhile.
     TokenQuantities(const VorBomData& data, const VorBomTemplateUnits& tokenUnits, const FormulaResults& formulas);
-
-    // The token that a total sums; any other token as it is.
-    //   "%SumBy:%Weight"  ->  "%Weight"
-    static VorString datumOf(const VorString& token);
 
     // The type that the datum has in the first row that has it; kUnknownData when none has.
     static VorBomDataValue::eBomDataValueType typeInRows(const VorBomData& data, const VorString& datum);

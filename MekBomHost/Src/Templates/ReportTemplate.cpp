@@ -3,6 +3,7 @@
 // below the weights, in column "%Weight", and "%GroupBy:%Name" only steers and stands nowhere.
 #include "ReportTemplate.h"
 
+#include "TotalTokens.h"
 #include "Utf8.h"
 
 #include "VorBomDataToken.h"
@@ -34,6 +35,14 @@ VorString ReportTemplate::columnTokenOf(const VorBomItemBase& section, int tuple
     if (columnStyleOf(token.token()) != nullptr || token.getSummingRequest(summed) == 0)
         return token.token();
     return summed;
+}
+
+VorString ReportTemplate::shownTokenOf(const VorBomItemBase& section, int tupleIndex) const
+{
+    const VorString& token = section.getData()[tupleIndex].token().token();
+    const ColumnStyle* const pStyle = styleOfTuple(section, tupleIndex);
+    return pStyle != nullptr && TotalTokens::isSum(token) ? TotalTokens::of(pStyle->total, pStyle->token, token)
+                                                          : token;
 }
 
 bool ReportTemplate::addColumn(const ColumnStyle& style)

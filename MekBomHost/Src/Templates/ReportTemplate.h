@@ -9,6 +9,7 @@
 // long as the sections that the file gave stay where they are.
 #pragma once
 
+#include "ColumnTotal.h"
 #include "RowFilter.h"
 #include "TextPlace.h"
 
@@ -63,7 +64,15 @@ struct ColumnStyle
     std::string result;    // what a formula gives: a kind ("weight"), "none", or a label of its own ("EUR"); empty
                            // where that follows from the formula's tokens
     bool isHidden = false; // the column is not printed, and tells lines apart all the same
+    ColumnTotal total;     // what footers show in it
     TemplatePlace place;
+};
+
+// In which order the groups of a level are printed.
+struct GroupOrderStyle
+{
+    VorString by;              // the total in their footer that decides; empty for the order of the engine
+    bool isDescending = false; // the greatest total comes first
 };
 
 // How the lines of one section are to look.
@@ -72,7 +81,8 @@ struct SectionStyle
     bool isPrinted = true;
     std::string label;                   // stands in the first column that the line leaves empty
     std::vector<VorString> columnTokens; // for each tuple the column that the file names; empty texts for the usual one
-    bool isSummary = false; // its groups are printed without the lines below them, which isPrinted says too
+    bool isSummary = false;     // its groups are printed without the lines below them, which isPrinted says too
+    GroupOrderStyle groupOrder; // of a header
     TemplatePlace place;
     std::vector<TemplatePlace> tuplePlaces; // of each tuple
 };
@@ -119,6 +129,10 @@ struct ReportTemplate
     //   "%Weight"         ->  "%Weight"
     //   "%SumBy:%Weight"  ->  "%Weight", unless there is a column "%SumBy:%Weight"
     VorString columnTokenOf(const VorBomItemBase& section, int tupleIndex) const;
+
+    // What the tuple shows in that column: its token, or for a total that is no sum the one of TotalTokens.
+    //   "%SumBy:%Weight" in a column that says "total": "mean"  ->  "%MeanBy:%Weight"
+    VorString shownTokenOf(const VorBomItemBase& section, int tupleIndex) const;
 
     // The style of the column with that token; null when the template describes none.
     const ColumnStyle* columnStyleOf(const VorString& columnToken) const;

@@ -9,6 +9,7 @@
 #include "InQuotes.h"
 #include "JsonReader.h"
 #include "MistakeCodes.h"
+#include "TotalReader.h"
 #include "UnitKinds.h"
 #include "Utf8.h"
 
@@ -112,6 +113,7 @@ ReportTemplate TemplateReader::build(const JsonNode& root)
     m_json.throwIfAnyError();
     summarize();
     checkColumns(item);
+    TotalReader::checkSums(m_json, m_template);
     m_json.throwIfAnyError();
     return std::move(m_template);
 }
@@ -197,7 +199,7 @@ void TemplateReader::readColumns(const JsonItem& root)
 {
     for (const JsonItem& column : m_json.elementsOf(root, "columns"))
         if (m_json.isObjectOf(column, { "token", "label", "width", "align", "unit", "decimals", "thousands", "order",
-                                        "result", "hidden" }))
+                                        "result", "total", "hidden" }))
             readColumn(column);
 }
 
@@ -216,6 +218,7 @@ void TemplateReader::readColumn(const JsonItem& column)
     style.hasThousands = m_json.booleanOf(column, "thousands", false);
     readChoice(m_json, column, "order", kOrders, style.order);
     style.result = m_json.textOf(column, "result");
+    style.total = TotalReader::totalOf(m_json, column);
     style.isHidden = m_json.booleanOf(column, "hidden", false);
     style.place = { column.path, column.node.span };
     if (!m_template.addColumn(style))
@@ -227,7 +230,7 @@ void TemplateReader::readColumn(const JsonItem& column)
 void TemplateReader::readSections(const JsonItem& parent, const std::string& key, VorBomItemBase& parentItem)
 {
     for (const JsonItem& section : m_json.elementsOf(parent, key))
-        if (m_json.isObjectOf(section, { "type", "print", "label", "summary", "tuples", "children" }))
+        if (m_json.isObjectOf(section, { "type", "print", "label", "summary", "orderGroups", "tuples", "children" }))
             readSection(section, parentItem);
 }
 
@@ -244,6 +247,7 @@ void TemplateReader::readSection(const JsonItem& section, VorBomItemBase& parent
     style.isPrinted = m_json.booleanOf(section, "print", true);
     style.label = m_json.textOf(section, "label");
     style.isSummary = m_json.booleanOf(section, "summary", false);
+    style.groupOrder = TotalReader::groupOrderOf(m_json, section);
     style.place = { section.path, section.node.span };
     for (const JsonItem& tuple : m_json.elementsOf(section, "tuples"))
         if (m_json.isObjectOf(tuple, { "token", "value", "column" }))

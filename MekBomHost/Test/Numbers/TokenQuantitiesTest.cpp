@@ -103,11 +103,11 @@ TEST(TokenQuantitiesTest, AColumnOfSeveralMeasuresNamesNone)
     EXPECT_EQ("", measureOver({ L"%Formula:%Weight*%Price", L"%Formula:%Length/1000" }));
 }
 
-TEST(TokenQuantitiesTest, ATotalIsOfWhatItSums)
+TEST(TokenQuantitiesTest, TotalsThatAreNoSumsMeasureWhatTheyAreAbout)
 {
-    EXPECT_TRUE(TokenQuantities::datumOf(L"%SumBy:%Weight") == VorString(L"%Weight"));
-    EXPECT_TRUE(TokenQuantities::datumOf(L"%Weight") == VorString(L"%Weight"));
-    EXPECT_TRUE(TokenQuantities::datumOf(L"%SumBy:%Formula:%A*2") == VorString(L"%Formula:%A*2"));
+    EXPECT_EQ("weight", measureOver({ L"%Weight", L"%MeanBy:%Weight" }));
+    EXPECT_EQ("", measureOver({ L"%Weight", L"%CountBy:%Weight" }));
+    EXPECT_EQ("", measureOver({ L"%CountBy:%Weight" }));
 }
 
 TEST(TokenQuantitiesTest, TypesAreThoseOfTheCatalogueOrTheFirstRowWithTheDatum)

@@ -94,6 +94,11 @@ TEST(ListFolderTest, TheHallPrintsInImperialUnits)
     expectList("hall-imperial");
 }
 
+TEST(ListFolderTest, GroupsStandInTheOrderOfTotalsThatNeedBeNoSums)
+{
+    expectList("groups-in-the-order-of-totals");
+}
+
 TEST(ListFolderTest, PlainNumbersArePrintedInFull)
 {
     expectList("plain-numbers-are-printed-in-full");

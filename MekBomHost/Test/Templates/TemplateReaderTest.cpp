@@ -157,7 +157,7 @@ TEST(TemplateReaderTest, UnknownKeysAreNamedWithTheKnownOnes)
         "or \"sections\": did you mean \"title\"?\n",
         faultInRoot("\"titel\": \"x\""));
     EXPECT_EQ("3 list.json:1:19: /sections/0: found unknown key \"Type\", expected \"type\", \"print\", \"label\", "
-              "\"summary\", \"tuples\" or \"children\": did you mean \"type\"?\n"
+              "\"summary\", \"orderGroups\", \"tuples\" or \"children\": did you mean \"type\"?\n"
               "3 list.json:1:17: /sections/0: found no key \"type\", expected one\n",
               faultInSection("\"Type\": \"kDetails\""));
 }

@@ -54,7 +54,7 @@ std::vector<const CheckedTuple*> totalsOfPieces(const CheckedTemplate& list, con
 {
     std::vector<const CheckedTuple*> totals;
     for (const CheckedTuple* const pTuple : list.tuplesOf(TokenRequest::kSum))
-        if (pTuple->isFooter && PiecesRule::isOfOnePiece(*pTuple, tokens))
+        if (pTuple->isFooter && list.usesSum(*pTuple) && PiecesRule::isOfOnePiece(*pTuple, tokens))
             totals.push_back(pTuple);
     return totals;
 }

@@ -6,7 +6,7 @@
 //   level 1 footer                  12   822.24        the group: "HEA200 S355J2", 822.24
 #include "GroupWeights.h"
 
-#include "VorBomDataToken.h"
+#include "TotalTokens.h"
 
 #include <cmath>
 
@@ -15,12 +15,6 @@ namespace mekbom
 namespace
 {
 const int kNone = -1;
-
-bool isSum(const VorString& token)
-{
-    VorString summed;
-    return VorBomDataToken(token).getSummingRequest(summed) == 1;
-}
 
 bool isWeight(const ReportColumn& column)
 {
@@ -31,7 +25,7 @@ bool isWeight(const ReportColumn& column)
 int weightColumnOf(const SectionLayout& section, const std::vector<ReportColumn>& columns)
 {
     for (std::size_t i = 0; i < section.columns.size(); ++i)
-        if (isSum(section.tokens[i]) && isWeight(columns[static_cast<std::size_t>(section.columns[i])]))
+        if (TotalTokens::isSum(section.tokens[i]) && isWeight(columns[static_cast<std::size_t>(section.columns[i])]))
             return section.columns[i];
     return kNone;
 }
