@@ -5,7 +5,7 @@
 //   sheet "Weights"
 //   portrait, paper 9, 2 rows stay in sight, on each page Weights!$2:$2, footer "&LWeights&RPage &P of &N"
 //   widths 9.8 8.7
-//   0  A2 "Material" bold  B2 "Weight [kg]" bold right
+//   0  A2 "Material" bold banded  B2 "Weight [kg]" bold banded right
 //   1  A3 "S235"  B3 2.5 as 0.0 right
 #pragma once
 
@@ -111,6 +111,8 @@ private:
         const pugi::xml_node border = nth(child("borders"), look.attribute("borderId").as_int());
         if (nth(child("fonts"), look.attribute("fontId").as_int()).child("b"))
             m_text += " bold";
+        if (nth(child("fills"), look.attribute("fillId").as_int()).child("patternFill").child("fgColor"))
+            m_text += " banded";
         if (border.child("top").attribute("style"))
             m_text += " ruled";
         if (alignment.attribute("horizontal").as_string() == std::string("right"))

@@ -44,20 +44,20 @@ TEST(AboutSheetTest, ItTellsHowManyRowsTheListIsMadeOf)
                                                            "HEA200,S355,1,10.5\n"
                                                            "L50,S235,1,\n");
 
-    EXPECT_EQ("0  A1 \"List\" bold  B1 \"Weights\" bold\n"
+    EXPECT_EQ("0  A1 \"List\" bold banded  B1 \"Weights\" bold banded\n"
               "0  A2 \"Rows read\"  B2 2 as 0\n"
               "0  A3 \"Rows listed\"  B3 2 as 0\n"
               "0  A4 \"Lines\"  B4 2 as 0\n"
-              "0  A6 \"Total\" bold  B6 \"Listed rows that have a value\" bold\n"
+              "0  A6 \"Total\" bold banded  B6 \"Listed rows that have a value\" bold banded\n"
               "0  A7 \"Weight\"  B7 1 as 0\n"
-              "0  A9 \"In words\" bold  B9 empty bold\n"
+              "0  A9 \"In words\" bold banded  B9 empty bold banded\n"
               "0  A10 \"2 rows read, 2 listed\"\n"
               "0  A11 \"Weight: 1 of 2 rows\"\n"
-              "0  A13 \"Column\" bold  B13 \"Unit\" bold\n"
+              "0  A13 \"Column\" bold banded  B13 \"Unit\" bold banded\n"
               "0  A14 \"Material\"  B14 empty\n"
               "0  A15 \"Name\"  B15 empty\n"
               "0  A16 \"Weight [kg]\"  B16 \"kg (weight)\"\n"
-              "0  A18 \"Numbers\" bold  B18 empty bold\n"
+              "0  A18 \"Numbers\" bold banded  B18 empty bold banded\n"
               "0  A19 \"Cells show what the list prints and hold more decimals where there are more.\"\n"
               "0  A20 \"Totals are values, as they were computed when the list was made: they follow no change of a "
               "cell.\"\n",
@@ -79,7 +79,7 @@ TEST(AboutSheetTest, WhatTheListLeavesOutIsCounted)
               "0  A6 \"Lines\"  B6 1 as 0\n",
               rowsAboutRows(about))
         << about;
-    EXPECT_TRUE(contains(about, "\"Left out with merged rows\" bold\n")) << about;
+    EXPECT_TRUE(contains(about, "\"Left out with merged rows\" bold banded\n")) << about;
     EXPECT_TRUE(contains(about, "\"Weight\"  B12 \"10.5 kg\"\n")) << about;
 }
 
@@ -121,7 +121,7 @@ TEST(AboutSheetTest, TitlesAndConditionsAreTexts)
         "tuples": [ { "token": "%PNum" } ] } ] })",
         "PNum,Quantity\n=A1,1\n");
 
-    EXPECT_TRUE(contains(about, "A1 \"List\" bold  B1 \"=1+1\" bold\n")) << about;
+    EXPECT_TRUE(contains(about, "A1 \"List\" bold banded  B1 \"=1+1\" bold banded\n")) << about;
     EXPECT_TRUE(contains(about, "\"Filtered out by %PNum = '=A1'\"  B3 0 as 0\n")) << about;
 }
 

@@ -13,8 +13,8 @@ namespace mekbom
 {
 namespace
 {
-const CellLook::eRole kRoles[] = { CellLook::kTitle, CellLook::kRemark, CellLook::kHeading,
-                                   CellLook::kLine,  CellLook::kGroup,  CellLook::kTotal };
+const CellLook::eRole kRoles[] = { CellLook::kTitle,       CellLook::kRemark,     CellLook::kHeading, CellLook::kLine,
+                                   CellLook::kGroupHeader, CellLook::kGroupTotal, CellLook::kTotal };
 
 class CellFormatsTest : public testing::Test
 {
@@ -87,5 +87,20 @@ TEST_F(CellFormatsTest, OnlyTheTotalOfTheListHasARuleAboveIt)
 {
     for (const CellLook::eRole role : kRoles)
         EXPECT_EQ(role == CellLook::kTotal, m_formats.ofText({ role })->top != LXW_BORDER_NONE) << role;
+}
+
+TEST_F(CellFormatsTest, HeadingsAndHeadersOfGroupsStandOnBands)
+{
+    for (const CellLook::eRole role : kRoles)
+        EXPECT_EQ(role == CellLook::kHeading || role == CellLook::kGroupHeader,
+                  m_formats.ofText({ role })->bg_color != LXW_COLOR_UNSET)
+            << role;
+}
+
+// A band with holes where cells are empty would be none.
+TEST_F(CellFormatsTest, EmptyCellsOfBandsAndRulesAreSeen)
+{
+    for (const CellLook::eRole role : kRoles)
+        EXPECT_EQ(role == CellLook::kGroupHeader || role == CellLook::kTotal, CellLook{ role }.isAcross()) << role;
 }
 }

@@ -91,12 +91,12 @@ TEST(ListSheetsTest, MarksThatLookLikeNumbersAndDatesAreTexts)
               linesOf(kWeights, "PNum,Quantity,Weight [kg]\n0417,1,1\n3-5,1,1\n2026-11-22,1,1\n1E5,1,1\n=B4,1,1\n"));
 }
 
-TEST(ListSheetsTest, GroupsFoldAndTheTotalOfTheListHasARule)
+TEST(ListSheetsTest, GroupsFoldBelowBandsAndTheTotalOfTheListHasARule)
 {
-    EXPECT_EQ("0  A4 \"S235\" bold\n"
+    EXPECT_EQ("0  A4 \"S235\" bold banded  B4 empty bold banded  C4 empty bold banded right\n"
               "1  B5 \"L50\"  C5 -2 as 0 right\n"
               "0  C6 -2 as 0 bold right\n"
-              "0  A7 \"S355\" bold\n"
+              "0  A7 \"S355\" bold banded  B7 empty bold banded  C7 empty bold banded right\n"
               "1  B8 \"HEA200\"  C8 10.5 as 0.0 right\n"
               "0  C9 10.5 as 0.0 bold right\n"
               "0  A10 \"Total\" bold ruled  B10 empty bold ruled  C10 8.5 as 0.0 bold ruled right\n",
@@ -110,7 +110,7 @@ TEST(ListSheetsTest, SectionsOfPagesStandAtTopAndBottom)
           { "type": "kDetails", "tuples": [ { "token": "%PNum" }, { "token": "%Weight" } ] } ] },
         { "type": "kPageFooter", "label": "Sum", "tuples": [ { "token": "%SumBy:%Weight" } ] } ] })";
 
-    EXPECT_EQ("0  A4 \"Phase 1\" bold\n"
+    EXPECT_EQ("0  A4 \"Phase 1\" bold banded  B4 empty bold banded  C4 empty bold banded right\n"
               "0  B5 \"P1\"  C5 3 as 0 right\n"
               "0  B6 \"P2\"  C6 4 as 0 right\n"
               "0  A7 \"Sum\" bold ruled  B7 empty bold ruled  C7 7 as 0 bold ruled right\n",
@@ -133,14 +133,15 @@ TEST(ListSheetsTest, TheHeadingRowStandsBelowWhatIsToldFirst)
     EXPECT_TRUE(contains(workbook, ", 3 rows stay in sight, on each page Weights!$3:$3,")) << workbook;
     EXPECT_TRUE(contains(workbook, "0  A1 \"Weights\" bold\n"
                                    "0  A2 \"1 row read, 1 listed\"\n"
-                                   "0  A3 \"PNum\" bold  B3 \"Weight [kg]\" bold right\n"))
+                                   "0  A3 \"PNum\" bold banded  B3 \"Weight [kg]\" bold banded right\n"))
         << workbook;
 }
 
 TEST(ListSheetsTest, AListWithoutRowsHasItsHeadings)
 {
-    EXPECT_TRUE(contains(workbookOf(kWeights, "PNum,Quantity,Weight [kg]\n"),
-                         "0  A2 \"0 rows read, 0 listed\"\n0  A3 \"PNum\" bold  B3 \"Weight [kg]\" bold"));
+    EXPECT_TRUE(
+        contains(workbookOf(kWeights, "PNum,Quantity,Weight [kg]\n"),
+                 "0  A2 \"0 rows read, 0 listed\"\n0  A3 \"PNum\" bold banded  B3 \"Weight [kg]\" bold banded"));
 }
 
 // Whatever the limit, each line is on one of the sheets, and none twice.
