@@ -1,9 +1,22 @@
 """Lists as mekbom prints them, read back into cells, for the checks beside this file."""
 
+import pathlib
 import re
+import shlex
 import subprocess
 from fractions import Fraction
 from typing import NamedTuple
+
+SHAPES = pathlib.Path(__file__).parent.parent / "MekBomHost" / "Test" / "Reports" / "Shapes"
+OF_OTHER_FORMATS = ("--values", "plain")
+
+
+def shapes():
+    """The folder and the arguments of each of the tests' lists of one peculiarity, as a text prints it."""
+    for command in sorted(SHAPES.glob("*/command.txt")):
+        verb, *words = shlex.split(command.read_text(encoding="utf-8").replace("{here}", str(command.parent)))
+        if verb == "report":
+            yield command.parent, [word for word in words if word not in OF_OTHER_FORMATS]
 
 
 class PrintedList(NamedTuple):

@@ -31,6 +31,23 @@ inline std::string partOf(const std::string& bytes, const std::string& name)
     return content;
 }
 
+// All parts, each below its name. The same for workbooks that were packed by another version of a library.
+inline std::string unpacked(const std::string& bytes)
+{
+    zip_source_t* const pSource = zip_source_buffer_create(bytes.data(), bytes.size(), 0, nullptr);
+    zip_t* const pArchive = zip_open_from_source(pSource, ZIP_RDONLY, nullptr);
+    if (pArchive == nullptr)
+        return std::string();
+    std::string text;
+    for (zip_int64_t i = 0; i < zip_get_num_entries(pArchive, 0); ++i)
+    {
+        const std::string name = zip_get_name(pArchive, static_cast<zip_uint64_t>(i), 0);
+        text += name + "\n" + partOf(bytes, name) + "\n";
+    }
+    zip_close(pArchive);
+    return text;
+}
+
 inline std::string sheetOf(const std::string& bytes, int number)
 {
     return partOf(bytes, "xl/worksheets/sheet" + std::to_string(number) + ".xml");

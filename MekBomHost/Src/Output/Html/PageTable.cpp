@@ -199,11 +199,9 @@ std::string PageTable::numberAttributes(const ReportLine& line, std::size_t colu
     std::string attributes;
     if (!shown.isNumeric || !surveyed.areAllNumbersPlain)
         attributes = " data-value=\"" + numberText(line.values[column].number) + "\"";
-    const int decimals = ShownNumber::numDecimals(line.texts[column].view());
-    const int missing = decimals == ShownNumber::kNoDecimal ? 0 : surveyed.decimals - decimals;
-    if (shown.isAlignedRight && missing > 0)
-        attributes += std::string(" data-fill=\"") + (decimals == 0 ? "." : "") +
-                      std::string(static_cast<std::size_t>(missing), '0') + "\"";
+    const std::string fill = ShownNumber::fill(line.texts[column].view(), surveyed.decimals);
+    if (shown.isAlignedRight && !fill.empty())
+        attributes += " data-fill=\"" + fill + "\"";
     return attributes;
 }
 

@@ -35,6 +35,14 @@ int numDecimals(std::string_view text)
     return areDigits(decimals) ? static_cast<int>(decimals.size()) : kNoDecimal;
 }
 
+std::string fill(std::string_view text, int mostDecimals)
+{
+    const int decimals = numDecimals(text);
+    if (decimals == kNoDecimal || decimals >= mostDecimals)
+        return std::string();
+    return (decimals == 0 ? "." : "") + std::string(static_cast<std::size_t>(mostDecimals - decimals), '0');
+}
+
 bool isPlain(std::string_view text)
 {
     return numDecimals(text) != kNoDecimal && text.find(' ') == std::string_view::npos;

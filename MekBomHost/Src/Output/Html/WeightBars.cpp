@@ -7,6 +7,7 @@
 #include "WeightBars.h"
 
 #include "HtmlText.h"
+#include "ShownNumber.h"
 
 #include <algorithm>
 #include <charconv>
@@ -54,6 +55,8 @@ void WeightBars::chooseGroups()
     std::stable_sort(m_drawn.begin(), m_drawn.end(), isLarger);
     m_drawn.resize(std::min(m_drawn.size(), kMostBars));
     std::stable_sort(m_drawn.begin(), m_drawn.end(), isHeavier);
+    for (const GroupWeight* const pGroup : m_drawn)
+        m_decimals = std::max(m_decimals, ShownNumber::numDecimals(pGroup->text));
 }
 
 void WeightBars::append(std::string& page) const
@@ -84,7 +87,8 @@ void WeightBars::appendBar(std::string& page, const GroupWeight& group) const
         page += " style=\"margin-left:" + percent((std::min(group.weight, 0.0) - m_low) / length) +
                 ";width:" + percent(std::fabs(group.weight) / length) + "\"></i>";
     }
-    page += "<td>";
+    const std::string fill = group.isKnown ? ShownNumber::fill(group.text, m_decimals) : std::string();
+    page += fill.empty() ? "<td>" : "<td data-fill=\"" + fill + "\">";
     HtmlText::append(page, group.isKnown ? group.text : "no total");
     page += "</tr>\n";
 }

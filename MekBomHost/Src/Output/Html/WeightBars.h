@@ -42,5 +42,6 @@ private:
     std::vector<const GroupWeight*> m_drawn;
     double m_low = 0; // where bars may begin and end, in kg
     double m_high = 0;
+    int m_decimals = 0; // the most that a number beside a bar has
 };
 }

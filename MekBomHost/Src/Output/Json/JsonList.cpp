@@ -202,6 +202,8 @@ void JsonList::writeSection(const ReportLine& line, SectionPlace place)
     m_isShown.assign(m_isShown.size(), false);
     for (const int column : section.columns)
         m_isShown[static_cast<std::size_t>(column)] = true;
+    if (section.isOfPage)
+        m_text += "\"ofPage\": true, ";
     if (!section.label.empty())
         m_text += "\"label\": " + jsonText(section.label) + ", ";
     writeCells("\"values\": [", line, &JsonList::writeValue);

@@ -5,6 +5,7 @@
 //             {"token": "%Length", "label": "Length", "heading": "Length [ft-in]", "kind": "length", "unit": "ft", ...}
 //   lines     {"level": 1, "values": ["HEA200", 7.5], "shown": ["HEA200", "7' 6\""], "handles": ["2A0"]}
 //   groups    {"level": 0, "lines": [...], "footer": {"label": "Total", "values": [null, 7.5], ...}}
+//   pages     "footer": {"ofPage": true, "label": "Total", ...}, of sections that stand on each page where there are pages
 //   foot      "foot": {"rowsRead": 1, ...}
 //
 // Values and shown texts stand in the order of the columns, null where the section shows nothing. A group is open from

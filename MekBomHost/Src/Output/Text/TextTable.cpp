@@ -9,6 +9,7 @@
 // Without that way a report of 100,000 lines takes twice the instructions. Any other line has its cells wrapped first.
 #include "TextTable.h"
 
+#include "TextDirection.h"
 #include "Utf8.h"
 
 #include <algorithm>
@@ -204,7 +205,8 @@ std::size_t TextTable::writeText(const TextColumn& column, const std::string& te
 {
     const auto numFree = static_cast<std::size_t>(std::max(column.width - Utf8::displayWidth(text), 0));
     const std::size_t indent = column.isAlignedRight ? numFree : 0;
-    m_text.append(numBlanksBefore + indent, ' ').append(text);
+    m_text.append(numBlanksBefore + indent, ' ');
+    TextDirection::append(m_text, text);
     return numFree - indent;
 }
 

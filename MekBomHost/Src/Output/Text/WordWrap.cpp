@@ -18,9 +18,15 @@ namespace
 {
 const int kReplacement = 0xFFFD;
 
+// What has the characters behind it shown in another order, to the end of the line: "12.5" becomes "5.21".
+bool turnsOthersRound(int codePoint)
+{
+    return (codePoint >= 0x202A && codePoint <= 0x202E) || (codePoint >= 0x2066 && codePoint <= 0x2069);
+}
+
 bool isControl(int codePoint)
 {
-    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0) || turnsOthersRound(codePoint);
 }
 
 // Fills lines up to the width; a line that grows too wide is cut at its last blank, or before the character that went

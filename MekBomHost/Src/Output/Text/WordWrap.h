@@ -15,7 +15,8 @@
 namespace mekbom::WordWrap
 {
 // The lines of `text`, of which there is at least one. Line breaks end a line, tabs become blanks, and other
-// control characters U+FFFD. A character that is wider than the column stands in a line of its own.
+// control characters U+FFFD, those among them that would turn the order of others round. A character that is wider than
+// the column stands in a line of its own.
 std::vector<std::string> wrap(std::string_view text, int width);
 
 // One line of what wrap() gave without a limit, of which there is at least one, with `ellipsis` at the end of what

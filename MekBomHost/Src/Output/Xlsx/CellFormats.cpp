@@ -8,6 +8,7 @@ const char* const kTextFormat = "@"; // "0417" that is edited in its cell stays 
 const double kTitleSize = 14;        // points; the text of cells has 11
 const double kRemarkSize = 9;
 const lxw_color_t kHeadingColour = 0xD9E2EC; // a light grey that black reads well on, printed too
+const lxw_color_t kGroupColour = 0xF1F4F7;   // lighter than headings
 const lxw_color_t kRemarkColour = 0x595959;
 
 void setRole(lxw_format* pFormat, CellLook::eRole role)
@@ -26,9 +27,10 @@ void setRole(lxw_format* pFormat, CellLook::eRole role)
             format_set_bg_color(pFormat, kHeadingColour);
             format_set_bottom(pFormat, LXW_BORDER_THIN);
             break;
+        case CellLook::kGroupHeader: format_set_bg_color(pFormat, kGroupColour); break;
         case CellLook::kTotal: format_set_top(pFormat, LXW_BORDER_THIN); break;
         case CellLook::kLine:
-        case CellLook::kGroup: break;
+        case CellLook::kGroupTotal: break;
     }
 }
 }

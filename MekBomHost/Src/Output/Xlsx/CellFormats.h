@@ -23,10 +23,14 @@ struct CellLook
         kTitle,
         kRemark, // what the list is made of
         kHeading,
-        kLine,  // one of the ordinary lines: the deepest that the list has
-        kGroup, // the header or footer of a group of lines
-        kTotal  // of the whole list
+        kLine,        // one of the ordinary lines: the deepest that the list has
+        kGroupHeader, // opens a group of lines
+        kGroupTotal,  // closes it
+        kTotal        // of the whole list
     };
+
+    // Whether a line of these cells is a band or a rule across the list, so that empty cells look like something, too.
+    bool isAcross() const { return role == kGroupHeader || role == kTotal; }
 
     eRole role = kLine;
     bool isRight = false;

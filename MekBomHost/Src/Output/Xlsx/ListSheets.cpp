@@ -119,7 +119,7 @@ void ListSheets::writeLine(const ReportLine& line)
     }
 }
 
-// Empty cells are left out, but for those below a rule.
+// Empty cells are left out where nothing would be seen of them.
 void ListSheets::writeCell(const Place& place, const ShownText& text, const VorBomTypedValue& value)
 {
     if (text.length > 0)
@@ -129,7 +129,7 @@ void ListSheets::writeCell(const Place& place, const ShownText& text, const VorB
         else
             m_pPen->writeText(place.index, text.view(), m_look, place.column.textLimit());
     }
-    else if (m_look.role == CellLook::kTotal)
+    else if (m_look.isAcross())
         m_pPen->writeEmpty(place.index, m_look);
     if (place.hasBeside)
         writeBeside(place, value);
@@ -140,16 +140,17 @@ void ListSheets::writeBeside(const Place& place, const VorBomTypedValue& value)
     const CellLook look = { m_look.role, true };
     if (const std::optional<SheetNumber> number = place.column.numberBeside(value))
         m_pPen->writeNumber(place.index + 1, *number, kBesideWidth, look);
-    else if (look.role == CellLook::kTotal)
+    else if (look.isAcross())
         m_pPen->writeEmpty(place.index + 1, look);
 }
 
 CellLook ListSheets::lookOf(const LinePlace& place) const
 {
-    CellLook look;
-    if (!m_outline.isDeepest(place))
-        look.role = place.level == 0 && !place.hasHeader ? CellLook::kTotal : CellLook::kGroup;
-    return look;
+    if (m_outline.isDeepest(place))
+        return { CellLook::kLine };
+    if (place.hasHeader && !place.hasFooter)
+        return { CellLook::kGroupHeader };
+    return { place.level == 0 && !place.hasHeader ? CellLook::kTotal : CellLook::kGroupTotal };
 }
 
 void ListSheets::continueOnNextSheet()

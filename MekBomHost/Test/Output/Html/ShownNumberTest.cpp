@@ -24,4 +24,14 @@ TEST(ShownNumberTest, PlainNumbersHaveNoBlanks)
     EXPECT_FALSE(ShownNumber::isPlain("1 693.5"));
     EXPECT_FALSE(ShownNumber::isPlain("7'"));
 }
+
+TEST(ShownNumberTest, NumbersAreFilledUpToTheDecimalsOfOthers)
+{
+    EXPECT_EQ(".00", ShownNumber::fill("12", 2));
+    EXPECT_EQ("0", ShownNumber::fill("-1 693.5", 2));
+    EXPECT_EQ("", ShownNumber::fill("12.50", 2));
+    EXPECT_EQ("", ShownNumber::fill("12.505", 2));
+    EXPECT_EQ("", ShownNumber::fill("12", 0));
+    EXPECT_EQ("", ShownNumber::fill("7' 6\"", 2));
+}
 }

@@ -44,6 +44,16 @@ TEST(WeightBarsTest, WhatWeighsLessThanNothingGoesTheOtherWay)
         barsOf("x,A,80\nx,B,0\nx,C,-20\nx,D,\n"));
 }
 
+TEST(WeightBarsTest, WeightsStandWithTheirPointsBelowEachOther)
+{
+    const std::string page = barsOf("x,A,40\nx,B,80.25\nx,C,9.5\nx,D,\n");
+
+    EXPECT_NE(std::string::npos, page.find("<td data-fill=\".00\">40</tr>")) << page;
+    EXPECT_NE(std::string::npos, page.find("<td>80.25</tr>"));
+    EXPECT_NE(std::string::npos, page.find("<td data-fill=\"0\">9.5</tr>"));
+    EXPECT_NE(std::string::npos, page.find("<td>no total</tr>"));
+}
+
 TEST(WeightBarsTest, GroupsThatAllWeighNothingHaveNoBars)
 {
     EXPECT_EQ("", barsOf("x,A,0\nx,B,0\n"));

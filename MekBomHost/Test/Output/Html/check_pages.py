@@ -10,6 +10,7 @@ where pdftotext is.
 import json
 import pathlib
 import re
+import shlex
 import shutil
 import subprocess
 import sys
@@ -19,6 +20,7 @@ import unittest
 from browser import Browser, find_browser
 
 SKIPPED = 77
+SHAPES = pathlib.Path(__file__).resolve().parents[2] / "Reports" / "Shapes"
 PROGRAM, EXAMPLES, *REAL_DATA = sys.argv[1:]
 
 # The rows that are seen, as texts of their cells joined by "|".
@@ -300,6 +302,40 @@ class PaperTest(PageTest):
         self.assertGreater(len(sheets), 2)
         for sheet in sheets:
             self.assertIn("Of the whole list, not of this page", sheet)
+
+
+class ShapesTest(PageTest):
+    """The lists of one peculiarity each, of which JSON has the same texts."""
+
+    def shapes(self):
+        for command in sorted(SHAPES.glob("*/command.txt")):
+            words = shlex.split(command.read_text(encoding="utf-8").replace("{here}", str(command.parent)))
+            outputs = [self.lists.folder / f"list.{ending}" for ending in ("html", "json", "csv")]
+            run = subprocess.run([PROGRAM, *words, *(word for path in outputs for word in ("-o", path))],
+                                 capture_output=True, encoding="utf-8", check=False)
+            self.assertIn(run.returncode, (0, 1), run.stderr)
+            yield command.parent.name, outputs[0], json.loads(outputs[1].read_text(encoding="utf-8"))
+
+    def shown(self, node):
+        """All texts and labels of the lines in it."""
+        for section in (node, node.get("header", {}), node.get("footer", {})):
+            yield from [text for text in (section.get("label"), *section.get("shown", [])) if text]
+        for inside in node.get("groups") or node.get("lines") or []:
+            yield from self.shown(inside)
+
+    def test_a_page_shows_what_json_has(self):
+        cells = """[...document.querySelectorAll('.list tr:not(.on-paper) > :not([scope=col])')]
+            .map(cell => cell.textContent)"""
+        number = 0
+        for name, path, document in self.shapes():
+            page = self.open(path)
+            self.assertEqual([], page.complaints(), name)
+            self.assertEqual(1, len(page.requests()), name)
+            texts = sorted(text.strip() for text in self.shown(document))
+            texts = [re.sub("[\x00-\x08\x0b-\x1f]", "\ufffd", text) for text in texts]
+            self.assertEqual(texts, sorted(text.strip() for text in page.evaluate(cells) if text), name)
+            number += 1
+        self.assertGreater(number, 5)
 
 
 class RealDataTest(PageTest):

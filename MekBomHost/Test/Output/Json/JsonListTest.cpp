@@ -145,6 +145,25 @@ TEST(JsonListTest, WhatTheListIsMadeOfIsData)
     EXPECT_EQ("Merged rows are in no total: Weight 10.5 kg", foot["text"][1]);
 }
 
+TEST(JsonListTest, SectionsOfPagesSaySo)
+{
+    const std::string list = R"({ "equalLines": "keep", "sections": [ { "type": "kReportHeader", "children": [
+        { "type": "kPageHeader", "label": "Frame", "tuples": [ { "token": "%Material" } ],
+          "children": [ { "type": "kDetails", "tuples": [ { "token": "%PNum" } ] } ] },
+        { "type": "kPageFooter", "tuples": [ { "token": "%SumBy:%Weight" } ] } ] },
+        { "type": "kReportFooter", "label": "Total", "tuples": [ { "token": "%SumBy:%Weight" } ] } ] })";
+
+    const Json report = listOf(list, kParts)["groups"][0];
+
+    EXPECT_EQ(Json::parse(R"({ "ofPage": true, "label": "Frame", "values": [ "S355", null, null ],
+                               "shown": [ "S355", null, null ] })"),
+              report["groups"][0]["header"]);
+    EXPECT_EQ(Json::parse(R"({ "ofPage": true, "values": [ null, null, 23 ], "shown": [ null, null, "23" ] })"),
+              report["groups"][0]["footer"]);
+    EXPECT_FALSE(report["footer"].contains("ofPage"));
+    EXPECT_FALSE(report["groups"][0]["lines"][0].contains("ofPage"));
+}
+
 TEST(JsonListTest, TextsAreEscaped)
 {
     const Json list = listOf(details(R"({ "token": "%PNum" })"), "PNum\n\"a\"\"b\\c\nd\"\n");

@@ -258,6 +258,16 @@ TEST(TextTableTest, ControlCharactersReachNoTerminal)
               tableOf(details(kName), "%Name\na\x1B[31m\n"));
 }
 
+// Shown by a program that knows of directions, the weight would stand before the letters, or be turned round itself.
+TEST(TextTableTest, TextsFromTheRightLeaveNumbersInTheirColumns)
+{
+    EXPECT_EQ("Name  Weight [kg]\n"
+              "----  -----------\n"
+              "\xE2\x81\xA8קו\xE2\x81\xA9           12.5\n"
+              "a\xEF\xBF\xBD            3.5\n",
+              tableOf(details(kNameAndWeight), "%Name,%Weight\nקו,12.5\na\xE2\x80\xAE,3.5\n"));
+}
+
 TEST(TextTableTest, ALabelStandsInTheFirstColumnThatIsFree)
 {
     const char* const labelled = R"({ "sections": [

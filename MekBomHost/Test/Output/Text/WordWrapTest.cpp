@@ -1,5 +1,7 @@
 #include "WordWrap.h"
 
+#include "Utf8.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -63,6 +65,17 @@ struct CutCase
     const char* ellipsis;
     const char* text;
 };
+
+TEST(WordWrapTest, WhatTurnsOthersRoundIsReplaced)
+{
+    for (int codePoint = 0x2010; codePoint <= 0x2070; ++codePoint)
+    {
+        std::string character;
+        Utf8::appendCodePoint(character, codePoint);
+        const bool turns = (codePoint >= 0x202A && codePoint <= 0x202E) || (codePoint >= 0x2066 && codePoint <= 0x2069);
+        EXPECT_EQ("1" + (turns ? "\xEF\xBF\xBD" : character) + "2", WordWrap::wrap("1" + character + "2", 0).front());
+    }
+}
 
 TEST(WordWrapTest, WhatIsCutEndsInAnEllipsisWithinTheWidth)
 {
