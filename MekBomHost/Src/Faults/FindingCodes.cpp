@@ -116,6 +116,8 @@ const FindingCode kCodes[] = {
     kNothingToSummarise,
     kWidthTooSmall,
     kListsUnlike,
+    kConfiguredWordUnknown,
+    kUnitsConfigured,
 };
 }
 

@@ -58,6 +58,7 @@ NamedText textOf(ByteSource& source)
 DisplaySettings settingsOf(const ReportRequest& request, FindingList& findings)
 {
     DisplaySettings::Origins origins;
+    origins.configuration = request.configuredSettings;
     origins.environment = request.environment;
     if (request.pSettings != nullptr)
         origins.file = textOf(*request.pSettings);

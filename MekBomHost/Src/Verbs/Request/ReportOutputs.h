@@ -1,6 +1,6 @@
 // The outputs of one run, written from one evaluated report.
 //
-//   const ReportOutputs outputs(options.wanted(), options.choices());
+//   const ReportOutputs outputs(options.wanted(), options.choicesOver(OutputChoices()));
 //   request.contents = outputs.contents();
 //   ReportJob job(std::move(request));
 //   if (job.run() == kDone)

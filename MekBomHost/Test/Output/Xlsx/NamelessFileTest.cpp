@@ -1,11 +1,11 @@
 #include "NamelessFile.h"
 
+#include "Support/EnvironmentVariable.h"
 #include "Support/HostTestSupport.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <iterator>
 #include <string>
@@ -14,24 +14,6 @@ namespace mekbom
 {
 namespace
 {
-// Sets where temporary files go, until the end of the test.
-class TemporaryFolder
-{
-public:
-    explicit TemporaryFolder(const std::string& path)
-    {
-        if (const char* const pBefore = std::getenv("TMPDIR"))
-            m_before = pBefore;
-        setenv("TMPDIR", path.c_str(), 1);
-    }
-    ~TemporaryFolder() { m_before.empty() ? unsetenv("TMPDIR") : setenv("TMPDIR", m_before.c_str(), 1); }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-private:
-    std::string m_before;
-};
-
 std::size_t numFilesIn(const std::filesystem::path& folder)
 {
     return static_cast<std::size_t>(
@@ -73,7 +55,7 @@ TEST(NamelessFileTest, AFileThatNobodyWroteToIsEmpty)
 TEST(NamelessFileTest, NoFolderShowsIt)
 {
     const ScratchFolder scratch;
-    const TemporaryFolder temporary(scratch.path().string());
+    const EnvironmentVariable temporary("TMPDIR", scratch.path().string());
 
     const NamelessFile file;
     writeTo(file.path(), "text");
