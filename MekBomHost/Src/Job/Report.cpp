@@ -16,6 +16,7 @@
 #include "FindingCodes.h"
 #include "FormulaResults.h"
 #include "OverflowCheck.h"
+#include "ProgressRelay.h"
 #include "RowTally.h"
 #include "RowTree.h"
 #include "SummaryTemplate.h"
@@ -119,7 +120,11 @@ void Report::evaluateRows()
     if (m_checksTotals)
         pSink = &check.emplace(m_template, *pSink);
     RowTally tally(m_template, *pSink);
-    VorBomEvaluator2::evaluate(&engineTemplate(), tally);
+    pSink = &tally;
+    std::optional<ProgressRelay> progress;
+    if (m_pProgress != nullptr)
+        pSink = &progress.emplace(tally, *m_pProgress);
+    VorBomEvaluator2::evaluate(&engineTemplate(), *pSink);
     if (equalLines)
     {
         equalLines->finish();

@@ -26,6 +26,8 @@
 
 namespace mekbom
 {
+class RowProgress;
+
 struct ReportRequest
 {
     using Pairs = std::vector<std::pair<std::string, std::string>>;
@@ -59,5 +61,7 @@ struct ReportRequest
     unsigned numProcessors = 1; // with two, long parts lists are read on a thread of their own: PartsList
 
     LineContents contents; // what the writer wants of lines beside their texts
+
+    RowProgress* pProgress = nullptr; // told how far the job is; not owned, must live while it runs; may be null
 };
 }

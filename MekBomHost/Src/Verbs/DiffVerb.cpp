@@ -9,6 +9,7 @@
 #include "FindingCodes.h"
 #include "FindingList.h"
 #include "ReportOutputs.h"
+#include "RunProgress.h"
 #include "ShippedFiles.h"
 #include "TemplateFile.h"
 
@@ -73,7 +74,9 @@ ExitStatus DiffVerb::run(FindingList& findings)
     m_outputs.refuseInputs(inputs);
     m_outputs.refuseInputs(configuration.files());
 
+    RunProgress progress;
     ReportRequest ofNew = request(m_newData, configuration);
+    ofNew.pProgress = progress.ofRows();
     addTemplates(ofNew);
     ReportJob newJob(std::move(ofNew));
     if (const ExitStatus status = runJob(newJob, findings); status != kDone)
@@ -81,6 +84,7 @@ ExitStatus DiffVerb::run(FindingList& findings)
     std::optional<ComparedList> oldList;
     {
         ReportRequest ofOld = request(m_oldData, configuration);
+        ofOld.pProgress = progress.ofRows();
         setTemplate(ofOld, templateFor(newJob));
         ReportJob oldJob(std::move(ofOld));
         if (const ExitStatus status = runJob(oldJob, findings); status != kDone)
@@ -89,7 +93,7 @@ ExitStatus DiffVerb::run(FindingList& findings)
     }
     const Changes changes(*oldList, ComparedList(newJob), newJob, outputs.contents());
     const EvaluatedReport report = changes.report();
-    outputs.write(report);
+    outputs.write(report, &progress);
     if (const auto note = m_list.noteOfUnits(configuration))
         findings.add(*note);
     for (const Finding& note : outputs.footNotes(report))

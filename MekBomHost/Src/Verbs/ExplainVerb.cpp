@@ -14,6 +14,7 @@
 #include "FindingList.h"
 #include "LineInWords.h"
 #include "ReportJob.h"
+#include "RunProgress.h"
 #include "StandardOutput.h"
 #include "TemplateFile.h"
 #include "TemplateInWords.h"
@@ -22,6 +23,7 @@
 #include <CLI/CLI.hpp>
 
 #include <memory>
+#include <utility>
 
 namespace mekbom
 {
@@ -96,8 +98,12 @@ ExitStatus ExplainVerb::explainTemplate() const
 ExitStatus ExplainVerb::explainList(FindingList& findings) const
 {
     const Configuration configuration = m_list.configurationFor(m_templateName);
-    ReportJob job(request(configuration));
+    RunProgress progress;
+    ReportRequest wanted = request(configuration);
+    wanted.pProgress = progress.ofRows();
+    ReportJob job(std::move(wanted));
     const ExitStatus status = job.run();
+    progress.end();
     findings.addAll(job.findings().all(), job.findings().numErrors());
     if (status != kDone)
         return status;

@@ -15,6 +15,7 @@
 #include "FindingCodes.h"
 #include "FindingList.h"
 #include "ReportOutputs.h"
+#include "RunProgress.h"
 #include "ShippedFiles.h"
 #include "TemplateFile.h"
 
@@ -153,12 +154,14 @@ ExitStatus ReportVerb::run(FindingList& findings)
     m_outputs.refuseInputs(inputNames());
     m_outputs.refuseInputs(configuration.files());
     wanted.contents = outputs.contents();
+    RunProgress progress;
+    wanted.pProgress = progress.ofRows();
     m_pJob = std::make_unique<ReportJob>(std::move(wanted));
     const ExitStatus status = m_pJob->run();
     findings.addAll(m_pJob->findings().all(), m_pJob->findings().numErrors());
     if (status != kDone)
         return status;
-    outputs.write(m_pJob->report());
+    outputs.write(m_pJob->report(), &progress);
     if (const auto note = m_list.noteOfUnits(configuration))
         findings.add(*note);
     for (const Finding& note : outputs.footNotes(m_pJob->report()))
