@@ -26,7 +26,7 @@ std::string variable(const std::string& name)
 // programs. Empty where the environment names no folder.
 fs::path folderOfUser()
 {
-    const fs::path configured = variable("XDG_CONFIG_HOME");
+    fs::path configured = variable("XDG_CONFIG_HOME");
     if (configured.is_absolute())
         return configured;
     const fs::path home = variable("HOME");
