@@ -37,7 +37,8 @@ MEMORY_STAYS = {
     "MALLOC_TOP_PAD_": str(64 << 20),
 }
 ONE_THREAD = {"OMP_NUM_THREADS": "1", "OPENBLAS_NUM_THREADS": "1"}
-ENVIRONMENT = {**os.environ, **MEMORY_STAYS, **ONE_THREAD, "PYTHONDONTWRITEBYTECODE": "1"}
+NO_CONFIGURATION = {"XDG_CONFIG_HOME": os.devnull}  # of the user's own: what is measured is the same for everybody
+ENVIRONMENT = {**os.environ, **MEMORY_STAYS, **ONE_THREAD, **NO_CONFIGURATION, "PYTHONDONTWRITEBYTECODE": "1"}
 
 
 # What must not grow faster than n log n: with the length of texts and formulas, the number of rows, tuples, sections,

@@ -1,7 +1,8 @@
 #!/bin/sh
 # Installs what the build needs from Debian's packages, when it may; says exactly what is missing otherwise.
 #   sh Scripts/setup.sh            compiler, cmake, ninja, python, and the host program's libraries
-#   sh Scripts/setup.sh --checks   also clang, its sanitizer runtime, clang-format and -tidy, valgrind, Google Benchmark
+#   sh Scripts/setup.sh --checks   also clang, its sanitizer runtime, clang-format and -tidy, valgrind, mandoc,
+#                                  Google Benchmark
 #   sh Scripts/setup.sh --browser  also Chromium and pdftotext, for the test that opens pages of lists
 #   sh Scripts/setup.sh --bench    also Google Benchmark, and the tools and libraries that the benchmarks compare with
 # Also makes the locale de_DE.UTF-8 where it may: tests hold numbers against its decimal comma, and skip without it.
@@ -11,7 +12,7 @@ packages="g++ cmake ninja-build python3 locales libgtest-dev libcli11-dev nlohma
 packages="$packages libzip-dev libpugixml-dev libxlsxwriter-dev python3-jsonschema python3-openpyxl"
 for argument in "$@"; do
     case "$argument" in
-        --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy valgrind libbenchmark-dev" ;;
+        --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy valgrind libbenchmark-dev mandoc" ;;
         --browser) packages="$packages chromium poppler-utils" ;;
         --bench)
             packages="$packages libbenchmark-dev sqlite3 libsqlite3-dev python3-pandas libfparser-dev libmuparser-dev"

@@ -55,16 +55,6 @@ std::string wordsOf(const CLI::App& command)
     return parents + (parents.empty() ? "" : " ") + command.get_name();
 }
 
-// "mekbom units convert"
-std::string lineOf(const CLI::App& command)
-{
-    const CLI::App* pProgram = &command;
-    while (pProgram->get_parent() != nullptr)
-        pProgram = pProgram->get_parent();
-    const std::string words = wordsOf(command);
-    return pProgram->get_name() + (words.empty() ? "" : " ") + words;
-}
-
 // A single minus sign stands for standard input and is none.
 bool isOption(const std::string& word)
 {
@@ -113,6 +103,15 @@ Finding unexpected(const CLI::App& command, const std::string& word)
     finding.remedy = "see " + lineOf(command) + " --help";
     return findingIn(command, finding);
 }
+}
+
+std::string lineOf(const CLI::App& command)
+{
+    const CLI::App* pProgram = &command;
+    while (pProgram->get_parent() != nullptr)
+        pProgram = pProgram->get_parent();
+    const std::string words = wordsOf(command);
+    return pProgram->get_name() + (words.empty() ? "" : " ") + words;
 }
 
 const CLI::App& find(const CLI::App& program, const std::vector<std::string>& words)

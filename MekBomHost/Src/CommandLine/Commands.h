@@ -21,6 +21,9 @@ class ParseError;
 
 namespace mekbom::Commands
 {
+// The words that call a command: "mekbom units convert".
+std::string lineOf(const CLI::App& command);
+
 // The command that these words call: `program` itself without any. Throws a Fault of status kWrongUsage for a word that
 // names no command.
 const CLI::App& find(const CLI::App& program, const std::vector<std::string>& words);

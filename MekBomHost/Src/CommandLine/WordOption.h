@@ -20,6 +20,26 @@ namespace mekbom::WordOption
 template <class Value>
 using Choices = std::vector<std::pair<const char*, Value>>;
 
+// What `word` stands for; null when it is none of the words.
+template <class Value>
+const Value* find(const Choices<Value>& choices, const std::string& word)
+{
+    for (const auto& choice : choices)
+        if (word == choice.first)
+            return &choice.second;
+    return nullptr;
+}
+
+// " shown plain", for messages.
+template <class Value>
+std::string wordsOf(const Choices<Value>& choices)
+{
+    std::string words;
+    for (const auto& choice : choices)
+        words += std::string(" ") + choice.first;
+    return words;
+}
+
 // Adds the option to `command`. Parsing calls `take` with the value of the word that is given; another word ends it with
 // a CLI::ValidationError. `form` is what help calls the word. `choices` outlive the command.
 template <class Value, class Take>
@@ -28,14 +48,10 @@ void declare(CLI::App& command, const std::string& name, const std::string& form
 {
     const auto takeWord = [&choices, name, take](const std::string& word)
     {
-        std::string known;
-        for (const auto& choice : choices)
-        {
-            if (word == choice.first)
-                return take(choice.second);
-            known += std::string(" ") + choice.first;
-        }
-        throw CLI::ValidationError(name, inQuotes(word) + " is none of" + known);
+        const Value* const pValue = find(choices, word);
+        if (pValue == nullptr)
+            throw CLI::ValidationError(name, inQuotes(word) + " is none of" + wordsOf(choices));
+        take(*pValue);
     };
     command.add_option_function<std::string>(name, takeWord, help)->type_name(form);
 }

@@ -118,6 +118,8 @@ const FindingCode kCodes[] = {
     kNothingToSummarise,
     kWidthTooSmall,
     kListsUnlike,
+    kConfiguredWordUnknown,
+    kUnitsConfigured,
 };
 }
 

@@ -218,6 +218,11 @@ inline constexpr FindingCode kNothingToSummarise = {
 inline constexpr FindingCode kWidthTooSmall = { "MB927", kError, "A list is wider than the width that it is given." };
 inline constexpr FindingCode kListsUnlike = { "MB928", kError,
                                               "Two lists show a column in two units and cannot be compared." };
+inline constexpr FindingCode kConfiguredWordUnknown = {
+    "MB929", kError, "A configuration file gives a key a value that is none of those it can have."
+};
+inline constexpr FindingCode kUnitsConfigured = { "MB930", kNote,
+                                                  "The units of a list are those of a configuration file." };
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();

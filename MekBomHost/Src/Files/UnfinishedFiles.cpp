@@ -2,10 +2,12 @@
 // the paths stand in slots that it reads as they are:
 //
 //   create()      signals held back; the file is made; its path goes to a free slot; signals let through
-//   the handler   unlinks the path of each slot, then lets the signal do what it would have done
+//   the handler   unlinks the path of each slot, takes a line of progress away, then lets the signal do what it would have done
 //
 // Without a free slot a file is not removed by signals, and that is all.
 #include "UnfinishedFiles.h"
+
+#include "ProgressLine.h"
 
 #include <array>
 #include <atomic>
@@ -43,6 +45,7 @@ extern "C" void removeAndEnd(int signal)
     for (const std::atomic<const char*>& slot : slots)
         if (const char* const pPath = slot.load())
             unlink(pPath);
+    ProgressLine::eraseAtSignal();
     std::signal(signal, SIG_DFL);
     std::raise(signal);
 }

@@ -13,7 +13,7 @@ namespace mekbom
 {
 namespace UnfinishedFiles
 {
-// Has SIGINT, SIGTERM, SIGHUP and SIGPIPE remove all unfinished files before they end the process as they would have.
+// Has SIGINT, SIGTERM, SIGHUP and SIGPIPE remove all unfinished files, and what ProgressLine shows, before they end the process as they would have.
 // A file that grows too large (SIGXFSZ) ends nothing: writing fails, as it does on a full disk. Does nothing where
 // there are no such signals.
 void removeAtSignals();

@@ -17,6 +17,7 @@
 #include "HeaderColumns.h"
 #include "InQuotes.h"
 #include "RowBuilder.h"
+#include "RowProgress.h"
 #include "TokenNames.h"
 #include "Utf8.h"
 
@@ -172,8 +173,14 @@ void PartsList::buildRows(CellReader& cells, VorBomData& data, int numFormulas)
     RowBuilder rows(data, m_columns.size());
     rows.reserveTuples(numFormulas);
     BatchesAhead batches(cells, m_columns.size(), m_numProcessors);
+    std::size_t numRows = 0;
     while (const RowBatch* const pBatch = batches.next())
+    {
         rows.build(*pBatch);
+        numRows += pBatch->numRows();
+        if (m_pProgress != nullptr)
+            m_pProgress->take(RowProgress::kReading, numRows);
+    }
 }
 
 // Before any row is read, so that the engine shows "Gap [in]" in the reader's units.

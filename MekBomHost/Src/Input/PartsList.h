@@ -39,6 +39,7 @@ namespace mekbom
 {
 class CellReader;
 class ColumnTypes;
+class RowProgress;
 
 class PartsList
 {
@@ -82,6 +83,9 @@ public:
     // Says of which kind tokens are that the catalogue does not know.
     void setOwnTokens(const std::map<std::string, eOwnToken>& ownTokens) { m_ownTokens = ownTokens; }
 
+    // Has readRows() tell how many rows it has read. Not owned, outlives the list; may be null.
+    void setProgress(RowProgress* pProgress) { m_pProgress = pProgress; }
+
     // Appends one row for each record to the template's data, and tells what is known of them. Rows carry the data that
     // the template asks for, and those of `otherTokens`. The template must have been told its units and have found its
     // used tokens: what has no kind then is a plain number, and its column may have no unit. To be called once.
@@ -109,5 +113,6 @@ private:
     std::unordered_map<std::string, std::size_t> m_indices; // of the first column with each token
     std::map<std::string, eOwnToken> m_ownTokens;
     std::vector<Finding> m_findings;
+    RowProgress* m_pProgress = nullptr;
 };
 }

@@ -20,6 +20,7 @@
 #include "GroupOrder.h"
 #include "OtherTotals.h"
 #include "OverflowCheck.h"
+#include "ProgressRelay.h"
 #include "RowTally.h"
 #include "RowTree.h"
 #include "SummaryTemplate.h"
@@ -130,7 +131,11 @@ void Report::evaluateRows()
     if (m_checksTotals)
         pSink = &check.emplace(m_template, *pSink);
     RowTally tally(m_template, *pSink);
-    VorBomEvaluator2::evaluate(&engineTemplate(), tally);
+    pSink = &tally;
+    std::optional<ProgressRelay> progress;
+    if (m_pProgress != nullptr)
+        pSink = &progress.emplace(tally, *m_pProgress);
+    VorBomEvaluator2::evaluate(&engineTemplate(), *pSink);
     if (equalLines)
     {
         equalLines->finish();

@@ -31,6 +31,8 @@
 
 namespace mekbom
 {
+class RowProgress;
+
 class Report
 {
 public:
@@ -85,6 +87,9 @@ public:
     // before it.
     void checkTotals() { m_checksTotals = true; }
 
+    // Has evaluate() tell how many rows it has placed in the list. Not owned, outlives the call; may be null.
+    void setProgress(RowProgress* pProgress) { m_pProgress = pProgress; }
+
     // Filters, unless that has been done, then evaluates. To be called once. Throws std::runtime_error when totals are
     // checked and one is wrong, or a row has gone nowhere.
     void evaluate();
@@ -119,5 +124,6 @@ private:
     ListFacts m_facts;
     std::vector<Finding> m_mistakes;
     bool m_checksTotals = false;
+    RowProgress* m_pProgress = nullptr;
 };
 }

@@ -59,6 +59,7 @@ NamedText textOf(ByteSource& source)
 DisplaySettings settingsOf(const ReportRequest& request, FindingList& findings)
 {
     DisplaySettings::Origins origins;
+    origins.configuration = request.configuredSettings;
     origins.environment = request.environment;
     if (request.pSettings != nullptr)
         origins.file = textOf(*request.pSettings);
@@ -207,6 +208,7 @@ ExitStatus ReportJob::checkReport()
 
 void ReportJob::evaluate()
 {
+    m_pReport->setProgress(m_request.pProgress);
     m_pReport->evaluate();
     takeMistakes(m_pReport->mistakes());
     checkLostTotals();
@@ -374,6 +376,7 @@ void ReportJob::readRows()
         return takeSampleRows();
     noteColumns();
     checkFilterTokens();
+    m_pParts->setProgress(m_request.pProgress);
     m_pParts->setOwnTokens(m_pReport->reportTemplate().ownTokens);
     std::vector<VorString> otherTokens = m_pReport->filterTokens();
     for (const VorString& token : RowsCheck::neededTokens(m_pReport->reportTemplate(), knownTokens()))

@@ -26,6 +26,8 @@
 
 namespace mekbom
 {
+class RowProgress;
+
 struct ReportRequest
 {
     using Pairs = std::vector<std::pair<std::string, std::string>>;
@@ -40,9 +42,10 @@ struct ReportRequest
     std::vector<std::unique_ptr<ByteSource>> candidates; // in order of preference; if none suits, the columns are
                                                          // printed as they are; without any, the default template
 
-    Pairs environment;                     // settings of the lowest rank: "C40_SuppressZeroFeet", "0"
-    std::unique_ptr<ByteSource> pSettings; // an INI text, over them; may be null
-    Pairs settings;                        // over both
+    Pairs configuredSettings;              // of the lowest rank: "C40_SuppressZeroFeet", "0"
+    Pairs environment;                     // settings over them
+    std::unique_ptr<ByteSource> pSettings; // an INI text, over both; may be null
+    Pairs settings;                        // over all of them
 
     std::string units = "metric";       // to show numbers in, or "imperial"
     std::unique_ptr<ByteSource> pUnits; // an INI text of units in place of that word; may be null
@@ -58,5 +61,7 @@ struct ReportRequest
     unsigned numProcessors = 1; // with two, long parts lists are read on a thread of their own: PartsList
 
     LineContents contents; // what the writer wants of lines beside their texts
+
+    RowProgress* pProgress = nullptr; // told how far the job is; not owned, must live while it runs; may be null
 };
 }

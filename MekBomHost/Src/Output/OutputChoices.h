@@ -21,6 +21,13 @@ struct OutputEncoding
     bool hasMark = false; // a byte order mark in front, by which programs know the encoding
 };
 
+// The sheets of paper that a list is printed on.
+enum ePaper
+{
+    kA4Paper,    // 210 by 297 mm
+    kLetterPaper // 8.5 by 11 in
+};
+
 struct OutputChoices
 {
     // What can be chosen; bits of a set.
@@ -33,7 +40,8 @@ struct OutputChoices
         kWidth = 1U << 4U,
         kCut = 1U << 5U,
         kAscii = 1U << 6U,
-        kEncoding = 1U << 7U
+        kEncoding = 1U << 7U,
+        kPaper = 1U << 8U
     };
 
     void give(eChoice choice) { given |= choice; }
@@ -50,5 +58,7 @@ struct OutputChoices
     int width = 0;          // that a table has to fit into, in columns of a terminal; 0 for as wide as need be
     bool cutsTexts = false; // those that are wider than their column, instead of going on in the next line
     bool isAscii = false;   // no other characters
+
+    std::optional<ePaper> paper; // none for that of the format or of the printer
 };
 }

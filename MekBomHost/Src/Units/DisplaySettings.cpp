@@ -1,5 +1,6 @@
-// A setting may be made three times, and the last one counts:
+// A setting may be made several times, and the last one counts:
 //   nobody says anything                           C40_SuppressZeroFeet is 1
+//   a line of a configuration file                 1
 //   a variable of that name in the environment     0
 //   a line of the settings file                    1 again
 //   --setting C40_SuppressZeroFeet=0               0
@@ -77,10 +78,11 @@ Finding noWholeNumber(const std::string& found)
     throw Fault(kWrongUsage, finding);
 }
 
-// Elsewhere a number may have blanks around it. A variable holds the number alone, as nobody lines variables up.
-void readEnvironment(const DisplaySettings::Pairs& environment, DisplaySettings& settings)
+// Those of the environment and of configuration files, of which the latter are known to be right. Elsewhere a number may
+// have blanks around it. A variable holds the number alone, as nobody lines variables up.
+void readPairs(const DisplaySettings::Pairs& pairs, DisplaySettings& settings)
 {
-    for (const auto& [name, value] : environment)
+    for (const auto& [name, value] : pairs)
         if (const Setting* const pSetting = findSetting(name))
             if (value.find_first_of(" \t") != std::string::npos ||
                 !NumberReader::read(value, settings.*pSetting->pNumber))
@@ -123,11 +125,20 @@ std::vector<std::string> DisplaySettings::names()
     return names;
 }
 
-// From the farthest to the nearest: what is set for the machine, for the shop, for this one list.
+std::optional<Finding> DisplaySettings::faultIn(const std::string& name, const std::string& value)
+{
+    int number = 0;
+    if (NumberReader::read(value, number))
+        return std::nullopt;
+    return noWholeNumber(inQuotes(value) + " for " + name);
+}
+
+// From the farthest to the nearest: what is set for the user, for the machine, for the shop, for this one list.
 DisplaySettings DisplaySettings::read(const Origins& origins, FindingList& findings)
 {
     DisplaySettings settings;
-    readEnvironment(origins.environment, settings);
+    readPairs(origins.configuration, settings);
+    readPairs(origins.environment, settings);
     if (origins.file)
         readFile(*origins.file, settings, findings);
     for (const auto& [name, value] : origins.options)

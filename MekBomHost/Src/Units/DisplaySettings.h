@@ -29,6 +29,7 @@ struct DisplaySettings
     // What was set, by where it comes from: a later one comes over an earlier one.
     struct Origins
     {
+        Pairs configuration;           // entries of configuration files, none of which has a faultIn()
         Pairs environment;             // variables whose name is one of names()
         std::optional<NamedText> file; // an INI file of whole numbers, perhaps with settings of other programs
         Pairs options;
@@ -36,6 +37,9 @@ struct DisplaySettings
 
     // The names of the settings, in the order of the numbers below.
     static std::vector<std::string> names();
+
+    // What is wrong with the value of a setting, without a place; nothing for a whole number.
+    static std::optional<Finding> faultIn(const std::string& name, const std::string& value);
 
     // Adds a note for each setting of the file that lists do not use. Throws a Fault for what is malformed: of status
     // kInvalidInput where the file is, else of kWrongUsage.

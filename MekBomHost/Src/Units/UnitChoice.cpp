@@ -11,8 +11,6 @@
 #include "UnitKinds.h"
 #include "Utf8.h"
 
-#include <optional>
-
 namespace mekbom::UnitChoice
 {
 namespace
@@ -99,6 +97,12 @@ Finding unitUnknown(const std::string& unit, const UnitKind& kind)
 {
     return Finding::of(FindingCodes::kUnitUnknown, inQuotes(unit),
                        std::string(kind.expectation) + ", and after a slash a precision if need be: lb/1, ft-in/16");
+}
+
+std::optional<Finding> faultIn(const std::string& kind, const std::string& unit)
+{
+    VorUnitsManager units;
+    return choose(units, kind, unit);
 }
 
 const char* const kMetric = "metric";

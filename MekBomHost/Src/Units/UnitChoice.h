@@ -20,6 +20,7 @@
 
 #include "MekRoots/Exp/VorUnitsManager.h"
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -33,6 +34,9 @@ Finding unitUnknown(const std::string& unit, const UnitKind& kind);
 
 extern const char* const kMetric;
 extern const char* const kImperial;
+
+// What is wrong with such a choice, without a place; nothing where it can be made.
+std::optional<Finding> faultIn(const std::string& kind, const std::string& unit);
 
 // Whether `word` names units to start from, kMetric or kImperial; if not, it is most likely the name of a file.
 bool isBase(const std::string& word);

@@ -9,6 +9,7 @@
 #include "FindingCodes.h"
 #include "FindingList.h"
 #include "ReportOutputs.h"
+#include "RunProgress.h"
 #include "ShippedFiles.h"
 #include "TemplateFile.h"
 
@@ -66,19 +67,24 @@ CLI::App& DiffVerb::declareOn(CLI::App& parent)
 
 ExitStatus DiffVerb::run(FindingList& findings)
 {
-    const ReportOutputs outputs(m_outputs.wanted(), m_outputs.choices());
+    const Configuration configuration = m_list.configurationFor(m_template.name());
+    const ReportOutputs outputs(m_outputs.wanted(), m_outputs.choicesOver(configuration.output()));
     std::vector<std::string> inputs = m_list.inputNames();
     inputs.insert(inputs.end(), { m_oldData, m_newData, m_template.name() });
     m_outputs.refuseInputs(inputs);
+    m_outputs.refuseInputs(configuration.files());
 
-    ReportRequest ofNew = request(m_newData);
+    RunProgress progress;
+    ReportRequest ofNew = request(m_newData, configuration);
+    ofNew.pProgress = progress.ofRows();
     addTemplates(ofNew);
     ReportJob newJob(std::move(ofNew));
     if (const ExitStatus status = runJob(newJob, findings); status != kDone)
         return status;
     std::optional<ComparedList> oldList;
     {
-        ReportRequest ofOld = request(m_oldData);
+        ReportRequest ofOld = request(m_oldData, configuration);
+        ofOld.pProgress = progress.ofRows();
         setTemplate(ofOld, templateFor(newJob));
         ReportJob oldJob(std::move(ofOld));
         if (const ExitStatus status = runJob(oldJob, findings); status != kDone)
@@ -87,19 +93,21 @@ ExitStatus DiffVerb::run(FindingList& findings)
     }
     const Changes changes(*oldList, ComparedList(newJob), newJob, outputs.contents());
     const EvaluatedReport report = changes.report();
-    outputs.write(report);
+    outputs.write(report, &progress);
+    if (const auto note = m_list.noteOfUnits(configuration))
+        findings.add(*note);
     for (const Finding& note : outputs.footNotes(report))
         findings.add(note);
     return changes.any() ? kDifferent : kDone;
 }
 
 // The rows tell which objects lines stand for, and the values what has become of totals.
-ReportRequest DiffVerb::request(const std::string& dataName) const
+ReportRequest DiffVerb::request(const std::string& dataName, const Configuration& configuration) const
 {
     ReportRequest request;
     request.parts.push_back(DataFile::open(dataName));
     request.numProcessors = std::thread::hardware_concurrency();
-    m_list.fillIn(request);
+    m_list.fillIn(request, configuration);
     request.contents.values = true;
     request.contents.rows = true;
     return request;

@@ -25,7 +25,7 @@ public:
     ExitStatus run(FindingList& findings) override;
 
 private:
-    ReportRequest request(const std::string& dataName) const;
+    ReportRequest request(const std::string& dataName, const Configuration& configuration) const;
     void addTemplates(ReportRequest& request) const;
     void setTemplate(ReportRequest& request, const std::string& name) const;
     std::string templateFor(const ReportJob& newJob) const;

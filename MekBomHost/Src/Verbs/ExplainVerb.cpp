@@ -14,6 +14,7 @@
 #include "FindingList.h"
 #include "LineInWords.h"
 #include "ReportJob.h"
+#include "RunProgress.h"
 #include "StandardOutput.h"
 #include "TemplateFile.h"
 #include "TemplateInWords.h"
@@ -22,6 +23,7 @@
 #include <CLI/CLI.hpp>
 
 #include <memory>
+#include <utility>
 
 namespace mekbom
 {
@@ -95,11 +97,18 @@ ExitStatus ExplainVerb::explainTemplate() const
 // The words look at the job, which lives until they are printed.
 ExitStatus ExplainVerb::explainList(FindingList& findings) const
 {
-    ReportJob job(request());
+    const Configuration configuration = m_list.configurationFor(m_templateName);
+    RunProgress progress;
+    ReportRequest wanted = request(configuration);
+    wanted.pProgress = progress.ofRows();
+    ReportJob job(std::move(wanted));
     const ExitStatus status = job.run();
+    progress.end();
     findings.addAll(job.findings().all(), job.findings().numErrors());
     if (status != kDone)
         return status;
+    if (const auto note = m_list.noteOfUnits(configuration))
+        findings.add(*note);
     const EvaluatedReport report = job.report();
     const ExplainedReport explained{ job.reportTemplate(), job.units(), report, job.rowNumbers() };
     const LineInWords lines(explained);
@@ -108,13 +117,13 @@ ExitStatus ExplainVerb::explainList(FindingList& findings) const
     return kDone;
 }
 
-ReportRequest ExplainVerb::request() const
+ReportRequest ExplainVerb::request(const Configuration& configuration) const
 {
     ReportRequest request;
     request.parts = DataFile::openAll(m_data.names());
     if (m_templateName != TemplateFile::kDefault)
         request.pTemplate = TemplateFile::open(m_templateName, "template");
-    m_list.fillIn(request);
+    m_list.fillIn(request, configuration);
     request.contents.values = true;
     request.contents.rows = true;
     return request;

@@ -24,7 +24,7 @@ public:
 private:
     ExitStatus explainTemplate() const;
     ExitStatus explainList(FindingList& findings) const;
-    ReportRequest request() const;
+    ReportRequest request(const Configuration& configuration) const;
 
     std::string m_templateName; // a file, a shipped list or "default"
     FileOption m_data{ "--data", "FILE" };

@@ -2,6 +2,7 @@
 //
 //   mekbom help                     what mekbom --help prints
 //   mekbom help units convert       what mekbom units convert --help prints
+//   mekbom help --man               all of it as a manual page
 #pragma once
 
 #include "Verb.h"
@@ -20,5 +21,6 @@ public:
 private:
     const CLI::App* m_pProgram = nullptr; // not owned; outlives the run, since it parsed the words
     std::vector<std::string> m_words;     // of the command: "units", "convert"
+    bool m_isManPage = false;
 };
 }

@@ -15,6 +15,7 @@
 #include "FindingCodes.h"
 #include "FindingList.h"
 #include "ReportOutputs.h"
+#include "RunProgress.h"
 #include "ShippedFiles.h"
 #include "TemplateFile.h"
 
@@ -74,13 +75,31 @@ Output
   feet and inches. A text that a spreadsheet would run gets an apostrophe in front. What
   the list is made of is told on standard error then, or with --foot behind the records.
 
+Configuration
+  What is the same for many lists may stand in a file: ~/.config/mekbom/config.ini is for
+  all lists of its user, and mekbom.ini in the folder of a template file for those of the
+  templates there, over the user's. Options win over both. Lines are such as
+  units = imperial, length = ft-in/16, C40_SuppressZeroFeet = 0, output-delimiter = ;,
+  output-decimal = ,, output-encoding = utf-8-bom and paper = letter. Units that a list has
+  from such a file are told on standard error; units = metric leaves nothing of those that
+  the user's file names, and --units nothing of both. --no-config reads neither.
+
 Settings
   C0_BOMSuppressLastZeros          0 keeps trailing zeros: 2.50
   C40_SuppressZeroFeet             0 shows 0' 6" instead of 6"
   C40_SuppressZeroInch             0 shows 7' 0" instead of 7'
   C40_ShowMinusBetweenFeetAndInch  1 shows 7'-6" instead of 7' 6"
   Environment variables of these names count too; a settings file, whose lines are such as
-  C40_SuppressZeroFeet = 0, comes over them, and --setting over both.
+  C40_SuppressZeroFeet = 0, comes over them, and --setting over both. A configuration file
+  comes below all of them.
+
+Files
+  ~/.config/mekbom/config.ini  configuration of the user
+  mekbom.ini                   in the folder of a template file: configuration of its lists
+
+Environment
+  XDG_CONFIG_HOME  the folder that stands in place of ~/.config
+  TMPDIR           the folder for temporary files of workbooks [/tmp]
 
 Examples
   mekbom demo
@@ -129,25 +148,31 @@ void ReportVerb::declareOptionsOn(CLI::App& command)
 // a name.
 ExitStatus ReportVerb::run(FindingList& findings)
 {
-    ReportRequest wanted = request();
-    const ReportOutputs outputs(m_outputs.wanted(), m_outputs.choices());
+    const Configuration configuration = m_list.configurationFor(m_template.name());
+    ReportRequest wanted = request(configuration);
+    const ReportOutputs outputs(m_outputs.wanted(), m_outputs.choicesOver(configuration.output()));
     m_outputs.refuseInputs(inputNames());
+    m_outputs.refuseInputs(configuration.files());
     wanted.contents = outputs.contents();
+    RunProgress progress;
+    wanted.pProgress = progress.ofRows();
     m_pJob = std::make_unique<ReportJob>(std::move(wanted));
     const ExitStatus status = m_pJob->run();
     findings.addAll(m_pJob->findings().all(), m_pJob->findings().numErrors());
     if (status != kDone)
         return status;
-    outputs.write(m_pJob->report());
+    outputs.write(m_pJob->report(), &progress);
+    if (const auto note = m_list.noteOfUnits(configuration))
+        findings.add(*note);
     for (const Finding& note : outputs.footNotes(m_pJob->report()))
         findings.add(note);
     return kDone;
 }
 
-ReportRequest ReportVerb::request() const
+ReportRequest ReportVerb::request(const Configuration& configuration) const
 {
     ReportRequest request;
-    m_list.fillIn(request);
+    m_list.fillIn(request, configuration);
     request.isSummary = m_isSummary;
     request.checksTotals = m_checksTotals;
     request.parts = parts();

@@ -40,7 +40,7 @@ private:
     // when nothing is given.
     virtual std::vector<std::string> dataNames() const;
 
-    ReportRequest request() const;
+    ReportRequest request(const Configuration& configuration) const;
     std::vector<std::unique_ptr<ByteSource>> parts() const; // none for the sample rows
     void addTemplates(ReportRequest& request) const;
     std::vector<std::string> inputNames() const;

@@ -36,7 +36,7 @@ std::string numbersFrom(const Origins& origins)
 
 Origins fromFile(const std::string& text)
 {
-    return { {}, NamedText{ "shop.ini", text }, {} };
+    return { {}, {}, NamedText{ "shop.ini", text }, {} };
 }
 
 std::string faultFrom(const Origins& origins)
@@ -68,9 +68,13 @@ TEST(DisplaySettingsTest, NamesAreThoseOfTheRepository)
         EXPECT_EQ(toUtf8(KTRepositoryProxy::kDisplayKeys[i]), names[i]);
 }
 
-TEST(DisplaySettingsTest, FilesComeOverTheEnvironmentAndOptionsOverBoth)
+TEST(DisplaySettingsTest, FilesComeOverTheEnvironmentAndTheConfigurationAndOptionsOverAll)
 {
     Origins origins;
+    origins.configuration = { { "C40_SuppressZeroFeet", "5" }, { "C40_ShowMinusBetweenFeetAndInch", "1" } };
+    EXPECT_EQ("1 5 1 1", numbersFrom(origins));
+
+    origins.configuration.pop_back();
     origins.environment = { { "C40_SuppressZeroFeet", "4" }, { "HOME", "/" } };
     EXPECT_EQ("1 4 1 0", numbersFrom(origins));
 
@@ -121,28 +125,35 @@ TEST(DisplaySettingsTest, WhatAFileSaysReachesNoTerminalAsACommand)
     EXPECT_EQ("3 shop.ini:1: found \"?[2J\", expected a line such as key = value\n", faultFrom(fromFile("\x1B[2J")));
 }
 
+TEST(DisplaySettingsTest, ValuesAreCheckedWithoutBeingSet)
+{
+    EXPECT_FALSE(DisplaySettings::faultIn("C40_SuppressZeroFeet", "0"));
+    EXPECT_EQ("found \"0.5\" for C40_SuppressZeroFeet, expected a whole number",
+              messageOf(DisplaySettings::faultIn("C40_SuppressZeroFeet", "0.5").value()));
+}
+
 TEST(DisplaySettingsTest, OptionsAreChecked)
 {
     EXPECT_EQ("2 --setting: found \"C40_SupressZeroFeet\", expected one of C0_BOMSuppressLastZeros, "
               "C40_SuppressZeroFeet, C40_SuppressZeroInch, C40_ShowMinusBetweenFeetAndInch: did you mean "
               "\"C40_SuppressZeroFeet\"?\n",
-              faultFrom({ {}, {}, { { "C40_SupressZeroFeet", "1" } } }));
+              faultFrom({ {}, {}, {}, { { "C40_SupressZeroFeet", "1" } } }));
     EXPECT_EQ("2 --setting C40_SuppressZeroFeet: found \"yes\", expected a whole number\n",
-              faultFrom({ {}, {}, { { "C40_SuppressZeroFeet", "yes" } } }));
+              faultFrom({ {}, {}, {}, { { "C40_SuppressZeroFeet", "yes" } } }));
 }
 
 TEST(DisplaySettingsTest, AVariableThatIsNoWholeNumberIsNamed)
 {
     EXPECT_EQ("2 environment: found \"yes\" for C40_SuppressZeroFeet, expected a whole number\n",
-              faultFrom({ { { "C40_SuppressZeroFeet", "yes" } }, {}, {} }));
+              faultFrom({ {}, { { "C40_SuppressZeroFeet", "yes" } }, {}, {} }));
 }
 
 TEST(DisplaySettingsTest, AVariableWithBlanksAroundItsNumberIsRefused)
 {
     EXPECT_EQ("2 environment: found \" 1\" for C40_SuppressZeroFeet, expected a whole number\n",
-              faultFrom({ { { "C40_SuppressZeroFeet", " 1" } }, {}, {} }));
+              faultFrom({ {}, { { "C40_SuppressZeroFeet", " 1" } }, {}, {} }));
     EXPECT_EQ("2 environment: found \"1 \" for C40_SuppressZeroFeet, expected a whole number\n",
-              faultFrom({ { { "C40_SuppressZeroFeet", "1 " } }, {}, {} }));
+              faultFrom({ {}, { { "C40_SuppressZeroFeet", "1 " } }, {}, {} }));
 }
 
 TEST(DisplaySettingsTest, TwoReportsShowTheSameLengthByTheirOwnSettings)

@@ -145,4 +145,11 @@ TEST(UnitChoiceTest, BasesAreToldFromFiles)
     EXPECT_FALSE(UnitChoice::isBase("shop.ini"));
     EXPECT_FALSE(UnitChoice::isBase(""));
 }
+
+TEST(UnitChoiceTest, ChoicesAreCheckedWithoutBeingMade)
+{
+    EXPECT_FALSE(UnitChoice::faultIn("length", "ft-in/16"));
+    EXPECT_EQ(FindingCodes::kUnitUnknown.name, UnitChoice::faultIn("length", "kg").value().code);
+    EXPECT_EQ(FindingCodes::kKindUnknown.name, UnitChoice::faultIn("lenght", "m").value().code);
+}
 }

@@ -9,10 +9,7 @@ namespace mekbom
 class CsvWriter : public ReportWriter
 {
 public:
-    explicit CsvWriter(const OutputChoices& choices, char delimiter = ',')
-        : m_choices(choices), m_delimiter(choices.delimiter.value_or(delimiter))
-    {
-    }
+    explicit CsvWriter(const OutputChoices& choices) : CsvWriter(choices, choices.delimiter.value_or(',')) {}
 
     // Values tell numbers from texts that look like some.
     LineContents contents() const override { return { true, false }; }
@@ -22,12 +19,15 @@ public:
 
     void write(const EvaluatedReport& report, TextSink& sink) const override;
 
+protected:
+    CsvWriter(const OutputChoices& choices, char delimiter) : m_choices(choices), m_delimiter(delimiter) {}
+
 private:
     OutputChoices m_choices;
     char m_delimiter;
 };
 
-// The same with tabs between the fields.
+// The same with tabs between the fields, whatever stands between those of csv.
 class TsvWriter : public CsvWriter
 {
 public:

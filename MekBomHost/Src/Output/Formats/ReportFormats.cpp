@@ -46,9 +46,9 @@ const Format kFormats[] = {
     { kText, "txt", OutputChoices::kWidth | OutputChoices::kCut | OutputChoices::kAscii, create<TextTableWriter> },
     { "csv", "csv", kChoicesOfRecords | OutputChoices::kDelimiter, create<CsvWriter> },
     { "tsv", "tsv", kChoicesOfRecords, create<TsvWriter> },
-    { "html", "html htm", 0, create<HtmlWriter> },
+    { "html", "html htm", OutputChoices::kPaper, create<HtmlWriter> },
     { "json", "json", 0, create<JsonListWriter> },
-    { "xlsx", "xlsx", OutputChoices::kValues, create<XlsxWriter> },
+    { "xlsx", "xlsx", OutputChoices::kValues | OutputChoices::kPaper, create<XlsxWriter> },
 };
 
 // Endings that stand for a format which has no line above.

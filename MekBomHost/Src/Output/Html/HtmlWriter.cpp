@@ -13,6 +13,6 @@ LineContents HtmlWriter::contents() const
 
 void HtmlWriter::write(const EvaluatedReport& report, TextSink& sink) const
 {
-    ListPage(report, sink).write();
+    ListPage(report, sink, m_paper).write();
 }
 }

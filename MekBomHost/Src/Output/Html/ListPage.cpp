@@ -20,13 +20,14 @@ const char* const kHead =
     "script-src 'unsafe-inline'; base-uri 'none'; form-action 'none'\">\n";
 }
 
-ListPage::ListPage(const EvaluatedReport& report, TextSink& sink)
+ListPage::ListPage(const EvaluatedReport& report, TextSink& sink, std::optional<ePaper> paper)
     : m_report(report),
       m_sink(sink),
       m_survey(report),
       m_weights(report, m_survey),
       m_bars(m_weights),
-      m_table(report, m_survey, m_page)
+      m_table(report, m_survey, m_page),
+      m_paper(paper)
 {
 }
 
@@ -50,7 +51,21 @@ void ListPage::writeHead()
     m_page.append(kHead).append("<title>");
     HtmlText::append(m_page, title);
     m_page.append("</title>\n<style>\n").append(PageParts::kStyle).append(m_table.style());
-    m_page.append("@page{@top-left{content:").append(HtmlText::inStyle(title)).append("}}\n</style>\n");
+    m_page.append(sizeOfSheets())
+        .append("@page{@top-left{content:")
+        .append(HtmlText::inStyle(title))
+        .append("}}\n</style>\n");
+}
+
+// Of a wide list sheets are held across. Without a paper they have the size that the printer has.
+std::string ListPage::sizeOfSheets() const
+{
+    std::string size;
+    if (m_paper)
+        size = *m_paper == kA4Paper ? "A4" : "letter";
+    if (m_table.isAcross())
+        size += size.empty() ? "landscape" : " landscape";
+    return size.empty() ? size : "@page{size:" + size + "}\n";
 }
 
 // A list that leaves rows out says so where a reader begins.

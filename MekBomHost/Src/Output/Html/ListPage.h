@@ -9,11 +9,13 @@
 #include "EvaluatedReport.h"
 #include "GroupWeights.h"
 #include "ListSurvey.h"
+#include "OutputChoices.h"
 #include "PageTable.h"
 #include "TextSink.h"
 #include "WeightBars.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 namespace mekbom
@@ -22,13 +24,15 @@ class ListPage
 {
 public:
     // `report` has values. Neither `report` nor `sink` is owned; both must outlive the page.
-    ListPage(const EvaluatedReport& report, TextSink& sink);
+    // It is printed on `paper`, or on that of the printer where there is none.
+    ListPage(const EvaluatedReport& report, TextSink& sink, std::optional<ePaper> paper = std::nullopt);
 
     // Writes the whole page into the sink and finishes that. To be called once.
     void write();
 
 private:
     void writeHead();
+    std::string sizeOfSheets() const;
     void writeTitle();
     void writeTools();
     void writeList();
@@ -42,5 +46,6 @@ private:
     const WeightBars m_bars;
     std::string m_page; // what has been written but not passed on to the sink
     PageTable m_table;
+    std::optional<ePaper> m_paper;
 };
 }

@@ -223,16 +223,20 @@ std::string PageTable::style() const
            besideCards + "screen and (max-width:40rem){\n" + named + "}\n" + widths();
 }
 
-// Of a long list the widths of its columns, and of a wide one how its sheets are held.
+// Of a long list the widths of its columns.
 std::string PageTable::widths() const
 {
-    std::string style = width() > kMostUpright ? "@page{size:landscape}\n" : "";
     if (!isLong())
-        return style;
-    style += ".long{--columns:";
+        return std::string();
+    std::string style = ".long{--columns:";
     for (std::size_t i = 0; i < m_report.columns().size(); ++i)
         style += " calc(" + std::to_string(widthOf(i)) + "ch + 1.7rem)";
     return style + "}\n";
+}
+
+bool PageTable::isAcross() const
+{
+    return width() > kMostUpright;
 }
 
 bool PageTable::isWide() const

@@ -50,6 +50,9 @@ public:
     // The style of the columns: how they are aligned, and what stands before their values where there are no headings.
     std::string style() const;
 
+    // Whether the list is too wide for sheets that are held upright.
+    bool isAcross() const;
+
 private:
     bool isLong() const { return m_survey.numLines() > kMostLinesAtOnce; }
     void writeHeadings();

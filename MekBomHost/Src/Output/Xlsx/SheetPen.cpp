@@ -19,7 +19,6 @@ const double kRoomAtEnds = 1;
 const int kIndent = 2; // characters, about as wide as an indent
 const std::size_t kLongestCellName = 16;
 
-const std::uint8_t kA4 = 9;
 const char* const kAllCells = "A1:XFD1048576"; // of which programs would mark each text of digits as a mistake
 
 std::string cellName(lxw_row_t row, std::size_t column)
@@ -49,7 +48,6 @@ bool hasLines(std::string_view text)
 SheetPen::SheetPen(WorkbookFile& file, CellFormats& formats, const std::string& name, std::size_t numColumns)
     : m_formats(formats), m_name(name), m_sheet(file.addSheet(name)), m_widths(numColumns)
 {
-    worksheet_set_paper(&m_sheet, kA4);
     worksheet_fit_to_pages(&m_sheet, 1, 0);
     WorkbookFile::require(worksheet_ignore_errors(&m_sheet, LXW_IGNORE_NUMBER_STORED_AS_TEXT, kAllCells));
 }

@@ -19,6 +19,8 @@ namespace mekbom
 namespace
 {
 const std::time_t kCreated = 315532800; // 1980-01-01 00:00 UTC, as of all files in the workbook: the clock is no input
+const std::uint8_t kA4 = 9;             // as the format numbers sheets of paper
+const std::uint8_t kLetter = 1;
 const int kDiskErrors[] = { ENOSPC, EFBIG, EIO, EDQUOT };
 
 [[noreturn]] void fail(const std::string& reason)
@@ -46,7 +48,8 @@ lxw_error closeAlone(lxw_workbook* pWorkbook)
 }
 
 // The workbook keeps the path of its temporary folder, and not a copy.
-WorkbookFile::WorkbookFile(const std::string& title) : m_path(m_file.path()), m_temporaryFolder(NamelessFile::folder())
+WorkbookFile::WorkbookFile(const std::string& title, ePaper paper)
+    : m_paper(paper), m_path(m_file.path()), m_temporaryFolder(NamelessFile::folder())
 {
     lxw_workbook_options options = {};
     options.constant_memory = LXW_TRUE;
@@ -66,6 +69,7 @@ lxw_worksheet& WorkbookFile::addSheet(const std::string& name)
     lxw_worksheet* const pSheet = workbook_add_worksheet(m_pWorkbook.get(), name.c_str());
     if (pSheet == nullptr)
         fail("no temporary file can be made for the rows of a sheet in " + m_temporaryFolder);
+    worksheet_set_paper(pSheet, m_paper == kA4Paper ? kA4 : kLetter);
     m_sheets.push_back(pSheet);
     return *pSheet;
 }

@@ -11,6 +11,7 @@
 #pragma once
 
 #include "NamelessFile.h"
+#include "OutputChoices.h"
 #include "TextSink.h"
 
 #include <xlsxwriter.h>
@@ -24,9 +25,9 @@ namespace mekbom
 class WorkbookFile
 {
 public:
-    // `title` is that of the document, UTF-8. Throws a Fault of status kOutputNotWritten when there can be no temporary
+    // `title` is that of the document, UTF-8; its sheets are printed on that paper. Throws a Fault of status kOutputNotWritten when there can be no temporary
     // file.
-    explicit WorkbookFile(const std::string& title);
+    explicit WorkbookFile(const std::string& title, ePaper paper = kA4Paper);
 
     lxw_workbook& workbook() { return *m_pWorkbook; }
 
@@ -48,6 +49,7 @@ private:
 
     void requireRows() const;
 
+    ePaper m_paper;
     NamelessFile m_file;
     std::string m_path; // of the file
     std::string m_temporaryFolder;

@@ -43,7 +43,7 @@ LineContents XlsxWriter::contents() const
 void XlsxWriter::write(const EvaluatedReport& report, TextSink& sink) const
 {
     const PointLocale locale;
-    WorkbookFile file(SheetText::inOneLine(report.title(), kLongestTitle));
+    WorkbookFile file(SheetText::inOneLine(report.title(), kLongestTitle), m_settings.paper);
     CellFormats formats(file.workbook());
     ListSheets(report, m_settings, file, formats).write();
     AboutSheet::write(report, file, formats);

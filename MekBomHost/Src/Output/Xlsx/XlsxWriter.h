@@ -26,7 +26,10 @@ public:
     explicit XlsxWriter(const XlsxSettings& settings) : m_settings(settings) {}
 
     // Plain values are given beside texts, where the list shows quantities in a way that no number does.
-    explicit XlsxWriter(const OutputChoices& choices) : XlsxWriter(XlsxSettings{ choices.hasPlainValues }) {}
+    explicit XlsxWriter(const OutputChoices& choices)
+        : XlsxWriter(XlsxSettings{ choices.hasPlainValues, choices.paper.value_or(kA4Paper) })
+    {
+    }
 
     LineContents contents() const override;
 

@@ -7,11 +7,11 @@
 // With `-o list.csv --to json` alone nothing would be JSON, so one of the two wishes is not meant.
 #include "OutputOptions.h"
 
-#include "CsvDelimiter.h"
 #include "Fault.h"
 #include "FindingCodes.h"
 #include "InQuotes.h"
 #include "NearestWord.h"
+#include "OutputWords.h"
 #include "ReportFormats.h"
 #include "WordOption.h"
 
@@ -47,30 +47,14 @@ const ChoiceOption kChoiceOptions[] = {
     { OutputChoices::kWidth, "--width" },
     { OutputChoices::kCut, "--cut" },
     { OutputChoices::kAscii, "--ascii" },
+    { OutputChoices::kPaper, "--paper" },
 };
 
-// What the words of options stand for: whether values are plain, and the rest as it is.
+// What the words stand for: whether values are plain.
 const WordOption::Choices<bool>& values()
 {
     static const WordOption::Choices<bool> values = { { "shown", false }, { "plain", true } };
     return values;
-}
-
-const WordOption::Choices<char>& decimalSigns()
-{
-    static const WordOption::Choices<char> signs = { { ".", '.' }, { ",", ',' } };
-    return signs;
-}
-
-const WordOption::Choices<OutputEncoding>& encodings()
-{
-    static const WordOption::Choices<OutputEncoding> encodings = {
-        { "utf-8", { TextEncoding::kUtf8, false } },
-        { "utf-8-bom", { TextEncoding::kUtf8, true } },
-        { "utf-16le", { TextEncoding::kUtf16LittleEndian, true } },
-        { "windows-1252", { TextEncoding::kWindows1252, false } }
-    };
-    return encodings;
 }
 
 // "text, csv, json"
@@ -116,6 +100,14 @@ void OutputOptions::declareOn(CLI::App& command)
         ->type_name("FORMAT");
     declareCsvOptionsOn(command);
     declareTextOptionsOn(command);
+    WordOption::declare(command, "--paper", "WORD",
+                        "Paper that html and xlsx are printed on: a4 or letter [that of the printer; a4]",
+                        OutputWords::papers(),
+                        [this](ePaper paper)
+                        {
+                            m_choices.give(OutputChoices::kPaper);
+                            m_choices.paper = paper;
+                        });
 }
 
 void OutputOptions::declareTextOptionsOn(CLI::App& command)
@@ -146,20 +138,21 @@ void OutputOptions::declareCsvOptionsOn(CLI::App& command)
                             m_choices.hasPlainValues = arePlain;
                         });
     WordOption::declare(command, "--output-delimiter", "SIGN", "Between columns of csv: , ; | or tab [,]",
-                        CsvDelimiter::all(),
+                        OutputWords::delimiters(),
                         [this](char delimiter)
                         {
                             m_choices.give(OutputChoices::kDelimiter);
                             m_choices.delimiter = delimiter;
                         });
-    WordOption::declare(command, "--output-decimal", "SIGN", "Decimal sign of csv: . or , [.]", decimalSigns(),
+    WordOption::declare(command, "--output-decimal", "SIGN", "Decimal sign of csv: . or , [.]",
+                        OutputWords::decimalSigns(),
                         [this](char sign)
                         {
                             m_choices.give(OutputChoices::kDecimalSign);
                             m_choices.decimalSign = sign;
                         });
     WordOption::declare(command, "--output-encoding", "NAME",
-                        "Encoding of csv: utf-8, utf-8-bom, utf-16le or windows-1252 [utf-8]", encodings(),
+                        "Encoding of csv: utf-8, utf-8-bom, utf-16le or windows-1252 [utf-8]", OutputWords::encodings(),
                         [this](OutputEncoding encoding)
                         {
                             m_choices.give(OutputChoices::kEncoding);
@@ -191,6 +184,21 @@ std::vector<WantedOutput> OutputOptions::wanted() const
     refuseContradiction(outputs);
     refuseIdleChoices(outputs);
     return outputs;
+}
+
+// What a configuration asks for of formats that are not written does no harm, so that it is not looked at in wanted().
+OutputChoices OutputOptions::choicesOver(const OutputChoices& configured) const
+{
+    OutputChoices choices = m_choices;
+    if (!choices.has(OutputChoices::kDelimiter))
+        choices.delimiter = configured.delimiter;
+    if (!choices.has(OutputChoices::kDecimalSign))
+        choices.decimalSign = configured.decimalSign;
+    if (!choices.has(OutputChoices::kEncoding))
+        choices.encoding = configured.encoding;
+    if (!choices.has(OutputChoices::kPaper))
+        choices.paper = configured.paper;
+    return choices;
 }
 
 // A slip such as `-o parts.csv` must not cost the parts list. Files are compared as the file system knows them, so that

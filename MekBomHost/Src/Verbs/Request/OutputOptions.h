@@ -4,7 +4,7 @@
 //   outputs.declareOn(report);
 //   app.parse(numArguments, arguments);                 "mekbom report -o list.txt -o list.csv --values plain"
 //   outputs.wanted()              ->  { "list.txt", "text" } and { "list.csv", "csv" }
-//   outputs.choices()             ->  those of --values
+//   outputs.choicesOver(OutputChoices())   ->  those of --values
 #pragma once
 
 #include "FileOption.h"
@@ -42,7 +42,8 @@ public:
     // no output understands one of the choices.
     std::vector<WantedOutput> wanted() const;
 
-    const OutputChoices& choices() const { return m_choices; }
+    // What was chosen, over what configuration files choose.
+    OutputChoices choicesOver(const OutputChoices& configured) const;
 
     // Throws a Fault of status kWrongUsage when an output would take the place of one of these files. Names that are
     // empty, and such as "hall" that are no files, do not matter.

@@ -11,6 +11,7 @@
 #include "FindingCodes.h"
 #include "OutputFile.h"
 #include "ReportFormats.h"
+#include "RunProgress.h"
 #include "StandardOutput.h"
 
 #include <algorithm>
@@ -19,19 +20,37 @@ namespace mekbom
 {
 namespace
 {
+const std::size_t kBytesBetween = 1 << 16; // arbitrary: a look at the clock is nothing against writing so many
+
 // Hands on what is written, and keeps the end for later: a writer finishes its sink, and so each file would be replaced
-// before the next output has been tried.
+// before the next output has been tried. Tells what has been written, but for standard output, where the list shows.
 class HeldSink : public TextSink
 {
 public:
-    explicit HeldSink(std::unique_ptr<TextSink> pSink) : m_pSink(std::move(pSink)) {}
+    HeldSink(std::unique_ptr<TextSink> pSink, const WantedOutput& output, RunProgress* pProgress)
+        : m_pSink(std::move(pSink)), m_output(output), m_pProgress(pProgress)
+    {
+    }
 
-    void write(std::string_view text) override { m_pSink->write(text); }
+    void write(std::string_view text) override
+    {
+        m_pSink->write(text);
+        m_numBytes += text.size();
+        if (m_pProgress == nullptr || m_output.isStandardOutput() || m_numBytes < m_numTold + kBytesBetween)
+            return;
+        m_pProgress->takeWritten(m_output.fileName, m_numBytes);
+        m_numTold = m_numBytes;
+    }
+
     void finish() override {}
     void release() { m_pSink->finish(); }
 
 private:
     std::unique_ptr<TextSink> m_pSink;
+    const WantedOutput& m_output; // not owned
+    RunProgress* m_pProgress;     // not owned; may be null
+    std::size_t m_numBytes = 0;
+    std::size_t m_numTold = 0; // of these
 };
 
 std::unique_ptr<TextSink> sinkOf(const WantedOutput& output)
@@ -59,13 +78,17 @@ LineContents ReportOutputs::contents() const
 }
 
 // The standard output is the last one and the first that is finished: when its device is full, the files stay.
-void ReportOutputs::write(const EvaluatedReport& report) const
+void ReportOutputs::write(const EvaluatedReport& report, RunProgress* pProgress) const
 {
     std::vector<std::unique_ptr<HeldSink>> sinks;
     for (const Output& output : m_outputs)
-        sinks.push_back(std::make_unique<HeldSink>(sinkOf(output.wanted)));
+        sinks.push_back(std::make_unique<HeldSink>(sinkOf(output.wanted), output.wanted, pProgress));
     for (std::size_t i = 0; i < sinks.size(); ++i)
+    {
+        if (m_outputs[i].wanted.isStandardOutput() && pProgress != nullptr)
+            pProgress->end();
         m_outputs[i].pWriter->write(report, *sinks[i]);
+    }
     std::for_each(sinks.rbegin(), sinks.rend(), [](const auto& pSink) { pSink->release(); });
 }
 

@@ -1,6 +1,6 @@
 // The outputs of one run, written from one evaluated report.
 //
-//   const ReportOutputs outputs(options.wanted(), options.choices());
+//   const ReportOutputs outputs(options.wanted(), options.choicesOver(OutputChoices()));
 //   request.contents = outputs.contents();
 //   ReportJob job(std::move(request));
 //   if (job.run() == kDone)
@@ -16,6 +16,8 @@
 
 namespace mekbom
 {
+class RunProgress;
+
 class ReportOutputs
 {
 public:
@@ -26,8 +28,8 @@ public:
     LineContents contents() const;
 
     // Writes all of them. No file is replaced before all outputs have been written to their end: when one fails, all
-    // files are what they were before. Throws a Fault of status kOutputNotWritten, and what a writer throws.
-    void write(const EvaluatedReport& report) const;
+    // files are what they were before. `pProgress` is told what has been written; it is not owned and may be null. Throws a Fault of status kOutputNotWritten, and what a writer throws.
+    void write(const EvaluatedReport& report, RunProgress* pProgress = nullptr) const;
 
     // What the list is made of, as notes, if some output has no place for it; none otherwise.
     std::vector<Finding> footNotes(const EvaluatedReport& report) const;

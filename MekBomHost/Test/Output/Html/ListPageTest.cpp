@@ -4,17 +4,19 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 
 namespace mekbom
 {
 namespace
 {
-std::string pageOf(const std::string& templateText, const std::string& partsText)
+std::string pageOf(const std::string& templateText, const std::string& partsText,
+                   std::optional<ePaper> paper = std::nullopt)
 {
     const EvaluatedList list(templateText, partsText);
     StringSink sink;
-    ListPage(list.report(), sink).write();
+    ListPage(list.report(), sink, paper).write();
     EXPECT_TRUE(sink.isFinished);
     return sink.text;
 }
@@ -90,5 +92,23 @@ TEST(ListPageTest, AListThatShowsNothingHasNoTable)
 TEST(ListPageTest, TheSameReportIsTheSamePage)
 {
     EXPECT_EQ(pageOf(weightsByMaterial(), kParts), pageOf(weightsByMaterial(), kParts));
+}
+
+// A browser takes the last size there is, so that there must be one alone.
+TEST(ListPageTest, SheetsHaveTheChosenPaperAndAreHeldAcrossForWideLists)
+{
+    const auto pageWith = [](const std::string& label, std::optional<ePaper> paper)
+    {
+        return pageOf(details(R"({ "token": "%Name" }, { "token": "%Weight" })",
+                              R"("columns": [ { "token": "%Name", "label": ")" + label + "\" } ]"),
+                      "%Name\nA\n", paper);
+    };
+    const std::string wide(110, 'x');
+
+    EXPECT_FALSE(holds(pageWith("Name", std::nullopt), "@page{size:"));
+    EXPECT_TRUE(holds(pageWith("Name", kA4Paper), "@page{size:A4}"));
+    EXPECT_TRUE(holds(pageWith("Name", kLetterPaper), "@page{size:letter}"));
+    EXPECT_TRUE(holds(pageWith(wide, std::nullopt), "@page{size:landscape}"));
+    EXPECT_TRUE(holds(pageWith(wide, kLetterPaper), "@page{size:letter landscape}"));
 }
 }

@@ -189,17 +189,4 @@ TEST(PageTableTest, SmallGroupsOfALongListShareABody)
     EXPECT_EQ(24U, countOf("<tbody", table)); // 2401 lines, and a group has three
     EXPECT_EQ(23U, countOf("<tbody style=\"--lines:102\">\n<tr class=\"h1\">", table));
 }
-
-TEST(PageTableTest, AWideListIsHeldAcross)
-{
-    const auto styleWithLabel = [](const std::string& label)
-    {
-        return tableOfPage(details(kNameAndWeight, R"("columns": [ { "token": "%Name", "label": ")" + label + "\" } ]"),
-                           "%Name\nA\n")
-            .style;
-    };
-
-    EXPECT_EQ(std::string::npos, styleWithLabel("Name").find("landscape"));
-    EXPECT_NE(std::string::npos, styleWithLabel(std::string(110, 'x')).find("@page{size:landscape}"));
-}
 }

@@ -1,5 +1,6 @@
 #include "NamelessFile.h"
 
+#include "Support/EnvironmentVariable.h"
 #include "Support/HostTestSupport.h"
 #include "Support/TemporaryFolder.h"
 
@@ -55,7 +56,7 @@ TEST(NamelessFileTest, AFileThatNobodyWroteToIsEmpty)
 TEST(NamelessFileTest, NoFolderShowsIt)
 {
     const ScratchFolder scratch;
-    const TemporaryFolder temporary(scratch.path().string());
+    const EnvironmentVariable temporary("TMPDIR", scratch.path().string());
 
     const NamelessFile file;
     writeTo(file.path(), "text");

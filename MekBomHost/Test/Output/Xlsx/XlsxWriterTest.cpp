@@ -133,6 +133,19 @@ TEST(XlsxWriterTest, PagesAreNumbered)
     EXPECT_TRUE(contains(sheet, "orientation=\"portrait\""));
 }
 
+TEST(XlsxWriterTest, ThePaperOfAllSheetsCanBeChosen)
+{
+    OutputChoices choices;
+    choices.paper = kLetterPaper;
+    const EvaluatedParts evaluated(kPartsByMaterial, kParts, XlsxWriter().contents());
+    StringSink sink;
+
+    XlsxWriter(choices).write(evaluated.report(), sink);
+
+    for (const int sheet : { 1, 2 })
+        EXPECT_TRUE(contains(sheetOf(sink.text, sheet), "paperSize=\"1\"")) << sheet;
+}
+
 TEST(XlsxWriterTest, AWideListIsPrintedInLandscape)
 {
     const std::vector<Part> parts = { { L"a long name of a part, longer than those of steel profiles are", L"S355", 1 },

@@ -51,7 +51,7 @@ std::string refusalOf(const Words& arguments)
 TEST(OutputOptionsTest, NothingAsksForATextOnStandardOutput)
 {
     EXPECT_EQ("-: text", wantedBy({}));
-    EXPECT_EQ(0u, with({}, [](const OutputOptions& options) { return options.choices().given; }));
+    EXPECT_EQ(0u, with({}, [](const OutputOptions& options) { return options.choicesOver(OutputChoices()).given; }));
 }
 
 TEST(OutputOptionsTest, NamesTellFormatsAndToTheOthers)
@@ -138,9 +138,10 @@ TEST(OutputOptionsTest, InputsAreNoOutputs)
 
 TEST(OutputOptionsTest, WordsChooseHowCsvIsWritten)
 {
-    const OutputChoices choices = with({ "--to", "csv", "--values", "plain", "--output-delimiter", "tab",
-                                         "--output-decimal", ",", "--foot", "--output-encoding", "utf-8-bom" },
-                                       [](const OutputOptions& options) { return options.choices(); });
+    const OutputChoices choices =
+        with({ "--to", "csv", "--values", "plain", "--output-delimiter", "tab", "--output-decimal", ",", "--foot",
+               "--output-encoding", "utf-8-bom" },
+             [](const OutputOptions& options) { return options.choicesOver(OutputChoices()); });
 
     EXPECT_TRUE(choices.hasPlainValues);
     EXPECT_EQ('\t', choices.delimiter);
@@ -159,5 +160,54 @@ TEST(OutputOptionsTest, AChoiceThatNoOutputUnderstandsIsRefused)
     EXPECT_NE("", refusalOf({ "--values", "plain" }));
     EXPECT_NE("", refusalOf({ "--output-decimal", "." })) << "the usual sign is asked for in vain, too";
     EXPECT_EQ("", refusalOf({ "--values", "plain", "-o", "-", "-o", "list.csv" }));
+}
+
+TEST(OutputOptionsTest, WordsChooseThePaper)
+{
+    const auto choices = [](const OutputOptions& options) { return options.choicesOver(OutputChoices()); };
+
+    EXPECT_EQ(kLetterPaper, with({ "--to", "html", "--paper", "letter" }, choices).paper);
+    EXPECT_EQ(kA4Paper, with({ "-o", "list.xlsx", "--paper", "a4" }, choices).paper);
+    EXPECT_EQ("2 --paper: is for html, xlsx, and no output is written so: leave it out, or say --to html\n",
+              refusalOf({ "--paper", "a4", "-o", "list.csv" }));
+}
+
+TEST(OutputOptionsTest, OptionsWinOverWhatIsConfigured)
+{
+    OutputChoices configured;
+    configured.delimiter = ';';
+    configured.decimalSign = ',';
+    configured.encoding.hasMark = true;
+    configured.paper = kLetterPaper;
+    const auto choices = [&configured](const OutputOptions& options) { return options.choicesOver(configured); };
+
+    const OutputChoices ofFile = with({}, choices);
+    const OutputChoices ofOptions = with({ "--to", "csv", "--output-delimiter", "tab", "--output-decimal", ".",
+                                           "--output-encoding", "utf-8", "-o", "a.html", "-o", "-", "--paper", "a4" },
+                                         choices);
+
+    EXPECT_EQ(';', ofFile.delimiter);
+    EXPECT_EQ(',', ofFile.decimalSign);
+    EXPECT_TRUE(ofFile.encoding.hasMark);
+    EXPECT_EQ(kLetterPaper, ofFile.paper);
+    EXPECT_EQ('\t', ofOptions.delimiter);
+    EXPECT_EQ('.', ofOptions.decimalSign);
+    EXPECT_FALSE(ofOptions.encoding.hasMark);
+    EXPECT_EQ(kA4Paper, ofOptions.paper);
+}
+
+// It is about all runs of its user, of which most write no csv.
+TEST(OutputOptionsTest, WhatIsConfiguredForOtherFormatsIsNotRefused)
+{
+    OutputChoices configured;
+    configured.decimalSign = ',';
+    configured.give(OutputChoices::kDecimalSign);
+
+    EXPECT_EQ(0u, with({ "--to", "text" },
+                       [&configured](const OutputOptions& options)
+                       {
+                           EXPECT_EQ(1u, options.wanted().size());
+                           return options.choicesOver(configured).given;
+                       }));
 }
 }
