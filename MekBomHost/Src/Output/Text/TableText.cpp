@@ -1,7 +1,6 @@
 #include "TableText.h"
 
 #include "AsciiText.h"
-#include "WordWrap.h"
 
 namespace mekbom
 {
@@ -16,5 +15,10 @@ std::vector<std::string> TableText::fitted(std::string_view text, int width) con
         return wrapped(text, width);
     const std::vector<std::string> lines = wrapped(text, 0);
     return { WordWrap::cut(lines, width, m_isAscii ? "..." : "…") };
+}
+
+int TableText::widthBeyondAscii(std::string_view text) const
+{
+    return m_isAscii ? kNotAsIs : WordWrap::widthOfLine(text);
 }
 }
