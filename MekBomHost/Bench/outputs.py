@@ -20,7 +20,7 @@ import zipfile
 
 import whole_job
 
-ENDINGS = {"text": "txt", "csv": "csv", "json": "json", "html": "html", "xlsx": "xlsx"}
+ENDINGS = {"text": "txt", "csv": "csv", "tsv": "tsv", "json": "json", "html": "html", "xlsx": "xlsx"}
 NUMBER_OF_LINE = re.compile(rb'<c r="O\d+"(?: s="\d+")?(?: t="n")?><v>')  # texts have another type
 BLOCK = 1 << 20
 MIB = 1 << 20
@@ -29,7 +29,7 @@ MIB = 1 << 20
 def commands(program):
     """Name to command; each writes the file that it names last."""
     report = [program, "report", "--data", "parts.csv", "--template", str(whole_job.HERE / "large-report.json"), "-o"]
-    found = {name: [*report, f"report.{ending}"] for name, ending in ENDINGS.items()}
+    found = {name: [*report, f"list.{ending}"] for name, ending in ENDINGS.items()}
     if whole_job.has_modules("pandas", "xlsxwriter"):
         found["pandas, xlsx"] = [whole_job.PYTHON, str(whole_job.HERE / "Peers/workbook.py"), "parts.csv", "pandas.xlsx"]
     else:
