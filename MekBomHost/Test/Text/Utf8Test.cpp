@@ -60,7 +60,7 @@ TEST(Utf8Test, InvalidBytesAreFoundWhereverTheyStand)
                 text += piece;
 
             EXPECT_EQ(text.size(), Utf8::findInvalid(text)) << text;
-            EXPECT_EQ(text.size(), Utf8::findInvalid(text + "\xFF" + text)) << text;
+            EXPECT_EQ(text.size(), Utf8::findInvalid(std::string(text).append("\xFF").append(text))) << text;
         }
 }
 

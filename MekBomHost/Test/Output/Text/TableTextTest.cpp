@@ -74,7 +74,7 @@ TEST(TableTextTest, WhatIsTakenAsItIsIsWhatItWouldBeFittedTo)
                         for (int limit = 0; limit < 6; ++limit)
                         {
                             const TableText tableText(choicesOf(cuts, isAscii));
-                            const std::string text = first + second + third;
+                            const std::string text = std::string(first).append(second).append(third);
                             const int width = Utf8::displayWidth(text);
                             const bool isKept = tableText.fitted(text, limit) == Lines{ text };
                             const bool fits = limit == 0 || width <= limit;
