@@ -15,8 +15,8 @@ for argument in "$@"; do
         --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy valgrind libbenchmark-dev mandoc" ;;
         --browser) packages="$packages chromium poppler-utils" ;;
         --bench)
-            packages="$packages libbenchmark-dev sqlite3 libsqlite3-dev python3-pandas libfparser-dev libmuparser-dev"
-            packages="$packages liblua5.4-dev miller time valgrind"
+            packages="$packages libbenchmark-dev sqlite3 libsqlite3-dev python3-pandas python3-xlsxwriter libfparser-dev"
+            packages="$packages libmuparser-dev liblua5.4-dev miller time valgrind"
             ;;
         *) echo "setup.sh: unknown argument '$argument'; expected --checks, --browser or --bench" >&2; exit 2 ;;
     esac

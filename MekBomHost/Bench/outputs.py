@@ -3,9 +3,9 @@
     python3 outputs.py --program mekbom --data parts.csv --runs 2
 
 The data are those of generate_parts.py, the list is large-report.json. Prints one JSON object per line and format: the
-median wall time in seconds, peak memory in MiB, and the size of the file in MiB. Formats take turns, and of several runs
-the first, which fills caches, does not count; pandas takes minutes and runs once. A workbook with more or
-fewer lines than the data have rows ends it with status 1.
+medians of wall time and processor time in seconds and of peak memory in MiB, and the size of the file in MiB. Formats
+take turns, and of several runs the first, which fills caches, does not count; pandas takes minutes and runs once. A
+workbook with more or fewer lines than the data have rows ends it with status 1.
 """
 
 import argparse
@@ -20,7 +20,7 @@ import zipfile
 
 import whole_job
 
-ENDINGS = {"text": "txt", "csv": "csv", "json": "json", "html": "html", "xlsx": "xlsx"}
+ENDINGS = {"text": "txt", "csv": "csv", "tsv": "tsv", "json": "json", "html": "html", "xlsx": "xlsx"}
 NUMBER_OF_LINE = re.compile(rb'<c r="O\d+"(?: s="\d+")?(?: t="n")?><v>')  # texts have another type
 BLOCK = 1 << 20
 MIB = 1 << 20
@@ -29,18 +29,12 @@ MIB = 1 << 20
 def commands(program):
     """Name to command; each writes the file that it names last."""
     report = [program, "report", "--data", "parts.csv", "--template", str(whole_job.HERE / "large-report.json"), "-o"]
-    found = {name: [*report, f"report.{ending}"] for name, ending in ENDINGS.items()}
-    if whole_job.has_pandas():
+    found = {name: [*report, f"list.{ending}"] for name, ending in ENDINGS.items()}
+    if whole_job.has_modules("pandas", "xlsxwriter"):
         found["pandas, xlsx"] = [whole_job.PYTHON, str(whole_job.HERE / "Peers/workbook.py"), "parts.csv", "pandas.xlsx"]
     else:
-        print("pandas is skipped: python3-pandas is not installed", file=sys.stderr)
+        print("pandas is skipped: python3-pandas or python3-xlsxwriter is not installed", file=sys.stderr)
     return found
-
-
-def run(command, folder):
-    """Seconds, peak MiB and the MiB written of one run."""
-    seconds, peak = whole_job.run(command, None, folder)
-    return seconds, peak, (folder / command[-1]).stat().st_size / MIB
 
 
 def num_lines(workbook):
@@ -71,7 +65,7 @@ def measure(programs, runs, folder):
         for name, command in programs.items():
             if name.startswith("pandas") and index > 0:
                 continue
-            result = run(command, folder)
+            result = whole_job.run(command, None, folder)
             if index > 0 or runs == 1 or name.startswith("pandas"):
                 measured[name].append(result)
     return measured
@@ -94,10 +88,12 @@ def main():
         for workbook in folder.glob("*.xlsx"):
             if (lines := num_lines(workbook)) != rows:
                 sys.exit(f"outputs.py: {workbook.name} has {lines} lines for {rows} rows")
+        sizes = {name: (folder / command[-1]).stat().st_size / MIB for name, command in programs.items()}
     for name, results in measured.items():
-        seconds, peaks, sizes = (statistics.median(values) for values in zip(*results))
-        print(json.dumps({"name": name, "seconds": round(seconds, 3), "peak_mib": round(peaks),
-                          "file_mib": round(sizes, 1)}))
+        medians = whole_job.Run(*map(statistics.median, zip(*results)))
+        print(json.dumps({"name": name, "seconds": round(medians.seconds, 3),
+                          "processor_seconds": round(medians.processor_seconds, 3),
+                          "peak_mib": round(medians.peak_mib), "file_mib": round(sizes[name], 1)}))
 
 
 if __name__ == "__main__":

@@ -35,8 +35,9 @@ class Run(NamedTuple):
     peak_mib: float
 
 
-def has_pandas():
-    probe = [PYTHON, "-c", "import pandas"]
+def has_modules(*names):
+    """Whether the Python that pandas belongs to has all of them."""
+    probe = [PYTHON, "-c", "import " + ", ".join(names)]
     return os.path.exists(PYTHON) and subprocess.run(probe, stderr=subprocess.DEVNULL, check=False).returncode == 0
 
 
@@ -50,7 +51,7 @@ def peers(program):
         ("sqlite3", ["sqlite3", ":memory:"], HERE / "Peers/report.sql", None if shutil.which("sqlite3") else "sqlite3"),
         ("Miller", miller, None, None if shutil.which("mlr") else "miller"),
         ("pandas", [PYTHON, str(HERE / "Peers/report.py"), "parts.csv", "report.txt"], None,
-         None if has_pandas() else "python3-pandas"),
+         None if has_modules("pandas") else "python3-pandas"),
     ]
 
 

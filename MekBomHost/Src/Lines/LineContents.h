@@ -9,7 +9,7 @@ namespace mekbom
 {
 struct LineContents
 {
-    bool values = false; // what each cell held before it was shown: 16 bytes for each cell
+    bool values = false; // what each cell held before it was shown: 9 bytes for each number, one for each other cell
     bool rows = false;   // the rows behind each line: 8 bytes for each row and each of its sections
 
     // Adds what another writer of the same report wants.

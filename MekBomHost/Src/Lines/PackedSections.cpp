@@ -1,7 +1,7 @@
 // A section is a byte for its place, its texts, and its values where they are kept; a place that no byte can tell is the
 // byte kOther and a number. Texts are of three kinds: one that many lines repeat is a single byte, its number; a plain
 // one its length in a byte and its characters; any other one the byte kOther, its length as a number, and its bytes. A
-// value is its bytes as they stand in memory.
+// value is a byte for its type and its unit, and behind that of a number the double.
 //
 //   a details line of level 2 that shows "HEA200", the first text that lines repeat under that token, and "2.5"
 //
@@ -12,6 +12,7 @@
 // packed.
 #include "PackedSections.h"
 
+#include "NumberInValue.h"
 #include "Utf8.h"
 
 #include "VorBomTokenCatalogue.h"
@@ -23,6 +24,14 @@ namespace mekbom
 namespace
 {
 const std::size_t kPageSize = 1 << 20; // arbitrary: small against a report that needs a second one
+
+const std::uint32_t kTypesPerUnit = 4;
+
+// Of a value all but its number.
+std::uint32_t kindOf(const VorBomTypedValue& value)
+{
+    return static_cast<std::uint32_t>(value.unitType) * kTypesPerUnit + static_cast<std::uint32_t>(value.type);
+}
 
 std::uint32_t numberOf(SectionPlace place)
 {
@@ -221,9 +230,12 @@ void PackedSections::append(Number number)
 
 void PackedSections::append(const VorBomTypedValue& value)
 {
-    makeRoom(sizeof value);
-    std::memcpy(m_pNext, &value, sizeof value);
-    m_pNext += sizeof value;
+    makeRoom(1 + sizeof value.number);
+    *m_pNext++ = static_cast<char>(kindOf(value));
+    if (!holdsNumber(value.type))
+        return;
+    std::memcpy(m_pNext, &value.number, sizeof value.number);
+    m_pNext += sizeof value.number;
 }
 
 void PackedSections::makeRoom(std::size_t size)
@@ -292,11 +304,16 @@ bool PackedSections::Reader::turnToNextRange()
     return true;
 }
 
-// A value begins wherever the text before it ends, so it is copied and not pointed at: its address need not be aligned.
+// A number begins wherever the text before it ends, so it is copied and not pointed at: its address need not be aligned.
 void PackedSections::Reader::read(VorBomTypedValue& value)
 {
     turnPages();
-    std::memcpy(&value, take(sizeof value), sizeof value);
+    const Number kind = takeByte();
+    value.type = static_cast<VorBomDataValue::eBomDataValueType>(kind % kTypesPerUnit);
+    value.unitType = static_cast<VorBomTemplateUnits::eTokenUnitType>(kind / kTypesPerUnit);
+    value.number = 0;
+    if (holdsNumber(value.type))
+        std::memcpy(&value.number, take(sizeof value.number), sizeof value.number);
 }
 
 // Pages may be empty: a text that did not fit into the one before may turn out to need a larger one.

@@ -14,7 +14,8 @@ std::string summing(const Tuples& footer)
 const char* const kFormula = "%Formula:%Weight*%Quantity";
 const char* const kPieces = "%PNum,%Material,%Weight [kg],%Quantity\n";
 const char* const kPrices = "%PNum,%Material,%Weight [kg],%Price\nP1,S235,5,10\n";
-const char* const kRate = R"("tokens": { "%Price": "number" }, "allow": { "MB504": "EUR" }, "columns": [ { "token": "%SumBy:%Price", "label": "Rate",
+const char* const kRate =
+    R"("tokens": { "%Price": "number" }, "allow": { "MB504": "EUR" }, "columns": [ { "token": "%SumBy:%Price", "label": "Rate",
     "result": "EUR/kg", "total": { "formula": "%C/%W", "of": { "%C": "%SumBy:%Price", "%W": "%SumBy:%Weight" } } } ])";
 const char* const kAlike = "%Name,%Material,%Weight [kg]\nHEA200,S235,10\n";
 }

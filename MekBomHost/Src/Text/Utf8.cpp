@@ -19,6 +19,7 @@ namespace
 const int kReplacement = 0xFFFD;
 const int kMostBytes = 4;          // of one sequence
 const std::size_t kMostShort = 64; // characters of texts as nearly all cells are; arbitrary
+const std::uint64_t kHighBits = ByteWord::kEachByte * 0x80;
 
 bool isAscii(char byte)
 {
@@ -34,13 +35,17 @@ bool isAllAscii(std::string_view bytes)
     return allBits < 0x80;
 }
 
-// How many bytes in front are ASCII.
-// Asked first whether all of it is, which it nearly always is, and which is answered many bytes at a time.
+// How many bytes in front are ASCII. Looks no further than the word that the first other byte is in: it is asked anew
+// behind each character beyond ASCII.
 std::size_t asciiLength(std::string_view bytes)
 {
-    if (isAllAscii(bytes))
-        return bytes.size();
-    return static_cast<std::size_t>(std::find_if_not(bytes.begin(), bytes.end(), isAscii) - bytes.begin());
+    std::size_t length = 0;
+    while (bytes.size() - length >= ByteWord::kSize &&
+           (ByteWord::load<std::uint64_t>(bytes.data() + length) & kHighBits) == 0)
+        length += ByteWord::kSize;
+    while (length < bytes.size() && isAscii(bytes[length]))
+        ++length;
+    return length;
 }
 
 // The code point at the start of `bytes` and its length in bytes; length 0 where there is no valid one.
@@ -124,8 +129,8 @@ std::string_view withoutByteOrderMark(std::string_view bytes)
 VorString toWide(std::string_view bytes)
 {
     wchar_t characters[kMostShort];
-    const std::uint64_t word = bytes.size() <= ByteWord::kSize ? ByteWord::of(bytes) : ByteWord::kEachByte * 0x80;
-    if ((word & ByteWord::kEachByte * 0x80) == 0)
+    const std::uint64_t word = bytes.size() <= ByteWord::kSize ? ByteWord::of(bytes) : kHighBits;
+    if ((word & kHighBits) == 0)
     {
         for (std::size_t i = 0; i < ByteWord::kSize; ++i)
             characters[i] = static_cast<wchar_t>(word >> 8 * i & 0xFF);

@@ -196,7 +196,8 @@ TEST(PackedSectionsTest, ValuesOfManyPagesAreReadInOrder)
     PackedSections sections(TemplateReader::read("list.json", kTotals), { true, false });
     VorBomTypedValue values[3];
     const VorBomTemplateItem details = section({ "HEA200", "", "2.5" });
-    const int kNumSections = 100'000; // of 16 bytes for each of two values: three pages and more
+    values[0].type = values[2].type = VorBomDataValue::kDoubleData;
+    const int kNumSections = 100'000; // of 9 bytes for each of two values: two pages and more
     for (int i = 0; i < kNumSections; ++i)
     {
         values[0].number = i;

@@ -50,6 +50,20 @@ TEST(Utf8Test, InvalidBytesAreFound)
         EXPECT_EQ(test.firstInvalid, Utf8::findInvalid(test.bytes)) << test.bytes;
 }
 
+TEST(Utf8Test, InvalidBytesAreFoundWhereverTheyStand)
+{
+    for (const std::string piece : { "a", "ä", "柱" })
+        for (std::size_t number = 0; number < 20; ++number)
+        {
+            std::string text;
+            for (std::size_t i = 0; i < number; ++i)
+                text += piece;
+
+            EXPECT_EQ(text.size(), Utf8::findInvalid(text)) << text;
+            EXPECT_EQ(text.size(), Utf8::findInvalid(std::string(text).append("\xFF").append(text))) << text;
+        }
+}
+
 TEST(Utf8Test, TextsComeBackAsTheyWere)
 {
     for (const std::string text : { "", "S355J2", "Träger", "柱脚", "🔩 M16", "\xEF\xBF\xBF" })

@@ -36,6 +36,14 @@ const char* kindOf(const ReportColumn& column)
     return column.isNumeric ? "number" : "text";
 }
 
+// Of most columns totals are sums, which is not said.
+std::string totalOf(const ReportColumn& column)
+{
+    return column.total == ColumnTotal::kSum
+               ? std::string()
+               : std::string(", \"total\": \"") + ColumnTotal::nameOf(column.total) + "\"";
+}
+
 std::string textOrNull(const std::string& text)
 {
     return text.empty() ? "null" : jsonText(text);
@@ -111,7 +119,7 @@ void JsonList::writeColumn(const ReportColumn& column)
     m_text += "{\"token\": " + jsonText(Utf8::toBytes(column.token)) + ", \"label\": " + jsonText(column.label) +
               ", \"heading\": " + jsonText(column.heading()) + ", \"kind\": \"" + kindOf(column) +
               "\", \"unit\": " + textOrNull(column.unitOfNumbers()) +
-              ", \"shownUnit\": " + textOrNull(column.unitSymbol) + "}";
+              ", \"shownUnit\": " + textOrNull(column.unitSymbol) + totalOf(column) + "}";
 }
 
 void JsonList::writeLines()

@@ -1,7 +1,7 @@
 #include "TableText.h"
 
 #include "AsciiText.h"
-#include "WordWrap.h"
+#include "TextDirection.h"
 
 namespace mekbom
 {
@@ -16,5 +16,11 @@ std::vector<std::string> TableText::fitted(std::string_view text, int width) con
         return wrapped(text, width);
     const std::vector<std::string> lines = wrapped(text, 0);
     return { WordWrap::cut(lines, width, m_isAscii ? "..." : "…") };
+}
+
+// A text from right to left gets marks around it.
+int TableText::widthBeyondAscii(std::string_view text) const
+{
+    return m_isAscii || TextDirection::hasRightToLeft(text) ? kNotAsIs : WordWrap::widthOfLine(text);
 }
 }

@@ -10,6 +10,8 @@
 #pragma once
 
 #include "OutputChoices.h"
+#include "ShownText.h"
+#include "WordWrap.h"
 
 #include <string>
 #include <string_view>
@@ -28,7 +30,18 @@ public:
     // Texts of the parts list: one line where they are to be cut.
     std::vector<std::string> fitted(std::string_view text, int width) const;
 
+    // How wide a text is that fitted() would give back as it is, in one line, and that is written from left to right;
+    // kNotAsIs for any other one. Of nearly all texts that takes no look at their characters.
+    static constexpr int kNotAsIs = WordWrap::kNotOneLine;
+    int widthAsIs(const ShownText& text, int limit) const
+    {
+        const int width = text.isPlain ? static_cast<int>(text.length) : widthBeyondAscii(text.view());
+        return limit == 0 || width <= limit ? width : kNotAsIs;
+    }
+
 private:
+    int widthBeyondAscii(std::string_view text) const;
+
     bool m_isAscii;
     bool m_cuts;
 };

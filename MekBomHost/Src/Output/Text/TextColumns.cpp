@@ -112,8 +112,8 @@ void ColumnWidths::makeRoomForLabels()
 void ColumnWidths::makeRoomForText(std::size_t index, const ShownText& text)
 {
     TextColumn& column = m_columns[index];
-    const int width = column.takesAsIs(text) ? static_cast<int>(text.length)
-                                             : widthOf(m_tableText.fitted(text.view(), column.textLimit));
+    const int asIs = m_tableText.widthAsIs(text, column.textLimit);
+    const int width = asIs != TableText::kNotAsIs ? asIs : widthOf(m_tableText.fitted(text.view(), column.textLimit));
     const std::uint32_t decimals = isAligned(index) ? DecimalPlaces::lengthIn(text.view()) : 0;
     makeRoom(index, width - static_cast<int>(decimals), decimals);
 }
@@ -142,8 +142,8 @@ bool ColumnWidths::isAligned(std::size_t index) const
 // Makes room by what is known of all texts together; false where each one has to be looked at.
 bool ColumnWidths::makeRoomForLongest(std::size_t index, TextExtent extent)
 {
-    const ShownText longest = { nullptr, extent.longest, extent.areAllPlain };
-    if (!m_columns[index].takesAsIs(longest))
+    const ShownText longest = { nullptr, extent.longest, true };
+    if (!extent.areAllPlain || m_tableText.widthAsIs(longest, m_columns[index].textLimit) == TableText::kNotAsIs)
         return false;
     if (isAligned(index))
         makeRoom(index, static_cast<int>(extent.longestWhole), extent.longestDecimals);

@@ -27,12 +27,6 @@ namespace mekbom
 {
 struct TextColumn
 {
-    // Whether a text of a line, not a label, can be written as it is: in one line, a byte for each column.
-    bool takesAsIs(const ShownText& text) const
-    {
-        return text.isPlain && (textLimit == 0 || text.length <= static_cast<std::uint32_t>(textLimit));
-    }
-
     // How many blanks stand behind a text, so that its decimal point stands below those of the others.
     std::uint32_t blanksBehind(std::string_view text) const
     {

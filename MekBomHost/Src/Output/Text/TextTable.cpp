@@ -1,10 +1,11 @@
-// Nearly all lines are plain: printable ASCII that fits its columns. Such a line is made of blanks as wide as the
-// table, each text is copied straight into its place among them, and what follows the last text is cut off:
+// Nearly all texts fit their columns as they are. A line of such texts is made of blanks as wide as the table, each text
+// is copied straight into its place among them, and what follows the last text is cut off:
 //
-//   widths 6, 8, 5; texts "L50", "", "2.5", the last aligned right, with one decimal
-//     "                         "     each column and the two blanks after it
-//     "L50                 2.5  "     3 bytes at 0, nothing at 8, 3 bytes at 18 + (5 - 3)
-//     "L50                 2.5"       then a line feed
+//   widths 6, 8, 5; texts "Tür", "", "2.5", the last aligned right
+//     "                         "      each column and the two blanks after it
+//     "Tür                       "     4 bytes at 0, and a blank more at the end, as the ü has two bytes for one column
+//     "Tür                 2.5   "     nothing at 9, 3 bytes at 19 + (5 - 3)
+//     "Tür                 2.5"        then a line feed
 //
 // Without that way a report of 100,000 lines takes twice the instructions. Any other line has its cells wrapped first.
 #include "TextTable.h"
@@ -119,43 +120,50 @@ void TextTable::writeLine(const ReportLine& line)
 {
     if (!line.label.empty() && line.labelColumn < 0)
         writeOutside(std::string(line.label));
-    if (isPlain(line))
-        return writePlain(line.texts);
+    if (line.labelColumn < 0 && writeAsIs(line.texts)) // labels may hold anything, and are few
+        return;
     wrap(line);
     writeWrapped();
 }
 
-// Labels may hold anything, and are few.
-bool TextTable::isPlain(const ReportLine& line) const
-{
-    if (line.labelColumn >= 0)
-        return false;
-    for (std::size_t i = 0; i < m_columns.size(); ++i)
-        if (!m_columns[i].takesAsIs(line.texts[i]))
-            return false;
-    return true;
-}
-
-// All texts must fit their columns, which isPlain() has made sure of: one that is longer than its column would run into
-// the next.
-void TextTable::writePlain(const std::vector<ShownText>& texts)
+// False, with nothing written, for a line with a text that cannot be written as it is.
+bool TextTable::writeAsIs(const std::vector<ShownText>& texts)
 {
     const std::size_t begin = m_text.size();
     m_text.append(m_lineWidth, ' ');
     char* pPlace = &m_text[begin];
-    const char* pEnd = pPlace;
-    for (std::size_t i = 0; i < texts.size(); ++i)
+    const char* pEnd = pPlace; // of the last text
+    const TextColumn* pColumn = m_columns.data();
+    for (const ShownText& text : texts)
     {
-        const ShownText& text = texts[i];
-        const auto width = static_cast<std::size_t>(m_columns[i].width);
-        const std::size_t numBlanksBefore =
-            m_columns[i].isAlignedRight ? width - text.length - m_columns[i].blanksBehind(text.view()) : 0;
+        const TextColumn& column = *pColumn++;
+        const int width = m_tableText.widthAsIs(text, column.textLimit);
+        if (width == TableText::kNotAsIs)
+        {
+            m_text.resize(begin);
+            return false;
+        }
+        const auto numFree = static_cast<std::size_t>(column.width - width);
         if (text.length > 0)
-            pEnd = std::copy_n(text.pBytes, text.length, pPlace + numBlanksBefore);
-        pPlace += width + kNumBlanksBetween;
+        {
+            const std::size_t numBefore = column.isAlignedRight ? numFree - column.blanksBehind(text.view()) : 0;
+            if (!text.isPlain)
+                pPlace = withRoomFor(text.length - static_cast<std::size_t>(width), pPlace);
+            pEnd = std::copy_n(text.pBytes, text.length, pPlace + numBefore);
+        }
+        pPlace += numFree + text.length + kNumBlanksBetween;
     }
     m_text.resize(static_cast<std::size_t>(pEnd - m_text.data()));
-    m_text += '\n';
+    endLine();
+    return true;
+}
+
+// Adds blanks to the line that is being written, and gives where the place in it then is.
+char* TextTable::withRoomFor(std::size_t numBytes, const char* pPlace)
+{
+    const auto place = static_cast<std::size_t>(pPlace - m_text.data());
+    m_text.append(numBytes, ' ');
+    return &m_text[place];
 }
 
 void TextTable::wrap(const ReportLine& line)
@@ -196,6 +204,12 @@ void TextTable::writeWrappedLine(std::size_t index)
             numBlanks += static_cast<std::size_t>(m_columns[i].width);
         numBlanks += kNumBlanksBetween;
     }
+    endLine();
+}
+
+// A text may have blanks at its end, too.
+void TextTable::endLine()
+{
     m_text.resize(m_text.find_last_not_of(' ') + 1);
     m_text += '\n';
 }

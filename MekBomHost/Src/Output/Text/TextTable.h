@@ -48,12 +48,13 @@ private:
     void writeRule();
     void writeSeparation(const LinePlace& place, const LinePlace& previous);
     void writeLine(const ReportLine& line);
-    bool isPlain(const ReportLine& line) const;
-    void writePlain(const std::vector<ShownText>& texts);
+    bool writeAsIs(const std::vector<ShownText>& texts);
+    char* withRoomFor(std::size_t numBytes, const char* pPlace);
     void wrap(const ReportLine& line);
     std::vector<std::string> textLines(const TextColumn& column, std::string_view text) const;
     void writeWrapped();
     void writeWrappedLine(std::size_t index);
+    void endLine();
     std::size_t writeText(const TextColumn& column, const std::string& text, std::size_t numBlanksBefore);
     void passOn(std::size_t least);
 

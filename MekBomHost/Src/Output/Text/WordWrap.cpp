@@ -119,6 +119,20 @@ std::vector<std::string> wrap(std::string_view text, int width)
     return filler.takeLines();
 }
 
+// All that wrap() replaces, and all that ends a line, is a control character.
+int widthOfLine(std::string_view text)
+{
+    int width = 0;
+    while (!text.empty())
+    {
+        const int codePoint = Utf8::takeCodePoint(text);
+        if (isControl(codePoint))
+            return kNotOneLine;
+        width += Utf8::displayWidth(codePoint);
+    }
+    return width;
+}
+
 // What is to stay is found before the ellipsis is added: all characters that end within the width it leaves.
 std::string cut(const std::vector<std::string>& lines, int width, std::string_view ellipsis)
 {

@@ -19,6 +19,12 @@ namespace mekbom::WordWrap
 // the column stands in a line of its own.
 std::vector<std::string> wrap(std::string_view text, int width);
 
+// How wide the text is, if wrap() without a limit gives it back as it is, in one line; kNotOneLine for any other text.
+//   WordWrap::widthOfLine("Träger")     ->   6
+//   WordWrap::widthOfLine("one\ntwo")   ->   WordWrap::kNotOneLine
+inline constexpr int kNotOneLine = -1;
+int widthOfLine(std::string_view text);
+
 // One line of what wrap() gave without a limit, of which there is at least one, with `ellipsis` at the end of what
 // something is missing from. A column that is narrower than that has as much of it as there is room for.
 //   WordWrap::cut({ "Base plate, corner" }, 10, "...")   ->   "Base pl..."

@@ -51,18 +51,6 @@ TEST(TextColumnsTest, TheTemplatesWidthHoldsButForNumbersAndUnits)
     EXPECT_EQ((Widths{ 5, 4 }), widthsOf(narrow, { { L"Träger", L"", 1 } }));
 }
 
-TEST(TextColumnsTest, OnlyPlainTextsWithinTheLimitAreTakenAsTheyAre)
-{
-    TextColumn column;
-    column.textLimit = 4;
-
-    EXPECT_TRUE(column.takesAsIs({ "abcd", 4, true }));
-    EXPECT_FALSE(column.takesAsIs({ "abcde", 5, true }));
-    EXPECT_FALSE(column.takesAsIs({ "\t", 1, false }));
-    column.textLimit = 0;
-    EXPECT_TRUE(column.takesAsIs({ "abcde", 5, true }));
-}
-
 namespace
 {
 // The widths of a list of names and weights that has to fit into `width`.

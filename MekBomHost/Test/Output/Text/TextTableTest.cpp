@@ -373,6 +373,26 @@ TEST(TextTableTest, LinesHaveNoBlanksAtTheirEnd)
               tableOf(details(R"({ "token": "%Weight" }, { "token": "%Name" })"), "%Name,%Weight\n,1\n"));
 }
 
+TEST(TextTableTest, BlanksAtTheEndOfATextAreNotAtTheEndOfALine)
+{
+    EXPECT_EQ("Name\n"
+              "----\n"
+              "L50\n"
+              "Tür\n",
+              tableOf(details(kName), "%Name\n\"L50 \"\n\"Tür \"\n"));
+}
+
+TEST(TextTableTest, TextsBeyondAsciiAreWrittenInTheirPlaces)
+{
+    EXPECT_EQ("Name    Material  Weight [kg]\n"
+              "------  --------  -----------\n"
+              "Träger  S355              2.5\n"
+              "柱脚板  柱              100.5\n"
+              "L50     é                10\n",
+              tableOf(details(R"({ "token": "%Name" }, { "token": "%Material" }, { "token": "%Weight" })"),
+                      "%Name,%Material,%Weight\nTräger,S355,2.5\n柱脚板,柱,100.5\nL50,é,10\n"));
+}
+
 TEST(TextTableTest, TheTableIsFinishedInItsSink)
 {
     const std::unique_ptr<Report> pReport = evaluatedReport(details(kName), "%Name\nA\n");

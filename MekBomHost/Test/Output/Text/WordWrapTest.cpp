@@ -97,4 +97,14 @@ TEST(WordWrapTest, WhatIsCutEndsInAnEllipsisWithinTheWidth)
     for (const CutCase& cut : cases)
         EXPECT_EQ(cut.text, WordWrap::cut(cut.lines, cut.width, cut.ellipsis)) << cut.lines.front() << cut.width;
 }
+
+TEST(WordWrapTest, OnlyTextsOfOneLineThatAreKeptHaveAWidth)
+{
+    EXPECT_EQ(0, WordWrap::widthOfLine(""));
+    EXPECT_EQ(6, WordWrap::widthOfLine("Träger"));
+    EXPECT_EQ(4, WordWrap::widthOfLine("柱脚"));
+    for (const char* const text : { "a\tb", "a\nb", "a\r\nb", "a\x7F", "\xC2\x80", "\xC2\x9F" })
+        EXPECT_EQ(WordWrap::kNotOneLine, WordWrap::widthOfLine(text)) << text;
+    EXPECT_EQ(1, WordWrap::widthOfLine("\xC2\xA0"));
+}
 }
