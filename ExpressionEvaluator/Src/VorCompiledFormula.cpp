@@ -101,7 +101,7 @@ VorCompiledFormula::VorCompiledFormula(const wchar_t* text, int length)
 // Whether the stack is high enough need not be asked: a formula that wants more than kDeepest places is not compiled.
 // Which of two NaNs goes on shows in the sign of the result alone, so that only evaluations that end in one are done
 // again with the left one first.
-template <bool kLeftFirst>
+template <bool kLeftFirst, bool kIsRounded>
 int VorCompiledFormula::compute(const double* values, double& result) const
 {
     constexpr auto calculate =
@@ -122,9 +122,10 @@ int VorCompiledFormula::compute(const double* values, double& result) const
                 break;
         }
     }
-    result = VorExprEvValue::readBack(*pTop);
+    result = kIsRounded ? VorExprEvValue::readBack(*pTop) : *pTop;
     return 1;
 }
 
-template int VorCompiledFormula::compute<false>(const double* values, double& result) const;
-template int VorCompiledFormula::compute<true>(const double* values, double& result) const;
+template int VorCompiledFormula::compute<false, true>(const double* values, double& result) const;
+template int VorCompiledFormula::compute<true, true>(const double* values, double& result) const;
+template int VorCompiledFormula::compute<false, false>(const double* values, double& result) const;

@@ -35,9 +35,13 @@ public:
     // values[i] is the value of names()[i]. When a name has no value there is nothing to compute: the formula fails.
     int evaluate(const double* values, double& result) const
     {
-        const int nResult = compute<false>(values, result);
-        return nResult != 0 && std::isnan(result) ? compute<true>(values, result) : nResult; // rare, and dear
+        const int nResult = compute<false, true>(values, result);
+        return nResult != 0 && std::isnan(result) ? compute<true, true>(values, result) : nResult; // rare, and dear
     }
+
+    // The same with all the digits of the result, for who is bound to no text of it: evaluate() makes 0.000566 of a
+    // weight of 0.00056568 kg/mm. A NaN has either sign.
+    int evaluateUnrounded(const double* values, double& result) const { return compute<false, false>(values, result); }
 
 private:
     // Deeper formulas are left to ExpressionsEvaluator. Arbitrary; formulas of reports nest a few deep.
@@ -55,8 +59,8 @@ private:
 
     class StepWriter;
 
-    // With the left of two NaNs going on, if asked for.
-    template <bool kLeftFirst>
+    // With the left of two NaNs going on, and with the result rounded as its text is, if asked for.
+    template <bool kLeftFirst, bool kIsRounded>
     int compute(const double* values, double& result) const;
 
     std::vector<Step> m_steps; // at least one in a compiled formula

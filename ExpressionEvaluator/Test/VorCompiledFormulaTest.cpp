@@ -170,6 +170,21 @@ TEST(VorCompiledFormulaTest, FormulasGiveWhatTheStatementEvaluatorGives)
                 expectSame(pFormula, { a, b, a });
 }
 
+TEST(VorCompiledFormulaTest, AResultIsHadUnroundedToo)
+{
+    const VorCompiledFormula formula = compile(L"%Weight/%Length");
+    const double values[] = { 1, 3000 };
+    double result = -1;
+
+    EXPECT_EQ(1, formula.evaluate(values, result));
+    EXPECT_EQ(0.000333, result);
+    EXPECT_EQ(1, formula.evaluateUnrounded(values, result));
+    EXPECT_EQ(1.0 / 3000, result);
+    const double byZero[] = { 1, 0 };
+    EXPECT_EQ(0, formula.evaluateUnrounded(byZero, result));
+    EXPECT_EQ(1.0 / 3000, result) << "untouched";
+}
+
 TEST(VorCompiledFormulaTest, RoundingIsThatOfTheTextForEveryMagnitude)
 {
     const VorCompiledFormula formula = compile(L"a*1");

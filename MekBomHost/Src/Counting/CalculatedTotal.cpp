@@ -25,6 +25,7 @@ CalculatedTotal::CalculatedTotal(const ColumnTotal& total, const VorBomItemBase&
         m_tuples.push_back(tupleOf(name, total, footer));
 }
 
+// Rounded to six decimals, as results of formulas are in rows, 0.00056568 kg/mm would be shown as 0.566 kg/m.
 VorBomTypedValue CalculatedTotal::valueIn(const VorBomReportSection& footer, std::string& reason) const
 {
     reason = reasonAgainst(footer);
@@ -34,7 +35,7 @@ VorBomTypedValue CalculatedTotal::valueIn(const VorBomReportSection& footer, std
     for (const int tuple : m_tuples)
         sums.push_back(footer.pValues[tuple].number);
     double result = 0;
-    if (m_formula.evaluate(sums.data(), result) == 1)
+    if (m_formula.evaluateUnrounded(sums.data(), result) == 1)
         return { VorBomDataValue::kDoubleData, VorBomTemplateUnits::kNoUnit, result };
     reason = "it divides by zero";
     return {};

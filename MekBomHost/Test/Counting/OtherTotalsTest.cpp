@@ -190,6 +190,15 @@ TEST(OtherTotalsTest, ACalculatedTotalHasTheKindThatFollowsFromItsSums)
     EXPECT_EQ("9  4.67\n1  4\n10  4.6\n", totalsOf(list));
 }
 
+TEST(OtherTotalsTest, ACalculatedTotalIsNotRoundedInTheUnitsOfTheModel)
+{
+    const std::string column = R"({ "token": "%SumBy:%Weight", "label": "Per length", "unit": "kg/m/5",
+        "total": { "formula": "%W/%L", "of": { "%W": "%SumBy:%Weight", "%L": "%SumBy:%Length" } } })";
+    const std::string sums = R"({ "token": "%SumBy:%Weight" }, { "token": "%SumBy:%Length" })";
+    const std::string parts = "%Name,%Material,%Quantity,%Weight [kg],%Length [mm]\nA,S235,1,1,3000\n";
+    EXPECT_NE(std::string::npos, tableOf(listWith(column, sums), parts).find("0.33333")) << "and not 0.333";
+}
+
 TEST(OtherTotalsTest, TheFootTellsThatTotalsAreNoSums)
 {
     const auto footOf = [](const std::string& column, const std::string& sums)
