@@ -51,6 +51,11 @@ void CheckedTemplate::addGroupTokens(std::size_t level)
     m_groupTokens.push_back(tokens);
 }
 
+bool CheckedTemplate::isCount(const CheckedTuple& tuple) const
+{
+    return TotalTokens::kindOf(m_template.shownTokenOf(*tuple.pSection, tuple.index)) == ColumnTotal::kCount;
+}
+
 bool CheckedTemplate::usesSum(const CheckedTuple& tuple) const
 {
     const VorString sum = Utf8::toWide(tuple.token);

@@ -65,6 +65,9 @@ public:
     // A grouping request in the deepest level adds none: each row is a group of its own there.
     const std::vector<std::string>& groupTokensDownTo(std::size_t level) const { return m_groupTokens[level]; }
 
+    // Whether what a footer shows is how many rows have the datum, be that a number or a text.
+    bool isCount(const CheckedTuple& tuple) const;
+
     // Whether the list makes use of the sum that the tuple asks for: shows it, and not a mean or the like, or calculates
     // another total from it.
     bool usesSum(const CheckedTuple& tuple) const;

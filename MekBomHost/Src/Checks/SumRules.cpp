@@ -66,10 +66,11 @@ void SumRules::findSumOutsideFooter(const CheckedTuple& tuple)
                        "move it to the footer of the level whose rows it is to add up");
 }
 
-// MB302 trips on "%SumBy:%Name" and does not on "%SumBy:%Weight", nor on a token of which nobody knows the kind.
+// MB302 trips on "%SumBy:%Name" and does not on "%SumBy:%Weight", nor on a token of which nobody knows the kind, nor where
+// texts are merely counted.
 void SumRules::findSumOfTexts(const CheckedTuple& tuple)
 {
-    if (m_tokens.kindOf(tuple.request.subject) == KnownTokens::kText)
+    if (m_tokens.kindOf(tuple.request.subject) == KnownTokens::kText && !m_list.isCount(tuple))
         m_mistakes.add(MistakeCodes::kSumOfTexts, tuple,
                        inQuotes(tuple.token) + " adds up texts: the text of the last row is printed",
                        "sum a number, or say what the data have: \"tokens\": { ... : \"number\" }");

@@ -1,4 +1,5 @@
-// Counts the values of one datum in the rows of a group, and finds the smallest, the greatest and the mean of them.
+// Counts the values of one datum in the rows of a group, and finds the smallest, the greatest and the mean of those that are
+// numbers.
 //
 //   rows of the group    %Length 2000, %Quantity 3    %Length 6000, %Quantity 1    no %Length
 //
@@ -44,7 +45,8 @@ public:
 private:
     struct Values
     {
-        int count = 0;
+        int count = 0;      // texts among them
+        int numNumbers = 0; // and those without
         bool areWhole = true;
         double least = 0;
         double greatest = 0;

@@ -18,7 +18,7 @@ struct ColumnTotal
     enum eKind
     {
         kSum,
-        kCount,     // how many rows have a value
+        kCount,     // how many rows have a value, be it a number or a text
         kLeast,     // the smallest value
         kGreatest,  // the largest one
         kMean,      // of all pieces where a row's value is that of one piece, else of all rows

@@ -100,6 +100,12 @@ TEST(OtherTotalsTest, ACountIsThatOfTheRowsWithTheDatumAndHasNoUnit)
     EXPECT_NE(std::string::npos, tableOf(listWith(column), kParts).find("Lengths  Length [mm]"));
 }
 
+TEST(OtherTotalsTest, TextsAreCounted)
+{
+    const std::string column = R"({ "token": "%SumBy:%Name", "label": "Rows", "total": "count" })";
+    EXPECT_EQ("9  3\n1  1\n10  4\n", totalsOf(listWith(column, R"({ "token": "%SumBy:%Name" })")));
+}
+
 TEST(OtherTotalsTest, ATotalOfNoRowIsEmpty)
 {
     const std::string parts = "%Name,%Material,%Length [mm],%Quantity\nA,S235,,3\nB,S355,5,1\n";

@@ -48,7 +48,7 @@ TEST(ValueTallyTest, AMeanLosesNoDigitsToTheOrderOfTheRows)
     EXPECT_EQ(0.25, lengths.totalOf(ColumnTotal::kMean).number);
 }
 
-TEST(ValueTallyTest, ATextIsNoValue)
+TEST(ValueTallyTest, ATextIsCountedAndIsNoNumber)
 {
     VorBomDataRow row;
     row.addData(VorBomDataTuple(L"%Length", VorString(L"n/a")));
@@ -56,7 +56,8 @@ TEST(ValueTallyTest, ATextIsNoValue)
     lengths.add(row);
     lengths.add(rowOf(3, 2));
 
-    EXPECT_EQ(1, lengths.totalOf(ColumnTotal::kCount).number);
+    EXPECT_EQ(2, lengths.totalOf(ColumnTotal::kCount).number);
+    EXPECT_EQ(3, lengths.totalOf(ColumnTotal::kLeast).number);
     EXPECT_EQ(3, lengths.totalOf(ColumnTotal::kMean).number);
 }
 }
