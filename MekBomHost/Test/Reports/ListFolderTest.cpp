@@ -99,6 +99,11 @@ TEST(ListFolderTest, GroupsStandInTheOrderOfTotalsThatNeedBeNoSums)
     expectList("groups-in-the-order-of-totals");
 }
 
+TEST(ListFolderTest, EveryVerbPrints)
+{
+    expectList("every-verb");
+}
+
 TEST(ListFolderTest, PlainNumbersArePrintedInFull)
 {
     expectList("plain-numbers-are-printed-in-full");

@@ -29,8 +29,9 @@ struct CellLook
         kTotal        // of the whole list
     };
 
-    // Whether a line of these cells is a band or a rule across the list, so that empty cells look like something, too.
-    bool isAcross() const { return role == kGroupHeader || role == kTotal; }
+    // Whether a line of these cells has a rule across the list, so that empty cells look like something, too. The band of
+    // a group's header ends with its texts: of a list of small groups a quarter of all cells would be empty ones.
+    bool isAcross() const { return role == kTotal; }
 
     eRole role = kLine;
     bool isRight = false;
