@@ -1,23 +1,25 @@
 # What every module of this tree shares: language level, warnings, visibility, and one call each for a library,
 # its tests, its benchmarks and its fuzz drivers. Sources are found by folder (Src, Test, Bench, Fuzz), one class per file.
+#
+# All of it is set on our own targets and nothing on the folder, so that a project that has this one as a part keeps the
+# settings of its own.
 
-set(CMAKE_CXX_STANDARD 17)
-set(CMAKE_CXX_STANDARD_REQUIRED ON)
-set(CMAKE_CXX_EXTENSIONS OFF)
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
-set(CMAKE_CXX_VISIBILITY_PRESET hidden)
-set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
-set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
-if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
-    set(CMAKE_BUILD_TYPE Release CACHE STRING "" FORCE)
-endif()
-
-function(mek_set_warnings target)
+# mek_set_up(MekRoots): how all code of this tree is compiled. What is compiled names its sources relative to the project,
+# so that no binary tells the folder that it was built in.
+function(mek_set_up target)
+    target_compile_features(${target} PUBLIC cxx_std_17)
+    set_target_properties(${target} PROPERTIES
+        CXX_EXTENSIONS OFF
+        POSITION_INDEPENDENT_CODE ON
+        CXX_VISIBILITY_PRESET hidden
+        VISIBILITY_INLINES_HIDDEN ON)
     if(MSVC)
-        target_compile_options(${target} PRIVATE /W4 /WX)
-    else()
-        target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+        target_compile_options(${target} PRIVATE /W4 $<$<BOOL:${MEK_WARNINGS_AS_ERRORS}>:/WX>)
+        return()
     endif()
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${MEK_WARNINGS_AS_ERRORS}>:-Werror>
+        -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
 endfunction()
 
 # Sets `variable` to the folders below Src of the calling folder, the rooms for what serves the module alone.
@@ -31,33 +33,58 @@ function(mek_find_rooms variable)
     set(${variable} ${rooms} PARENT_SCOPE)
 endfunction()
 
-# mek_add_library(MekRoots ALIAS Mek::Roots [LINK Mek::Other ...]): a library from the sources in Src of the calling
-# folder and in its rooms. Users get Exp and the headers that stand directly in Src; the rooms are on the include path of
-# the library's own sources, and of its tests in Test/Internals.
-# MekRootsObjects is what the library is made of. Those tests link it, since a shared library hides what is internal.
-function(mek_add_library target)
-    cmake_parse_arguments(ARG "" "ALIAS" "LINK" ${ARGN})
+# What users of the library Mek${name} and of its objects see: its headers, here and where they are installed.
+function(mek_set_usage target name)
+    cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+    target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>)
+    foreach(folder Src Exp)
+        if(IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+            target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/${folder}>)
+        endif()
+    endforeach()
+    target_link_libraries(${target} PUBLIC ${ARG_LINK})
+    if(NOT BUILD_SHARED_LIBS)
+        target_compile_definitions(${target} PUBLIC MEK_STATIC_LIBRARIES)
+    endif()
+endfunction()
+
+# mek_add_library(Units LINK Mek::Roots): the library MekUnits, for others Mek::Units, from the sources in Src of the
+# calling folder and in its rooms. Users get Exp and the headers that stand directly in Src; the rooms are on the include
+# path of the library's own sources, and of its tests in Test/Internals.
+# MekUnitsObjects is what the library is made of. Those tests link it, since a shared library hides what is internal.
+function(mek_add_library name)
+    cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+    set(target Mek${name})
     file(GLOB sources CONFIGURE_DEPENDS Src/*.cpp Src/*/*.cpp)
     file(GLOB headers CONFIGURE_DEPENDS Src/*.h Src/*/*.h Exp/*.h)
     mek_find_rooms(rooms)
     add_library(${target}Objects OBJECT ${sources} ${headers})
-    target_include_directories(${target}Objects
-        PUBLIC ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/Src
-        PRIVATE ${rooms})
-    if(IS_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR}/Exp)
-        target_include_directories(${target}Objects PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}/Exp)
-    endif()
-    target_link_libraries(${target}Objects PUBLIC ${ARG_LINK})
+    target_include_directories(${target}Objects PRIVATE ${rooms})
+    mek_set_usage(${target}Objects ${name} LINK ${ARG_LINK})
+    mek_set_up(${target}Objects)
     if(BUILD_SHARED_LIBS)
         target_compile_definitions(${target}Objects PRIVATE ${target}_EXPORTS)
-    else()
-        target_compile_definitions(${target}Objects PUBLIC MEK_STATIC_LIBRARIES)
     endif()
-    mek_set_warnings(${target}Objects)
 
     add_library(${target} $<TARGET_OBJECTS:${target}Objects>)
-    add_library(${ARG_ALIAS} ALIAS ${target})
-    target_link_libraries(${target} PUBLIC ${target}Objects)
+    add_library(Mek::${name} ALIAS ${target})
+    mek_set_usage(${target} ${name} LINK ${ARG_LINK})
+    mek_set_up(${target})
+    set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX EXPORT_NAME ${name}
+                          VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    mek_hide_standard_library(${target})
+    mek_install_library(${name} LINK ${ARG_LINK})
+endfunction()
+
+# Templates of the standard library are visible wherever they are instantiated, hidden or not: that is how its headers
+# declare them. The linker takes them off the list of what a shared library exports.
+function(mek_hide_standard_library target)
+    if(NOT BUILD_SHARED_LIBS OR NOT CMAKE_SYSTEM_NAME STREQUAL "Linux")
+        return()
+    endif()
+    set(script ${PROJECT_SOURCE_DIR}/CMake/HiddenSymbols.map)
+    target_link_options(${target} PRIVATE -Wl,--version-script=${script})
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${script})
 endfunction()
 
 # Removes the test files that start no thread; support files stay.
@@ -96,7 +123,7 @@ function(mek_add_tests target)
     target_include_directories(${target} PRIVATE Test ${rooms})
     target_link_libraries(${target} PRIVATE ${ARG_LINK} GTest::gtest_main)
     target_compile_definitions(${target} PRIVATE ${ARG_DEFINITIONS})
-    mek_set_warnings(${target})
+    mek_set_up(${target})
     gtest_discover_tests(${target} DISCOVERY_TIMEOUT 120 PROPERTIES TIMEOUT 900)
 endfunction()
 
@@ -109,7 +136,7 @@ function(mek_add_benchmarks target)
     endif()
     add_executable(${target} ${sources})
     target_link_libraries(${target} PRIVATE ${ARG_LINK} benchmark::benchmark_main)
-    mek_set_warnings(${target})
+    mek_set_up(${target})
 endfunction()
 
 # mek_add_fuzzers(LINK Mek::Roots): one libFuzzer program per Fuzz/*.cpp, named after its file.
@@ -125,7 +152,7 @@ function(mek_add_fuzzers)
         target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
         target_link_options(${name} PRIVATE -fsanitize=fuzzer)
         target_link_libraries(${name} PRIVATE ${ARG_LINK})
-        mek_set_warnings(${name})
+        mek_set_up(${name})
     endforeach()
 endfunction()
 

@@ -8,7 +8,7 @@
 #include "VorExpressionEvaluator.h"
 #include "VorFormulaStatements.h"
 
-#include "MekRoots/Exp/DebugOutput.h"
+#include "MekRoots/Exp/VorDebugOutput.h"
 
 #include <algorithm>
 #include <cwchar>
@@ -32,7 +32,7 @@ void traceTree(const VorExprEvTreeItem* pRoot)
         pending.pop_back();
         if (pItem == nullptr)
             continue;
-        OutputDebugStringW(L"\n");
+        VorDebugOutput::write(L"\n");
         pItem->print();
         pending.push_back(pItem->right());
         pending.push_back(pItem->left());

@@ -8,7 +8,7 @@
 #include "Tree/VorExprEvTreeItemStack.h"
 #include "VorExprEvValue.h"
 
-#include "MekRoots/Exp/DebugOutput.h"
+#include "MekRoots/Exp/VorDebugOutput.h"
 #include "MekRoots/Exp/VorMemoryControllerController.h"
 
 #include <algorithm>
@@ -55,7 +55,7 @@ int VorExprEvTreeItem::printText() const
         const std::size_t nCopied = text.copy(buffer, std::size(buffer) - 1);
         buffer[nCopied] = L'\0';
     }
-    OutputDebugStringW(L"\n");
-    OutputDebugStringW(buffer);
+    VorDebugOutput::write(L"\n");
+    VorDebugOutput::write(buffer);
     return 1;
 }

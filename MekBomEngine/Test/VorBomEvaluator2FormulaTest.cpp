@@ -5,7 +5,7 @@
 #include "ExpressionEvaluator/Src/VorExpressionEvaluator.h"
 #include "ExpressionEvaluator/Src/evaluateFormula.h"
 #include "MekBomEngine/Test/Support/ReportBuilders.h"
-#include "MekRoots/Exp/DebugOutput.h"
+#include "MekRoots/Exp/VorDebugOutput.h"
 
 #include <limits>
 #include <string>
@@ -43,11 +43,11 @@ public:
     {
         written().clear();
         m_nSwitch = 1;
-        m_previousSink = setDebugOutputSink([](const wchar_t* text) { written() += text; });
+        m_previousSink = VorDebugOutput::setSink([](const wchar_t* text) { written() += text; });
     }
     ~Traces()
     {
-        setDebugOutputSink(m_previousSink);
+        VorDebugOutput::setSink(m_previousSink);
         m_nSwitch = 0;
     }
     Traces(const Traces&) = delete;
@@ -68,7 +68,7 @@ public:
 
 private:
     int& m_nSwitch;
-    DebugOutputSink m_previousSink;
+    VorDebugOutput::Sink m_previousSink;
 };
 
 void addDetails(Report& report, std::initializer_list<VorBomDataTuple> header,

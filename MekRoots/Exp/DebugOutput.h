@@ -1,19 +1,21 @@
-// The platform's debug output. On Windows this is the system's own OutputDebugStringW; elsewhere the library supplies
-// it: the text goes, as UTF-8, to standard error, or to a sink that the host has set.
+// The platform's debug output by the name that Windows gives it. There it is the system's own; elsewhere it stands for
+// VorDebugOutput.
+//
+//   OutputDebugStringW(L"push 2\n");
+//
+// Elsewhere on purpose no library exports the name: a host that carries Windows code to other platforms has a function
+// of that name, perhaps with characters of another width, and the two are never linked with each other. Such a host
+// leaves this header out, which no other header includes.
 #pragma once
 
-#include "MekExport.h"
+#include "VorDebugOutput.h"
 
 #if defined(_WIN32)
 extern "C" __declspec(dllimport) void __stdcall OutputDebugStringW(const wchar_t* text);
 #else
 // Writes zero-terminated `text`; null writes nothing.
-extern "C" MEK_ROOTS_API void OutputDebugStringW(const wchar_t* text);
-
-using DebugOutputSink = void (*)(const wchar_t* text);
-
-// Sends debug output to `sink` from now on, null for standard error, and returns the sink before it. Process-wide and
-// safe from several threads; the sink is called on the writing thread. A sink that has been replaced may still be
-// called by a thread that was writing at that moment.
-MEK_ROOTS_API DebugOutputSink setDebugOutputSink(DebugOutputSink sink);
+inline void OutputDebugStringW(const wchar_t* text)
+{
+    VorDebugOutput::write(text);
+}
 #endif

@@ -26,13 +26,13 @@
 #define MEK_UNITS_API MEK_IMPORT
 #endif
 
-#if defined(KTRepositoryProxy_EXPORTS)
+#if defined(MekRepositoryProxy_EXPORTS)
 #define MEK_REPOSITORY_API MEK_EXPORT
 #else
 #define MEK_REPOSITORY_API MEK_IMPORT
 #endif
 
-#if defined(ExpressionEvaluator_EXPORTS)
+#if defined(MekExpressionEvaluator_EXPORTS)
 #define MEK_EXPRESSION_API MEK_EXPORT
 #else
 #define MEK_EXPRESSION_API MEK_IMPORT

@@ -4,7 +4,7 @@
 #include "ExpressionEvaluator/Src/VorExprEvTreeItemOperator.h"
 #include "ExpressionEvaluator/Src/VorExpressionEvaluator.h"
 
-#include "MekRoots/Exp/DebugOutput.h"
+#include "MekRoots/Exp/VorDebugOutput.h"
 
 #include <cstddef>
 #include <memory>
@@ -50,16 +50,16 @@ void VorTreeBuilder::trace(const VorOperatorStack<Left>& waiting) const
 {
     if (VorExpressionEvaluator::m_nTraceStacks == 0)
         return;
-    OutputDebugStringW(L"\nOperator Stack\n");
+    VorDebugOutput::write(L"\nOperator Stack\n");
     for (std::size_t i = waiting.size() - 1; i > 0; --i) // no operator stands at the bottom
     {
-        OutputDebugStringW(L"\n");
+        VorDebugOutput::write(L"\n");
         VorExprEvTreeItemOperator(m_text.operatorAt(waiting[i].left)).print();
     }
-    OutputDebugStringW(L"\nOperand Stack\n");
+    VorDebugOutput::write(L"\nOperand Stack\n");
     for (const VorExprEvTreeItem* pItem = m_operands.top(); pItem != nullptr; pItem = pItem->next())
     {
-        OutputDebugStringW(L"\n");
+        VorDebugOutput::write(L"\n");
         pItem->print();
     }
 }

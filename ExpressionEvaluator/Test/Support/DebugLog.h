@@ -1,16 +1,16 @@
 // Catches the debug output while it lives.
 #pragma once
 
-#include "MekRoots/Exp/DebugOutput.h"
+#include "MekRoots/Exp/VorDebugOutput.h"
 #include "MekRoots/Test/Support/TestSupport.h"
 
 class DebugLog
 {
 public:
-    DebugLog() : m_previousSink(setDebugOutputSink(&DebugLog::write)) {}
+    DebugLog() : m_previousSink(VorDebugOutput::setSink(&DebugLog::write)) {}
     ~DebugLog()
     {
-        setDebugOutputSink(m_previousSink);
+        VorDebugOutput::setSink(m_previousSink);
         written() = VorString();
     }
     DebugLog(const DebugLog&) = delete;
@@ -26,5 +26,5 @@ private:
     }
     static void write(const wchar_t* text) { written() += text; }
 
-    DebugOutputSink m_previousSink;
+    VorDebugOutput::Sink m_previousSink;
 };

@@ -7,7 +7,7 @@
 #include <thread>
 #include <vector>
 
-#if !defined(_WIN32) // there it is the system's own
+#if !defined(_WIN32) // there the system has an output of its own
 
 namespace
 {
@@ -28,59 +28,68 @@ void countHere(const wchar_t*)
 class SinkScope
 {
 public:
-    explicit SinkScope(DebugOutputSink sink) : m_pOld(setDebugOutputSink(sink)) { s_texts.clear(); }
+    explicit SinkScope(VorDebugOutput::Sink sink) : m_pOld(VorDebugOutput::setSink(sink)) { s_texts.clear(); }
     ~SinkScope()
     {
-        setDebugOutputSink(m_pOld);
+        VorDebugOutput::setSink(m_pOld);
         std::vector<VorString>().swap(s_texts);
     }
     SinkScope(const SinkScope&) = delete;
     SinkScope& operator=(const SinkScope&) = delete;
 
 private:
-    DebugOutputSink m_pOld;
+    VorDebugOutput::Sink m_pOld;
 };
 
 std::string onStandardError(const wchar_t* text)
 {
     const SinkScope none(nullptr);
     testing::internal::CaptureStderr();
-    OutputDebugStringW(text);
+    VorDebugOutput::write(text);
     return testing::internal::GetCapturedStderr();
 }
 }
 
-TEST(DebugOutputTest, ASinkIsGivenEachTextAsItIs)
+TEST(VorDebugOutputTest, ASinkIsGivenEachTextAsItIs)
 {
     const SinkScope scope(keep);
 
-    OutputDebugStringW(L"push 2\n");
-    OutputDebugStringW(L"");
-    OutputDebugStringW(L"\x20AC%d");
+    VorDebugOutput::write(L"push 2\n");
+    VorDebugOutput::write(L"");
+    VorDebugOutput::write(L"\x20AC%d");
 
     EXPECT_EQ((std::vector<VorString>{ L"push 2\n", L"", L"\x20AC%d" }), s_texts);
 }
 
-TEST(DebugOutputTest, ANullTextWritesNothing)
+TEST(VorDebugOutputTest, TheNameOnWindowsStandsForIt)
 {
     const SinkScope scope(keep);
 
-    OutputDebugStringW(nullptr);
+    OutputDebugStringW(L"push 2\n");
+
+    EXPECT_EQ((std::vector<VorString>{ L"push 2\n" }), s_texts);
+}
+
+TEST(VorDebugOutputTest, ANullTextWritesNothing)
+{
+    const SinkScope scope(keep);
+
+    VorDebugOutput::write(nullptr);
 
     EXPECT_TRUE(s_texts.empty());
     EXPECT_EQ("", onStandardError(nullptr));
 }
 
-TEST(DebugOutputTest, SettingASinkGivesTheOneBefore)
+TEST(VorDebugOutputTest, SettingASinkGivesTheOneBefore)
 {
     const SinkScope scope(nullptr);
 
-    EXPECT_EQ(nullptr, setDebugOutputSink(keep));
-    EXPECT_EQ(&keep, setDebugOutputSink(countHere));
-    EXPECT_EQ(&countHere, setDebugOutputSink(nullptr));
+    EXPECT_EQ(nullptr, VorDebugOutput::setSink(keep));
+    EXPECT_EQ(&keep, VorDebugOutput::setSink(countHere));
+    EXPECT_EQ(&countHere, VorDebugOutput::setSink(nullptr));
 }
 
-TEST(DebugOutputTest, WithoutASinkTheTextGoesToStandardErrorInUtf8)
+TEST(VorDebugOutputTest, WithoutASinkTheTextGoesToStandardErrorInUtf8)
 {
     EXPECT_EQ("push 2\n", onStandardError(L"push 2\n"));
     EXPECT_EQ("no line break is added", onStandardError(L"no line break is added"));
@@ -90,7 +99,7 @@ TEST(DebugOutputTest, WithoutASinkTheTextGoesToStandardErrorInUtf8)
     EXPECT_EQ("\xF0\x90\x80\x80|\xF4\x8F\xBF\xBF", onStandardError(L"\U00010000|\U0010FFFF"));
 }
 
-TEST(DebugOutputTest, WhatIsNoCharacterIsReplaced)
+TEST(VorDebugOutputTest, WhatIsNoCharacterIsReplaced)
 {
     const wchar_t text[] = { 0xD800, L'a', 0xDFFF, 0xE000, 0 };
     EXPECT_EQ("\xEF\xBF\xBD"
@@ -101,14 +110,14 @@ TEST(DebugOutputTest, WhatIsNoCharacterIsReplaced)
     EXPECT_EQ("\xEF\xBF\xBD\xEF\xBF\xBD", onStandardError(beyond));
 }
 
-TEST(DebugOutputTest, ALongTextIsWrittenWhole)
+TEST(VorDebugOutputTest, ALongTextIsWrittenWhole)
 {
     const std::wstring text(100000, L'x');
 
     EXPECT_EQ(std::string(100000, 'x'), onStandardError(text.c_str()));
 }
 
-TEST(DebugOutputThreadTest, TheSinkIsCalledOnTheWritingThread)
+TEST(VorDebugOutputThreadTest, TheSinkIsCalledOnTheWritingThread)
 {
     const SinkScope scope(countHere);
     std::vector<std::thread> threads;
@@ -118,7 +127,7 @@ TEST(DebugOutputThreadTest, TheSinkIsCalledOnTheWritingThread)
             []
             {
                 for (int i = 0; i < 1000; ++i)
-                    OutputDebugStringW(L"text");
+                    VorDebugOutput::write(L"text");
                 EXPECT_EQ(1000, s_numOnThisThread);
             });
     for (std::thread& thread : threads)
@@ -127,18 +136,18 @@ TEST(DebugOutputThreadTest, TheSinkIsCalledOnTheWritingThread)
     EXPECT_EQ(0, s_numOnThisThread);
 }
 
-TEST(DebugOutputThreadTest, SinksMayBeChangedWhileOthersWrite)
+TEST(VorDebugOutputThreadTest, SinksMayBeChangedWhileOthersWrite)
 {
     const SinkScope scope(countHere);
     std::thread writer(
         []
         {
             for (int i = 0; i < 20000; ++i)
-                OutputDebugStringW(L"text");
+                VorDebugOutput::write(L"text");
         });
-    const DebugOutputSink other = [](const wchar_t*) {};
+    const VorDebugOutput::Sink other = [](const wchar_t*) {};
     for (int i = 0; i < 2000; ++i)
-        setDebugOutputSink(i % 2 == 0 ? other : countHere);
+        VorDebugOutput::setSink(i % 2 == 0 ? other : countHere);
     writer.join();
 }
 

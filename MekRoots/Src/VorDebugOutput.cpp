@@ -2,17 +2,26 @@
 //   a sink is set     it is called with the wide text
 //   no sink           the bytes 31 32 20 6D C2 B2, which are its UTF-8, go to standard error in one write
 // A null text reaches neither.
-#include "DebugOutput.h"
+#include "VorDebugOutput.h"
 
-#if !defined(_WIN32)
 #include <atomic>
 #include <cstdio>
 #include <string>
 
+#if defined(_WIN32)
+extern "C" __declspec(dllimport) void __stdcall OutputDebugStringW(const wchar_t* text);
+#endif
+
 namespace
 {
-std::atomic<DebugOutputSink> s_sink{ nullptr };
+std::atomic<VorDebugOutput::Sink> s_sink{ nullptr };
 
+#if defined(_WIN32)
+void writeToPlatform(const wchar_t* text)
+{
+    OutputDebugStringW(text);
+}
+#else
 // Surrogates and values beyond Unicode stand for no character; they become the replacement character. A wchar_t is a
 // whole character here: the platform where it is half of one has a debug output of its own.
 char32_t validCharacter(wchar_t character)
@@ -37,28 +46,28 @@ void appendUtf8(std::string& bytes, char32_t character)
 }
 
 // One write for the whole text, so that the texts of several threads stand one behind the other.
-void writeToStandardError(const wchar_t* text)
+void writeToPlatform(const wchar_t* text)
 {
     std::string bytes;
     for (; *text != L'\0'; ++text)
         appendUtf8(bytes, validCharacter(*text));
     std::fwrite(bytes.data(), 1, bytes.size(), stderr);
 }
+#endif
 }
 
-extern "C" void OutputDebugStringW(const wchar_t* text)
+void VorDebugOutput::write(const wchar_t* text)
 {
     if (text == nullptr)
         return;
-    const DebugOutputSink sink = s_sink.load();
+    const Sink sink = s_sink.load();
     if (sink != nullptr)
         sink(text);
     else
-        writeToStandardError(text);
+        writeToPlatform(text);
 }
 
-DebugOutputSink setDebugOutputSink(DebugOutputSink sink)
+VorDebugOutput::Sink VorDebugOutput::setSink(Sink sink)
 {
     return s_sink.exchange(sink);
 }
-#endif
