@@ -46,7 +46,7 @@ public:
 
     void addRemark(const std::string& text) { m_pen.writeAcross(text, CellLook::kRemark); }
 
-    void finish() { m_pen.fitColumns(); }
+    void finish() { m_pen.finish(); }
 
 private:
     void addTexts(const std::string& what, const std::string& text, const CellLook& look)

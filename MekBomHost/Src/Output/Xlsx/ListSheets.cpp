@@ -166,7 +166,7 @@ void ListSheets::endSheet()
     worksheet_freeze_panes(pSheet, m_headingRow + 1, 0);
     worksheet_outline_settings(pSheet, LXW_TRUE, m_outline.hasSummariesBelow() ? LXW_TRUE : LXW_FALSE, LXW_TRUE,
                                LXW_FALSE);
-    setUpPage(m_pPen->fitColumns());
+    setUpPage(m_pPen->finish());
 }
 
 void ListSheets::setUpPage(double width)

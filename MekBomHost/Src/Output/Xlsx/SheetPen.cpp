@@ -46,20 +46,10 @@ bool hasLines(std::string_view text)
 }
 
 SheetPen::SheetPen(WorkbookFile& file, CellFormats& formats, const std::string& name, std::size_t numColumns)
-    : m_formats(formats), m_name(name), m_sheet(file.addSheet(name)), m_widths(numColumns)
+    : m_formats(formats), m_name(name), m_sheet(file.addSheet(name)), m_rows(m_sheet, numColumns), m_widths(numColumns)
 {
     worksheet_fit_to_pages(&m_sheet, 1, 0);
     WorkbookFile::require(worksheet_ignore_errors(&m_sheet, LXW_IGNORE_NUMBER_STORED_AS_TEXT, kAllCells));
-}
-
-void SheetPen::beginRow(std::uint8_t outlineLevel)
-{
-    ++m_numRows;
-    if (outlineLevel == 0)
-        return;
-    lxw_row_col_options options = {};
-    options.level = outlineLevel;
-    WorkbookFile::require(worksheet_set_row_opt(&m_sheet, row(), LXW_DEF_ROW_HEIGHT, nullptr, &options));
 }
 
 void SheetPen::writeText(std::size_t column, std::string_view text, CellLook look, int limit)
@@ -71,20 +61,19 @@ void SheetPen::writeText(std::size_t column, std::string_view text, CellLook loo
     const int width = widthOf(text);
     look.wraps = width > limit || hasLines(m_text);
     makeRoom(column, std::min(width, limit) + (look.isIndented ? kIndent : 0));
-    putText(column, m_text.size() > CellFormats::kLongestTyped ? m_formats.ofLongText(look) : m_formats.ofText(look));
+    const bool isLong = m_text.size() > CellFormats::kLongestTyped;
+    m_rows.addText(column, m_text, *(isLong ? m_formats.ofLongText(look) : m_formats.ofText(look)));
 }
 
 void SheetPen::writeNumber(std::size_t column, const SheetNumber& number, int width, const CellLook& look)
 {
     makeRoom(column, width);
-    WorkbookFile::require(worksheet_write_number(&m_sheet, row(), static_cast<lxw_col_t>(column), number.number,
-                                                 m_formats.of(look, number)));
+    m_rows.addNumber(column, number.number, *m_formats.of(look, number));
 }
 
 void SheetPen::writeEmpty(std::size_t column, const CellLook& look)
 {
-    WorkbookFile::require(
-        worksheet_write_blank(&m_sheet, row(), static_cast<lxw_col_t>(column), m_formats.ofText(look)));
+    m_rows.addEmpty(column, *m_formats.ofText(look));
 }
 
 void SheetPen::writeAcross(std::string_view text, CellLook::eRole role)
@@ -95,12 +84,13 @@ void SheetPen::writeAcross(std::string_view text, CellLook::eRole role)
         SheetText::inCell(line, m_text);
         requireLength(0, line);
         if (!line.empty())
-            putText(0, m_formats.ofText({ role }));
+            m_rows.addText(0, m_text, *m_formats.ofText({ role }));
     }
 }
 
-double SheetPen::fitColumns()
+double SheetPen::finish()
 {
+    m_rows.finish();
     double sum = 0;
     for (std::size_t column = 0; column < m_widths.size(); ++column)
     {
@@ -110,12 +100,6 @@ double SheetPen::fitColumns()
         sum += width;
     }
     return sum;
-}
-
-void SheetPen::putText(std::size_t column, lxw_format* pFormat)
-{
-    WorkbookFile::require(
-        worksheet_write_string(&m_sheet, row(), static_cast<lxw_col_t>(column), m_text.c_str(), pFormat));
 }
 
 // A cell with half a text would be worse than no workbook.
@@ -130,7 +114,7 @@ void SheetPen::requireLength(std::size_t column, std::string_view text) const
     Finding finding =
         Finding::of(FindingCodes::kOutputNotWritten, "a text of " + std::to_string(length) + " characters",
                     "at most " + std::to_string(most) + ", which a cell of a workbook holds");
-    finding.path = m_name + "!" + cellName(row(), column);
+    finding.path = m_name + "!" + cellName(m_rows.count() - 1, column);
     finding.remedy = "shorten it, or write the list in another format";
     throw Fault(kOutputNotWritten, finding);
 }

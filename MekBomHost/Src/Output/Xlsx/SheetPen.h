@@ -4,10 +4,11 @@
 //   pen.beginRow();
 //   pen.writeText(0, "HEA200", CellLook());
 //   pen.writeNumber(1, *SheetNumber::of("8.57", 8.5744), 4, CellLook());
-//   pen.fitColumns();
+//   pen.finish();
 #pragma once
 
 #include "CellFormats.h"
+#include "RowPen.h"
 #include "SheetNumber.h"
 #include "WorkbookFile.h"
 
@@ -30,10 +31,10 @@ public:
     SheetPen(WorkbookFile& file, CellFormats& formats, const std::string& name, std::size_t numColumns);
 
     lxw_worksheet& sheet() { return m_sheet; }
-    std::uint32_t numRows() const { return m_numRows; }
+    std::uint32_t numRows() const { return m_rows.count(); }
 
     // Begins the next row, at that level of the outline. It must be there before its cells.
-    void beginRow(std::uint8_t outlineLevel = 0);
+    void beginRow(std::uint8_t outlineLevel = 0) { m_rows.begin(outlineLevel); }
 
     // Writes a text into the row, whatever it looks like: formulas and addresses are texts like others. One that is
     // wider than `limit` goes on in further lines of the cell. Throws a Fault of status kOutputNotWritten for a text
@@ -48,20 +49,18 @@ public:
     // Writes a text into a row of its own, across all columns, of which it widens none. Of several lines each gets a row.
     void writeAcross(std::string_view text, CellLook::eRole role);
 
-    // Sets the widths of the columns, once all rows are written, and gives the width of all together, in characters.
-    double fitColumns();
+    // Completes the rows, sets the widths of the columns and gives the width of all together, in characters.
+    double finish();
 
 private:
-    void putText(std::size_t column, lxw_format* pFormat);
     void requireLength(std::size_t column, std::string_view text) const;
     void makeRoom(std::size_t column, int width);
-    lxw_row_t row() const { return m_numRows - 1; }
 
     CellFormats& m_formats;
     const std::string m_name;
     lxw_worksheet& m_sheet;
-    std::uint32_t m_numRows = 0; // begun until now
-    std::vector<int> m_widths;   // of the columns, in characters
-    std::string m_text;          // as the cell being written holds it; a buffer
+    RowPen m_rows;
+    std::vector<int> m_widths; // of the columns, in characters
+    std::string m_text;        // as the cell being written holds it; a buffer
 };
 }
