@@ -9,7 +9,10 @@
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
+find_program(MEK_GZIP gzip)
+mark_as_advanced(MEK_GZIP)
 set(MEK_INSTALL_HEADERS ${CMAKE_INSTALL_INCLUDEDIR}/mekbom)
+set(MEK_INSTALL_DOCS ${CMAKE_INSTALL_DATADIR}/doc/mekbom-doc)
 set(MEK_INSTALL_CMAKE ${CMAKE_INSTALL_LIBDIR}/cmake/MekBomEngine)
 
 # mek_find_libraries_from(mekbom ${CMAKE_INSTALL_FULL_BINDIR}): an installed program or library finds the shared libraries
@@ -85,4 +88,6 @@ function(mek_install_package)
                                      COMPATIBILITY SameMajorVersion)
     install(FILES ${PROJECT_BINARY_DIR}/MekBomEngineConfig.cmake ${PROJECT_BINARY_DIR}/MekBomEngineConfigVersion.cmake
             DESTINATION ${MEK_INSTALL_CMAKE} COMPONENT development)
+    file(GLOB manuals CONFIGURE_DEPENDS Docs/*.md README.md CHANGELOG.md)
+    install(FILES ${manuals} DESTINATION ${MEK_INSTALL_DOCS} COMPONENT docs)
 endfunction()

@@ -39,9 +39,11 @@ TEST(MekBomTest, IsEnoughForAHost)
     pReport->setUnitsForTokens(nullptr);
     pReport->findUsedTokens();
     VorBomTemplate result;
+    const wchar_t* const names[] = { L"%Weight" };
+    const double values[] = { 2.5 };
     double weight = 0;
 
     EXPECT_EQ(1, VorBomEvaluator2::evaluate(pReport.get(), &result));
-    EXPECT_EQ(1, evaluateFormula(L"2*3", nullptr, nullptr, 0, &weight));
-    EXPECT_EQ(6, weight);
+    EXPECT_EQ(1, evaluateFormula(L"%Weight*4", names, values, 1, &weight));
+    EXPECT_EQ(10, weight);
 }

@@ -1,5 +1,9 @@
-// An installed program "/usr/bin/mekbom" has its files in "/usr/share/mekbom", wherever the installation was moved to;
-// one that runs from the folder it was built in has no such folder beside it, and takes them from the source tree.
+// Two folders are looked into, both as seen from that of the program:
+//
+//   /usr/bin/mekbom           ../share/mekbom, which is /usr/share/mekbom, and wherever the installation was moved to
+//   MekBomHost/mekbom         share/mekbom, where the build has put links to the files in the source tree
+//
+// No folder is compiled in, so that what was installed never reads files of the machine that it was built on.
 #include "ShippedFiles.h"
 
 #include "Fault.h"
@@ -59,17 +63,18 @@ std::string templateNamed(std::string_view name)
     return std::string();
 }
 
-// The installation comes first, so that a program built from these sources and installed does not depend on them.
 std::string find(const std::string& relativePath)
 {
-    const fs::path installed = (programFolder() / ".." / "share" / "mekbom").lexically_normal();
+    const fs::path program = programFolder();
+    const fs::path installed = (program / MEK_SHIPPED_PATH).lexically_normal();
+    const fs::path beside = program / "share" / "mekbom";
     std::error_code error;
-    for (const fs::path& folder : { installed, fs::path(MEK_SHIPPED_DIR) })
+    for (const fs::path& folder : { installed, beside })
         if (fs::exists(folder / relativePath, error))
             return (folder / relativePath).string();
     Finding finding =
         Finding::of(FindingCodes::kShippedFileMissing,
-                    "neither in " + installed.string() + " nor in " + MEK_SHIPPED_DIR, "as part of the installation");
+                    "neither in " + installed.string() + " nor in " + beside.string(), "as part of the installation");
     finding.source = relativePath;
     throw Fault(kInvalidInput, finding);
 }

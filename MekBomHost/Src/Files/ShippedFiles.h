@@ -3,8 +3,8 @@
 //   FileSource parts(ShippedFiles::find(ShippedFiles::kPartsList));
 //   ShippedFiles::templates().front()   ->  "Templates/cutting-list.json"
 //
-// They lie in "../share/mekbom" beside the program's folder once it is installed; a program that runs where it was
-// built finds them in the source tree, whose place was compiled in.
+// They lie in "../share/mekbom" as seen from the program's folder once it is installed, and in "share/mekbom" where it
+// was built.
 #pragma once
 
 #include <string>

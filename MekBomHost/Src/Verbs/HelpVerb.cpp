@@ -5,6 +5,7 @@
 #include "FindingCodes.h"
 #include "ManPage.h"
 #include "StandardOutput.h"
+#include "WordOption.h"
 
 #include <CLI/CLI.hpp>
 
@@ -14,10 +15,18 @@ namespace
 {
 const char* const kVersionDate = MEK_VERSION_DATE;
 
-[[noreturn]] void refuseWords()
+const WordOption::Choices<Completion::eShell>& shells()
 {
-    Finding finding = Finding::stating(FindingCodes::kOptionWithoutUse, "the manual page is about all commands");
-    finding.source = "--man";
+    static const WordOption::Choices<Completion::eShell> shells = { { "bash", Completion::kBash },
+                                                                    { "zsh", Completion::kZsh },
+                                                                    { "fish", Completion::kFish } };
+    return shells;
+}
+
+[[noreturn]] void refuseWords(const std::string& option, const std::string& reason)
+{
+    Finding finding = Finding::stating(FindingCodes::kOptionWithoutUse, reason);
+    finding.source = option;
     finding.remedy = "leave out the option, or the words behind help";
     throw Fault(kWrongUsage, finding);
 }
@@ -30,21 +39,33 @@ CLI::App& HelpVerb::declareOn(CLI::App& parent)
     CLI::App& help = *parent.add_subcommand("help", "Tell how a command is called");
     help.add_option("command", m_words, "The words of the command");
     help.add_flag("--man", m_isManPage, "Print the manual page of the whole program, in the macros of man(7)");
+    WordOption::declare(help, "--completion", "SHELL",
+                        "Print what makes a shell complete commands and options: bash, zsh or fish", shells(),
+                        [this](Completion::eShell shell) { m_shell = shell; });
     help.footer("Examples\n"
                 "  mekbom help report\n"
                 "  mekbom help units convert\n"
-                "  mekbom help --man | man -l -");
+                "  mekbom help --man | man -l -\n"
+                "  source <(mekbom help --completion bash)");
     return help;
 }
 
 ExitStatus HelpVerb::run(FindingList&)
 {
     if (m_isManPage && !m_words.empty())
-        refuseWords();
-    if (m_isManPage)
-        StandardOutput::print(ManPage::textOf(*m_pProgram, kVersionDate));
-    else
-        StandardOutput::print(Commands::helpOf(Commands::find(*m_pProgram, m_words)));
+        refuseWords("--man", "the manual page is about all commands");
+    if (m_shell && !m_words.empty())
+        refuseWords("--completion", "it completes all commands");
+    StandardOutput::print(text());
     return kDone;
+}
+
+std::string HelpVerb::text() const
+{
+    if (m_isManPage)
+        return ManPage::textOf(*m_pProgram, kVersionDate);
+    if (m_shell)
+        return Completion::textOf(*m_pProgram, *m_shell);
+    return Commands::helpOf(Commands::find(*m_pProgram, m_words));
 }
 }
