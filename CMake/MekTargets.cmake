@@ -5,12 +5,13 @@
 # settings of its own.
 
 # mek_set_up(MekRoots): how all code of this tree is compiled. What is compiled names its sources relative to the project,
-# so that no binary tells the folder that it was built in.
+# and shared libraries relative to itself, so that no binary depends on the folder that it was built in.
 function(mek_set_up target)
     target_compile_features(${target} PUBLIC cxx_std_17)
     set_target_properties(${target} PROPERTIES
         CXX_EXTENSIONS OFF
         POSITION_INDEPENDENT_CODE ON
+        BUILD_RPATH_USE_ORIGIN ON
         CXX_VISIBILITY_PRESET hidden
         VISIBILITY_INLINES_HIDDEN ON)
     if(MSVC)

@@ -22,6 +22,7 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "") # each package has a summary of its own
 set(CPACK_PACKAGE_CONTACT "MekBomEngine maintainers <maintainers@mekbomengine.invalid>")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SOURCE mekbomengine)
@@ -33,14 +34,18 @@ list(APPEND CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS
      ${PROJECT_BINARY_DIR}/MekRoots ${PROJECT_BINARY_DIR}/MekUnits ${PROJECT_BINARY_DIR}/KTRepositoryProxy
      ${PROJECT_BINARY_DIR}/ExpressionEvaluator ${PROJECT_BINARY_DIR}/MekBomEngine)
 
-# mek_add_debian_package(mekbom program utils "Lists" ...): what one package says of itself, and the files that every
+# mek_add_debian_package(mekbom program utils "program" "This package ..."): what one package says of itself, and the files that every
 # package has.
 function(mek_add_debian_package package component section summary description)
     string(TOUPPER ${component} COMPONENT)
     set(CPACK_DEBIAN_${COMPONENT}_PACKAGE_NAME ${package} PARENT_SCOPE)
     set(CPACK_DEBIAN_${COMPONENT}_PACKAGE_SECTION ${section} PARENT_SCOPE)
-    set(CPACK_DEBIAN_${COMPONENT}_DESCRIPTION "${summary}\n${description}" PARENT_SCOPE)
-    set(CPACK_COMPONENT_${COMPONENT}_DESCRIPTION "${summary}\n${description}" PARENT_SCOPE)
+    set(CPACK_DEBIAN_${COMPONENT}_DESCRIPTION "bills of materials from steel models - ${summary}
+MekBomEngine turns modelled steel objects (beams, plates, bolts) into bills of
+materials: sorted, grouped, summed, computed by formulas and shown in the
+user's units, as a template prescribes.
+.
+${description}" PARENT_SCOPE)
     install(FILES Debian/copyright ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz
             DESTINATION share/doc/${package} COMPONENT ${component})
     if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/Debian/${package}.lintian-overrides)
@@ -51,21 +56,24 @@ endfunction()
 
 execute_process(COMMAND ${MEK_GZIP} -9nc ${CMAKE_CURRENT_SOURCE_DIR}/Debian/changelog
                 OUTPUT_FILE ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz)
-set(about "MekBomEngine turns modelled steel objects (beams, plates, bolts) into bills\n of materials: sorted, grouped, \
-summed, computed by formulas and shown in the\n user's units, as a template prescribes.")
-mek_add_debian_package(${library} runtime libs "bills of materials from steel models - libraries"
-    "${about}\n .\n This package has the shared libraries.")
-mek_add_debian_package(libmekbomengine-dev development libdevel "bills of materials from steel models - development"
-    "${about}\n .\n This package has what programs are built with: headers, and the files that CMake\n and pkg-config read.")
-mek_add_debian_package(mekbom-doc docs doc "bills of materials from steel models - manuals"
-    "${about}\n .\n This package has the manuals.")
+mek_add_debian_package(${library} runtime libs "libraries"
+    "This package has the shared libraries.")
+mek_add_debian_package(libmekbomengine-dev development libdevel "development"
+    "This package has what programs are built with: headers, and the files that\nCMake and pkg-config read.")
+mek_add_debian_package(mekbom-doc docs doc "manuals"
+    "This package has the manuals.")
 set(CPACK_DEBIAN_DOCS_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_DOCS_PACKAGE_SHLIBDEPS OFF)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${library} (= ${PROJECT_VERSION})")
 if(MEK_BUILD_HOST)
-    mek_add_debian_package(mekbom program utils "bills of materials from steel models - program"
-        "${about}\n .\n This package has the program mekbom, which makes such lists of parts lists in CSV,\n workbooks and JSON.")
+    mek_add_debian_package(mekbom program utils "program"
+        "This package has the program mekbom, which makes such lists of parts lists\nin CSV, workbooks and JSON.")
     set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (>= ${PROJECT_VERSION})")
     set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS mekbom-doc)
 endif()
+
+# The loader learns of new libraries at the end of an installation.
+file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/triggers "activate-noawait ldconfig\n")
+file(CHMOD ${CMAKE_CURRENT_BINARY_DIR}/triggers PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/triggers)
 include(CPack)

@@ -10,7 +10,8 @@
 #   shared          find_package in it
 #   shared-pc       pkg-config in it
 #   exports         what its libraries export
-#   debian          the packages for Debian, unpacked in a folder without anything else
+#   debian          the packages for Debian in FOLDER/packages, unpacked in a folder without anything else
+#   program         the program that BUILD=folder has built, installed alone
 set -eu
 way=$1
 work=$2
@@ -85,9 +86,7 @@ build_shared()
 # Only the loader's own folders are told to it, as an installation of the packages would.
 check_debian()
 {
-    command -v dpkg-deb >/dev/null || skip "dpkg is not installed"
-    rm -rf "$work/packages" "$work/root"
-    sh "$here/make_packages.sh" "$work/packages" libraries >/dev/null
+    rm -rf "$work/root"
     for package in "$work"/packages/*.deb; do
         dpkg-deb -x "$package" "$work/root"
     done
@@ -97,6 +96,25 @@ check_debian()
     LD_LIBRARY_PATH=$(dirname "$(find "$work/root" -name libMekBomEngine.so)")
     export LD_LIBRARY_PATH
     check "$work/debian-consumer/consumer"
+}
+
+# The program brings its lists, its manual page and completions along, and finds them where it is moved to.
+check_program()
+{
+    rm -rf "$work/program" "$work/installed-program"
+    for component in runtime program; do
+        cmake --install "$BUILD" --component "$component" --prefix "$work/installed-program" >/dev/null
+    done
+    mv "$work/installed-program" "$work/program"
+    if grep -rlF -e "$source" -e "$BUILD" "$work/program"; then
+        echo "these files name the folder that they were built in" >&2
+        exit 1
+    fi
+    (cd / && "$work/program/bin/mekbom" demo 2>/dev/null) | grep -q '^Cutting list$'
+    for file in man/man1/mekbom.1.gz bash-completion/completions/mekbom zsh/site-functions/_mekbom \
+        fish/vendor_completions.d/mekbom.fish; do
+        test -s "$work/program/share/$file"
+    done
 }
 
 case $way in
@@ -126,6 +144,7 @@ case $way in
         ;;
     exports) python3 -B "$here/check_exports.py" "$here/exports.txt" "$work/shared/lib" ;;
     debian) check_debian ;;
+    program) check_program ;;
     *)
         echo "check_consumers.sh: unknown way '$way'" >&2
         exit 2

@@ -7,6 +7,7 @@ folder=$1
 build_host=ON
 [ "${2:-}" != libraries ] || build_host=OFF
 mkdir -p "$folder"
+folder=$(cd "$folder" && pwd)
 
 # All times in the packages are that of the version, and not of the day on which they are made.
 SOURCE_DATE_EPOCH=$(dpkg-parsechangelog -l "$here/Debian/changelog" -S Timestamp)

@@ -1,5 +1,5 @@
 #!/bin/sh
-# The slower checks: format, linter, instruction count, ThreadSanitizer over the threading tests, then all tests under
+# The slower checks: format, linter, instruction count, packages for Debian, ThreadSanitizer over the threading tests, then all tests under
 # Address-, Leak- and UndefinedBehaviorSanitizer. Arguments go to each configuration, as with Scripts/test.sh.
 set -eu
 cd "$(dirname "$0")/.."
@@ -15,6 +15,9 @@ git ls-files '*/Src/*.cpp' | xargs -P "$jobs" -n 4 clang-tidy -p build/sanitize 
 
 echo "== instructions that a report takes"
 sh Scripts/check_instructions.sh
+
+echo "== packages for Debian"
+sh Scripts/check_packages.sh libraries
 
 echo "== ThreadSanitizer over the threading tests"
 cmake --preset threads "$@"

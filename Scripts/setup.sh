@@ -2,17 +2,20 @@
 # Installs what the build needs from Debian's packages, when it may; says exactly what is missing otherwise.
 #   sh Scripts/setup.sh            compiler, cmake, ninja, python, and the host program's libraries
 #   sh Scripts/setup.sh --checks   also clang, its sanitizer runtime, clang-format and -tidy, valgrind, mandoc,
-#                                  Google Benchmark
+#                                  Google Benchmark, what packages for Debian are made and checked with, zsh and fish
 #   sh Scripts/setup.sh --browser  also Chromium and pdftotext, for the test that opens pages of lists
 #   sh Scripts/setup.sh --bench    also Google Benchmark, and the tools and libraries that the benchmarks compare with
 # Also makes the locale de_DE.UTF-8 where it may: tests hold numbers against its decimal comma, and skip without it.
 set -eu
 
 packages="g++ cmake ninja-build python3 locales libgtest-dev libcli11-dev nlohmann-json3-dev libutf8proc-dev"
-packages="$packages libzip-dev libpugixml-dev libxlsxwriter-dev python3-jsonschema python3-openpyxl"
+packages="$packages libzip-dev libpugixml-dev libxlsxwriter-dev python3-jsonschema python3-openpyxl pkg-config"
 for argument in "$@"; do
     case "$argument" in
-        --checks) packages="$packages clang libclang-rt-dev clang-format clang-tidy valgrind libbenchmark-dev mandoc" ;;
+        --checks)
+            packages="$packages clang libclang-rt-dev clang-format clang-tidy valgrind libbenchmark-dev mandoc lintian"
+            packages="$packages dpkg-dev zsh fish"
+            ;;
         --browser) packages="$packages chromium poppler-utils" ;;
         --bench)
             packages="$packages libbenchmark-dev sqlite3 libsqlite3-dev python3-pandas python3-xlsxwriter libfparser-dev"
