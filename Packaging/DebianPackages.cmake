@@ -73,7 +73,5 @@ if(MEK_BUILD_HOST)
 endif()
 
 # The loader learns of new libraries at the end of an installation.
-file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/triggers "activate-noawait ldconfig\n")
-file(CHMOD ${CMAKE_CURRENT_BINARY_DIR}/triggers PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
-set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/triggers)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/Debian/triggers)
 include(CPack)

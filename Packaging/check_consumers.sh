@@ -1,9 +1,10 @@
 #!/bin/sh
-# Builds the consumer in one of the ways that a library is taken in, and checks what it prints.
+# Builds a host in one of the ways that Docs/EMBEDDING.md shows, from the projects that stand there, and checks what it
+# prints.
 #   sh check_consumers.sh WAY FOLDER        FOLDER: where to build, kept from one way to the next
 #
 #   subproject      add_subdirectory; also installs its static libraries
-#   fetch-content   FetchContent
+#   fetched         FetchContent, from an archive
 #   static          find_package in that installation
 #   static-pc       pkg-config in that installation
 #   shared-build    nothing but an installation of shared libraries, which is moved then
@@ -17,7 +18,6 @@ way=$1
 work=$2
 here=$(cd "$(dirname "$0")" && pwd)
 source=$(dirname "$here")
-cxx=${CXX:-c++}
 mkdir -p "$work"
 work=$(cd "$work" && pwd)
 
@@ -25,6 +25,23 @@ skip()
 {
     echo "skipped: $1"
     exit 77
+}
+
+# shown HEADING LANGUAGE: the block of the language below a heading of the page.
+shown()
+{
+    sed -n "/^## $1\$/,/^## /p" "$source/Docs/EMBEDDING.md" | awk -v fence="\`\`\`$2" \
+        '$0 == "```" { inside = 0 } inside { print } $0 == fence { inside = 1 }'
+}
+
+# project HEADING: the folder of a project as the page shows it, with the host in it.
+project()
+{
+    rm -rf "$work/$way-project"
+    mkdir -p "$work/$way-project/third-party"
+    cp "$here/Consumers/consumer.cpp" "$work/$way-project/main.cpp"
+    shown "$1" cmake >"$work/$way-project/CMakeLists.txt"
+    echo "$work/$way-project"
 }
 
 # build PROJECT FOLDER ARGUMENTS...: configures and builds a project with CMake.
@@ -39,23 +56,52 @@ build()
     }
 }
 
-# check COMMAND...: runs the consumer.
+# check COMMAND...: runs the host.
 check()
 {
     "$@" >"$work/printed"
     sed -n 's,^//   ,,p' "$here/Consumers/consumer.cpp" | diff - "$work/printed"
 }
 
-# by_pkg_config PREFIX: builds with a compiler and what pkg-config says.
-by_pkg_config()
+# The sources lie where the page has them, by a link: what is built names the folder of the link.
+check_subproject()
+{
+    project=$(project "As a subproject")
+    ln -s "$source" "$project/third-party/MekBomEngine"
+    cat "$here/Consumers/subproject-checks.cmake" >>"$project/CMakeLists.txt"
+    build "$project" "$work/subproject" -DMEK_INSTALL=ON -DCMAKE_INSTALL_PREFIX="$work/static"
+    check "$work/subproject/lists"
+    cmake --install "$work/subproject" >/dev/null
+    tells_no_folder "$work/static"
+}
+
+check_fetched()
+{
+    project=$(project Fetched)
+    tar -czf "$project/third-party/MekBomEngine.tar.gz" --exclude=./build --exclude=./.git -C "$source" .
+    build "$project" "$work/fetched" -Wno-dev
+    check "$work/fetched/lists"
+}
+
+# check_installed PREFIX: with CMake.
+check_installed()
+{
+    project=$(project Installed)
+    cat "$here/Consumers/installed-checks.cmake" >>"$project/CMakeLists.txt"
+    build "$project" "$work/$way-build" -DCMAKE_PREFIX_PATH="$1"
+    check "$work/$way-build/lists"
+}
+
+# check_pkg_config PREFIX: with the command that the page shows.
+check_pkg_config()
 {
     command -v pkg-config >/dev/null || skip "pkg-config is not installed"
     PKG_CONFIG_PATH=$(dirname "$(find "$1" -name MekBomEngine.pc)")
     export PKG_CONFIG_PATH
     pkg-config --exists 'MekBomEngine >= 1.0'
-    # shellcheck disable=SC2046  # the flags are meant to be split
-    "$cxx" -std=c++17 $(pkg-config --cflags MekBomEngine) "$here/Consumers/consumer.cpp" -o "$work/by-pkg-config" \
-        $(pkg-config --libs MekBomEngine)
+    project=$(project "With pkg-config")
+    (cd "$project" && eval "$(shown "With pkg-config" sh)")
+    LD_LIBRARY_PATH=$(pkg-config --variable=libdir MekBomEngine) check "$project/lists"
 }
 
 # tells_no_folder PREFIX: fails when something installed names the folder of the sources or of the build, or when a binary
@@ -72,18 +118,18 @@ tells_no_folder()
     fi
 }
 
-# Once installed, it is moved: nothing may depend on the folder that it was built for.
+# What is installed is moved: nothing may depend on the folder that it was built for.
 build_shared()
 {
     rm -rf "$work/shared" "$work/installed"
-    build "$source" "$work/shared-build" -DBUILD_SHARED_LIBS=ON -DCMAKE_INSTALL_PREFIX="$work/installed" \
+    build "$source" "$work/shared-libraries" -DBUILD_SHARED_LIBS=ON -DCMAKE_INSTALL_PREFIX="$work/installed" \
         -DMEK_BUILD_HOST=OFF -DMEK_BUILD_EXAMPLES=OFF -DMEK_BUILD_TESTS=OFF
-    cmake --install "$work/shared-build" >/dev/null
+    cmake --install "$work/shared-libraries" >/dev/null
     mv "$work/installed" "$work/shared"
     tells_no_folder "$work/shared"
 }
 
-# Only the loader's own folders are told to it, as an installation of the packages would.
+# An installation of the packages would tell the loader of the folder.
 check_debian()
 {
     rm -rf "$work/root"
@@ -91,11 +137,9 @@ check_debian()
         dpkg-deb -x "$package" "$work/root"
     done
     tells_no_folder "$work/root"
-    build "$here/Consumers/Installed" "$work/debian-consumer" -DCMAKE_PREFIX_PATH="$work/root/usr" \
-        -DCMAKE_FIND_USE_CMAKE_SYSTEM_PATH=OFF
     LD_LIBRARY_PATH=$(dirname "$(find "$work/root" -name libMekBomEngine.so)")
     export LD_LIBRARY_PATH
-    check "$work/debian-consumer/consumer"
+    check_installed "$work/root/usr"
 }
 
 # The program brings its lists, its manual page and completions along, and finds them where it is moved to.
@@ -118,30 +162,12 @@ check_program()
 }
 
 case $way in
-    subproject)
-        build "$here/Consumers/Subproject" "$work/subproject" -DMEK_SOURCE_DIR="$source" -DMEK_INSTALL=ON \
-            -DCMAKE_INSTALL_PREFIX="$work/static"
-        check "$work/subproject/consumer"
-        cmake --install "$work/subproject" >/dev/null
-        tells_no_folder "$work/static"
-        ;;
-    fetch-content)
-        build "$here/Consumers/FetchContent" "$work/fetch-content" -DMEK_SOURCE_DIR="$source"
-        check "$work/fetch-content/consumer"
-        ;;
-    static | shared)
-        build "$here/Consumers/Installed" "$work/$way-consumer" -DCMAKE_PREFIX_PATH="$work/$way"
-        check "$work/$way-consumer/consumer"
-        ;;
-    static-pc)
-        by_pkg_config "$work/static"
-        check "$work/by-pkg-config"
-        ;;
+    subproject) check_subproject ;;
+    fetched) check_fetched ;;
+    static | shared) check_installed "$work/$way" ;;
+    static-pc) check_pkg_config "$work/static" ;;
+    shared-pc) check_pkg_config "$work/shared" ;;
     shared-build) build_shared ;;
-    shared-pc)
-        by_pkg_config "$work/shared"
-        LD_LIBRARY_PATH=$(pkg-config --variable=libdir MekBomEngine) check "$work/by-pkg-config"
-        ;;
     exports) python3 -B "$here/check_exports.py" "$here/exports.txt" "$work/shared/lib" ;;
     debian) check_debian ;;
     program) check_program ;;

@@ -109,4 +109,12 @@ TEST(HelpVerbTest, TheManualPageIsAboutAllCommands)
     EXPECT_EQ("mekbom: --man: the manual page is about all commands: leave out the option, or the words behind help\n",
               run.errors);
 }
+TEST(HelpVerbTest, CompletionIsAboutAllCommands)
+{
+    EXPECT_EQ("mekbom: --completion: it completes all commands: leave out the option, or the words behind help\n",
+              runHere({ "help", "--completion", "bash", "report" }).errors);
+    EXPECT_EQ(kWrongUsage, runHere({ "help", "--completion", "tcsh" }).status);
+    for (const char* const shell : { "bash", "zsh", "fish" })
+        EXPECT_NE(std::string::npos, runHere({ "help", "--completion", shell }).output.find("--check-totals")) << shell;
+}
 }

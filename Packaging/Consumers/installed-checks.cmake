@@ -1,11 +1,3 @@
-# A project that uses an installation, which it finds by CMAKE_PREFIX_PATH.
-cmake_minimum_required(VERSION 3.16)
-project(Consumer LANGUAGES CXX)
-
-find_package(MekBomEngine 1.0 REQUIRED COMPONENTS BomEngine ExpressionEvaluator)
-add_executable(consumer ../consumer.cpp)
-target_link_libraries(consumer PRIVATE Mek::BomEngine)
-
 # What there is not is said: a component, or a version that programs built for this one could not use.
 find_package(MekBomEngine 1.0 QUIET COMPONENTS Tables)
 if(MekBomEngine_FOUND)

@@ -1,11 +1,4 @@
-# A project that has this one in a folder of its own. It keeps its own settings: what it checks below is not set.
-cmake_minimum_required(VERSION 3.16)
-project(Consumer LANGUAGES CXX C)
-
-add_subdirectory(${MEK_SOURCE_DIR} MekBomEngine)
-add_executable(consumer ../consumer.cpp)
-target_link_libraries(consumer PRIVATE Mek::BomEngine)
-
+# What the subproject left alone, read at the end of the project around it.
 foreach(variable CMAKE_BUILD_TYPE CMAKE_CXX_STANDARD CMAKE_CXX_EXTENSIONS CMAKE_POSITION_INDEPENDENT_CODE
                  CMAKE_CXX_VISIBILITY_PRESET CMAKE_VISIBILITY_INLINES_HIDDEN MEK_WARNINGS_AS_ERRORS)
     if(${variable})
@@ -15,7 +8,7 @@ endforeach()
 if(TARGET mekbom OR TARGET MekBomEngineTest OR TARGET EmbedEngine)
     message(FATAL_ERROR "MekBomEngine builds more than its libraries")
 endif()
-get_property(folders DIRECTORY ${MEK_SOURCE_DIR} PROPERTY SUBDIRECTORIES)
+get_property(folders DIRECTORY third-party/MekBomEngine PROPERTY SUBDIRECTORIES)
 foreach(folder IN LISTS folders)
     get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
     foreach(target IN LISTS targets)
