@@ -9,7 +9,14 @@
 
 #include <MekBom.h>
 
+#include <cstdlib>
 #include <iostream>
+
+// A function that this host brought along from Windows. No library has one of that name, or calls this one.
+extern "C" void OutputDebugStringW(const char16_t*)
+{
+    std::abort();
+}
 
 namespace
 {
@@ -42,6 +49,7 @@ int main()
     report.addChild(section(VorBomTemplateItem::kReportFooter, L"%SumBy:%Weight", 0));
     report.setUnitsForTokens(nullptr);
     report.findUsedTokens();
+    VorDebugOutput::write(L"prepared\n"); // standard error
 
     VorBomTemplate result;
     VorBomEvaluator2::evaluate(&report, &result);
