@@ -1,6 +1,6 @@
 // An option that takes one of some words, each of which stands for a value:  --values plain
 //
-//   static const WordOption::Choices<bool> kValues = { { "shown", false }, { "plain", true } };
+//   static const WordChoices::Choices<bool> kValues = { { "shown", false }, { "plain", true } };
 //   WordOption::declare(report, "--values", "WORD", "How numbers are written", kValues,
 //                       [&arePlain](bool value) { arePlain = value; });
 //
@@ -8,49 +8,25 @@
 #pragma once
 
 #include "InQuotes.h"
+#include "WordChoices.h"
 
 #include <CLI/CLI.hpp>
 
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace mekbom::WordOption
 {
-template <class Value>
-using Choices = std::vector<std::pair<const char*, Value>>;
-
-// What `word` stands for; null when it is none of the words.
-template <class Value>
-const Value* find(const Choices<Value>& choices, const std::string& word)
-{
-    for (const auto& choice : choices)
-        if (word == choice.first)
-            return &choice.second;
-    return nullptr;
-}
-
-// " shown plain", for messages.
-template <class Value>
-std::string wordsOf(const Choices<Value>& choices)
-{
-    std::string words;
-    for (const auto& choice : choices)
-        words += std::string(" ") + choice.first;
-    return words;
-}
-
 // Adds the option to `command`. Parsing calls `take` with the value of the word that is given; another word ends it with
 // a CLI::ValidationError. `form` is what help calls the word. `choices` outlive the command.
 template <class Value, class Take>
 void declare(CLI::App& command, const std::string& name, const std::string& form, const std::string& help,
-             const Choices<Value>& choices, const Take& take)
+             const WordChoices::Choices<Value>& choices, const Take& take)
 {
     const auto takeWord = [&choices, name, take](const std::string& word)
     {
-        const Value* const pValue = find(choices, word);
+        const Value* const pValue = WordChoices::find(choices, word);
         if (pValue == nullptr)
-            throw CLI::ValidationError(name, inQuotes(word) + " is none of" + wordsOf(choices));
+            throw CLI::ValidationError(name, inQuotes(word) + " is none of" + WordChoices::wordsOf(choices));
         take(*pValue);
     };
     command.add_option_function<std::string>(name, takeWord, help)->type_name(form);

@@ -8,7 +8,7 @@ namespace mekbom
 {
 namespace
 {
-const WordOption::Choices<int> kNumbers = { { "one", 1 }, { "two", 2 } };
+const WordChoices::Choices<int> kNumbers = { { "one", 1 }, { "two", 2 } };
 
 int numberIn(const std::string& commandLine)
 {
@@ -38,14 +38,5 @@ TEST(WordOptionTest, AnotherWordIsRefusedWithThoseThereAre)
     {
         EXPECT_EQ("--number: \"three\" is none of one two", std::string(error.what()));
     }
-}
-
-TEST(WordOptionTest, WordsAreFoundWithoutACommandLine)
-{
-    const WordOption::Choices<int> choices = { { "one", 1 }, { "two", 2 } };
-
-    EXPECT_EQ(2, *WordOption::find(choices, "two"));
-    EXPECT_EQ(nullptr, WordOption::find(choices, "Two"));
-    EXPECT_EQ(" one two", WordOption::wordsOf(choices));
 }
 }

@@ -31,12 +31,12 @@ struct OutputKey
 
 // The value that the word of the entry stands for.
 template <class Value>
-Value valueIn(const IniFile& entry, const WordOption::Choices<Value>& choices)
+Value valueIn(const IniFile& entry, const WordChoices::Choices<Value>& choices)
 {
-    if (const Value* const pValue = WordOption::find(choices, entry.value()))
+    if (const Value* const pValue = WordChoices::find(choices, entry.value()))
         return *pValue;
     entry.fail(Finding::of(FindingCodes::kConfiguredWordUnknown, inQuotes(entry.value()) + " for " + entry.key(),
-                           "one of" + WordOption::wordsOf(choices)));
+                           "one of" + WordChoices::wordsOf(choices)));
 }
 
 const OutputKey kOutputKeys[] = {

@@ -50,13 +50,6 @@ const ChoiceOption kChoiceOptions[] = {
     { OutputChoices::kPaper, "--paper" },
 };
 
-// What the words stand for: whether values are plain.
-const WordOption::Choices<bool>& values()
-{
-    static const WordOption::Choices<bool> values = { { "shown", false }, { "plain", true } };
-    return values;
-}
-
 // "text, csv, json"
 std::string listed(const std::vector<std::string>& words)
 {
@@ -131,7 +124,7 @@ void OutputOptions::declareCsvOptionsOn(CLI::App& command)
 {
     WordOption::declare(command, "--values", "WORD",
                         "Numbers of csv as they are shown, or plain: in full, for programs; of xlsx both [shown]",
-                        values(),
+                        OutputWords::values(),
                         [this](bool arePlain)
                         {
                             m_choices.give(OutputChoices::kValues);
