@@ -10,6 +10,11 @@ if(NOT BUILD_SHARED_LIBS OR NOT MEK_GZIP)
     message(FATAL_ERROR "Packages for Debian are made of shared libraries, and by gzip")
 endif()
 
+file(STRINGS Debian/changelog entry LIMIT_COUNT 1)
+if(NOT entry MATCHES "\\(${PROJECT_VERSION}\\)")
+    message(FATAL_ERROR "Packaging/Debian/changelog has no entry of version ${PROJECT_VERSION}")
+endif()
+
 set(library libmekbomengine${PROJECT_VERSION_MAJOR})
 set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
 
 // MEK_PROJECT_VERSION is what the build makes of the header: packages and shared libraries are named after it.
@@ -20,4 +22,15 @@ TEST(MekBomVersionTest, LaterVersionsAreGreaterNumbers)
     EXPECT_EQ(MEK_BOM_VERSION_MAJOR, MEK_BOM_VERSION / 10000);
     EXPECT_EQ(MEK_BOM_VERSION_MINOR, MEK_BOM_VERSION / 100 % 100);
     EXPECT_EQ(MEK_BOM_VERSION_PATCH, MEK_BOM_VERSION % 100);
+}
+
+TEST(MekBomVersionTest, TheChangelogBeginsWithIt)
+{
+    std::ifstream changelog(std::filesystem::path(MEK_ENGINE_DIR).parent_path() / "CHANGELOG.md");
+    std::string line;
+    while (std::getline(changelog, line) && line.compare(0, 3, "## ") != 0)
+    {
+    }
+
+    EXPECT_EQ(std::string("## ") + MEK_PROJECT_VERSION, line);
 }

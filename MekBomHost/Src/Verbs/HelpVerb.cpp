@@ -15,9 +15,9 @@ namespace
 {
 const char* const kVersionDate = MEK_VERSION_DATE;
 
-const WordOption::Choices<Completion::eShell>& shells()
+const WordChoices::Choices<Completion::eShell>& shells()
 {
-    static const WordOption::Choices<Completion::eShell> shells = { { "bash", Completion::kBash },
+    static const WordChoices::Choices<Completion::eShell> shells = { { "bash", Completion::kBash },
                                                                     { "zsh", Completion::kZsh },
                                                                     { "fish", Completion::kFish } };
     return shells;
