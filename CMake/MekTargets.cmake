@@ -4,8 +4,9 @@
 # All of it is set on our own targets and nothing on the folder, so that a project that has this one as a part keeps the
 # settings of its own.
 
-# mek_set_up(MekRoots): how all code of this tree is compiled. What is compiled names its sources relative to the project,
-# and shared libraries relative to itself, so that no binary depends on the folder that it was built in.
+# mek_set_up(MekRoots): how all code of this tree is compiled. What is compiled names its sources, and shared libraries,
+# as seen from the project and itself, so that no binary depends on the folder that it was built in. Only what debuggers
+# read names that folder, since they look there.
 function(mek_set_up target)
     target_compile_features(${target} PUBLIC cxx_std_17)
     set_target_properties(${target} PROPERTIES
@@ -20,7 +21,7 @@ function(mek_set_up target)
     endif()
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${MEK_WARNINGS_AS_ERRORS}>:-Werror>
-        -ffile-prefix-map=${PROJECT_SOURCE_DIR}=. -ffile-prefix-map=${PROJECT_BINARY_DIR}=build)
+        -fmacro-prefix-map=${PROJECT_SOURCE_DIR}=.)
 endfunction()
 
 # Sets `variable` to the folders below Src of the calling folder, the rooms for what serves the module alone.
