@@ -88,6 +88,7 @@ function(mek_install_package)
                                      COMPATIBILITY SameMajorVersion)
     install(FILES ${PROJECT_BINARY_DIR}/MekBomEngineConfig.cmake ${PROJECT_BINARY_DIR}/MekBomEngineConfigVersion.cmake
             DESTINATION ${MEK_INSTALL_CMAKE} COMPONENT development)
-    file(GLOB manuals CONFIGURE_DEPENDS Docs/*.md README.md CHANGELOG.md)
-    install(FILES ${manuals} DESTINATION ${MEK_INSTALL_DOCS} COMPONENT docs)
+    # They keep their folders, since they refer to each other by them.
+    install(FILES README.md CHANGELOG.md DESTINATION ${MEK_INSTALL_DOCS} COMPONENT docs)
+    install(DIRECTORY Docs DESTINATION ${MEK_INSTALL_DOCS} COMPONENT docs)
 endfunction()
