@@ -13,6 +13,7 @@
 #include <CLI/CLI.hpp>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace mekbom::Completion
@@ -75,12 +76,14 @@ std::vector<const CLI::App*> allCommandsOf(const CLI::App& program)
 }
 
 // "steel units"|"steel units convert", as patterns of case: what is a command when a further word is put behind one.
-std::string patternsOf(const CLI::App& program)
+// Fish has a blank between patterns.
+std::string patternsOf(const CLI::App& program, eShell shell)
 {
+    const std::string separator = shell == kFish ? " " : "|";
     std::string patterns;
     for (const CLI::App* const pCommand : allCommandsOf(program))
         if (pCommand != &program)
-            patterns += (patterns.empty() ? "\"" : "|\"") + Commands::lineOf(*pCommand) + "\"";
+            patterns += (patterns.empty() ? "" : separator) + "\"" + Commands::lineOf(*pCommand) + "\"";
     return patterns;
 }
 
@@ -102,66 +105,87 @@ std::string describedWordsOf(const std::vector<Offer>& offers)
     return words;
 }
 
-std::string bashScript(const CLI::App& program)
+// `script` with "@NAME@" and "@PATTERNS@" replaced, and "@TABLE@" by the lines of its table.
+std::string filled(std::string script, const CLI::App& program, eShell shell, const std::string& table)
 {
-    const std::string& name = program.get_name();
-    std::string script = "# Completion of " + name + " in bash.\n_" + name +
-                         "()\n"
-                         "{\n"
-                         "    local command=" +
-                         name +
-                         " commands= options= word\n"
-                         "    for word in \"${COMP_WORDS[@]:1:COMP_CWORD-1}\"; do\n"
-                         "        case \"$command $word\" in\n"
-                         "            " +
-                         patternsOf(program) +
-                         ") command=\"$command $word\" ;;\n"
-                         "        esac\n"
-                         "    done\n"
-                         "    case \"$command\" in\n";
-    for (const CLI::App* const pCommand : allCommandsOf(program))
-        script += "        \"" + Commands::lineOf(*pCommand) + "\") commands='" + wordsOf(commandsOf(*pCommand)) +
-                  "'; options='" + wordsOf(optionsOf(*pCommand)) + "' ;;\n";
-    return script +
-           "    esac\n"
-           "    case \"${COMP_WORDS[COMP_CWORD]}\" in\n"
-           "        -*) commands=$options ;;\n"
-           "    esac\n"
-           "    mapfile -t COMPREPLY < <(compgen -W \"$commands\" -- \"${COMP_WORDS[COMP_CWORD]}\")\n"
-           "}\n"
-           "complete -o default -F _" +
-           name + " " + name + "\n";
+    const std::pair<std::string, std::string> texts[] = { { "@TABLE@", table },
+                                                          { "@PATTERNS@", patternsOf(program, shell) },
+                                                          { "@NAME@", program.get_name() } };
+    for (const auto& [mark, text] : texts)
+        for (std::size_t place = script.find(mark); place != std::string::npos;
+             place = script.find(mark, place + text.size()))
+            script.replace(place, mark.size(), text);
+    return script;
 }
 
-std::string zshScript(const CLI::App& program)
+const char* const kBashScript = R"sh(# Completion of @NAME@ in bash.
+_@NAME@()
 {
-    const std::string& name = program.get_name();
-    std::string script = "#compdef " + name +
-                         "\n"
-                         "local command=" +
-                         name +
-                         " word\n"
-                         "local -a commands options\n"
-                         "for word in \"${(@)words[2,CURRENT-1]}\"; do\n"
-                         "    case \"$command $word\" in\n"
-                         "        " +
-                         patternsOf(program) +
-                         ") command=\"$command $word\" ;;\n"
-                         "    esac\n"
-                         "done\n"
-                         "case \"$command\" in\n";
-    for (const CLI::App* const pCommand : allCommandsOf(program))
-        script += "    \"" + Commands::lineOf(*pCommand) + "\") commands=(" + describedWordsOf(commandsOf(*pCommand)) +
-                  "); options=(" + describedWordsOf(optionsOf(*pCommand)) + ") ;;\n";
-    return script + "esac\n"
-                    "if [[ $PREFIX == -* ]]; then\n"
-                    "    _describe option options\n"
-                    "elif (( $#commands )); then\n"
-                    "    _describe command commands\n"
-                    "else\n"
-                    "    _files\n"
-                    "fi\n";
+    local command=@NAME@ commands= options= word
+    for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
+        case "$command $word" in
+            @PATTERNS@) command="$command $word" ;;
+        esac
+    done
+    case "$command" in
+@TABLE@    esac
+    case "${COMP_WORDS[COMP_CWORD]}" in
+        -*) commands=$options ;;
+    esac
+    mapfile -t COMPREPLY < <(compgen -W "$commands" -- "${COMP_WORDS[COMP_CWORD]}")
 }
+complete -o default -F _@NAME@ @NAME@
+)sh";
+
+std::string bashTableOf(const CLI::App& program)
+{
+    std::string table;
+    for (const CLI::App* const pCommand : allCommandsOf(program))
+        table += "        \"" + Commands::lineOf(*pCommand) + "\") commands='" + wordsOf(commandsOf(*pCommand)) +
+                 "'; options='" + wordsOf(optionsOf(*pCommand)) + "' ;;\n";
+    return table;
+}
+
+const char* const kZshScript = R"sh(#compdef @NAME@
+local command=@NAME@ word
+local -a commands options
+for word in "${(@)words[2,CURRENT-1]}"; do
+    case "$command $word" in
+        @PATTERNS@) command="$command $word" ;;
+    esac
+done
+case "$command" in
+@TABLE@esac
+if [[ $PREFIX == -* ]]; then
+    _describe option options
+elif (( $#commands )); then
+    _describe command commands
+else
+    _files
+fi
+)sh";
+
+std::string zshTableOf(const CLI::App& program)
+{
+    std::string table;
+    for (const CLI::App* const pCommand : allCommandsOf(program))
+        table += "    \"" + Commands::lineOf(*pCommand) + "\") commands=(" + describedWordsOf(commandsOf(*pCommand)) +
+                 "); options=(" + describedWordsOf(optionsOf(*pCommand)) + ") ;;\n";
+    return table;
+}
+
+const char* const kFishScript = R"sh(# Completion of @NAME@ in fish.
+function __@NAME@_is
+    set -l command @NAME@
+    for word in (commandline -opc)[2..-1]
+        switch "$command $word"
+            case @PATTERNS@
+                set command "$command $word"
+        end
+    end
+    test "$command" = "$argv"
+end
+@TABLE@)sh";
 
 // "-l wide", "-s o"
 std::string fishNameOf(const Offer& option)
@@ -170,37 +194,20 @@ std::string fishNameOf(const Offer& option)
     return isLong ? "-l " + option.word.substr(2) : "-s " + option.word.substr(1);
 }
 
-std::string fishScript(const CLI::App& program)
+std::string fishTableOf(const CLI::App& program)
 {
-    const std::string& name = program.get_name();
-    std::string commands;
-    std::string offers;
+    std::string table;
     for (const CLI::App* const pCommand : allCommandsOf(program))
     {
-        const std::string line = Commands::lineOf(*pCommand);
-        const std::string start = "complete -c " + name + " -n '__" + name + "_is \"" + line + "\"' ";
-        commands += " '" + line + "'";
+        const std::string start = "complete -c " + program.get_name() + " -n '__" + program.get_name() + "_is \"" +
+                                  Commands::lineOf(*pCommand) + "\"' ";
         for (const Offer& offer : commandsOf(*pCommand))
-            offers += start + "-f -a " + offer.word + " -d " + quoted(offer.meaning, kFish) + "\n";
+            table += start + "-f -a " + offer.word + " -d " + quoted(offer.meaning, kFish) + "\n";
         for (const Offer& option : optionsOf(*pCommand))
-            offers += start + fishNameOf(option) + (option.takesValue ? " -r" : "") + " -d " +
-                      quoted(option.meaning, kFish) + "\n";
+            table += start + fishNameOf(option) + (option.takesValue ? " -r" : "") + " -d " +
+                     quoted(option.meaning, kFish) + "\n";
     }
-    return "# Completion of " + name + " in fish.\nfunction __" + name +
-           "_is\n"
-           "    set -l command " +
-           name +
-           "\n"
-           "    for word in (commandline -opc)[2..-1]\n"
-           "        if contains -- \"$command $word\"" +
-           commands +
-           "\n"
-           "            set command \"$command $word\"\n"
-           "        end\n"
-           "    end\n"
-           "    test \"$command\" = \"$argv\"\n"
-           "end\n" +
-           offers;
+    return table;
 }
 }
 
@@ -208,10 +215,10 @@ std::string textOf(const CLI::App& program, eShell shell)
 {
     switch (shell)
     {
-        case kBash: return bashScript(program);
-        case kZsh: return zshScript(program);
+        case kBash: return filled(kBashScript, program, shell, bashTableOf(program));
+        case kZsh: return filled(kZshScript, program, shell, zshTableOf(program));
         case kFish: break;
     }
-    return fishScript(program);
+    return filled(kFishScript, program, shell, fishTableOf(program));
 }
 }
