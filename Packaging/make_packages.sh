@@ -21,7 +21,7 @@ umask 022
     cd "$folder"
     cpack --config build/CPackConfig.cmake -B packed
 } >"$folder/log" 2>&1 || {
-    cat "$folder/log" >&2
+    tail -n 30 "$folder/log" >&2
     exit 1
 }
 mv packed/*.deb .
