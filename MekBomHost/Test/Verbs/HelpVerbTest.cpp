@@ -115,6 +115,6 @@ TEST(HelpVerbTest, CompletionIsAboutAllCommands)
               runHere({ "help", "--completion", "bash", "report" }).errors);
     EXPECT_EQ(kWrongUsage, runHere({ "help", "--completion", "tcsh" }).status);
     for (const char* const shell : { "bash", "zsh", "fish" })
-        EXPECT_NE(std::string::npos, runHere({ "help", "--completion", shell }).output.find("--check-totals")) << shell;
+        EXPECT_NE(std::string::npos, runHere({ "help", "--completion", shell }).output.find("check-totals")) << shell;
 }
 }
