@@ -1,6 +1,7 @@
-# What is installed, in four components:
+# What is installed, in five components:
 #
-#   runtime       shared libraries
+#   runtime       shared libraries of the engine
+#   interface     the shared library for programs in any language
 #   development   headers, static libraries, and what find_package() and pkg-config read
 #   program       mekbom, its files, its manual page and the completion of its commands in shells
 #   docs          manuals
@@ -27,10 +28,10 @@ function(mek_find_libraries_from target folder)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${path}")
 endfunction()
 
-# MekUnits.pc; its prefix is told from where the file itself lies.
-function(mek_install_pkg_config name)
+# mek_install_pkg_config(MekUnits LINK Mek::Roots FOLDERS MekUnits/Src): MekUnits.pc, for the library of that name, which
+# needs another one and has headers in these folders. Its prefix is told from where the file itself lies.
+function(mek_install_pkg_config pc_name)
     cmake_parse_arguments(ARG "" "" "LINK;FOLDERS" ${ARGN})
-    set(pc_name Mek${name})
     string(REPLACE "Mek::" "Mek" pc_requires "${ARG_LINK}")
     file(RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
     file(RELATIVE_PATH pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
@@ -72,7 +73,7 @@ function(mek_install_library name)
             RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
             LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
             ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
-    mek_install_pkg_config(${name} LINK ${ARG_LINK} FOLDERS ${folders})
+    mek_install_pkg_config(${target} LINK ${ARG_LINK} FOLDERS ${folders})
 endfunction()
 
 # What find_package(MekBomEngine) reads, and the manuals.

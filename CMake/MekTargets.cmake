@@ -8,7 +8,7 @@
 # as seen from the project and itself, so that no binary depends on the folder that it was built in. Only what debuggers
 # read names that folder, since they look there.
 function(mek_set_up target)
-    target_compile_features(${target} PUBLIC cxx_std_17)
+    target_compile_features(${target} PRIVATE cxx_std_17)
     set_target_properties(${target} PROPERTIES
         CXX_EXTENSIONS OFF
         POSITION_INDEPENDENT_CODE ON
@@ -44,6 +44,7 @@ function(mek_set_usage target name)
             target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}/${folder}>)
         endif()
     endforeach()
+    target_compile_features(${target} PUBLIC cxx_std_17)
     target_link_libraries(${target} PUBLIC ${ARG_LINK})
     if(NOT BUILD_SHARED_LIBS)
         target_compile_definitions(${target} PUBLIC MEK_STATIC_LIBRARIES)

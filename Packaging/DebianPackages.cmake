@@ -1,7 +1,8 @@
 # The packages for Debian, each a component of the installation:
 #
-#   libmekbomengine1      runtime          mekbom        program
-#   libmekbomengine-dev   development      mekbom-doc    docs
+#   libmekbomengine1      runtime          libmekbom1    interface
+#   libmekbomengine-dev   development      mekbom        program
+#   mekbom-doc            docs
 #
 # They are made by make_packages.sh. Two builds of the same sources make the same bytes: times are that of the entry in
 # Debian/changelog, and permissions do not depend on the user who builds.
@@ -20,7 +21,7 @@ set(CPACK_GENERATOR DEB)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL runtime development docs)
 if(MEK_BUILD_HOST)
-    list(APPEND CPACK_COMPONENTS_ALL program)
+    list(APPEND CPACK_COMPONENTS_ALL program interface)
 endif()
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
@@ -75,8 +76,13 @@ if(MEK_BUILD_HOST)
         "This package has the program mekbom, which makes such lists of parts lists\nin CSV, workbooks and JSON.")
     set(CPACK_DEBIAN_PROGRAM_PACKAGE_DEPENDS "${library} (>= ${PROJECT_VERSION})")
     set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS mekbom-doc)
+    mek_add_debian_package(libmekbom${PROJECT_VERSION_MAJOR} interface libs "C interface"
+        "This package has the shared library that makes such lists for programs in any\nlanguage.")
+    set(CPACK_DEBIAN_INTERFACE_PACKAGE_DEPENDS "${library} (>= ${PROJECT_VERSION})")
+    string(APPEND CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS ", libmekbom${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
 endif()
 
 # The loader learns of new libraries at the end of an installation.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/Debian/triggers)
+set(CPACK_DEBIAN_INTERFACE_PACKAGE_CONTROL_EXTRA ${CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA})
 include(CPack)

@@ -12,7 +12,7 @@
 #   shared-pc       pkg-config in it
 #   exports         what its libraries export
 #   debian          the packages for Debian in FOLDER/packages, unpacked in a folder without anything else
-#   program         the program that BUILD=folder has built, installed alone
+#   program         the program and the C interface that BUILD=folder has built
 set -eu
 way=$1
 work=$2
@@ -146,7 +146,7 @@ check_debian()
 check_program()
 {
     rm -rf "$work/program" "$work/installed-program"
-    for component in runtime program; do
+    for component in runtime program interface development; do
         cmake --install "$BUILD" --component "$component" --prefix "$work/installed-program" >/dev/null
     done
     mv "$work/installed-program" "$work/program"
@@ -159,6 +159,20 @@ check_program()
         fish/vendor_completions.d/mekbom.fish; do
         test -s "$work/program/share/$file"
     done
+    check_interface "$(dirname "$(find "$work/program" -name libmekbom.so)")"
+}
+
+# check_interface FOLDER: a C program is built by pkg-config, and the library exports nothing but what its header has.
+check_interface()
+{
+    python3 -B "$here/check_exports.py" "$here/exports.txt" "$1" mekbom
+    command -v pkg-config >/dev/null || return 0
+    flags=$(PKG_CONFIG_PATH=$1/pkgconfig pkg-config --cflags --libs mekbom)
+    version=$(PKG_CONFIG_PATH=$1/pkgconfig pkg-config --modversion mekbom)
+    # shellcheck disable=SC2086  # the flags are meant to be split
+    "${CC:-cc}" -DEXPECTED_VERSION="\"$version\"" "$source/MekBomHost/Test/Interface/uses_mekbom.c" \
+        -o "$work/uses-mekbom" $flags
+    LD_LIBRARY_PATH=$1 "$work/uses-mekbom"
 }
 
 case $way in
@@ -168,7 +182,10 @@ case $way in
     static-pc) check_pkg_config "$work/static" ;;
     shared-pc) check_pkg_config "$work/shared" ;;
     shared-build) build_shared ;;
-    exports) python3 -B "$here/check_exports.py" "$here/exports.txt" "$work/shared/lib" ;;
+    exports)
+        python3 -B "$here/check_exports.py" "$here/exports.txt" "$work/shared/lib" \
+            MekRoots MekUnits MekRepositoryProxy MekExpressionEvaluator MekBomEngine
+        ;;
     debian) check_debian ;;
     program) check_program ;;
     *)

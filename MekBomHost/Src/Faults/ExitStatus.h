@@ -12,6 +12,7 @@ enum ExitStatus : int
     kWrongUsage = 2,       // the command line
     kInvalidInput = 3,     // parts list or template unreadable or wrong
     kOutputNotWritten = 4, // the report could not be written; what stood there before still does
+    kStopped = 5,          // no run of the program: who embeds it had a report stopped
     kInternalFault = 70    // the program's own mistake, or no memory left
 };
 }

@@ -120,6 +120,8 @@ const FindingCode kCodes[] = {
     kListsUnlike,
     kConfiguredWordUnknown,
     kUnitsConfigured,
+    kStopped,
+    kSessionIncomplete,
 };
 }
 

@@ -223,6 +223,9 @@ inline constexpr FindingCode kConfiguredWordUnknown = {
 };
 inline constexpr FindingCode kUnitsConfigured = { "MB930", kNote,
                                                   "The units of a list are those of a configuration file." };
+inline constexpr FindingCode kStopped = { "MB931", kError, "A report was stopped by the program that asked for it." };
+inline constexpr FindingCode kSessionIncomplete = { "MB932", kError,
+                                                    "A program asks for a report without parts or without a list." };
 
 // All of the above, in the order of their numbers.
 const std::vector<FindingCode>& all();

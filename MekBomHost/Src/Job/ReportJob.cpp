@@ -282,7 +282,7 @@ void ReportJob::takeMistakes(const std::vector<Finding>& mistakes)
 // Only the header row is read: which template suits, and what of the rows will be needed, depends on it.
 void ReportJob::openParts(const HeadingChoices& choices)
 {
-    if (m_request.parts.empty())
+    if (m_request.parts.empty() && m_request.records.empty())
     {
         if (!m_request.inputUnits.empty())
             refuseForSample("--input-unit");
@@ -300,7 +300,8 @@ void ReportJob::openParts(const HeadingChoices& choices)
             refuseForSample("--map");
         return;
     }
-    m_pRecords = PartsFormats::openAll(m_request.parts, m_request.input, choices, m_findings);
+    m_pRecords =
+        PartsFormats::openAll(m_request.parts, std::move(m_request.records), m_request.input, choices, m_findings);
     if (m_request.pAssemblies != nullptr)
         m_pRecords = std::make_unique<AssemblyRecords>(
             std::move(m_pRecords), PartsFormats::open(*m_request.pAssemblies, m_request.input, m_findings), choices);

@@ -18,6 +18,7 @@
 #include "InputChoices.h"
 #include "LineContents.h"
 #include "PieceChoices.h"
+#include "RecordSource.h"
 
 #include <memory>
 #include <string>
@@ -32,11 +33,12 @@ struct ReportRequest
 {
     using Pairs = std::vector<std::pair<std::string, std::string>>;
 
-    std::vector<std::unique_ptr<ByteSource>>
-        parts;                               // parts lists, whose rows follow one another; none for the sample rows
-    std::unique_ptr<ByteSource> pAssemblies; // a list of the assemblies that parts name; may be null
-    InputChoices input;                      // how they are to be read
-    Pairs inputUnits;                        // of columns whose heading names none: "%Paint", "m2"
+    std::vector<std::unique_ptr<ByteSource>> parts;     // parts lists, whose rows follow one another; without
+                                                        // these and records the sample rows
+    std::vector<std::unique_ptr<RecordSource>> records; // of rows that are in no file, behind those of the parts lists
+    std::unique_ptr<ByteSource> pAssemblies;            // a list of the assemblies that parts name; may be null
+    InputChoices input;                                 // how they are to be read
+    Pairs inputUnits;                                   // of columns whose heading names none: "%Paint", "m2"
 
     std::unique_ptr<ByteSource> pTemplate; // null for the one of the candidates that suits the parts list best
     std::vector<std::unique_ptr<ByteSource>> candidates; // in order of preference; if none suits, the columns are

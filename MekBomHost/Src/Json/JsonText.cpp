@@ -51,4 +51,12 @@ void appendJsonText(std::string& json, std::string_view text)
         }
     json.append(text.substr(begin)) += '"';
 }
+
+void appendJsonTextOrNull(std::string& json, std::string_view text)
+{
+    if (text.empty())
+        json += "null";
+    else
+        appendJsonText(json, text);
+}
 }

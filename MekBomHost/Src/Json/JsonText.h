@@ -13,4 +13,7 @@ std::string jsonText(std::string_view text);
 
 // The same at the end of what `json` holds.
 void appendJsonText(std::string& json, std::string_view text);
+
+// The same, or null for an empty text.
+void appendJsonTextOrNull(std::string& json, std::string_view text);
 }

@@ -55,6 +55,8 @@ struct OutputChoices
     char decimalSign = '.';        // of numbers
     OutputEncoding encoding;       // of records
 
+    static constexpr int kWidest = 100'000; // arbitrary: wider than anything that is printed
+
     int width = 0;          // that a table has to fit into, in columns of a terminal; 0 for as wide as need be
     bool cutsTexts = false; // those that are wider than their column, instead of going on in the next line
     bool isAscii = false;   // no other characters

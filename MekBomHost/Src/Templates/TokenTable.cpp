@@ -60,18 +60,26 @@ bool holds(const std::string& name, std::string_view word)
 
 // A word that is a whole token is found by the catalogue as well: "%UserAttr17" is in no name, and yet one of those
 // that begin with %UserAttr.
-std::string textOf(std::string_view word)
+std::vector<Line> lines(std::string_view word)
 {
     VorBomTemplate withUnits;
     withUnits.setUnitsForTokens(nullptr);
-    AlignedTable table({ "Token", "Value", "Order", "Kind" });
+    std::vector<Line> lines;
     for (const Entry* pEntry = VorBomTokenCatalogue::begin(); pEntry != VorBomTokenCatalogue::end(); ++pEntry)
     {
         const std::string name = Utf8::toBytes(pEntry->name);
         if (holds(name, word) || pEntry->matches(Utf8::toWide(word)))
-            table.add({ name + (pEntry->isPrefix ? "..." : ""), valueOf(*pEntry), orderOf(*pEntry),
-                        kindOf(*pEntry, *withUnits.getBomTemplateUnits()) });
+            lines.push_back({ name, pEntry->isPrefix, valueOf(*pEntry), orderOf(*pEntry),
+                              kindOf(*pEntry, *withUnits.getBomTemplateUnits()) });
     }
+    return lines;
+}
+
+std::string textOf(std::string_view word)
+{
+    AlignedTable table({ "Token", "Value", "Order", "Kind" });
+    for (const Line& line : lines(word))
+        table.add({ line.token + (line.isPrefix ? "..." : ""), line.value, line.order, line.kind });
     return table.isEmpty() ? std::string() : table.text() + "\n" + kNotes;
 }
 

@@ -14,8 +14,20 @@
 
 namespace mekbom::TokenTable
 {
-// The tokens whose names hold `word`, its case not counting; all of them for an empty word. Aligned for a terminal, with
-// an explanation below. Empty when there is none.
+// One line of the table.
+struct Line
+{
+    std::string token;     // "%Weight"; for "%UserAttr", with which any number of tokens begin, that beginning
+    bool isPrefix = false; // of such a beginning
+    std::string value;     // "text", "whole number" or "number"
+    std::string order;     // "natural", "plain" or "number"
+    std::string kind;      // a name of UnitKinds; empty for what has no unit
+};
+
+// The lines of the tokens whose names hold `word`, its case not counting; all of them for an empty word.
+std::vector<Line> lines(std::string_view word = "");
+
+// The same lines, aligned for a terminal, with an explanation below. Empty when there is none.
 std::string textOf(std::string_view word);
 
 // The names of all tokens: "%Weight". For "%UserAttr", with which any number of tokens begin, that beginning.

@@ -36,7 +36,7 @@ std::string factorPrefixOf(const VorUnitDefinition& unit)
     }
 }
 
-AlignedTable::Row rowOf(const VorUnitDefinition& unit)
+Line lineOf(const VorUnitDefinition& unit)
 {
     const MEKUnit asShown(unit.number, unit.number, unit.format);
     return { UnitKinds::find(unit.system)->name,
@@ -48,14 +48,21 @@ AlignedTable::Row rowOf(const VorUnitDefinition& unit)
 }
 }
 
-// Kind by kind in the order of UnitKinds, each in the order of the catalogue.
-std::string text()
+std::vector<Line> lines()
 {
-    AlignedTable table({ "Kind", "Symbol", "--unit", "One is", "Source", "Names" });
+    std::vector<Line> lines;
     for (const UnitKind& kind : UnitKinds::all())
         for (int i = 0; i < VorUnitsTransformArray::numUnits(); ++i)
             if (VorUnitsTransformArray::unitAt(i).system == kind.system)
-                table.add(rowOf(VorUnitsTransformArray::unitAt(i)));
+                lines.push_back(lineOf(VorUnitsTransformArray::unitAt(i)));
+    return lines;
+}
+
+std::string text()
+{
+    AlignedTable table({ "Kind", "Symbol", "--unit", "One is", "Source", "Names" });
+    for (const Line& line : lines())
+        table.add({ line.kind, line.symbol, line.notation, line.oneIs, line.source, line.names });
     return table.text() + "\n" + kNotes;
 }
 }

@@ -9,7 +9,9 @@
 #include "PeekedSource.h"
 #include "XlsxReader.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -77,12 +79,14 @@ std::unique_ptr<RecordSource> open(ByteSource& source, const InputChoices& choic
 }
 
 std::unique_ptr<RecordSource> openAll(const std::vector<std::unique_ptr<ByteSource>>& sources,
-                                      const InputChoices& choices, const HeadingChoices& headings, FindingList& notes)
+                                      std::vector<std::unique_ptr<RecordSource>> others, const InputChoices& choices,
+                                      const HeadingChoices& headings, FindingList& notes)
 {
     std::vector<std::unique_ptr<RecordSource>> records;
-    records.reserve(sources.size());
+    records.reserve(sources.size() + others.size());
     for (const std::unique_ptr<ByteSource>& pSource : sources)
         records.push_back(open(*pSource, choices, notes));
+    std::move(others.begin(), others.end(), std::back_inserter(records));
     if (records.size() == 1)
         return std::move(records.front());
     return std::make_unique<JoinedRecords>(std::move(records), headings);

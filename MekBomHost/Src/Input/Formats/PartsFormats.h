@@ -20,8 +20,9 @@ namespace mekbom::PartsFormats
 // Fault where the bytes are of no known format or not as `choices` say.
 std::unique_ptr<RecordSource> open(ByteSource& source, const InputChoices& choices, FindingList& notes);
 
-// The records of all sources, at least one, as those of one list (JoinedRecords), whose header row will be read by
-// `headings`. Otherwise as open().
+// The records of all sources and then the `others`, at least one of all, as those of one list (JoinedRecords), whose header
+// row will be read by `headings`. Otherwise as open().
 std::unique_ptr<RecordSource> openAll(const std::vector<std::unique_ptr<ByteSource>>& sources,
-                                      const InputChoices& choices, const HeadingChoices& headings, FindingList& notes);
+                                      std::vector<std::unique_ptr<RecordSource>> others, const InputChoices& choices,
+                                      const HeadingChoices& headings, FindingList& notes);
 }

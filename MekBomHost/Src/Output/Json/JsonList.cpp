@@ -8,46 +8,14 @@
 //   line of level 2    level 1 opens once more                                     , {"level": 1, "lines": [
 #include "JsonList.h"
 
+#include "JsonColumn.h"
 #include "JsonText.h"
-#include "NumberText.h"
-#include "Utf8.h"
-
-#include <algorithm>
-#include <cmath>
 
 namespace mekbom
 {
 namespace
 {
 const std::size_t kBlockSize = 1 << 16; // arbitrary: large against a call of the system
-
-bool isNumber(const VorBomTypedValue& value)
-{
-    return value.type == VorBomDataValue::kIntData || value.type == VorBomDataValue::kDoubleData;
-}
-
-// What the values of a column are. A column whose numbers have several units says of each which it has.
-const char* kindOf(const ReportColumn& column)
-{
-    if (column.hasMixedUnits)
-        return "mixed";
-    if (column.pUnitKind != nullptr)
-        return column.pUnitKind->name;
-    return column.isNumeric ? "number" : "text";
-}
-
-// Of most columns totals are sums, which is not said.
-std::string totalOf(const ReportColumn& column)
-{
-    return column.total == ColumnTotal::kSum
-               ? std::string()
-               : std::string(", \"total\": \"") + ColumnTotal::nameOf(column.total) + "\"";
-}
-
-std::string textOrNull(const std::string& text)
-{
-    return text.empty() ? "null" : jsonText(text);
-}
 
 const char* boolText(bool value)
 {
@@ -83,10 +51,8 @@ std::string textOf(const ListFoot::Total& total)
 }
 
 JsonList::JsonList(const EvaluatedReport& report, TextSink& sink)
-    : m_report(report), m_sink(sink), m_isShown(report.columns().size()), m_hasInside{ false }
+    : m_report(report), m_sink(sink), m_line(report), m_hasInside{ false }
 {
-    for (const ReportColumn& column : report.columns())
-        m_hasMixedUnits = m_hasMixedUnits || column.hasMixedUnits;
     if (const std::vector<SectionPlace> places = report.placesWithLines(); !places.empty())
         m_handleLevel = places.back().level;
 }
@@ -104,22 +70,8 @@ void JsonList::write()
 void JsonList::writeHead()
 {
     m_text += "{\n\"format\": \"mekbom-list\", \"version\": 1,\n\"title\": ";
-    writeTextOrNull(m_report.title());
-    m_text += ",\n\"columns\": [";
-    for (const ReportColumn& column : m_report.columns())
-    {
-        m_text += &column == m_report.columns().data() ? "\n" : ",\n";
-        writeColumn(column);
-    }
-    m_text += "]";
-}
-
-void JsonList::writeColumn(const ReportColumn& column)
-{
-    m_text += "{\"token\": " + jsonText(Utf8::toBytes(column.token)) + ", \"label\": " + jsonText(column.label) +
-              ", \"heading\": " + jsonText(column.heading()) + ", \"kind\": \"" + kindOf(column) +
-              "\", \"unit\": " + textOrNull(column.unitOfNumbers()) +
-              ", \"shownUnit\": " + textOrNull(column.unitSymbol) + totalOf(column) + "}";
+    appendJsonTextOrNull(m_text, m_report.title());
+    m_text += ",\n\"columns\": " + JsonColumn::textOf(m_report.columns());
 }
 
 void JsonList::writeLines()
@@ -147,9 +99,9 @@ void JsonList::writeHeader(const ReportLine& line)
     openUpTo(line.place.level);
     const bool isLine = isDeepest(line.place.level);
     m_text += isLine ? ", " : ", \"header\": {";
-    writeSection(line, { line.place.level, false });
+    m_line.appendSection(line, { line.place.level, false }, m_text);
     if (isLine && line.place.level == m_handleLevel)
-        writeHandles(line);
+        m_line.appendHandles(line, m_text);
     m_text += isLine ? "" : "}";
 }
 
@@ -159,9 +111,9 @@ void JsonList::writeFooter(const ReportLine& line)
     openUpTo(line.place.level);
     closeInside();
     m_text += ",\n\"footer\": {";
-    writeSection(line, { line.place.level, true });
+    m_line.appendSection(line, { line.place.level, true }, m_text);
     if (line.place.level == m_handleLevel && !isDeepest(m_handleLevel))
-        writeHandles("handles", line.footerRows);
+        JsonLine::appendHandles("handles", line.footerRows, m_text);
     m_text += "}";
     closeDownTo(line.place.level);
 }
@@ -203,91 +155,6 @@ void JsonList::closeInside()
     m_hasInside.back() = false;
 }
 
-// A header and its footer may share the line, each with columns of its own.
-void JsonList::writeSection(const ReportLine& line, SectionPlace place)
-{
-    const SectionLayout& section = m_report.layout().section(place);
-    m_isShown.assign(m_isShown.size(), false);
-    for (const int column : section.columns)
-        m_isShown[static_cast<std::size_t>(column)] = true;
-    if (section.isOfPage)
-        m_text += "\"ofPage\": true, ";
-    if (!section.label.empty())
-        m_text += "\"label\": " + jsonText(section.label) + ", ";
-    writeCells("\"values\": [", line, &JsonList::writeValue);
-    m_text += ", ";
-    writeCells("\"shown\": [", line, &JsonList::writeShown);
-    if (!m_hasMixedUnits)
-        return;
-    m_text += ", ";
-    writeCells("\"units\": [", line, &JsonList::writeUnit);
-}
-
-void JsonList::writeCells(const char* name, const ReportLine& line,
-                          void (JsonList::*writeCell)(const ReportLine&, std::size_t))
-{
-    m_text += name;
-    for (std::size_t i = 0; i < m_isShown.size(); ++i)
-    {
-        if (i > 0)
-            m_text += ", ";
-        if (m_isShown[i])
-            (this->*writeCell)(line, i);
-        else
-            m_text += "null";
-    }
-    m_text += "]";
-}
-
-// JSON has no word for what is no number.
-void JsonList::writeValue(const ReportLine& line, std::size_t index)
-{
-    const VorBomTypedValue& value = line.values[index];
-    if (!isNumber(value))
-        writeTextOrNull(line.texts[index].view());
-    else if (std::isfinite(value.number))
-        m_text += numberText(m_report.columns()[index].numbers.of(value));
-    else
-        m_text += "null";
-}
-
-void JsonList::writeShown(const ReportLine& line, std::size_t index)
-{
-    writeTextOrNull(line.texts[index].view());
-}
-
-// Of columns whose heading names the unit, that is where it stands.
-void JsonList::writeUnit(const ReportLine& line, std::size_t index)
-{
-    const ReportColumn& column = m_report.columns()[index];
-    const bool isAsked = column.hasMixedUnits && isNumber(line.values[index]);
-    writeTextOrNull(isAsked ? std::string_view(column.numbers.unitOf(line.values[index].unitType))
-                            : std::string_view());
-}
-
-// Of the rows that made a line of details the first counts, and so do the others unless they were merged away.
-void JsonList::writeHandles(const ReportLine& line)
-{
-    const RowList& rows = line.headerRows;
-    if (rows.size() < 2 || m_report.countsEqualLines())
-        return writeHandles("handles", rows);
-    writeHandles("handles", { rows.begin(), rows.begin() + 1 });
-    writeHandles("mergedHandles", { rows.begin() + 1, rows.end() });
-}
-
-// Null for a row without one, so that there are as many as rows.
-void JsonList::writeHandles(const char* name, const RowList& rows)
-{
-    m_text.append(", \"").append(name).append("\": [");
-    for (const VorBomDataRow* const* pRow = rows.begin(); pRow != rows.end(); ++pRow)
-    {
-        if (pRow != rows.begin())
-            m_text += ", ";
-        writeTextOrNull(Utf8::toBytes((*pRow)->objectHandle()));
-    }
-    m_text += "]";
-}
-
 void JsonList::writeFoot()
 {
     const ListFoot& foot = m_report.foot();
@@ -310,14 +177,6 @@ void JsonList::writeFoot()
               ", \"rowsAreSinglePieces\": " + boolText(foot.countsRowsAsPieces) +
               ", \"unitsAssumed\": " + boolText(foot.areUnitsAssumed) +
               ", \"warnings\": " + std::to_string(foot.numWarnings) + ",\n" + text + "}";
-}
-
-void JsonList::writeTextOrNull(std::string_view text)
-{
-    if (text.empty())
-        m_text += "null";
-    else
-        appendJsonText(m_text, text);
 }
 
 bool JsonList::isDeepest(int level) const

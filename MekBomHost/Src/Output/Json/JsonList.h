@@ -14,12 +14,11 @@
 #pragma once
 
 #include "EvaluatedReport.h"
-#include "SectionPlace.h"
+#include "JsonLine.h"
 #include "TextSink.h"
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace mekbom
@@ -35,7 +34,6 @@ public:
 
 private:
     void writeHead();
-    void writeColumn(const ReportColumn& column);
     void writeLines();
     void openUpTo(int level);
     void closeDownTo(int level);
@@ -43,25 +41,15 @@ private:
     void closeInside();
     void writeHeader(const ReportLine& line);
     void writeFooter(const ReportLine& line);
-    void writeSection(const ReportLine& line, SectionPlace place);
-    void writeCells(const char* name, const ReportLine& line,
-                    void (JsonList::*writeCell)(const ReportLine&, std::size_t));
-    void writeValue(const ReportLine& line, std::size_t index);
-    void writeShown(const ReportLine& line, std::size_t index);
-    void writeUnit(const ReportLine& line, std::size_t index);
-    void writeHandles(const ReportLine& line);
-    void writeHandles(const char* name, const RowList& rows);
     void writeFoot();
-    void writeTextOrNull(std::string_view text);
     bool isDeepest(int level) const;
     int numOpen() const { return static_cast<int>(m_hasInside.size()) - 1; }
     void passOn(std::size_t least);
 
     const EvaluatedReport& m_report;
     TextSink& m_sink;
-    bool m_hasMixedUnits = false;  // some column has
+    JsonLine m_line;
     int m_handleLevel = -1;        // the deepest level with a line, which the handles stand at
-    std::vector<bool> m_isShown;   // for each column whether the section that is being written shows anything in it
     std::vector<bool> m_hasInside; // of the file, then of each open level: whether the array of what is in it is open
     std::string m_text;            // what has been written but not passed on to the sink
 };

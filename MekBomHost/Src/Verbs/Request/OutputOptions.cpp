@@ -29,7 +29,6 @@ namespace fs = std::filesystem;
 
 const char* const kStandardOutput = "-";
 const char* const kStandardInput = "-";
-const int kMostColumns = 100'000; // arbitrary: wider than anything that is printed
 
 struct ChoiceOption
 {
@@ -113,7 +112,7 @@ void OutputOptions::declareTextOptionsOn(CLI::App& command)
     command
         .add_option_function<int>("--width", takeWidth, "Columns of a terminal or printer that text has to fit into")
         ->type_name("COLUMNS")
-        ->check(CLI::Range(1, kMostColumns));
+        ->check(CLI::Range(1, OutputChoices::kWidest));
     addFlag(command, "--cut", "Cut texts that are wider than their column, instead of wrapping them",
             OutputChoices::kCut, m_choices.cutsTexts);
     addFlag(command, "--ascii", "Write text in ASCII alone: m2 instead of m²", OutputChoices::kAscii,
