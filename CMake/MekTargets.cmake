@@ -97,6 +97,10 @@ function(mek_add_tests target)
     target_link_libraries(${target} PRIVATE ${ARG_LINK} GTest::gtest_main)
     target_compile_definitions(${target} PRIVATE ${ARG_DEFINITIONS})
     mek_set_warnings(${target})
+    if(NOT MSVC)
+        # What is tested is optimised; the tests themselves are compiled in a third of the time when they are not.
+        target_compile_options(${target} PRIVATE -O0)
+    endif()
     gtest_discover_tests(${target} DISCOVERY_TIMEOUT 120 PROPERTIES TIMEOUT 900)
 endfunction()
 
