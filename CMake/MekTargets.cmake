@@ -74,7 +74,8 @@ endfunction()
 
 # mek_add_tests(MekRootsTest LINK Mek::Roots): one test program from Test and its folders, every case known to ctest.
 # A module with tests of internals has a second one from Test/Internals/*.cpp:
-# mek_add_tests(MekRootsInternalsTest INTERNALS_OF MekRoots). Both have what stands in Test/Support.
+# mek_add_tests(MekRootsInternalsTest INTERNALS_OF MekRoots). Both have what stands in Test/Support. What is in
+# Test/Interface are programs of their own.
 function(mek_add_tests target)
     cmake_parse_arguments(ARG "" "INTERNALS_OF" "LINK;DEFINITIONS" ${ARGN})
     if(ARG_INTERNALS_OF)
@@ -83,7 +84,7 @@ function(mek_add_tests target)
         list(APPEND ARG_LINK ${ARG_INTERNALS_OF}Objects)
     else()
         file(GLOB_RECURSE sources CONFIGURE_DEPENDS Test/*.cpp)
-        list(FILTER sources EXCLUDE REGEX "/Test/(Internals|Support)/")
+        list(FILTER sources EXCLUDE REGEX "/Test/(Internals|Support|Interface)/")
     endif()
     if(MEK_THREADING_TESTS_ONLY)
         mek_keep_threading_tests(sources)
