@@ -6,6 +6,7 @@ file(READ ${SOURCE} expected)
 string(REGEX REPLACE "^.*// Output:\n//\n" "" expected "${expected}")
 string(REGEX REPLACE "\n\n.*$" "\n" expected "${expected}")
 string(REGEX REPLACE "^// " "" expected "${expected}")
+string(REPLACE "\n//\n" "\n\n" expected "${expected}")
 string(REPLACE "\n// " "\n" expected "${expected}")
 
 execute_process(COMMAND ${PROGRAM} OUTPUT_VARIABLE printed RESULT_VARIABLE status)

@@ -9,7 +9,8 @@
 set -eu
 
 packages="g++ cmake ninja-build python3 locales libgtest-dev libcli11-dev nlohmann-json3-dev libutf8proc-dev"
-packages="$packages libzip-dev libpugixml-dev libxlsxwriter-dev python3-jsonschema python3-openpyxl pkg-config"
+packages="$packages libzip-dev libpugixml-dev libxlsxwriter-dev python3-jsonschema python3-openpyxl python3-pandas"
+packages="$packages pkg-config"
 for argument in "$@"; do
     case "$argument" in
         --checks)
@@ -18,7 +19,7 @@ for argument in "$@"; do
             ;;
         --browser) packages="$packages chromium poppler-utils" ;;
         --bench)
-            packages="$packages libbenchmark-dev sqlite3 libsqlite3-dev python3-pandas python3-xlsxwriter libfparser-dev"
+            packages="$packages libbenchmark-dev sqlite3 libsqlite3-dev python3-xlsxwriter libfparser-dev"
             packages="$packages libmuparser-dev liblua5.4-dev miller time valgrind"
             ;;
         *) echo "setup.sh: unknown argument '$argument'; expected --checks, --browser or --bench" >&2; exit 2 ;;

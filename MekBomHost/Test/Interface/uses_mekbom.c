@@ -25,7 +25,8 @@ static const char* const list =
     "{ \"title\": \"Beams\", \"equalLines\": \"count\", \"sections\": ["
     "  { \"type\": \"kReportHeader\", \"children\": ["
     "    { \"type\": \"kDetails\","
-    "      \"tuples\": [ { \"token\": \"%SortAscBy:%Name\" }, { \"token\": \"%Name\" }, { \"token\": \"%Length\" } ] } ] },"
+    "      \"tuples\": [ { \"token\": \"%SortAscBy:%Name\" }, { \"token\": \"%Name\" }, { \"token\": \"%Length\" } ] } "
+    "] },"
     "  { \"type\": \"kReportFooter\", \"label\": \"Total\", \"tuples\": [ { \"token\": \"%SumBy:%Length\" } ] } ] }";
 
 static int is(mekbom_text text, const char* expected)
@@ -85,13 +86,14 @@ static void makes_a_list_of_rows(void)
     }
     CHECK(mekbom_evaluate(session) == MEKBOM_DONE);
     CHECK(mekbom_num_lines(session) == 4);
-    CHECK(is(mekbom_lines(session, 0, 3),
-             "[\n{\"line\": 0, \"level\": 1, \"role\": \"line\", \"values\": [null, 2286], \"shown\": [null, \"2286\"], "
-             "\"handles\": [\"2A1\"]},\n"
-             "{\"line\": 1, \"level\": 1, \"role\": \"line\", \"values\": [\"HEA200\", 0.30000000000000004], "
-             "\"shown\": [\"HEA200\", \"0.3\"], \"handles\": [\"2A0\"]},\n"
-             "{\"line\": 2, \"level\": 1, \"role\": \"line\", \"values\": [\"RHS\", 10000000], \"shown\": [\"RHS\", "
-             "\"10000000\"], \"handles\": [\"2A2\"]}]\n"));
+    CHECK(
+        is(mekbom_lines(session, 0, 3),
+           "[\n{\"line\": 0, \"level\": 1, \"role\": \"line\", \"values\": [null, 2286], \"shown\": [null, \"2286\"], "
+           "\"handles\": [\"2A1\"]},\n"
+           "{\"line\": 1, \"level\": 1, \"role\": \"line\", \"values\": [\"HEA200\", 0.30000000000000004], "
+           "\"shown\": [\"HEA200\", \"0.3\"], \"handles\": [\"2A0\"]},\n"
+           "{\"line\": 2, \"level\": 1, \"role\": \"line\", \"values\": [\"RHS\", 10000000], \"shown\": [\"RHS\", "
+           "\"10000000\"], \"handles\": [\"2A2\"]}]\n"));
     mekbom_close(session);
 }
 
