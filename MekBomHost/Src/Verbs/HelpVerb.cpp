@@ -18,8 +18,8 @@ const char* const kVersionDate = MEK_VERSION_DATE;
 const WordChoices::Choices<Completion::eShell>& shells()
 {
     static const WordChoices::Choices<Completion::eShell> shells = { { "bash", Completion::kBash },
-                                                                    { "zsh", Completion::kZsh },
-                                                                    { "fish", Completion::kFish } };
+                                                                     { "zsh", Completion::kZsh },
+                                                                     { "fish", Completion::kFish } };
     return shells;
 }
 
