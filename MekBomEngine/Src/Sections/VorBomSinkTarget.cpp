@@ -56,14 +56,15 @@ void VorBomSinkTarget::take(VorBomEngineStateArray& stack, int level)
 
 void VorBomSinkTarget::handOverHeader(const VorBomTemplateItem& header, const VorBomEngineState& group, int level)
 {
-    m_sink.takeHeader({ header, level, header.getFirstDataRow(), {}, group.m_pPlan->header.display().values() });
+    const VorBomTypedValue* const pValues = group.m_pPlan->header.display().values();
+    m_sink.takeHeader({ header, level, header.getFirstDataRow(), {}, pValues, nullptr, group.m_pHeader });
 }
 
 void VorBomSinkTarget::handOverFooter(const VorBomTemplateItem& footer, const VorBomEngineState& group, int level)
 {
     VorBomFooterPlan& plan = *group.m_pPlan->footer;
     const VorBomCountedRows rows(group.m_dataRows);
-    m_sink.takeFooter({ footer, level, nullptr, rows, plan.display().values(), plan.numRowsWithDatum() });
+    m_sink.takeFooter({ footer, level, nullptr, rows, plan.typedValues(), plan.numRowsWithDatum(), group.m_pFooter });
 }
 
 void VorBomSinkTarget::reportFailedFormulas(const VorBomEngineState& group)
