@@ -99,12 +99,15 @@ int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sin
 int VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineStateArray& stack,
                                    VorBomSectionTarget& target)
 {
-    VorBomData* pData = reportTemplate.getBomData();
-    if (pData == nullptr)
-        return 1;
     // Before anything changes: a sink that stops here leaves the rows in the order in which they came.
     if (target.takeProgress(0) == 0)
         return 0;
+    VorBomData* pData = reportTemplate.getBomData();
+    if (pData == nullptr)
+    {
+        target.takeEnd();
+        return 1;
+    }
     sortInpuDataBySortingTokens(pData, stack, reportTemplate.sortTypes());
 
     stack[0].m_pTarget = &target;
@@ -124,6 +127,7 @@ int VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineS
         endGroup(stack, level, pUnits);
     handOverGroups(stack, 0);
     leaveLastFormula(stack);
+    target.takeEnd();
     return 1;
 }
 

@@ -71,6 +71,9 @@ public:
     // the results of formulas and the flags that they have got so far.
     virtual int takeProgress(int /*numRowsDone*/) { return 1; }
 
+    // The report is complete; the last call of an evaluation that is neither stopped nor thrown out of.
+    virtual void takeEnd() {}
+
 protected:
     explicit VorBomSectionSink(int requests = kTextsAlone) : m_nRequests(requests) {}
     VorBomSectionSink(const VorBomSectionSink&) = default;

@@ -33,6 +33,9 @@ public:
     // Called with 0 before the first row and after each; 0 stops the evaluation.
     virtual int takeProgress(int numRowsDone) = 0;
 
+    // All sections were taken.
+    virtual void takeEnd() = 0;
+
     // Destroys what the level has evaluated and nobody has taken, with all that hangs in it.
     static void destroySections(VorBomEngineState& state);
 

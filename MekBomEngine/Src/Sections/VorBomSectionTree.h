@@ -25,4 +25,5 @@ public:
 
     void takeMergedRow(const VorBomDataRow&) override {}
     int takeProgress(int) override { return 1; }
+    void takeEnd() override {}
 };

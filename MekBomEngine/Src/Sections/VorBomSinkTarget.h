@@ -18,6 +18,7 @@ public:
     void take(VorBomEngineStateArray& stack, int level) override;
     void takeMergedRow(const VorBomDataRow& row) override { m_sink.takeMergedRow(row); }
     int takeProgress(int numRowsDone) override { return m_sink.takeProgress(numRowsDone); }
+    void takeEnd() override { m_sink.takeEnd(); }
 
 private:
     using Section = std::unique_ptr<VorBomTemplateItem>; // nothing hangs in it, so it goes without empty()
