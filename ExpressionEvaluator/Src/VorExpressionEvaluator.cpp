@@ -3,7 +3,40 @@
 #include "Tree/VorTreeBuilder.h"
 #include "VorExprEvalErrorHandler.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <string_view>
+
 int VorExpressionEvaluator::m_nTraceStacks = 0;
+
+namespace
+{
+// The first of `text` that has no `partner` among the characters up to it.
+template <class Character>
+std::ptrdiff_t findAlone(Character character, Character end, wchar_t alone, wchar_t partner)
+{
+    const Character begin = character;
+    for (int nPartners = 0; character != end; ++character)
+    {
+        nPartners += *character == partner ? 1 : 0;
+        if (*character == alone && --nPartners < 0)
+            return character - begin;
+    }
+    return -1;
+}
+
+// Of a statement with more '(' than ')' or the reverse, the place of the last '(' that is not closed, or of the first ')'
+// that closes nothing:
+//   "(2+(3"    3           "2+3)*4)"    3
+int placeOfAlone(const VorExprEvTextView& statement)
+{
+    const std::wstring_view text = statement.existingPart();
+    const bool isClosing = std::count(text.begin(), text.end(), L')') > std::count(text.begin(), text.end(), L'(');
+    const auto length = static_cast<std::ptrdiff_t>(text.size());
+    return static_cast<int>(isClosing ? findAlone(text.begin(), text.end(), L')', L'(')
+                                      : length - 1 - findAlone(text.rbegin(), text.rend(), L'(', L')'));
+}
+}
 
 VorExpressionEvaluator::~VorExpressionEvaluator()
 {
@@ -19,7 +52,7 @@ int VorExpressionEvaluator::parse(const VorExprEvTextView& statement, VorExprEvT
     VorTreeBuilder builder(statement);
     const int nResult = builder.build();
     if (nResult == 0)
-        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kImpairedParenthesis);
+        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kImpairedParenthesis, placeOfAlone(statement));
     if (VorExprEvTreeItem* pTree = builder.takeTree())
     {
         delete pRoot;
