@@ -25,17 +25,6 @@ std::ptrdiff_t findAlone(Character character, Character end, wchar_t alone, wcha
     return -1;
 }
 
-// Of a statement with more '(' than ')' or the reverse, the place of the last '(' that is not closed, or of the first ')'
-// that closes nothing:
-//   "(2+(3"    3           "2+3)*4)"    3
-int placeOfAlone(const VorExprEvTextView& statement)
-{
-    const std::wstring_view text = statement.existingPart();
-    const bool isClosing = std::count(text.begin(), text.end(), L')') > std::count(text.begin(), text.end(), L'(');
-    const auto length = static_cast<std::ptrdiff_t>(text.size());
-    return static_cast<int>(isClosing ? findAlone(text.begin(), text.end(), L')', L'(')
-                                      : length - 1 - findAlone(text.rbegin(), text.rend(), L'(', L')'));
-}
 }
 
 VorExpressionEvaluator::~VorExpressionEvaluator()
@@ -52,11 +41,27 @@ int VorExpressionEvaluator::parse(const VorExprEvTextView& statement, VorExprEvT
     VorTreeBuilder builder(statement);
     const int nResult = builder.build();
     if (nResult == 0)
-        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kImpairedParenthesis, placeOfAlone(statement));
+        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kImpairedParenthesis,
+                                                  findImpairedParenthesis(statement));
     if (VorExprEvTreeItem* pTree = builder.takeTree())
     {
         delete pRoot;
         pRoot = pTree;
     }
     return nResult;
+}
+
+//   "(2+(3"    more '(' than ')': from the end, the first '(' without a ')' behind it is at 3
+//   "2+3)*4)"  more ')' than '(': from the start, the first ')' without a '(' before it is at 3
+int VorExpressionEvaluator::findImpairedParenthesis(const VorExprEvTextView& statement)
+{
+    const std::wstring_view text = statement.existingPart();
+    const auto numOpening = std::count(text.begin(), text.end(), L'(');
+    const auto numClosing = std::count(text.begin(), text.end(), L')');
+    if (numOpening == numClosing)
+        return VorExprEvalError::kNoPosition;
+    if (numClosing > numOpening)
+        return static_cast<int>(findAlone(text.begin(), text.end(), L')', L'('));
+    const auto length = static_cast<std::ptrdiff_t>(text.size());
+    return static_cast<int>(length - 1 - findAlone(text.rbegin(), text.rend(), L'(', L')'));
 }

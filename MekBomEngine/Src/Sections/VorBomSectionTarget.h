@@ -12,6 +12,7 @@
 #pragma once
 
 #include "VorBomEngineState.h"
+#include "VorBomEvaluationOptions.h"
 
 class VorBomTemplateUnits;
 
@@ -27,6 +28,9 @@ public:
     // anew.
     virtual void take(VorBomEngineStateArray& stack, int level) = 0;
 
+    // What becomes of lines that read as the one before.
+    VorBomEvaluationOptions::eEqualLines equalLines() const { return m_equalLines; }
+
     // The line of `row` is merged into the section before; it is not taken.
     virtual void takeMergedRow(const VorBomDataRow& row) = 0;
 
@@ -40,7 +44,10 @@ public:
     static void destroySections(VorBomEngineState& state);
 
 protected:
-    VorBomSectionTarget() = default;
+    explicit VorBomSectionTarget(VorBomEvaluationOptions::eEqualLines equalLines) : m_equalLines(equalLines) {}
     VorBomSectionTarget(const VorBomSectionTarget&) = default;
     VorBomSectionTarget& operator=(const VorBomSectionTarget&) = default;
+
+private:
+    VorBomEvaluationOptions::eEqualLines m_equalLines;
 };
