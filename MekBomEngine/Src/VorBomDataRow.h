@@ -11,7 +11,7 @@
 //
 // One evaluation changes its rows: it reorders and relinks them, marks the tuples it used, appends a tuple for each
 // formula it computed, and clears getUseThisDataForSums() of rows whose line was merged into an equal one. For a fresh
-// start build fresh rows.
+// start build fresh rows, or have them restored (VorBomData).
 #pragma once
 
 #include "VorBomItemBase.h"
@@ -74,6 +74,8 @@ public:
     void appendUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens) const;
 
 private:
+    friend class VorBomInputRows;
+
     VorStringArray& ownHandles() const;
     void takeHandlesOf(const VorBomDataRow& other);
 
@@ -82,4 +84,5 @@ private:
     mutable std::atomic<VorStringArray*> m_pEqualPartObjectHandles{ nullptr };
     std::uint64_t m_nHostKey = 0;
     int m_nUseThisDataForSums = 1;
+    int m_nInputPlace = 0; // among the rows that VorBomData::rememberRows() met last; in bytes that were padding
 };

@@ -30,7 +30,8 @@
 //     and getUseThisDataForSums() of the row becomes 0, so that no total counts it; not for a sink that asks for equal
 //     lines (VorBomSectionSink::kEqualLines), and not where options keep or count them;
 //   - the template's units learn the unit of each formula shown.
-// Whoever wants to evaluate a second time from the start builds fresh data.
+// Whoever wants to evaluate a second time from the start builds fresh data, or has the rows restored
+// (VorBomData::rememberRows); they may serve another template then (VorBomTemplate::exchangeBomData).
 //
 // Threads: evaluations on different threads may run at once, each with its own template, data and result.
 #pragma once

@@ -116,6 +116,11 @@ VorBomTemplate* VorBomTemplate::createDefaultTemplate()
     return pTemplate;
 }
 
+VorBomData* VorBomTemplate::exchangeBomData(VorBomData* pData)
+{
+    return std::exchange(m_pData, pData);
+}
+
 void VorBomTemplate::setUnitsForTokens(const VorUnitsManager* pManager)
 {
     if (pManager != nullptr)

@@ -66,6 +66,15 @@ public:
     VorBomTemplateUnits* getBomTemplateUnits() const { return m_pUnits; }
     VorBomData* getBomData() { return m_pData; }
 
+    // Takes `pData` over, null for none, and hands the former data over to the caller: null or owned by the caller, who
+    // gives it to another template, or empties and deletes it. So one set of rows serves several templates in turn.
+    //   VorBomData* pRows = first.exchangeBomData(nullptr);
+    //   pRows->restoreRows();
+    //   VorBomData* pEmpty = second.exchangeBomData(pRows);
+    //   delete pEmpty;                                        // it has no rows
+    // A template that its data were taken from is evaluated as one without rows.
+    VorBomData* exchangeBomData(VorBomData* pData);
+
     // Takes the units of `pManager` and the display settings of the repository, unless it is null, and registers the
     // kind of quantity of all known tokens. The first registration of a token wins.
     void setUnitsForTokens(const VorUnitsManager* pManager);
