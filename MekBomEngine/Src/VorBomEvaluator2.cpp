@@ -181,7 +181,7 @@ int VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineS
         target.takeEnd();
         return 1;
     }
-    sortInpuDataBySortingTokens(pData, stack, reportTemplate.sortTypes());
+    sortInpuDataBySortingTokens(pData, stack, reportTemplate);
 
     stack[0].m_pTarget = &target;
     // From here on a sink may stop the report or throw while groups are open.

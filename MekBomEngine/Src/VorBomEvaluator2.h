@@ -114,7 +114,7 @@ private:
     // Sorting. The comparisons are callbacks over pointers to elements: VorBomDataRow* and
     // VorHeaderFooterSortingStruct. All return 1 but the comparisons, which answer -1, 0 or 1, and isEqualAsEvaluated.
     static int sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngineStateArray& stack,
-                                           const VorBomDataToken::SortTypes& sortTypes);
+                                           const VorBomTemplate& reportTemplate);
     static int compareDataRow(const void* pFirst, const void* pSecond);
     static int sortSubGroupsOnLevels(VorBomTemplateItem* pItem, VorBomEngineStateArray& stack, int level);
     static int sortItemList(VorBomTemplateItem*& pFirst, const VorStringArray& sortingTokens);

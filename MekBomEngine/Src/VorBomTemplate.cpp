@@ -172,6 +172,26 @@ void VorBomTemplate::setSortType(const VorString& token, VorBomDataToken::eSortT
     m_sortTypes.findOrInsert(token, sortType, inserted)->value = sortType;
 }
 
+void VorBomTemplate::setSortOrder(const VorString& token, const VorStringArray& values)
+{
+    for (auto& [ordered, order] : m_sortOrders)
+        if (ordered == token)
+        {
+            order = values;
+            return;
+        }
+    m_sortOrders.emplace_back(token, values);
+}
+
+const VorStringArray& VorBomTemplate::sortOrder(const VorString& token) const
+{
+    static const VorStringArray kNone;
+    for (const auto& [ordered, order] : m_sortOrders)
+        if (ordered == token)
+            return order;
+    return kNone;
+}
+
 void VorBomTemplate::setNumberFormat(const VorBomTemplateItem& section, int tuple, const VorBomNumberFormat* pFormat)
 {
     m_numberFormats[{ &section, tuple }] = pFormat;

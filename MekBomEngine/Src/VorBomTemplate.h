@@ -33,6 +33,7 @@
 
 #include <map>
 #include <utility>
+#include <vector>
 
 class MEK_BOM_API VorBomTemplate : public VorBomTemplateItem
 {
@@ -103,6 +104,18 @@ public:
     void setSortType(const VorString& token, VorBomDataToken::eSortType sortType);
     const VorBomDataToken::SortTypes& sortTypes() const { return m_sortTypes; }
 
+    // Has rows be sorted by `token` in the order of these texts: rows with the first of them first, then the others as they
+    // are listed; then, by their sort type, rows whose values are not listed. Rows without a datum stand before them all,
+    // and descending turns the whole round, as ever. Of two equal texts the first counts. No texts: by sort type alone.
+    //   VorStringArray phases;
+    //   phases.append(L"ground");
+    //   phases.append(L"roof");
+    //   reportTemplate.setSortOrder(L"%UserAttr1", phases);   // ground, roof, annex, cellar
+    // Groups, sums and other templates are left alone, and so is the order of sections of a finished report.
+    void setSortOrder(const VorString& token, const VorStringArray& values);
+    // Empty for a token without an order of its own.
+    const VorStringArray& sortOrder(const VorString& token) const;
+
     // Has the numbers of a section's tuple be shown by `pFormat` instead of the units; null: by the units again. The format
     // is not owned and must live as long as the template is evaluated.
     void setNumberFormat(const VorBomTemplateItem& section, int tuple, const VorBomNumberFormat* pFormat);
@@ -132,7 +145,8 @@ private:
     int m_nObjectPresentationOptions = kNoOptions;
     VorBomData* m_pData;
     VorStringArray m_tokenTrace;
-    VorBomDataToken::SortTypes m_sortTypes; // of tokens that the host has set, no others
+    VorBomDataToken::SortTypes m_sortTypes;                         // of tokens that the host has set, no others
+    std::vector<std::pair<VorString, VorStringArray>> m_sortOrders; // likewise: a few
     std::map<std::pair<const VorBomTemplateItem*, int>, const VorBomNumberFormat*>
         m_numberFormats; // by section and tuple
 };
