@@ -166,24 +166,24 @@ const VorBomTemplateItem& VorBomReport::Section::templateSection() const
 
 int VorBomReport::Section::numTuples() const
 {
-    return templateSection().getData().length();
+    return m_pKept->numTuples(m_nIndex);
 }
 
 VorString VorBomReport::Section::text(int tuple) const
 {
-    const Kept::Cell* const pCell = m_pKept->cell(m_pKept->section(m_nIndex), tuple);
+    const Kept::Cell* const pCell = m_pKept->cell(m_nIndex, tuple);
     return pCell == nullptr ? VorString() : pCell->text;
 }
 
 VorBomTypedValue VorBomReport::Section::value(int tuple) const
 {
-    const Kept::Cell* const pCell = m_pKept->cell(m_pKept->section(m_nIndex), tuple);
+    const Kept::Cell* const pCell = m_pKept->cell(m_nIndex, tuple);
     return pCell == nullptr ? VorBomTypedValue() : valueOf(*pCell);
 }
 
 int VorBomReport::Section::numRowsWithDatum(int tuple) const
 {
-    return m_pKept->numRowsWithDatum(m_pKept->section(m_nIndex), tuple);
+    return m_pKept->numRowsWithDatum(m_nIndex, tuple);
 }
 
 // A header whose group was stopped before its first line was complete has none.

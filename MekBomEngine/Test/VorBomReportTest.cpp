@@ -187,6 +187,21 @@ TEST(VorBomReportTest, TuplesThatThereAreNotHaveNothing)
         }
 }
 
+// Who adds a column to the template for the next list must not see the numbers of the line below in it.
+TEST(VorBomReportTest, TuplesThatTheTemplateGotSinceAreNotRead)
+{
+    KeptReport source;
+    VorBomReport report;
+    source.evaluateInto(report);
+    const Strings before = described(report);
+    auto* pDetails = static_cast<Item*>(source.tmpl().child()->child()->child());
+    pDetails->addData(VorBomDataTuple(L"%Length", 0.0));
+
+    EXPECT_EQ(2, report.section(2).numTuples());
+    EXPECT_EQ(VorString(), report.section(2).text(2));
+    EXPECT_EQ(before, described(report));
+}
+
 TEST(VorBomReportTest, EqualLinesAreKeptWhereTheyAreAskedFor)
 {
     KeptReport source;

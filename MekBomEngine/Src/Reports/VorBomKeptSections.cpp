@@ -83,22 +83,29 @@ std::size_t VorBomKeptSections::endOfRows(const Section& section) const
     return isOpen ? m_rows.size() : section.firstRow + static_cast<std::size_t>(section.numRows);
 }
 
-// Cells may be missing where the system had no memory for them.
-const VorBomKeptSections::Cell* VorBomKeptSections::cell(const Section& section, int tuple) const
+// The cells of a section end where those of the next begin.
+int VorBomKeptSections::numTuples(std::size_t index) const
 {
-    if (tuple < 0 || tuple >= section.pTemplateSection->getData().length())
-        return nullptr;
-    const std::size_t index = section.firstCell + static_cast<std::size_t>(tuple);
-    return index < m_cells.size() ? &m_cells[index] : nullptr;
+    const std::size_t end = index + 1 < m_sections.size() ? m_sections[index + 1].firstCell : m_cells.size();
+    return static_cast<int>(end - m_sections[index].firstCell);
 }
 
-int VorBomKeptSections::numRowsWithDatum(const Section& section, int tuple) const
+const VorBomKeptSections::Cell* VorBomKeptSections::cell(std::size_t index, int tuple) const
 {
+    if (tuple < 0 || tuple >= numTuples(index))
+        return nullptr;
+    return &m_cells[m_sections[index].firstCell + static_cast<std::size_t>(tuple)];
+}
+
+// Numbers may be missing where the system had no memory for them.
+int VorBomKeptSections::numRowsWithDatum(std::size_t index, int tuple) const
+{
+    const Section& section = m_sections[index];
     const bool isFooter = section.kind == kFooter || section.kind == kOwnFooter;
-    if (!isFooter || cell(section, tuple) == nullptr)
+    if (!isFooter || cell(index, tuple) == nullptr)
         return 0;
-    const std::size_t index = section.firstDatum + static_cast<std::size_t>(tuple);
-    return index < m_numRowsWithDatum.size() ? m_numRowsWithDatum[index] : 0;
+    const std::size_t datum = section.firstDatum + static_cast<std::size_t>(tuple);
+    return datum < m_numRowsWithDatum.size() ? m_numRowsWithDatum[datum] : 0;
 }
 
 VorBomKeptSections::Section& VorBomKeptSections::add(const VorBomReportSection& section, eKind kind)

@@ -77,9 +77,11 @@ public:
     std::size_t endOf(const Section& section) const { return section.end == kOpen ? size() : section.end; }
     std::size_t endOfRows(const Section& section) const;
 
-    // Null for a tuple that is none.
-    const Cell* cell(const Section& section, int tuple) const;
-    int numRowsWithDatum(const Section& section, int tuple) const;
+    // As many as the section had when it was added, whatever has become of the template's since.
+    int numTuples(std::size_t index) const;
+    // Of the section at `index`. Null for a tuple that is none.
+    const Cell* cell(std::size_t index, int tuple) const;
+    int numRowsWithDatum(std::size_t index, int tuple) const;
 
     const VorBomDataRow& row(std::size_t index) const { return *m_rows[index]; }
     bool isCounted(std::size_t row) const { return row < m_areCounted.size() && m_areCounted[row]; }
