@@ -28,8 +28,8 @@ struct MEK_EXPRESSION_API VorFormulaError
     };
     static constexpr int kNoPosition = -1;
 
-    // A message for the user, zero-terminated; empty for kNone. The texts of codes below 100 are those that formulas have
-    // always failed with, their spelling included.
+    // A message for the user, zero-terminated; empty for kNone. The texts of codes below 100 are those that formulas
+    // have always failed with, their spelling included.
     const wchar_t* message() const;
 
     eCode code = kNone;

@@ -29,8 +29,8 @@ using VorStringArrayArray = VorArray<VorStringArray>;
 class MEK_BOM_API VorBomDataRow : public VorBomItemBase
 {
 public:
-    // A new row has no handles, the key 0, and counts in sums. Copies take all of it and links as they stand: sub-rows are
-    // shared.
+    // A new row has no handles, the key 0, and counts in sums. Copies take all of it and links as they stand: sub-rows
+    // are shared.
     VorBomDataRow() = default;
     VorBomDataRow(const VorBomDataRow& other);
     VorBomDataRow& operator=(const VorBomDataRow& other);

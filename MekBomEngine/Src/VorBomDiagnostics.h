@@ -11,8 +11,8 @@
 //   VorBomEvaluator2::evaluate(pTemplate, &result, options);
 //
 // An evaluation tells first what is to be said of the template (VorBomTemplateCheck), then of the rows as they are, for
-// which it walks them once more, and of formulas and merged rows as it comes to them. Without an observer none of this is
-// looked for.
+// which it walks them once more, and of formulas and merged rows as it comes to them. Without an observer none of this
+// is looked for.
 #pragma once
 
 #include "VorBomFinding.h"

@@ -68,8 +68,8 @@ public:
     static int evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sink);
 
     // The same two with options: what becomes of equal lines, and who is told of progress and findings. Of a tree that
-    // was stopped nothing is appended to pResult; what an observer throws passes through, and nothing is appended either.
-    // The options are read while it runs. They cost nothing that they do not ask for.
+    // was stopped nothing is appended to pResult; what an observer throws passes through, and nothing is appended
+    // either. The options are read while it runs. They cost nothing that they do not ask for.
     static int evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResult, const VorBomEvaluationOptions& options);
     static int evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sink, const VorBomEvaluationOptions& options);
 

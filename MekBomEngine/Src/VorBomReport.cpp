@@ -1,5 +1,5 @@
-// Handles and iterators are numbers of sections and rows; what they answer stands in VorBomKeptSections. Told on a header
-// with two lines and a footer, the sections 0 to 3:
+// Handles and iterators are numbers of sections and rows; what they answer stands in VorBomKeptSections. Told on a
+// header with two lines and a footer, the sections 0 to 3:
 //   begin()         0, and on by one
 //   children()      0, then where the sections under it end: 3
 //   its children    1, then 2; they end where those under the header do: before 3

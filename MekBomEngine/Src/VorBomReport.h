@@ -28,11 +28,11 @@
 // as long as they are asked for through the report. What the report says of rows is what held when it was made, whether
 // they count or not, too: it may be read after the rows were restored, sorted anew or evaluated again.
 //
-// Memory: 24 bytes for a tuple and 72 for a line and its row, and texts that nothing else shares; measured 144 bytes a line
-// with three tuples, 200,000 lines of them. A pointer to each row is kept once, for all levels.
+// Memory: 24 bytes for a tuple and 72 for a line and its row, and texts that nothing else shares; measured 144 bytes a
+// line with three tuples, 200,000 lines of them. A pointer to each row is kept once, for all levels.
 //
-// Written by one thread; any number may read it while nothing is evaluated into it. A Section is two words, to be passed
-// by value; it is good until the report is evaluated into again or goes.
+// Written by one thread; any number may read it while nothing is evaluated into it. A Section is two words, to be
+// passed by value; it is good until the report is evaluated into again or goes.
 #pragma once
 
 #include "VorBomSectionSink.h"
@@ -121,8 +121,8 @@ public:
 
         // The row that opened a header's group, or a line's first row; null for a footer.
         const VorBomDataRow* row() const;
-        // Of a line its own row and those merged into it; of a header all rows of its group, counted or not; of a footer
-        // those that it counts. In the order of the report.
+        // Of a line its own row and those merged into it; of a header all rows of its group, counted or not; of a
+        // footer those that it counts. In the order of the report.
         Rows rows() const;
 
         // The sections of the next level under a header, their footers among them; none for lines and footers.

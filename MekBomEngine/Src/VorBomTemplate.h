@@ -104,9 +104,10 @@ public:
     void setSortType(const VorString& token, VorBomDataToken::eSortType sortType);
     const VorBomDataToken::SortTypes& sortTypes() const { return m_sortTypes; }
 
-    // Has rows be sorted by `token` in the order of these texts: rows with the first of them first, then the others as they
-    // are listed; then, by their sort type, rows whose values are not listed. Rows without a datum stand before them all,
-    // and descending turns the whole round, as ever. Of two equal texts the first counts. No texts: by sort type alone.
+    // Has rows be sorted by `token` in the order of these texts: rows with the first of them first, then the others as
+    // they are listed; then, by their sort type, rows whose values are not listed. Rows without a datum stand before
+    // them all, and descending turns the whole round, as ever. Of two equal texts the first counts. No texts: by sort
+    // type alone.
     //   VorStringArray phases;
     //   phases.append(L"ground");
     //   phases.append(L"roof");

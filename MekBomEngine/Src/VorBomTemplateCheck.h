@@ -1,4 +1,5 @@
-// What is to be said of a template before there is any row. An evaluation that has an observer checks its template itself.
+// What is to be said of a template before there is any row. An evaluation that has an observer checks its template
+// itself.
 //
 //   VorBomTemplateCheck::check(*pTemplate, log);
 //   VorBomTemplateCheck::checkTokens(*pTemplate, ownTokens, log);
@@ -22,7 +23,8 @@ public:
     static void check(const VorBomTemplate& reportTemplate, VorBomDiagnostics& diagnostics);
 
     // kTokenNotInCatalogue for all tokens that evaluated sections show, add up, group by, sort by or compute with, and
-    // that neither the catalogue nor `ownTokens` have. Texts that are no tokens, a caption such as "Title", are passed over.
+    // that neither the catalogue nor `ownTokens` have. Texts that are no tokens, a caption such as "Title", are passed
+    // over.
     static void checkTokens(const VorBomTemplate& reportTemplate, const VorStringArray& ownTokens,
                             VorBomDiagnostics& diagnostics);
 };

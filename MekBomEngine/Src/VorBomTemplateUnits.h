@@ -85,11 +85,11 @@ public:
     // is registered says nothing of "%SumBy:%Weight".
     eTokenUnitType getUnitType(VorString token) const;
 
-    // How many decimals numbers without a unit have, from 0 to 100; kSignificantDigits for six significant digits, as "%g"
-    // has them: what holds until somebody sets something else. Zeros at the end stay, whatever the settings say, and
-    // what is rounded to nothing is no "-0.00". For all tokens, or for one; "%SumBy:" and formulas take those of the
-    // (first) token in them that has its own. Tokens that have a unit are not concerned. Not to be called while a report
-    // is evaluated.
+    // How many decimals numbers without a unit have, from 0 to 100; kSignificantDigits for six significant digits, as
+    // "%g" has them: what holds until somebody sets something else. Zeros at the end stay, whatever the settings say,
+    // and what is rounded to nothing is no "-0.00". For all tokens, or for one; "%SumBy:" and formulas take those of
+    // the (first) token in them that has its own. Tokens that have a unit are not concerned. Not to be called while a
+    // report is evaluated.
     //   VorBomTemplateUnits units;
     //   units.getDisplayString(L"%Price", 17214000.0)   ->  "1.7214e+07"
     //   units.setDecimals(L"%Price", 2);

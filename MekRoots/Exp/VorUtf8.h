@@ -5,8 +5,8 @@
 //   VorUtf8::toBytes(L"Tr\u00E4ger")         ->  "Tr\xC3\xA4ger"
 //   VorUtf8::toText("Tr\xE4ger")             ->  L"Tr\uFFFDger": a byte that belongs to no character
 //
-// Nothing fails: what is invalid becomes U+FFFD, in both directions, each byte that belongs to no sequence and each lone
-// surrogate. A text that was valid comes back as it was. std::bad_alloc passes through.
+// Nothing fails: what is invalid becomes U+FFFD, in both directions, each byte that belongs to no sequence and each
+// lone surrogate. A text that was valid comes back as it was. std::bad_alloc passes through.
 #pragma once
 
 #include "MekExport.h"
@@ -21,8 +21,9 @@ namespace VorUtf8
 constexpr int kReplacement = 0xFFFD;
 constexpr int kMostBytes = 4; // of one character
 
-// The code point that starts at `pBytes`, which has `length` bytes, at least 1. Answers how many of these it takes; 0 with
-// `codePoint` kReplacement where none starts that is valid: neither overlong, nor a surrogate, nor beyond U+10FFFF.
+// The code point that starts at `pBytes`, which has `length` bytes, at least 1. Answers how many of these it takes; 0
+// with `codePoint` kReplacement where none starts that is valid: neither overlong, nor a surrogate, nor beyond
+// U+10FFFF.
 MEK_ROOTS_API int decode(const char* pBytes, std::size_t length, int& codePoint);
 
 // Writes a valid code point to `pOut`, which has room for kMostBytes, and answers how many bytes it takes.

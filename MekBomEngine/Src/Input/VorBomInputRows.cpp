@@ -1,5 +1,5 @@
-// Whether rows are still the same is told by their places, which are written into them: a chain of as many rows, each with
-// the place under which it is known here, has every one of them.
+// Whether rows are still the same is told by their places, which are written into them: a chain of as many rows, each
+// with the place under which it is known here, has every one of them.
 #include "VorBomInputRows.h"
 
 #include <algorithm>

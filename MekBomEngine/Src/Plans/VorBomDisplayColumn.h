@@ -2,7 +2,7 @@
 //
 //   VorBomDisplayColumn(L"%SumBy:%Weight")            shows numbers as %Weight is shown
 //   VorBomDisplayColumn(L"%Formula:%Length*2")        as a length: in the unit of the first token that has one
-//   VorBomDisplayColumn(L"%Num")                      as "%g" does, or with the decimals set for it, when the units know no type
+//   VorBomDisplayColumn(L"%Num")                      as "%g" does, or with its decimals, when the units know no type
 //
 // The kind of unit is looked up at the first number, and again only when the units have been told of further tokens. So
 // an object is for the units of one evaluation alone.

@@ -7,8 +7,9 @@
 //     end        3          2          3          4         one past all sections under it
 //     cells      one for each tuple of each of them
 //
-// Rows come in the order of the report, each once, as a line or merged into the one before; so the rows of every section are
-// a stretch of that one list. Which of them count is written down when it is settled, after the row has been placed.
+// Rows come in the order of the report, each once, as a line or merged into the one before; so the rows of every
+// section are a stretch of that one list. Which of them count is written down when it is settled, after the row has
+// been placed.
 //
 // Lists are deques: they grow without being copied, so that a report never takes the memory of two.
 #pragma once

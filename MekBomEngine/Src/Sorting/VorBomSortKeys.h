@@ -28,8 +28,8 @@ public:
     // One entry for each token: 1 for ascending or 0 for descending, and an eSortType or kByCatalogue.
     VorBomSortKeys(const VorStringArray& tokens, const VorArray<int>& orders, const VorArray<int>& sortTypes);
 
-    // Texts that `order` lists compare by their places from now on, and stand before all others. A token that somebody has
-    // put in order is known.
+    // Texts that `order` lists compare by their places from now on, and stand before all others. A token that somebody
+    // has put in order is known.
     void setValueOrder(std::size_t key, const VorBomValueOrder& order);
     const VorBomValueOrder& valueOrder(std::size_t key) const { return m_keys[key].valueOrder; }
 

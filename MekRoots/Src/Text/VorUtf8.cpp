@@ -1,5 +1,5 @@
-// The bytes E6 A2 81 are one character: 1110xxxx says that two bytes of six bits follow, 0110 100010 000001 is U+6881. A
-// character has one valid sequence, its shortest; C0 80, of two bytes for U+0000, is none and becomes two U+FFFD.
+// The bytes E6 A2 81 are one character: 1110xxxx says that two bytes of six bits follow, 0110 100010 000001 is U+6881.
+// A character has one valid sequence, its shortest; C0 80, of two bytes for U+0000, is none and becomes two U+FFFD.
 //
 // Texts are gone through twice, to count and to write, so that memory is asked for once.
 #include "VorUtf8.h"
