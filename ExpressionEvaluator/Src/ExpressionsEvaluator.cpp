@@ -63,6 +63,7 @@ int ExpressionsEvaluator::evaluate(wchar_t* buffer)
 {
     int nResult = 0;
     buffer[0] = L'\0';
+    m_nErrorPosition = VorExprEvalError::kNoPosition;
     VorFormulaStatements statements(m_pText, static_cast<int>(m_nLength));
     while (statements.next())
     {
@@ -70,6 +71,7 @@ int ExpressionsEvaluator::evaluate(wchar_t* buffer)
         if (const VorExprEvalError* pError = VorExprEvalErrorHandler::ofThread().oldest())
         {
             std::wcscpy(buffer, pError->message());
+            m_nErrorPosition = static_cast<int>(statements.current().text() - m_pText) + pError->position();
             return 0;
         }
     }

@@ -16,6 +16,7 @@
 
 #include "VorExprEvTextView.h"
 #include "VorExprEvValue.h"
+#include "VorExprEvalError.h"
 
 class VorExprEvTreeItem;
 
@@ -51,9 +52,15 @@ public:
     // ExpressionsEvaluatorTest.TheLastStatementIsReadPastTheFormulasEnd.
     int evaluate(wchar_t* buffer);
 
+    // Where in the formula the error is whose message evaluate() gave last, in characters from 0: the name that is
+    // unknown, the '/' whose divisor is none, the '=' without a left side, the parenthesis that has no partner.
+    // VorExprEvalError::kNoPosition while nothing has failed.
+    int errorPosition() const { return m_nErrorPosition; }
+
 private:
     int evaluateStatement(const VorExprEvTextView& statement, wchar_t* buffer) const;
 
     const wchar_t* m_pText; // not owned
     unsigned int m_nLength;
+    int m_nErrorPosition = VorExprEvalError::kNoPosition;
 };

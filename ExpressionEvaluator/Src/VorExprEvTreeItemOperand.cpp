@@ -31,7 +31,7 @@ VorExprEvValue& VorExprEvTreeItemOperand::evaluate(VorExprEvValue& value) const
         pVariable->value().copyTo(value);
         return value;
     }
-    VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kSyntaxError);
+    VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kSyntaxError, m_text.start());
     value.release();
     return value;
 }

@@ -33,11 +33,12 @@ bool isOperation(wchar_t character)
 }
 
 // An assigned value keeps its type: "a=2.5" makes the variable "a" with a double. "=2.5" has no name: an error.
-void assign(const VorExprEvTreeItem* pName, VorExprEvValue& value)
+void assign(const VorExprEvTreeItem& assignment, VorExprEvValue& value)
 {
+    const VorExprEvTreeItem* const pName = assignment.left();
     if (pName == nullptr)
     {
-        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kSyntaxError);
+        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kSyntaxError, assignment.getText().start());
         value.release();
         return;
     }
@@ -120,12 +121,13 @@ void Walk::finish(const Waiting& waiting)
 {
     if (waiting.operation == L'=')
     {
-        assign(waiting.pOperator->left(), m_value);
+        assign(*waiting.pOperator, m_value);
         return;
     }
     double result = 0.0;
     if (!VorExprEvTreeItemOperator::calculateInOrder(waiting.operation, waiting.left, m_value.toNumber(), result))
-        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kDivisionByZero);
+        VorExprEvalErrorHandler::ofThread().raise(VorExprEvalError::kDivisionByZero,
+                                                  waiting.pOperator->getText().start());
     m_value.setDouble(result);
 }
 }

@@ -1,4 +1,4 @@
-// One error of a formula: a code, and the error raised before it.
+// One error of a formula: a code, its place, and the error raised before it.
 #pragma once
 
 #include "MekRoots/Exp/MekExport.h"
@@ -18,12 +18,20 @@ public:
     };
     static constexpr int kNumCodes = 6;
 
-    VorExprEvalError(int nCode, VorExprEvalError* pNext) : m_nCode(nCode), m_pNext(pNext) {}
+    static constexpr int kNoPosition = -1;
+
+    VorExprEvalError(int nCode, VorExprEvalError* pNext, int nPosition = kNoPosition)
+        : m_nCode(nCode), m_nPosition(nPosition), m_pNext(pNext)
+    {
+    }
     VorExprEvalError(const VorExprEvalError&) = delete;
     VorExprEvalError& operator=(const VorExprEvalError&) = delete;
     virtual ~VorExprEvalError() = default;
 
     int code() const { return m_nCode; }
+
+    // Where in its statement the error is, in characters from the statement's first; kNoPosition where nobody said.
+    int position() const { return m_nPosition; }
 
     // The next older error, or null.
     VorExprEvalError* next() const { return m_pNext; }
@@ -34,5 +42,6 @@ public:
 
 private:
     int m_nCode;
+    int m_nPosition;
     VorExprEvalError* m_pNext; // owned by the handler
 };

@@ -12,9 +12,9 @@ VorExprEvalErrorHandler& VorExprEvalErrorHandler::ofThread()
 }
 
 // In front of the others, so that raising costs the same however many there are: "1/0+1/0+..." raises one for each '/'.
-void VorExprEvalErrorHandler::raise(VorExprEvalError::eCode code)
+void VorExprEvalErrorHandler::raise(VorExprEvalError::eCode code, int nPosition)
 {
-    m_pHead = new VorExprEvalError(code, m_pHead);
+    m_pHead = new VorExprEvalError(code, m_pHead, nPosition);
     ++m_nCount;
 }
 

@@ -20,7 +20,8 @@ public:
 
     static VorExprEvalErrorHandler& ofThread();
 
-    void raise(VorExprEvalError::eCode code);
+    // `nPosition` is a place in the statement that is being read or evaluated.
+    void raise(VorExprEvalError::eCode code, int nPosition = VorExprEvalError::kNoPosition);
 
     // The newest error and the one raised first; null when there is none.
     const VorExprEvalError* head() const { return m_pHead; }

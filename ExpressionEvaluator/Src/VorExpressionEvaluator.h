@@ -46,6 +46,12 @@ public:
     // The same into root().
     int parse(const VorExprEvTextView& statement) { return parse(statement, m_pRoot); }
 
+    // Where the statement has a parenthesis without a partner, in characters from its first: the last '(' that is not
+    // closed where there are too many of them, else the first ')' that closes nothing. VorExprEvalError::kNoPosition
+    // where there are as many of either, in whatever order: ")a+b(" is evaluated. Raises nothing.
+    //   VorExpressionEvaluator::findImpairedParenthesis(VorExprEvTextView(L"2+(3", 0, 4))   ->  2
+    static int findImpairedParenthesis(const VorExprEvTextView& statement);
+
 private:
     VorExprEvTreeItem* m_pRoot = nullptr;
 };

@@ -30,6 +30,20 @@ bool isTooShort(const wchar_t* formula)
     return nLength < VorFormulaText::kShortest;
 }
 
+int refuse(VorFormulaError::eCode code, VorFormulaError& error)
+{
+    error = VorFormulaError();
+    error.code = code;
+    return 0;
+}
+
+// A formula of which no statement gave a text fails without an error of its own.
+VorFormulaError::eCode codeOfThread()
+{
+    const VorExprEvalError* const pError = VorExprEvalErrorHandler::ofThread().oldest();
+    return pError != nullptr ? static_cast<VorFormulaError::eCode>(pError->code()) : VorFormulaError::kNotComputed;
+}
+
 int evaluateQuickly(const wchar_t* formula, const wchar_t* const* names, const double* values, int count,
                     VorExprEvVariableList& variables, double& result)
 {
@@ -48,36 +62,45 @@ void addVariables(const wchar_t* const* names, const double* values, int count)
 
 // The evaluator is made before a text without an operator is refused: it empties the list of what the quick way
 // announced.
-int evaluateByTree(const wchar_t* formula, const wchar_t* const* names, const double* values, int count, double& result)
+int evaluateByTree(const wchar_t* formula, const wchar_t* const* names, const double* values, int count, double& result,
+                   VorFormulaError& error)
 {
     const std::wstring_view text(formula);
     ExpressionsEvaluator evaluator(formula, static_cast<unsigned int>(text.size()));
-    if (text.size() > kLongestFormula || !VorFormulaText::isFormula(text))
-        return 0;
+    if (text.size() > kLongestFormula)
+        return refuse(VorFormulaError::kNotComputed, error);
+    if (!VorFormulaText::isFormula(text))
+        return refuse(VorFormulaError::kNoOperator, error);
     addVariables(names, values, count);
     wchar_t buffer[VorExprEvValue::kBufferLength];
     const int nResult = evaluator.evaluate(buffer);
     VorExprEvVariableList::ofThread().keepNames(); // those given and assigned are the caller's again
     if (!nResult)
+    {
+        error.code = codeOfThread();
+        error.position = evaluator.errorPosition();
         return 0;
+    }
     result = VorString::toDouble(buffer, 0);
     return 1;
 }
 
 // A null formula leaves the thread's lists as they are. Any other empties both, even if it is refused.
 int evaluateOrThrow(const wchar_t* formula, const wchar_t* const* names, const double* values, int count,
-                    double* result)
+                    double* result, VorFormulaError& error)
 {
     if (formula == nullptr)
-        return 0;
+        return refuse(VorFormulaError::kNoArguments, error);
     VorExprEvVariableList& variables = VorExprEvVariableList::ofThread();
     variables.clear();
     VorExprEvalErrorHandler::ofThread().clear();
-    if (isTooShort(formula) || names == nullptr || values == nullptr || count < 0)
-        return 0;
+    if (names == nullptr || values == nullptr || count < 0)
+        return refuse(VorFormulaError::kNoArguments, error);
+    if (isTooShort(formula))
+        return refuse(VorFormulaError::kTooShort, error);
     double value = 0.0;
     if (!evaluateQuickly(formula, names, values, count, variables, value) &&
-        !evaluateByTree(formula, names, values, count, value))
+        !evaluateByTree(formula, names, values, count, value, error))
         return 0;
     if (result != nullptr)
         *result = value;
@@ -88,13 +111,21 @@ int evaluateOrThrow(const wchar_t* formula, const wchar_t* const* names, const d
 int evaluateFormula(const wchar_t* formula, const wchar_t* const* names, const double* values, int count,
                     double* result)
 {
+    VorFormulaError error;
+    return evaluateFormula(formula, names, values, count, result, error);
+}
+
+int evaluateFormula(const wchar_t* formula, const wchar_t* const* names, const double* values, int count,
+                    double* result, VorFormulaError& error)
+{
+    error = VorFormulaError();
     try
     {
-        return evaluateOrThrow(formula, names, values, count, result);
+        return evaluateOrThrow(formula, names, values, count, result, error);
     }
     // No memory, as a rule. Callers in C could not catch anything.
     catch (...)
     {
-        return 0;
+        return refuse(VorFormulaError::kNotComputed, error);
     }
 }

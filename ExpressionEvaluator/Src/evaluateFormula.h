@@ -5,10 +5,14 @@
 //   double result = 0.0;
 //   evaluateFormula(L"(%Weight+%Paint)*2", names, values, 2, &result);   // 1, result 31.4
 //
+// A second form says why a formula gave no number.
+//
 // A formula is one or more statements, separated by ';', of numbers, names and the operators "*/+-=()"; '=' makes a
 // variable for the statements after it, and the last statement's value is the result. VorExpressionEvaluator.h tells
 // how a statement is read.
 #pragma once
+
+#include "VorFormulaError.h"
 
 #include "MekRoots/Exp/MekExport.h"
 
@@ -28,3 +32,9 @@
 // formula leaves both as they are.
 extern "C" MEK_EXPRESSION_API int evaluateFormula(const wchar_t* formula, const wchar_t* const* names,
                                                   const double* values, int count, double* result);
+
+// The same, and says why there is no number, and where: `error` is kNone after a success. It is not kept.
+// VorFormulaError.h shows it.
+// Of several errors the one that was met first is told; a statement behind it is not looked at.
+MEK_EXPRESSION_API int evaluateFormula(const wchar_t* formula, const wchar_t* const* names, const double* values,
+                                       int count, double* result, VorFormulaError& error);

@@ -4,6 +4,7 @@
 // Four choices each make 64 different rows, so that some of the hundred drawn are always equal.
 #include "VorBomData.h"
 
+#include "VorBomInputRows.h"
 #include "VorBomItemWalk.h"
 
 #include <algorithm>
@@ -91,4 +92,14 @@ int VorBomData::getUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringA
     for (VorBomItemBase* pItem = child(); pItem != nullptr; pItem = pItem->next())
         static_cast<VorBomDataRow*>(pItem)->appendUsedHandlesAndTokens(handles, tokens);
     return 1;
+}
+
+void VorBomData::rememberRows()
+{
+    m_pInputRows = std::make_shared<VorBomInputRows>(*this);
+}
+
+int VorBomData::restoreRows()
+{
+    return m_pInputRows != nullptr ? m_pInputRows->restore(*this) : 0;
 }

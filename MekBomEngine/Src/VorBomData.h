@@ -12,6 +12,10 @@
 
 #include "MekRoots/Exp/MekExport.h"
 
+#include <memory>
+
+class VorBomInputRows;
+
 class MEK_BOM_API VorBomData : public VorBomItemBase
 {
 public:
@@ -33,4 +37,20 @@ public:
     // to `tokens`, at the same index: VorBomDataRow::appendUsedHandlesAndTokens. Sub-rows are not looked at; rows that
     // do not count in sums are, other than in VorBomTemplate::getUsedHandlesAndTokens. Returns 1.
     int getUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens);
+
+    // For several lists of one set of rows. rememberRows() writes down what an evaluation changes in rows;
+    // restoreRows() takes it back: order, used flags, getUseThisDataForSums(), and the tuples "%Formula:..." that were
+    // appended since. Rows may be appended again then; remember them anew.
+    //   data.rememberRows();
+    //   evaluate(firstTemplate);
+    //   data.restoreRows()   ->  1
+    //   evaluate(secondTemplate);            as a report of fresh rows
+    // restoreRows() answers 0 and changes nothing when nothing was remembered, or when rows were added or taken out
+    // since. Rows that were remembered must not be destroyed before they are restored or others remembered. Copies of
+    // data share the rows and what is remembered of them. Sub-rows are left alone: no evaluation reads them.
+    void rememberRows();
+    int restoreRows();
+
+private:
+    std::shared_ptr<const VorBomInputRows> m_pInputRows; // null while nothing is remembered
 };

@@ -23,7 +23,10 @@ VorStringArray usedTokens(const VorBomDataTupleArray& tuples)
 }
 
 VorBomDataRow::VorBomDataRow(const VorBomDataRow& other)
-    : VorBomItemBase(other), m_objectHandle(other.m_objectHandle), m_nUseThisDataForSums(other.m_nUseThisDataForSums)
+    : VorBomItemBase(other),
+      m_objectHandle(other.m_objectHandle),
+      m_nHostKey(other.m_nHostKey),
+      m_nUseThisDataForSums(other.m_nUseThisDataForSums)
 {
     takeHandlesOf(other);
 }
@@ -38,6 +41,7 @@ VorBomDataRow& VorBomDataRow::operator=(const VorBomDataRow& other)
     VorBomItemBase::operator=(other);
     m_objectHandle = other.m_objectHandle;
     takeHandlesOf(other);
+    m_nHostKey = other.m_nHostKey;
     m_nUseThisDataForSums = other.m_nUseThisDataForSums;
     return *this;
 }
@@ -56,6 +60,7 @@ void VorBomDataRow::setFrom(VorBomDataRow* pRow)
     setData(pRow->getData());
     m_objectHandle = pRow->m_objectHandle;
     takeHandlesOf(*pRow);
+    m_nHostKey = pRow->m_nHostKey;
     m_nUseThisDataForSums = pRow->m_nUseThisDataForSums;
 }
 

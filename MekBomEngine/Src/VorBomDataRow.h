@@ -11,7 +11,7 @@
 //
 // One evaluation changes its rows: it reorders and relinks them, marks the tuples it used, appends a tuple for each
 // formula it computed, and clears getUseThisDataForSums() of rows whose line was merged into an equal one. For a fresh
-// start build fresh rows.
+// start build fresh rows, or have them restored (VorBomData).
 #pragma once
 
 #include "VorBomItemBase.h"
@@ -21,6 +21,7 @@
 #include "MekRoots/Exp/VorString.h"
 
 #include <atomic>
+#include <cstdint>
 
 // Lists of texts side by side, one list per row.
 using VorStringArrayArray = VorArray<VorStringArray>;
@@ -28,7 +29,8 @@ using VorStringArrayArray = VorArray<VorStringArray>;
 class MEK_BOM_API VorBomDataRow : public VorBomItemBase
 {
 public:
-    // A new row has no handles and counts in sums. Copies take handles and links as they stand: sub-rows are shared.
+    // A new row has no handles, the key 0, and counts in sums. Copies take all of it and links as they stand: sub-rows
+    // are shared.
     VorBomDataRow() = default;
     VorBomDataRow(const VorBomDataRow& other);
     VorBomDataRow& operator=(const VorBomDataRow& other);
@@ -38,6 +40,15 @@ public:
     // Any text; empty until it is set. The engine reports it and looks for nothing by it.
     const VorString& objectHandle() const { return m_objectHandle; }
     void setObjectHandle(const VorString& handle) { m_objectHandle = handle; }
+
+    // The host's own number for the object described: a pointer, an index, a key of its database. 0 until it is set.
+    // Kept and copied with the row's handle, and looked at by nothing here.
+    //   VorBomDataRow beam;
+    //   beam.setHostKey(0x1A7);
+    //   VorBomDataRow copy(beam);
+    //   copy.hostKey()   ->  0x1A7
+    std::uint64_t hostKey() const { return m_nHostKey; }
+    void setHostKey(std::uint64_t key) { m_nHostKey = key; }
 
     // The handles of the other objects that equal this one and have no row of their own. The reference holds as long as
     // the row and shows what it has at the time.
@@ -63,11 +74,15 @@ public:
     void appendUsedHandlesAndTokens(VorStringArrayArray& handles, VorStringArrayArray& tokens) const;
 
 private:
+    friend class VorBomInputRows;
+
     VorStringArray& ownHandles() const;
     void takeHandlesOf(const VorBomDataRow& other);
 
     VorString m_objectHandle;
     // Owned. Null in nearly all rows, until handles are set or asked for; from then on the same array.
     mutable std::atomic<VorStringArray*> m_pEqualPartObjectHandles{ nullptr };
+    std::uint64_t m_nHostKey = 0;
     int m_nUseThisDataForSums = 1;
+    int m_nInputPlace = 0; // among the rows that VorBomData::rememberRows() met last; in bytes that were padding
 };

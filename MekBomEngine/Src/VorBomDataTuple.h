@@ -31,6 +31,8 @@
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
 
+#include <cstddef>
+#include <type_traits>
 #include <utility>
 
 class MEK_BOM_API VorBomDataTuple
@@ -45,6 +47,13 @@ public:
     VorBomDataTuple(const VorString& token, int value) : m_token(token), m_value(value) {}
     VorBomDataTuple(const VorString& token, double value) : m_token(token), m_value(value) {}
     VorBomDataTuple(const VorString& token, const VorString& value) : m_token(token), m_value(value) {}
+
+    // A whole number of another width than int's, as VorBomDataValue takes it.
+    //   VorBomDataTuple(L"%Quantity", std::size_t{ 12 }).value().type()   ->  kIntData
+    template <class Integer, std::enable_if_t<VorBomDataValue::kIsWide<Integer>, int> = 0>
+    VorBomDataTuple(const VorString& token, Integer value) : VorBomDataTuple(token, VorBomDataValue(value))
+    {
+    }
 
     // Takes a value of any kind as it is, an empty one too.
     VorBomDataTuple(const VorString& token, const VorBomDataValue& value) : m_token(token), m_value(value) {}

@@ -8,11 +8,31 @@
 #include "MekRoots/Exp/VorAssert.h"
 #include "MekRoots/Exp/VorNumberText.h"
 
+#include <charconv>
 #include <cmath>
+#include <iterator>
+#include <limits>
 #include <utility>
 
 namespace
 {
+// Of a double 2 to the power of 64 no integer can be made again.
+bool isExactAsDouble(unsigned long long size)
+{
+    const auto number = static_cast<double>(size);
+    return number < 18446744073709551616.0 && static_cast<unsigned long long>(number) == size;
+}
+
+VorString digitsOf(bool isNegative, unsigned long long size)
+{
+    char digits[std::numeric_limits<unsigned long long>::digits10 + 1];
+    const char* const pEnd = std::to_chars(std::begin(digits), std::end(digits), size).ptr;
+    VorString text(isNegative ? L"-" : L"");
+    for (const char* pDigit = digits; pDigit != pEnd; ++pDigit)
+        text += static_cast<wchar_t>(*pDigit);
+    return text;
+}
+
 const wchar_t kSourcePath[] = L"MekBomEngine/Src/VorBomDataValue";
 
 // Doubles closer than this compare equal. Absolute, whatever their size; grouping in existing reports depends on it.
@@ -132,4 +152,16 @@ void VorBomDataValue::empty()
     else if (!hasNoText())
         reportMisuse(__LINE__); // what the payload is, nobody knows
     m_nType = kUnknownData;
+}
+
+// 2147483648 is an int below zero alone.
+void VorBomDataValue::setWide(bool isNegative, unsigned long long size)
+{
+    const unsigned long long largestInt = std::numeric_limits<int>::max();
+    if (size <= largestInt + (isNegative ? 1U : 0U))
+        set(static_cast<int>(isNegative ? -static_cast<long long>(size) : static_cast<long long>(size)));
+    else if (isExactAsDouble(size))
+        set(isNegative ? -static_cast<double>(size) : static_cast<double>(size));
+    else
+        set(digitsOf(isNegative, size));
 }

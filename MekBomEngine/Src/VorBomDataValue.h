@@ -5,7 +5,7 @@
 //   weight.asString()  ->  "12.5"
 //
 //   kind            made from      data() is      asString()
-//   kIntData        12             int*           "12"
+//   kIntData        12, 12LL       int*           "12"
 //   kDoubleData     12.5           double*        "12.5"
 //   kStringData     a text         VorString*     the text
 //   kUnknownData    nothing        null           ""
@@ -20,8 +20,8 @@
 // other.
 //
 // Memory: a payload lies in the value itself, next to its kind, and a text refers to characters that its copies share.
-// So nothing here takes memory or throws, but for asString(), which passes std::bad_alloc on where the system has none
-// left.
+// So nothing here takes memory or throws, but for asString() and for whole numbers that neither an int nor a double
+// holds, which pass std::bad_alloc on where the system has none left.
 //
 // Threads: one value is for one thread at a time. Copies may go to other threads, also those of texts, which share
 // their characters; a value may be destroyed on another thread than the one that made it.
@@ -34,6 +34,7 @@
 
 #include <cstring>
 #include <new>
+#include <type_traits>
 #include <utility>
 
 class MEK_BOM_API VorBomDataValue
@@ -54,6 +55,24 @@ public:
     VorBomDataValue(int value) noexcept : m_payload(value), m_nType(kIntData) {}
     VorBomDataValue(double value) noexcept : m_payload(value), m_nType(kDoubleData) {}
     VorBomDataValue(const VorString& value) noexcept : m_payload(value), m_nType(kStringData) {}
+
+    // Whether numbers of this type are wider than an int, or may be larger: they become what can hold them.
+    template <class Integer>
+    static constexpr bool kIsWide =
+        std::is_same_v<Integer, long> || std::is_same_v<Integer, long long> || std::is_same_v<Integer, unsigned int> ||
+        std::is_same_v<Integer, unsigned long> || std::is_same_v<Integer, unsigned long long>;
+
+    // Whole numbers of other widths, without the loss of a digit: an int where it fits one, else a double where that is
+    // exactly the number, as it is up to 2 to the power of 53, else the text of its digits, which can be shown and
+    // grouped by, but not added up.
+    //   VorBomDataValue(12LL).type()                      ->  kIntData
+    //   VorBomDataValue(3000000000U).type()               ->  kDoubleData
+    //   VorBomDataValue(9007199254740993LL).asString()    ->  "9007199254740993", a text
+    template <class Integer, std::enable_if_t<kIsWide<Integer>, int> = 0>
+    VorBomDataValue(Integer value) : VorBomDataValue()
+    {
+        set(value);
+    }
 
     // Reports a type that is none of the four; the copy is empty then.
     VorBomDataValue(const VorBomDataValue& other)
@@ -115,6 +134,15 @@ public:
         endText();
         m_payload.number = value;
         m_nType = kDoubleData;
+    }
+    template <class Integer, std::enable_if_t<kIsWide<Integer>, int> = 0>
+    void set(Integer value) // as the constructor from one
+    {
+        if constexpr (std::is_signed_v<Integer>)
+            setWide(value < 0,
+                    value < 0 ? 0ULL - static_cast<unsigned long long>(value) : static_cast<unsigned long long>(value));
+        else
+            setWide(false, value);
     }
     void set(const VorString& value) { set(VorString(value)); } // the argument may be this value's own text
     void set(VorString&& value)                                 // takes the text over
@@ -208,6 +236,8 @@ private:
         std::memcpy(&m_payload.number, &other.m_payload.number, sizeof(double)); // as bytes: it may be an int's
         m_nType = other.m_nType;
     }
+    // Sets the whole number of that sign and size.
+    void setWide(bool isNegative, unsigned long long size);
     void endText()
     {
         if (!hasNoText())

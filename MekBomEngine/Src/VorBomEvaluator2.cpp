@@ -10,10 +10,13 @@
 // here is the same for both.
 #include "VorBomEvaluator2.h"
 
+#include "VorBomDataCheck.h"
 #include "VorBomLevelPlan.h"
+#include "VorBomObservedTarget.h"
 #include "VorBomRowsAhead.h"
 #include "VorBomSectionTree.h"
 #include "VorBomSinkTarget.h"
+#include "VorBomTemplateCheck.h"
 
 #include "MekRoots/Exp/VorAssert.h"
 
@@ -55,6 +58,35 @@ void setFormats(const VorBomTemplate& reportTemplate, const VorBomTemplateItem& 
         plan.setFormat(tuple, reportTemplate.numberFormat(section, tuple));
 }
 
+// Sections that belong to nobody yet; they go with this object, unless they are moved on.
+class CollectedSections
+{
+public:
+    CollectedSections() = default;
+    CollectedSections(const CollectedSections&) = delete;
+    CollectedSections& operator=(const CollectedSections&) = delete;
+    ~CollectedSections() { m_root.empty(); }
+
+    VorBomItemBase& root() { return m_root; }
+
+    // One by one, as addChild() takes them.
+    void moveTo(VorBomItemBase& parent)
+    {
+        VorBomItemBase* pSection = m_root.child();
+        m_root.setChild(nullptr);
+        while (pSection != nullptr)
+        {
+            VorBomItemBase* const pNext = pSection->next();
+            pSection->setNext(nullptr);
+            parent.addChild(pSection);
+            pSection = pNext;
+        }
+    }
+
+private:
+    VorBomItemBase m_root;
+};
+
 // Destroys, when it goes, what an evaluation that ends early has made and nobody has taken.
 class SectionsInProgress
 {
@@ -81,7 +113,7 @@ int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResul
     if (stack.isEmpty())
         return 0;
     stack[0].m_pCollector = pResult;
-    VorBomSectionTree tree;
+    VorBomSectionTree tree(VorBomEvaluationOptions::kMergeEqualLines);
     return evaluateRows(*pTemplate, stack, tree);
 }
 
@@ -89,23 +121,67 @@ int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sin
 {
     if (pTemplate == nullptr)
         return 0;
+    return evaluate(pTemplate, sink, VorBomEvaluationOptions());
+}
+
+// The first level hands its sections over as its groups close; they are kept apart until it is certain that all come.
+int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResult,
+                               const VorBomEvaluationOptions& options)
+{
+    if (pTemplate == nullptr)
+        return 0;
     VorBomEngineStateArray stack = getTemplateStack(pTemplate);
     if (stack.isEmpty())
         return 0;
-    VorBomSinkTarget target(sink, stack);
-    return evaluateRows(*pTemplate, stack, target);
+    CollectedSections collected;
+    stack[0].m_pCollector = pResult == nullptr ? nullptr : &collected.root();
+    VorBomSectionTree tree(options.equalLines);
+    if (evaluateObserved(*pTemplate, stack, tree, options) == 0)
+        return 0;
+    if (pResult != nullptr)
+        collected.moveTo(*pResult);
+    return 1;
+}
+
+int VorBomEvaluator2::evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sink,
+                               const VorBomEvaluationOptions& options)
+{
+    if (pTemplate == nullptr)
+        return 0;
+    VorBomEngineStateArray stack = getTemplateStack(pTemplate);
+    if (stack.isEmpty())
+        return 0;
+    VorBomSinkTarget target(sink, options.equalLines, stack);
+    return evaluateObserved(*pTemplate, stack, target, options);
+}
+
+int VorBomEvaluator2::evaluateObserved(VorBomTemplate& reportTemplate, VorBomEngineStateArray& stack,
+                                       VorBomSectionTarget& target, const VorBomEvaluationOptions& options)
+{
+    if (options.pProgress == nullptr && options.pDiagnostics == nullptr)
+        return evaluateRows(reportTemplate, stack, target);
+    if (options.pDiagnostics != nullptr)
+    {
+        VorBomTemplateCheck::check(reportTemplate, *options.pDiagnostics);
+        VorBomDataCheck(reportTemplate).tell(*options.pDiagnostics);
+    }
+    VorBomObservedTarget observed(target, options, stack);
+    return evaluateRows(reportTemplate, stack, observed);
 }
 
 int VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineStateArray& stack,
                                    VorBomSectionTarget& target)
 {
-    VorBomData* pData = reportTemplate.getBomData();
-    if (pData == nullptr)
-        return 1;
     // Before anything changes: a sink that stops here leaves the rows in the order in which they came.
     if (target.takeProgress(0) == 0)
         return 0;
-    sortInpuDataBySortingTokens(pData, stack, reportTemplate.sortTypes());
+    VorBomData* pData = reportTemplate.getBomData();
+    if (pData == nullptr)
+    {
+        target.takeEnd();
+        return 1;
+    }
+    sortInpuDataBySortingTokens(pData, stack, reportTemplate);
 
     stack[0].m_pTarget = &target;
     // From here on a sink may stop the report or throw while groups are open.
@@ -124,6 +200,7 @@ int VorBomEvaluator2::evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineS
         endGroup(stack, level, pUnits);
     handOverGroups(stack, 0);
     leaveLastFormula(stack);
+    target.takeEnd();
     return 1;
 }
 
@@ -281,11 +358,12 @@ void VorBomEvaluator2::handOverLine(VorBomEngineStateArray& stack)
     VorBomEngineState& line = stack.begin()[level];
     VorBomSectionTarget& target = *stack.begin()->m_pTarget;
     // Lines that stand under nothing, in a template of one level, are never merged.
-    const bool isMerged = level > 0 && readsAsTheSectionBefore(line) != 0;
+    const bool isMerged = level > 0 && target.equalLines() != VorBomEvaluationOptions::kKeepEqualLines &&
+                          readsAsTheSectionBefore(line) != 0;
     if (isMerged)
         mergeLine(line, target);
     target.take(stack, level);
-    if (isMerged)
+    if (isMerged && target.equalLines() == VorBomEvaluationOptions::kMergeEqualLines)
         for (VorBomDataRow* pRow : line.m_dataRows)
             pRow->setUseThisDataForSums(0); // only now: its own footer, if it has one, has counted it
     line.m_dataRows.empty();

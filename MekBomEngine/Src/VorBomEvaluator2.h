@@ -28,14 +28,16 @@
 //   - each row gets a tuple "%Formula:..." for every formula computed for it;
 //   - rows whose details section equals the one before under the same parent are merged away: that section is dropped
 //     and getUseThisDataForSums() of the row becomes 0, so that no total counts it; not for a sink that asks for equal
-//     lines (VorBomSectionSink::kEqualLines);
+//     lines (VorBomSectionSink::kEqualLines), and not where options keep or count them;
 //   - the template's units learn the unit of each formula shown.
-// Whoever wants to evaluate a second time from the start builds fresh data.
+// Whoever wants to evaluate a second time from the start builds fresh data, or has the rows restored
+// (VorBomData::rememberRows); they may serve another template then (VorBomTemplate::exchangeBomData).
 //
 // Threads: evaluations on different threads may run at once, each with its own template, data and result.
 #pragma once
 
 #include "VorBomEngineState.h"
+#include "VorBomEvaluationOptions.h"
 #include "VorBomSectionSink.h"
 #include "VorBomTemplate.h"
 #include "VorHeaderFooterSortingStruct.h"
@@ -65,11 +67,20 @@ public:
     // further in that lends its text a unit meanwhile changes a header's column under that very text in the tree alone.
     static int evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sink);
 
+    // The same two with options: what becomes of equal lines, and who is told of progress and findings. Of a tree that
+    // was stopped nothing is appended to pResult; what an observer throws passes through, and nothing is appended
+    // either. The options are read while it runs. They cost nothing that they do not ask for.
+    static int evaluate(VorBomTemplate* pTemplate, VorBomTemplate* pResult, const VorBomEvaluationOptions& options);
+    static int evaluate(VorBomTemplate* pTemplate, VorBomSectionSink& sink, const VorBomEvaluationOptions& options);
+
 private:
     friend struct VorBomEvaluator2Access; // lets tests call one step at a time
 
     // One state per level, outermost first.
     static VorBomEngineStateArray getTemplateStack(VorBomTemplate* pTemplate);
+    // 0 when an observer or `target` stopped it.
+    static int evaluateObserved(VorBomTemplate& reportTemplate, VorBomEngineStateArray& stack,
+                                VorBomSectionTarget& target, const VorBomEvaluationOptions& options);
     // 0 when `target` stopped it.
     static int evaluateRows(VorBomTemplate& reportTemplate, VorBomEngineStateArray& stack, VorBomSectionTarget& target);
 
@@ -103,7 +114,7 @@ private:
     // Sorting. The comparisons are callbacks over pointers to elements: VorBomDataRow* and
     // VorHeaderFooterSortingStruct. All return 1 but the comparisons, which answer -1, 0 or 1, and isEqualAsEvaluated.
     static int sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngineStateArray& stack,
-                                           const VorBomDataToken::SortTypes& sortTypes);
+                                           const VorBomTemplate& reportTemplate);
     static int compareDataRow(const void* pFirst, const void* pSecond);
     static int sortSubGroupsOnLevels(VorBomTemplateItem* pItem, VorBomEngineStateArray& stack, int level);
     static int sortItemList(VorBomTemplateItem*& pFirst, const VorStringArray& sortingTokens);

@@ -11,6 +11,7 @@
 #include "MekRoots/Exp/VorAssert.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -55,6 +56,25 @@ void findSortTypes(const VorStringArray& tokens, const VorBomDataToken::SortType
         const auto* pNode = sortTypes.find(token);
         found.append(pNode != nullptr ? static_cast<int>(pNode->value) : VorBomSortKeys::kByCatalogue);
     }
+}
+
+// For each token to sort rows by the order of values that a host has set for it; beside the arrays of VorBomEvaluator2,
+// refilled with them, and like them one for each thread.
+thread_local std::vector<VorBomValueOrder> t_valueOrders;
+
+void findValueOrders(const VorStringArray& tokens, const VorBomTemplate& reportTemplate)
+{
+    t_valueOrders.clear();
+    for (const VorString& token : tokens)
+        t_valueOrders.emplace_back(reportTemplate.sortOrder(token));
+}
+
+VorBomSortKeys keysOf(const VorStringArray& tokens, const VorArray<int>& orders, const VorArray<int>& sortTypes)
+{
+    VorBomSortKeys keys(tokens, orders, sortTypes);
+    for (std::size_t key = 0; key < keys.count() && key < t_valueOrders.size(); ++key)
+        keys.setValueOrder(key, t_valueOrders[key]);
+    return keys;
 }
 
 VorBomTemplateItem* nextSection(const VorBomTemplateItem* pItem)
@@ -130,7 +150,7 @@ void relinkSections(const VorHeaderFooterSortingArray& pairs)
 }
 
 int VorBomEvaluator2::sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngineStateArray& stack,
-                                                  const VorBomDataToken::SortTypes& sortTypes)
+                                                  const VorBomTemplate& reportTemplate)
 {
     m_arrTokensToSortDataRow.empty();
     m_arrSortOrderForDataRow.empty();
@@ -140,14 +160,15 @@ int VorBomEvaluator2::sortInpuDataBySortingTokens(VorBomData* pData, VorBomEngin
         if (state.m_pHeader != nullptr)
             appendSortKeys(state.m_pHeader->sortingTokens(), ascending, m_arrTokensToSortDataRow,
                            m_arrSortOrderForDataRow);
-    findSortTypes(m_arrTokensToSortDataRow, sortTypes, m_arrSortTypeForDataRow);
+    findSortTypes(m_arrTokensToSortDataRow, reportTemplate.sortTypes(), m_arrSortTypeForDataRow);
+    findValueOrders(m_arrTokensToSortDataRow, reportTemplate);
     // A single row is not compared, so a token that nobody knows is not reported for it.
     const bool hasTwoRows = pData->child() != nullptr && pData->child()->next() != nullptr;
     if (m_arrTokensToSortDataRow.isEmpty() || !hasTwoRows)
         return 1;
 
-    VorBomSortedRows sortedRows(
-        *pData, VorBomSortKeys(m_arrTokensToSortDataRow, m_arrSortOrderForDataRow, m_arrSortTypeForDataRow));
+    VorBomSortedRows sortedRows(*pData,
+                                keysOf(m_arrTokensToSortDataRow, m_arrSortOrderForDataRow, m_arrSortTypeForDataRow));
     VorBomItemBase* pLastBefore = sortedRows.lastInList();
     const std::vector<VorBomItemBase*> rows = sortedRows.sorted();
     // On purpose lastChild() goes on naming the row that was last before sorting.
@@ -168,7 +189,7 @@ int VorBomEvaluator2::compareDataRow(const void* pFirst, const void* pSecond)
     reportUnless(pSecondItemData != nullptr, L"NULL != pSecondItemData", __LINE__);
     if (pFirstItemData == nullptr || pSecondItemData == nullptr)
         return 0;
-    VorBomSortKeys keys(m_arrTokensToSortDataRow, m_arrSortOrderForDataRow, m_arrSortTypeForDataRow);
+    VorBomSortKeys keys = keysOf(m_arrTokensToSortDataRow, m_arrSortOrderForDataRow, m_arrSortTypeForDataRow);
     return keys.compare([&](std::size_t key) { return pFirstItemData->getTupleAt(keys.token(key)); },
                         [&](std::size_t key) { return pSecondItemData->getTupleAt(keys.token(key)); });
 }

@@ -105,6 +105,7 @@ public:
 
 private:
     friend class VorBomEvaluator2; // relinks rows
+    friend class VorBomInputRows;  // likewise
 
     // Makes a chain whose last item is known the children, without a walk along it.
     void setChildren(VorBomItemBase* pFirst, VorBomItemBase* pLast)

@@ -29,4 +29,8 @@ struct VorBomReportSection
     // Of a footer, for each of its tuples how many of the counted rows have a datum for it; null for a header.
     //   "%SumBy:%Weight" 4 over rows of 2.5 kg, of 1.5 kg and one without weight   ->   2
     const int* pNumRowsWithDatum = nullptr;
+
+    // The section of the template that this one was made from; its tuples have the same places. Never null in what an
+    // evaluation hands over.
+    const VorBomTemplateItem* pTemplateSection = nullptr;
 };

@@ -27,6 +27,8 @@
 // A call that throws ends the evaluation: all that the evaluation made is destroyed, what was thrown goes on to whoever
 // called evaluate(), and rows are left as after a stop. Nothing is called after that.
 //
+// Whoever wants to keep the report and read it later needs no sink of his own: VorBomReport is one.
+//
 // All calls come on the thread that evaluates. One sink may serve several evaluations one after the other.
 #pragma once
 
@@ -55,7 +57,8 @@ public:
     virtual void takeFooter(const VorBomReportSection& footer) = 0;
 
     // The line of `row` reads as the section handed over last, of the same level and in the same group, and is merged
-    // into it. No total of the groups around it counts the row.
+    // into it. No total of the groups around it counts the row, unless the evaluation's options say that all count
+    // (VorBomEvaluationOptions::kMergeAndCountEqualLines).
     virtual void takeMergedRow(const VorBomDataRow& /*row*/) {}
 
     // A formula of a header or a line could not be computed for `row`, which opened the one or has the other; the
@@ -70,6 +73,9 @@ public:
     // 0 to stop: nothing is called any more, evaluate() answers 0, and all it made is destroyed. Rows stay sorted, with
     // the results of formulas and the flags that they have got so far.
     virtual int takeProgress(int /*numRowsDone*/) { return 1; }
+
+    // The report is complete; the last call of an evaluation that is neither stopped nor thrown out of.
+    virtual void takeEnd() {}
 
 protected:
     explicit VorBomSectionSink(int requests = kTextsAlone) : m_nRequests(requests) {}

@@ -116,6 +116,11 @@ VorBomTemplate* VorBomTemplate::createDefaultTemplate()
     return pTemplate;
 }
 
+VorBomData* VorBomTemplate::exchangeBomData(VorBomData* pData)
+{
+    return std::exchange(m_pData, pData);
+}
+
 void VorBomTemplate::setUnitsForTokens(const VorUnitsManager* pManager)
 {
     if (pManager != nullptr)
@@ -165,6 +170,26 @@ void VorBomTemplate::setSortType(const VorString& token, VorBomDataToken::eSortT
 {
     bool inserted = false;
     m_sortTypes.findOrInsert(token, sortType, inserted)->value = sortType;
+}
+
+void VorBomTemplate::setSortOrder(const VorString& token, const VorStringArray& values)
+{
+    for (auto& [ordered, order] : m_sortOrders)
+        if (ordered == token)
+        {
+            order = values;
+            return;
+        }
+    m_sortOrders.emplace_back(token, values);
+}
+
+const VorStringArray& VorBomTemplate::sortOrder(const VorString& token) const
+{
+    static const VorStringArray kNone;
+    for (const auto& [ordered, order] : m_sortOrders)
+        if (ordered == token)
+            return order;
+    return kNone;
 }
 
 void VorBomTemplate::setNumberFormat(const VorBomTemplateItem& section, int tuple, const VorBomNumberFormat* pFormat)

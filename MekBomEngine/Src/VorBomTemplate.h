@@ -33,6 +33,7 @@
 
 #include <map>
 #include <utility>
+#include <vector>
 
 class MEK_BOM_API VorBomTemplate : public VorBomTemplateItem
 {
@@ -66,6 +67,15 @@ public:
     VorBomTemplateUnits* getBomTemplateUnits() const { return m_pUnits; }
     VorBomData* getBomData() { return m_pData; }
 
+    // Takes `pData` over, null for none, and hands the former data over to the caller: null or owned by the caller, who
+    // gives it to another template, or empties and deletes it. So one set of rows serves several templates in turn.
+    //   VorBomData* pRows = first.exchangeBomData(nullptr);
+    //   pRows->restoreRows();
+    //   VorBomData* pEmpty = second.exchangeBomData(pRows);
+    //   delete pEmpty;                                        // it has no rows
+    // A template that its data were taken from is evaluated as one without rows.
+    VorBomData* exchangeBomData(VorBomData* pData);
+
     // Takes the units of `pManager` and the display settings of the repository, unless it is null, and registers the
     // kind of quantity of all known tokens. The first registration of a token wins.
     void setUnitsForTokens(const VorUnitsManager* pManager);
@@ -93,6 +103,19 @@ public:
     // Natural order is for texts: numbers under such a token are reported, as under those of the catalogue.
     void setSortType(const VorString& token, VorBomDataToken::eSortType sortType);
     const VorBomDataToken::SortTypes& sortTypes() const { return m_sortTypes; }
+
+    // Has rows be sorted by `token` in the order of these texts: rows with the first of them first, then the others as
+    // they are listed; then, by their sort type, rows whose values are not listed. Rows without a datum stand before
+    // them all, and descending turns the whole round, as ever. Of two equal texts the first counts. No texts: by sort
+    // type alone.
+    //   VorStringArray phases;
+    //   phases.append(L"ground");
+    //   phases.append(L"roof");
+    //   reportTemplate.setSortOrder(L"%UserAttr1", phases);   // ground, roof, annex, cellar
+    // Groups, sums and other templates are left alone, and so is the order of sections of a finished report.
+    void setSortOrder(const VorString& token, const VorStringArray& values);
+    // Empty for a token without an order of its own.
+    const VorStringArray& sortOrder(const VorString& token) const;
 
     // Has the numbers of a section's tuple be shown by `pFormat` instead of the units; null: by the units again. The format
     // is not owned and must live as long as the template is evaluated.
@@ -123,7 +146,8 @@ private:
     int m_nObjectPresentationOptions = kNoOptions;
     VorBomData* m_pData;
     VorStringArray m_tokenTrace;
-    VorBomDataToken::SortTypes m_sortTypes; // of tokens that the host has set, no others
+    VorBomDataToken::SortTypes m_sortTypes;                         // of tokens that the host has set, no others
+    std::vector<std::pair<VorString, VorStringArray>> m_sortOrders; // likewise: a few
     std::map<std::pair<const VorBomTemplateItem*, int>, const VorBomNumberFormat*>
         m_numberFormats; // by section and tuple
 };

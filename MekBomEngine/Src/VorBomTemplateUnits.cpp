@@ -13,6 +13,7 @@
 #include "MekRoots/Exp/VorUnitTransform.h"
 #include "MekRoots/Exp/VorUnitsTransformArray.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <iterator>
 #include <utility>
@@ -43,11 +44,14 @@ static_assert(std::size(kUnitOfType) == VorBomTemplateUnits::kDensityUnit + 1, "
 
 const int kShowUnitSymbol = 0; // columns name their unit once, not in every cell
 
-// For numbers that have no unit: six significant digits, as "%g" has them.
-VorString plainText(double value)
+bool isZero(wchar_t character)
 {
-    wchar_t text[VorNumberText::kGeneralRoom];
-    return VorString(text, VorNumberText::writeGeneral(value, text));
+    return character == L'-' || character == L'0' || character == L'.';
+}
+
+int clamped(int decimals)
+{
+    return decimals < 0 ? VorBomTemplateUnits::kSignificantDigits : std::min(decimals, VorNumberText::kMostDecimals);
 }
 }
 
@@ -105,17 +109,46 @@ VorBomTemplateUnits::eTokenUnitType VorBomTemplateUnits::getUnitType(VorString t
     return pNode != nullptr ? pNode->value : kNoUnit;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): as above
 VorString VorBomTemplateUnits::getDisplayString(VorString token, double value) const
 {
-    return getDisplayString(getUnitType(std::move(token)), value);
+    const eTokenUnitType type = getUnitType(token);
+    return type == kNoUnit ? plainText(value, decimalsOf(token)) : getDisplayString(type, value);
 }
 
 VorString VorBomTemplateUnits::getDisplayString(eTokenUnitType type, double value) const
 {
     if (type == kNoUnit)
-        return plainText(value);
+        return plainText(value, m_nDecimals);
     const MEKUnit* pUnit = unitOfType(type);
     return pUnit != nullptr ? formatIn(*pUnit, value) : VorString();
+}
+
+void VorBomTemplateUnits::setDecimals(int decimals)
+{
+    m_nDecimals = clamped(decimals);
+}
+
+void VorBomTemplateUnits::setDecimals(const VorString& token, int decimals)
+{
+    bool inserted = false;
+    m_decimals.findOrInsert(token, 0, inserted)->value = clamped(decimals);
+}
+
+int VorBomTemplateUnits::decimalsOf(const VorString& token) const
+{
+    const auto* pNode = m_decimals.find(token);
+    return pNode != nullptr ? pNode->value : m_nDecimals;
+}
+
+VorString VorBomTemplateUnits::plainText(double value, int decimals)
+{
+    wchar_t text[VorNumberText::fixedRoom(VorNumberText::kMostDecimals)];
+    if (decimals == kSignificantDigits)
+        return VorString(text, VorNumberText::writeGeneral(value, text));
+    const int length = VorNumberText::writeFixed(value, clamped(decimals), text);
+    const bool isMinusZero = text[0] == L'-' && std::all_of(text, text + length, isZero);
+    return isMinusZero ? VorString(text + 1, length - 1) : VorString(text, length);
 }
 
 // A setting that the repository lacks leaves its variable as it is. The three for zeros begin with what holds now, the

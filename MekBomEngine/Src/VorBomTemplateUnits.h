@@ -29,7 +29,7 @@ public:
     // The numbers are part of the contract: template files carry them.
     enum eTokenUnitType : int
     {
-        kNoUnit = 0, // shown with "%g"
+        kNoUnit = 0, // shown with "%g", or with the decimals that are set
         kDistanceUnit = 1,
         kWeightUnit = 2,
         kAreaUnit = 3,
@@ -85,12 +85,33 @@ public:
     // is registered says nothing of "%SumBy:%Weight".
     eTokenUnitType getUnitType(VorString token) const;
 
+    // How many decimals numbers without a unit have, from 0 to 100; kSignificantDigits for six significant digits, as
+    // "%g" has them: what holds until somebody sets something else. Zeros at the end stay, whatever the settings say,
+    // and what is rounded to nothing is no "-0.00". For all tokens, or for one; "%SumBy:" and formulas take those of
+    // the (first) token in them that has its own. Tokens that have a unit are not concerned. Not to be called while a
+    // report is evaluated.
+    //   VorBomTemplateUnits units;
+    //   units.getDisplayString(L"%Price", 17214000.0)   ->  "1.7214e+07"
+    //   units.setDecimals(L"%Price", 2);
+    //   units.getDisplayString(L"%Price", 17214000.0)   ->  "17214000.00"
+    static constexpr int kSignificantDigits = -1;
+    void setDecimals(int decimals);
+    void setDecimals(const VorString& token, int decimals);
+    // Of a token, kSignificantDigits included; without one those for all tokens that have none of their own.
+    int decimalsOf(const VorString& token) const;
+    int decimals() const { return m_nDecimals; }
+    // Whether decimals were set for this very token.
+    bool hasDecimals(const VorString& token) const { return m_decimals.find(token) != nullptr; }
+
+    // The text of a number without a unit, as a token with that many decimals shows it.
+    static VorString plainText(double value, int decimals);
+
     // How many tokens are registered. What getUnitType() answers for a token can change only together with this number,
     // and only from kNoUnit: a type, once registered, stays for good.
     int numTokenTypes() const { return m_tokenTypes.count(); }
 
     // The text that a report shows for `value`, a number in internal units: in the unit of the token's kind; as "%g"
-    // prints it for a token without unit.
+    // prints it, or with the decimals that are set, for a token without unit.
     // On purpose: kReservedUnitType, and any type that is none of the nine, gives empty text.
     // Pinned by VorBomTemplateUnitsTest.ReservedAndUnknownTypesShowNothing.
     // How many decimals there are is the unit's format; the settings only drop zeros and shape feet and inches.
@@ -103,6 +124,8 @@ private:
     VorString formatIn(const MEKUnit& unit, double value) const;
 
     VorStringHashMap<eTokenUnitType> m_tokenTypes;
+    VorStringHashMap<int> m_decimals; // of tokens that have their own
+    int m_nDecimals = kSignificantDigits;
     std::array<MEKUnit, VorUnitsTransformArray::kNumSystems> m_units; // in the order of kSystems
     int m_nSuppressLastZeros = 1;
     int m_nSuppressZeroFeet = 1;

@@ -2,7 +2,8 @@
 //
 //   %Weight 12.5, shown in pounds as "27.56"   ->   kDoubleData, 12.5, kWeightUnit
 //   %Formula:%Length*2 100.0, shown as "100"   ->   kDoubleData, 100.0, kDistanceUnit: that of its first token with one
-//   %Quantity 3, shown as "3"                  ->   kIntData, 3.0, kNoUnit: whole numbers take no units
+//   %Quantity 3, shown as "3"                  ->   kIntData, 3.0, kNoUnit: whole numbers take no units; whole 3
+//   %SumBy:%Quantity of ints, "3e+09"          ->   kDoubleData, 3e9, kNoUnit, and whole 3000000000
 //   %Name "HEA200"                             ->   kStringData; the text is the one that is shown
 //   a token without value                      ->   kUnknownData; nothing is shown
 //
@@ -13,9 +14,17 @@
 #include "VorBomDataValue.h"
 #include "VorBomTemplateUnits.h"
 
+#include <cstdint>
+
 struct VorBomTypedValue
 {
     VorBomDataValue::eBomDataValueType type = VorBomDataValue::kUnknownData;
     VorBomTemplateUnits::eTokenUnitType unitType = VorBomTemplateUnits::kNoUnit; // that the number was shown in
     double number = 0; // of kDoubleData in internal units; of kIntData the whole number, exactly; else 0
+
+    // A kIntData, or a total to which nothing but ints was added and which is a double since it left their range:
+    // `whole` is that number with all its digits. The sum of as many ints as there can be rows fits it. Never set for
+    // other doubles, however whole: what they were rounded from nobody knows.
+    bool isWhole = false;
+    std::int64_t whole = 0;
 };

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
 namespace
 {
 struct Row : VorBomDataRow
@@ -17,6 +19,7 @@ void fill(VorBomDataRow& row)
     addTuples(row, { tuple(L"%A", 1), tuple(L"%B", NoValue()) });
     row.setObjectHandle(L"1A7");
     row.setEqualPartObjectHandles(arrayOf({ L"1A8", L"1A9" }));
+    row.setHostKey(UINT64_MAX);
     row.setUseThisDataForSums(0);
 }
 
@@ -28,6 +31,7 @@ void expectFilled(const VorBomDataRow& row)
     EXPECT_EQ(VorBomDataValue::kUnknownData, row.getData()[1].value().type());
     EXPECT_EQ(VorString(L"1A7"), row.objectHandle());
     EXPECT_EQ((Texts{ L"1A8", L"1A9" }), elementsOf(row.EqualPartObjectHandles()));
+    EXPECT_EQ(UINT64_MAX, row.hostKey());
     EXPECT_EQ(0, row.getUseThisDataForSums());
 }
 }
@@ -39,6 +43,7 @@ TEST(VorBomDataRowTest, StartsWithoutIdentityAndCounts)
     EXPECT_EQ(VorString(), row.objectHandle());
     EXPECT_EQ(0, row.EqualPartObjectHandles().length());
     EXPECT_EQ(8, row.EqualPartObjectHandles().growBy());
+    EXPECT_EQ(0U, row.hostKey());
     EXPECT_EQ(1, row.getUseThisDataForSums());
     EXPECT_EQ(0, row.getData().length());
 }
@@ -218,7 +223,7 @@ TEST(VorBomDataRowTest, ReferenceToEqualPartsShowsWhatTheRowHasAtTheTime)
 }
 
 // A model has millions of rows, of which hardly any stands for equal parts.
-TEST(VorBomDataRowTest, RowIsAsSmallAsItsBaseAHandleAPointerAndAFlag)
+TEST(VorBomDataRowTest, RowIsAsSmallAsItsBaseAHandleAPointerAKeyAndAFlag)
 {
-    EXPECT_EQ(sizeof(VorBomItemBase) + 3 * sizeof(void*), sizeof(VorBomDataRow));
+    EXPECT_EQ(sizeof(VorBomItemBase) + 3 * sizeof(void*) + sizeof(std::uint64_t), sizeof(VorBomDataRow));
 }

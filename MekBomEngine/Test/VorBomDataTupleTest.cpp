@@ -108,3 +108,11 @@ TEST(VorBomDataTupleTest, IsSmallAndMovesWithoutThrowing)
     EXPECT_LE(sizeof(VorBomDataTuple), 4 * sizeof(void*));
     EXPECT_TRUE(std::is_nothrow_move_constructible<VorBomDataTuple>::value);
 }
+
+TEST(VorBomDataTupleTest, IntegersOfAnyWidthAreTakenAsValuesTakeThem)
+{
+    EXPECT_EQ(VorBomDataValue::kIntData, VorBomDataTuple(L"%Quantity", 12L).value().type());
+    EXPECT_EQ(VorBomDataValue::kIntData, VorBomDataTuple(L"%Quantity", std::size_t{ 12 }).value().type());
+    EXPECT_EQ(VorBomDataValue::kDoubleData, VorBomDataTuple(L"%Quantity", 3'000'000'000LL).value().type());
+    EXPECT_EQ(VorString(L"18446744073709551615"), VorBomDataTuple(L"%Quantity", ~0ULL).value().asString());
+}

@@ -423,3 +423,68 @@ TEST(VorBomDataValueTest, NumbersShowAsPrintfShowsThem)
     for (const auto& c : kCases)
         EXPECT_EQ(VorString(c.expected), c.value.asString());
 }
+
+namespace
+{
+struct WideCase
+{
+    VorBomDataValue value;
+    VorBomDataValue::eBomDataValueType type;
+    double number; // of those that are one
+    const wchar_t* text;
+};
+}
+
+// Each is the number that it was made from, to the last digit, or a text of its digits.
+TEST(VorBomDataValueTest, IntegersOfAnyWidthLoseNoDigit)
+{
+    using V = VorBomDataValue;
+    const long long k2To53 = 1LL << 53;
+    const WideCase cases[] = {
+        { 12L, V::kIntData, 12, L"12" },
+        { -12LL, V::kIntData, -12, L"-12" },
+        { 12U, V::kIntData, 12, L"12" },
+        { std::size_t{ 12 }, V::kIntData, 12, L"12" },
+        { 2147483647LL, V::kIntData, 2147483647, L"2147483647" },
+        { 2147483648LL, V::kDoubleData, 2147483648, L"2.14748e+09" },
+        { -2147483648LL, V::kIntData, -2147483648.0, L"-2147483648" },
+        { -2147483649LL, V::kDoubleData, -2147483649.0, L"-2.14748e+09" },
+        { 4294967295U, V::kDoubleData, 4294967295.0, L"4.29497e+09" },
+        { k2To53, V::kDoubleData, 9007199254740992.0, L"9.0072e+15" },
+        { k2To53 + 1, V::kStringData, 0, L"9007199254740993" },
+        { k2To53 + 2, V::kDoubleData, 9007199254740994.0, L"9.0072e+15" },
+        { -k2To53 - 1, V::kStringData, 0, L"-9007199254740993" },
+        { std::numeric_limits<long long>::max(), V::kStringData, 0, L"9223372036854775807" },
+        { std::numeric_limits<long long>::min(), V::kDoubleData, -9223372036854775808.0, L"-9.22337e+18" },
+        { std::numeric_limits<unsigned long long>::max(), V::kStringData, 0, L"18446744073709551615" },
+        { 0ULL, V::kIntData, 0, L"0" },
+    };
+    for (const WideCase& c : cases)
+    {
+        ASSERT_EQ(c.type, c.value.type()) << c.text;
+        EXPECT_EQ(VorString(c.text), c.value.asString());
+        if (c.type == V::kStringData)
+            continue;
+        const void* const pData = c.value.data();
+        EXPECT_EQ(c.number,
+                  c.type == V::kIntData ? *static_cast<const int*>(pData) : *static_cast<const double*>(pData));
+    }
+}
+
+TEST(VorBomDataValueTest, WideIntegersReplaceWhatThereIs)
+{
+    VorBomDataValue value(VorString(L"a text"));
+    value.set(3LL);
+    EXPECT_EQ(VorBomDataValue::kIntData, value.type());
+    value.set(std::size_t{ 4'000'000'000 });
+    EXPECT_EQ(VorBomDataValue::kDoubleData, value.type());
+}
+
+// What promotes to an int or a double goes on doing so.
+TEST(VorBomDataValueTest, NarrowIntegersAndFloatsAreTakenAsEver)
+{
+    EXPECT_EQ(VorBomDataValue::kIntData, VorBomDataValue(static_cast<short>(7)).type());
+    EXPECT_EQ(VorBomDataValue::kIntData, VorBomDataValue(static_cast<unsigned char>(7)).type());
+    EXPECT_EQ(VorBomDataValue::kIntData, VorBomDataValue(true).type());
+    EXPECT_EQ(VorBomDataValue::kDoubleData, VorBomDataValue(1.5F).type());
+}

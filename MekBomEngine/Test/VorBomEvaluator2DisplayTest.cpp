@@ -278,3 +278,23 @@ TEST(VorBomEvaluator2DisplayTest, LinesThatReadAlikeByTheHostsFormatAreMerged)
 
     EXPECT_GE(report.evaluated().find(L"[%SumBy:%Weight:2.5]", 0), 0);
 }
+
+// A price is no 1.7214e+07, and its total and what is computed with it are prices, too.
+TEST(VorBomEvaluator2DisplayTest, DecimalsOfATokenAreThoseOfItsTotalsAndFormulas)
+{
+    VorBomTemplateUnits units;
+    units.AddTokenType(L"%Length", VorBomTemplateUnits::kDistanceUnit);
+    units.setDecimals(L"%Price", 2);
+
+    EXPECT_EQ(VorString(L"17214000.00"), shown(units, VorBomDataTuple(L"%Price", 17214000.0)));
+    EXPECT_EQ(VorString(L"17214000.00"), shown(units, VorBomDataTuple(L"%SumBy:%Price", 17214000.0)));
+    EXPECT_EQ(VorString(L"17214000.00"), shown(units, VorBomDataTuple(L"%Formula:2*%Price", 17214000.0)));
+    EXPECT_EQ(VorString(L"17214000.00"), shown(units, VorBomDataTuple(L"%SumBy:%Formula:2*%Price", 17214000.0)));
+    EXPECT_EQ(VorString(L"1.7214e+07"), shown(units, VorBomDataTuple(L"%Hours", 17214000.0)));
+    EXPECT_EQ(VorString(L"17214000"), shown(units, VorBomDataTuple(L"%Formula:%Price*%Length", 17214000.0)))
+        << "a length, by its second token";
+    EXPECT_EQ(VorString(L"3"), shown(units, VorBomDataTuple(L"%Price", 3))) << "whole numbers stay whole";
+
+    units.setDecimals(L"2*%Price", 0);
+    EXPECT_EQ(VorString(L"17214000"), shown(units, VorBomDataTuple(L"%Formula:2*%Price", 17214000.0)));
+}

@@ -476,3 +476,64 @@ TEST(VorBomEvaluator2SortingTest, SectionsOfOtherTypesAndNullAreNotSorted)
     EXPECT_EQ(1, Access::sortSubGroupsOnLevels(&report.result(), stack, 99)) << "no such levels";
     EXPECT_EQ(before, report.resultText());
 }
+
+namespace
+{
+// The phases of rows that are sorted by them, "-" for a row without one.
+VorString sortedPhases(std::initializer_list<const wchar_t*> order, const wchar_t* request = L"%SortAscBy:%Phase",
+                       int numEqual = 1)
+{
+    Report report;
+    report.addSection(nullptr, Item::kDetails, { { request, L"" } });
+    for (int i = 0; i < numEqual; ++i)
+        for (const wchar_t* phase : { L"roof", L"cellar", L"annex", L"ground" })
+            report.addRow({ { L"%Phase", phase } });
+    report.addRow({ { L"%Num", L"P1" } });
+    VorStringArray phases;
+    for (const wchar_t* phase : order)
+        phases.append(VorString(phase));
+    report.tmpl().setSortOrder(L"%Phase", phases);
+    report.evaluate();
+    return report.rowTexts(L"%Phase");
+}
+}
+
+TEST(VorBomEvaluator2SortingTest, HostsOwnOrderStandsBeforeAllOtherValues)
+{
+    const AssertLog log;
+
+    EXPECT_EQ(VorString(L"- ground roof annex cellar"), sortedPhases({ L"ground", L"roof" }));
+    EXPECT_EQ(VorString(L"cellar annex roof ground -"), sortedPhases({ L"ground", L"roof" }, L"%SortDescBy:%Phase"));
+    EXPECT_EQ(VorString(L"- roof roof ground ground annex annex cellar cellar"),
+              sortedPhases({ L"roof", L"ground", L"roof", L"attic" }, L"%SortAscBy:%Phase", 2))
+        << "the first of two equal texts counts, and one that no row has is none the worse";
+    EXPECT_TRUE(log.isEmpty()) << "a token that is in no catalogue, but in order";
+}
+
+TEST(VorBomEvaluator2SortingTest, OrderOfNoValuesIsThatOfTheSortType)
+{
+    EXPECT_EQ(VorString(L"- annex cellar ground roof"), sortedPhases({}));
+}
+
+TEST(VorBomEvaluator2SortingTest, TheLastOrderOfATokenCounts)
+{
+    VorBomTemplate reportTemplate;
+    VorStringArray phases;
+    phases.append(VorString(L"roof"));
+    reportTemplate.setSortOrder(L"%Phase", phases);
+    phases.append(VorString(L"ground"));
+    reportTemplate.setSortOrder(L"%Phase", phases);
+
+    EXPECT_EQ(2, reportTemplate.sortOrder(L"%Phase").length());
+    EXPECT_EQ(0, reportTemplate.sortOrder(L"%Zone").length());
+    reportTemplate.setSortOrder(L"%Phase", VorStringArray());
+    EXPECT_EQ(0, reportTemplate.sortOrder(L"%Phase").length());
+}
+
+// Rows of the next evaluation on the thread are not sorted by the order of the last.
+TEST(VorBomEvaluator2SortingTest, OrderOfOneTemplateIsNotThatOfTheNext)
+{
+    sortedPhases({ L"roof" });
+
+    EXPECT_EQ(VorString(L"- annex cellar ground roof"), sortedPhases({}));
+}

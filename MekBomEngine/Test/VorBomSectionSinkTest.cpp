@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <climits>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -617,4 +618,117 @@ TEST(VorBomSectionSinkTest, TreeShowsHeadersWhenTheirGroupsClose)
 
     EXPECT_EQ(VorString(L"[ kReportHeader][%Length*2:]\n [ kDetails     ][%Formula:%Length*2:]"), tree.evaluated());
     EXPECT_EQ((Lines{ "header 0 [7 is 7 in 0] row P1", "header 1 [ is 10 in 7] row P1" }), linesOf(sections));
+}
+
+namespace
+{
+// The typed values of the footer that comes last, and the sections of the template that were named.
+class LastFooter : public VorBomSectionSink
+{
+public:
+    LastFooter() : VorBomSectionSink(kTypedValues) {}
+
+    void takeHeader(const VorBomReportSection& header) override { templateSections.push_back(header.pTemplateSection); }
+    void takeFooter(const VorBomReportSection& footer) override
+    {
+        templateSections.push_back(footer.pTemplateSection);
+        const int numTuples = footer.section.getData().length();
+        values.assign(footer.pValues, footer.pValues + numTuples);
+        text = footer.section.getData()[0].value().asString();
+    }
+
+    std::vector<const Item*> templateSections;
+    std::vector<VorBomTypedValue> values;
+    VorString text;
+};
+
+// The total of these quantities, ints where they are given so.
+VorBomTypedValue totalOf(const std::vector<VorBomDataValue>& quantities, const VorBomDataValue& start = 0)
+{
+    Report report;
+    Item* pReport = report.addSection(nullptr, Item::kReportHeader, {});
+    Item* pFooter = report.addSection(nullptr, Item::kReportFooter, {});
+    report.addSection(pReport, Item::kGroupHeader, {});
+    pFooter->addData(VorBomDataTuple(L"%SumBy:%Quantity", start));
+    for (const VorBomDataValue& quantity : quantities)
+    {
+        auto* pRow = new VorBomDataRow;
+        pRow->addData(VorBomDataTuple(L"%Quantity", quantity));
+        report.tmpl().getBomData()->addChild(pRow);
+    }
+    LastFooter last;
+    VorBomEvaluator2::evaluate(&report.tmpl(), last);
+    return last.values.at(0);
+}
+}
+
+TEST(VorBomSectionSinkTest, SectionsNameThatOfTheTemplateTheyAreMadeFrom)
+{
+    Report report;
+    Item* pReport = report.addSection(nullptr, Item::kReportHeader, {});
+    Item* pFooter = report.addSection(nullptr, Item::kReportFooter, { { L"%SumBy:%Weight", 0.0 } });
+    Item* pDetails = report.addSection(pReport, Item::kDetails, { { L"%Num", L"" } });
+    addPart(report, L"P1", L"S235", 2.5);
+    LastFooter sink;
+    VorBomEvaluator2::evaluate(&report.tmpl(), sink);
+
+    EXPECT_EQ((std::vector<const Item*>{ pReport, pDetails, pFooter }), sink.templateSections);
+}
+
+// Three billion pieces are no int, and the text shows six digits of them.
+TEST(VorBomSectionSinkTest, TotalsOfIntsBeyondTheirRangeHaveAllTheirDigits)
+{
+    const VorBomTypedValue total = totalOf({ 1'500'000'000, 1'500'000'001, 0 });
+
+    EXPECT_EQ(VorBomDataValue::kDoubleData, total.type);
+    EXPECT_TRUE(total.isWhole);
+    EXPECT_EQ(3'000'000'001, total.whole);
+    EXPECT_EQ(3'000'000'001.0, total.number);
+}
+
+TEST(VorBomSectionSinkTest, TotalsOfIntsAreWholeAlsoBackInTheirRange)
+{
+    const VorBomTypedValue total = totalOf({ INT_MAX, 1, INT_MIN });
+
+    EXPECT_EQ(VorBomDataValue::kDoubleData, total.type) << "once a double, always a double";
+    EXPECT_TRUE(total.isWhole);
+    EXPECT_EQ(0, total.whole);
+}
+
+TEST(VorBomSectionSinkTest, TotalsInTheRangeOfIntsAreWhole)
+{
+    const VorBomTypedValue total = totalOf({ 2, 3 }, 4);
+
+    EXPECT_EQ(VorBomDataValue::kIntData, total.type);
+    EXPECT_TRUE(total.isWhole);
+    EXPECT_EQ(9, total.whole);
+    EXPECT_EQ(9.0, total.number);
+}
+
+TEST(VorBomSectionSinkTest, TotalsWithADoubleInThemAreNotWhole)
+{
+    EXPECT_FALSE(totalOf({ 2'000'000'000, 2'000'000'000, 1.0 }).isWhole);
+    EXPECT_FALSE(totalOf({ 1.0, 2'000'000'000, 2'000'000'000 }).isWhole);
+    EXPECT_FALSE(totalOf({ 2'000'000'000, 2'000'000'000 }, 0.0).isWhole) << "the template says: a double";
+    EXPECT_FALSE(totalOf({ 2'000'000'000, VorString(L"many"), 2'000'000'000, 2'000'000'000 }).isWhole)
+        << "a text has replaced what was added before it";
+    EXPECT_TRUE(totalOf({ 2'000'000'000, 2'000'000'000 }, VorString()).isWhole) << "starts from zero of the first int";
+}
+
+// The plan of a footer serves one group after the other.
+TEST(VorBomSectionSinkTest, WholeTotalsOfOneGroupAreNotThoseOfTheNext)
+{
+    Report report;
+    Item* pGroup = report.addSection(nullptr, Item::kGroupHeader, { { L"%GroupBy:%Material", L"" } });
+    report.addSection(nullptr, Item::kGroupFooter, { { L"%SumBy:%Quantity", 0 } });
+    report.addSection(pGroup, Item::kGroupHeader, {});
+    for (int i = 0; i < 2; ++i)
+        report.addRow({ { L"%Material", L"S235" }, { L"%Quantity", 2'000'000'000 } });
+    report.addRow({ { L"%Material", L"S355" }, { L"%Quantity", 3 } });
+    report.tmpl().findUsedTokens();
+    LastFooter last;
+    VorBomEvaluator2::evaluate(&report.tmpl(), last);
+
+    EXPECT_TRUE(last.values.at(0).isWhole);
+    EXPECT_EQ(3, last.values.at(0).whole);
 }

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace
 {
 using Units = VorBomTemplateUnits;
@@ -274,4 +276,42 @@ TEST_F(VorBomTemplateUnitsTest, CopiesAreIndependent)
         EXPECT_EQ(Units::kNoUnit, pUnits->getUnitType(L"%C"));
         EXPECT_EQ(VorString(L"9.29"), pUnits->getDisplayString(L"%A", 9290304.0));
     }
+}
+
+TEST_F(VorBomTemplateUnitsTest, NumbersWithoutUnitHaveTheDecimalsThatAreSet)
+{
+    VorBomTemplateUnits units;
+    units.AddTokenType(L"%Weight", VorBomTemplateUnits::kWeightUnit);
+    const VorString weight = units.getDisplayString(L"%Weight", 12.3456789);
+    EXPECT_EQ(VorString(L"1.7214e+07"), units.getDisplayString(L"%Price", 17'214'000.0)) << "nothing is set";
+
+    units.setDecimals(L"%Price", 2);
+    EXPECT_EQ(VorString(L"17214000.00"), units.getDisplayString(L"%Price", 17'214'000.0));
+    EXPECT_EQ(VorString(L"0.1"), units.getDisplayString(L"%Hours", 0.1));
+    EXPECT_EQ(VorString(L"0.1"), units.getDisplayString(VorBomTemplateUnits::kNoUnit, 0.1));
+
+    units.setDecimals(0);
+    EXPECT_EQ(VorString(L"3000000000"), units.getDisplayString(L"%Quantity", 3e9));
+    EXPECT_EQ(VorString(L"2"), units.getDisplayString(VorBomTemplateUnits::kNoUnit, 1.75));
+    EXPECT_EQ(VorString(L"1.50"), units.getDisplayString(L"%Price", 1.5)) << "its own";
+    EXPECT_EQ(weight, units.getDisplayString(L"%Weight", 12.3456789)) << "has a unit";
+
+    units.setDecimals(L"%Price", VorBomTemplateUnits::kSignificantDigits);
+    EXPECT_EQ(VorString(L"1.5"), units.getDisplayString(L"%Price", 1.5));
+}
+
+TEST_F(VorBomTemplateUnitsTest, OddDecimalsAndNumbersAreSurvived)
+{
+    VorBomTemplateUnits units;
+    units.setDecimals(L"%Price", 2);
+    EXPECT_EQ(VorString(L"0.00"), units.getDisplayString(L"%Price", -0.001)) << "no -0";
+    EXPECT_EQ(VorString(L"-0.01"), units.getDisplayString(L"%Price", -0.01));
+    EXPECT_EQ(VorString(L"inf"), units.getDisplayString(L"%Price", HUGE_VAL));
+    EXPECT_EQ(312, units.getDisplayString(L"%Price", 1.7e308).length()) << "all of its digits";
+
+    units.setDecimals(L"%Price", 1'000'000);
+    EXPECT_EQ(102, units.getDisplayString(L"%Price", 1.5).length());
+    EXPECT_EQ(410, units.getDisplayString(L"%Price", 1.7e308).length());
+    units.setDecimals(L"%Price", -7);
+    EXPECT_EQ(VorString(L"1.5"), units.getDisplayString(L"%Price", 1.5));
 }

@@ -51,7 +51,9 @@ VorString VorBomDisplayColumn::textOf(double value, VorBomTemplateUnits& units)
     std::memcpy(&key, &value, sizeof key);
     if (const VorString* pText = m_texts.find(key))
         return *pText;
-    VorString text = m_pFormat != nullptr ? m_pFormat->textOf(value) : units.getDisplayString(m_type, value);
+    VorString text = m_pFormat != nullptr                     ? m_pFormat->textOf(value)
+                     : m_type == VorBomTemplateUnits::kNoUnit ? VorBomTemplateUnits::plainText(value, m_nDecimals)
+                                                              : units.getDisplayString(m_type, value);
     m_texts.remember(key, text);
     return text;
 }
@@ -61,9 +63,20 @@ void VorBomDisplayColumn::lookUpType(VorBomTemplateUnits& units)
     if (m_isFormula)
         registerFormulaUnit(units);
     m_type = units.getUnitType(m_name);
+    m_nDecimals = decimalsIn(units);
     m_texts.clear();
     // Read last, as registering this formula has raised it.
     m_nTypesKnown = units.numTokenTypes();
+}
+
+// A formula has those that were set for its text, else those of the first of its tokens that has its own.
+int VorBomDisplayColumn::decimalsIn(const VorBomTemplateUnits& units) const
+{
+    if (m_isFormula && !units.hasDecimals(m_name))
+        for (const VorString& token : VorBomDataToken::getTokensFromFormula(m_name))
+            if (units.hasDecimals(token))
+                return units.decimalsOf(token);
+    return units.decimalsOf(m_name);
 }
 
 // The first of its tokens that has a unit lends it: "%Length*%Weight" is shown as a length.

@@ -2,7 +2,7 @@
 //
 //   VorBomDisplayColumn(L"%SumBy:%Weight")            shows numbers as %Weight is shown
 //   VorBomDisplayColumn(L"%Formula:%Length*2")        as a length: in the unit of the first token that has one
-//   VorBomDisplayColumn(L"%Num")                      as "%g" does, when the units know no type for it
+//   VorBomDisplayColumn(L"%Num")                      as "%g" does, or with its decimals, when the units know no type
 //
 // The kind of unit is looked up at the first number, and again only when the units have been told of further tokens. So
 // an object is for the units of one evaluation alone.
@@ -45,11 +45,13 @@ private:
     VorString textOf(double value, VorBomTemplateUnits& units);
     void lookUpType(VorBomTemplateUnits& units);
     void registerFormulaUnit(VorBomTemplateUnits& units) const;
+    int decimalsIn(const VorBomTemplateUnits& units) const;
 
     VorString m_name; // without prefixes; for a formula its text
     bool m_isFormula;
     const VorBomNumberFormat* m_pFormat = nullptr;
     VorBomTemplateUnits::eTokenUnitType m_type = VorBomTemplateUnits::kNoUnit;
+    int m_nDecimals = VorBomTemplateUnits::kSignificantDigits; // of numbers without a unit
     int m_nTypesKnown = kNeverLookedUp; // how many tokens the units knew when the type was looked up
     VorBomTextMemo m_texts;             // of doubles, in the units of m_type
     VorBomTextMemo m_integerTexts;

@@ -5,12 +5,19 @@
 
 namespace
 {
+void setWhole(VorBomTypedValue& value, std::int64_t whole)
+{
+    value.isWhole = true;
+    value.whole = whole;
+    value.number = static_cast<double>(whole);
+}
+
 VorBomTypedValue typed(const VorBomDataValue& value)
 {
     VorBomTypedValue typedValue;
     typedValue.type = value.type();
     if (value.type() == VorBomDataValue::kIntData)
-        typedValue.number = *static_cast<const int*>(value.data());
+        setWhole(typedValue, *static_cast<const int*>(value.data()));
     else if (value.type() == VorBomDataValue::kDoubleData)
         typedValue.number = *static_cast<const double*>(value.data());
     return typedValue;
@@ -36,6 +43,11 @@ void VorBomDisplayPlan::show(VorBomTemplateUnits& units, VorBomDataTupleArray& t
     VorBomDataTuple* pTuple = tuples.begin();
     for (VorBomDisplayColumn& column : m_columns)
         column.show(units, pTuple++->value());
+}
+
+void VorBomDisplayPlan::setWholeTotal(int index, std::int64_t total)
+{
+    setWhole(m_values[static_cast<std::size_t>(index)], total);
 }
 
 // A column knows the unit of a number only once it has shown it.

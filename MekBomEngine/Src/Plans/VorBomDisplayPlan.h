@@ -13,6 +13,7 @@
 #include "VorBomTypedValue.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 class VorBomDisplayPlan
@@ -35,6 +36,9 @@ public:
 
     // What the tuples shown last held before, in their order; null unless they are kept.
     const VorBomTypedValue* values() const { return m_values.empty() ? nullptr : m_values.data(); }
+
+    // Tells of a double among the values kept last that it is this sum of ints. Only where values are kept.
+    void setWholeTotal(int index, std::int64_t total);
 
 private:
     void showAndKeep(VorBomTemplateUnits& units, VorBomDataTupleArray& tuples);

@@ -118,8 +118,30 @@ std::unique_ptr<VorBomTemplateItem> VorBomFooterPlan::finish(const VorBomDataRow
     takeNewRows(rows);
     std::unique_ptr<VorBomTemplateItem> pFinished = std::move(m_pFooter);
     m_numFoundInFinished.swap(m_numFound);
+    m_wholeSumsInFinished.swap(m_wholeSums);
     beginFooter();
     return pFinished;
+}
+
+void VorBomFooterPlan::keepValues()
+{
+    m_display.keepValues();
+    m_keepsValues = true;
+    beginWholeSums();
+}
+
+// Totals of ints that have become doubles are told apart by their rows: each that had a datum had an int.
+const VorBomTypedValue* VorBomFooterPlan::typedValues()
+{
+    const VorBomTypedValue* const pValues = m_display.values();
+    for (std::size_t i = 0; i < m_wholeSumsInFinished.size(); ++i)
+    {
+        const WholeSum& whole = m_wholeSumsInFinished[i];
+        if (pValues[i].type == VorBomDataValue::kDoubleData && whole.numAdded == m_numFoundInFinished[i] &&
+            whole.numAdded > 0)
+            m_display.setWholeTotal(static_cast<int>(i), whole.sum);
+    }
+    return pValues;
 }
 
 // Room is taken for the section's tuples and no more, since nothing is appended to a footer.
@@ -129,7 +151,30 @@ void VorBomFooterPlan::beginFooter()
     m_pFooter->getData().setPhysicalLength(m_section.getData().length());
     m_pFooter->setData(m_section.getData());
     m_numFound.assign(m_isSum.size(), 0);
+    if (m_keepsValues)
+        beginWholeSums();
     m_nTakenRows = 0;
+}
+
+// A total starts from the template's number, from zero where that is none; from a double no sum of ints comes.
+void VorBomFooterPlan::beginWholeSums()
+{
+    const VorBomDataTuple* pColumn = m_section.getData().begin();
+    m_wholeSums.resize(m_isSum.size());
+    for (std::size_t i = 0; i < m_isSum.size(); ++i, ++pColumn)
+    {
+        const VorBomDataValue& start = pColumn->value();
+        m_wholeSums[i].sum = start.type() == VorBomDataValue::kIntData ? intOf(start) : 0;
+        m_wholeSums[i].numAdded = m_isSum[i] != 0 && !isDouble(start) ? 0 : WholeSum::kNone;
+    }
+}
+
+void VorBomFooterPlan::addWhole(WholeSum& whole, const VorBomDataValue& value)
+{
+    if (value.type() != VorBomDataValue::kIntData || whole.numAdded == WholeSum::kNone)
+        return;
+    whole.sum += intOf(value);
+    ++whole.numAdded;
 }
 
 // Columns and tuples stand in one order, as the columns were made from the section's tuples: the i-th column finds what
@@ -152,6 +197,10 @@ void VorBomFooterPlan::takeIn(VorBomDataRow& row)
         if (isSum && isDouble(value) && isDouble(pDatum->value())) // as takeValue() does it: nearly every total
             value.set(doubleOf(value) + doubleOf(pDatum->value()));
         else
+        {
+            if (m_keepsValues)
+                addWhole(m_wholeSums[static_cast<std::size_t>(i)], pDatum->value());
             takeValue(value, pDatum->value(), isSum);
+        }
     }
 }

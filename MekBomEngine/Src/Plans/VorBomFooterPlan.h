@@ -17,6 +17,7 @@
 #include "VorBomEngineState.h"
 #include "VorBomTemplateItem.h"
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -39,8 +40,25 @@ public:
     // Shows the footers that finish() has handed over.
     VorBomDisplayPlan& display() { return m_display; }
 
+    // From the next row on totals of ints are added up in 64 bits as well, and what is shown is kept. To be called
+    // before the first row.
+    void keepValues();
+    // What the footer shown last held before; null unless that is kept.
+    const VorBomTypedValue* typedValues();
+
 private:
+    // What the ints of a column add up to.
+    struct WholeSum
+    {
+        std::int64_t sum = 0;
+        int numAdded = kNone;
+
+        static constexpr int kNone = -1; // of a column that is no total, or does not start from a whole number
+    };
+
     void beginFooter();
+    void beginWholeSums();
+    static void addWhole(WholeSum& whole, const VorBomDataValue& value);
     void takeIn(VorBomDataRow& row);
 
     const VorBomTemplateItem& m_section;
@@ -50,5 +68,8 @@ private:
     std::unique_ptr<VorBomTemplateItem> m_pFooter; // of the open group; never null
     std::vector<int> m_numFound;                   // for each column, in the rows of the open group so far
     std::vector<int> m_numFoundInFinished;
+    std::vector<WholeSum> m_wholeSums; // one for each column, or none unless values are kept
+    std::vector<WholeSum> m_wholeSumsInFinished;
     int m_nTakenRows = 0;
+    bool m_keepsValues = false;
 };

@@ -97,16 +97,15 @@ VorBomFormulaColumn::VorBomFormulaColumn(std::shared_ptr<VorBomTuplePositions> p
     }
 }
 
-int VorBomFormulaColumn::compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result,
-                                 VorString* pMessage)
+int VorBomFormulaColumn::compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result, Error* pError)
 {
     // What is traced must be what is computed, so tracing does without the compiled form.
     if (!m_isCompiled || ExpressionsEvaluator::isTraced())
-        return computeOnce(tuples, m_nIndex, pRow, result, pMessage);
+        return computeOnce(tuples, m_nIndex, pRow, result, pError);
     if (computeCompiled(tuples, pRow, result))
         return 1;
-    if (pMessage != nullptr) // which the compiled formula does not know
-        computeOnce(tuples, m_nIndex, pRow, result, pMessage);
+    if (pError != nullptr) // which the compiled formula does not know
+        computeOnce(tuples, m_nIndex, pRow, result, pError);
     return 0;
 }
 
@@ -128,7 +127,7 @@ int VorBomFormulaColumn::computeCompiled(const VorBomDataTupleArray& tuples, Vor
 }
 
 int VorBomFormulaColumn::computeOnce(const VorBomDataTupleArray& tuples, int index, const VorBomDataRow* pRow,
-                                     double& result, VorString* pMessage)
+                                     double& result, Error* pError)
 {
     const VorString formula = formulaOf(tuples[index]);
     ExpressionsEvaluator evaluator(formula.getStringW(), static_cast<unsigned int>(formula.length()));
@@ -143,8 +142,8 @@ int VorBomFormulaColumn::computeOnce(const VorBomDataTupleArray& tuples, int ind
     VorExprEvVariableList::ofThread().keepNames(); // those of the section and the row go, the variables stay
     if (!nResult)
     {
-        if (pMessage != nullptr)
-            *pMessage = VorString(text);
+        if (pError != nullptr)
+            *pError = { VorString(text), evaluator.errorPosition() };
         return 0;
     }
     // Through its text, as the result of a formula always comes: rounded to the decimals that the text has.

@@ -20,20 +20,26 @@
 class VorBomFormulaColumn
 {
 public:
+    struct Error
+    {
+        VorString message;
+        int position = -1; // in the formula, in characters; -1 for none
+    };
+
     // `tuples` are those of the section that all others are made from; the one at `index` must be a formula.
     VorBomFormulaColumn(std::shared_ptr<VorBomTuplePositions> pPositions, const VorBomDataTupleArray& tuples,
                         int index);
 
     int index() const { return m_nIndex; }
 
-    // 0 with `result` untouched when the formula is none or fails. The row may be null. `pMessage`, if not null, is set
-    // to the message of a formula that fails, which costs another evaluation.
-    int compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result, VorString* pMessage = nullptr);
+    // 0 with `result` untouched when the formula is none or fails. The row may be null. `pError`, if not null, is set
+    // to the error of a formula that fails, which costs another evaluation.
+    int compute(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result, Error* pError = nullptr);
 
     // Computes it by the formula evaluator, whose variables and errors of this thread are afterwards those of the
     // formula. What a debug switch lets see is seen once.
     static int computeOnce(const VorBomDataTupleArray& tuples, int index, const VorBomDataRow* pRow, double& result,
-                           VorString* pMessage = nullptr);
+                           Error* pError = nullptr);
 
 private:
     int computeCompiled(const VorBomDataTupleArray& tuples, VorBomDataRow* pRow, double& result);

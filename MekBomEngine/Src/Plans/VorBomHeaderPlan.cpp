@@ -112,21 +112,21 @@ void VorBomHeaderPlan::computeFormulas(VorBomTemplateItem& evaluated, VorBomData
     VorBomDataTupleArray& tuples = evaluated.getData();
     m_failures.clear();
     m_pLastRow = pRow;
-    VorString message;
+    VorBomFormulaColumn::Error error;
     for (VorBomFormulaColumn& formula : m_formulas)
     {
         VorBomDataTuple& tuple = tuples.begin()[formula.index()];
         double result = 0;
-        if (formula.compute(tuples, pRow, result, m_keepsFailures ? &message : nullptr))
+        if (formula.compute(tuples, pRow, result, m_keepsFailures ? &error : nullptr))
         {
             tuple.value().set(result);
             if (pRow != nullptr)
                 pRow->getData().emplace(tuple.token().token(), result);
         }
-        else if (!message.isEmpty()) // a formula that is none has no message: there is nothing to compute
+        else if (!error.message.isEmpty()) // a formula that is none has no message: there is nothing to compute
         {
-            m_failures.push_back({ tuple.token().token(), message });
-            message = VorString();
+            m_failures.push_back({ formula.index(), tuple.token().token(), error.message, error.position });
+            error = VorBomFormulaColumn::Error();
         }
     }
 }

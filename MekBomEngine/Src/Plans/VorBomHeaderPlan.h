@@ -43,8 +43,10 @@ public:
     // A formula that could not be computed, and why.
     struct Failure
     {
+        int tuple; // of the section
         VorString token;
         VorString message;
+        int position; // of the error in the formula; VorExprEvalError::kNoPosition for none
     };
 
     // From now on computeFormulas() writes down the formulas that fail: each costs another evaluation, for its message.

@@ -36,5 +36,5 @@ void VorBomLevelPlan::keepValues()
 {
     header.display().keepValues();
     if (footer.has_value())
-        footer->display().keepValues();
+        footer->keepValues();
 }

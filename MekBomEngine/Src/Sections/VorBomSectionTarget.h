@@ -12,6 +12,7 @@
 #pragma once
 
 #include "VorBomEngineState.h"
+#include "VorBomEvaluationOptions.h"
 
 class VorBomTemplateUnits;
 
@@ -27,17 +28,26 @@ public:
     // anew.
     virtual void take(VorBomEngineStateArray& stack, int level) = 0;
 
+    // What becomes of lines that read as the one before.
+    VorBomEvaluationOptions::eEqualLines equalLines() const { return m_equalLines; }
+
     // The line of `row` is merged into the section before; it is not taken.
     virtual void takeMergedRow(const VorBomDataRow& row) = 0;
 
     // Called with 0 before the first row and after each; 0 stops the evaluation.
     virtual int takeProgress(int numRowsDone) = 0;
 
+    // All sections were taken.
+    virtual void takeEnd() = 0;
+
     // Destroys what the level has evaluated and nobody has taken, with all that hangs in it.
     static void destroySections(VorBomEngineState& state);
 
 protected:
-    VorBomSectionTarget() = default;
+    explicit VorBomSectionTarget(VorBomEvaluationOptions::eEqualLines equalLines) : m_equalLines(equalLines) {}
     VorBomSectionTarget(const VorBomSectionTarget&) = default;
     VorBomSectionTarget& operator=(const VorBomSectionTarget&) = default;
+
+private:
+    VorBomEvaluationOptions::eEqualLines m_equalLines;
 };

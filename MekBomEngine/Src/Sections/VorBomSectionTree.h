@@ -17,6 +17,8 @@
 class VorBomSectionTree : public VorBomSectionTarget
 {
 public:
+    explicit VorBomSectionTree(VorBomEvaluationOptions::eEqualLines equalLines) : VorBomSectionTarget(equalLines) {}
+
     void open(VorBomEngineStateArray&, int, VorBomTemplateUnits&) override {}
 
     // Reports "NULL != completedGroup.m_pCollector" for sections of level 0 without a collector, and destroys them with
@@ -25,4 +27,5 @@ public:
 
     void takeMergedRow(const VorBomDataRow&) override {}
     int takeProgress(int) override { return 1; }
+    void takeEnd() override {}
 };

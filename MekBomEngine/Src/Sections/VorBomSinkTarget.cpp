@@ -11,14 +11,23 @@
 
 #include <utility>
 
-VorBomSinkTarget::VorBomSinkTarget(VorBomSectionSink& sink, VorBomEngineStateArray& stack)
-    : m_sink(sink), m_takesEqualLines((sink.requests() & VorBomSectionSink::kEqualLines) != 0)
+namespace
+{
+using Options = VorBomEvaluationOptions;
+}
+
+VorBomSinkTarget::VorBomSinkTarget(VorBomSectionSink& sink, Options::eEqualLines equalLines,
+                                   VorBomEngineStateArray& stack)
+    : VorBomSectionTarget((sink.requests() & VorBomSectionSink::kEqualLines) != 0 ? Options::kKeepEqualLines
+                                                                                  : equalLines),
+      m_sink(sink),
+      m_takesFailures((sink.requests() & VorBomSectionSink::kFailedFormulas) != 0)
 {
     for (VorBomEngineState& state : stack)
     {
         if ((sink.requests() & VorBomSectionSink::kTypedValues) != 0)
             state.m_pPlan->keepValues();
-        if ((sink.requests() & VorBomSectionSink::kFailedFormulas) != 0)
+        if (m_takesFailures)
             state.m_pPlan->header.keepFailures();
     }
 }
@@ -44,8 +53,9 @@ void VorBomSinkTarget::take(VorBomEngineStateArray& stack, int level)
         handOverHeader(*pHeader, group, level);
     if (pFooter != nullptr)
         handOverFooter(*pFooter, group, level);
-    // Without a section before it a line is compared with none.
-    if (!m_takesEqualLines && level == stack.length() - 1 && (pHeader != nullptr || pFooter != nullptr))
+    // What no line is compared with need not be kept.
+    if (equalLines() != Options::kKeepEqualLines && level == stack.length() - 1 &&
+        (pHeader != nullptr || pFooter != nullptr))
     {
         std::swap(m_pSectionBefore, pFooter != nullptr ? pFooter : pHeader);
         group.m_pSectionBefore = m_pSectionBefore.get();
@@ -56,18 +66,21 @@ void VorBomSinkTarget::take(VorBomEngineStateArray& stack, int level)
 
 void VorBomSinkTarget::handOverHeader(const VorBomTemplateItem& header, const VorBomEngineState& group, int level)
 {
-    m_sink.takeHeader({ header, level, header.getFirstDataRow(), {}, group.m_pPlan->header.display().values() });
+    const VorBomTypedValue* const pValues = group.m_pPlan->header.display().values();
+    m_sink.takeHeader({ header, level, header.getFirstDataRow(), {}, pValues, nullptr, group.m_pHeader });
 }
 
 void VorBomSinkTarget::handOverFooter(const VorBomTemplateItem& footer, const VorBomEngineState& group, int level)
 {
     VorBomFooterPlan& plan = *group.m_pPlan->footer;
     const VorBomCountedRows rows(group.m_dataRows);
-    m_sink.takeFooter({ footer, level, nullptr, rows, plan.display().values(), plan.numRowsWithDatum() });
+    m_sink.takeFooter({ footer, level, nullptr, rows, plan.typedValues(), plan.numRowsWithDatum(), group.m_pFooter });
 }
 
 void VorBomSinkTarget::reportFailedFormulas(const VorBomEngineState& group)
 {
+    if (!m_takesFailures)
+        return;
     for (const VorBomHeaderPlan::Failure& failure : group.m_pPlan->header.failures())
         m_sink.takeFailedFormula(*group.m_pEvaluatedHeader->getFirstDataRow(), failure.token, failure.message);
 }

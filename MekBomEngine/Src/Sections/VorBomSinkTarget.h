@@ -12,12 +12,14 @@ class VorBomSinkTarget : public VorBomSectionTarget
 {
 public:
     // Prepares the plans of all levels for what the sink asks for. It is not owned.
-    VorBomSinkTarget(VorBomSectionSink& sink, VorBomEngineStateArray& stack);
+    VorBomSinkTarget(VorBomSectionSink& sink, VorBomEvaluationOptions::eEqualLines equalLines,
+                     VorBomEngineStateArray& stack);
 
     void open(VorBomEngineStateArray& stack, int level, VorBomTemplateUnits& units) override;
     void take(VorBomEngineStateArray& stack, int level) override;
     void takeMergedRow(const VorBomDataRow& row) override { m_sink.takeMergedRow(row); }
     int takeProgress(int numRowsDone) override { return m_sink.takeProgress(numRowsDone); }
+    void takeEnd() override { m_sink.takeEnd(); }
 
 private:
     using Section = std::unique_ptr<VorBomTemplateItem>; // nothing hangs in it, so it goes without empty()
@@ -27,6 +29,6 @@ private:
     void reportFailedFormulas(const VorBomEngineState& group);
 
     VorBomSectionSink& m_sink;
-    bool m_takesEqualLines;   // no line is merged
+    bool m_takesFailures;
     Section m_pSectionBefore; // of the deepest level, handed over last
 };

@@ -172,7 +172,8 @@ std::vector<std::uint32_t> inOrder(const std::vector<const VorString*>& texts, b
 }
 }
 
-VorBomRanks::VorBomRanks(const std::vector<const VorBomDataTuple*>& tuples, VorBomDataToken::eSortType sortType)
+VorBomRanks::VorBomRanks(const std::vector<const VorBomDataTuple*>& tuples, VorBomDataToken::eSortType sortType,
+                         const VorBomValueOrder& order)
     : m_ranks(tuples.size(), kWithoutDatum)
 {
     if (std::all_of(tuples.begin(), tuples.end(), isMissing))
@@ -180,7 +181,7 @@ VorBomRanks::VorBomRanks(const std::vector<const VorBomDataTuple*>& tuples, VorB
     const bool isNatural = sortType == VorBomDataToken::kSortAlphanumeric;
     const VorBomDataValue::eBomDataValueType type = commonType(tuples);
     if (type == VorBomDataValue::kStringData)
-        rankTexts(tuples, isNatural);
+        rankTexts(tuples, isNatural, order);
     else if (type == VorBomDataValue::kIntData && !isNatural)
         rankNumbers<int>(tuples);
     else if (type == VorBomDataValue::kDoubleData && !isNatural)
@@ -207,7 +208,8 @@ void VorBomRanks::sortStably(std::vector<std::uint32_t>& rows, bool isAscending)
 }
 
 // Equal texts are found by their characters first: a column has far fewer texts than rows, and only those are compared.
-void VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bool naturally)
+void VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bool naturally,
+                            const VorBomValueOrder& order)
 {
     // Until the ranks are known m_ranks holds the number of each row's text.
     VorBomDistinctTexts distinct;
@@ -217,7 +219,12 @@ void VorBomRanks::rankTexts(const std::vector<const VorBomDataTuple*>& tuples, b
     const std::vector<const VorString*>& texts = distinct.texts();
 
     std::vector<std::uint32_t> rankOfText(texts.size());
-    for (const std::uint32_t text : inOrder(texts, naturally))
+    std::vector<std::uint32_t> sorted = inOrder(texts, naturally);
+    if (!order.isEmpty())
+        std::stable_sort(sorted.begin(), sorted.end(),
+                         [&](std::uint32_t a, std::uint32_t b)
+                         { return order.placeOf(*texts[a]) < order.placeOf(*texts[b]); });
+    for (const std::uint32_t text : sorted)
         rankOfText[text] = m_nNumRanks++;
     for (std::size_t row = 0; row < tuples.size(); ++row)
         if (!isMissing(tuples[row]))

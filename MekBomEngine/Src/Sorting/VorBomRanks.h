@@ -14,6 +14,7 @@
 
 #include "VorBomDataToken.h"
 #include "VorBomDataTuple.h"
+#include "VorBomValueOrder.h"
 
 #include <cstdint>
 #include <vector>
@@ -22,7 +23,9 @@ class VorBomRanks
 {
 public:
     // Ranks a column of one tuple per row, null for a row without the datum, which ranks lowest.
-    VorBomRanks(const std::vector<const VorBomDataTuple*>& tuples, VorBomDataToken::eSortType sortType);
+    // Texts that `order` lists rank by their places, below all others.
+    VorBomRanks(const std::vector<const VorBomDataTuple*>& tuples, VorBomDataToken::eSortType sortType,
+                const VorBomValueOrder& order = VorBomValueOrder());
 
     std::uint32_t rankOf(std::uint32_t row) const { return m_ranks[row]; }
     bool hasDatum(std::uint32_t row) const { return m_ranks[row] != kWithoutDatum; }
@@ -37,7 +40,7 @@ public:
 private:
     static constexpr std::uint32_t kWithoutDatum = 0;
 
-    void rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bool naturally);
+    void rankTexts(const std::vector<const VorBomDataTuple*>& tuples, bool naturally, const VorBomValueOrder& order);
     template <class Number>
     void rankNumbers(const std::vector<const VorBomDataTuple*>& tuples);
     void rankAllAlike(const std::vector<const VorBomDataTuple*>& tuples);

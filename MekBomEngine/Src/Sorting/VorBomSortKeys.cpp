@@ -23,6 +23,13 @@ VorBomSortKeys::VorBomSortKeys(const VorStringArray& tokens, const VorArray<int>
         m_keys.push_back({ tokens[i], orders[i] == 1, sortTypeOf(tokens[i], sortTypes[i]) });
 }
 
+void VorBomSortKeys::setValueOrder(std::size_t key, const VorBomValueOrder& order)
+{
+    m_keys[key].valueOrder = order;
+    if (!order.isEmpty() && isUnknown(key))
+        m_keys[key].sortType = VorBomDataToken::kSortString;
+}
+
 int VorBomSortKeys::Key::compare(const VorBomDataTuple* pFirst, const VorBomDataTuple* pSecond)
 {
     // Descending turns the place of a missing datum round as well.
@@ -36,7 +43,11 @@ int VorBomSortKeys::Key::compareValues(const VorBomDataTuple* pFirst, const VorB
 {
     const bool bothHaveIt = pFirst != nullptr && pSecond != nullptr;
     if (bothHaveIt)
+    {
+        if (const int order = valueOrder.compare(pFirst->value(), pSecond->value()))
+            return order;
         findSortType();
+    }
     if (bothHaveIt && sortType == VorBomDataToken::kSortAlphanumeric)
         return pFirst->value().compareAlphanumeric(pSecond->value());
     return VorBomDataTuple::compareValues(pFirst, pSecond);

@@ -11,6 +11,7 @@
 
 #include "VorBomDataToken.h"
 #include "VorBomDataTuple.h"
+#include "VorBomValueOrder.h"
 
 #include "MekRoots/Exp/VorArray.h"
 #include "MekRoots/Exp/VorString.h"
@@ -26,6 +27,11 @@ public:
 
     // One entry for each token: 1 for ascending or 0 for descending, and an eSortType or kByCatalogue.
     VorBomSortKeys(const VorStringArray& tokens, const VorArray<int>& orders, const VorArray<int>& sortTypes);
+
+    // Texts that `order` lists compare by their places from now on, and stand before all others. A token that somebody
+    // has put in order is known.
+    void setValueOrder(std::size_t key, const VorBomValueOrder& order);
+    const VorBomValueOrder& valueOrder(std::size_t key) const { return m_keys[key].valueOrder; }
 
     std::size_t count() const { return m_keys.size(); }
     const VorString& token(std::size_t key) const { return m_keys[key].token; }
@@ -64,6 +70,7 @@ private:
         VorString token;
         bool isAscending;
         int sortType;
+        VorBomValueOrder valueOrder = {};
     };
 
     std::vector<Key> m_keys;

@@ -56,7 +56,7 @@ VorBomSortedRows::Ranks VorBomSortedRows::rankColumns()
     bool hasUnordered = false;
     for (std::size_t key = 0; key < m_keys.count(); ++key)
     {
-        ranks.emplace_back(m_columns[key], m_keys.sortType(key));
+        ranks.emplace_back(m_columns[key], m_keys.sortType(key), m_keys.valueOrder(key));
         hasUnordered = hasUnordered || ranks.back().hasUnordered();
         if (!hasUnordered)
             m_columns[key] = Column();

@@ -125,3 +125,22 @@ TEST(VorBomSortKeysTest, TokensWithoutEntryAreUnknownAndComparePlainly)
         EXPECT_EQ(VorBomDataToken::kSortString, keys.sortType(key));
     }
 }
+
+TEST(VorBomSortKeysTest, ValueOrderComesBeforeTheSortType)
+{
+    VorStringArray texts;
+    texts.append(VorString(L"b"));
+    texts.append(VorString(L"a"));
+    const VorBomValueOrder order(texts);
+
+    EXPECT_FALSE(order.isEmpty());
+    EXPECT_EQ(0, order.placeOf(L"b"));
+    EXPECT_EQ(1, order.placeOf(L"a"));
+    EXPECT_EQ(2, order.placeOf(L"c"));
+    EXPECT_EQ(-1, order.compare(VorBomDataValue(L"b"), VorBomDataValue(L"a")));
+    EXPECT_EQ(1, order.compare(VorBomDataValue(1), VorBomDataValue(L"a"))) << "a number is not listed";
+    EXPECT_EQ(0, order.compare(VorBomDataValue(1), VorBomDataValue(L"c")));
+    EXPECT_TRUE(VorBomValueOrder().isEmpty());
+    EXPECT_TRUE(VorBomValueOrder(VorStringArray()).isEmpty());
+    EXPECT_EQ(0, VorBomValueOrder().placeOf(L"a"));
+}

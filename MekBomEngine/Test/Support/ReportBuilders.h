@@ -121,9 +121,9 @@ struct VorBomEvaluator2Access
         return E::endGroup(stack, level, pUnits);
     }
     static int sortInputData(VorBomData* pData, VorBomEngineStateArray& stack,
-                             const VorBomDataToken::SortTypes& sortTypes = VorBomDataToken::SortTypes())
+                             const VorBomTemplate& reportTemplate = VorBomTemplate())
     {
-        return E::sortInpuDataBySortingTokens(pData, stack, sortTypes);
+        return E::sortInpuDataBySortingTokens(pData, stack, reportTemplate);
     }
     static int compareDataRow(VorBomDataRow* pFirst, VorBomDataRow* pSecond)
     {

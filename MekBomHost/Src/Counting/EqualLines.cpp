@@ -125,6 +125,7 @@ void EqualLines::take(const VorBomReportSection& line)
 {
     if (m_pShown == nullptr)
         m_pShown = std::make_unique<VorBomTemplateItem>(line.section);
+    m_pTemplateSection = line.pTemplateSection;
     append(line);
     const auto [place, isNew] = m_index.insert(m_lines.size() - 1);
     if (!isNew)
@@ -157,6 +158,7 @@ void EqualLines::addLastTo(std::size_t line)
         if (!m_columns[i].isAdded || !holdsNumber(pSum->type))
             continue;
         pSum->number += pAdded->number;
+        pSum->whole += pAdded->whole;
         if (pAdded->type == VorBomDataValue::kDoubleData)
             *pSum = { pAdded->type, pAdded->unitType, pSum->number };
     }
@@ -205,7 +207,8 @@ void EqualLines::handOn(std::size_t line)
             pTuple->value().set(textOfNumber(m_values[i], m_columns[i - first].pFormat, m_units));
         else
             pTuple->value().set(m_texts[i]);
-    SectionRelay::takeHeader({ *m_pShown, m_level, m_lines[line].pRow, {}, m_values.data() + first });
+    SectionRelay::takeHeader(
+        { *m_pShown, m_level, m_lines[line].pRow, {}, m_values.data() + first, nullptr, m_pTemplateSection });
     for (const VorBomDataRow* const pRow : m_lines[line].otherRows)
         SectionRelay::takeMergedRow(*pRow);
 }

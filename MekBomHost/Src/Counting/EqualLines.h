@@ -110,8 +110,9 @@ private:
     std::vector<Line> m_lines; // of the open group
     std::vector<VorString> m_texts;
     std::vector<VorBomTypedValue> m_values;
-    LineSet m_index;                              // of the lines above
-    std::unique_ptr<VorBomTemplateItem> m_pShown; // the line that is handed on
+    LineSet m_index;                                        // of the lines above
+    std::unique_ptr<VorBomTemplateItem> m_pShown;           // the line that is handed on
+    const VorBomTemplateItem* m_pTemplateSection = nullptr; // that lines are made from; not owned
     int m_numRowsAdded = 0;
     std::vector<Finding> m_findings;
 };

@@ -104,8 +104,8 @@ void OtherTotals::takeFooter(const VorBomReportSection& footer)
         const VorBomTemplateUnits& units = *m_template.pTemplate->getBomTemplateUnits();
         shown.getData()[total.tuple].value().set(isKnown ? textOfNumber(value, total.pFormat, units) : VorString());
     }
-    SectionRelay::takeFooter(
-        { shown, footer.level, footer.pRow, footer.countedRows, m_values.data(), footer.pNumRowsWithDatum });
+    SectionRelay::takeFooter({ shown, footer.level, footer.pRow, footer.countedRows, m_values.data(),
+                               footer.pNumRowsWithDatum, footer.pTemplateSection });
 }
 
 VorBomTypedValue OtherTotals::valueOf(const Total& total, const VorBomReportSection& footer)

@@ -31,6 +31,7 @@ public:
         m_next.takeFailedFormula(row, token, message);
     }
     int takeProgress(int numRowsDone) override { return m_next.takeProgress(numRowsDone); }
+    void takeEnd() override { m_next.takeEnd(); }
 
 protected:
     // `next` is not owned and must outlive this sink. `requests` are wanted beside those of `next`.

@@ -6,18 +6,18 @@
 
 #include "ByteWord.h"
 
+#include "MekRoots/Exp/VorUtf8.h"
+
 #include <utf8proc.h>
 
 #include <algorithm>
 #include <cstdint>
-#include <vector>
 
 namespace mekbom::Utf8
 {
 namespace
 {
-const int kReplacement = 0xFFFD;
-const int kMostBytes = 4;          // of one sequence
+const int kReplacement = VorUtf8::kReplacement;
 const std::size_t kMostShort = 64; // characters of texts as nearly all cells are; arbitrary
 const std::uint64_t kHighBits = ByteWord::kEachByte * 0x80;
 
@@ -51,48 +51,9 @@ std::size_t asciiLength(std::string_view bytes)
 // The code point at the start of `bytes` and its length in bytes; length 0 where there is no valid one.
 int decode(std::string_view bytes, std::size_t& length)
 {
-    const auto* pBytes = reinterpret_cast<const utf8proc_uint8_t*>(bytes.data());
-    utf8proc_int32_t codePoint = kReplacement;
-    const utf8proc_ssize_t numRead = utf8proc_iterate(
-        pBytes, static_cast<utf8proc_ssize_t>(std::min<std::size_t>(bytes.size(), kMostBytes)), &codePoint);
-    length = numRead > 0 ? static_cast<std::size_t>(numRead) : 0;
+    int codePoint = kReplacement;
+    length = static_cast<std::size_t>(VorUtf8::decode(bytes.data(), bytes.size(), codePoint));
     return codePoint;
-}
-
-bool isSurrogate(unsigned codePoint, unsigned first)
-{
-    return codePoint >= first && codePoint < first + 0x400;
-}
-
-// The code point that starts at `pText`; a pair of surrogates, where wchar_t has 16 bits, is one. Moves `pText` past
-// it.
-int takeWide(const wchar_t*& pText, const wchar_t* pEnd)
-{
-    const auto unit = static_cast<unsigned>(*pText++); // NOLINT(bugprone-signed-char-misuse): a wchar_t is no char
-    if (sizeof(wchar_t) == 2 && isSurrogate(unit, 0xD800) && pText != pEnd)
-    {
-        const auto low = static_cast<unsigned>(*pText); // NOLINT(bugprone-signed-char-misuse): as above
-        if (isSurrogate(low, 0xDC00))
-        {
-            ++pText;
-            return static_cast<int>(0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00));
-        }
-    }
-    const auto codePoint = static_cast<utf8proc_int32_t>(unit);
-    return utf8proc_codepoint_valid(codePoint) ? codePoint : kReplacement;
-}
-
-// The reverse of takeWide(), for a valid code point.
-void appendWide(std::vector<wchar_t>& text, int codePoint)
-{
-    if (sizeof(wchar_t) == 2 && codePoint > 0xFFFF)
-    {
-        const auto offset = static_cast<unsigned>(codePoint - 0x10000);
-        text.push_back(static_cast<wchar_t>(0xD800 + (offset >> 10)));
-        text.push_back(static_cast<wchar_t>(0xDC00 + (offset & 0x3FF)));
-        return;
-    }
-    text.push_back(static_cast<wchar_t>(codePoint));
 }
 }
 
@@ -141,26 +102,19 @@ VorString toWide(std::string_view bytes)
         std::copy(bytes.begin(), bytes.end(), characters);
         return VorString(characters, static_cast<int>(bytes.size()));
     }
-    std::vector<wchar_t> text;
-    text.reserve(bytes.size());
-    while (!bytes.empty())
-        appendWide(text, takeCodePoint(bytes));
-    return VorString(text.data(), static_cast<int>(text.size()));
+    return VorUtf8::toText(bytes);
 }
 
 std::string toBytes(const VorString& text)
 {
-    std::string bytes;
-    append(bytes, text);
-    return bytes;
+    return VorUtf8::toBytes(text);
 }
 
 void append(std::string& bytes, const VorString& text)
 {
-    const wchar_t* pText = text.getStringW();
-    const wchar_t* const pEnd = pText + text.length();
-    while (pText != pEnd)
-        appendCodePoint(bytes, takeWide(pText, pEnd));
+    const std::size_t before = bytes.size();
+    bytes.resize(before + VorUtf8::numBytes(text));
+    VorUtf8::write(text, bytes.data() + before);
 }
 
 int displayWidth(int codePoint)
@@ -200,8 +154,7 @@ void appendCodePoint(std::string& bytes, int codePoint)
         bytes += static_cast<char>(codePoint);
         return;
     }
-    utf8proc_uint8_t encoded[kMostBytes];
-    const utf8proc_ssize_t length = utf8proc_encode_char(codePoint, encoded);
-    bytes.append(reinterpret_cast<const char*>(encoded), static_cast<std::size_t>(length));
+    char encoded[VorUtf8::kMostBytes];
+    bytes.append(encoded, static_cast<std::size_t>(VorUtf8::encode(codePoint, encoded)));
 }
 }
