@@ -12,6 +12,8 @@ trap 'rm -rf "$work"' EXIT
 for copy in first second-copy; do
     mkdir -p "$work/$copy"
     git ls-files -z | xargs -0 tar -cf - | tar -xf - -C "$work/$copy"
+done
+for copy in first second-copy; do
     sh "$work/$copy/Packaging/make_packages.sh" "$work/$copy/made" $what
 done
 for package in "$work"/first/made/*.deb; do
