@@ -1,9 +1,10 @@
-# What is installed, in five components:
+# What is installed, in six components:
 #
 #   runtime       shared libraries of the engine
 #   interface     the shared library for programs in any language
 #   development   headers, static libraries, and what find_package() and pkg-config read
 #   program       mekbom, its files, its manual page and the completion of its commands in shells
+#   python        the Python package, where Debian's interpreter looks for it; in none of Debian's packages
 #   docs          manuals
 #
 # Headers keep their folders below include/mekbom, since they name each other by them.

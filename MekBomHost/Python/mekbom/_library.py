@@ -58,11 +58,12 @@ _FUNCTIONS = {
 
 
 def _candidates() -> Iterator[str]:
-    """The library that MEKBOM_LIBRARY names, one beside the package, that of the system."""
+    """The library that MEKBOM_LIBRARY names, one installed with the package, that of the system."""
     if named := os.environ.get("MEKBOM_LIBRARY"):
         yield named
         return
-    yield from map(str, sorted(pathlib.Path(__file__).parent.glob("libmekbom.*")))
+    for parent in pathlib.Path(__file__).resolve().parents:
+        yield from map(str, parent.glob("libmekbom.so.1"))
     yield "libmekbom.so.1"
     if found := ctypes.util.find_library("mekbom"):
         yield found
