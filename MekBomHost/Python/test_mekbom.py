@@ -222,6 +222,13 @@ class FrameTest(unittest.TestCase):
         self.assertEqual([["A", 1, 1.5, "x", "1"], ["B", None, None, None, "2"], [None, 3, 2, "z", "3"]],
                          [line.values for line in mekbom.report(frame, template).lines])
 
+    def test_numbers_that_lie_apart_are_read(self):
+        rows = pandas.DataFrame([[1.5, 2.5], [3.5, 4.5]], columns=["Length", "Weight"])  # kept row by row
+        template = {"sections": [{"type": "kDetails", "tuples": [{"token": "%Length"}, {"token": "%Weight"}]}]}
+        for frame in rows, pandas.concat([rows, rows])[::3], rows.astype(">f8"), rows.astype("float16"):
+            with self.subTest(frame):
+                self.assertEqual(frame.values.tolist(), [line.values for line in mekbom.report(frame, template).lines])
+
     def test_two_columns_of_one_heading_are_refused(self):
         with self.assertRaisesRegex(ValueError, "same heading"):
             mekbom.report(pandas.DataFrame([[1, 2]], columns=["Name", "Name"]), BEAMS)

@@ -89,8 +89,8 @@ def _doubles_of(values: Any) -> Any:
     dtype = getattr(values, "dtype", None)
     kind = getattr(dtype, "kind", "O")
     if kind == "f" and dtype.itemsize <= 8 or kind in "iu" and len(values) > 0 and _are_exact(values):
-        return values.to_numpy(dtype="float64", na_value=math.nan) if hasattr(values, "to_numpy") else values.astype(
-            "float64")
+        doubles = values.to_numpy(dtype="float64", na_value=math.nan) if hasattr(values, "to_numpy") else values
+        return numpy.ascontiguousarray(doubles, dtype="float64")  # a column of a frame may be a part of rows
     return None
 
 
