@@ -56,6 +56,9 @@ class ReportTest(unittest.TestCase):
         self.assertEqual(("footer", "Total", [None, None, "87"]), (footer.role, footer.label, footer.shown))
         self.assertEqual(340.8, report.lines[-1].values[2])
         self.assertEqual(["2A1", "2A0"], report.handles(len(report.lines) - 1))
+        self.assertEqual(["2A1", "2A0"], report.handles(-1))
+        with self.assertRaises(IndexError):
+            report.handles(len(report.lines))
 
     def test_lines_are_a_sequence(self):
         lines = mekbom.report([{"Name": f"P{i}", "Weight": i} for i in range(10000)], BEAMS).lines
@@ -171,6 +174,15 @@ class MistakeTest(unittest.TestCase):
     def test_a_list_of_nothing_is_empty(self):
         self.assertEqual([], list(mekbom.report([], BEAMS).lines))
 
+    def test_what_are_no_rows_of_texts_and_numbers_is_refused(self):
+        for parts in [{1: "A"}], {"Name": ["A"]}, [{"Name": b"A"}]:
+            with self.assertRaises(TypeError):
+                mekbom.report(parts, BEAMS)
+        with self.assertRaisesRegex(mekbom.ReportError, "rows without a column"):
+            mekbom.report([{}, {}], BEAMS)
+        with self.assertRaisesRegex(ValueError, "zero"):
+            mekbom.report(ROWS, BEAMS).to_bytes("text\0")
+
     def test_check_finds_mistakes_without_parts(self):
         self.assertEqual([], [str(finding) for finding in mekbom.check("cutting-list")])
         findings = mekbom.check({"sections": [{"type": "kDetails", "tuples": [{"token": "%Nmae"}]}]})
@@ -229,6 +241,14 @@ class FrameTest(unittest.TestCase):
             with self.subTest(frame):
                 self.assertEqual(frame.values.tolist(), [line.values for line in mekbom.report(frame, template).lines])
 
+    def test_headings_of_a_frame_are_texts(self):
+        with self.assertRaisesRegex(TypeError, "0"):
+            mekbom.report(pandas.DataFrame([[1, 2]]), BEAMS)
+
+    def test_sparse_columns_are_read(self):
+        frame = pandas.DataFrame({"Name": ["A", "B"], "Weight": pandas.arrays.SparseArray([1.5, 0])})
+        self.assertEqual([["A", 1.5], ["B", 0]], values_of(frame))
+
     def test_two_columns_of_one_heading_are_refused(self):
         with self.assertRaisesRegex(ValueError, "same heading"):
             mekbom.report(pandas.DataFrame([[1, 2]], columns=["Name", "Name"]), BEAMS)
@@ -238,6 +258,11 @@ class FrameTest(unittest.TestCase):
         self.assertEqual(["Material", "Name", "Weight [kg]"], list(frame.columns))
         self.assertEqual([["S235", "IPE360", 87.0], ["S355", "HEA200", 253.8]], frame.values.tolist())
         self.assertEqual(340.8, frame["Weight [kg]"].sum())
+
+    def test_lines_behind_a_group_do_not_get_its_values(self):
+        rows = [{"Name": "A", "Material": "S355", "Weight": 1}, {"Name": "B", "Weight": 2}]
+        frame = mekbom.report(rows, BEAMS).to_dataframe()
+        self.assertEqual([[None, "B", 2.0], ["S355", "A", 1.0]], frame.values.tolist())
 
     def test_feet_and_inches_become_feet(self):
         template = {"sections": [{"type": "kDetails", "tuples": [{"token": "%Name"}, {"token": "%Length"}]}]}

@@ -5,6 +5,7 @@ import dataclasses
 import json
 import os
 import pathlib
+import tempfile
 from typing import Any, Callable, Iterable, Iterator, Mapping, Sequence, Union, overload
 
 from . import _library, _table
@@ -120,12 +121,13 @@ class Report:
         return json.loads(self.to_bytes("json"))["title"] or ""
 
     def handles(self, line: int) -> list[str | None]:
-        """The handles of the parts behind a line; of a total those that it counts."""
+        """The handles of the parts behind a line, counted as in lines; of a total those that it counts."""
+        line = range(len(self.lines))[line]
         return json.loads(self._session.text("mekbom_handles", line))["handles"]
 
     def to_bytes(self, format: str = "text") -> bytes:
         """The report as "text", "csv", "tsv", "xlsx", "html" or "json"."""
-        content = _library.library.mekbom_write(self._session.pointer, format.encode()).copy()
+        content = _library.library.mekbom_write(self._session.pointer, _table.encoded(format, "a format")).copy()
         if not content:
             raise ReportError([finding for finding in self._session.findings() if finding.severity == "error"])
         return content
@@ -138,12 +140,16 @@ class Report:
         path = pathlib.Path(file)
         ending = path.suffix[1:].lower()
         content = self.to_bytes(format or {"txt": "text", "htm": "html", "lst": "text"}.get(ending, ending))
-        beside = path.with_name(path.name + ".part")
-        try:
-            beside.write_bytes(content)
-            os.replace(beside, path)
-        finally:
-            beside.unlink(missing_ok=True)
+        path = path.resolve()
+        with tempfile.NamedTemporaryFile(dir=path.parent, prefix=path.name, delete=False) as beside:
+            try:
+                beside.write(content)
+                beside.close()
+                os.chmod(beside.name, _mode_for(path))
+                os.replace(beside.name, path)
+            except BaseException:
+                os.unlink(beside.name)
+                raise
 
     def to_dataframe(self):
         """The ordinary lines as a pandas DataFrame with a column for each of the report, headed with the unit of its values.
@@ -163,7 +169,9 @@ class Report:
                  value is not None}
         headers: list[list[Value]] = []
         for line in self.lines:
-            if line.role == "header":
+            if line.role in ("footer", "group"):
+                headers = headers[:line.level]
+            elif line.role == "header":
                 empty: list[Value] = [None] * len(self.columns)
                 headers = headers[:line.level] + [empty] * (line.level - len(headers)) + [line.values]
             elif line.role == "line":
@@ -200,9 +208,11 @@ class _Session:
 
     def add_file(self, function: str, file: str | os.PathLike) -> None:
         content = pathlib.Path(file).read_bytes()
-        self.call(function, os.fspath(file).encode(), content, len(content))
+        self.call(function, os.fsencode(file), content, len(content))
 
     def add_parts(self, parts: Parts) -> None:
+        if isinstance(parts, collections.abc.Mapping):
+            raise TypeError("parts are a list of rows; this is a single one, or columns")
         if isinstance(parts, (str, os.PathLike)):
             return self.add_file("mekbom_add_parts", parts)
         if hasattr(parts, "iloc") and hasattr(parts, "columns"):
@@ -264,7 +274,8 @@ def report(parts: Parts, template: Template = None, *, assemblies: str | os.Path
     """Makes a report.
 
     parts       a file (CSV, workbook, JSON), several files, rows as mappings from headings to values, or a DataFrame;
-                headings are those of parts lists: "Name", "Length [mm]", "%Weight"
+                headings are those of parts lists: "Name", "Length [mm]", "%Weight". Numbers are taken as they are: a
+                float32 of 0.1 is 0.10000000149011612
     template    a file, the name of a shipped list such as "cutting-list", a mapping with the keys of template files, or
                 None for the shipped list that suits the columns
     assemblies  a file with what parts have from the assembly that they name
@@ -299,7 +310,7 @@ def check(template: Template, parts: Parts = None, **options: Any) -> list[Findi
 
 def describe(what: str) -> Any:
     """What there is to choose from: "tokens", "kinds", "units", "formats", "schema" or "list-schema"."""
-    text = _Session().text("mekbom_describe", what.encode())
+    text = _Session().text("mekbom_describe", _table.encoded(what, "what is described"))
     if not text:
         raise ValueError(f'"{what}" is nothing that can be described')
     return json.loads(text)
@@ -325,6 +336,15 @@ def _heading_of_values(column: Column) -> str:
     if column.unit is None or column.shown_unit is None or column.unit == column.shown_unit:
         return column.heading
     return column.heading.replace(f"[{column.shown_unit}]", f"[{column.unit}]")
+
+
+def _mode_for(path: pathlib.Path) -> int:
+    """That of the file that is replaced, or what a new one gets."""
+    if path.exists():
+        return path.stat().st_mode
+    mask = os.umask(0)
+    os.umask(mask)
+    return 0o666 & ~mask
 
 
 def _unlike(headings: Iterable[str]) -> list[str]:

@@ -29,7 +29,7 @@ class Table:
             *(self._column(heading, values) for heading, values in columns.items()))
 
     def _column(self, heading: str, values: Sequence[Any]) -> _library.Column:
-        column = _library.Column(_encoded(heading, "a heading"))
+        column = _library.Column(encoded(heading, "a heading"))
         if (doubles := _doubles_of(values)) is not None:
             self._kept.append(doubles)
             column.numbers = doubles.ctypes.data_as(ctypes.POINTER(ctypes.c_double))
@@ -71,6 +71,7 @@ def of_rows(rows: Iterable[Mapping[str, Any]]) -> Table:
             column.extend([None] * (num_rows - len(column)))
             column.append(value)
         num_rows += 1
+    _require_texts(columns)
     for column in columns.values():
         column.extend([None] * (num_rows - len(column)))
     return Table(columns, num_rows)
@@ -78,17 +79,24 @@ def of_rows(rows: Iterable[Mapping[str, Any]]) -> Table:
 
 def of_frame(frame: Any) -> Table:
     """A pandas DataFrame; its index is no column."""
-    headings = [str(heading) for heading in frame.columns]
+    headings = list(frame.columns)
+    _require_texts(headings)
     if len(set(headings)) < len(headings):
         raise ValueError("two columns of the DataFrame have the same heading")
     return Table({heading: frame.iloc[:, index] for index, heading in enumerate(headings)}, len(frame))
+
+
+def _require_texts(headings: Iterable[Any]) -> None:
+    for heading in headings:
+        if not isinstance(heading, str):
+            raise TypeError(f"the heading {heading!r} is no text such as \"Name\" or \"Length [mm]\"")
 
 
 def _doubles_of(values: Any) -> Any:
     """An array of doubles for a column that numpy or pandas knows to be of numbers that these hold; None for others."""
     dtype = getattr(values, "dtype", None)
     kind = getattr(dtype, "kind", "O")
-    if kind == "f" and dtype.itemsize <= 8 or kind in "iu" and len(values) > 0 and _are_exact(values):
+    if kind == "f" and getattr(dtype, "itemsize", 0) in (2, 4, 8) or kind in "iu" and len(values) > 0 and _are_exact(values):
         doubles = values.to_numpy(dtype="float64", na_value=math.nan) if hasattr(values, "to_numpy") else values
         return numpy.ascontiguousarray(doubles, dtype="float64")  # a column of a frame may be a part of rows
     return None
@@ -121,12 +129,14 @@ def _split(heading: str, values: Iterable[Any]) -> tuple[list[bytes | None] | No
     for value in values:
         text, number = None, math.nan
         if isinstance(value, str):
-            text = _encoded(value, f'column "{heading}", row {len(texts) + 1}')
+            text = encoded(value, f'column "{heading}", row {len(texts) + 1}')
             has_texts = True
         elif not _is_nothing(value):
             if _is_double(value):
                 number = float(value)
                 has_floats = True
+            elif isinstance(value, (bytes, bytearray)):
+                raise TypeError(f'column "{heading}", row {len(texts) + 1}: bytes are no text; decode them')
             else:
                 text = str(value).encode()
                 has_texts = True
@@ -151,7 +161,7 @@ def _is_double(value: Any) -> bool:
     return not isinstance(value, numbers.Integral) or abs(value) <= LARGEST_EXACT
 
 
-def _encoded(text: str, where: str) -> bytes:
+def encoded(text: str, where: str) -> bytes:
     if "\0" in text:
         raise ValueError(f"{where}: a text has a zero character")
     try:

@@ -15,6 +15,8 @@ struct mekbom_session
 {
     mekbom::Session session;
     std::string answer;
+    bool isEvaluating = false; // and so perhaps calling the host, which must change nothing meanwhile
+    bool isToBeClosed = false;
 };
 
 namespace
@@ -35,11 +37,16 @@ std::string textOf(const char* pText)
     return pText == nullptr ? std::string() : std::string(pText);
 }
 
+bool isFree(const mekbom_session* pSession)
+{
+    return pSession != nullptr && !pSession->isEvaluating;
+}
+
 // What `action` answers; a Session throws only where no memory is left.
 template <class Action>
 mekbom_status statusOf(mekbom_session* pSession, const Action& action)
 {
-    if (pSession == nullptr)
+    if (!isFree(pSession))
         return MEKBOM_WRONG_USAGE;
     try
     {
@@ -63,11 +70,40 @@ mekbom_status doneOf(mekbom_session* pSession, const Action& action)
                     });
 }
 
+class Evaluating
+{
+public:
+    explicit Evaluating(mekbom_session& session) : m_session(session) { session.isEvaluating = true; }
+    Evaluating(const Evaluating&) = delete;
+    Evaluating& operator=(const Evaluating&) = delete;
+    ~Evaluating() { m_session.isEvaluating = false; }
+
+private:
+    mekbom_session& m_session;
+};
+
+// The same of what may call the host, who may close the session meanwhile.
+template <class Action>
+mekbom_status evaluationOf(mekbom_session* pSession, const Action& action)
+{
+    if (!isFree(pSession))
+        return MEKBOM_WRONG_USAGE;
+    const auto evaluate = [&](Session& session)
+    {
+        const Evaluating evaluating(*pSession);
+        return action(session);
+    };
+    const mekbom_status status = statusOf(pSession, evaluate);
+    if (pSession->isToBeClosed)
+        mekbom_close(pSession);
+    return status;
+}
+
 // The text that `action` makes, kept for the host until the next one.
 template <class Action>
 mekbom_text answerOf(mekbom_session* pSession, const Action& action)
 {
-    if (pSession == nullptr)
+    if (!isFree(pSession))
         return kNothing;
     try
     {
@@ -117,7 +153,10 @@ mekbom_session* mekbom_open(void)
 
 void mekbom_close(mekbom_session* session)
 {
-    delete session;
+    if (session != nullptr && session->isEvaluating)
+        session->isToBeClosed = true;
+    else
+        delete session;
 }
 
 mekbom_status mekbom_add_parts(mekbom_session* session, const char* name, const char* bytes, size_t size)
@@ -179,12 +218,12 @@ mekbom_status mekbom_set_progress(mekbom_session* session, mekbom_progress call,
 
 mekbom_status mekbom_evaluate(mekbom_session* session)
 {
-    return statusOf(session, [](Session& of) { return of.evaluate(); });
+    return evaluationOf(session, [](Session& of) { return of.evaluate(); });
 }
 
 mekbom_status mekbom_check(mekbom_session* session)
 {
-    return statusOf(session, [](Session& of) { return of.check(); });
+    return evaluationOf(session, [](Session& of) { return of.check(); });
 }
 
 mekbom_text mekbom_findings(mekbom_session* session)
@@ -205,7 +244,7 @@ mekbom_text mekbom_columns(mekbom_session* session)
 
 size_t mekbom_num_lines(mekbom_session* session)
 {
-    return session != nullptr && session->session.hasReport() ? session->session.numLines() : 0;
+    return isFree(session) && session->session.hasReport() ? session->session.numLines() : 0;
 }
 
 mekbom_text mekbom_lines(mekbom_session* session, size_t first, size_t num_lines)

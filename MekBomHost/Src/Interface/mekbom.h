@@ -16,6 +16,8 @@
  * No function opens a file, changes anything of the process, throws, or lets an exception through. Sessions are
  * independent of each other: each has its own parts, units and settings, and may be used by one thread at a time.
  *
+ * How a report is written follows the options that are set then; what it shows, those that it was made with.
+ *
  * A null session is answered with MEKBOM_WRONG_USAGE or with nothing.
  */
 #ifndef MEKBOM_H
@@ -82,7 +84,8 @@ extern "C"
     } mekbom_column;
 
     /* Adds rows. Those of the call before go on where name and headings are the same, so that rows may come in blocks, or one
-   by one. MEKBOM_INVALID_INPUT for a text that is not UTF-8 and for an infinite number; the rows before it stay. */
+   by one. MEKBOM_INVALID_INPUT for a text that is not UTF-8, for an infinite number, and for rows without columns; the rows
+   before it stay. */
     MEKBOM_CALL mekbom_status mekbom_add_rows(mekbom_session* session, const char* name, const mekbom_column* columns,
                                               size_t num_columns, size_t num_rows);
 
@@ -106,7 +109,9 @@ extern "C"
     MEKBOM_CALL mekbom_status mekbom_set_options(mekbom_session* session, const char* bytes, size_t size);
 
     /* Is called while a report is made, on its thread: in step 0 with the number of rows read, in step 1 with the number of
-   rows placed in the list. Returns 0 to go on, anything else to stop. A null call tells nobody. */
+   rows placed in the list. Returns 0 to go on, anything else to stop. A null call tells nobody.
+   Meanwhile the session answers MEKBOM_WRONG_USAGE, or nothing, to every call but mekbom_close(), which closes it when the
+   report has ended. Other sessions may be used. */
     typedef int (*mekbom_progress)(void* user, int step, size_t num_rows);
     MEKBOM_CALL mekbom_status mekbom_set_progress(mekbom_session* session, mekbom_progress call, void* user);
 

@@ -67,6 +67,9 @@ ExitStatus Session::addRows(const std::string& name, const std::vector<std::stri
     return keepFailure(
         [&]
         {
+            if (headings.empty() && numRows > 0)
+                throw Fault(kInvalidInput,
+                            Finding::saying(FindingCodes::kSessionIncomplete, name + " has rows without a column"));
             RowTable& table = tableOf(name, headings);
             Record record(headings.size());
             for (std::size_t row = 0; row < numRows; ++row)
@@ -125,7 +128,7 @@ ExitStatus Session::evaluate()
         return status;
     ReportRequest wanted = request();
     wanted.contents = { true, true };
-    ProgressCall progress(m_progress);
+    ProgressCall progress(m_progress); // nobody replaces it meanwhile
     if (m_progress)
         wanted.pProgress = &progress;
     m_pJob = std::make_unique<ReportJob>(std::move(wanted));

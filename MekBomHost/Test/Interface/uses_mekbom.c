@@ -143,6 +143,41 @@ static void stops_when_asked(void)
     mekbom_close(session);
 }
 
+/* What a host must not do while it is called, and closing, which waits. */
+static int meddle(void* user, int step, size_t num_rows)
+{
+    mekbom_session* const session = user;
+    (void)step;
+    (void)num_rows;
+    CHECK(mekbom_remove_parts(session) == MEKBOM_WRONG_USAGE);
+    CHECK(mekbom_add_parts(session, "parts.csv", parts, 5) == MEKBOM_WRONG_USAGE);
+    CHECK(mekbom_set_template(session, "list.json", "{", 1) == MEKBOM_WRONG_USAGE);
+    CHECK(mekbom_set_progress(session, NULL, NULL) == MEKBOM_WRONG_USAGE);
+    CHECK(mekbom_evaluate(session) == MEKBOM_WRONG_USAGE);
+    CHECK(mekbom_num_lines(session) == 0);
+    CHECK(is(mekbom_write(session, "csv"), ""));
+    return 0;
+}
+
+static int close_session(void* user, int step, size_t num_rows)
+{
+    (void)step;
+    (void)num_rows;
+    mekbom_close(user);
+    return 0;
+}
+
+static void lets_nobody_meddle_with_a_report(void)
+{
+    mekbom_session* session = session_of_list();
+    CHECK(mekbom_add_parts(session, "parts.csv", parts, strlen(parts)) == MEKBOM_DONE);
+    CHECK(mekbom_set_progress(session, meddle, session) == MEKBOM_DONE);
+    CHECK(mekbom_evaluate(session) == MEKBOM_DONE);
+    CHECK(mekbom_num_lines(session) == 3);
+    CHECK(mekbom_set_progress(session, close_session, session) == MEKBOM_DONE);
+    CHECK(mekbom_evaluate(session) == MEKBOM_DONE); /* and it is gone */
+}
+
 static void keeps_sessions_apart(void)
 {
     const char* const imperial = "{ \"units\": \"imperial\" }";
@@ -172,7 +207,8 @@ static void survives_misuse(void)
     CHECK(mekbom_add_parts(session, NULL, NULL, 5) == MEKBOM_DONE);
     CHECK(mekbom_set_template(session, NULL, NULL, 0) == MEKBOM_DONE);
     CHECK(mekbom_evaluate(session) == MEKBOM_INVALID_INPUT);
-    CHECK(mekbom_add_rows(session, NULL, NULL, 0, 7) == MEKBOM_DONE);
+    CHECK(mekbom_add_rows(session, NULL, NULL, 0, 7) == MEKBOM_INVALID_INPUT);
+    CHECK(mekbom_add_rows(session, NULL, NULL, 0, 0) == MEKBOM_DONE);
     CHECK(is(mekbom_write(session, NULL), ""));
     CHECK(is(mekbom_describe(session, NULL), ""));
     CHECK(is(mekbom_describe(session, "colours"), ""));
@@ -188,6 +224,7 @@ int main(void)
     makes_a_list_of_rows();
     tells_what_is_wrong();
     stops_when_asked();
+    lets_nobody_meddle_with_a_report();
     keeps_sessions_apart();
     survives_misuse();
     return failures == 0 ? 0 : 1;

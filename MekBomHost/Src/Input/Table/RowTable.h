@@ -32,6 +32,7 @@ public:
 
     // Appends a row with a cell for each column: texts, numbers or nothing. Throws a Fault of status kInvalidInput, and
     // leaves the table as it was, for a text that is not UTF-8 or has a zero byte, and for a number that is not finite.
+    // Where no memory is left the table is as it was, too.
     void add(const Record& row);
 
     // A cell, good until a row is added. Rows and columns count from 0.
@@ -51,6 +52,7 @@ private:
     };
 
     void require(const RecordCell& cell, std::size_t column) const;
+    void append(const RecordCell& cell);
 
     std::string m_name;
     std::vector<std::string> m_headings;
