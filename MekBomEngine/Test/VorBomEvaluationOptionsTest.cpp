@@ -87,8 +87,8 @@ TEST(VorBomEvaluationOptionsTest, AsTheyAreMadeTheyChangeNothing)
 TEST(VorBomEvaluationOptionsTest, EqualLinesAreMergedCountedOrKept)
 {
     const std::wstring rest = L"[ kGroupHeader ][%GroupBy:%Material:]\n"
-                           L" [ kDetails     ][%Num:P3][%Weight:1]\n"
-                           L"[ kGroupFooter ][%SumBy:%Weight:1]";
+                              L" [ kDetails     ][%Num:P3][%Weight:1]\n"
+                              L"[ kGroupFooter ][%SumBy:%Weight:1]";
     const std::wstring header = L"[ kGroupHeader ][%GroupBy:%Material:]\n";
     const std::wstring first = L" [ kDetails     ][%Num:P1][%Weight:2.5]\n";
     const std::wstring second = L" [ kDetails     ][%Num:P2][%Weight:4]\n";
